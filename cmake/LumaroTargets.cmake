@@ -1,0 +1,35 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What every target of the house is compiled with, and one static library a folder.
+
+function(lumaro_target target)
+  target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -ffunction-sections -fdata-sections)
+  target_link_options(${target} PRIVATE -Wl,--gc-sections -Wl,--as-needed -Wl,-O1)
+  if(LUMARO_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(LUMARO_SANITIZE)
+    # The null-dereference analysis reads the checks that the sanitizers add as code of ours.
+    target_compile_options(${target} PRIVATE -fsanitize=${LUMARO_SANITIZE} -fno-omit-frame-pointer
+      -fno-sanitize-recover=undefined -Wno-null-dereference)
+    target_link_options(${target} PRIVATE -fsanitize=${LUMARO_SANITIZE})
+  endif()
+endfunction()
+
+# lumaro_folder(name directory LIBRARIES ... PRIVATE ...): a static library of the sources directly in the directory.
+function(lumaro_folder name directory)
+  cmake_parse_arguments(ARG "" "" "LIBRARIES;PRIVATE" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${directory}/*.cpp)
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${directory}/*.h)
+  if(NOT sources)
+    add_library(${name} INTERFACE)
+    target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} INTERFACE ${ARG_LIBRARIES} ${ARG_PRIVATE})
+    return()
+  endif()
+  add_library(${name} STATIC ${sources} ${headers})
+  lumaro_target(${name})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_LIBRARIES} PRIVATE ${ARG_PRIVATE})
+endfunction()

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QVariant>
+
+#include <optional>
+
+namespace platform {
+
+/// Property lists (Apple's XML and binary forms, read and written through libplist), as Qt's values:
+/// dictionary = QVariantMap, array = QVariantList, string = QString, boolean = bool, integer = qlonglong,
+/// real = double, date = QDateTime (UTC), data = QByteArray. A double written and read back is the same double.
+namespace propertyList {
+
+/// Reads either form; nothing when the bytes are no property list.
+std::optional<QVariant> parse(const QByteArray& bytes);
+
+/// Reads a file whose root is a dictionary; nothing when it is missing, unreadable, damaged or of another root.
+std::optional<QVariantMap> readDictionary(const QString& path);
+
+/// The XML form. A float is written as the shortest text that reads back as the same float.
+QByteArray toXml(const QVariantMap& dictionary);
+
+} // namespace propertyList
+
+} // namespace platform

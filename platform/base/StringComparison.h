@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+/// Compares two strings without regard to case, code unit by code unit after case folding (no normalisation, no
+/// locale). With `numerically`, runs of ASCII digits compare by their value, whatever their length ("a9" before "a10").
+/// Answers -1, 0 or 1.
+int compareCaseInsensitively(const QString& left, const QString& right, bool numerically);
+
+} // namespace platform

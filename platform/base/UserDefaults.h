@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/base/RunLoop.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <memory>
+
+namespace platform {
+
+/// Where the user's settings lie between runs. Main thread.
+class SettingsStorage {
+public:
+    SettingsStorage() = default;
+    SettingsStorage(const SettingsStorage&) = delete;
+    SettingsStorage& operator=(const SettingsStorage&) = delete;
+    virtual ~SettingsStorage() = default;
+
+    /// What was stored last; an empty map when nothing was.
+    virtual QVariantMap load() = 0;
+    /// Stores the whole domain; after it returned true, load() gives it also after a crash. False when it could not
+    /// be stored (what was stored before is then untouched, and a message was logged).
+    virtual bool store(const QVariantMap& domain) = 0;
+};
+
+/// The layered key-value store of settings. A read is answered by the first of these that holds the key: this run's
+/// overrides (never written), the user's persistent domain, the registered defaults (never written). Reads of a
+/// missing key give the zero value: false, 0, 0.0, an empty value. Main thread.
+class UserDefaults {
+public:
+    explicit UserDefaults(std::unique_ptr<SettingsStorage> storage);
+    ~UserDefaults();
+
+    /// The process's store. One must have been installed with setStandard before the first call.
+    static UserDefaults& standard();
+    static void setStandard(UserDefaults* defaults);
+
+    /// Adds to the registered layer; a key registered again takes the new value.
+    void registerDefaults(const QVariantMap& defaults);
+    /// Adds to this run's overrides, which lie above everything. Setting the key later with setObject takes its
+    /// override away, so that a choice made in this run shows at once and is kept.
+    void setOverride(const QString& key, const QVariant& value);
+
+    QVariant objectForKey(const QString& key) const;
+    /// True for a boolean or number that is not zero, and for the texts "YES", "true" (any case) and numbers in text.
+    bool boolForKey(const QString& key) const;
+    /// Numbers are truncated towards zero and clamped to 32 bits; texts are read as numbers.
+    std::int32_t integerForKey(const QString& key) const;
+    float floatForKey(const QString& key) const;
+    /// The value when it is a string, else a null string.
+    QString stringForKey(const QString& key) const;
+    QVariantMap dictionaryForKey(const QString& key) const;
+    QVariantList arrayForKey(const QString& key) const;
+    QStringList stringArrayForKey(const QString& key) const;
+    /// The value when it is a date, else an invalid date.
+    QDateTime dateForKey(const QString& key) const;
+
+    /// Sets the user's value. An invalid variant removes it.
+    void setObject(const QVariant& value, const QString& key);
+    void setBool(bool value, const QString& key) { setObject(QVariant(value), key); }
+    void setInteger(std::int32_t value, const QString& key) { setObject(QVariant(value), key); }
+    void setFloat(float value, const QString& key) { setObject(QVariant(value), key); }
+    /// Deletes the user's value, so that the registered value shows again.
+    void removeObjectForKey(const QString& key);
+
+    /// Whether the user's domain (or an override) holds a value of its own for the key.
+    bool hasStoredValue(const QString& key) const;
+    /// The user's domain as it would be stored.
+    const QVariantMap& persistentDomain() const { return _domain; }
+
+    /// Writes the user's domain out if it changed since. Without it a change is written by itself about a second
+    /// after it was made. False when it could not be written; the next change or call tries again.
+    bool synchronize();
+
+private:
+    void scheduleWrite();
+
+    std::unique_ptr<SettingsStorage> _storage;
+    QVariantMap _overrides;
+    QVariantMap _domain;
+    QVariantMap _registered;
+    std::unique_ptr<Timer> _writeTimer;
+    bool _changed = false;
+};
+
+} // namespace platform

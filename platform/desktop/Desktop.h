@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <cstdint>
+#include <vector>
+
+namespace platform {
+
+/// A screen: its frame in screen coordinates (origin bottom left of the main screen, y up, points), and whether it is one.
+struct Screen {
+    QRectF frame;
+    bool isScreen = true;
+    std::uint32_t number = 0;
+    QString name;
+    friend bool operator==(const Screen&, const Screen&) = default;
+};
+
+/// What the desktop around the application offers. Main thread.
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    virtual ~Desktop() = default;
+
+    /// The process's desktop. One must have been installed with setShared before the first call.
+    static Desktop& shared();
+    static void setShared(Desktop* desktop);
+
+    struct Alert {
+        QString title;
+        QString message;
+        QString defaultButton;
+        /// Empty for none.
+        QString alternateButton;
+        QString otherButton;
+    };
+    /// Shows a modal alert above everything and answers 1 for the default button, 0 for the alternate, -1 for the other one. Closing it
+    /// counts as the other button where there is one, else as the alternate, else as the default.
+    virtual int runAlert(const Alert& alert) = 0;
+
+    /// A modal panel to choose files and folders; empty when it was cancelled. `extensions` without dots limits the files
+    /// offered; an empty `folder` lets the panel choose.
+    virtual QStringList runOpenPanel(const QStringList& extensions, const QString& folder) = 0;
+
+    virtual void beep() = 0;
+
+    /// The screens, the main one first.
+    virtual std::vector<Screen> screens() const = 0;
+    /// The brightness of a screen, 0 to 1; positive infinity when it cannot be read.
+    virtual float brightness(const Screen& screen) const = 0;
+    virtual void setBrightness(const Screen& screen, float brightness) = 0;
+
+    /// Opens an address with the program that the user has for it; false when none could be started.
+    virtual bool openURL(const QUrl& url) = 0;
+
+    /// The modifier keys held now, in the masks of platform::modifier.
+    virtual std::uint32_t modifierFlags() const = 0;
+
+    /// The user watches: keeps screen saver and sleep away while `active` is set (once per playback, not per frame).
+    virtual void setUserActive(bool active) = 0;
+
+    /// Asks the application to end; the answer comes through the application's delegate.
+    virtual void terminate() = 0;
+    /// The answer to a termination that was put off.
+    virtual void replyToApplicationShouldTerminate(bool terminate) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+
+#include <optional>
+
+class QPainter;
+
+namespace platform {
+
+/// The controller bar: play or pause, a mute button with a volume slider, and a time slider. It lays itself out in a width,
+/// draws a state, and turns presses into commands; it keeps no state but which control is pressed. Coordinates: origin top
+/// left of the bar, y down, points.
+class ControllerBar {
+public:
+    struct State {
+        bool playing = false;
+        bool muted = false;
+        /// 0 to 1 of the full volume; louder shows as 1.
+        double volume = 1.0;
+        /// 0 to 1 of the duration.
+        double position = 0;
+        friend bool operator==(const State&, const State&) = default;
+    };
+    struct Command {
+        enum class Kind { none, togglePlay, toggleMute, setVolume, seek };
+        Kind kind = Kind::none;
+        /// The new volume or position, 0 to 1.
+        double value = 0;
+    };
+
+    void draw(QPainter& painter, const QSizeF& size, const State& state) const;
+    Command press(QPointF point, const QSizeF& size);
+    Command drag(QPointF point, const QSizeF& size);
+    void release();
+
+    /// Where the controls stand in a bar of a size.
+    static QRectF playButton(const QSizeF& size);
+    static QRectF muteButton(const QSizeF& size);
+    static QRectF volumeSlider(const QSizeF& size);
+    static QRectF timeSlider(const QSizeF& size);
+
+private:
+    Command::Kind _pressed = Command::Kind::none;
+};
+
+} // namespace platform

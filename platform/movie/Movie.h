@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+#include <QSizeF>
+#include <QUrl>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace platform {
+
+class MoviePlayer;
+
+/// What opening a movie found out, without decoding a picture.
+struct MovieInfo {
+    QUrl url;
+    /// Units a second of every time value of the movie: the video track's own where the duration fits 31 bits in it, else a
+    /// smaller one; 600 without video.
+    std::int32_t timeScale = 600;
+    /// In units of timeScale; 0 when it is not known (a live stream).
+    std::int32_t duration = 0;
+    bool hasVideo = false;
+    bool hasAudio = false;
+    /// The size of the displayed picture in square pixels: pixel shape and rotation applied. Empty without video.
+    QSizeF naturalSize;
+    /// Pictures in the video track: the container's count, else duration times average rate, rounded; 0 without video.
+    std::uint32_t videoSampleCount = 0;
+    /// Units of timeScale that one picture stays on average; 0 when not known.
+    double frameDuration = 0;
+};
+
+/// The codes of failures, as the alerts and the log show them.
+namespace movieError {
+inline constexpr std::int16_t none = 0;
+inline constexpr std::int16_t fileNotFound = -43;
+inline constexpr std::int16_t permissionDenied = -5000;
+inline constexpr std::int16_t couldNotOpen = -2000;
+/// No stream of the file is one that can be played.
+inline constexpr std::int16_t invalidMovie = -2008 - 1; // distinct from cannotPlay, for which the user is asked
+/// The movie opened, but nothing here decodes its picture: it may be kept for its sound.
+inline constexpr std::int16_t cannotPlay = -2008;
+inline constexpr std::int16_t timedOut = -5016;
+inline constexpr std::int16_t noMediaHandler = -2003;
+} // namespace movieError
+
+/// One open movie: its facts, and the time at which it stands. While the movie is the one loaded in the player its time and rate
+/// are the player's; else it stands still at the time it was left at. Main thread.
+class Movie {
+public:
+    Movie(MovieInfo info, MoviePlayer& player);
+    Movie(const Movie&) = delete;
+    Movie& operator=(const Movie&) = delete;
+    /// Unloads itself from the player if it is loaded there.
+    virtual ~Movie();
+
+    const QUrl& url() const { return _info.url; }
+    const MovieInfo& info() const { return _info; }
+
+    std::int32_t time() const;
+    std::int32_t timeScale() const { return _info.timeScale; }
+    std::int32_t duration() const { return _info.duration; }
+    /// 16.16 fixed point; 0 while paused, 0x10000 at normal speed.
+    std::int32_t rate() const;
+
+    /// Moves to a time (clamped into the movie) and shows its picture as soon as it is decoded; time() answers the
+    /// new time at once. Answers 0 or the error. Does not count as a time jump for callWhenTimeJumps.
+    std::int16_t setTimeValue(std::int32_t time);
+
+    /// The time of the next picture after `from` in the direction of the rate, or -1 when there is none (no video, or the end).
+    std::int32_t nextInterestingTime(std::int32_t from, std::int32_t rate) const;
+
+    /// True while the movie's end is only the end of what has arrived so far.
+    bool needsTimeTable() const { return _needsTimeTable; }
+    void setNeedsTimeTable(bool needs) { _needsTimeTable = needs; }
+
+    /// Three one-shot callbacks, delivered on the main thread from the event loop or from a call that moves the time. Arming again
+    /// replaces what was armed. They act only while the movie is loaded in the player.
+    /// The movie came to its end while moving forward.
+    void callWhenStopped(std::function<void()> callback);
+    /// The time passed `time`, in either direction. With -1, when the time next moves on noticeably (a quarter of a second):
+    /// movies without pictures have no next one.
+    void callWhenTimePasses(std::int32_t time, std::function<void()> callback);
+    /// The time changed other than by playing.
+    void callWhenTimeJumps(std::function<void()> callback);
+    void cancelStopped() { _stopped = nullptr; }
+    void cancelTimePasses() { _timePasses = nullptr; }
+    void cancelTimeJumps() { _timeJumps = nullptr; }
+
+    /// Called by the player.
+    void playerShowedFrame(std::int32_t time);
+    void playerJumped();
+    void playerReachedEnd();
+    void playerUnloaded(std::int32_t time) { _restingTime = time; }
+
+private:
+    MovieInfo _info;
+    MoviePlayer& _player;
+    std::int32_t _restingTime = 0;
+    bool _needsTimeTable = false;
+    std::function<void()> _stopped;
+    std::function<void()> _timePasses;
+    std::int32_t _timeToPass = -1;
+    std::int32_t _timeWhenArmed = 0;
+    std::function<void()> _timeJumps;
+};
+
+} // namespace platform

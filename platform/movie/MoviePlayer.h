@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace platform {
+
+class Movie;
+class PictureLayer;
+
+/// The process's one player: it plays the movie loaded in it. Times are in the loaded movie's time scale. Main thread; what it reports comes
+/// on the main thread too.
+class MoviePlayer {
+public:
+    MoviePlayer() = default;
+    MoviePlayer(const MoviePlayer&) = delete;
+    MoviePlayer& operator=(const MoviePlayer&) = delete;
+    virtual ~MoviePlayer() = default;
+
+    /// Who shows the picture and the controls.
+    class Observer {
+    public:
+        virtual ~Observer() = default;
+        /// A new picture is ready to be rendered.
+        virtual void playerPictureChanged() = 0;
+        /// Time, playing or volume changed as a control bar shows them.
+        virtual void playerStateChanged() = 0;
+    };
+    virtual void setObserver(Observer* observer) = 0;
+
+    /// Loads a movie, paused at the time it stands at, in place of the one loaded before (which is told its last time by
+    /// Movie::playerUnloaded). Null unloads. Volume and mute stay.
+    virtual void load(Movie* movie) = 0;
+    virtual Movie* loaded() const = 0;
+
+    /// Starts at normal speed; stops. Starting at the end begins again from the start.
+    virtual void play() = 0;
+    virtual void pause() = 0;
+    virtual bool isPlaying() const = 0;
+    /// 0 while paused. A rate that is not 0 plays; 0 pauses. Backwards, the movie stops at its beginning.
+    virtual float rate() const = 0;
+    virtual void setRate(float rate) = 0;
+
+    /// The time asked for last while a move to it is still under way.
+    virtual std::int32_t time() const = 0;
+    /// Whether the player reports a time jump to the movie when it has moved.
+    enum class JumpReport { silent, reported };
+    /// Moves to a time within the movie: the keyframe before it is shown at once, then the exact picture.
+    virtual void seek(std::int32_t time, JumpReport report) = 0;
+    /// One picture forward (+1) or back (-1); pauses.
+    virtual void step(int direction) = 0;
+
+    /// Linear, 1.0 is full; kept within 0 to 3.
+    virtual float volume() const = 0;
+    virtual void setVolume(float volume) = 0;
+    virtual bool isMuted() const = 0;
+    virtual void setMuted(bool muted) = 0;
+
+    virtual PictureLayer* pictureLayer() = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/Movie.h"
+
+#include <QUrl>
+
+#include <cstdint>
+#include <optional>
+
+namespace platform {
+
+class MoviePlayer;
+
+/// Opens movies and owns the player. Only the composition names the real class. Main thread.
+class MovieToolkit {
+public:
+    MovieToolkit() = default;
+    MovieToolkit(const MovieToolkit&) = delete;
+    MovieToolkit& operator=(const MovieToolkit&) = delete;
+    virtual ~MovieToolkit() = default;
+
+    /// The process's toolkit. One must have been installed with setShared before the first call.
+    static MovieToolkit& shared();
+    static void setShared(MovieToolkit* toolkit);
+
+    /// Starts and ends the toolkit; the player exists in between.
+    virtual void enter() = 0;
+    virtual void exit() = 0;
+
+    /// Opens a movie: a file, or a URL of a scheme that can be read. Nothing when it cannot be played; stickyError() says
+    /// why. A movie may open with an error left behind (movieError::cannotPlay). Local files are opened in about a millisecond;
+    /// for a network URL the event loop runs meanwhile, and it gives up after 10 seconds.
+    virtual std::optional<MovieInfo> open(const QUrl& url) = 0;
+    /// The last error, until it is cleared.
+    virtual std::int16_t stickyError() const = 0;
+    virtual void clearStickyError() = 0;
+
+    virtual MoviePlayer& player() = 0;
+};
+
+} // namespace platform

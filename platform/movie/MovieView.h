@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/ControllerBar.h"
+#include "platform/movie/MoviePlayer.h"
+#include "platform/window/View.h"
+
+#include <QSizeF>
+
+#include <memory>
+
+namespace platform {
+
+class Movie;
+
+/// The view that shows the player's movie, with an optional controller bar of 16 points below the picture. The playing commands
+/// act on the player; without a movie they do nothing. Main thread.
+class MovieView : public View, private MoviePlayer::Observer {
+public:
+    /// The height of the controller bar, points.
+    static constexpr double controllerBarHeight = 16.0;
+
+    explicit MovieView(MoviePlayer& player);
+    ~MovieView() override;
+
+    const std::shared_ptr<Movie>& movieObject() const { return _movie; }
+    /// Loads the movie into the player, paused; none unloads.
+    void setMovieObject(std::shared_ptr<Movie> movie);
+
+    virtual void start();
+    virtual void stop();
+    bool isPlaying() const;
+    float rate() const;
+    void setRate(float rate);
+    float volume() const;
+    virtual void setVolume(float volume);
+    bool isMuted() const;
+    void setMuted(bool muted);
+    /// These move the time and are reported as time jumps.
+    void gotoBeginning();
+    void gotoEnd();
+    void stepForward();
+    void stepBack();
+
+    bool isControllerVisible() const { return _controllerVisible; }
+    /// With adjustingSize the view's height grows or shrinks by the bar's, the picture keeping its size.
+    void showController(bool visible, bool adjustingSize);
+
+    /// The natural size times m, with the bar's 16 points added whether it is shown or not. A movie without a picture has the size
+    /// (0, 16).
+    QSizeF platformSizeForMagnification(float m) const;
+
+    /// Space plays or pauses, the arrows step one picture. True when the key was one of these and there is a movie.
+    bool handleMovieKey(const KeyEvent& event);
+
+    void draw(QPainter& painter, const QRectF& dirty) override;
+    PictureLayer* pictureLayer() override;
+    QRectF pictureRect() const override;
+    bool mouseDown(const MouseEvent& event) override;
+    bool mouseDragged(const MouseEvent& event) override;
+    bool mouseUp(const MouseEvent& event) override;
+
+protected:
+    MoviePlayer& player() const { return _player; }
+    /// True while a press in the controller bar is being followed.
+    bool isTrackingController() const { return _tracking; }
+
+private:
+    void playerPictureChanged() override;
+    void playerStateChanged() override;
+    QRectF controllerRect() const;
+    void performController(const ControllerBar::Command& command);
+    ControllerBar::State controllerState() const;
+
+    MoviePlayer& _player;
+    std::shared_ptr<Movie> _movie;
+    ControllerBar _bar;
+    bool _controllerVisible = true;
+    bool _tracking = false;
+};
+
+} // namespace platform

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace platform {
+
+class Menu;
+
+/// One entry of a menu. `action` names the operation that its target performs ("changeSize"); the tag is the operation's argument.
+struct MenuItem {
+    QString title;
+    QString action;
+    int tag = 0;
+    bool separator = false;
+    bool enabled = true;
+    bool state = false; // the check mark
+    /// The shortcut as Qt's portable text ("Ctrl+O"); empty for none. It acts while no menu is open, too.
+    QString shortcut;
+    /// A key shown beside the item that the key map handles, not the menu ("Space").
+    QString keyHint;
+    std::unique_ptr<Menu> submenu;
+};
+
+/// A menu as a model: what the items say and what they do, without the window system. Presenters build the visible menu when it opens. Main
+/// thread.
+class Menu {
+public:
+    explicit Menu(QString title = QString());
+
+    const QString& title() const { return _title; }
+    int count() const { return static_cast<int>(_items.size()); }
+    MenuItem& itemAt(int index) { return *_items[static_cast<std::size_t>(index)]; }
+    const MenuItem& itemAt(int index) const { return *_items[static_cast<std::size_t>(index)]; }
+    /// The first item with the tag, or null.
+    MenuItem* itemWithTag(int tag);
+
+    MenuItem& addItem(const QString& title, const QString& action, int tag);
+    void addSeparator();
+    Menu& addSubmenu(const QString& title);
+    void removeItemAt(int index);
+    /// Removes every item.
+    void removeAllItems();
+    /// Keeps the first `count` items; a menu of that many or fewer is left alone.
+    void removeAllItemsBut(int count);
+
+private:
+    QString _title;
+    std::vector<std::unique_ptr<MenuItem>> _items;
+};
+
+/// Who performs the items' actions and says which are enabled.
+class MenuTarget {
+public:
+    virtual ~MenuTarget() = default;
+    /// Called before an item is shown or its shortcut acts: may change state and title, and answers whether it is enabled.
+    virtual bool validateMenuItem(MenuItem& item) = 0;
+    virtual void performMenuItem(const MenuItem& item) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+#include <cstddef>
+
+namespace platform {
+
+/// A picture that renders itself straight into a window host's target, below everything that is drawn over it.
+/// All rectangles are whole device pixels of the target, origin top left, y down. Main thread.
+class PictureLayer {
+public:
+    PictureLayer() = default;
+    PictureLayer(const PictureLayer&) = delete;
+    PictureLayer& operator=(const PictureLayer&) = delete;
+    virtual ~PictureLayer() = default;
+
+    /// Puts the part `visible` of the picture, scaled so that the whole would fill `picture`, into `pixels`: the address of the target's
+    /// top left pixel, 32 bits each in the order blue, green, red, unused, `stride` bytes a line. `visible` lies within both `picture` and
+    /// the target. False when there is no picture: the host then fills `visible` with black.
+    virtual bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) = 0;
+
+    /// The OpenGL context that renderGL will run in is current and stays for the life of the host. False when
+    /// the layer cannot render with it; the host then goes on with renderPixels.
+    using GetProcAddress = void* (*)(const char* name);
+    virtual bool beginGL(GetProcAddress getProcAddress) = 0;
+    /// The same context is current and is about to end.
+    virtual void endGL() = 0;
+    /// The picture into the framebuffer object `framebuffer` of `target` pixels. The state of OpenGL is left undefined.
+    virtual bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) = 0;
+
+    /// A new picture is due since the last render. While the window is not shown the host calls skip() instead.
+    virtual void skip() = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/Movie.h"
+#include "subtitles/QVSubtitles.h"
+
+#include <QRectF>
+#include <QUrl>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class QVMovie;
+
+/// The movie played to its end.
+struct QVMovieCompleteNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
+/// A picture is due, the time jumped, or setTime() moved it.
+struct QVMovieInterestingTimeNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
+/// One open movie as the player sees it: times, frame count and rate, ordering, and the subtitle tracks found beside it. Times are counts of units
+/// of the movie's time scale. Main thread.
+class QVMovie final : public platform::Movie, public SubtitleOwner, public std::enable_shared_from_this<QVMovie> {
+public:
+    /// Opens a movie through the shared toolkit; none when it cannot be opened. The toolkit's sticky error stays for the caller to read. Finds
+    /// subtitle files when QVAutoloadSubtitles is on.
+    static std::shared_ptr<QVMovie> movieWithURL(const QUrl& url);
+    static std::shared_ptr<QVMovie> movieWithFilePath(const QString& path);
+    /// From what the toolkit found; neither logs nor looks for subtitles.
+    QVMovie(platform::MovieInfo info, platform::MoviePlayer& player);
+    ~QVMovie() override;
+
+    std::int32_t time() const override { return platform::Movie::time(); }
+    std::int32_t timeScale() const override { return platform::Movie::timeScale(); }
+    /// Whole seconds, truncated.
+    std::int32_t timeInSeconds() const;
+    std::int32_t durationInSeconds() const;
+    /// The time of the next picture, or -1.
+    std::int32_t nextFrameTime() const;
+    /// Pictures in the video track; 0 without one.
+    std::uint32_t frameCount();
+    /// Pictures a second: the count by the whole seconds; infinite or not a number for a movie of less than a second.
+    float frameRate() override;
+    QRectF naturalBounds() const;
+    /// The natural bounds within the main window, origin bottom left.
+    QRectF naturalFrame() const;
+    const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const { return _subtitles; }
+    QString description() const { return url().toString(); }
+
+    /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
+    void setTime(std::int32_t time);
+
+    /// Orders movies for the playlist by their paths, or file names: -1, 0 or 1.
+    int compare(const QVMovie& other) const;
+
+    void fetchSubtitleFiles();
+    void addSubtitleFile(const QString& path);
+
+    /// Arms the three callbacks anew; ends them.
+    void resetCallbacks();
+    void cancelCallbacks();
+
+private:
+    void _scheduleStopCallback();
+    void _scheduleInterestingTimeCallback();
+    void _scheduleTimeJumpCallback();
+    void movieComplete();
+    void interestingTime();
+    void timeJump();
+
+    std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
+    std::uint32_t _frameCount = 0;
+    float _frameRate = 0;
+};

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/settings/QVPreferencesChangedNotification.h"
+#include "platform/base/NotificationCenter.h"
+#include "platform/base/RunLoop.h"
+#include "platform/movie/MovieView.h"
+
+#include <cstdint>
+#include <memory>
+
+class QVMovie;
+class QVMovieView;
+struct QVPlaylistMovieChangedNotification;
+
+/// The picture's size or place changed.
+struct QVMovieViewSizeChangedNotification {
+    QVMovieView* view;
+};
+
+struct QVMovieVolumeChangedNotification {
+    QVMovieView* view;
+};
+
+/// The codes of QVDefaultMovieSize and of the movie menu's size items.
+namespace movieSize {
+inline constexpr std::int32_t smaller = -3;
+inline constexpr std::int32_t bigger = -2;
+inline constexpr std::int32_t half = 0;
+inline constexpr std::int32_t normal = 1;
+inline constexpr std::int32_t twice = 2;
+inline constexpr std::int32_t fitScreen = 3;
+inline constexpr std::int32_t fitWidth = 4;
+inline constexpr std::int32_t fitHeight = 5;
+inline constexpr std::int32_t custom = 6;
+} // namespace movieSize
+
+/// The edges towards which the picture is panned; a corner sets two.
+namespace panDirection {
+inline constexpr int left = 1;
+inline constexpr int right = 2;
+inline constexpr int top = 16;
+inline constexpr int bottom = 32;
+} // namespace panDirection
+
+/// Takes what is dragged onto the movie (the application controller).
+class DropTarget {
+public:
+    virtual ~DropTarget() = default;
+    virtual std::uint32_t draggingEntered(const platform::DraggingInfo& info) = 0;
+    virtual std::uint32_t draggingUpdated(const platform::DraggingInfo& info) = 0;
+    virtual bool performDragOperation(const platform::DraggingInfo& info) = 0;
+};
+
+/// The view that shows the current movie: size codes, magnification, jumps, panning, volume. Frame and sizes are points. Main thread.
+class QVMovieView final : public platform::MovieView {
+public:
+    explicit QVMovieView(platform::MoviePlayer& player);
+    ~QVMovieView() override;
+
+    /// The movie shown, or none.
+    std::shared_ptr<QVMovie> movie() const;
+    void setMovie(std::shared_ptr<QVMovie> movie);
+
+    std::int32_t movieSize() const { return _size; }
+    enum class Recalculation { ifChanged, forced };
+    /// Takes a size code (namespace movieSize; unknown ones count as fitScreen), lays the view out centred in the window and keeps the code in the settings.
+    void setMovieSize(std::int32_t code, Recalculation recalculation);
+    /// The frame's width by the natural width; 0 without a movie.
+    float magnification() const;
+    float aspectRatio() const;
+    QSizeF sizeForFitScreen(std::int32_t mode) const;
+    QSizeF sizeForMagnification(float m) const;
+
+    /// In the movie's time units; 0 without a movie.
+    std::int32_t time() const;
+    void setTime(std::int32_t time);
+    /// Moves by direction times seconds, stopping at the ends.
+    void jump(std::int32_t direction, double seconds);
+    void start() override;
+    void stop() override;
+    /// Around losing key status: keeps whether and how fast the movie plays, and puts it back.
+    void saveMovieState();
+    void restoreMovieState();
+
+    unsigned getControllerHeight() const { return 16; }
+    void toggleController();
+    void setVolume(float volume) override;
+    QString volumeInfoAsString() const;
+    QString mutedInfoAsString() const;
+
+    /// Pans by pointer deltas (dy grows downwards) as far as no gap opens at the window's edges; whether anything moved.
+    bool scroll(float dx, float dy);
+    void startAutoscroll(int direction);
+    void stopAutoscroll(int direction);
+
+    void setDropTarget(DropTarget* target) { _dropTarget = target; }
+
+    bool keyDown(const platform::KeyEvent& event) override;
+    bool keyUp(const platform::KeyEvent& event) override;
+    bool mouseDragged(const platform::MouseEvent& event) override;
+    std::uint32_t draggingEntered(const platform::DraggingInfo& info) override;
+    std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
+    bool performDragOperation(const platform::DraggingInfo& info) override;
+
+private:
+    void autoscroll();
+    void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
+    void preferencesChanged(const QVPreferencesChangedNotification& notification);
+
+    struct {
+        bool isPlaying = false;
+        float rate = 1.0F;
+    } _state;
+    std::int32_t _size;
+    std::unique_ptr<platform::Timer> _scrollTimer;
+    int _direction = 0;
+    DropTarget* _dropTarget = nullptr;
+    platform::Subscription _movieChanged;
+    platform::Subscription _preferencesChanged;
+};

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/settings/QVPreferencesChangedNotification.h"
+#include "platform/base/NotificationCenter.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class QVMovie;
+class QVPlaylistController;
+struct QVMovieCompleteNotification;
+
+/// An add kept at least one movie.
+struct QVPlaylistChangedNotification {
+    std::vector<std::shared_ptr<QVMovie>> movies;
+};
+
+struct QVPlaylistLoopingChangedNotification {
+    QVPlaylistController* playlist;
+};
+
+/// The values of the looping mode.
+namespace looping {
+inline constexpr std::int32_t off = 0;
+inline constexpr std::int32_t one = 1;
+inline constexpr std::int32_t all = 2;
+} // namespace looping
+
+/// The position that means none.
+inline constexpr std::uint32_t NSNotFound = 0x7FFFFFFF;
+
+/// Whether an add takes the list's place or is appended, and whether it may start to play.
+enum class Adding : bool { append, replace };
+enum class Starting : bool { no, yes };
+
+/// The ordered list of movies, the position in it, and what happens when a movie and the list end. Main thread.
+class QVPlaylistController {
+public:
+    QVPlaylistController();
+    QVPlaylistController(const QVPlaylistController&) = delete;
+    QVPlaylistController& operator=(const QVPlaylistController&) = delete;
+    ~QVPlaylistController();
+
+    /// Opens each URL as a movie and adds those that can be played; the others are reported. True when at least one was
+    /// added.
+    bool addURLs(const QList<QUrl>& urls, Adding adding, Starting starting);
+
+    std::uint32_t count() const { return static_cast<std::uint32_t>(_playlist.size()); }
+    /// The entries' URLs as absolute strings: the form in which the list is saved.
+    QStringList arrayWithURLsAsStrings() const;
+    std::uint32_t index() const { return _index; }
+    std::shared_ptr<QVMovie> movie() const { return movieAtIndex(_index); }
+    std::shared_ptr<QVMovie> movieAtIndex(std::uint32_t index) const;
+    bool isFinished() const { return _finished; }
+    bool reportsError() const { return _reports_error; }
+    void setReportsError(bool reports) { _reports_error = reports; }
+    std::int32_t looping() const { return _looping; }
+    bool isAtEnd() const;
+    QString currentInfoAsString() const;
+    QString loopingInfoAsString() const;
+
+    void rearrange();
+    void reset();
+    /// Positions outside the list are ignored, here and in play().
+    void setIndex(std::uint32_t index);
+    void play();
+    void play(std::uint32_t index);
+    void playNext();
+    void playPrevious();
+    void playCurrent();
+    bool willPlayNext() const;
+    bool willPlayPrevious() const;
+
+    void setLooping(std::int32_t looping);
+    /// One mode on (+1: off, one, all, off) or back (-1).
+    void toggleLooping(std::int32_t step);
+
+    /// Run one pass of the run loop after a movie reported its end.
+    void onMovieEnd();
+    void onPlaylistEnd();
+
+private:
+    void movieDidComplete(const QVMovieCompleteNotification& notification);
+    void preferencesChanged(const QVPreferencesChangedNotification& notification);
+
+    std::vector<std::shared_ptr<QVMovie>> _playlist;
+    std::uint32_t _index = NSNotFound;
+    bool _finished = false;
+    bool _reports_error = true;
+    std::int32_t _looping;
+    bool _auto_play;
+    bool _auto_next;
+    bool _auto_quit;
+    /// Ends what was put off to the next pass when the playlist goes away.
+    std::shared_ptr<bool> _alive = std::make_shared<bool>(true);
+    platform::Subscription _movieComplete;
+    platform::Subscription _preferencesChanged;
+};
