@@ -65,6 +65,9 @@ public:
     /// The user watches: keeps screen saver and sleep away while `active` is set (once per playback, not per frame).
     virtual void setUserActive(bool active) = 0;
 
+    /// Puts the computer to sleep, as far as the user may.
+    virtual void sleep() = 0;
+
     /// Asks the application to end; the answer comes through the application's delegate.
     virtual void terminate() = 0;
     /// The answer to a termination that was put off.

@@ -37,7 +37,7 @@ public:
 
 /// A window as a model: frame (screen coordinates, origin bottom left of the main screen, y up, points), alpha, level,
 /// content. It knows nothing of the window system; a root window is shown by a WindowHost. Child windows stay above
-/// their parent and are composed into its host's picture. Main thread.
+/// their parent, move with it and are composed into its host's picture. Main thread.
 class Window {
 public:
     explicit Window(const QRectF& frame);
@@ -109,6 +109,10 @@ protected:
     virtual void mouseExited(int trackingTag);
 
 private:
+    friend class View;
+    /// A view that leaves the window gets no more of its keys and drags.
+    void forgetView(const View& view);
+
     struct TrackingArea {
         int tag;
         QRectF rect;

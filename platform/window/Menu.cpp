@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/Menu.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace platform {
+
+Menu::Menu(QString title)
+    : _title(std::move(title)) {}
+
+MenuItem* Menu::itemWithTag(int tag) {
+    const auto found = std::ranges::find_if(
+        _items, [tag](const auto& item) { return !item->separator && !item->submenu && item->tag == tag; });
+    return found == _items.end() ? nullptr : found->get();
+}
+
+MenuItem& Menu::addItem(const QString& title, const QString& action, int tag) {
+    MenuItem& item = *_items.emplace_back(std::make_unique<MenuItem>());
+    item.title = title;
+    item.action = action;
+    item.tag = tag;
+    return item;
+}
+
+void Menu::addSeparator() {
+    addItem(QString(), QString(), 0).separator = true;
+}
+
+Menu& Menu::addSubmenu(const QString& title) {
+    MenuItem& item = addItem(title, QString(), 0);
+    item.submenu = std::make_unique<Menu>(title);
+    return *item.submenu;
+}
+
+void Menu::removeItemAt(int index) {
+    if (index >= 0 && index < count())
+        _items.erase(_items.begin() + index);
+}
+
+void Menu::removeAllItems() {
+    _items.clear();
+}
+
+void Menu::removeAllItemsBut(int count) {
+    const int kept = std::max(count, 0);
+    if (kept < this->count())
+        _items.erase(_items.begin() + kept, _items.end());
+}
+
+} // namespace platform

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/View.h"
+
+#include "platform/window/Window.h"
+
+#include <algorithm>
+
+namespace platform {
+
+View::~View() {
+    removeFromSuperview();
+    if (_window)
+        _window->forgetView(*this);
+    for (View* child : _subviews)
+        child->_superview = nullptr;
+}
+
+void View::setFrame(const QRectF& frame) {
+    if (frame == _frame)
+        return;
+    const QRectF old = _frame;
+    _frame = frame;
+    if (_superview) {
+        _superview->setNeedsDisplayInRect(old);
+        _superview->setNeedsDisplayInRect(frame);
+    } else if (_window) {
+        setNeedsDisplay();
+    }
+}
+
+void View::addSubview(View& view) {
+    if (&view == this)
+        return;
+    for (const View* ancestor = _superview; ancestor; ancestor = ancestor->_superview) {
+        if (ancestor == &view)
+            return;
+    }
+    view.removeFromSuperview();
+    _subviews.push_back(&view);
+    view._superview = this;
+    view.setNeedsDisplay();
+}
+
+void View::removeFromSuperview() {
+    if (!_superview)
+        return;
+    setNeedsDisplay();
+    if (Window* shownIn = window())
+        shownIn->forgetView(*this);
+    std::erase(_superview->_subviews, this);
+    _superview = nullptr;
+}
+
+Window* View::window() const {
+    const View* view = this;
+    while (view->_superview)
+        view = view->_superview;
+    return view->_window;
+}
+
+QRectF View::convertToWindow(const QRectF& rect) const {
+    QRectF converted = rect;
+    for (const View* view = this; view; view = view->_superview)
+        converted.translate(view->_frame.topLeft());
+    return converted;
+}
+
+QPointF View::convertFromWindow(QPointF point) const {
+    for (const View* view = this; view; view = view->_superview)
+        point -= view->_frame.topLeft();
+    return point;
+}
+
+void View::setNeedsDisplay() {
+    setNeedsDisplayInRect(bounds());
+}
+
+void View::setNeedsDisplayInRect(const QRectF& rect) {
+    Window* shownIn = window();
+    if (shownIn && !rect.isEmpty())
+        shownIn->displayNeeded(convertToWindow(rect));
+}
+
+void View::draw(QPainter&, const QRectF&) {}
+
+bool View::keyDown(const KeyEvent&) {
+    return false;
+}
+
+bool View::keyUp(const KeyEvent&) {
+    return false;
+}
+
+bool View::mouseDown(const MouseEvent&) {
+    return false;
+}
+
+bool View::mouseDragged(const MouseEvent&) {
+    return false;
+}
+
+bool View::mouseUp(const MouseEvent&) {
+    return false;
+}
+
+std::uint32_t View::draggingEntered(const DraggingInfo&) {
+    return dragOperation::none;
+}
+
+std::uint32_t View::draggingUpdated(const DraggingInfo&) {
+    return dragOperation::none;
+}
+
+bool View::performDragOperation(const DraggingInfo&) {
+    return false;
+}
+
+void View::concludeDragOperation(const DraggingInfo&) {}
+
+View* View::hitTest(QPointF point) {
+    // Half open, so that views side by side share no point.
+    if (point.x() < _frame.left() || point.x() >= _frame.right() || point.y() < _frame.top() ||
+        point.y() >= _frame.bottom())
+        return nullptr;
+    const QPointF inside = point - _frame.topLeft();
+    for (auto view = _subviews.rbegin(); view != _subviews.rend(); ++view) {
+        if (View* hit = (*view)->hitTest(inside))
+            return hit;
+    }
+    return this;
+}
+
+} // namespace platform
