@@ -17,8 +17,8 @@ class MoviePlayer;
 /// What opening a movie found out, without decoding a picture.
 struct MovieInfo {
     QUrl url;
-    /// Units a second of every time value of the movie: the video track's own where the duration fits 31 bits in it, else a
-    /// smaller one; 600 without video.
+    /// Units a second of every time value of the movie: the video track's own where the duration fits 31 bits in it,
+    /// else a smaller one; 600 without video.
     std::int32_t timeScale = 600;
     /// In units of timeScale; 0 when it is not known (a live stream).
     std::int32_t duration = 0;
@@ -46,8 +46,8 @@ inline constexpr std::int16_t timedOut = -5016;
 inline constexpr std::int16_t noMediaHandler = -2003;
 } // namespace movieError
 
-/// One open movie: its facts, and the time at which it stands. While the movie is the one loaded in the player its time and rate
-/// are the player's; else it stands still at the time it was left at. Main thread.
+/// One open movie: its facts, and the time at which it stands. While the movie is the one loaded in the player its time
+/// and rate are the player's; else it stands still at the time it was left at. Main thread.
 class Movie {
 public:
     Movie(MovieInfo info, MoviePlayer& player);
@@ -69,19 +69,22 @@ public:
     /// new time at once. Answers 0 or the error. Does not count as a time jump for callWhenTimeJumps.
     std::int16_t setTimeValue(std::int32_t time);
 
-    /// The time of the next picture after `from` in the direction of the rate, or -1 when there is none (no video, or the end).
+    /// The time of the next picture after `from` in the direction of the rate, or -1 when there is none (no video, or
+    /// the end).
     std::int32_t nextInterestingTime(std::int32_t from, std::int32_t rate) const;
 
     /// True while the movie's end is only the end of what has arrived so far.
     bool needsTimeTable() const { return _needsTimeTable; }
     void setNeedsTimeTable(bool needs) { _needsTimeTable = needs; }
 
-    /// Three one-shot callbacks, delivered on the main thread from the event loop or from a call that moves the time. Arming again
-    /// replaces what was armed. They act only while the movie is loaded in the player.
+    /// Three one-shot callbacks, delivered on the main thread from the event loop or from a call that moves the time.
+    /// Arming again replaces what was armed. They act only while the movie is loaded in the player.
+    ///
     /// The movie came to its end while moving forward.
     void callWhenStopped(std::function<void()> callback);
-    /// The time passed `time`, in either direction. With -1, when the time next moves on noticeably (a quarter of a second):
-    /// movies without pictures have no next one.
+    /// The time passed `time` while the movie ran, in either direction, or a picture other than that of the arming was
+    /// shown (pictures may last unequally long). With -1, when the time next moves on noticeably (a quarter of a
+    /// second): movies without pictures have no next one.
     void callWhenTimePasses(std::int32_t time, std::function<void()> callback);
     /// The time changed other than by playing.
     void callWhenTimeJumps(std::function<void()> callback);
@@ -89,11 +92,14 @@ public:
     void cancelTimePasses() { _timePasses = nullptr; }
     void cancelTimeJumps() { _timeJumps = nullptr; }
 
-    /// Called by the player.
+    /// Called by the player: the time moved on to `time`, that of the picture shown where there is one.
     void playerShowedFrame(std::int32_t time);
     void playerJumped();
     void playerReachedEnd();
-    void playerUnloaded(std::int32_t time) { _restingTime = time; }
+    void playerUnloaded(std::int32_t time) {
+        _restingTime = time;
+        _shownTime.reset();
+    }
 
 private:
     MovieInfo _info;
@@ -104,6 +110,8 @@ private:
     std::function<void()> _timePasses;
     std::int32_t _timeToPass = -1;
     std::int32_t _timeWhenArmed = 0;
+    /// The picture that the player reported last; none after a move.
+    std::optional<std::int32_t> _shownTime;
     std::function<void()> _timeJumps;
 };
 

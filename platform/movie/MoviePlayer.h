@@ -9,8 +9,8 @@ namespace platform {
 class Movie;
 class PictureLayer;
 
-/// The process's one player: it plays the movie loaded in it. Times are in the loaded movie's time scale. Main thread; what it reports comes
-/// on the main thread too.
+/// The process's one player: it plays the movie loaded in it. Times are in the loaded movie's time scale. Main thread;
+/// what it reports comes on the main thread too.
 class MoviePlayer {
 public:
     MoviePlayer() = default;
@@ -29,8 +29,8 @@ public:
     };
     virtual void setObserver(Observer* observer) = 0;
 
-    /// Loads a movie, paused at the time it stands at, in place of the one loaded before (which is told its last time by
-    /// Movie::playerUnloaded). Null unloads. Volume and mute stay.
+    /// Loads a movie, paused at the time it stands at, in place of the one loaded before (which is told its last time
+    /// by Movie::playerUnloaded). Null unloads. Volume and mute stay.
     virtual void load(Movie* movie) = 0;
     virtual Movie* loaded() const = 0;
 
@@ -48,7 +48,7 @@ public:
     enum class JumpReport { silent, reported };
     /// Moves to a time within the movie: the keyframe before it is shown at once, then the exact picture.
     virtual void seek(std::int32_t time, JumpReport report) = 0;
-    /// One picture forward (+1) or back (-1); pauses.
+    /// One picture forward (+1) or back (-1); pauses. Reports a time jump.
     virtual void step(int direction) = 0;
 
     /// Linear, 1.0 is full; kept within 0 to 3.

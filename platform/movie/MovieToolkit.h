@@ -28,9 +28,9 @@ public:
     virtual void enter() = 0;
     virtual void exit() = 0;
 
-    /// Opens a movie: a file, or a URL of a scheme that can be read. Nothing when it cannot be played; stickyError() says
-    /// why. A movie may open with an error left behind (movieError::cannotPlay). Local files are opened in about a millisecond;
-    /// for a network URL the event loop runs meanwhile, and it gives up after 10 seconds.
+    /// Opens a movie: a file, or a URL of a scheme that can be read. Nothing when it cannot be played; stickyError()
+    /// says why. A movie may open with an error left behind (movieError::cannotPlay). Local files are opened in about a
+    /// millisecond; for a network URL the event loop runs meanwhile, and it gives up after 10 seconds.
     virtual std::optional<MovieInfo> open(const QUrl& url) = 0;
     /// The last error, until it is cleared.
     virtual std::int16_t stickyError() const = 0;

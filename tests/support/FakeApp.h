@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/context/CommandTarget.h"
+#include "app/context/QVAppContext.h"
+
+#include <utility>
+#include <vector>
+
+/// The application controller and the movie controller in one, recording what they are asked. It is gAppController
+/// while it lives. The main objects are those that the test puts in; null to begin with.
+class FakeApp final : public QVAppContext, public CommandTarget {
+public:
+    FakeApp()
+        : _before(std::exchange(gAppController, this)) {}
+    FakeApp(const FakeApp&) = delete;
+    FakeApp& operator=(const FakeApp&) = delete;
+    ~FakeApp() override { gAppController = _before; }
+
+    platform::Window* windowObject = nullptr;
+    QVMovieView* movieViewObject = nullptr;
+    QVPlaylistController* playlistObject = nullptr;
+    QVSubtitlesController* subtitlesObject = nullptr;
+    /// Another movie controller, or null for none.
+    CommandTarget* controllerObject = this;
+    platform::Menu* playlistMenuObject = nullptr;
+    platform::Menu* subtitlesMenuObject = nullptr;
+
+    std::vector<std::pair<std::int32_t, Feedback>> actions;
+    std::vector<platform::KeyEvent> keys;
+    bool consumesKeys = false;
+    bool isForceMuted = false;
+    int cursorHides = 0;
+    int opens = 0;
+    int becameKey = 0;
+    int resignedKey = 0;
+
+    platform::Window* window() override { return windowObject; }
+    QVMovieView* movieView() override { return movieViewObject; }
+    QVPlaylistController* playlist() override { return playlistObject; }
+    QVSubtitlesController* subtitles() override { return subtitlesObject; }
+    CommandTarget* controller() override { return controllerObject; }
+    platform::Menu* playlistMenu() override { return playlistMenuObject; }
+    platform::Menu* subtitlesMenu() override { return subtitlesMenuObject; }
+    void scheduleCursorHide() override { ++cursorHides; }
+    void doOpen() override { ++opens; }
+    void windowDidBecomeKey(platform::Window&) override { ++becameKey; }
+    void windowDidResignKey(platform::Window&) override { ++resignedKey; }
+
+    void performAction(std::int32_t action, Feedback feedback) override { actions.emplace_back(action, feedback); }
+    bool processKeyboardEvent(const platform::KeyEvent& event) override {
+        keys.push_back(event);
+        return consumesKeys;
+    }
+    bool forceMuted() const override { return isForceMuted; }
+    void setForceMuted(bool muted) override { isForceMuted = muted; }
+
+private:
+    QVAppContext* _before;
+};

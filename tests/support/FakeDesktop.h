@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/desktop/Desktop.h"
+
+#include <QHash>
+
+#include <deque>
+#include <functional>
+#include <limits>
+#include <vector>
+
+/// A desktop that records what it is asked and answers as the test says. It is the shared one while it lives.
+class FakeDesktop final : public platform::Desktop {
+public:
+    FakeDesktop() { setShared(this); }
+    ~FakeDesktop() override { setShared(nullptr); }
+
+    /// The alerts shown, in order; each takes the next of the answers, 1 when there is none left.
+    std::vector<Alert> alerts;
+    std::deque<int> alertAnswers;
+    /// Runs while an alert is up, as the event loop does.
+    std::function<void()> whileAlertIsUp;
+
+    struct OpenPanel {
+        QStringList extensions;
+        QString folder;
+    };
+    std::vector<OpenPanel> openPanels;
+    std::deque<QStringList> openPanelAnswers;
+
+    int beeps = 0;
+    /// One of 1440 by 900 to begin with.
+    std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, QStringLiteral("Main")}};
+    /// By the screens' numbers; a screen that is missing cannot be read.
+    QHash<std::uint32_t, float> brightnessLevels;
+    std::vector<QUrl> openedURLs;
+    bool opensURLs = true;
+    std::uint32_t heldModifiers = 0;
+    bool userActive = false;
+    int userActiveCalls = 0;
+    int terminations = 0;
+    std::vector<bool> terminationReplies;
+
+    int runAlert(const Alert& alert) override;
+    QStringList runOpenPanel(const QStringList& extensions, const QString& folder) override;
+    void beep() override { ++beeps; }
+    std::vector<platform::Screen> screens() const override { return screenList; }
+    float brightness(const platform::Screen& screen) const override {
+        return brightnessLevels.value(screen.number, std::numeric_limits<float>::infinity());
+    }
+    void setBrightness(const platform::Screen& screen, float brightness) override {
+        brightnessLevels[screen.number] = brightness;
+    }
+    bool openURL(const QUrl& url) override;
+    std::uint32_t modifierFlags() const override { return heldModifiers; }
+    void setUserActive(bool active) override {
+        userActive = active;
+        ++userActiveCalls;
+    }
+    void terminate() override { ++terminations; }
+    void replyToApplicationShouldTerminate(bool terminate) override { terminationReplies.push_back(terminate); }
+};

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/MoviePlayer.h"
+#include "platform/movie/MovieToolkit.h"
+
+#include <QHash>
+#include <QList>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+/// A player without pictures: the test moves the time of the movie loaded in it.
+class ScriptedPlayer final : public platform::MoviePlayer {
+public:
+    /// Lets `seconds` pass: a running movie moves on picture by picture (without video: every 0.05 s of the movie),
+    /// reports each, and at its end stops and reports that.
+    void advance(double seconds);
+    /// Reports one picture at a time of the test's choice, as movies of variable frame rate have them.
+    void showFrame(std::int32_t time);
+    /// Puts the time at the movie's end as playing would.
+    void reachEnd();
+
+    struct Seek {
+        std::int32_t time;
+        JumpReport report;
+        friend bool operator==(const Seek&, const Seek&) = default;
+    };
+    std::vector<Seek> seeks;
+    std::vector<int> steps;
+    int loads = 0;
+
+    void setObserver(Observer* observer) override { _observer = observer; }
+    void load(platform::Movie* movie) override;
+    platform::Movie* loaded() const override { return _movie; }
+    void play() override;
+    void pause() override;
+    bool isPlaying() const override { return _rate != 0.0F; }
+    float rate() const override { return _rate; }
+    void setRate(float rate) override;
+    std::int32_t time() const override { return _time; }
+    void seek(std::int32_t time, JumpReport report) override;
+    void step(int direction) override;
+    float volume() const override { return _volume; }
+    void setVolume(float volume) override;
+    bool isMuted() const override { return _muted; }
+    void setMuted(bool muted) override;
+    platform::PictureLayer* pictureLayer() override { return nullptr; }
+
+private:
+    void stateChanged();
+
+    Observer* _observer = nullptr;
+    platform::Movie* _movie = nullptr;
+    std::int32_t _time = 0;
+    double _fraction = 0; // of a unit, not yet shown in _time
+    float _rate = 0;
+    float _volume = 1;
+    bool _muted = false;
+};
+
+/// A toolkit whose movies and errors the test scripts. It is the shared one while it lives. URLs that were not scripted
+/// open as plainMovie().
+class ScriptedToolkit final : public platform::MovieToolkit {
+public:
+    ScriptedToolkit();
+    ~ScriptedToolkit() override;
+
+    /// One minute at 25 pictures a second, 640 by 480, 600 units a second.
+    static platform::MovieInfo plainMovie(const QUrl& url);
+
+    /// The URL opens as `info` (its url is set), with an error left behind if `error` is not 0.
+    void setMovie(const QUrl& url, platform::MovieInfo info, std::int16_t error = 0);
+    /// The URL cannot be opened.
+    void setFailure(const QUrl& url, std::int16_t error);
+
+    /// The URLs opened, in order.
+    QList<QUrl> opened;
+    /// Runs inside each open, as the event loop does while a network URL is opened.
+    std::function<void(const QUrl&)> whileOpening;
+    int entered = 0;
+    int exited = 0;
+    ScriptedPlayer scriptedPlayer;
+
+    void enter() override { ++entered; }
+    void exit() override { ++exited; }
+    std::optional<platform::MovieInfo> open(const QUrl& url) override;
+    std::int16_t stickyError() const override { return _stickyError; }
+    void clearStickyError() override { _stickyError = 0; }
+    platform::MoviePlayer& player() override { return scriptedPlayer; }
+
+private:
+    struct Script {
+        std::optional<platform::MovieInfo> info;
+        std::int16_t error = 0;
+    };
+    QHash<QUrl, Script> _scripts;
+    std::int16_t _stickyError = 0;
+};
