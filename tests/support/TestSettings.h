@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/settings/QVUserDefaults.h"
+#include "tests/support/ManualRunLoop.h"
+#include "tests/support/MemorySettings.h"
+
+/// For as long as it lives: settings in memory with the shipped registered values under them are the process's store,
+/// and a manual run loop is its main one.
+class TestSettings {
+public:
+    /// `stored` is what an earlier run left on the disk.
+    explicit TestSettings(const QVariantMap& stored = {})
+        : disk(std::make_shared<MemorySettings::Disk>(MemorySettings::Disk{stored})) {
+        platform::RunLoop::setMain(&runLoop);
+        _defaults = std::make_unique<platform::UserDefaults>(std::make_unique<MemorySettings>(disk));
+        platform::UserDefaults::setStandard(_defaults.get());
+        QVUserDefaults::standardUserDefaults();
+    }
+    TestSettings(const TestSettings&) = delete;
+    TestSettings& operator=(const TestSettings&) = delete;
+    ~TestSettings() {
+        platform::UserDefaults::setStandard(nullptr);
+        _defaults.reset();
+        platform::RunLoop::setMain(nullptr);
+    }
+
+    platform::UserDefaults& defaults() { return *_defaults; }
+
+    ManualRunLoop runLoop;
+    std::shared_ptr<MemorySettings::Disk> disk;
+
+private:
+    std::unique_ptr<platform::UserDefaults> _defaults;
+};
