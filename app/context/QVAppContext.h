@@ -7,6 +7,7 @@ class Window;
 } // namespace platform
 
 class CommandTarget;
+class MainWindow;
 class QVMovieView;
 class QVPlaylistController;
 class QVSubtitlesController;
@@ -18,6 +19,8 @@ public:
     virtual ~QVAppContext() = default;
 
     virtual platform::Window* window() = 0;
+    /// The same window, for what only the main window does.
+    virtual MainWindow* mainWindow() = 0;
     virtual QVMovieView* movieView() = 0;
     virtual QVPlaylistController* playlist() = 0;
     virtual QVSubtitlesController* subtitles() = 0;
