@@ -9,9 +9,9 @@ class QPainter;
 
 namespace platform {
 
-/// The controller bar: play or pause, a mute button with a volume slider, and a time slider. It lays itself out in a width,
-/// draws a state, and turns presses into commands; it keeps no state but which control is pressed. Coordinates: origin top
-/// left of the bar, y down, points.
+/// The controller bar: play or pause, a mute button with a volume slider, and a time slider. It lays itself out in a
+/// width, draws a state, and turns presses into commands; it keeps no state but which control is pressed. Coordinates:
+/// origin top left of the bar, y down, points.
 class ControllerBar {
 public:
     struct State {
@@ -29,6 +29,9 @@ public:
         /// The new volume or position, 0 to 1.
         double value = 0;
     };
+
+    /// The state as coarsely as a bar of the size shows it: states that are equal after it look the same.
+    static State shownState(const State& state, const QSizeF& size);
 
     void draw(QPainter& painter, const QSizeF& size, const State& state) const;
     Command press(QPointF point, const QSizeF& size);

@@ -75,6 +75,8 @@ private:
     MoviePlayer& _player;
     std::shared_ptr<Movie> _movie;
     ControllerBar _bar;
+    /// As the bar was drawn or marked for drawing last.
+    ControllerBar::State _shownState;
     bool _controllerVisible = true;
     bool _tracking = false;
 };

@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/MovieView.h"
+
+#include "platform/movie/Movie.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace platform {
+
+MovieView::MovieView(MoviePlayer& player)
+    : _player(player) {
+    _player.setObserver(this);
+}
+
+MovieView::~MovieView() {
+    _player.setObserver(nullptr);
+    if (_movie && _player.loaded() == _movie.get())
+        _player.load(nullptr);
+}
+
+void MovieView::setMovieObject(std::shared_ptr<Movie> movie) {
+    if (movie == _movie && _player.loaded() == movie.get()) {
+        // Loading it again would open the file again.
+        _player.pause();
+        return;
+    }
+    // The old movie lives on until the player has let go of it.
+    const std::shared_ptr<Movie> old = std::exchange(_movie, std::move(movie));
+    _player.load(_movie.get());
+    setNeedsDisplay();
+}
+
+void MovieView::start() {
+    if (_movie)
+        _player.play();
+}
+
+void MovieView::stop() {
+    if (_movie)
+        _player.pause();
+}
+
+bool MovieView::isPlaying() const {
+    return _movie && _player.isPlaying();
+}
+
+float MovieView::rate() const {
+    return _movie ? _player.rate() : 0.0F;
+}
+
+void MovieView::setRate(float rate) {
+    if (_movie)
+        _player.setRate(rate);
+}
+
+float MovieView::volume() const {
+    return _player.volume();
+}
+
+void MovieView::setVolume(float volume) {
+    _player.setVolume(volume);
+}
+
+bool MovieView::isMuted() const {
+    return _player.isMuted();
+}
+
+void MovieView::setMuted(bool muted) {
+    _player.setMuted(muted);
+}
+
+void MovieView::gotoBeginning() {
+    // A movie just loaded stands there: a move would only delay its first picture.
+    if (_movie && _player.time() != 0)
+        _player.seek(0, MoviePlayer::JumpReport::reported);
+}
+
+void MovieView::gotoEnd() {
+    if (_movie && _player.time() != _movie->duration())
+        _player.seek(_movie->duration(), MoviePlayer::JumpReport::reported);
+}
+
+void MovieView::stepForward() {
+    if (_movie)
+        _player.step(1);
+}
+
+void MovieView::stepBack() {
+    if (_movie)
+        _player.step(-1);
+}
+
+void MovieView::showController(bool visible, bool adjustingSize) {
+    if (visible == _controllerVisible)
+        return;
+    _controllerVisible = visible;
+    if (adjustingSize) {
+        // The bar hangs below the picture, which keeps its place.
+        QRectF frame = this->frame();
+        const double height = std::max(frame.height() + (visible ? controllerBarHeight : -controllerBarHeight), 0.0);
+        frame.moveTop(frame.top() + frame.height() - height);
+        frame.setHeight(height);
+        setFrame(frame);
+    }
+    setNeedsDisplay();
+}
+
+QSizeF MovieView::platformSizeForMagnification(float m) const {
+    const QSizeF natural = _movie ? _movie->info().naturalSize : QSizeF(0, 0);
+    return QSizeF(static_cast<float>(natural.width()) * m,
+                  static_cast<float>(natural.height()) * m + static_cast<float>(controllerBarHeight));
+}
+
+bool MovieView::handleMovieKey(const KeyEvent& event) {
+    if (!_movie || event.charactersIgnoringModifiers.isEmpty())
+        return false;
+    switch (event.charactersIgnoringModifiers.at(0).unicode()) {
+    case functionKey::space:
+        if (isPlaying())
+            stop();
+        else
+            start();
+        return true;
+    case functionKey::left:
+        stepBack();
+        return true;
+    case functionKey::right:
+        stepForward();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MovieView::draw(QPainter& painter, const QRectF& dirty) {
+    const QRectF bar = controllerRect();
+    if (!_controllerVisible || bar.isEmpty() || !dirty.intersects(bar))
+        return;
+    _shownState = ControllerBar::shownState(controllerState(), bar.size());
+    painter.save();
+    painter.translate(0, bounds().height() - bar.height());
+    _bar.draw(painter, bar.size(), _shownState);
+    painter.restore();
+}
+
+PictureLayer* MovieView::pictureLayer() {
+    return _movie ? _player.pictureLayer() : nullptr;
+}
+
+QRectF MovieView::pictureRect() const {
+    QRectF picture = bounds();
+    if (_controllerVisible)
+        picture.setTop(std::min(controllerBarHeight, picture.height()));
+    return picture;
+}
+
+bool MovieView::mouseDown(const MouseEvent& event) {
+    const QPointF point = convertFromWindow(event.locationInWindow);
+    const QRectF bar = controllerRect();
+    if (!_controllerVisible || event.button != MouseButton::left || !bar.contains(point))
+        return false;
+    _tracking = true;
+    performController(_bar.press(QPointF(point.x(), bar.bottom() - point.y()), bar.size()));
+    return true;
+}
+
+bool MovieView::mouseDragged(const MouseEvent& event) {
+    if (!_tracking)
+        return false;
+    const QPointF point = convertFromWindow(event.locationInWindow);
+    const QRectF bar = controllerRect();
+    performController(_bar.drag(QPointF(point.x(), bar.bottom() - point.y()), bar.size()));
+    return true;
+}
+
+bool MovieView::mouseUp(const MouseEvent&) {
+    _bar.release();
+    return std::exchange(_tracking, false);
+}
+
+void MovieView::playerPictureChanged() {
+    setNeedsDisplayInRect(pictureRect());
+}
+
+void MovieView::playerStateChanged() {
+    if (!_controllerVisible)
+        return;
+    const QRectF bar = controllerRect();
+    const ControllerBar::State state = ControllerBar::shownState(controllerState(), bar.size());
+    if (state == _shownState)
+        return;
+    _shownState = state;
+    setNeedsDisplayInRect(bar);
+}
+
+QRectF MovieView::controllerRect() const {
+    return QRectF(0, 0, bounds().width(), std::min(controllerBarHeight, bounds().height()));
+}
+
+void MovieView::performController(const ControllerBar::Command& command) {
+    switch (command.kind) {
+    case ControllerBar::Command::Kind::none:
+        break;
+    case ControllerBar::Command::Kind::togglePlay:
+        if (isPlaying())
+            stop();
+        else
+            start();
+        break;
+    case ControllerBar::Command::Kind::toggleMute:
+        setMuted(!isMuted());
+        break;
+    case ControllerBar::Command::Kind::setVolume:
+        if (isMuted())
+            setMuted(false);
+        setVolume(static_cast<float>(command.value));
+        break;
+    case ControllerBar::Command::Kind::seek:
+        if (_movie && _movie->duration() > 0) {
+            const auto time = static_cast<std::int32_t>(std::lround(command.value * _movie->duration()));
+            if (time != _player.time())
+                _player.seek(time, MoviePlayer::JumpReport::reported);
+        }
+        break;
+    }
+}
+
+ControllerBar::State MovieView::controllerState() const {
+    ControllerBar::State state;
+    state.playing = isPlaying();
+    state.muted = isMuted();
+    state.volume = std::clamp(static_cast<double>(volume()), 0.0, 1.0);
+    if (_movie && _movie->duration() > 0)
+        state.position = std::clamp(static_cast<double>(_player.time()) / _movie->duration(), 0.0, 1.0);
+    return state;
+}
+
+} // namespace platform
