@@ -18,6 +18,7 @@ public:
     ~FakeApp() override { gAppController = _before; }
 
     platform::Window* windowObject = nullptr;
+    MainWindow* mainWindowObject = nullptr;
     QVMovieView* movieViewObject = nullptr;
     QVPlaylistController* playlistObject = nullptr;
     QVSubtitlesController* subtitlesObject = nullptr;
@@ -36,6 +37,7 @@ public:
     int resignedKey = 0;
 
     platform::Window* window() override { return windowObject; }
+    MainWindow* mainWindow() override { return mainWindowObject; }
     QVMovieView* movieView() override { return movieViewObject; }
     QVPlaylistController* playlist() override { return playlistObject; }
     QVSubtitlesController* subtitles() override { return subtitlesObject; }

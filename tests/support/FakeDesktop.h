@@ -39,6 +39,7 @@ public:
     std::uint32_t heldModifiers = 0;
     bool userActive = false;
     int userActiveCalls = 0;
+    int sleeps = 0;
     int terminations = 0;
     std::vector<bool> terminationReplies;
 
@@ -58,6 +59,7 @@ public:
         userActive = active;
         ++userActiveCalls;
     }
+    void sleep() override { ++sleeps; }
     void terminate() override { ++terminations; }
     void replyToApplicationShouldTerminate(bool terminate) override { terminationReplies.push_back(terminate); }
 };
