@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/e2e/LumaroProcess.h"
+
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <stdexcept>
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "lumaro-test.XXXXXX").string();
+    if (!::mkdtemp(name.data()))
+        throw std::runtime_error("no temporary folder");
+    _path = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(_path, ignored);
+}
+
+LumaroProcess::LumaroProcess(const LumaroUser& user, const std::string& display,
+                             const std::vector<std::string>& arguments, const std::string& workingDirectory)
+    : ChildProcess(optionsFor(user, display, arguments, workingDirectory)) {}
+
+harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user, const std::string& display,
+                                                         const std::vector<std::string>& arguments,
+                                                         const std::string& workingDirectory) {
+    std::filesystem::create_directories(user.runtimeFolder());
+    ::chmod(user.runtimeFolder().c_str(), 0700);
+    Options options;
+    options.arguments = {LUMARO_PROGRAM};
+    options.arguments.insert(options.arguments.end(), arguments.begin(), arguments.end());
+    options.workingDirectory = workingDirectory;
+    options.withoutEnvironment = {"DISPLAY",         "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
+                                  "QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "LANG",
+                                  "LC_ALL"};
+    options.environment = {{"HOME", user.folder().string()},
+                           {"XDG_CONFIG_HOME", (user.folder() / "config").string()},
+                           {"XDG_RUNTIME_DIR", user.runtimeFolder().string()},
+                           {"LUMARO_RESOURCES", LUMARO_BINARY_DIR "/resources"},
+                           {"LC_ALL", "C.UTF-8"}};
+    if (!display.empty()) {
+        options.environment["DISPLAY"] = display;
+        options.environment["QT_QPA_PLATFORM"] = "xcb";
+    }
+    return options;
+}
+
+std::vector<std::string> LumaroProcess::faults() const {
+    std::vector<std::string> result;
+    for (const std::string& line : errorLines())
+        for (const char* mark : {"AddressSanitizer", "LeakSanitizer", "runtime error:", "ASSERT", "terminate called"})
+            if (line.find(mark) != std::string::npos) {
+                result.push_back(line);
+                break;
+            }
+    return result;
+}

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/x11/HttpServer.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+namespace harness {
+
+namespace {
+
+bool readable(int descriptor) {
+    pollfd poll{descriptor, POLLIN, 0};
+    return ::poll(&poll, 1, 50) > 0;
+}
+
+// Stops when the other side is gone.
+void sendAll(int connection, const std::string& text, std::size_t from, std::size_t size,
+             const std::atomic<bool>& ending) {
+    while (size > 0 && !ending) {
+        pollfd poll{connection, POLLOUT, 0};
+        if (::poll(&poll, 1, 50) == 0)
+            continue;
+        const ssize_t sent = ::send(connection, text.data() + from, size, MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (sent <= 0)
+            return;
+        from += std::size_t(sent);
+        size -= std::size_t(sent);
+    }
+}
+
+} // namespace
+
+HttpServer::HttpServer(std::filesystem::path file) {
+    std::ifstream stream(file, std::ios::binary);
+    _content.resize(std::size_t(std::filesystem::file_size(file)));
+    stream.read(_content.data(), std::streamsize(_content.size()));
+    _listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    if (_listener < 0 || ::bind(_listener, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
+        ::listen(_listener, 16) != 0 || ::getsockname(_listener, reinterpret_cast<sockaddr*>(&address), &size) != 0)
+        throw std::runtime_error("no server on loopback");
+    _port = ntohs(address.sin_port);
+    _thread = std::thread([this] { listen(); });
+}
+
+HttpServer::~HttpServer() {
+    _ending = true;
+    _thread.join();
+    ::close(_listener);
+}
+
+std::string HttpServer::url(const std::string& path) const {
+    return "http://127.0.0.1:" + std::to_string(_port) + path;
+}
+
+void HttpServer::listen() {
+    std::vector<std::thread> connections;
+    while (!_ending) {
+        if (!readable(_listener))
+            continue;
+        const int connection = ::accept4(_listener, nullptr, nullptr, SOCK_CLOEXEC);
+        if (connection >= 0)
+            connections.emplace_back([this, connection] {
+                serve(connection);
+                ::close(connection);
+            });
+    }
+    for (std::thread& connection : connections)
+        connection.join();
+}
+
+void HttpServer::serve(int connection) {
+    std::string request;
+    while (request.find("\r\n\r\n") == std::string::npos) {
+        if (_ending)
+            return;
+        if (!readable(connection))
+            continue;
+        char buffer[4096];
+        const ssize_t size = ::recv(connection, buffer, sizeof buffer, 0);
+        if (size <= 0)
+            return;
+        request.append(buffer, std::size_t(size));
+    }
+    const auto asksFor = [&](const char* path) { return request.find(std::string(" ") + path) != std::string::npos; };
+    if (asksFor("/never.mp4")) {
+        while (!_ending && !(readable(connection) && ::recv(connection, &request[0], 1, 0) <= 0)) {
+        }
+        return;
+    }
+    if (!asksFor("/movie.mp4") && !asksFor("/early.mp4")) {
+        const std::string answer = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+        sendAll(connection, answer, 0, answer.size(), _ending);
+        return;
+    }
+    std::size_t from = 0;
+    std::string lower = request;
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+    const auto range = lower.find("range: bytes=");
+    if (range != std::string::npos)
+        from = std::min(_content.size(), std::size_t(std::strtoull(lower.c_str() + range + 13, nullptr, 10)));
+    const bool early = asksFor("/early.mp4");
+    std::string head = range == std::string::npos || early ? "HTTP/1.1 200 OK\r\n" : "HTTP/1.1 206 Partial Content\r\n";
+    if (early)
+        from = 0;
+    else
+        head += "Accept-Ranges: bytes\r\nContent-Range: bytes " + std::to_string(from) + "-" +
+                std::to_string(_content.size() - 1) + "/" + std::to_string(_content.size()) + "\r\n";
+    head +=
+        "Content-Type: video/mp4\r\nConnection: close\r\nContent-Length: " + std::to_string(_content.size() - from) +
+        "\r\n\r\n";
+    sendAll(connection, head, 0, head.size(), _ending);
+    if (request.rfind("HEAD", 0) != 0)
+        sendAll(connection, _content, from, early ? _content.size() / 3 : _content.size() - from, _ending);
+}
+
+} // namespace harness
