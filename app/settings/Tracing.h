@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// Informational lines are written (setting QVEnableTrace). Lines that begin "ERROR: " or "WARNING: " are written always.
 extern bool gTracingEnabled;

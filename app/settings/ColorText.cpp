@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/ColorText.h"
+
+#include "platform/base/NumberText.h"
+#include "platform/base/UserDefaults.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr int kSignificantDigits = 6;
+
+float clampedComponent(double value) {
+    return static_cast<float>(std::clamp(value, 0.0, 1.0));
+}
+
+/// The shortest text that reads back as the same component: a colour holds 16 bits of each, in which 0.5 is 0.500008.
+QByteArray componentText(float component) {
+    const auto held = [](double value) { return std::lround(value * 65535.0); };
+    for (int digits = 1; digits < kSignificantDigits; ++digits) {
+        const QByteArray text = platform::generalText(static_cast<double>(component), digits);
+        QByteArrayView rest(text);
+        if (held(static_cast<double>(clampedComponent(platform::takeNumber(rest).value_or(0)))) ==
+            held(static_cast<double>(component)))
+            return text;
+    }
+    return platform::generalText(static_cast<double>(component), kSignificantDigits);
+}
+
+} // namespace
+
+std::optional<QColor> JHColorFromString(const QString& text) {
+    if (text.isEmpty())
+        return std::nullopt;
+    std::array<float, 4> components = {0, 0, 0, 1};
+    const QByteArray bytes = text.toUtf8();
+    QByteArrayView rest(bytes);
+    for (float& component : components) {
+        const auto number = platform::takeNumber(rest);
+        if (!number)
+            break;
+        component = clampedComponent(*number);
+    }
+    return QColor::fromRgbF(components[0], components[1], components[2], components[3]);
+}
+
+QString JHStringFromColor(const std::optional<QColor>& color) {
+    if (!color || !color->isValid())
+        return {};
+    const QColor rgb = color->toRgb();
+    QByteArray text;
+    for (const float component : {rgb.redF(), rgb.greenF(), rgb.blueF(), rgb.alphaF()}) {
+        if (!text.isEmpty())
+            text += ' ';
+        text += componentText(component);
+    }
+    return QString::fromLatin1(text);
+}
+
+QSizeF JHSizeFromString(const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    QByteArrayView rest(bytes);
+    QSizeF size(0, 0);
+    const auto width = platform::takeNumber(rest);
+    if (!width)
+        return size;
+    size.setWidth(static_cast<double>(static_cast<float>(*width)));
+    if (const auto height = platform::takeNumber(rest))
+        size.setHeight(static_cast<double>(static_cast<float>(*height)));
+    return size;
+}
+
+QString JHStringFromSize(const QSizeF& size) {
+    return QString::fromLatin1(platform::generalText(size.width(), kSignificantDigits) + ' ' +
+                               platform::generalText(size.height(), kSignificantDigits));
+}
+
+std::optional<QColor> colorForKey(const platform::UserDefaults& defaults, const QString& key) {
+    return JHColorFromString(defaults.stringForKey(key));
+}
+
+void setColor(platform::UserDefaults& defaults, const std::optional<QColor>& color, const QString& key) {
+    const QString text = JHStringFromColor(color);
+    defaults.setObject(text.isNull() ? QVariant() : QVariant(text), key);
+}
+
+QSizeF sizeForKey(const platform::UserDefaults& defaults, const QString& key) {
+    return JHSizeFromString(defaults.stringForKey(key));
+}
+
+void setSize(platform::UserDefaults& defaults, const QSizeF& size, const QString& key) {
+    defaults.setObject(JHStringFromSize(size), key);
+}

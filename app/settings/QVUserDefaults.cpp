@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/QVUserDefaults.h"
+
+#include "app/settings/ColorText.h"
+#include "app/settings/QVOverlayStyleDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "platform/base/Bundle.h"
+#include "platform/base/PropertyList.h"
+#include "platform/base/PropertyValue.h"
+
+namespace {
+
+using platform::UserDefaults;
+
+// The builds that first wrote the settings as they are read now.
+constexpr std::int32_t kBuildWithoutFirstTimeFlag = 16;
+constexpr std::int32_t kBuildWithLaunchActionAndArrangement = 23;
+constexpr std::int32_t kBuildWithSubtitlesStyle = 25;
+constexpr std::int32_t kBuildWithNewMirrorList = 38;
+
+constexpr std::int32_t kShowOpenPanel = 2;
+constexpr std::int32_t kOrderOfAdding = 0;
+
+void registerShippedDefaults(UserDefaults& defaults) {
+    const QString path =
+        platform::Bundle::main().pathForResource(QStringLiteral("UserDefaults"), QStringLiteral("plist"));
+    if (const auto shipped = platform::propertyList::readDictionary(path))
+        defaults.registerDefaults(*shipped);
+}
+
+/// Sets `key` when the old switch was turned off by the user, and drops the switch.
+void migrateSwitch(UserDefaults& defaults, const QString& oldKey, std::int32_t whenOff, const QString& key) {
+    if (defaults.hasStoredValue(oldKey) && !defaults.boolForKey(oldKey))
+        defaults.setInteger(whenOff, key);
+    defaults.removeObjectForKey(oldKey);
+}
+
+void migrateSubtitlesStyle(UserDefaults& defaults) {
+    // Without a style the old settings have nowhere to go, and are dropped all the same.
+    auto style = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(defaults, kQVSubtitlesOverlayStyle);
+
+    if (const QString color = defaults.stringForKey(kQVSubtitlesColor); !color.isNull()) {
+        if (style)
+            style->setTextColor(JHColorFromString(color));
+        defaults.removeObjectForKey(kQVSubtitlesColor);
+    }
+    if (const QString fontName = defaults.stringForKey(kQVSubtitlesFontName); !fontName.isNull()) {
+        if (style)
+            style->setTextFontName(fontName);
+        defaults.removeObjectForKey(kQVSubtitlesFontName);
+    }
+    if (const QVariant smallest = defaults.objectForKey(kQVSubtitlesSizeMin); smallest.isValid()) {
+        defaults.setObject(smallest, kQVOverlayTextFontSizeMin);
+        defaults.removeObjectForKey(kQVSubtitlesSizeMin);
+    }
+    if (defaults.objectForKey(kQVSubtitlesSizeMax).isValid()) {
+        if (style)
+            style->setTextFontSize(defaults.integerForKey(kQVSubtitlesSizeMax));
+        defaults.removeObjectForKey(kQVSubtitlesSizeMax);
+    }
+}
+
+void migrate(UserDefaults& defaults) {
+    const std::int32_t current = platform::propertyValue::toInteger(
+        platform::Bundle::main().objectForInfoDictionaryKey(QStringLiteral("CFBundleVersion")));
+    const std::int32_t last = defaults.integerForKey(kQVLastVersionSeen);
+    if (current <= last)
+        return;
+    if (last < kBuildWithoutFirstTimeFlag)
+        defaults.removeObjectForKey(kQVRunFirstTimeConfig);
+    if (last < kBuildWithLaunchActionAndArrangement) {
+        migrateSwitch(defaults, kQVOpenSavedPlaylist, kShowOpenPanel, kQVOnLaunchDefaultAction);
+        migrateSwitch(defaults, kQVSortPlaylist, kOrderOfAdding, kQVPlaylistDefaultArrangement);
+    }
+    if (last < kBuildWithSubtitlesStyle)
+        migrateSubtitlesStyle(defaults);
+    if (last < kBuildWithNewMirrorList)
+        defaults.removeObjectForKey(kLegacyVersionMirrorsKey);
+}
+
+} // namespace
+
+UserDefaults& QVUserDefaults::standardUserDefaults() {
+    static int prepared = 0;
+    UserDefaults& defaults = UserDefaults::standard();
+    if (prepared != UserDefaults::installations()) {
+        prepared = UserDefaults::installations();
+        registerShippedDefaults(defaults);
+        migrate(defaults);
+    }
+    return defaults;
+}

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayView>
+
+namespace platform {
+
+/// Whether a property list (XML or binary) is small enough in size, nesting and number of values to be handed to the
+/// reader, which follows nesting by recursion and copies a shared object at each place that names it. It looks at the
+/// structure alone: a list that passes may still be damaged. Any thread.
+bool isPropertyListWithinLimits(QByteArrayView bytes);
+
+} // namespace platform

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/base/UserDefaults.h"
+
+#include "platform/base/PropertyValue.h"
+
+namespace platform {
+
+namespace {
+
+constexpr double kWriteDelay = 1.0;
+
+UserDefaults* sStandard = nullptr;
+int sInstallations = 0;
+
+bool isSame(const QVariant& left, const QVariant& right) {
+    return left.metaType() == right.metaType() && left == right;
+}
+
+} // namespace
+
+UserDefaults::UserDefaults(std::unique_ptr<SettingsStorage> storage)
+    : _storage(std::move(storage))
+    , _domain(_storage->load()) {}
+
+UserDefaults::~UserDefaults() {
+    synchronize();
+}
+
+UserDefaults& UserDefaults::standard() {
+    Q_ASSERT(sStandard);
+    return *sStandard;
+}
+
+void UserDefaults::setStandard(UserDefaults* defaults) {
+    sStandard = defaults;
+    ++sInstallations;
+}
+
+int UserDefaults::installations() {
+    return sInstallations;
+}
+
+void UserDefaults::registerDefaults(const QVariantMap& defaults) {
+    _registered.insert(defaults);
+}
+
+void UserDefaults::setOverride(const QString& key, const QVariant& value) {
+    if (value.isValid())
+        _overrides.insert(key, value);
+    else
+        _overrides.remove(key);
+}
+
+QVariant UserDefaults::objectForKey(const QString& key) const {
+    for (const QVariantMap* layer : {&_overrides, &_domain, &_registered}) {
+        const auto found = layer->constFind(key);
+        if (found != layer->constEnd())
+            return *found;
+    }
+    return {};
+}
+
+bool UserDefaults::boolForKey(const QString& key) const {
+    return propertyValue::toBool(objectForKey(key));
+}
+
+std::int32_t UserDefaults::integerForKey(const QString& key) const {
+    return propertyValue::toInteger(objectForKey(key));
+}
+
+float UserDefaults::floatForKey(const QString& key) const {
+    return propertyValue::toFloat(objectForKey(key));
+}
+
+QString UserDefaults::stringForKey(const QString& key) const {
+    return propertyValue::toString(objectForKey(key));
+}
+
+QVariantMap UserDefaults::dictionaryForKey(const QString& key) const {
+    return propertyValue::toDictionary(objectForKey(key));
+}
+
+QVariantList UserDefaults::arrayForKey(const QString& key) const {
+    const QVariant value = objectForKey(key);
+    const int type = value.typeId();
+    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
+}
+
+QStringList UserDefaults::stringArrayForKey(const QString& key) const {
+    QStringList strings;
+    for (const QVariant& element : arrayForKey(key)) {
+        if (element.typeId() == QMetaType::QString)
+            strings.append(element.toString());
+    }
+    return strings;
+}
+
+QDateTime UserDefaults::dateForKey(const QString& key) const {
+    const QVariant value = objectForKey(key);
+    return value.typeId() == QMetaType::QDateTime ? value.toDateTime() : QDateTime();
+}
+
+void UserDefaults::setObject(const QVariant& value, const QString& key) {
+    if (!value.isValid()) {
+        removeObjectForKey(key);
+        return;
+    }
+    _overrides.remove(key);
+    const auto found = _domain.constFind(key);
+    if (found != _domain.constEnd() && isSame(*found, value))
+        return;
+    _domain.insert(key, value);
+    scheduleWrite();
+}
+
+void UserDefaults::removeObjectForKey(const QString& key) {
+    _overrides.remove(key);
+    if (_domain.remove(key) > 0)
+        scheduleWrite();
+}
+
+bool UserDefaults::hasStoredValue(const QString& key) const {
+    return _overrides.contains(key) || _domain.contains(key);
+}
+
+bool UserDefaults::synchronize() {
+    _writeTimer.reset();
+    if (_changed && _storage->store(_domain))
+        _changed = false;
+    return !_changed;
+}
+
+void UserDefaults::scheduleWrite() {
+    _changed = true;
+    // Not moved by later changes: what changes all the time is written all the same.
+    if (!_writeTimer || !_writeTimer->isValid())
+        _writeTimer = RunLoop::main().schedule(kWriteDelay, false, [this] { synchronize(); });
+}
+
+} // namespace platform
