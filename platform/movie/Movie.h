@@ -39,7 +39,7 @@ inline constexpr std::int16_t fileNotFound = -43;
 inline constexpr std::int16_t permissionDenied = -5000;
 inline constexpr std::int16_t couldNotOpen = -2000;
 /// No stream of the file is one that can be played.
-inline constexpr std::int16_t invalidMovie = -2008 - 1; // distinct from cannotPlay, for which the user is asked
+inline constexpr std::int16_t invalidMovie = -2010;
 /// The movie opened, but nothing here decodes its picture: it may be kept for its sound.
 inline constexpr std::int16_t cannotPlay = -2008;
 inline constexpr std::int16_t timedOut = -5016;

@@ -186,7 +186,13 @@ void MovieView::playerPictureChanged() {
     setNeedsDisplayInRect(pictureRect());
 }
 
+void MovieView::playingChanged(bool) {}
+
 void MovieView::playerStateChanged() {
+    if (const bool playing = isPlaying(); playing != _wasPlaying) {
+        _wasPlaying = playing;
+        playingChanged(playing);
+    }
     if (!_controllerVisible)
         return;
     const QRectF bar = controllerRect();

@@ -64,6 +64,8 @@ protected:
     MoviePlayer& player() const { return _player; }
     /// True while a press in the controller bar is being followed.
     bool isTrackingController() const { return _tracking; }
+    /// The movie began to play, or stopped, for whatever reason. Does nothing by default.
+    virtual void playingChanged(bool playing);
 
 private:
     void playerPictureChanged() override;
@@ -79,6 +81,7 @@ private:
     ControllerBar::State _shownState;
     bool _controllerVisible = true;
     bool _tracking = false;
+    bool _wasPlaying = false;
 };
 
 } // namespace platform

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/FirstPicture.h"
+
+#include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/MovieProbe.h"
+
+namespace platform {
+
+namespace {
+
+// A movie whose first picture does not come within this many packets has none that is worth waiting for.
+constexpr int packetLimit = 64;
+
+struct Freed {
+    void operator()(AVFormatContext* context) const { AvLibrary::get()->avformat_close_input(&context); }
+    void operator()(AVCodecContext* context) const { AvLibrary::get()->avcodec_free_context(&context); }
+    void operator()(AVPacket* packet) const { AvLibrary::get()->av_packet_free(&packet); }
+    void operator()(AVFrame* frame) const { AvLibrary::get()->av_frame_free(&frame); }
+};
+
+int isCancelled(void* flag) { return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0; }
+
+bool isPlain(const AVStream* stream, const AVFrame* frame) {
+    return !AvLibrary::get()->av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr) &&
+           frame->color_trc != AVCOL_TRC_SMPTE2084 && frame->color_trc != AVCOL_TRC_ARIB_STD_B67 &&
+           !frame->hw_frames_ctx;
+}
+
+bool isFull(const AVFrame* frame) {
+    return frame->color_range == AVCOL_RANGE_JPEG || frame->format == AV_PIX_FMT_YUVJ420P ||
+           frame->format == AV_PIX_FMT_YUVJ422P || frame->format == AV_PIX_FMT_YUVJ444P;
+}
+
+/// Movies that do not say are taken as the player takes them: high definition is BT.709, the rest BT.601.
+int colorMatrix(const AVFrame* frame) {
+    if (frame->colorspace != AVCOL_SPC_UNSPECIFIED)
+        return frame->colorspace;
+    return frame->width >= 1280 || frame->height > 576 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
+}
+
+} // namespace
+
+FirstPicture::~FirstPicture() { AvLibrary::get()->av_frame_free(&_frame); }
+
+std::shared_ptr<const FirstPicture> FirstPicture::decode(const QUrl& url, const std::atomic<bool>& cancelled) {
+    const AvLibrary* av = AvLibrary::get();
+    if (!av || !url.isLocalFile())
+        return nullptr;
+    AVFormatContext* context = av->avformat_alloc_context();
+    if (!context)
+        return nullptr;
+    context->interrupt_callback = {&isCancelled, const_cast<std::atomic<bool>*>(&cancelled)};
+    if (av->avformat_open_input(&context, addressOf(url).constData(), nullptr, nullptr) < 0)
+        return nullptr;
+    const std::unique_ptr<AVFormatContext, Freed> input(context);
+
+    const AVStream* video = nullptr;
+    for (unsigned i = 0; i < input->nb_streams && !video; ++i) {
+        const AVStream* stream = input->streams[i];
+        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC))
+            video = stream;
+    }
+    const AVCodec* codec = video ? av->avcodec_find_decoder(video->codecpar->codec_id) : nullptr;
+    const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
+    if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)
+        return nullptr;
+    // With one thread and low delay the picture comes out with its packet where no reordering holds it back.
+    decoder->thread_count = 1;
+    decoder->flags |= AV_CODEC_FLAG_LOW_DELAY;
+    if (av->avcodec_open2(decoder.get(), codec, nullptr) < 0)
+        return nullptr;
+
+    const std::unique_ptr<AVPacket, Freed> packet(av->av_packet_alloc());
+    std::unique_ptr<AVFrame, Freed> frame(av->av_frame_alloc());
+    bool sent = false;
+    for (int i = 0; i < packetLimit && !cancelled.load(); ++i) {
+        const bool ended = av->av_read_frame(input.get(), packet.get()) < 0;
+        const bool ours = !ended && packet->stream_index == video->index;
+        if (ours)
+            sent = av->avcodec_send_packet(decoder.get(), packet.get()) >= 0;
+        av->av_packet_unref(packet.get());
+        // The first picture is all that is wanted: the decoder is told that nothing follows it.
+        if ((ours && sent) || ended)
+            av->avcodec_send_packet(decoder.get(), nullptr);
+        if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0)
+            return isPlain(video, frame.get()) ? std::make_shared<const FirstPicture>(frame.release()) : nullptr;
+        if (ended || sent)
+            return nullptr;
+    }
+    return nullptr;
+}
+
+bool FirstPicture::render(const QSize& size, unsigned char* pixels, std::size_t stride) const {
+    const AvLibrary& av = *AvLibrary::get();
+    SwsContext* scaler = av.sws_getContext(_frame->width, _frame->height, static_cast<AVPixelFormat>(_frame->format),
+                                           size.width(), size.height(), AV_PIX_FMT_BGR0, SWS_BILINEAR, nullptr, nullptr,
+                                           nullptr);
+    if (!scaler)
+        return false;
+    const int* matrix = av.sws_getCoefficients(colorMatrix(_frame));
+    av.sws_setColorspaceDetails(scaler, matrix, isFull(_frame) ? 1 : 0, matrix, 1, 0, 1 << 16, 1 << 16);
+    std::uint8_t* const planes[] = {pixels};
+    const int strides[] = {static_cast<int>(stride)};
+    const int lines = av.sws_scale(scaler, _frame->data, _frame->linesize, 0, _frame->height, planes, strides);
+    av.sws_freeContext(scaler);
+    return lines == size.height();
+}
+
+} // namespace platform

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSize>
+#include <QUrl>
+
+#include <atomic>
+#include <cstddef>
+#include <memory>
+
+struct AVFrame;
+
+namespace platform {
+
+/// The first picture of a movie, decoded without the player: it stands on the screen while the player is still starting.
+class FirstPicture {
+public:
+    /// Decodes it; null where that is not simple (rotated, high dynamic range, nothing decoded soon). Any thread.
+    static std::shared_ptr<const FirstPicture> decode(const QUrl& url, const std::atomic<bool>& cancelled);
+    explicit FirstPicture(AVFrame* frame)
+        : _frame(frame) {}
+    FirstPicture(const FirstPicture&) = delete;
+    FirstPicture& operator=(const FirstPicture&) = delete;
+    ~FirstPicture();
+
+    /// Scales it to `size` pixels of blue, green, red, unused; false when that failed.
+    bool render(const QSize& size, unsigned char* pixels, std::size_t stride) const;
+
+private:
+    AVFrame* _frame;
+};
+
+} // namespace platform

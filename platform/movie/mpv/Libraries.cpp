@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/Libraries.h"
+
+#include "platform/base/Log.h"
+
+#include <QStringList>
+
+#include <dlfcn.h>
+
+#include <initializer_list>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+#define LUMARO_TEXT_OF(x) #x
+#define LUMARO_TEXT(x) LUMARO_TEXT_OF(x)
+
+class SharedLibraries {
+public:
+    explicit SharedLibraries(std::initializer_list<const char*> names) {
+        for (const char* name : names) {
+            void* handle = dlopen(name, RTLD_LAZY | RTLD_LOCAL);
+            if (!handle)
+                fail(dlerror());
+            else
+                _handles.push_back(handle);
+        }
+    }
+
+    template <class Function>
+    void resolve(Function& function, const char* name) {
+        for (void* handle : _handles) {
+            if (void* address = dlsym(handle, name)) {
+                function = reinterpret_cast<Function>(address);
+                return;
+            }
+        }
+        fail(name);
+    }
+
+    bool isComplete() const { return _complete; }
+
+private:
+    void fail(const char* what) {
+        _complete = false;
+        Log::write(QStringLiteral("ERROR: Can't load the movie libraries: %1").arg(QString::fromUtf8(what)));
+    }
+
+    std::vector<void*> _handles; // never closed: the libraries keep threads and tables of their own
+    bool _complete = true;
+};
+
+} // namespace
+
+const AvLibrary* AvLibrary::get() {
+    static const AvLibrary* const loaded = []() -> const AvLibrary* {
+        static AvLibrary library;
+        SharedLibraries files{"libavutil.so." LUMARO_TEXT(LIBAVUTIL_VERSION_MAJOR),
+                              "libavcodec.so." LUMARO_TEXT(LIBAVCODEC_VERSION_MAJOR),
+                              "libavformat.so." LUMARO_TEXT(LIBAVFORMAT_VERSION_MAJOR),
+                              "libswscale.so." LUMARO_TEXT(LIBSWSCALE_VERSION_MAJOR)};
+#define X(name) files.resolve(library.name, #name);
+        LUMARO_AV_FUNCTIONS(X)
+#undef X
+        if (!files.isComplete())
+            return nullptr;
+        library.av_log_set_level(AV_LOG_QUIET);
+        return &library;
+    }();
+    return loaded;
+}
+
+const MpvLibrary* MpvLibrary::get() {
+    static const MpvLibrary* const loaded = []() -> const MpvLibrary* {
+        static MpvLibrary library;
+        // Loading a library resolves its names among all that it depends on. Done level by level these searches are
+        // short; in one go they take half as long again. It does not matter whether these two are there.
+        for (const char* dependency : {"libavfilter.so.8", "libavdevice.so.59"})
+            dlopen(dependency, RTLD_LAZY | RTLD_LOCAL);
+        SharedLibraries files{"libmpv.so.2"};
+        static_assert(MPV_CLIENT_API_VERSION >> 16 == 2);
+#define X(name) files.resolve(library.name, #name);
+        LUMARO_MPV_FUNCTIONS(X)
+#undef X
+        return files.isComplete() ? &library : nullptr;
+    }();
+    return loaded;
+}
+
+} // namespace platform

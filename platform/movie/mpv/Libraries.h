@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavutil/display.h>
+#include <libavutil/imgutils.h>
+#include <libswscale/swscale.h>
+}
+#include <mpv/client.h>
+#include <mpv/render.h>
+#include <mpv/render_gl.h>
+
+namespace platform {
+
+// The libraries are loaded at run time instead of being linked: resolving the more than two hundred libraries behind libmpv
+// takes as long as everything else at the start together, and on a thread of its own it costs the start nothing. They are
+// loaded in the order in which they are needed: the readers first, so that a movie is open, and its first picture decoded,
+// while the player is still being loaded.
+
+#define LUMARO_AV_FUNCTIONS(X)                                                                                         \
+    X(avformat_alloc_context)                                                                                          \
+    X(avformat_open_input)                                                                                             \
+    X(avformat_find_stream_info)                                                                                       \
+    X(avformat_close_input)                                                                                            \
+    X(avformat_free_context)                                                                                           \
+    X(av_guess_sample_aspect_ratio)                                                                                    \
+    X(av_stream_get_side_data)                                                                                         \
+    X(av_read_frame)                                                                                                   \
+    X(avcodec_find_decoder)                                                                                            \
+    X(avcodec_alloc_context3)                                                                                          \
+    X(avcodec_free_context)                                                                                            \
+    X(avcodec_parameters_to_context)                                                                                   \
+    X(avcodec_open2)                                                                                                   \
+    X(avcodec_send_packet)                                                                                             \
+    X(avcodec_receive_frame)                                                                                           \
+    X(av_packet_alloc)                                                                                                 \
+    X(av_packet_unref)                                                                                                 \
+    X(av_packet_free)                                                                                                  \
+    X(av_frame_alloc)                                                                                                  \
+    X(av_frame_free)                                                                                                   \
+    X(av_display_rotation_get)                                                                                         \
+    X(av_rescale_q)                                                                                                    \
+    X(av_dict_set)                                                                                                     \
+    X(av_dict_free)                                                                                                    \
+    X(av_log_set_level)                                                                                                \
+    X(sws_getContext)                                                                                                  \
+    X(sws_scale)                                                                                                       \
+    X(sws_freeContext)                                                                                                 \
+    X(sws_getCoefficients)                                                                                             \
+    X(sws_setColorspaceDetails)
+
+#define LUMARO_MPV_FUNCTIONS(X)                                                                                        \
+    X(mpv_create)                                                                                                      \
+    X(mpv_initialize)                                                                                                  \
+    X(mpv_terminate_destroy)                                                                                           \
+    X(mpv_set_option_string)                                                                                           \
+    X(mpv_command_async)                                                                                               \
+    X(mpv_set_property_async)                                                                                          \
+    X(mpv_observe_property)                                                                                            \
+    X(mpv_wait_event)                                                                                                  \
+    X(mpv_request_log_messages)                                                                                        \
+    X(mpv_set_wakeup_callback)                                                                                         \
+    X(mpv_error_string)                                                                                                \
+    X(mpv_render_context_create)                                                                                       \
+    X(mpv_render_context_set_update_callback)                                                                          \
+    X(mpv_render_context_update)                                                                                       \
+    X(mpv_render_context_render)                                                                                       \
+    X(mpv_render_context_report_swap)                                                                                  \
+    X(mpv_render_context_free)
+
+/// libavformat, libavcodec, libavutil and libswscale.
+struct AvLibrary {
+#define X(name) decltype(&::name) name = nullptr;
+    LUMARO_AV_FUNCTIONS(X)
+#undef X
+    /// The loaded library, or null when it cannot be loaded (a message was logged). Blocks while it is being loaded. Any thread.
+    static const AvLibrary* get();
+};
+
+/// libmpv.
+struct MpvLibrary {
+#define X(name) decltype(&::name) name = nullptr;
+    LUMARO_MPV_FUNCTIONS(X)
+#undef X
+    static const MpvLibrary* get();
+};
+
+} // namespace platform

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/MovieProbe.h"
+
+#include "platform/movie/mpv/Libraries.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+namespace platform {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct Deadline {
+    Clock::time_point end;
+    const std::atomic<bool>& cancelled;
+    bool timedOut = false;
+
+    static int interrupt(void* opaque) {
+        auto* self = static_cast<Deadline*>(opaque);
+        if (Clock::now() >= self->end)
+            self->timedOut = true;
+        return self->timedOut || self->cancelled.load(std::memory_order_relaxed) ? 1 : 0;
+    }
+};
+
+struct CloseInput {
+    void operator()(AVFormatContext* context) const { AvLibrary::get()->avformat_close_input(&context); }
+};
+using Input = std::unique_ptr<AVFormatContext, CloseInput>;
+
+std::int16_t errorOf(int code) {
+    switch (code) {
+    case AVERROR(ENOENT):
+    case AVERROR_HTTP_NOT_FOUND:
+        return movieError::fileNotFound;
+    case AVERROR(EACCES):
+    case AVERROR(EPERM):
+    case AVERROR_HTTP_FORBIDDEN:
+    case AVERROR_HTTP_UNAUTHORIZED:
+        return movieError::permissionDenied;
+    case AVERROR(ETIMEDOUT):
+    case AVERROR_EXIT:
+        return movieError::timedOut;
+    case AVERROR_PROTOCOL_NOT_FOUND:
+        return movieError::noMediaHandler;
+    default:
+        return movieError::couldNotOpen;
+    }
+}
+
+/// A file that would block or that is no file is refused before the libraries see it: opening a FIFO waits for a writer.
+std::int16_t checkFile(const QUrl& url) {
+    struct stat status{};
+    if (::stat(QFile::encodeName(url.toLocalFile()).constData(), &status) != 0)
+        return errorOf(AVERROR(errno));
+    if (!S_ISREG(status.st_mode) && !S_ISBLK(status.st_mode))
+        return movieError::couldNotOpen;
+    return movieError::none;
+}
+
+bool isPicture(const AVStream* stream) {
+    return stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC);
+}
+
+const AVStream* firstPictureStream(const AVFormatContext* input) {
+    for (unsigned i = 0; i < input->nb_streams; ++i) {
+        if (isPicture(input->streams[i]))
+            return input->streams[i];
+    }
+    return nullptr;
+}
+
+const AVStream* firstSoundStream(const AVFormatContext* input) {
+    for (unsigned i = 0; i < input->nb_streams; ++i) {
+        if (input->streams[i]->codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
+            return input->streams[i];
+    }
+    return nullptr;
+}
+
+bool isKnown(AVRational rate) { return rate.num > 0 && rate.den > 0; }
+
+double durationInSeconds(const AVFormatContext* input) {
+    if (input->duration > 0)
+        return static_cast<double>(input->duration) / AV_TIME_BASE;
+    double longest = 0;
+    for (unsigned i = 0; i < input->nb_streams; ++i) {
+        const AVStream* stream = input->streams[i];
+        if (stream->duration > 0)
+            longest = std::max(longest, static_cast<double>(stream->duration) * av_q2d(stream->time_base));
+    }
+    return longest;
+}
+
+/// Whether the header alone told all that MovieInfo holds.
+bool isComplete(const AVFormatContext* input) {
+    if (input->nb_streams == 0 || (input->ctx_flags & AVFMTCTX_NOHEADER) || durationInSeconds(input) <= 0)
+        return false;
+    for (unsigned i = 0; i < input->nb_streams; ++i) {
+        const AVStream* stream = input->streams[i];
+        if (stream->codecpar->codec_id == AV_CODEC_ID_NONE && stream->codecpar->codec_type <= AVMEDIA_TYPE_AUDIO)
+            return false;
+    }
+    const AVStream* video = firstPictureStream(input);
+    if (!video)
+        return firstSoundStream(input) != nullptr;
+    return video->codecpar->width > 0 && video->codecpar->height > 0 &&
+           (video->nb_frames > 0 || isKnown(video->avg_frame_rate));
+}
+
+QSizeF displayedSize(AVFormatContext* input, const AVStream* video) {
+    const AvLibrary& av = *AvLibrary::get();
+    double width = video->codecpar->width;
+    double height = video->codecpar->height;
+    const AVRational aspect = av.av_guess_sample_aspect_ratio(input, const_cast<AVStream*>(video), nullptr);
+    if (isKnown(aspect)) {
+        // The picture is stretched, never shrunk, as the player does it.
+        if (aspect.num > aspect.den)
+            width = std::round(width * av_q2d(aspect));
+        else
+            height = std::round(height / av_q2d(aspect));
+    }
+    if (const std::uint8_t* matrix = av.av_stream_get_side_data(video, AV_PKT_DATA_DISPLAYMATRIX, nullptr)) {
+        const double angle = av.av_display_rotation_get(reinterpret_cast<const std::int32_t*>(matrix));
+        if (!std::isnan(angle) && std::lround(std::fabs(angle) / 90.0) % 2 == 1)
+            std::swap(width, height);
+    }
+    return {width, height};
+}
+
+std::int32_t chooseTimeScale(AVRational timeBase, double seconds) {
+    constexpr double largest = std::numeric_limits<std::int32_t>::max();
+    std::int32_t scale = timeBase.den > 0 ? timeBase.den : 600;
+    while (scale > 1 && seconds * scale > largest)
+        scale /= 2;
+    return scale;
+}
+
+MovieInfo describe(AVFormatContext* input, const AVStream* video, bool hasAudio) {
+    constexpr double largest = std::numeric_limits<std::int32_t>::max();
+    MovieInfo info;
+    const double seconds = durationInSeconds(input);
+    info.hasAudio = hasAudio;
+    info.hasVideo = video != nullptr;
+    info.timeScale = chooseTimeScale(video ? video->time_base : AVRational{1, 600}, seconds);
+    info.duration = static_cast<std::int32_t>(std::min(std::round(seconds * info.timeScale), largest));
+    if (!video)
+        return info;
+    info.naturalSize = displayedSize(input, video);
+    const AVRational rate = isKnown(video->avg_frame_rate) ? video->avg_frame_rate : video->r_frame_rate;
+    double count = static_cast<double>(video->nb_frames);
+    if (count <= 0 && isKnown(rate))
+        count = std::round(seconds * av_q2d(rate));
+    info.videoSampleCount = static_cast<std::uint32_t>(std::clamp(count, 0.0, 4294967295.0));
+    if (isKnown(rate))
+        info.frameDuration = info.timeScale / av_q2d(rate);
+    else if (count > 0)
+        info.frameDuration = info.duration / count;
+    return info;
+}
+
+} // namespace
+
+bool isNetworkURL(const QUrl& url) { return !url.isLocalFile() && !url.scheme().isEmpty(); }
+
+QByteArray addressOf(const QUrl& url) {
+    return url.isLocalFile() ? "file:" + QFile::encodeName(url.toLocalFile()) : url.toEncoded();
+}
+
+ProbeResult probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled) {
+    const AvLibrary* av = AvLibrary::get();
+    if (!av)
+        return {std::nullopt, movieError::noMediaHandler};
+    if (url.isLocalFile()) {
+        if (const std::int16_t error = checkFile(url))
+            return {std::nullopt, error};
+    }
+
+    Deadline deadline{Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout)),
+                      cancelled};
+    AVFormatContext* context = av->avformat_alloc_context();
+    if (!context)
+        return {std::nullopt, movieError::couldNotOpen};
+    context->interrupt_callback = {&Deadline::interrupt, &deadline};
+    AVDictionary* options = nullptr;
+    if (isNetworkURL(url))
+        av->av_dict_set(&options, "rw_timeout", QByteArray::number(static_cast<qint64>(timeout * 1e6)).constData(), 0);
+    // On failure the context is freed by the library.
+    const int opened = av->avformat_open_input(&context, addressOf(url).constData(), nullptr, &options);
+    av->av_dict_free(&options);
+    if (opened < 0)
+        return {std::nullopt, deadline.timedOut ? movieError::timedOut : errorOf(opened)};
+    const Input input(context);
+
+    if (!isComplete(input.get())) {
+        const int found = av->avformat_find_stream_info(input.get(), nullptr);
+        if (found < 0)
+            return {std::nullopt, deadline.timedOut ? movieError::timedOut : errorOf(found)};
+    }
+
+    const AVStream* video = firstPictureStream(input.get());
+    const AVStream* audio = firstSoundStream(input.get());
+    const bool seen = video && video->codecpar->width > 0 && av->avcodec_find_decoder(video->codecpar->codec_id);
+    const bool heard = audio && av->avcodec_find_decoder(audio->codecpar->codec_id);
+    if (!seen && !heard)
+        return {std::nullopt, movieError::invalidMovie};
+    MovieInfo info = describe(input.get(), seen ? video : nullptr, heard);
+    info.url = url;
+    return {std::move(info), video && !seen ? movieError::cannotPlay : movieError::none};
+}
+
+} // namespace platform

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/mpv/FirstPicture.h"
+#include "platform/window/PictureLayer.h"
+
+#include <QSizeF>
+
+#include <memory>
+#include <utility>
+
+namespace platform {
+
+class MpvCore;
+
+/// The picture of the core, rendered into the host's pixels or framebuffer. Until the core has one of the movie, the first picture
+/// that was decoded while the movie was opened stands in its place. Main thread.
+class MpvPicture final : public PictureLayer {
+public:
+    void setCore(MpvCore* core) { _core = core; }
+    /// A movie of that displayed size was loaded: no picture of the core's is of it yet.
+    void begin(const QSizeF& naturalSize);
+    void setFirst(std::shared_ptr<const FirstPicture> first) { _first = std::move(first); }
+    /// The core's picture is of the movie from here on.
+    void corePictureReady() { _coreHasPicture = true; }
+    bool hasCorePicture() const { return _coreHasPicture; }
+
+    bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) override;
+    bool beginGL(GetProcAddress getProcAddress) override;
+    void endGL() override;
+    bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) override;
+    void skip() override;
+
+private:
+    void setCrop(const QRect& picture, const QRect& visible);
+    void setProperty(const char* name, double value);
+
+    MpvCore* _core = nullptr;
+    bool _coreHasPicture = false;
+    std::shared_ptr<const FirstPicture> _first;
+    QSizeF _naturalSize;
+    QRect _cropPicture;
+    QRect _cropVisible;
+};
+
+} // namespace platform

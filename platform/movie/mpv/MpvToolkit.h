@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/MovieToolkit.h"
+#include "platform/movie/mpv/MovieProbe.h"
+#include "platform/movie/mpv/MpvPlayer.h"
+
+#include <atomic>
+#include <future>
+#include <memory>
+#include <thread>
+
+namespace platform {
+
+/// The movie toolkit on libmpv and libavformat.
+class MpvToolkit final : public MovieToolkit {
+public:
+    MpvToolkit();
+    ~MpvToolkit() override;
+
+    /// Starts to load the libraries on a thread and, with a URL, to open it and decode its first picture: what the first open() and load will ask
+    /// for. Needs no application object yet; call it as early as possible.
+    void prepare(const QUrl& url);
+
+    /// enter() needs the application object: the player's core is made on a thread from here on.
+    void enter() override;
+    void exit() override;
+    std::optional<MovieInfo> open(const QUrl& url) override;
+    std::int16_t stickyError() const override { return _stickyError; }
+    void clearStickyError() override { _stickyError = movieError::none; }
+    MoviePlayer& player() override;
+
+private:
+    ProbeResult probeWhileRunning(const QUrl& url);
+
+    std::atomic<bool> _cancelled{false};
+    QUrl _preparedUrl;
+    std::future<ProbeResult> _prepared;
+    PreparedPicture _firstPicture;
+    std::thread _preparer;
+    std::thread _coreMaker;
+    std::unique_ptr<MpvPlayer> _player;
+    std::int16_t _stickyError = movieError::none;
+};
+
+} // namespace platform
