@@ -23,12 +23,12 @@ struct QVMovieInterestingTimeNotification {
     std::shared_ptr<QVMovie> movie;
 };
 
-/// One open movie as the player sees it: times, frame count and rate, ordering, and the subtitle tracks found beside it. Times are counts of units
-/// of the movie's time scale. Main thread.
+/// One open movie as the player sees it: times, frame count and rate, ordering, and the subtitle tracks found beside
+/// it. Times are counts of units of the movie's time scale. Main thread.
 class QVMovie final : public platform::Movie, public SubtitleOwner, public std::enable_shared_from_this<QVMovie> {
 public:
-    /// Opens a movie through the shared toolkit; none when it cannot be opened. The toolkit's sticky error stays for the caller to read. Finds
-    /// subtitle files when QVAutoloadSubtitles is on.
+    /// Opens a movie through the shared toolkit; none when it cannot be opened. The toolkit's sticky error stays for
+    /// the caller to read. Finds subtitle files when QVAutoloadSubtitles is on.
     static std::shared_ptr<QVMovie> movieWithURL(const QUrl& url);
     static std::shared_ptr<QVMovie> movieWithFilePath(const QString& path);
     /// From what the toolkit found; neither logs nor looks for subtitles.

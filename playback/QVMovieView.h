@@ -5,6 +5,7 @@
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MovieView.h"
+#include "playback/MovieSizing.h"
 
 #include <cstdint>
 #include <memory>
@@ -22,27 +23,6 @@ struct QVMovieVolumeChangedNotification {
     QVMovieView* view;
 };
 
-/// The codes of QVDefaultMovieSize and of the movie menu's size items.
-namespace movieSize {
-inline constexpr std::int32_t smaller = -3;
-inline constexpr std::int32_t bigger = -2;
-inline constexpr std::int32_t half = 0;
-inline constexpr std::int32_t normal = 1;
-inline constexpr std::int32_t twice = 2;
-inline constexpr std::int32_t fitScreen = 3;
-inline constexpr std::int32_t fitWidth = 4;
-inline constexpr std::int32_t fitHeight = 5;
-inline constexpr std::int32_t custom = 6;
-} // namespace movieSize
-
-/// The edges towards which the picture is panned; a corner sets two.
-namespace panDirection {
-inline constexpr int left = 1;
-inline constexpr int right = 2;
-inline constexpr int top = 16;
-inline constexpr int bottom = 32;
-} // namespace panDirection
-
 /// Takes what is dragged onto the movie (the application controller).
 class DropTarget {
 public:
@@ -52,7 +32,8 @@ public:
     virtual bool performDragOperation(const platform::DraggingInfo& info) = 0;
 };
 
-/// The view that shows the current movie: size codes, magnification, jumps, panning, volume. Frame and sizes are points. Main thread.
+/// The view that shows the current movie: size codes, magnification, jumps, panning, volume. Frame and sizes are
+/// points. Main thread.
 class QVMovieView final : public platform::MovieView {
 public:
     explicit QVMovieView(platform::MoviePlayer& player);
@@ -64,7 +45,8 @@ public:
 
     std::int32_t movieSize() const { return _size; }
     enum class Recalculation { ifChanged, forced };
-    /// Takes a size code (namespace movieSize; unknown ones count as fitScreen), lays the view out centred in the window and keeps the code in the settings.
+    /// Takes a size code (namespace movieSize; unknown ones count as fitScreen), lays the view out centred in the
+    /// window and keeps the code in the settings.
     void setMovieSize(std::int32_t code, Recalculation recalculation);
     /// The frame's width by the natural width; 0 without a movie.
     float magnification() const;
@@ -89,7 +71,8 @@ public:
     QString volumeInfoAsString() const;
     QString mutedInfoAsString() const;
 
-    /// Pans by pointer deltas (dy grows downwards) as far as no gap opens at the window's edges; whether anything moved.
+    /// Pans by pointer deltas (dy grows downwards) as far as no gap opens at the window's edges; whether anything
+    /// moved.
     bool scroll(float dx, float dy);
     void startAutoscroll(int direction);
     void stopAutoscroll(int direction);
@@ -103,7 +86,12 @@ public:
     std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
+protected:
+    void playingChanged(bool playing) override;
+
 private:
+    MovieSizing::Geometry geometry() const;
+    void showControllerBySetting();
     void autoscroll();
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);

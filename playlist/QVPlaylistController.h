@@ -3,6 +3,7 @@
 
 #include "app/settings/QVPreferencesChangedNotification.h"
 #include "platform/base/NotificationCenter.h"
+#include "playlist/Arrangement.h"
 
 #include <QList>
 #include <QString>
@@ -10,6 +11,7 @@
 #include <QUrl>
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -25,13 +27,6 @@ struct QVPlaylistChangedNotification {
 struct QVPlaylistLoopingChangedNotification {
     QVPlaylistController* playlist;
 };
-
-/// The values of the looping mode.
-namespace looping {
-inline constexpr std::int32_t off = 0;
-inline constexpr std::int32_t one = 1;
-inline constexpr std::int32_t all = 2;
-} // namespace looping
 
 /// The position that means none.
 inline constexpr std::uint32_t NSNotFound = 0x7FFFFFFF;
@@ -49,7 +44,8 @@ public:
     ~QVPlaylistController();
 
     /// Opens each URL as a movie and adds those that can be played; the others are reported. True when at least one was
-    /// added.
+    /// added. The event loop may run meanwhile (alerts, network URLs): an add that is asked for then is carried out
+    /// after this one, and answers false.
     bool addURLs(const QList<QUrl>& urls, Adding adding, Starting starting);
 
     std::uint32_t count() const { return static_cast<std::uint32_t>(_playlist.size()); }
@@ -87,6 +83,18 @@ public:
     void onPlaylistEnd();
 
 private:
+    struct Request {
+        QList<QUrl> urls;
+        Adding adding;
+        Starting starting;
+        bool reportsError;
+    };
+    bool add(const Request& request);
+    std::vector<std::shared_ptr<QVMovie>> openMovies(const Request& request);
+    bool shouldKeep(const std::shared_ptr<QVMovie>& movie, const QUrl& url, bool reportsError) const;
+    void takeIn(std::vector<std::shared_ptr<QVMovie>> movies, const Request& request);
+    void offerToOpenOthers(bool failed);
+    Arrangement::Place place() const { return {_index, count(), _looping}; }
     void movieDidComplete(const QVMovieCompleteNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
 
@@ -98,6 +106,8 @@ private:
     bool _auto_play;
     bool _auto_next;
     bool _auto_quit;
+    bool _is_adding = false;
+    std::deque<Request> _waiting;
     /// Ends what was put off to the next pass when the playlist goes away.
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);
     platform::Subscription _movieComplete;

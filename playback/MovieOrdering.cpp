@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playback/MovieOrdering.h"
+
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "platform/base/StringComparison.h"
+
+MovieOrdering MovieOrdering::fromSettings() {
+    const platform::UserDefaults& defaults = QVUserDefaults::standardUserDefaults();
+    return {defaults.boolForKey(kQVSortOnlyFilenames), defaults.boolForKey(kQVSortNumerically)};
+}
+
+QString MovieOrdering::key(const QUrl& url) const {
+    return onlyFileNames ? fileNameOfURL(url) : url.path(QUrl::FullyDecoded);
+}
+
+int MovieOrdering::compare(const QString& leftKey, const QString& rightKey) const {
+    return platform::compareCaseInsensitively(leftKey, rightKey, numerically);
+}
+
+QString fileNameOfURL(const QUrl& url) {
+    QString path = url.path(QUrl::FullyDecoded);
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}

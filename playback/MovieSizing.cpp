@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playback/MovieSizing.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace MovieSizing {
+
+namespace {
+
+constexpr float controllerHeight = 16;
+constexpr float magnificationStep = 0.1F;
+/// Compared in double precision with the magnification.
+constexpr double smallestToShrink = 0.19;
+constexpr float panPoints = 4;
+
+bool hasPicture(const Geometry& geometry) {
+    return geometry.natural.width() > 0 && geometry.natural.height() > 0;
+}
+
+QSizeF customSize(const Geometry& geometry) {
+    return geometry.customScale > 0 ? sizeForMagnification(geometry, geometry.customScale)
+                                    : sizeForFitScreen(geometry, movieSize::custom);
+}
+
+} // namespace
+
+float magnification(const QSizeF& view, const QSizeF& natural) {
+    return natural.width() > 0 ? static_cast<float>(view.width()) / static_cast<float>(natural.width()) : 0.0F;
+}
+
+QSizeF sizeForMagnification(const Geometry& geometry, float m) {
+    const float bar = geometry.controllerVisible ? controllerHeight : 0.0F;
+    return QSizeF(static_cast<float>(geometry.natural.width()) * m,
+                  static_cast<float>(geometry.natural.height()) * m + bar);
+}
+
+QSizeF sizeForFitScreen(const Geometry& geometry, std::int32_t mode) {
+    const float bar = geometry.controllerVisible ? controllerHeight : 0.0F;
+    const auto width = static_cast<float>(geometry.window.width());
+    const float height = static_cast<float>(geometry.window.height()) - bar;
+    if (!hasPicture(geometry))
+        return QSizeF(width, bar);
+    const float aspect = static_cast<float>(geometry.natural.width()) / static_cast<float>(geometry.natural.height());
+    if ((mode == movieSize::fitScreen && aspect > width / height) || mode == movieSize::fitWidth)
+        return QSizeF(width, width / aspect + bar);
+    return QSizeF(aspect * height, height + bar);
+}
+
+Plan planSize(std::int32_t code, const QSizeF& current, const Geometry& geometry) {
+    const float m = magnification(current, geometry.natural);
+    switch (code) {
+    case movieSize::smaller: {
+        // Without a picture there is no magnification to change, and none to be kept for the next movie.
+        if (!hasPicture(geometry) || !(static_cast<double>(m) > smallestToShrink))
+            return {movieSize::custom, current, std::nullopt};
+        Geometry shrunk = geometry;
+        shrunk.customScale = m - magnificationStep;
+        return {movieSize::custom, customSize(shrunk), shrunk.customScale};
+    }
+    case movieSize::bigger: {
+        if (!hasPicture(geometry))
+            return {movieSize::custom, current, std::nullopt};
+        const float grown = m + magnificationStep;
+        return {movieSize::custom, sizeForMagnification(geometry, grown), grown};
+    }
+    case movieSize::half:
+        return {code, sizeForMagnification(geometry, 0.5F), std::nullopt};
+    case movieSize::normal:
+        return {code, sizeForMagnification(geometry, 1.0F), std::nullopt};
+    case movieSize::twice:
+        return {code, sizeForMagnification(geometry, 2.0F), std::nullopt};
+    case movieSize::fitWidth:
+    case movieSize::fitHeight:
+        return {code, sizeForFitScreen(geometry, code), std::nullopt};
+    case movieSize::custom:
+        return {code, customSize(geometry), std::nullopt};
+    default:
+        return {code, sizeForFitScreen(geometry, movieSize::fitScreen), std::nullopt};
+    }
+}
+
+QRectF centred(const QSizeF& size, const QSizeF& window) {
+    return QRectF(QPointF((window.width() - size.width()) / 2, (window.height() - size.height()) / 2), size);
+}
+
+std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double seconds, std::int32_t timeScale,
+                        std::int32_t duration) {
+    const double end = duration > 0 ? duration : std::numeric_limits<std::int32_t>::max();
+    const double target = std::trunc(time + direction * seconds * timeScale);
+    return static_cast<std::int32_t>(std::clamp(target, 0.0, end));
+}
+
+std::optional<QPointF> scrollOffset(const QRectF& view, const QRectF& bounds, double dx, double dy) {
+    // The rectangles' top() is their lower edge: y grows upwards.
+    QPointF offset(0, 0);
+    bool moved = false;
+    const auto move = [&moved](double& along, double wanted, double hidden, double sign) {
+        if (hidden > 0) {
+            along = sign * std::min(wanted, hidden);
+            moved = true;
+        }
+    };
+    if (dx > 0)
+        move(offset.rx(), dx, bounds.left() - view.left(), 1);
+    else if (dx < 0)
+        move(offset.rx(), -dx, view.right() - bounds.right(), -1);
+    if (dy < 0)
+        move(offset.ry(), -dy, bounds.top() - view.top(), 1);
+    else if (dy > 0)
+        move(offset.ry(), dy, view.bottom() - bounds.bottom(), -1);
+    return moved ? std::optional(offset) : std::nullopt;
+}
+
+bool canPan(int direction, const QRectF& view, const QRectF& bounds) {
+    return ((direction & panDirection::left) && view.left() < bounds.left()) ||
+           ((direction & panDirection::top) && view.bottom() > bounds.bottom()) ||
+           ((direction & panDirection::right) && view.right() > bounds.right()) ||
+           ((direction & panDirection::bottom) && view.top() < bounds.top());
+}
+
+QPointF panStep(int direction, float magnification) {
+    const float step = panPoints * magnification;
+    const auto along = [&](int forward, int backward) {
+        return direction & forward ? step : direction & backward ? -step : 0.0F;
+    };
+    return QPointF(along(panDirection::left, panDirection::right), along(panDirection::top, panDirection::bottom));
+}
+
+} // namespace MovieSizing

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playback/QVMovieView.h"
+
+#include "app/context/CommandTarget.h"
+#include "app/context/QVAppContext.h"
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/Tracing.h"
+#include "overlays/QVFeedbackOverlay.h"
+#include "platform/base/Localization.h"
+#include "platform/base/Log.h"
+#include "platform/desktop/Desktop.h"
+#include "platform/window/Window.h"
+#include "playback/QVMovie.h"
+#include "playback/QVPlaylistMovieChangedNotification.h"
+
+#include <utility>
+
+namespace {
+
+constexpr const char* className = "QVMovieView";
+constexpr double panInterval = 0.05;
+
+platform::UserDefaults& settings() {
+    return QVUserDefaults::standardUserDefaults();
+}
+
+CommandTarget* movieController() {
+    return gAppController ? gAppController->controller() : nullptr;
+}
+
+void postFeedback(const char* key) {
+    QVFeedbackOverlay::sharedFeedbackOverlay().postFeedback(platform::localizedString(QString::fromUtf8(key)));
+}
+
+} // namespace
+
+QVMovieView::QVMovieView(platform::MoviePlayer& player)
+    : MovieView(player)
+    , _size(settings().integerForKey(kQVDefaultMovieSize)) {
+    auto& center = platform::NotificationCenter::defaultCenter();
+    _movieChanged = center.observe<QVPlaylistMovieChangedNotification>(
+        [this](const auto& notification) { currentMovieChanged(notification); });
+    _preferencesChanged = center.observe<QVPreferencesChangedNotification>(
+        [this](const auto& notification) { preferencesChanged(notification); });
+}
+
+QVMovieView::~QVMovieView() = default;
+
+std::shared_ptr<QVMovie> QVMovieView::movie() const {
+    return std::static_pointer_cast<QVMovie>(movieObject());
+}
+
+void QVMovieView::setMovie(std::shared_ptr<QVMovie> movie) {
+    if (superview())
+        superview()->setNeedsDisplayInRect(frame());
+    stop();
+    if (const auto old = this->movie())
+        old->cancelCallbacks();
+    if (CommandTarget* controller = movieController(); controller && controller->forceMuted())
+        controller->setForceMuted(false);
+    const float volume = this->volume();
+    setFrame(QRectF());
+    showController(true, false);
+    setMovieObject(movie);
+    if (movie)
+        movie->resetCallbacks();
+    setVolume(volume);
+    showControllerBySetting();
+    setMovieSize(_size, Recalculation::forced);
+}
+
+void QVMovieView::setMovieSize(std::int32_t code, Recalculation recalculation) {
+    const bool forced = recalculation == Recalculation::forced;
+    if (code == _size && !forced)
+        return;
+    trace("%@: Changing movie size. Old size: %d, new size: %d, force recalc: %d", className, _size, code, forced);
+    _size = code;
+    const platform::Window* window = this->window();
+    if (!window || !movie()) {
+        // A step has nothing to step from yet, and must not be taken from the empty view of the next movie.
+        if (code == movieSize::smaller || code == movieSize::bigger)
+            _size = movieSize::custom;
+        return;
+    }
+    const QRectF old = frame();
+    const MovieSizing::Plan plan = MovieSizing::planSize(code, old.size(), geometry());
+    _size = plan.code;
+    if (plan.customScale)
+        settings().setFloat(*plan.customScale, kQVMovieCustomScale);
+    if (superview())
+        superview()->setNeedsDisplayInRect(old.adjusted(-1, -1, 1, 1));
+    setFrame(MovieSizing::centred(plan.size, window->frame().size()));
+    setNeedsDisplay();
+    settings().setInteger(_size, kQVDefaultMovieSize);
+    platform::NotificationCenter::defaultCenter().post(QVMovieViewSizeChangedNotification{this});
+}
+
+MovieSizing::Geometry QVMovieView::geometry() const {
+    const auto shown = movie();
+    const platform::Window* window = this->window();
+    return {shown ? shown->naturalBounds().size() : QSizeF(0, 0), window ? window->frame().size() : QSizeF(0, 0),
+            isControllerVisible(), settings().floatForKey(kQVMovieCustomScale)};
+}
+
+float QVMovieView::magnification() const {
+    const auto shown = movie();
+    return shown ? MovieSizing::magnification(frame().size(), shown->naturalBounds().size()) : 0.0F;
+}
+
+float QVMovieView::aspectRatio() const {
+    const QSizeF natural = movie() ? movie()->naturalBounds().size() : QSizeF(0, 0);
+    return natural.height() > 0 ? static_cast<float>(natural.width()) / static_cast<float>(natural.height()) : 0.0F;
+}
+
+QSizeF QVMovieView::sizeForFitScreen(std::int32_t mode) const {
+    return window() && movie() ? MovieSizing::sizeForFitScreen(geometry(), mode) : QSizeF(0, 0);
+}
+
+QSizeF QVMovieView::sizeForMagnification(float m) const {
+    return MovieSizing::sizeForMagnification(geometry(), m);
+}
+
+std::int32_t QVMovieView::time() const {
+    const auto shown = movie();
+    return shown ? shown->time() : 0;
+}
+
+void QVMovieView::setTime(std::int32_t time) {
+    if (const auto shown = movie())
+        shown->setTime(time);
+}
+
+void QVMovieView::jump(std::int32_t direction, double seconds) {
+    if (const auto shown = movie())
+        setTime(MovieSizing::jumpTarget(shown->time(), direction, seconds, shown->timeScale(), shown->duration()));
+}
+
+void QVMovieView::start() {
+    trace("%@: Start Playing movie", className);
+    MovieView::start();
+}
+
+void QVMovieView::stop() {
+    trace("%@: Stop Playing movie", className);
+    MovieView::stop();
+}
+
+void QVMovieView::playingChanged(bool playing) {
+    // That the user watches is said again with each picture.
+    if (!playing)
+        platform::Desktop::shared().setUserActive(false);
+}
+
+void QVMovieView::saveMovieState() {
+    _state = {isPlaying(), rate()};
+    trace("%@: Saved movie state: playing: %d, rate: %g", className, _state.isPlaying, _state.rate);
+}
+
+void QVMovieView::restoreMovieState() {
+    if (_state.isPlaying)
+        start();
+    setRate(_state.rate);
+    trace("%@: Restored movie state: playing: %d, rate: %g", className, _state.isPlaying, _state.rate);
+}
+
+void QVMovieView::toggleController() {
+    const bool show = !isControllerVisible();
+    trace("%@: %s movie contoller.", className, show ? "Showing" : "Hiding");
+    showController(show, true);
+    setMovieSize(_size, Recalculation::forced);
+    settings().setBool(show, kQVControllerVisible);
+}
+
+void QVMovieView::showControllerBySetting() {
+    showController(settings().boolForKey(kQVControllerVisible), true);
+}
+
+void QVMovieView::setVolume(float volume) {
+    MovieView::setVolume(volume);
+    platform::NotificationCenter::defaultCenter().post(QVMovieVolumeChangedNotification{this});
+}
+
+QString QVMovieView::volumeInfoAsString() const {
+    const int percentage = static_cast<int>((static_cast<double>(volume()) + 0.005) * 100);
+    const QString text = isMuted() ? platform::localizedString(QStringLiteral("Muted"))
+                                   : platform::formatted(QStringLiteral("%d%%"), {QString::number(percentage)});
+    return platform::localizedFormat(QStringLiteral("Volume: %@"), {text});
+}
+
+QString QVMovieView::mutedInfoAsString() const {
+    const QString text = platform::localizedString(isMuted() ? QStringLiteral("On") : QStringLiteral("Off"));
+    return platform::localizedFormat(QStringLiteral("Mute: %@"), {text});
+}
+
+bool QVMovieView::scroll(float dx, float dy) {
+    platform::Window* window = this->window();
+    if (!window)
+        return false;
+    const auto offset = MovieSizing::scrollOffset(frame(), window->contentView().bounds(), dx, dy);
+    if (!offset)
+        return false;
+    setFrame(frame().translated(*offset));
+    setNeedsDisplay();
+    return true;
+}
+
+void QVMovieView::startAutoscroll(int direction) {
+    _direction = direction;
+    platform::Window* window = this->window();
+    if (window && !_scrollTimer && MovieSizing::canPan(direction, frame(), window->contentView().bounds()))
+        _scrollTimer = platform::RunLoop::main().schedule(panInterval, true, [this] { autoscroll(); });
+}
+
+void QVMovieView::stopAutoscroll(int direction) {
+    if (direction == _direction)
+        _scrollTimer.reset();
+}
+
+void QVMovieView::autoscroll() {
+    const QPointF step = MovieSizing::panStep(_direction, magnification());
+    if (!scroll(static_cast<float>(step.x()), static_cast<float>(step.y())))
+        _scrollTimer.reset();
+}
+
+bool QVMovieView::keyDown(const platform::KeyEvent& event) {
+    if (CommandTarget* controller = movieController(); controller && controller->processKeyboardEvent(event))
+        return true;
+    const bool taken = handleMovieKey(event);
+    const QString characters = event.charactersIgnoringModifiers.toLower();
+    const char16_t character = characters.isEmpty() ? u'\0' : characters.at(0).unicode();
+    const bool isMovieKey = character == platform::functionKey::left || character == platform::functionKey::right ||
+                            character == platform::functionKey::space;
+    if (!isMovieKey)
+        return taken;
+    if (!movie())
+        platform::Desktop::shared().beep();
+    else if (character == platform::functionKey::left)
+        postFeedback("Step Backward");
+    else if (character == platform::functionKey::right)
+        postFeedback("Step Forward");
+    else
+        postFeedback(isPlaying() ? "Movie: Play" : "Movie: Pause");
+    return true;
+}
+
+bool QVMovieView::keyUp(const platform::KeyEvent& event) {
+    CommandTarget* controller = movieController();
+    return controller && controller->processKeyboardEvent(event);
+}
+
+bool QVMovieView::mouseDragged(const platform::MouseEvent& event) {
+    if (isTrackingController())
+        return MovieView::mouseDragged(event);
+    if (event.button == platform::MouseButton::right || event.button == platform::MouseButton::other)
+        return false;
+    scroll(static_cast<float>(event.deltaX), static_cast<float>(event.deltaY));
+    return true;
+}
+
+std::uint32_t QVMovieView::draggingEntered(const platform::DraggingInfo& info) {
+    return _dropTarget ? _dropTarget->draggingEntered(info) : platform::dragOperation::none;
+}
+
+std::uint32_t QVMovieView::draggingUpdated(const platform::DraggingInfo& info) {
+    return _dropTarget ? _dropTarget->draggingUpdated(info) : platform::dragOperation::none;
+}
+
+bool QVMovieView::performDragOperation(const platform::DraggingInfo& info) {
+    return _dropTarget && _dropTarget->performDragOperation(info);
+}
+
+void QVMovieView::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
+    setMovie(notification.movie);
+    gotoBeginning();
+}
+
+void QVMovieView::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key == kQVControllerVisible) {
+        trace("%@: %s movie contoller.", className, isControllerVisible() ? "Hiding" : "Showing");
+        showControllerBySetting();
+        setMovieSize(_size, Recalculation::forced);
+    } else if (notification.key == kQVDefaultMovieSize) {
+        setMovieSize(settings().integerForKey(kQVDefaultMovieSize), Recalculation::ifChanged);
+    }
+}
