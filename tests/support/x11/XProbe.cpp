@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/x11/XProbe.h"
 
+#include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XShm.h>
 #include <X11/extensions/XTest.h>
@@ -196,7 +197,7 @@ void XProbe::drag(int fromX, int fromY, int toX, int toY, unsigned button) {
     XSync(_display, False);
 }
 
-::Window XProbe::windowAt(int x, int y) {
+WindowId XProbe::windowAt(int x, int y) {
     const ::Window root = DefaultRootWindow(_display);
     ::Window child = 0;
     int toX, toY;

@@ -3,7 +3,6 @@
 
 #include "tests/support/x11/Waiting.h"
 
-#include <X11/Xlib.h>
 #include <X11/keysym.h>
 
 #include <cstdint>
@@ -13,7 +12,13 @@
 #include <string>
 #include <vector>
 
+// Xlib's own header is kept out: its macros (None, Success, Status) break whatever is included after it.
+struct _XDisplay;
+
 namespace harness {
+
+using KeySym = unsigned long;
+using WindowId = unsigned long;
 
 struct Color {
     int red = 0, green = 0, blue = 0;
@@ -71,14 +76,14 @@ public:
     void drag(int fromX, int fromY, int toX, int toY, unsigned button = 1);
 
     // The top window that covers the point, or 0; whether any mapped top-level window is there at all.
-    Window windowAt(int x, int y);
+    WindowId windowAt(int x, int y);
     bool hasVisibleWindow();
 
 private:
     struct Shared;
     void sendKey(KeySym key, bool down);
 
-    Display* _display = nullptr;
+    _XDisplay* _display = nullptr;
     std::unique_ptr<Shared>
         _shared; // the segment that pictures are read through; none when the server has no extension
 };

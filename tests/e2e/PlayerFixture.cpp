@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/e2e/PlayerFixture.h"
+
+#include <algorithm>
+#include <iostream>
+
+using namespace harness;
+
+const MediaFixture& PlayerFixture::media() {
+    static const MediaFixture fixture(LUMARO_BINARY_DIR "/tests/media");
+    return fixture;
+}
+
+std::string PlayerFixture::numbered(const std::string& name, const Color& color, int frames) {
+    MediaFixture::Numbered movie;
+    movie.frames = frames;
+    movie.color = color;
+    return media().makeNumbered(name, movie).string();
+}
+
+namespace {
+
+std::vector<std::string> withQuietLaunch(const std::vector<std::string>& arguments) {
+    std::vector<std::string> all;
+    for (const char* setting : {"QVEnableTrace=1", "QVOnLaunchDefaultAction=0", "QVAskDonation=0",
+                                "QVNewVersionShouldCheck=0", "QVRunFirstTimeConfig=0"})
+        all.insert(all.end(), {"--set", setting});
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return all;
+}
+
+std::string endOfLog(ChildProcess& process) {
+    const std::vector<std::string> lines = process.errorLines();
+    std::string text = "\nThe end of the log:\n";
+    for (std::size_t i = lines.size() > 25 ? lines.size() - 25 : 0; i < lines.size(); ++i)
+        text += lines[i] + '\n';
+    return text;
+}
+
+} // namespace
+
+LumaroProcess& PlayerFixture::start(const std::vector<std::string>& arguments, const std::string& workingDirectory) {
+    player = startAnother(arguments, workingDirectory);
+    return *player;
+}
+
+std::unique_ptr<LumaroProcess> PlayerFixture::startAnother(const std::vector<std::string>& arguments,
+                                                           const std::string& workingDirectory) {
+    return std::make_unique<LumaroProcess>(user, server.display(), withQuietLaunch(arguments), workingDirectory);
+}
+
+std::optional<int> PlayerFixture::frame() {
+    return MediaFixture::frameNumber(probe, {0, 0, screenWidth, screenHeight});
+}
+
+testing::AssertionResult PlayerFixture::frameBecomes(const std::function<bool(int)>& wanted, const std::string& what) {
+    std::optional<int> seen;
+    const bool became = waitUntil([&] {
+        seen = frame();
+        return (seen && wanted(*seen)) || !player->isRunning();
+    });
+    if (became && player->isRunning())
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "the frame never became " << what << "; it is "
+                                       << (seen ? std::to_string(*seen) : "not to be seen") << endOfLog(*player);
+}
+
+testing::AssertionResult PlayerFixture::frameBecomes(int wanted) {
+    return frameBecomes([wanted](int seen) { return seen == wanted; }, std::to_string(wanted));
+}
+
+std::optional<int> PlayerFixture::settledFrame() {
+    std::optional<int> last;
+    const bool settled = waitUntil([&] {
+        last = frame();
+        return last && staysTrue([&] { return frame() == last; }, Seconds(0.25));
+    });
+    return settled ? last : std::nullopt;
+}
+
+testing::AssertionResult PlayerFixture::colorBecomes(const Color& color, Seconds timeout) {
+    const int x = screenWidth / 4, y = screenHeight * 5 / 6;
+    const bool became = waitUntil([&] { return probe.pixel(x, y).isNear(color) || !player->isRunning(); }, timeout);
+    if (became && player->isRunning())
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "the picture never became " << color << "; it is " << probe.pixel(x, y)
+                                       << endOfLog(*player);
+}
+
+testing::AssertionResult PlayerFixture::logs(const std::string& text, std::size_t from) {
+    if (player->waitForErrorLine(text, from))
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "the log never said \"" << text << "\"" << endOfLog(*player);
+}
+
+bool PlayerFixture::tapUntil(KeySym key, const std::function<bool()>& condition) {
+    return waitUntil([&] {
+        probe.tap(key);
+        return waitUntil(condition, Seconds(0.25));
+    });
+}
+
+testing::AssertionResult PlayerFixture::quitsCleanly() {
+    probe.tap(XK_Escape);
+    const std::optional<int> status = player->waitForExit();
+    if (status != 0)
+        return testing::AssertionFailure()
+               << "Escape ended it with " << (status ? std::to_string(*status) : "nothing") << endOfLog(*player);
+    return testing::AssertionSuccess();
+}
+
+void PlayerFixture::TearDown() {
+    if (!player)
+        return;
+    for (const std::string& fault : player->faults())
+        ADD_FAILURE() << fault;
+    if (HasFailure())
+        std::cerr << endOfLog(*player);
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/e2e/LumaroProcess.h"
+#include "tests/support/x11/MediaFixture.h"
+#include "tests/support/x11/XProbe.h"
+#include "tests/support/x11/XvfbServer.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+// One user before one screen of 1280 by 720, with a player started by the test.
+class PlayerFixture : public testing::Test {
+protected:
+    static constexpr int screenWidth = 1280;
+    static constexpr int screenHeight = 720;
+    static constexpr harness::Color red{200, 0, 0};
+    static constexpr harness::Color green{0, 150, 0};
+    static constexpr harness::Color blue{0, 0, 200};
+
+    static const harness::MediaFixture& media();
+    // 30 frames a second, 16:9, so that it fills the screen; a keyframe each second.
+    static std::string numbered(const std::string& name, const harness::Color& color, int frames);
+
+    // Starts the player with tracing on and nothing asked at launch. Options of the test follow, and override.
+    LumaroProcess& start(const std::vector<std::string>& arguments, const std::string& workingDirectory = {});
+    // Another launch by the same user.
+    std::unique_ptr<LumaroProcess> startAnother(const std::vector<std::string>& arguments,
+                                                const std::string& workingDirectory = {});
+
+    // What the numbered movie that fills the screen shows now.
+    std::optional<int> frame();
+    testing::AssertionResult frameBecomes(const std::function<bool(int)>& wanted, const std::string& what);
+    testing::AssertionResult frameBecomes(int wanted);
+    // The frame once it has stood for a while, or none when it never does.
+    std::optional<int> settledFrame();
+    // Whether the picture (of a numbered movie that fills the screen) has the colour.
+    testing::AssertionResult colorBecomes(const harness::Color& color, harness::Seconds timeout = harness::patience);
+    testing::AssertionResult logs(const std::string& text, std::size_t from = 0);
+    // Presses the key again and again until the condition holds: for panels, whose appearing cannot be seen from
+    // outside.
+    bool tapUntil(harness::KeySym key, const std::function<bool()>& condition);
+    // Leaves with Escape; the status and what went wrong inside.
+    testing::AssertionResult quitsCleanly();
+
+    void TearDown() override;
+
+    LumaroUser user;
+    harness::XvfbServer server{screenWidth, screenHeight};
+    harness::XProbe probe{server.display()};
+    std::unique_ptr<LumaroProcess> player;
+};

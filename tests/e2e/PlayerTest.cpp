@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/e2e/PlayerFixture.h"
+
+#include <signal.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+using namespace harness;
+
+namespace {
+
+class Player : public PlayerFixture {
+protected:
+    // Starts one movie, lets it run for a moment and pauses it; answers the frame it stands at.
+    int startPaused(const std::vector<std::string>& arguments) {
+        start(arguments);
+        EXPECT_TRUE(frameBecomes([](int seen) { return seen >= 3; }, "3 or later"));
+        probe.tap(XK_space);
+        EXPECT_TRUE(logs("QVMovieView: Stop Playing movie"));
+        const std::optional<int> stands = settledFrame();
+        EXPECT_TRUE(stands) << "the movie runs on after a pause";
+        return stands.value_or(-1);
+    }
+
+    bool regionBecomes(const Color& color, const Region& wanted, Region& seen) {
+        const auto near = [](int a, int b) { return std::abs(a - b) <= 1; };
+        return waitUntil(
+            [&] {
+                seen = probe.extentOf(color);
+                return near(seen.x, wanted.x) && near(seen.y, wanted.y) && near(seen.width, wanted.width) &&
+                       near(seen.height, wanted.height);
+            },
+            Seconds(5));
+    }
+
+    std::string settingsText() {
+        std::ifstream file(user.settingsFile());
+        std::string text;
+        for (std::string line; std::getline(file, line);)
+            text += line + '\n';
+        return text;
+    }
+};
+
+} // namespace
+
+TEST_F(Player, space_pauses_and_plays_and_arrows_step_single_frames) {
+    const int stands = startPaused({numbered("red.mp4", red, 300)});
+    for (const auto& [key, frame] : std::vector<std::pair<KeySym, int>>{
+             {XK_Right, stands + 1}, {XK_Right, stands + 2}, {XK_Left, stands + 1}, {XK_Left, stands}}) {
+        probe.tap(key);
+        ASSERT_TRUE(frameBecomes(frame));
+    }
+    probe.tap(XK_space);
+    ASSERT_TRUE(frameBecomes([&](int seen) { return seen > stands + 15; }, "later while playing"));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, arrows_run_fast_while_playing_and_space_restores_the_speed) {
+    start({numbered("long.mp4", red, 1200)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen >= 3; }, "3 or later"));
+    probe.tap(XK_Right);
+    ASSERT_TRUE(logs("QVMovieController: Fast Forward with rate: x2"));
+    probe.tap(XK_Right);
+    ASSERT_TRUE(logs("QVMovieController: Fast Forward with rate: x4"));
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 300; }, "beyond 300"));
+    probe.tap(XK_Left);
+    ASSERT_TRUE(logs("QVMovieController: Fast Rewind with rate: x2"));
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen < 260; }, "below 260 while running backwards"));
+    probe.tap(XK_space);
+    ASSERT_TRUE(logs("Restoring normal playback."));
+    const std::optional<int> before = frame();
+    ASSERT_TRUE(before);
+    ASSERT_TRUE(frameBecomes([&](int seen) { return seen > *before + 10; }, "later at normal speed"));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, control_arrows_jump_and_alt_arrows_go_to_the_ends) {
+    const int stands = startPaused({"--set", "QVJumpInterval=3", numbered("red.mp4", red, 300)});
+    probe.tap(XK_Right, {XK_Control_L});
+    ASSERT_TRUE(frameBecomes(stands + 90));
+    probe.tap(XK_Right, {XK_Control_L});
+    ASSERT_TRUE(frameBecomes(stands + 180));
+    probe.tap(XK_Left, {XK_Control_L});
+    ASSERT_TRUE(frameBecomes(stands + 90));
+    probe.tap(XK_Left, {XK_Control_L});
+    probe.tap(XK_Left, {XK_Control_L});
+    ASSERT_TRUE(frameBecomes(0)); // not before the beginning
+    probe.tap(XK_Right, {XK_Alt_L});
+    ASSERT_TRUE(frameBecomes(299));
+    probe.tap(XK_Left, {XK_Alt_L});
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, next_and_previous_walk_through_the_list) {
+    start({numbered("1.mp4", red, 300), numbered("2.mp4", green, 300), numbered("3.mp4", blue, 300)});
+    ASSERT_TRUE(colorBecomes(red));
+    probe.tap(XK_Right, {XK_Super_L});
+    ASSERT_TRUE(colorBecomes(green));
+    ASSERT_TRUE(logs("QVPlaylistController: Switching to next movie."));
+    probe.tap(XK_Page_Down);
+    ASSERT_TRUE(colorBecomes(blue));
+    probe.tap(XK_Page_Up);
+    ASSERT_TRUE(colorBecomes(green));
+    ASSERT_TRUE(logs("QVPlaylistController: Switching to previous movie."));
+    probe.tap(XK_Left, {XK_Super_L});
+    ASSERT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, size_keys_place_the_picture) {
+    const std::string movie =
+        media().makeColored("wide.mp4", {blue}, 60, 400, 300, 5, {"-c:v", "libx264", "-pix_fmt", "yuv420p"}).string();
+    start({"--set", "QVDefaultMovieSize=3", movie});
+    ASSERT_TRUE(colorBecomes(blue));
+    const struct {
+        const char* name;
+        KeySym key;
+        Region picture;
+    } sizes[] = {{"normal", XK_1, {440, 210, 400, 300}},
+                 {"half", XK_0, {540, 285, 200, 150}},
+                 {"double", XK_2, {240, 60, 800, 600}},
+                 {"full", XK_3, {160, 0, 960, 720}},
+                 {"fit width", XK_4, {0, 0, 1280, 720}},
+                 {"fit height", XK_5, {160, 0, 960, 720}},
+                 {"fit width", XK_w, {0, 0, 1280, 720}},
+                 {"full", XK_f, {160, 0, 960, 720}},
+                 {"normal again", XK_1, {440, 210, 400, 300}},
+                 {"bigger", XK_equal, {420, 195, 440, 330}},
+                 {"bigger twice", XK_equal, {400, 180, 480, 360}},
+                 {"smaller", XK_minus, {420, 195, 440, 330}},
+                 {"with the controller bar", XK_c, {420, 195 - 8, 440, 330}},
+                 {"full above the bar", XK_3, {171, 0, 939, 704}}};
+    for (const auto& size : sizes) {
+        probe.tap(size.key);
+        Region seen;
+        EXPECT_TRUE(regionBecomes(blue, size.picture, seen)) << size.name << ": " << seen << " is not " << size.picture;
+    }
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, the_bar_seeks_where_it_is_clicked) {
+    startPaused({"--set", "QVControllerVisible=1", "--set", "QVDefaultMovieSize=4", numbered("red.mp4", red, 300)});
+    // Fit width with the bar: the bar lies below the picture, at the bottom of the screen or partly beyond it.
+    probe.tap(XK_3);
+    const Region picture{int(std::lround((screenWidth - 704 * 16 / 9.0) / 2)), 0, int(std::lround(704 * 16 / 9.0)),
+                         704};
+    ASSERT_TRUE(waitUntil([&] { return MediaFixture::frameNumber(probe, picture).has_value(); }));
+    probe.click(screenWidth / 2, screenHeight - 8);
+    EXPECT_TRUE(waitUntil([&] {
+        const std::optional<int> seen = MediaFixture::frameNumber(probe, picture);
+        return seen && *seen > 100 && *seen < 200;
+    })) << "frame "
+        << MediaFixture::frameNumber(probe, picture).value_or(-1);
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, looping_one_repeats_the_movie_and_looping_all_the_list) {
+    start({numbered("short1.mp4", red, 25), numbered("short2.mp4", green, 25)});
+    ASSERT_TRUE(colorBecomes(red));
+    probe.tap(XK_l);
+    ASSERT_TRUE(logs("QVPlaylistController: Restarting current movie."));
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen < 10; }, "early again"));
+    ASSERT_TRUE(colorBecomes(red));
+    probe.tap(XK_l);
+    ASSERT_TRUE(colorBecomes(green));
+    ASSERT_TRUE(logs("QVPlaylistController: Playlist finished. Looping is On. Restarting playlist."));
+    ASSERT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, the_list_plays_through_and_stops_at_its_last_picture) {
+    start({numbered("short1.mp4", red, 25), numbered("short2.mp4", green, 25)});
+    ASSERT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(colorBecomes(green));
+    const auto finished = player->waitForErrorLine("QVPlaylistController: Current movie finished.");
+    ASSERT_TRUE(finished);
+    ASSERT_TRUE(logs("QVPlaylistController: Current movie finished.", *finished));
+    EXPECT_EQ(settledFrame(), 24);
+    EXPECT_TRUE(player->isRunning());
+    // Play again from the end begins at the start.
+    probe.tap(XK_space);
+    EXPECT_TRUE(frameBecomes([](int seen) { return seen < 15; }, "early again"));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, automatic_quit_ends_the_program_after_the_list) {
+    start({"--set", "QVPlaylistAutoQuit=1", numbered("short1.mp4", red, 25)});
+    EXPECT_EQ(player->waitForExit(), 0);
+    EXPECT_TRUE(logs("Playlist finished. Looping is Off. AutoQuit is ON. Terminating app."));
+}
+
+TEST_F(Player, a_second_launch_hands_its_files_over) {
+    const std::filesystem::path second = numbered("2.mp4", green, 300);
+    start({numbered("1.mp4", red, 300)});
+    ASSERT_TRUE(colorBecomes(red));
+    // By a name that means something only in the second one's working directory.
+    EXPECT_EQ(startAnother({second.filename().string()}, second.parent_path().string())->waitForExit(), 0);
+    ASSERT_TRUE(colorBecomes(green));
+    EXPECT_EQ(startAnother({"--append", numbered("3.mp4", blue, 300)})->waitForExit(), 0);
+    ASSERT_TRUE(logs("3.mp4"));
+    EXPECT_TRUE(
+        staysTrue([&] { return probe.pixel(screenWidth / 4, screenHeight * 5 / 6).isNear(green); }, Seconds(0.3)))
+        << "appending changed the movie shown";
+    probe.tap(XK_Page_Down);
+    ASSERT_TRUE(colorBecomes(blue));
+    probe.tap(XK_Page_Up);
+    ASSERT_TRUE(colorBecomes(green));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, the_right_button_opens_a_menu_that_escape_closes) {
+    startPaused({numbered("red.mp4", red, 300)});
+    const auto window = probe.windowAt(320, 620);
+    ASSERT_NE(window, 0u);
+    probe.click(300, 600, 3);
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 620) != window; })) << "no menu opened";
+    probe.tap(XK_Escape);
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 620) == window; })) << "the menu stays";
+    EXPECT_TRUE(player->isRunning());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
+    const std::string movie =
+        media().makeColored("wide.mp4", {blue}, 60, 400, 300, 5, {"-c:v", "libx264", "-pix_fmt", "yuv420p"}).string();
+    const Region normal{440, 210, 400, 300}, half{540, 285, 200, 150};
+    Region seen;
+    start({movie});
+    ASSERT_TRUE(waitUntil([&] { return probe.extentOf(blue).width > 0; }));
+    probe.tap(XK_1);
+    ASSERT_TRUE(regionBecomes(blue, normal, seen)) << seen;
+    ASSERT_TRUE(quitsCleanly());
+    ASSERT_NE(settingsText().find("QVDefaultMovieSize"), std::string::npos);
+    EXPECT_EQ(settingsText().find("QVEnableTrace"), std::string::npos) << "a setting for one run was kept";
+
+    start({movie});
+    ASSERT_TRUE(regionBecomes(blue, normal, seen)) << seen << ": the size was not kept";
+    probe.tap(XK_0);
+    ASSERT_TRUE(regionBecomes(blue, half, seen)) << seen;
+    player->signal(SIGKILL);
+    ASSERT_EQ(player->waitForExit(), -SIGKILL);
+
+    // What was written last, whole: the size before or after, nothing else.
+    start({movie});
+    EXPECT_TRUE(waitUntil([&] { return probe.extentOf(blue).width == 400 || probe.extentOf(blue).width == 200; }))
+        << probe.extentOf(blue);
+    for (const std::string& line : player->errorLines())
+        EXPECT_EQ(line.find("ERROR"), std::string::npos) << line;
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, a_damaged_settings_file_is_kept_aside_and_reported) {
+    const std::string damage = "<?xml version=\"1.0\"?><plist><dict><key>QVJumpInterval</key><inte";
+    std::filesystem::create_directories(user.settingsFile().parent_path());
+    std::ofstream(user.settingsFile()) << damage;
+    start({numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(colorBecomes(red));
+    EXPECT_TRUE(logs("ERROR: "));
+    probe.tap(XK_1);
+    ASSERT_TRUE(quitsCleanly());
+    bool kept = false;
+    for (const auto& entry : std::filesystem::directory_iterator(user.settingsFile().parent_path())) {
+        std::ifstream file(entry.path());
+        std::string line;
+        std::getline(file, line);
+        kept = kept || line == damage;
+    }
+    EXPECT_TRUE(kept) << "the damaged file is gone";
+    EXPECT_NE(settingsText().find("</plist>"), std::string::npos);
+}
+
+TEST_F(Player, wrong_usage_ends_with_status_2_and_help_and_version_with_0) {
+    const struct {
+        std::vector<std::string> arguments;
+        int status;
+    } cases[] = {{{"--no-such-option"}, 2}, {{"--set"}, 2}, {{"--set", "=1"}, 2}, {{"--help"}, 0}, {{"--version"}, 0}};
+    for (const auto& given : cases) {
+        LumaroProcess process(user, {}, given.arguments);
+        EXPECT_EQ(process.waitForExit(), given.status) << given.arguments.front() << process.errorOutput();
+        EXPECT_FALSE((given.status ? process.errorOutput() : process.output()).empty()) << given.arguments.front();
+    }
+}
