@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/qt/QtEvents.h"
+
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QUrl>
+
+namespace platform::qtEvents {
+
+namespace {
+
+QString characters(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Up:
+        return QChar(functionKey::up);
+    case Qt::Key_Down:
+        return QChar(functionKey::down);
+    case Qt::Key_Left:
+        return QChar(functionKey::left);
+    case Qt::Key_Right:
+        return QChar(functionKey::right);
+    case Qt::Key_F1:
+        return QChar(functionKey::f1);
+    case Qt::Key_PageUp:
+        return QChar(functionKey::pageUp);
+    case Qt::Key_PageDown:
+        return QChar(functionKey::pageDown);
+    case Qt::Key_Escape:
+        return QChar(functionKey::escape);
+    // Shift turns Tab into a key of its own.
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return QChar(functionKey::tab);
+    default:
+        break;
+    }
+    // The key rather than its text: Control turns a letter's text into a control character.
+    if (event.key() >= Qt::Key_Space && event.key() < 0x10000)
+        return QChar(static_cast<char16_t>(event.key()));
+    return event.text();
+}
+
+} // namespace
+
+std::uint32_t modifierFlags(Qt::KeyboardModifiers modifiers) {
+    std::uint32_t flags = 0;
+    if (modifiers & Qt::ShiftModifier)
+        flags |= modifier::shift;
+    if (modifiers & Qt::ControlModifier)
+        flags |= modifier::control;
+    if (modifiers & Qt::AltModifier)
+        flags |= modifier::option;
+    if (modifiers & Qt::MetaModifier)
+        flags |= modifier::command;
+    return flags;
+}
+
+KeyEvent keyEvent(const QKeyEvent& event) {
+    KeyEvent result;
+    result.type = event.type() == QEvent::KeyRelease ? KeyEvent::Type::up : KeyEvent::Type::down;
+    result.charactersIgnoringModifiers = characters(event);
+    result.keyCode = static_cast<std::uint16_t>(event.nativeScanCode());
+    result.modifierFlags = modifierFlags(event.modifiers());
+    result.isRepeat = event.isAutoRepeat();
+    return result;
+}
+
+QKeySequence shortcut(const QKeyEvent& event) {
+    return QKeySequence(QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key())));
+}
+
+MouseButton mouseButton(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::NoButton:
+        return MouseButton::none;
+    case Qt::LeftButton:
+        return MouseButton::left;
+    case Qt::RightButton:
+        return MouseButton::right;
+    default:
+        return MouseButton::other;
+    }
+}
+
+DraggingInfo draggingInfo(const QDropEvent& event) {
+    DraggingInfo info;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            info.fileNames.append(url.toLocalFile());
+        } else if (url.isValid()) {
+            info.urlStrings.append(url.toString());
+        }
+    }
+    info.offersFileNames = !info.fileNames.isEmpty();
+    info.offersURL = !info.urlStrings.isEmpty();
+    // A drag with Alt held asks for a copy, as a source does that can do nothing else.
+    const Qt::DropActions actions = event.possibleActions();
+    if (actions & Qt::CopyAction)
+        info.sourceOperationMask |= dragOperation::copy;
+    if (!(event.modifiers() & Qt::AltModifier) && actions != Qt::IgnoreAction)
+        info.sourceOperationMask |= dragOperation::generic;
+    return info;
+}
+
+} // namespace platform::qtEvents

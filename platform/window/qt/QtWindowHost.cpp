@@ -1,0 +1,426 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/qt/QtWindowHost.h"
+
+#include "platform/window/PictureLayer.h"
+#include "platform/window/SceneGeometry.h"
+#include "platform/window/Window.h"
+#include "platform/window/qt/QtEvents.h"
+#include "platform/window/qt/QtMenus.h"
+
+#include <QBackingStore>
+#include <QCoreApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QExposeEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+#include <QOpenGLPaintDevice>
+#include <QPainter>
+#include <QScreen>
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr QEvent::Type paintEventType = static_cast<QEvent::Type>(QEvent::User + 10);
+
+/// A drawing made by the processor: slower than rendering without OpenGL.
+bool isSoftwareRenderer(const QByteArray& name) {
+    const QByteArray lower = name.toLower();
+    return lower.isEmpty() || lower.contains("llvmpipe") || lower.contains("softpipe") || lower.contains("swrast");
+}
+
+/// Asking OpenGL who it is takes a tenth of a second where there is no hardware, so that is looked for first.
+bool hasGraphicsDevice() {
+    return !QDir(QStringLiteral("/dev/dri")).entryList({QStringLiteral("renderD*")}, QDir::System | QDir::Files).isEmpty() ||
+           QFile::exists(QStringLiteral("/dev/nvidiactl"));
+}
+
+} // namespace
+
+QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
+    : _root(root) {
+    setFlags(Qt::Window | Qt::FramelessWindowHint);
+    setTitle(QCoreApplication::applicationName());
+    if (chooseOpenGL(renderer)) {
+        setSurfaceType(QSurface::OpenGLSurface);
+    } else {
+        setSurfaceType(QSurface::RasterSurface);
+        _backingStore = std::make_unique<QBackingStore>(this);
+    }
+    _root.setHost(this);
+    placeOnScreen();
+}
+
+QtWindowHost::~QtWindowHost() {
+    if (_contextInUse && _context->makeCurrent(this)) {
+        forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
+        _context->doneCurrent();
+    }
+    _root.setHost(nullptr);
+}
+
+void QtWindowHost::setMainMenu(Menu& menu, MenuTarget& target) { _menus = std::make_unique<QtMenus>(*this, menu, target); }
+
+bool QtWindowHost::chooseOpenGL(Renderer renderer) {
+    if (renderer == Renderer::software || (renderer == Renderer::automatic && !hasGraphicsDevice()))
+        return false;
+    auto context = std::make_unique<QOpenGLContext>();
+    QOffscreenSurface probe;
+    if (!context->create())
+        return false;
+    probe.setFormat(context->format());
+    probe.create();
+    if (!context->makeCurrent(&probe))
+        return false;
+    const QByteArray name = reinterpret_cast<const char*>(context->functions()->glGetString(GL_RENDERER));
+    context->doneCurrent();
+    if (renderer == Renderer::automatic && isSoftwareRenderer(name))
+        return false;
+    _context = std::move(context);
+    return true;
+}
+
+// What the root tells
+
+void QtWindowHost::placeOnScreen() {
+    const QScreen* main = QGuiApplication::primaryScreen();
+    if (!main)
+        return;
+    const QRect frame = sceneGeometry::flippedOnDesktop(_root.frame(), main->geometry().height()).toRect();
+    for (QScreen* candidate : QGuiApplication::screens()) {
+        if (candidate->geometry() != frame)
+            continue;
+        // A whole screen is asked for as such: panels and docks then lie below.
+        setScreen(candidate);
+        setWindowStates(Qt::WindowFullScreen);
+        setGeometry(frame);
+        return;
+    }
+    setWindowStates(Qt::WindowNoState);
+    setGeometry(frame);
+}
+
+void QtWindowHost::frameChanged() {
+    if (!_followingWindowSystem)
+        placeOnScreen();
+    displayNeeded(_root.contentView().bounds());
+}
+
+void QtWindowHost::alphaChanged() {
+    // Where a compositor takes it, the window system fades the window; else paint() does.
+    setOpacity(static_cast<double>(_root.alphaValue()));
+    orderedChanged();
+    displayNeeded(_root.contentView().bounds());
+}
+
+void QtWindowHost::levelChanged() {
+    const bool above = _root.level() > windowLevel::normal;
+    if (flags().testFlag(Qt::WindowStaysOnTopHint) != above)
+        setFlag(Qt::WindowStaysOnTopHint, above);
+}
+
+void QtWindowHost::orderedChanged() {
+    // A window faded out altogether is unmapped: it must take no clicks.
+    const bool shown = _root.isOrderedIn() && _root.alphaValue() > 0;
+    if (shown == isVisible())
+        return;
+    setVisible(shown);
+    if (shown)
+        requestActivate();
+}
+
+void QtWindowHost::makeKeyAndOrderFront() {
+    orderedChanged();
+    raise();
+    requestActivate();
+}
+
+void QtWindowHost::setPointerHidden(bool hidden) {
+    if (hidden == _pointerHidden)
+        return;
+    _pointerHidden = hidden;
+    if (hidden)
+        setCursor(Qt::BlankCursor);
+    else
+        unsetCursor();
+}
+
+void QtWindowHost::displayNeeded(const QRectF& rect) {
+    const QRect pixels = sceneGeometry::toCoveringPixels(rect, _root.frame().size(), devicePixelRatio())
+                             .intersected(QRect(QPoint(0, 0), pixelSize()));
+    if (pixels.isEmpty())
+        return;
+    if (!isExposed()) {
+        skipPictures();
+        return; // exposing paints everything
+    }
+    _dirty += pixels;
+    schedulePaint();
+}
+
+// Painting
+
+QSize QtWindowHost::pixelSize() const { return (QSizeF(size()) * devicePixelRatio()).toSize(); }
+
+void QtWindowHost::schedulePaint() {
+    // Posted, not painted at once, so that everything that changes in one pass of the event loop is painted together.
+    if (std::exchange(_paintScheduled, true))
+        return;
+    QCoreApplication::postEvent(this, new QEvent(paintEventType), Qt::HighEventPriority);
+}
+
+void QtWindowHost::paint() {
+    if (!isExposed() || _dirty.isEmpty())
+        return;
+    ++_paintCount;
+    const QRegion dirty = std::exchange(_dirty, QRegion());
+    if (_context)
+        paintOpenGL();
+    else
+        paintSoftware(dirty);
+}
+
+void QtWindowHost::forEachPicture(const View& view, const std::function<void(PictureLayer&, const QRect&)>& visit) {
+    for (View* child : view.subviews()) {
+        if (PictureLayer* layer = child->pictureLayer()) {
+            visit(*layer, sceneGeometry::toPixels(child->convertToWindow(child->pictureRect()), _root.frame().size(),
+                                                  devicePixelRatio()));
+        }
+        forEachPicture(*child, visit);
+    }
+}
+
+void QtWindowHost::skipPictures() {
+    forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.skip(); });
+}
+
+void QtWindowHost::paintSoftware(const QRegion& marked) {
+    const double ratio = devicePixelRatio();
+    const QRect whole(QPoint(0, 0), pixelSize());
+    QRegion dirty = marked;
+    if (_backingStore->size() != size()) {
+        _backingStore->resize(size());
+        dirty = whole;
+    }
+
+    // A picture is always rendered whole: what lies over any part of it is painted anew, too.
+    QRegion pictures;
+    forEachPicture(_root.contentView(), [&](PictureLayer&, const QRect& picture) {
+        const QRect visible = picture.intersected(whole);
+        if (dirty.intersects(visible)) {
+            dirty += visible;
+            pictures += visible;
+        }
+    });
+
+    QRegion points;
+    for (const QRect& rect : dirty)
+        points += QRectF(rect.x() / ratio, rect.y() / ratio, rect.width() / ratio, rect.height() / ratio).toAlignedRect();
+    _backingStore->beginPaint(points);
+    QPaintDevice* device = _backingStore->paintDevice();
+    auto* image = device->devType() == QInternal::Image ? static_cast<QImage*>(device) : nullptr;
+    const bool direct = image && image->depth() == 32;
+
+    if (direct) {
+        forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect& picture) {
+            const QRect visible = picture.intersected(whole).intersected(image->rect());
+            if (!visible.isEmpty() && pictures.intersects(visible) &&
+                !layer.renderPixels(picture, visible, image->bits(), static_cast<std::size_t>(image->bytesPerLine())))
+                pictures -= visible;
+        });
+    } else {
+        pictures = QRegion();
+    }
+
+    QPainter painter(device);
+    painter.scale(1 / ratio, 1 / ratio); // pixels from here on
+    const QRegion background = dirty - pictures;
+    if (!background.isEmpty()) {
+        const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
+        for (const QRect& rect : background)
+            painter.fillRect(rect, color);
+    }
+    drawOver(painter, dirty);
+    painter.end();
+    _backingStore->endPaint();
+    _backingStore->flush(points);
+}
+
+void QtWindowHost::paintOpenGL() {
+    if (!_context->makeCurrent(this))
+        return;
+    if (!std::exchange(_contextInUse, true)) {
+        forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) {
+            layer.beginGL([](const char* name) -> void* {
+                return reinterpret_cast<void*>(QOpenGLContext::currentContext()->getProcAddress(name));
+            });
+        });
+    }
+    const QSize pixels = pixelSize();
+    QOpenGLFunctions* gl = _context->functions();
+    const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
+    gl->glViewport(0, 0, pixels.width(), pixels.height());
+    gl->glClearColor(static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
+                     static_cast<float>(color.blueF()), 1.0F);
+    gl->glClear(GL_COLOR_BUFFER_BIT);
+    forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect& picture) {
+        layer.renderGL(picture, pixels, _context->defaultFramebufferObject());
+    });
+    // The renderer leaves the state of OpenGL as it likes; the painter wants it plain.
+    gl->glBindFramebuffer(GL_FRAMEBUFFER, _context->defaultFramebufferObject());
+    gl->glDisable(GL_SCISSOR_TEST);
+    gl->glDisable(GL_DEPTH_TEST);
+    gl->glUseProgram(0);
+    gl->glActiveTexture(GL_TEXTURE0);
+    gl->glViewport(0, 0, pixels.width(), pixels.height());
+    QOpenGLPaintDevice device(pixels);
+    QPainter painter(&device);
+    drawOver(painter, QRegion(QRect(QPoint(0, 0), pixels)));
+    painter.end();
+    _context->swapBuffers(this);
+}
+
+void QtWindowHost::drawOver(QPainter& painter, const QRegion& dirty) { drawViews(painter, _root.contentView(), dirty); }
+
+void QtWindowHost::drawViews(QPainter& painter, const View& view, const QRegion& dirty) {
+    const QSizeF content = _root.frame().size();
+    for (View* child : view.subviews()) {
+        const QRectF inWindow = child->convertToWindow(child->bounds());
+        const QRect pixels = sceneGeometry::toCoveringPixels(inWindow, content, devicePixelRatio());
+        const QRegion clip = dirty.intersected(pixels);
+        if (!clip.isEmpty()) {
+            painter.save();
+            painter.setClipRegion(clip);
+            painter.scale(devicePixelRatio(), devicePixelRatio());
+            painter.translate(inWindow.left(), content.height() - inWindow.bottom());
+            child->draw(painter, child->bounds());
+            painter.restore();
+        }
+        drawViews(painter, *child, dirty);
+    }
+}
+
+// What the window system tells
+
+bool QtWindowHost::event(QEvent* event) {
+    if (event->type() == paintEventType) {
+        _paintScheduled = false;
+        paint();
+        return true;
+    }
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return dragEvent(*static_cast<QDropEvent*>(event), event->type());
+    case QEvent::Leave:
+        _root.dispatchMouseLeft();
+        break;
+    case QEvent::Close:
+        // Alt+F4 and task lists ask; the window goes when the application has faded it out.
+        if (!_root.delegate() || _root.delegate()->windowShouldClose(_root))
+            break;
+        event->ignore();
+        return true;
+    default:
+        break;
+    }
+    return QWindow::event(event);
+}
+
+void QtWindowHost::exposeEvent(QExposeEvent*) {
+    if (!isExposed())
+        return;
+    _dirty = QRegion(QRect(QPoint(0, 0), pixelSize()));
+    paint();
+}
+
+void QtWindowHost::resizeEvent(QResizeEvent*) {
+    const QScreen* main = QGuiApplication::primaryScreen();
+    if (!main)
+        return;
+    // The window manager has the last word on the size; the model follows it.
+    _followingWindowSystem = true;
+    _root.setFrame(sceneGeometry::flippedOnDesktop(geometry(), main->geometry().height()));
+    _followingWindowSystem = false;
+    displayNeeded(_root.contentView().bounds());
+}
+
+void QtWindowHost::keyPressEvent(QKeyEvent* event) {
+    if (_menus && _menus->performShortcut(qtEvents::shortcut(*event), event->isAutoRepeat()))
+        return;
+    _root.dispatchKey(qtEvents::keyEvent(*event));
+}
+
+void QtWindowHost::keyReleaseEvent(QKeyEvent* event) {
+    // The window system reports a release before each automatic repeat; the key is still held.
+    if (!event->isAutoRepeat())
+        _root.dispatchKey(qtEvents::keyEvent(*event));
+}
+
+MouseEvent QtWindowHost::mouseEvent(const QMouseEvent& event) {
+    const QPointF position = event.position();
+    MouseEvent result;
+    result.locationInWindow = sceneGeometry::flipped(position, _root.frame().size());
+    result.deltaX = position.x() - _lastPointer.x();
+    result.deltaY = position.y() - _lastPointer.y();
+    result.button = qtEvents::mouseButton(event.button());
+    result.clickCount = event.type() == QEvent::MouseButtonDblClick ? 2 : 1;
+    result.modifierFlags = qtEvents::modifierFlags(event.modifiers());
+    _lastPointer = position;
+    return result;
+}
+
+void QtWindowHost::mousePressEvent(QMouseEvent* event) {
+    setPointerHidden(false);
+    const MouseEvent translated = mouseEvent(*event);
+    if (translated.button == MouseButton::right && _menus) {
+        _menus->popUp(event->globalPosition().toPoint());
+        return;
+    }
+    _root.dispatchMouseDown(translated);
+}
+
+void QtWindowHost::mouseReleaseEvent(QMouseEvent* event) { _root.dispatchMouseUp(mouseEvent(*event)); }
+
+void QtWindowHost::mouseMoveEvent(QMouseEvent* event) {
+    setPointerHidden(false);
+    if (_menus)
+        _menus->pointerMoved(event->position().toPoint());
+    const MouseEvent translated = mouseEvent(*event);
+    if (event->buttons() & Qt::LeftButton)
+        _root.dispatchMouseDragged(translated);
+    else
+        _root.dispatchMouseMoved(translated);
+}
+
+void QtWindowHost::focusInEvent(QFocusEvent*) { _root.setKey(true); }
+
+void QtWindowHost::focusOutEvent(QFocusEvent*) { _root.setKey(false); }
+
+bool QtWindowHost::dragEvent(QDropEvent& event, QEvent::Type type) {
+    const DraggingInfo info = qtEvents::draggingInfo(event);
+    View* target = _root.contentView().hitTest(sceneGeometry::flipped(event.position(), _root.frame().size()));
+    if (!target)
+        target = &_root.contentView();
+    const std::uint32_t answer =
+        type == QEvent::DragMove ? target->draggingUpdated(info) : target->draggingEntered(info);
+    if (answer == dragOperation::none) {
+        event.ignore();
+        return true;
+    }
+    event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction : event.proposedAction());
+    event.accept();
+    if (type == QEvent::Drop && target->performDragOperation(info))
+        target->concludeDragOperation(info);
+    return true;
+}
+
+} // namespace platform
