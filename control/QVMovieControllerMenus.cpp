@@ -4,6 +4,7 @@
 
 #include "app/context/QVAppContext.h"
 #include "platform/base/Localization.h"
+#include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playback/QVPlaylistMovieChangedNotification.h"
@@ -62,13 +63,6 @@ QVSubtitlesController* currentSubtitles() {
 
 /// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator while tracks follow.
 constexpr int fixedSubtitlesItems = 2;
-
-QString lastPathComponent(const QUrl& url) {
-    QString path = url.path(QUrl::FullyDecoded);
-    while (path.size() > 1 && path.endsWith(u'/'))
-        path.chop(1);
-    return path.mid(path.lastIndexOf(u'/', -2) + 1);
-}
 
 } // namespace
 
@@ -212,5 +206,5 @@ void QVMovieController::playlistChanged(const QVPlaylistChangedNotification& not
     menu->removeAllItems();
     int index = 0;
     for (const auto& movie : notification.movies)
-        menu->addItem(lastPathComponent(movie->url()), QStringLiteral("changeMovie"), index++);
+        menu->addItem(fileNameOfURL(movie->url()), QStringLiteral("changeMovie"), index++);
 }
