@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/View.h"
 
-#include "platform/window/Window.h"
-
 #include <algorithm>
 
 namespace platform {
 
 View::~View() {
     removeFromSuperview();
-    if (_window)
-        _window->forgetView(*this);
+    if (_owner)
+        _owner->forgetView(*this);
     for (View* child : _subviews)
         child->_superview = nullptr;
 }
@@ -45,17 +43,21 @@ void View::removeFromSuperview() {
     if (!_superview)
         return;
     setNeedsDisplay();
-    if (Window* shownIn = window())
-        shownIn->forgetView(*this);
+    if (ViewOwner* owner = root()._owner)
+        owner->forgetView(*this);
     std::erase(_superview->_subviews, this);
     _superview = nullptr;
 }
 
-Window* View::window() const {
+const View& View::root() const {
     const View* view = this;
     while (view->_superview)
         view = view->_superview;
-    return view->_window;
+    return *view;
+}
+
+Window* View::window() const {
+    return root()._window;
 }
 
 QRectF View::convertToWindow(const QRectF& rect) const {
@@ -76,9 +78,9 @@ void View::setNeedsDisplay() {
 }
 
 void View::setNeedsDisplayInRect(const QRectF& rect) {
-    Window* shownIn = window();
-    if (shownIn && !rect.isEmpty())
-        shownIn->displayNeeded(convertToWindow(rect));
+    ViewOwner* owner = root()._owner;
+    if (owner && !rect.isEmpty())
+        owner->displayNeeded(convertToWindow(rect));
 }
 
 void View::draw(QPainter&, const QRectF&) {}

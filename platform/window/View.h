@@ -12,7 +12,20 @@ class QPainter;
 namespace platform {
 
 class PictureLayer;
+class View;
 class Window;
+
+/// What a view asks of the window that shows it.
+class ViewOwner {
+public:
+    /// Marks a part of the content for redisplay (content coordinates).
+    virtual void displayNeeded(const QRectF& rect) = 0;
+    /// The view leaves the window: it gets no more of its keys and drags.
+    virtual void forgetView(const View& view) = 0;
+
+protected:
+    ~ViewOwner() = default;
+};
 
 /// A rectangle of a window that draws itself and takes events. Coordinates are points, origin bottom left, y up; a
 /// view's frame is in its superview's coordinates. Views do not own each other; a view leaves its superview when it is
@@ -69,9 +82,12 @@ public:
 
 private:
     friend class Window;
+    const View& root() const;
+
     QRectF _frame;
     View* _superview = nullptr;
-    Window* _window = nullptr; // of a content view only
+    Window* _window = nullptr; // of a content view only, as its owner
+    ViewOwner* _owner = nullptr;
     std::vector<View*> _subviews;
 };
 

@@ -39,6 +39,7 @@ bool WindowDelegate::windowShouldClose(Window&) {
 Window::Window(const QRectF& frame)
     : _frame(frame) {
     _contentView._window = this;
+    _contentView._owner = this;
     _contentView._frame = QRectF(QPointF(0, 0), frame.size());
 }
 
@@ -48,6 +49,7 @@ Window::~Window() {
     for (Window* child : _children)
         child->_parent = nullptr;
     _contentView._window = nullptr;
+    _contentView._owner = nullptr;
 }
 
 void Window::setFrame(const QRectF& frame) {

@@ -38,7 +38,7 @@ public:
 /// A window as a model: frame (screen coordinates, origin bottom left of the main screen, y up, points), alpha, level,
 /// content. It knows nothing of the window system; a root window is shown by a WindowHost. Child windows stay above
 /// their parent, move with it and are composed into its host's picture. Main thread.
-class Window {
+class Window : public ViewOwner {
 public:
     explicit Window(const QRectF& frame);
     Window(const Window&) = delete;
@@ -86,7 +86,8 @@ public:
     int addTrackingRect(const QRectF& rect);
     void removeTrackingRect(int tag);
 
-    /// Called by the host. Keys go to the first responder, then to the window; the pointer's position feeds the tracking areas.
+    /// Called by the host. Keys go to the first responder, then to the window; the pointer's position feeds the
+    /// tracking areas.
     bool dispatchKey(const KeyEvent& event);
     void dispatchMouseDown(const MouseEvent& event);
     void dispatchMouseDragged(const MouseEvent& event);
@@ -95,8 +96,7 @@ public:
     void dispatchMouseLeft();
     void setKey(bool key);
 
-    /// Marks a part of the content for redisplay (content coordinates).
-    void displayNeeded(const QRectF& rect);
+    void displayNeeded(const QRectF& rect) override;
 
 protected:
     /// Reached by keys that no view took.
@@ -109,9 +109,7 @@ protected:
     virtual void mouseExited(int trackingTag);
 
 private:
-    friend class View;
-    /// A view that leaves the window gets no more of its keys and drags.
-    void forgetView(const View& view);
+    void forgetView(const View& view) override;
 
     struct TrackingArea {
         int tag;
