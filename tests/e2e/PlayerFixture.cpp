@@ -94,10 +94,13 @@ testing::AssertionResult PlayerFixture::logs(const std::string& text, std::size_
 }
 
 bool PlayerFixture::tapUntil(KeySym key, const std::function<bool()>& condition) {
-    return waitUntil([&] {
+    bool became = false;
+    waitUntil([&] {
         probe.tap(key);
-        return waitUntil(condition, Seconds(0.25));
+        became = waitUntil(condition, Seconds(0.25));
+        return became || !player->isRunning();
     });
+    return became;
 }
 
 testing::AssertionResult PlayerFixture::quitsCleanly() {
