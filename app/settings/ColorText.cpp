@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace {
 
@@ -18,17 +17,20 @@ float clampedComponent(double value) {
     return static_cast<float>(std::clamp(value, 0.0, 1.0));
 }
 
+quint16 heldComponent(float component) {
+    return QColor::fromRgbF(component, 0, 0).rgba64().red();
+}
+
 /// The shortest text that reads back as the same component: a colour holds 16 bits of each, in which 0.5 is 0.500008.
 QByteArray componentText(float component) {
-    const auto held = [](double value) { return std::lround(value * 65535.0); };
-    for (int digits = 1; digits < kSignificantDigits; ++digits) {
-        const QByteArray text = platform::generalText(static_cast<double>(component), digits);
+    QByteArray text;
+    for (int digits = 1; digits <= kSignificantDigits; ++digits) {
+        text = platform::generalText(static_cast<double>(component), digits);
         QByteArrayView rest(text);
-        if (held(static_cast<double>(clampedComponent(platform::takeNumber(rest).value_or(0)))) ==
-            held(static_cast<double>(component)))
-            return text;
+        if (heldComponent(clampedComponent(platform::takeNumber(rest).value_or(0))) == heldComponent(component))
+            break;
     }
-    return platform::generalText(static_cast<double>(component), kSignificantDigits);
+    return text;
 }
 
 } // namespace

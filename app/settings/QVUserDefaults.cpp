@@ -24,6 +24,8 @@ constexpr std::int32_t kOrderOfAdding = 0;
 void registerShippedDefaults(UserDefaults& defaults) {
     const QString path =
         platform::Bundle::main().pathForResource(QStringLiteral("UserDefaults"), QStringLiteral("plist"));
+    if (path.isEmpty())
+        return;
     if (const auto shipped = platform::propertyList::readDictionary(path))
         defaults.registerDefaults(*shipped);
 }

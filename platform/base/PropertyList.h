@@ -10,10 +10,12 @@ namespace platform {
 
 /// Property lists (Apple's XML and binary forms, read and written through libplist), as Qt's values:
 /// dictionary = QVariantMap, array = QVariantList, string = QString, boolean = bool, integer = qlonglong,
-/// real = double, date = QDateTime (UTC), data = QByteArray. A double written and read back is the same double.
+/// real = double, date = QDateTime (UTC), data = QByteArray. Dates hold whole
+/// seconds and are read between 1933 and 2069. A double written and read back is the same double.
 namespace propertyList {
 
-/// Reads either form; nothing when the bytes are no property list.
+/// Reads either form; nothing when the bytes are no property list, or one of more than 16 MiB, 64 levels or a million
+/// values.
 std::optional<QVariant> parse(const QByteArray& bytes);
 
 /// Reads a file whose root is a dictionary; nothing when it is missing, unreadable, damaged or of another root.

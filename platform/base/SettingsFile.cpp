@@ -174,7 +174,7 @@ QVariantMap SettingsFile::load() {
     _writable = true;
     removeAbandonedFiles(_path);
     const Reading reading = readWhole(_path);
-    if (reading.error == ENOENT)
+    if (reading.error == ENOENT || reading.error == ENOTDIR)
         return {};
     if (reading.error != 0) {
         // There may be good settings in it.

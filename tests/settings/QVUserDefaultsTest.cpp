@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/QVOverlayStyleDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "platform/base/Bundle.h"
+#include "tests/support/CapturedLog.h"
+#include "tests/support/TestSettings.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList kStyleKeys = {kTextColor,           kTextFontName,      kTextFontSize,     kShadowOn,
+                                kShadowColor,         kShadowRadius,      kShadowOffset,     kBackgroundOn,
+                                kBackgroundColor,     kBackgroundRounded, kBackgroundRadius, kFrameOn,
+                                kFrameWidth,          kAlignment,         kFadingInInterval, kFadingOutInterval,
+                                kFadingDelayInterval, kMinAlpha,          kMaxAlpha};
+const QStringList kSelectors = {kQVDefaultOverlayStyle,   kQVFeedbackOverlayStyle, kQVOSDOverlayStyle,
+                                kQVSubtitlesOverlayStyle, kQVVobSubOverlayStyle,   kQVFullscreenOverlayStyle};
+
+class Build {
+public:
+    explicit Build(const QVariant& number) {
+        platform::Bundle::main().setInfoDictionary({{"CFBundleVersion", number}});
+    }
+    ~Build() { platform::Bundle::main().setResourcePath(platform::Bundle::main().resourcePath()); }
+};
+
+QVariantMap legacySettings() {
+    return {{kQVRunFirstTimeConfig, true},   {kQVOpenSavedPlaylist, false},
+            {kQVSortPlaylist, false},        {kQVPlaylistDefaultArrangement, 2},
+            {kQVOnLaunchDefaultAction, 1},   {kQVSubtitlesColor, "1 0 0"},
+            {kQVSubtitlesFontName, "Serif"}, {kQVSubtitlesSizeMin, 17},
+            {kQVSubtitlesSizeMax, 41.7},     {kLegacyVersionMirrorsKey, QVariantList{"x"}}};
+}
+
+} // namespace
+
+TEST(QVUserDefaults, each_migration_step_runs_for_the_builds_before_it) {
+    const struct {
+        QVariant current;
+        int last;
+        bool first, second, third, fourth;
+    } cases[] = {{"40", 10, true, true, true, true},     {"40", 15, true, true, true, true},
+                 {"40", 16, false, true, true, true},    {"40", 22, false, true, true, true},
+                 {"40", 23, false, false, true, true},   {"40", 24, false, false, true, true},
+                 {"40", 25, false, false, false, true},  {"40", 37, false, false, false, true},
+                 {"40", 38, false, false, false, false}, {"10", 10, false, false, false, false},
+                 {"10", 12, false, false, false, false}, {"no number", 0, false, false, false, false},
+                 {11, 10, true, true, true, true}};
+    for (const auto& [current, last, first, second, third, fourth] : cases) {
+        SCOPED_TRACE(testing::Message() << "from " << last << " to " << current.toString().toStdString());
+        const Build build(current);
+        QVariantMap stored = legacySettings();
+        stored[kQVLastVersionSeen] = last;
+        TestSettings settings(stored);
+        const auto& defaults = settings.defaults();
+
+        EXPECT_NE(defaults.hasStoredValue(kQVRunFirstTimeConfig), first);
+        EXPECT_NE(defaults.hasStoredValue(kQVOpenSavedPlaylist), second);
+        EXPECT_EQ(defaults.integerForKey(kQVOnLaunchDefaultAction), second ? 2 : 1);
+        EXPECT_NE(defaults.hasStoredValue(kQVSortPlaylist), second);
+        EXPECT_EQ(defaults.integerForKey(kQVPlaylistDefaultArrangement), second ? 0 : 2);
+        for (const QString& key : {kQVSubtitlesColor, kQVSubtitlesFontName, kQVSubtitlesSizeMin, kQVSubtitlesSizeMax})
+            EXPECT_NE(defaults.hasStoredValue(key), third) << key.toStdString();
+        const auto style =
+            QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(settings.defaults(), kQVSubtitlesOverlayStyle);
+        ASSERT_TRUE(style);
+        EXPECT_EQ(style->textColor() == QColor(255, 0, 0), third);
+        EXPECT_EQ(style->textFontName() == "Serif", third);
+        EXPECT_EQ(style->textFontSize() == 41, third);
+        EXPECT_EQ(defaults.integerForKey(kQVOverlayTextFontSizeMin) == 17, third);
+        EXPECT_NE(defaults.hasStoredValue(kLegacyVersionMirrorsKey), fourth);
+        EXPECT_EQ(defaults.integerForKey(kQVLastVersionSeen), last);
+    }
+}
+
+TEST(QVUserDefaults, an_old_switch_that_is_on_or_missing_changes_nothing_and_goes) {
+    TestSettings settings({{kQVOpenSavedPlaylist, true}, {kQVOnLaunchDefaultAction, 1}});
+    EXPECT_EQ(settings.defaults().integerForKey(kQVOnLaunchDefaultAction), 1);
+    EXPECT_FALSE(settings.defaults().hasStoredValue(kQVOpenSavedPlaylist));
+    EXPECT_FALSE(settings.defaults().hasStoredValue(kQVPlaylistDefaultArrangement));
+}
+
+TEST(QVUserDefaults, subtitle_settings_of_another_type_are_left_alone) {
+    TestSettings settings({{kQVSubtitlesColor, 5}, {kQVSubtitlesFontName, QVariantList{}}});
+    EXPECT_EQ(settings.defaults().integerForKey(kQVSubtitlesColor), 5);
+    EXPECT_TRUE(settings.defaults().hasStoredValue(kQVSubtitlesFontName));
+    EXPECT_FALSE(settings.defaults().hasStoredValue(kQVOverlayStyles));
+}
+
+TEST(QVUserDefaults, nothing_is_written_by_a_run_that_changes_nothing) {
+    TestSettings settings;
+    settings.runLoop.advance(10);
+    EXPECT_EQ(settings.disk->stores, 0);
+}
+
+TEST(QVUserDefaults, a_missing_resource_registers_nothing) {
+    const CapturedLog log;
+    const QString before = platform::Bundle::main().resourcePath();
+    platform::Bundle::main().setResourcePath("/nowhere");
+    {
+        TestSettings settings;
+        EXPECT_FALSE(settings.defaults().objectForKey(kQVJumpInterval).isValid());
+        EXPECT_EQ(settings.defaults().integerForKey(kQVJumpInterval), 0);
+    }
+    platform::Bundle::main().setResourcePath(before);
+}
+
+TEST(QVUserDefaults, the_shipped_values_keep_to_their_ranges_and_every_style_is_complete) {
+    const CapturedLog log;
+    TestSettings settings;
+    auto& defaults = settings.defaults();
+    for (const QString& selector : kSelectors) {
+        const auto style = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(defaults, selector);
+        ASSERT_TRUE(style) << selector.toStdString();
+        for (const QString& key : kStyleKeys)
+            EXPECT_TRUE(style->objectForKey(key).isValid()) << selector.toStdString() << " " << key.toStdString();
+        EXPECT_TRUE(style->textColor() && style->shadowColor() && style->backgroundColor());
+        EXPECT_GT(style->maxAlpha(), style->minAlpha());
+    }
+    for (const QString& key : {kQVScreenBrightness, kQVVolumeSavedLevel}) {
+        EXPECT_GT(defaults.floatForKey(key), 0) << key.toStdString();
+        EXPECT_LE(defaults.floatForKey(key), 1) << key.toStdString();
+    }
+    for (const QString& legacy : legacySettings().keys()) {
+        if (legacy != kQVPlaylistDefaultArrangement && legacy != kQVOnLaunchDefaultAction) {
+            EXPECT_FALSE(defaults.objectForKey(legacy).isValid()) << legacy.toStdString();
+        }
+    }
+    // A date that was never stored is missing, which means something.
+    EXPECT_FALSE(defaults.objectForKey(kQVAskDonationAfter).isValid());
+    EXPECT_FALSE(defaults.objectForKey(kQVNewVersionLastTimeChecked).isValid());
+    EXPECT_TRUE(log.lines().isEmpty());
+}

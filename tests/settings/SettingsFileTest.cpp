@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/base/SettingsFile.h"
+#include "tests/support/CapturedLog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using platform::SettingsFile;
+
+namespace {
+
+class SettingsFileTest : public testing::Test {
+protected:
+    void write(const QByteArray& bytes) const {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QStringList names() const {
+        return QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden | QDir::System);
+    }
+    static QByteArray contents(const QString& name) {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("settings.plist");
+    CapturedLog log;
+    const QVariantMap settings{{"QVJumpInterval", 15}, {"QVVolumeSavedLevel", 0.3F}};
+};
+
+} // namespace
+
+TEST_F(SettingsFileTest, the_first_run_makes_the_folder_and_leaves_nothing_but_the_settings_in_it) {
+    const QString deep = folder.filePath("a/b/settings.plist");
+    SettingsFile file(deep);
+    EXPECT_TRUE(file.load().isEmpty());
+    EXPECT_TRUE(file.store(settings));
+    EXPECT_EQ(SettingsFile(deep).load()["QVJumpInterval"], 15);
+    EXPECT_EQ(QDir(folder.filePath("a/b")).entryList(QDir::Files | QDir::Hidden), QStringList{"settings.plist"});
+    EXPECT_TRUE(log.lines().isEmpty());
+}
+
+TEST_F(SettingsFileTest, a_damaged_file_is_put_aside_and_reported) {
+    const char* const damages[] = {"", "no property list", "<plist version=\"1.0\"><dict><key>a</key>",
+                                   "<plist version=\"1.0\"><string>no dictionary</string></plist>", "bplist00"};
+    for (const char* damage : damages) {
+        log.clear();
+        write(damage);
+        SettingsFile file(path);
+        EXPECT_TRUE(file.load().isEmpty()) << damage;
+        EXPECT_EQ(log.count("ERROR: "), 1) << damage;
+        EXPECT_TRUE(file.store(settings)) << damage;
+    }
+    // None of them took another one's name, though they came within a second.
+    QList<QByteArray> kept;
+    for (const QString& name : names().filter("settings.plist.damaged-"))
+        kept.append(contents(folder.filePath(name)));
+    ASSERT_EQ(kept.size(), static_cast<qsizetype>(std::size(damages)));
+    for (const char* damage : damages)
+        EXPECT_TRUE(kept.contains(damage)) << damage;
+}
+
+TEST_F(SettingsFileTest, what_could_not_be_read_is_never_replaced) {
+    const struct {
+        const char* what;
+        std::function<void()> make;
+    } cases[] = {{"a folder", [&] { QDir().mkpath(path); }},
+                 {"a pipe", [&] { ::mkfifo(QFile::encodeName(path).constData(), 0600); }},
+                 {"a link to itself", [&] { QFile::link(path, path); }},
+                 {"no permission", [&] {
+                      write("kept");
+                      ::chmod(QFile::encodeName(path).constData(), 0);
+                  }}};
+    for (const auto& [what, make] : cases) {
+        if (::geteuid() == 0 && QByteArray(what) == "no permission")
+            continue; // root may read everything
+        log.clear();
+        make();
+        const QFileInfo before(path);
+        SettingsFile file(path);
+        EXPECT_TRUE(file.load().isEmpty()) << what;
+        EXPECT_EQ(log.count("ERROR: "), 1) << what;
+        EXPECT_FALSE(file.store(settings)) << what;
+        const QFileInfo after(path);
+        EXPECT_EQ(before.isDir(), after.isDir()) << what;
+        EXPECT_EQ(before.isSymLink(), after.isSymLink()) << what;
+        EXPECT_EQ(names(), QStringList{"settings.plist"}) << what;
+        after.isDir() ? QDir().rmdir(path) : QFile::remove(path);
+    }
+}
+
+TEST_F(SettingsFileTest, a_place_that_takes_no_file_is_reported_each_time) {
+    write("a file, not a folder");
+    SettingsFile file(path + "/settings.plist");
+    file.load();
+    log.clear();
+    EXPECT_FALSE(file.store(settings));
+    EXPECT_EQ(log.count("ERROR: "), 1);
+    EXPECT_EQ(contents(path), "a file, not a folder");
+}
+
+TEST_F(SettingsFileTest, a_link_stays_a_link_and_permissions_stay) {
+    const QString target = folder.filePath("elsewhere.plist");
+    ASSERT_TRUE(QFile::link("elsewhere.plist", path));
+    SettingsFile file(path);
+    EXPECT_TRUE(file.load().isEmpty());
+    EXPECT_TRUE(file.store(settings));
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_TRUE(QFileInfo(target).isFile());
+
+    ::chmod(QFile::encodeName(target).constData(), 0640);
+    EXPECT_TRUE(file.store({{"other", 1}}));
+    struct stat info {};
+    ::stat(QFile::encodeName(target).constData(), &info);
+    EXPECT_EQ(info.st_mode & 0777U, 0640U);
+    EXPECT_EQ(SettingsFile(path).load(), (QVariantMap{{"other", 1}}));
+}
+
+TEST_F(SettingsFileTest, killed_at_any_moment_it_reads_back_whole) {
+    ASSERT_TRUE(SettingsFile(path).store({{"first", 0}, {"last", 0}}));
+    for (unsigned round = 1; round <= 20; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            SettingsFile file(path);
+            for (int number = 1;; ++number)
+                file.store({{"first", number}, {"filling", QString(50'000, 'x')}, {"last", number}});
+        }
+        ::usleep(round * 700); // The child needs real time to be in the middle of something.
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const QVariantMap read = SettingsFile(path).load();
+        ASSERT_TRUE(read.contains("first")) << round;
+        ASSERT_EQ(read["first"], read["last"]) << round;
+    }
+    EXPECT_FALSE(log.contains("ERROR"));
+
+    // What the killed runs left is cleared away once it is old.
+    const QString left = path + ".new-abcdef";
+    ASSERT_TRUE(QFile::copy(path, left));
+    QFile file(left);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime);
+    file.close();
+    SettingsFile(path).load();
+    EXPECT_FALSE(QFile::exists(left));
+}
+
+TEST(SettingsFilePath, it_lies_in_the_configuration_folder) {
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", "/somewhere");
+    EXPECT_EQ(SettingsFile::defaultPath(), "/somewhere/lumaro/org.lumaro.Lumaro.plist");
+    for (const char* unusable : {"", "relative/path"}) {
+        qputenv("XDG_CONFIG_HOME", unusable);
+        EXPECT_EQ(SettingsFile::defaultPath(), QDir::homePath() + "/.config/lumaro/org.lumaro.Lumaro.plist");
+    }
+    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/ColorText.h"
+#include "platform/base/Log.h"
+#include "platform/base/StringComparison.h"
+
+#include <gtest/gtest.h>
+
+TEST(ColorText, components_that_the_text_does_not_reach_keep_their_start_values) {
+    const struct {
+        const char* text;
+        QColor color;
+    } cases[] = {{"1 0 0", QColor::fromRgbF(1, 0, 0, 1)},
+                 {"0.5", QColor::fromRgbF(0.5F, 0, 0, 1)},
+                 {"red", QColor::fromRgbF(0, 0, 0, 1)},
+                 {"0.5 x 1 0", QColor::fromRgbF(0.5F, 0, 0, 1)},
+                 {"0 0 0 0", QColor::fromRgbF(0, 0, 0, 0)},
+                 {" \t1\n1  1 0.25 9", QColor::fromRgbF(1, 1, 1, 0.25F)},
+                 {"2 -1 1e9 0.5", QColor::fromRgbF(1, 0, 1, 0.5F)},
+                 {"nan 1 1 1", QColor::fromRgbF(0, 0, 0, 1)},
+                 {"0,5 1 1 1", QColor::fromRgbF(0, 0, 0, 1)},
+                 {"+.5 5e-1 1 1", QColor::fromRgbF(0.5F, 0.5F, 1, 1)}};
+    for (const auto& [text, color] : cases)
+        EXPECT_EQ(JHColorFromString(text), color) << text;
+    EXPECT_FALSE(JHColorFromString(""));
+    EXPECT_FALSE(JHColorFromString({}));
+}
+
+TEST(ColorText, a_colour_is_written_short_and_read_back_as_the_same_one) {
+    EXPECT_EQ(JHStringFromColor(QColor(255, 0, 0)), "1 0 0 1");
+    EXPECT_EQ(JHStringFromColor(QColor::fromRgbF(0.5F, 0.5F, 0.5F, 0.5F)), "0.5 0.5 0.5 0.5");
+    EXPECT_EQ(JHStringFromColor(QColor::fromHsvF(0, 1, 1)), "1 0 0 1");
+    EXPECT_TRUE(JHStringFromColor(std::nullopt).isNull());
+    EXPECT_TRUE(JHStringFromColor(QColor()).isNull());
+    for (int level = 0; level < 65536; level += 7) {
+        const auto value = static_cast<quint16>(level);
+        const QColor color = QColor::fromRgba64(value, value, value, value);
+        ASSERT_EQ(JHColorFromString(JHStringFromColor(color)), color) << level;
+    }
+}
+
+TEST(ColorText, sizes) {
+    EXPECT_EQ(JHSizeFromString(""), QSizeF(0, 0));
+    EXPECT_EQ(JHSizeFromString("3"), QSizeF(3, 0));
+    EXPECT_EQ(JHSizeFromString("x 3"), QSizeF(0, 0));
+    EXPECT_EQ(JHSizeFromString("2 -2"), QSizeF(2, -2));
+    EXPECT_EQ(JHStringFromSize({2, -2}), "2 -2");
+    EXPECT_EQ(JHStringFromSize({1234567.0, 0.0001}), "1.23457e+06 0.0001");
+}
+
+TEST(StringComparison, names_are_ordered_without_case_and_numbers_by_value_when_asked) {
+    const struct {
+        const char* left;
+        const char* right;
+        int plain;
+        int numerical;
+    } cases[] = {{"", "", 0, 0},
+                 {"", "a", -1, -1},
+                 {"a.avi", "A.AVI", 0, 0},
+                 {"ÄRGER", "ärger", 0, 0},
+                 {"Ep9.avi", "Ep10.avi", 1, -1},
+                 {"ep 2", "ep 02", 1, 0},
+                 {"ep 002b", "ep 2a", -1, 1},
+                 {"x00", "x0y", -1, -1},
+                 {"7", "a", -1, -1},
+                 {"a_b", "aXb", -1, -1},
+                 {"v99999999999999999999999998", "v99999999999999999999999999", -1, -1},
+                 {"v100000000000000000000000000", "v99999999999999999999999999", -1, 1}};
+    for (const auto& [left, right, plain, numerical] : cases) {
+        const QString l = QString::fromUtf8(left);
+        const QString r = QString::fromUtf8(right);
+        EXPECT_EQ(platform::compareCaseInsensitively(l, r, false), plain) << left << " " << right;
+        EXPECT_EQ(platform::compareCaseInsensitively(r, l, false), -plain) << left << " " << right;
+        EXPECT_EQ(platform::compareCaseInsensitively(l, r, true), numerical) << left << " " << right;
+        EXPECT_EQ(platform::compareCaseInsensitively(r, l, true), -numerical) << left << " " << right;
+    }
+}
+
+TEST(Formatted, placeholders_are_filled_once_and_in_order) {
+    const struct {
+        const char* format;
+        QStringList arguments;
+        const char* result;
+    } cases[] = {{"%@ (%d/%d)", {"Film.avi", "2", "5"}, "Film.avi (2/5)"},
+                 {"%@ %@", {"100%@", "b"}, "100%@ b"},
+                 {"%d%%", {"50"}, "50%"},
+                 {"%04X %.2f %s %ld", {"1060", "1.50", "x", "7"}, "1060 1.50 x 7"},
+                 {"%@ %@", {"a"}, "a %@"},
+                 {"%@", {"a", "b"}, "a"},
+                 {"100% sure %", {"a"}, "100% sure %"},
+                 {"%2$@ before %1$@", {"a", "b"}, "b before a"},
+                 {"%9$@ %0$@", {"a"}, "%9$@ a"}};
+    for (const auto& [format, arguments, result] : cases)
+        EXPECT_EQ(platform::formatted(format, arguments), result) << format;
+}

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/base/UserDefaults.h"
+#include "tests/support/ManualRunLoop.h"
+#include "tests/support/MemorySettings.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+class UserDefaultsTest : public testing::Test {
+protected:
+    UserDefaultsTest() { platform::RunLoop::setMain(&loop); }
+    ~UserDefaultsTest() override {
+        defaults.reset();
+        platform::RunLoop::setMain(nullptr);
+    }
+
+    ManualRunLoop loop;
+    std::shared_ptr<MemorySettings::Disk> disk = std::make_shared<MemorySettings::Disk>();
+    std::unique_ptr<platform::UserDefaults> defaults =
+        std::make_unique<platform::UserDefaults>(std::make_unique<MemorySettings>(disk));
+};
+
+} // namespace
+
+TEST_F(UserDefaultsTest, the_highest_layer_that_holds_a_key_answers) {
+    EXPECT_FALSE(defaults->objectForKey("key").isValid());
+    defaults->registerDefaults({{"key", 1}});
+    EXPECT_EQ(defaults->integerForKey("key"), 1);
+    defaults->setInteger(2, "key");
+    EXPECT_EQ(defaults->integerForKey("key"), 2);
+    defaults->setOverride("key", "3");
+    EXPECT_EQ(defaults->integerForKey("key"), 3);
+    defaults->synchronize();
+    EXPECT_EQ(disk->domain, (QVariantMap{{"key", 2}}));
+
+    defaults->setInteger(4, "key");
+    EXPECT_EQ(defaults->integerForKey("key"), 4);
+    defaults->removeObjectForKey("key");
+    EXPECT_EQ(defaults->integerForKey("key"), 1);
+    EXPECT_FALSE(defaults->hasStoredValue("key"));
+}
+
+TEST_F(UserDefaultsTest, changes_are_written_together_a_second_after_the_first) {
+    defaults->setInteger(1, "a");
+    loop.advance(0.9);
+    defaults->setInteger(2, "a");
+    EXPECT_EQ(disk->stores, 0);
+    loop.advance(0.2);
+    EXPECT_EQ(disk->stores, 1);
+    EXPECT_EQ(disk->domain["a"], 2);
+
+    defaults->setInteger(2, "a");
+    defaults->removeObjectForKey("b");
+    loop.advance(10);
+    EXPECT_EQ(disk->stores, 1) << "nothing had changed";
+    EXPECT_EQ(loop.pendingCount(), 0U);
+}
+
+TEST_F(UserDefaultsTest, a_write_that_failed_is_tried_again) {
+    disk->refuses = true;
+    defaults->setInteger(1, "a");
+    EXPECT_FALSE(defaults->synchronize());
+    EXPECT_EQ(defaults->integerForKey("a"), 1);
+    disk->refuses = false;
+    EXPECT_TRUE(defaults->synchronize());
+    EXPECT_EQ(disk->domain["a"], 1);
+}
+
+TEST_F(UserDefaultsTest, what_was_not_written_yet_is_written_at_the_end) {
+    defaults->setInteger(1, "a");
+    defaults.reset();
+    EXPECT_EQ(disk->domain["a"], 1);
+}
+
+TEST_F(UserDefaultsTest, values_are_read_as_the_type_that_is_asked_for) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const struct {
+        QVariant value;
+        bool flag;
+        std::int32_t integer;
+        float number;
+    } cases[] = {
+        {true, true, 1, 1},
+        {-2.9, true, -2, -2.9F},
+        {0.3, true, 0, 0.3F},
+        {1e12, true, std::numeric_limits<std::int32_t>::max(), 1e12F},
+        {std::numeric_limits<qlonglong>::min(), true, std::numeric_limits<std::int32_t>::min(), -9.2233720e18F},
+        {1e300, true, std::numeric_limits<std::int32_t>::max(), std::numeric_limits<float>::max()},
+        {nan, true, 0, 0},
+        {"yes", true, 0, 0},
+        {"TRUE", true, 0, 0},
+        {"no", false, 0, 0},
+        {" +1.5x", true, 1, 1.5F},
+        {"0", false, 0, 0},
+        {"", false, 0, 0},
+        {QVariantList{1}, false, 0, 0},
+        {QByteArray("1"), false, 0, 0}};
+    for (const auto& [value, flag, integer, number] : cases) {
+        defaults->setObject(value, "key");
+        EXPECT_EQ(defaults->boolForKey("key"), flag) << value.toString().toStdString();
+        EXPECT_EQ(defaults->integerForKey("key"), integer) << value.toString().toStdString();
+        EXPECT_EQ(defaults->floatForKey("key"), number) << value.toString().toStdString();
+    }
+}
+
+TEST_F(UserDefaultsTest, a_value_of_another_type_is_no_text_list_dictionary_or_date) {
+    defaults->setInteger(5, "key");
+    EXPECT_TRUE(defaults->stringForKey("key").isNull());
+    EXPECT_TRUE(defaults->arrayForKey("key").isEmpty());
+    EXPECT_TRUE(defaults->dictionaryForKey("key").isEmpty());
+    EXPECT_FALSE(defaults->dateForKey("key").isValid());
+    defaults->setObject("2026-01-01", "key");
+    EXPECT_FALSE(defaults->dateForKey("key").isValid());
+    defaults->setObject(QVariantList{"a", 1, "b"}, "key");
+    EXPECT_EQ(defaults->stringArrayForKey("key"), (QStringList{"a", "b"}));
+}
