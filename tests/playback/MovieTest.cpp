@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/Movie.h"
+
+#include "tests/support/ScriptedToolkit.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+using platform::Movie;
+using platform::MovieInfo;
+
+namespace {
+
+MovieInfo plain() {
+    return ScriptedToolkit::plainMovie(QUrl(QStringLiteral("file:///a.mp4")));
+}
+
+struct Loaded {
+    explicit Loaded(MovieInfo info = plain())
+        : movie(std::make_unique<Movie>(std::move(info), player)) {
+        player.load(movie.get());
+    }
+    /// Counts the passing of times, arming again as an observer of every picture does.
+    void watch() {
+        movie->callWhenTimePasses(movie->nextInterestingTime(movie->time(), movie->rate()), [this] {
+            passed.push_back(movie->time());
+            watch();
+        });
+    }
+    ScriptedPlayer player;
+    std::unique_ptr<Movie> movie;
+    std::vector<std::int32_t> passed;
+};
+
+} // namespace
+
+TEST(Movie, the_next_picture_is_the_next_multiple_of_a_pictures_length) {
+    constexpr std::int32_t forward = 0x10000;
+    const struct {
+        double frame;
+        std::int32_t duration;
+        bool video;
+        std::int32_t from, rate, next;
+    } cases[] = {
+        {24, 36000, true, 0, forward, 24},
+        {24, 36000, true, 23, 0, 24},
+        {24, 36000, true, 24, forward, 48},
+        {24, 36000, true, 35976, forward, -1},
+        {24, 36000, true, 48, -forward, 24},
+        {24, 36000, true, 50, -2 * forward, 48},
+        {24, 36000, true, 0, -forward, -1},
+        {24, 36000, false, 0, forward, -1},
+        {0, 36000, true, 0, forward, -1},
+        {1001.0 / 3, 90000, true, 334, forward, 667},
+        {0.25, 100, true, 7, forward, 8}, // more than one picture a unit
+        {24, 0, true, 2147483640, forward, -1},
+        {24, 0, true, 480, forward, 504},
+        {3003, 2147483647, true, 2147480000, forward, 2147481336},
+    };
+    ScriptedPlayer player;
+    for (const auto& c : cases) {
+        MovieInfo info = plain();
+        info.frameDuration = c.frame;
+        info.duration = c.duration;
+        info.hasVideo = c.video;
+        EXPECT_EQ(Movie(info, player).nextInterestingTime(c.from, c.rate), c.next) << c.frame << " after " << c.from;
+    }
+}
+
+TEST(Movie, each_picture_shown_while_playing_passes_once_however_long_pictures_last) {
+    Loaded steady;
+    steady.watch();
+    steady.player.play();
+    steady.player.advance(0.2);
+    EXPECT_EQ(steady.passed, (std::vector<std::int32_t>{24, 48, 72, 96, 120}));
+
+    Loaded varying;
+    varying.watch();
+    varying.player.play();
+    for (const std::int32_t time : {5, 5, 11, 300, 301})
+        varying.player.showFrame(time);
+    EXPECT_EQ(varying.passed, (std::vector<std::int32_t>{5, 11, 300, 301}));
+
+    Loaded backwards;
+    backwards.player.seek(96, platform::MoviePlayer::JumpReport::silent);
+    backwards.player.setRate(-1);
+    backwards.watch();
+    backwards.player.advance(0.08);
+    EXPECT_EQ(backwards.passed, (std::vector<std::int32_t>{72, 48}));
+}
+
+TEST(Movie, without_pictures_every_quarter_of_a_second_passes) {
+    MovieInfo info = plain();
+    info.hasVideo = false;
+    Loaded sound(info);
+    sound.watch();
+    sound.player.play();
+    sound.player.advance(1.02);
+    EXPECT_EQ(sound.passed, (std::vector<std::int32_t>{150, 300, 450, 600}));
+}
+
+TEST(Movie, a_move_of_a_resting_movie_is_silent_and_stays_in_the_movie) {
+    Loaded m;
+    int jumps = 0;
+    m.movie->callWhenTimeJumps([&] { ++jumps; });
+    m.watch();
+    EXPECT_EQ(m.movie->setTimeValue(40000), 0);
+    EXPECT_EQ(m.movie->time(), 36000);
+    m.movie->setTimeValue(-1);
+    EXPECT_EQ(m.movie->time(), 0);
+    EXPECT_TRUE(m.passed.empty());
+    EXPECT_EQ(jumps, 0);
+    m.player.step(1);
+    EXPECT_EQ(jumps, 1);
+    m.player.step(1);
+    EXPECT_EQ(jumps, 1) << "a callback is called once for each arming";
+}
+
+TEST(Movie, a_movie_that_is_not_loaded_rests_at_the_time_it_was_left_at) {
+    Loaded m;
+    m.player.play();
+    m.player.advance(1);
+    Movie other(plain(), m.player);
+    m.player.load(&other);
+    EXPECT_EQ(m.movie->time(), 600);
+    EXPECT_EQ(m.movie->rate(), 0);
+    EXPECT_EQ(other.time(), 0);
+    m.movie->setTimeValue(1200);
+    EXPECT_EQ(other.time(), 0);
+    m.player.load(m.movie.get());
+    EXPECT_EQ(m.player.time(), 1200);
+}
+
+TEST(Movie, a_movie_may_end_inside_its_callbacks) {
+    Loaded m;
+    m.movie->callWhenTimePasses(24, [&] { m.movie.reset(); });
+    m.player.play();
+    m.player.advance(1);
+    EXPECT_FALSE(m.movie);
+    EXPECT_EQ(m.player.loaded(), nullptr);
+
+    Loaded jumping;
+    jumping.movie->callWhenTimeJumps([&] { jumping.movie.reset(); });
+    jumping.player.seek(600, platform::MoviePlayer::JumpReport::reported);
+    EXPECT_FALSE(jumping.movie);
+}

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playback/QVMovie.h"
+
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/Tracing.h"
+#include "playback/SubtitleDiscovery.h"
+#include "tests/support/CapturedLog.h"
+#include "tests/support/PlaybackRig.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <sys/stat.h>
+
+namespace {
+
+class FakeTrack final : public QVSubtitles {
+public:
+    explicit FakeTrack(QString path)
+        : _path(std::move(path)) {}
+    QString path() const override { return _path; }
+    std::uint32_t streamIndex() const override { return 0; }
+    QString title() const override { return _path; }
+
+private:
+    QString _path;
+};
+
+/// Takes each file offered except text files.
+class FakeRegistry final : public SubtitleRegistry {
+public:
+    FakeRegistry() { setShared(this); }
+    ~FakeRegistry() override { setShared(nullptr); }
+    QStringList offered;
+
+    QStringList subtitleUnfilteredFileTypes() const override {
+        return {QStringLiteral("srt"), QStringLiteral("sub"), QStringLiteral("txt"), QStringLiteral("idx")};
+    }
+    std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path, SubtitleOwner&) override {
+        offered.append(QFileInfo(path).fileName());
+        if (path.endsWith(QStringLiteral(".txt")))
+            return {};
+        return {std::make_shared<FakeTrack>(path)};
+    }
+};
+
+void touch(const QString& path) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+}
+
+std::shared_ptr<QVMovie> movieNamed(PlaybackRig& rig, const QString& path) {
+    return std::make_shared<QVMovie>(ScriptedToolkit::plainMovie(QUrl::fromLocalFile(path)), rig.player());
+}
+
+} // namespace
+
+TEST(QVMovie, frames_and_seconds_are_counted_as_stated) {
+    PlaybackRig rig;
+    const struct {
+        bool video;
+        std::uint32_t frames;
+        std::int32_t duration; // at 600 units a second
+        float rate;
+    } cases[] = {
+        {true, 1500, 36000, 25.0F},
+        {true, 60, 1400, 30.0F}, // 2.33 seconds count as 2
+        {true, 12, 500, INFINITY},
+        {false, 0, 36000, 0.0F},
+    };
+    for (const auto& c : cases) {
+        platform::MovieInfo info = ScriptedToolkit::plainMovie(QUrl());
+        info.hasVideo = c.video;
+        info.videoSampleCount = c.frames;
+        info.duration = c.duration;
+        QVMovie movie(info, rig.player());
+        EXPECT_EQ(movie.frameCount(), c.frames);
+        EXPECT_EQ(movie.frameRate(), c.rate);
+        EXPECT_EQ(movie.frameRate(), c.rate);
+        EXPECT_EQ(movie.durationInSeconds(), c.duration / 600);
+        EXPECT_EQ(movie.nextFrameTime(), c.video ? 24 : -1);
+    }
+    QVMovie movie(ScriptedToolkit::plainMovie(QUrl()), rig.player());
+    EXPECT_EQ(movie.naturalFrame(), QRectF(0, 420, 640, 480));
+}
+
+TEST(QVMovie, setting_the_time_while_paused_is_told_once) {
+    PlaybackRig rig;
+    const auto movie = rig.show();
+    Posts<QVMovieInterestingTimeNotification> posts;
+    movie->setTime(1200);
+    EXPECT_EQ(posts.count, 1);
+    EXPECT_EQ(posts.last->movie, movie);
+    EXPECT_EQ(movie->time(), 1200);
+    EXPECT_EQ(movie->timeInSeconds(), 2);
+}
+
+TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
+    PlaybackRig rig;
+    const auto movie = rig.show();
+    Posts<QVMovieInterestingTimeNotification> times;
+    Posts<QVMovieCompleteNotification> ends;
+    rig.view.start();
+    rig.player().advance(1);
+    EXPECT_EQ(times.count, 25);
+    EXPECT_TRUE(rig.desktop.userActive);
+    rig.view.stop();
+    EXPECT_FALSE(rig.desktop.userActive);
+    rig.view.stepForward();
+    rig.view.stepForward();
+    rig.view.gotoBeginning();
+    EXPECT_EQ(times.count, 28);
+    EXPECT_FALSE(rig.desktop.userActive) << "a resting movie keeps no screen awake";
+
+    movie->setNeedsTimeTable(true);
+    rig.view.start();
+    rig.player().reachEnd();
+    EXPECT_EQ(ends.count, 0) << "only what has arrived so far has ended";
+    EXPECT_FALSE(rig.desktop.userActive);
+    movie->setNeedsTimeTable(false);
+    movie->resetCallbacks();
+    rig.player().reachEnd();
+    EXPECT_EQ(ends.count, 1);
+    EXPECT_EQ(ends.last->movie, movie);
+
+    rig.show(QStringLiteral("file:///b.mp4"));
+    times.count = 0;
+    movie->playerJumped();
+    EXPECT_EQ(times.count, 0) << "the movie that was replaced is silent";
+}
+
+TEST(QVMovie, an_observer_may_let_go_of_the_movie) {
+    PlaybackRig rig;
+    rig.show();
+    auto subscription = platform::NotificationCenter::defaultCenter().observe<QVMovieInterestingTimeNotification>(
+        [&](const auto&) { rig.view.setMovie(nullptr); });
+    rig.view.start();
+    rig.player().advance(1);
+    EXPECT_EQ(rig.player().loaded(), nullptr);
+}
+
+TEST(QVMovie, an_error_that_stays_is_logged_whether_or_not_the_movie_opened) {
+    PlaybackRig rig;
+    CapturedLog log;
+    const QUrl broken(QStringLiteral("file:///broken.mp4"));
+    const QUrl silent(QStringLiteral("file:///silent.mp4"));
+    rig.toolkit.setFailure(broken, platform::movieError::couldNotOpen);
+    rig.toolkit.setMovie(silent, ScriptedToolkit::plainMovie(silent), platform::movieError::cannotPlay);
+    EXPECT_FALSE(QVMovie::movieWithURL(broken));
+    EXPECT_TRUE(QVMovie::movieWithURL(silent));
+    EXPECT_TRUE(QVMovie::movieWithFilePath(QStringLiteral("/good.mp4")));
+    EXPECT_EQ(log.lines(),
+              (QStringList{QStringLiteral("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code -2000"),
+                           QStringLiteral("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code -2008")}));
+}
+
+TEST(QVMovie, movies_are_ordered_by_the_settings) {
+    PlaybackRig rig;
+    const struct {
+        bool names, numbers;
+        const char *left, *right;
+        int order;
+    } cases[] = {
+        {false, true, "/v/b2.avi", "/v/b10.avi", -1}, {false, false, "/v/b2.avi", "/v/b10.avi", 1},
+        {false, true, "/V/A.avi", "/v/a.AVI", 0},     {true, true, "/z/a.avi", "/a/b.avi", -1},
+        {false, true, "/z/a.avi", "/a/b.avi", 1},     {true, false, "/v/100%.avi", "/v/1#2.avi", 1},
+    };
+    for (const auto& c : cases) {
+        rig.settings.defaults().setBool(c.names, kQVSortOnlyFilenames);
+        rig.settings.defaults().setBool(c.numbers, kQVSortNumerically);
+        const auto left = movieNamed(rig, QString::fromUtf8(c.left));
+        const auto right = movieNamed(rig, QString::fromUtf8(c.right));
+        EXPECT_EQ(left->compare(*right), c.order) << c.left;
+        EXPECT_EQ(right->compare(*left), -c.order) << c.left;
+    }
+}
+
+TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
+    PlaybackRig rig;
+    FakeRegistry registry;
+    QTemporaryDir folder;
+    for (const char* name : {"Film.avi", "Film.srt", "FILM.SUB", "film.en.srt", "Filmography.txt", "Film.nfo",
+                             "Fil.srt", "Other.srt", ".hidden.srt"})
+        touch(folder.filePath(QString::fromUtf8(name)));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath(QStringLiteral("Film.pipe.srt"))).constData(), 0600), 0);
+    QDir(folder.path()).mkdir(QStringLiteral("Film.folder.srt"));
+
+    const auto movie = QVMovie::movieWithFilePath(folder.filePath(QStringLiteral("Film.avi")));
+    registry.offered.sort();
+    EXPECT_EQ(registry.offered, (QStringList{QStringLiteral("FILM.SUB"), QStringLiteral("Film.srt"),
+                                             QStringLiteral("Filmography.txt"), QStringLiteral("film.en.srt")}));
+    EXPECT_EQ(movie->subtitles().size(), 3U);
+
+    rig.settings.defaults().setBool(false, kQVAutoloadSubtitles);
+    EXPECT_TRUE(QVMovie::movieWithFilePath(folder.filePath(QStringLiteral("Film.avi")))->subtitles().empty());
+    EXPECT_EQ(SubtitleDiscovery::baseOfPath(QStringLiteral("/a.b/.film")), QStringLiteral("/a.b/.film"));
+}
+
+TEST(QVMovie, a_folder_is_listed_once_for_many_movies_and_again_later) {
+    PlaybackRig rig;
+    QTemporaryDir folder;
+    const QString base = folder.filePath(QStringLiteral("a"));
+    const QStringList types{QStringLiteral("srt")};
+    EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, types).isEmpty());
+    touch(base + QStringLiteral(".srt"));
+    EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, types).isEmpty());
+    EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, {}).isEmpty());
+    rig.settings.runLoop.advance(1.5);
+    EXPECT_EQ(SubtitleDiscovery::filesBeginningWith(base, types), QStringList(base + QStringLiteral(".srt")));
+}

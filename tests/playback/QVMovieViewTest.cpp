@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playback/QVMovieView.h"
+
+#include "app/settings/SettingsKeys.h"
+#include "overlays/QVFeedbackOverlay.h"
+#include "playback/QVPlaylistMovieChangedNotification.h"
+#include "tests/support/PlaybackRig.h"
+
+#include <gtest/gtest.h>
+
+using Recalculation = QVMovieView::Recalculation;
+
+namespace {
+
+platform::KeyEvent key(char16_t character) {
+    platform::KeyEvent event;
+    event.charactersIgnoringModifiers = QChar(character);
+    return event;
+}
+
+void changePreference(const QString& settingsKey) {
+    platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{settingsKey});
+}
+
+} // namespace
+
+TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning) {
+    PlaybackRig rig;
+    rig.view.setMovieSize(movieSize::fitWidth, Recalculation::ifChanged);
+    const auto first = rig.show();
+    rig.view.setVolume(0.3F);
+    rig.view.start();
+    rig.player().advance(5);
+    rig.app.isForceMuted = true;
+    Posts<QVMovieVolumeChangedNotification> volumes;
+    const auto second = QVMovie::movieWithURL(QUrl(QStringLiteral("file:///b.mp4")));
+    platform::NotificationCenter::defaultCenter().post(QVPlaylistMovieChangedNotification{second});
+    EXPECT_EQ(rig.view.movie(), second);
+    EXPECT_FALSE(rig.view.isPlaying());
+    EXPECT_FALSE(rig.app.isForceMuted);
+    EXPECT_FLOAT_EQ(rig.view.volume(), 0.3F);
+    EXPECT_EQ(volumes.count, 1);
+    EXPECT_EQ(rig.view.movieSize(), movieSize::fitWidth);
+    EXPECT_EQ(rig.view.frame(), QRectF(0, -90, 1440, 1080));
+    EXPECT_EQ(rig.view.time(), 0);
+
+    // The same movie again begins anew without being loaded anew.
+    rig.view.start();
+    rig.player().advance(5);
+    const int loads = rig.player().loads;
+    platform::NotificationCenter::defaultCenter().post(QVPlaylistMovieChangedNotification{second});
+    EXPECT_EQ(rig.view.time(), 0);
+    EXPECT_EQ(rig.player().loads, loads);
+}
+
+TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
+    PlaybackRig rig;
+    rig.show();
+    Posts<QVMovieViewSizeChangedNotification> posts;
+    EXPECT_EQ(rig.view.frame(), QRectF(120, 0, 1200, 900));
+    rig.view.setMovieSize(movieSize::fitScreen, Recalculation::ifChanged);
+    EXPECT_EQ(posts.count, 0);
+    rig.view.setMovieSize(movieSize::normal, Recalculation::ifChanged);
+    EXPECT_EQ(rig.view.frame(), QRectF(400, 210, 640, 480));
+    rig.view.setMovieSize(movieSize::bigger, Recalculation::ifChanged);
+    rig.view.setMovieSize(movieSize::bigger, Recalculation::ifChanged);
+    EXPECT_EQ(posts.count, 3);
+    EXPECT_EQ(rig.view.movieSize(), movieSize::custom);
+    EXPECT_EQ(rig.settings.defaults().integerForKey(kQVDefaultMovieSize), movieSize::custom);
+    EXPECT_FLOAT_EQ(rig.settings.defaults().floatForKey(kQVMovieCustomScale), 1.2F);
+    EXPECT_FLOAT_EQ(rig.view.magnification(), 1.2F);
+    for (int i = 0; i < 20; ++i)
+        rig.view.setMovieSize(movieSize::smaller, Recalculation::ifChanged);
+    EXPECT_NEAR(rig.view.magnification(), 0.1, 0.001);
+    EXPECT_EQ(rig.view.movieSize(), movieSize::custom);
+
+    rig.settings.defaults().setInteger(movieSize::half, kQVDefaultMovieSize);
+    changePreference(kQVDefaultMovieSize);
+    EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 240));
+}
+
+TEST(QVMovieView, without_a_movie_a_size_is_only_remembered) {
+    PlaybackRig rig;
+    Posts<QVMovieViewSizeChangedNotification> posts;
+    for (const std::int32_t code : {movieSize::smaller, movieSize::bigger}) {
+        rig.view.setMovieSize(code, Recalculation::ifChanged);
+        EXPECT_EQ(rig.view.movieSize(), movieSize::custom) << "a step must not be taken from the empty view";
+    }
+    rig.view.setMovieSize(movieSize::twice, Recalculation::ifChanged);
+    EXPECT_EQ(posts.count, 0);
+    EXPECT_EQ(rig.view.sizeForFitScreen(movieSize::fitScreen), QSizeF(0, 0));
+    EXPECT_EQ(rig.view.magnification(), 0);
+    EXPECT_EQ(rig.view.aspectRatio(), 0);
+    rig.view.jump(1, 10);
+    rig.view.restoreMovieState();
+    EXPECT_FALSE(rig.view.isPlaying());
+    rig.show();
+    EXPECT_EQ(rig.view.frame().size(), QSizeF(1280, 960));
+}
+
+TEST(QVMovieView, the_controller_bar_takes_its_room_from_the_picture) {
+    PlaybackRig rig;
+    rig.show();
+    rig.view.toggleController();
+    EXPECT_TRUE(rig.settings.defaults().boolForKey(kQVControllerVisible));
+    EXPECT_EQ(rig.view.frame().height(), 900);
+    EXPECT_EQ(rig.view.pictureRect().height(), 884);
+    EXPECT_NEAR(rig.view.pictureRect().width(), 884 * 4.0 / 3, 1e-3);
+    rig.view.setMovieSize(movieSize::normal, Recalculation::ifChanged);
+    EXPECT_EQ(rig.view.frame().size(), QSizeF(640, 496));
+    rig.settings.defaults().setBool(false, kQVControllerVisible);
+    changePreference(kQVControllerVisible);
+    EXPECT_EQ(rig.view.frame().size(), QSizeF(640, 480));
+}
+
+TEST(QVMovieView, jumps_land_on_the_ends) {
+    PlaybackRig rig;
+    rig.show();
+    rig.view.setTime(3 * 600);
+    rig.view.jump(-1, 10);
+    EXPECT_EQ(rig.view.time(), 0);
+    rig.view.setTime(55 * 600);
+    rig.view.jump(1, 10);
+    EXPECT_EQ(rig.view.time(), 36000);
+}
+
+TEST(QVMovieView, the_play_state_is_kept_and_put_back) {
+    PlaybackRig rig;
+    rig.show();
+    rig.view.start();
+    rig.view.setRate(4);
+    rig.view.saveMovieState();
+    rig.view.stop();
+    EXPECT_FALSE(rig.view.isPlaying());
+    rig.view.restoreMovieState();
+    EXPECT_EQ(rig.view.rate(), 4);
+    rig.view.stop();
+    rig.view.saveMovieState();
+    rig.view.restoreMovieState();
+    EXPECT_FALSE(rig.view.isPlaying());
+}
+
+TEST(QVMovieView, edge_panning_runs_until_the_edge_or_until_its_area_is_left) {
+    PlaybackRig rig;
+    rig.view.setMovieSize(movieSize::fitWidth, Recalculation::ifChanged);
+    rig.show(); // 2.25 times as large: 9 points a step, 90 points hidden at the top and at the bottom
+    rig.view.startAutoscroll(panDirection::left);
+    rig.advance(1);
+    EXPECT_EQ(rig.view.frame().top(), -90) << "nothing is hidden at the sides";
+    rig.view.startAutoscroll(panDirection::top);
+    rig.advance(0.1);
+    EXPECT_EQ(rig.view.frame().top(), -108);
+    rig.view.stopAutoscroll(panDirection::top | panDirection::left);
+    rig.advance(0.05);
+    EXPECT_EQ(rig.view.frame().top(), -117) << "another area's end does not stop it";
+    rig.view.stopAutoscroll(panDirection::top);
+    rig.advance(1);
+    EXPECT_EQ(rig.view.frame().top(), -117);
+    rig.view.startAutoscroll(panDirection::bottom);
+    rig.advance(10);
+    EXPECT_EQ(rig.view.frame().top(), 0);
+
+    platform::MouseEvent drag;
+    drag.button = platform::MouseButton::left;
+    drag.deltaY = 50;
+    EXPECT_TRUE(rig.view.mouseDragged(drag));
+    EXPECT_EQ(rig.view.frame().top(), -50);
+}
+
+TEST(QVMovieView, keys_go_to_the_movie_controller_first_and_then_to_the_movie) {
+    PlaybackRig rig;
+    auto& feedback = QVFeedbackOverlay::sharedFeedbackOverlay();
+    feedback.postFeedback(QString());
+    EXPECT_TRUE(rig.view.keyDown(key(u' ')));
+    EXPECT_EQ(rig.desktop.beeps, 1);
+    EXPECT_FALSE(rig.view.keyDown(key(u'x')));
+    EXPECT_EQ(rig.desktop.beeps, 1);
+    rig.show();
+    const struct {
+        char16_t character;
+        const char* text;
+    } cases[] = {{u' ', "Movie: Play"},
+                 {u' ', "Movie: Pause"},
+                 {platform::functionKey::left, "Step Backward"},
+                 {platform::functionKey::right, "Step Forward"}};
+    for (const auto& c : cases) {
+        EXPECT_TRUE(rig.view.keyDown(key(c.character)));
+        EXPECT_EQ(feedback.text(), QString::fromUtf8(c.text));
+    }
+    EXPECT_EQ(rig.player().steps, (std::vector<int>{-1, 1}));
+    rig.app.consumesKeys = true;
+    EXPECT_TRUE(rig.view.keyDown(key(u' ')));
+    EXPECT_FALSE(rig.view.isPlaying());
+    EXPECT_EQ(rig.app.keys.size(), 7U);
+}
+
+TEST(QVMovieView, volume_texts_round_to_whole_percents) {
+    PlaybackRig rig;
+    for (const auto& [volume, text] : {std::pair{0.5F, "Volume: 50%"},
+                                       {0.996F, "Volume: 100%"},
+                                       {0.0F, "Volume: 0%"},
+                                       {0.01F, "Volume: 1%"},
+                                       {3.0F, "Volume: 300%"}}) {
+        rig.view.setVolume(volume);
+        EXPECT_EQ(rig.view.volumeInfoAsString(), QString::fromUtf8(text));
+    }
+    EXPECT_EQ(rig.view.mutedInfoAsString(), QStringLiteral("Mute: Off"));
+    rig.view.setMuted(true);
+    EXPECT_EQ(rig.view.volumeInfoAsString(), QStringLiteral("Volume: Muted"));
+    EXPECT_EQ(rig.view.mutedInfoAsString(), QStringLiteral("Mute: On"));
+}
+
+TEST(QVMovieView, it_lives_without_an_application_controller) {
+    PlaybackRig rig;
+    QVAppContext* const app = std::exchange(gAppController, nullptr);
+    {
+        ScriptedPlayer player;
+        QVMovieView lonely(player);
+        EXPECT_FALSE(lonely.keyUp(key(u'a')));
+        lonely.setMovie(rig.show());
+    }
+    gAppController = app;
+}
