@@ -12,8 +12,8 @@ class QVMovieView;
 class QVPlaylistController;
 class QVSubtitlesController;
 
-/// The application controller as the other components see it: the road to the main objects. Every accessor may answer null
-/// (at launch, at termination, in tests); an operation on a missing object is left out. Main thread.
+/// The application controller as the other components see it: the road to the main objects. Every accessor may answer
+/// null (at launch, at termination, in tests); an operation on a missing object is left out. Main thread.
 class QVAppContext {
 public:
     virtual ~QVAppContext() = default;

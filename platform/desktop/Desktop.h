@@ -11,7 +11,8 @@
 
 namespace platform {
 
-/// A screen: its frame in screen coordinates (origin bottom left of the main screen, y up, points), and whether it is one.
+/// A screen: its frame in screen coordinates (origin bottom left of the main screen, y up, points), and whether it is
+/// one.
 struct Screen {
     QRectF frame;
     bool isScreen = true;
@@ -40,12 +41,12 @@ public:
         QString alternateButton;
         QString otherButton;
     };
-    /// Shows a modal alert above everything and answers 1 for the default button, 0 for the alternate, -1 for the other one. Closing it
-    /// counts as the other button where there is one, else as the alternate, else as the default.
+    /// Shows a modal alert above everything and answers 1 for the default button, 0 for the alternate, -1 for the other
+    /// one. Closing it counts as the other button where there is one, else as the alternate, else as the default.
     virtual int runAlert(const Alert& alert) = 0;
 
-    /// A modal panel to choose files and folders; empty when it was cancelled. `extensions` without dots limits the files
-    /// offered; an empty `folder` lets the panel choose.
+    /// A modal panel to choose files and folders; empty when it was cancelled. `extensions` without dots limits the
+    /// files offered; an empty `folder` lets the panel choose.
     virtual QStringList runOpenPanel(const QStringList& extensions, const QString& folder) = 0;
 
     virtual void beep() = 0;

@@ -11,7 +11,8 @@ namespace platform {
 
 class Menu;
 
-/// One entry of a menu. `action` names the operation that its target performs ("changeSize"); the tag is the operation's argument.
+/// One entry of a menu. `action` names the operation that its target performs ("changeSize"); the tag is the
+/// operation's argument.
 struct MenuItem {
     QString title;
     QString action;
@@ -26,8 +27,8 @@ struct MenuItem {
     std::unique_ptr<Menu> submenu;
 };
 
-/// A menu as a model: what the items say and what they do, without the window system. Presenters build the visible menu when it opens. Main
-/// thread.
+/// A menu as a model: what the items say and what they do, without the window system. Presenters build the visible menu
+/// when it opens. Main thread.
 class Menu {
 public:
     explicit Menu(QString title = QString());
@@ -57,7 +58,8 @@ private:
 class MenuTarget {
 public:
     virtual ~MenuTarget() = default;
-    /// Called before an item is shown or its shortcut acts: may change state and title, and answers whether it is enabled.
+    /// Called before an item is shown or its shortcut acts: may change state and title, and answers whether it is
+    /// enabled.
     virtual bool validateMenuItem(MenuItem& item) = 0;
     virtual void performMenuItem(const MenuItem& item) = 0;
 };

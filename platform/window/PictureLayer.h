@@ -17,10 +17,12 @@ public:
     PictureLayer& operator=(const PictureLayer&) = delete;
     virtual ~PictureLayer() = default;
 
-    /// Puts the part `visible` of the picture, scaled so that the whole would fill `picture`, into `pixels`: the address of the target's
-    /// top left pixel, 32 bits each in the order blue, green, red, unused, `stride` bytes a line. `visible` lies within both `picture` and
-    /// the target. False when there is no picture: the host then fills `visible` with black.
-    virtual bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) = 0;
+    /// Puts the part `visible` of the picture, scaled so that the whole would fill `picture`, into `pixels`: the
+    /// address of the target's top left pixel, 32 bits each in the order blue, green, red, unused, `stride` bytes a
+    /// line. `visible` lies within both `picture` and the target. False when there is no picture: the host then fills
+    /// `visible` with black.
+    virtual bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels,
+                              std::size_t stride) = 0;
 
     /// The OpenGL context that renderGL will run in is current and stays for the life of the host. False when
     /// the layer cannot render with it; the host then goes on with renderPixels.
