@@ -42,13 +42,17 @@ constexpr double largestForOneThread = 1920.0 * 1088.0;
 
 } // namespace
 
-MpvPlayer::MpvPlayer(PreparedPicture prepared)
-    : _prepared(std::move(prepared)) {}
+MpvPlayer::MpvPlayer() = default;
 
-MpvPlayer::~MpvPlayer() {
+MpvPlayer::~MpvPlayer() { dropCore(); }
+
+void MpvPlayer::dropCore() {
     if (_movie)
-        _movie->playerUnloaded(_time);
+        load(nullptr);
+    _failureTimer.reset();
     _picture.setCore(nullptr);
+    _core.reset();
+    _delivered.reset();
 }
 
 void MpvPlayer::deliverCore(std::unique_ptr<MpvCore> core) {
@@ -57,9 +61,9 @@ void MpvPlayer::deliverCore(std::unique_ptr<MpvCore> core) {
 }
 
 void MpvPlayer::adoptCore() {
-    _core = std::move(_delivered);
-    if (!_core)
+    if (!_delivered)
         return;
+    _core = std::move(_delivered);
     _picture.setCore(_core.get());
     const MpvLibrary& mpv = *MpvLibrary::get();
     mpv.mpv_request_log_messages(_core->handle(), "error");

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <future>
 #include <memory>
+#include <utility>
 
 struct mpv_event;
 
@@ -30,8 +31,12 @@ struct PreparedPicture {
 /// the core and can be asked before the core stands. Main thread.
 class MpvPlayer final : public QObject, public MoviePlayer {
 public:
-    explicit MpvPlayer(PreparedPicture prepared);
+    MpvPlayer();
     ~MpvPlayer() override;
+
+    void setPreparedPicture(PreparedPicture prepared) { _prepared = std::move(prepared); }
+    /// Unloads the movie and ends the core.
+    void dropCore();
 
     void setObserver(Observer* observer) override { _observer = observer; }
     void load(Movie* movie) override;

@@ -39,12 +39,12 @@ void MpvToolkit::prepare(const QUrl& url) {
 }
 
 void MpvToolkit::enter() {
-    if (_player)
+    if (_coreMaker.joinable())
         return;
     // The application object takes the user's locale over; libmpv asks for numbers with a point.
     setlocale(LC_NUMERIC, "C");
-    _player = std::make_unique<MpvPlayer>(std::move(_firstPicture));
-    _coreMaker = std::thread([player = _player.get()] { player->deliverCore(MpvCore::create()); });
+    _player.setPreparedPicture(std::move(_firstPicture));
+    _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
 }
 
 void MpvToolkit::exit() {
@@ -53,13 +53,10 @@ void MpvToolkit::exit() {
         _preparer.join();
     if (_coreMaker.joinable())
         _coreMaker.join();
-    _player.reset();
+    _player.dropCore();
 }
 
-MoviePlayer& MpvToolkit::player() {
-    Q_ASSERT(_player);
-    return *_player;
-}
+MoviePlayer& MpvToolkit::player() { return _player; }
 
 std::optional<MovieInfo> MpvToolkit::open(const QUrl& url) {
     ProbeResult result;

@@ -22,7 +22,8 @@ public:
     /// for. Needs no application object yet; call it as early as possible.
     void prepare(const QUrl& url);
 
-    /// enter() needs the application object: the player's core is made on a thread from here on.
+    /// enter() needs the application object: the player's core is made on a thread from here on. Before it and after exit() the player takes
+    /// what it is asked, and plays nothing.
     void enter() override;
     void exit() override;
     std::optional<MovieInfo> open(const QUrl& url) override;
@@ -39,7 +40,7 @@ private:
     PreparedPicture _firstPicture;
     std::thread _preparer;
     std::thread _coreMaker;
-    std::unique_ptr<MpvPlayer> _player;
+    MpvPlayer _player;
     std::int16_t _stickyError = movieError::none;
 };
 

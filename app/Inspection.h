@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <functional>
+
+namespace platform {
+class MovieToolkit;
+}
+
+/// What --inspect answers.
+struct InspectionResult {
+    /// A JSON array, an object for each file in the order given.
+    QByteArray json;
+    /// A line for each file that could not be read; those have no object.
+    QStringList errors;
+};
+
+/// Finds out what is in the files. Needs no display. Times are in the movie's units, sizes in square pixels.
+InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit);

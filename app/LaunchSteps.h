@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// The steps of launch and termination that are components of their own: first-time configuration, donation prompt, version check, saved
+/// state. Those that do not exist do nothing. Main thread.
+class LaunchSteps {
+public:
+    virtual ~LaunchSteps() = default;
+
+    virtual void runFirstTimeConfig() {}
+    virtual void askDonation() {}
+    virtual bool shouldCheckLatestVersion() { return false; }
+    virtual void checkLatestVersion() {}
+    /// Puts the playlist and the place in it back; false when nothing could be added.
+    virtual bool restoreState() { return false; }
+    virtual void saveState() {}
+    /// Shows the help panel until it is closed.
+    virtual void runHelpPanel() {}
+};

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/OpeningFiles.h"
+
+#include "platform/base/Bundle.h"
+#include "platform/base/StringComparison.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+/// Walks a folder in the order in which a person reads its list: names without regard to case, numbers by value.
+void addFolder(const QString& folder, const QStringList& types, QSet<QString>& seen, QList<QUrl>& urls) {
+    // A link back up must not make the walk go round.
+    const QString place = QFileInfo(folder).canonicalFilePath();
+    if (place.isEmpty() || seen.contains(place))
+        return;
+    seen.insert(place);
+    QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System, QDir::NoSort);
+    std::sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
+        return platform::compareCaseInsensitively(left, right, true) < 0;
+    });
+    for (const QString& name : std::as_const(names)) {
+        const QString path = folder + QLatin1Char('/') + name;
+        const QFileInfo info(path);
+        if (info.isDir())
+            addFolder(path, types, seen, urls);
+        else if (info.exists() && isFileOfType(path, types))
+            urls.append(QUrl::fromLocalFile(info.absoluteFilePath()));
+    }
+}
+
+} // namespace
+
+QStringList supportedFileTypes() {
+    static const QStringList types = [] {
+        QStringList result;
+        result.reserve(20);
+        const QVariant documents = platform::Bundle::main().objectForInfoDictionaryKey(QStringLiteral("CFBundleDocumentTypes"));
+        for (const QVariant& document : documents.toList()) {
+            const QVariantMap entry = document.toMap();
+            result += entry.value(QStringLiteral("CFBundleTypeExtensions")).toStringList();
+            for (const QString& code : entry.value(QStringLiteral("CFBundleTypeOSTypes")).toStringList())
+                result += QLatin1Char('\'') + code + QLatin1Char('\'');
+        }
+        return result;
+    }();
+    return types;
+}
+
+bool isFileOfType(const QString& path, const QStringList& types) {
+    return types.isEmpty() || types.contains(QFileInfo(path).suffix().toLower());
+}
+
+QList<QUrl> urlsWithPathStrings(const QStringList& paths, const QStringList& types) {
+    QList<QUrl> urls;
+    for (const QString& path : paths) {
+        const QFileInfo info(path);
+        QSet<QString> seen;
+        if (info.isDir())
+            addFolder(info.absoluteFilePath(), types, seen, urls);
+        else if (info.exists() && isFileOfType(path, types))
+            urls.append(QUrl::fromLocalFile(info.absoluteFilePath()));
+    }
+    return urls;
+}
+
+QList<QUrl> urlsWithURLStrings(const QStringList& strings) {
+    QList<QUrl> urls;
+    for (const QString& string : strings) {
+        const QUrl url(string.trimmed(), QUrl::TolerantMode);
+        if (!string.trimmed().isEmpty() && url.isValid())
+            urls.append(url);
+    }
+    return urls;
+}
+
+bool isURLString(const QString& text) {
+    static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*://"));
+    return scheme.match(text).hasMatch();
+}

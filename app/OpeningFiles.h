@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+/// Turning what the user hands over into the URLs of movies.
+
+/// The file types of the information dictionary's document types: extensions, and type codes between single quotes.
+QStringList supportedFileTypes();
+
+/// True with no types at all; else when the lowercased extension of the path is among them.
+bool isFileOfType(const QString& path, const QStringList& types);
+
+/// The files of these types among the paths, folders walked to the bottom; what does not exist or is of another type is left out.
+QList<QUrl> urlsWithPathStrings(const QStringList& paths, const QStringList& types);
+
+/// The texts that are URLs.
+QList<QUrl> urlsWithURLStrings(const QStringList& strings);
+
+/// Whether the text is a URL with a scheme rather than a path.
+bool isURLString(const QString& text);

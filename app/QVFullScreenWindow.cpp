@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/QVFullScreenWindow.h"
+
+#include "app/context/CommandTarget.h"
+#include "app/context/QVAppContext.h"
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/Tracing.h"
+#include "platform/desktop/Desktop.h"
+#include "playback/QVMovieView.h"
+
+namespace {
+
+constexpr const char* className = "QVFullScreenWindow";
+
+QRectF chosenFrame() {
+    const std::vector<platform::Screen> screens = platform::Desktop::shared().screens();
+    const std::int32_t index = QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowScreen);
+    if (index >= 0 && static_cast<std::size_t>(index) < screens.size() && screens[static_cast<std::size_t>(index)].isScreen)
+        return screens[static_cast<std::size_t>(index)].frame;
+    return screens.empty() ? QRectF(0, 0, 1280, 720) : screens.front().frame;
+}
+
+} // namespace
+
+QVFullScreenWindow::QVFullScreenWindow()
+    : platform::Window(chosenFrame()) {
+    setAlphaValue(0);
+    setLevel(QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowLayer));
+    addTrackingRects();
+    _preferencesChanged = platform::NotificationCenter::defaultCenter().observe<QVPreferencesChangedNotification>(
+        [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
+}
+
+QVFullScreenWindow::~QVFullScreenWindow() { removeTrackingRects(); }
+
+void QVFullScreenWindow::show() {
+    orderFront();
+    setAlphaValue(1.0F);
+}
+
+void QVFullScreenWindow::hide() {
+    setAlphaValue(0);
+    postFadeOut();
+}
+
+void QVFullScreenWindow::postFadeOut() {
+    if (_terminating)
+        platform::Desktop::shared().replyToApplicationShouldTerminate(true);
+}
+
+void QVFullScreenWindow::adoptScreen(const platform::Screen& screen) {
+    show();
+    setFrame(screen.frame);
+}
+
+void QVFullScreenWindow::addTrackingRects() {
+    const auto areas = edgeAreas(frame().size());
+    for (std::size_t i = 0; i < areas.size(); ++i)
+        _trackingTags[i] = addTrackingRect(areas[i].rect);
+}
+
+void QVFullScreenWindow::removeTrackingRects() {
+    for (int& tag : _trackingTags) {
+        removeTrackingRect(tag);
+        tag = 0;
+    }
+}
+
+int QVFullScreenWindow::_directionWithTag(int tag) const {
+    const auto areas = edgeAreas(frame().size());
+    for (std::size_t i = 0; i < areas.size(); ++i) {
+        if (tag != 0 && _trackingTags[i] == tag)
+            return areas[i].direction;
+    }
+    return 0;
+}
+
+void QVFullScreenWindow::mouseEntered(int trackingTag) {
+    const int direction = _directionWithTag(trackingTag);
+    if (direction && gAppController && gAppController->movieView())
+        gAppController->movieView()->startAutoscroll(direction);
+}
+
+void QVFullScreenWindow::mouseExited(int trackingTag) {
+    const int direction = _directionWithTag(trackingTag);
+    if (direction && gAppController && gAppController->movieView())
+        gAppController->movieView()->stopAutoscroll(direction);
+}
+
+void QVFullScreenWindow::mouseMoved(const platform::MouseEvent& event) {
+    platform::Window::mouseMoved(event);
+    if (gAppController)
+        gAppController->scheduleCursorHide();
+}
+
+void QVFullScreenWindow::mouseUp(const platform::MouseEvent& event) {
+    platform::Window::mouseUp(event);
+    if (gAppController)
+        gAppController->scheduleCursorHide();
+}
+
+bool QVFullScreenWindow::keyDown(const platform::KeyEvent& event) {
+    if (event.charactersIgnoringModifiers == QChar(platform::functionKey::escape)) {
+        trace("%@: ESC pressed. Terminating app.", className);
+        if (gAppController && gAppController->controller())
+            gAppController->controller()->performAction(action::quit, Feedback::yes);
+        return true;
+    }
+    trace("%@: NOT HANDLED! Next Responder: 0x%08X", className,
+          QString::number(reinterpret_cast<quintptr>(gAppController), 16).toUpper().rightJustified(8, QLatin1Char('0')));
+    return false;
+}
+
+bool QVFullScreenWindow::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key != kQVMainWindowLayer)
+        return false;
+    setLevel(QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowLayer));
+    return true;
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+
+class QDBusPendingCallWatcher;
+
+namespace platform {
+
+/// What the user's session offers over D-Bus: keeping the screen saver away, and sleep. Calls return at once; a session without
+/// the service is left alone. Main thread.
+class SessionBus final : public QObject {
+public:
+    SessionBus();
+    ~SessionBus() override;
+
+    /// Keeps screen saver and sleep away while set.
+    void setInhibited(bool inhibited);
+    /// Suspends the computer through the login manager.
+    void suspend();
+
+private:
+    void inhibit();
+    void inhibitThroughPortal();
+    void release();
+
+    bool _wanted = false;
+    bool _asking = false;
+    bool _held = false;
+    std::uint32_t _cookie = 0;
+    QString _portalRequest;
+};
+
+} // namespace platform

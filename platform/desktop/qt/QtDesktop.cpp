@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop/qt/QtDesktop.h"
+
+#include "platform/desktop/Application.h"
+#include "platform/window/SceneGeometry.h"
+#include "platform/window/qt/QtEvents.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QSessionManager>
+#include <QSocketNotifier>
+#include <QWindow>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <limits>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+int sSignalPipe[2] = {-1, -1};
+
+void signalArrived(int) {
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = ::write(sSignalPipe[1], &byte, 1);
+}
+
+void standAbove(QWidget& panel, QWindow* window) {
+    panel.winId();
+    if (window)
+        panel.windowHandle()->setTransientParent(window);
+    panel.setWindowModality(Qt::ApplicationModal);
+    // Without a window manager nobody else gives a new window the keyboard.
+    QMetaObject::invokeMethod(
+        &panel, [&panel] { panel.activateWindow(); }, Qt::QueuedConnection);
+}
+
+} // namespace
+
+QtDesktop::QtDesktop(Services services)
+    : _services(std::move(services)) {}
+
+QtDesktop::~QtDesktop() {
+    if (_signals) {
+        std::signal(SIGTERM, SIG_DFL);
+        std::signal(SIGINT, SIG_DFL);
+        std::signal(SIGHUP, SIG_DFL);
+        _signals.reset();
+        ::close(sSignalPipe[0]);
+        ::close(sSignalPipe[1]);
+    }
+}
+
+int QtDesktop::run(ApplicationDelegate& delegate) {
+    _delegate = &delegate;
+    QApplication::setQuitOnLastWindowClosed(false);
+    followSignals();
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive) {
+            _delegate->applicationWillBecomeActive();
+            _delegate->applicationDidBecomeActive();
+        } else if (!_terminationPending) {
+            _delegate->applicationWillResignActive();
+        }
+    });
+    const auto screensChanged = [this] { _delegate->applicationDidChangeScreenParameters(); };
+    const auto follow = [this, screensChanged](QScreen* screen) {
+        connect(screen, &QScreen::geometryChanged, this, screensChanged);
+    };
+    for (QScreen* screen : QGuiApplication::screens())
+        follow(screen);
+    connect(qApp, &QGuiApplication::screenAdded, this, follow);
+    connect(qApp, &QGuiApplication::screenAdded, this, screensChanged);
+    connect(qApp, &QGuiApplication::screenRemoved, this, screensChanged);
+    connect(qApp, &QGuiApplication::primaryScreenChanged, this, screensChanged);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { terminate(); });
+
+    delegate.applicationWillFinishLaunching();
+    delegate.applicationDidFinishLaunching();
+    const int status = QApplication::exec();
+    disconnect(qApp, nullptr, this, nullptr);
+    delegate.applicationWillTerminate();
+    setUserActive(false);
+    _delegate = nullptr;
+    return status;
+}
+
+void QtDesktop::followSignals() {
+    if (::pipe2(sSignalPipe, O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    _signals = std::make_unique<QSocketNotifier>(sSignalPipe[0], QSocketNotifier::Read);
+    connect(_signals.get(), &QSocketNotifier::activated, this, [this] {
+        char byte = 0;
+        while (::read(sSignalPipe[0], &byte, 1) == 1) {
+        }
+        terminate();
+    });
+    std::signal(SIGTERM, signalArrived);
+    std::signal(SIGINT, signalArrived);
+    std::signal(SIGHUP, signalArrived);
+}
+
+int QtDesktop::runAlert(const Alert& alert) {
+    QMessageBox box;
+    box.setIcon(QMessageBox::Warning);
+    box.setText(alert.title);
+    box.setInformativeText(alert.message);
+    box.setTextFormat(Qt::PlainText); // file names are no markup
+    QPushButton* usual = box.addButton(alert.defaultButton, QMessageBox::AcceptRole);
+    QPushButton* alternate =
+        alert.alternateButton.isEmpty() ? nullptr : box.addButton(alert.alternateButton, QMessageBox::RejectRole);
+    QPushButton* other = alert.otherButton.isEmpty() ? nullptr : box.addButton(alert.otherButton, QMessageBox::RejectRole);
+    box.setDefaultButton(usual);
+    box.setEscapeButton(other ? other : alternate ? alternate : usual);
+    standAbove(box, _mainWindow);
+    box.exec();
+    if (other && box.clickedButton() == other)
+        return -1;
+    if (alternate && box.clickedButton() == alternate)
+        return 0;
+    if (!box.clickedButton()) // the application is ending
+        return other ? -1 : alternate ? 0 : 1;
+    return 1;
+}
+
+QStringList QtDesktop::runOpenPanel(const QStringList& extensions, const QString& folder) {
+    QFileDialog dialog;
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    QStringList patterns;
+    for (const QString& extension : extensions)
+        patterns.append(QStringLiteral("*.") + extension);
+    if (!patterns.isEmpty())
+        dialog.setNameFilter(QCoreApplication::applicationName() + QStringLiteral(" (") +
+                             patterns.join(QLatin1Char(' ')) + QLatin1Char(')'));
+    if (!folder.isEmpty())
+        dialog.setDirectory(folder);
+    standAbove(dialog, _mainWindow);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
+void QtDesktop::beep() { QApplication::beep(); }
+
+std::vector<Screen> QtDesktop::screens() const {
+    std::vector<Screen> result;
+    const QScreen* main = QGuiApplication::primaryScreen();
+    if (!main)
+        return result;
+    std::uint32_t number = 0;
+    const auto add = [&](const QScreen* screen) {
+        result.push_back({sceneGeometry::flippedOnDesktop(screen->geometry(), main->geometry().height()), true, ++number,
+                          screen->name()});
+    };
+    add(main);
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        if (screen != main)
+            add(screen);
+    }
+    return result;
+}
+
+float QtDesktop::brightness(const Screen&) const { return std::numeric_limits<float>::infinity(); }
+
+void QtDesktop::setBrightness(const Screen&, float) {}
+
+bool QtDesktop::openURL(const QUrl& url) { return url.isValid() && QDesktopServices::openUrl(url); }
+
+std::uint32_t QtDesktop::modifierFlags() const {
+    return qtEvents::modifierFlags(QGuiApplication::queryKeyboardModifiers()) | _assumedModifiers;
+}
+
+void QtDesktop::setUserActive(bool active) {
+    if (active == _userActive)
+        return;
+    _userActive = active;
+    if (_services.setUserActive)
+        _services.setUserActive(active);
+}
+
+void QtDesktop::sleep() {
+    if (_services.sleep)
+        _services.sleep();
+}
+
+void QtDesktop::terminate() {
+    if (_terminationPending || !_delegate)
+        return;
+    _terminationPending = true;
+    switch (_delegate->applicationShouldTerminate()) {
+    case ApplicationDelegate::TerminateReply::cancel:
+        _terminationPending = false;
+        break;
+    case ApplicationDelegate::TerminateReply::now:
+        replyToApplicationShouldTerminate(true);
+        break;
+    case ApplicationDelegate::TerminateReply::later:
+        break;
+    }
+}
+
+void QtDesktop::replyToApplicationShouldTerminate(bool terminate) {
+    if (!_terminationPending)
+        return;
+    if (terminate)
+        QCoreApplication::exit(0); // also ends the event loops of panels that are up
+    else
+        _terminationPending = false;
+}
+
+} // namespace platform
