@@ -8,7 +8,7 @@ class QVUserDefaults {
 public:
     QVUserDefaults() = delete;
 
-    /// The shared store. The first call after a store was installed registers the resource "UserDefaults" of type "plist" and migrates the settings of
-    /// older builds.
+    /// The shared store. The first call after a store was installed registers the resource "UserDefaults" of type
+    /// "plist" and migrates the settings of older builds.
     static platform::UserDefaults& standardUserDefaults();
 };

@@ -4,11 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/// Informational lines are written (setting QVEnableTrace). Lines that begin "ERROR: " or "WARNING: " are written always.
+/// Informational lines are written (setting QVEnableTrace). Lines that begin "ERROR: " or "WARNING: " are written
+/// always.
 extern bool gTracingEnabled;
 
-/// Writes a line of the system log while tracing: the format with its placeholders filled in order. The arguments are only
-/// turned into text when they are needed.
+/// Writes a line of the system log while tracing: the format with its placeholders filled in order. The arguments are
+/// only turned into text when they are needed.
 template <class... Arguments>
 void trace(const char* format, const Arguments&... arguments);
 
@@ -31,9 +32,15 @@ private:
 
 namespace tracing {
 void writeLine(const char* format, const QStringList& arguments);
-inline QString argument(const QString& text) { return text; }
-inline QString argument(const char* text) { return QString::fromUtf8(text); }
-inline QString argument(bool flag) { return QString::number(flag ? 1 : 0); }
+inline QString argument(const QString& text) {
+    return text;
+}
+inline QString argument(const char* text) {
+    return QString::fromUtf8(text);
+}
+inline QString argument(bool flag) {
+    return QString::number(flag ? 1 : 0);
+}
 template <class Number>
 QString argument(Number number) {
     return QString::number(number);

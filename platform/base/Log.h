@@ -19,8 +19,8 @@ public:
     static void setSink(Sink sink);
 };
 
-/// Fills the "%@" and "%d" (and "%g", "%f", "%s", "%X", "%0nX", "%%") of a format in order with the arguments, which are texts
-/// already. A placeholder without an argument stays as it is; spare arguments are dropped.
+/// Fills the "%@" and "%d" (and "%g", "%f", "%s", "%X", "%0nX", "%%") of a format in order with the arguments, which
+/// are texts already. A placeholder without an argument stays as it is; spare arguments are dropped.
 QString formatted(const QString& format, const QStringList& arguments);
 
 } // namespace platform

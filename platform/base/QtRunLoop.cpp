@@ -62,11 +62,17 @@ private:
 
 } // namespace
 
-QtRunLoop::QtRunLoop() { _clock.start(); }
+QtRunLoop::QtRunLoop() {
+    _clock.start();
+}
 
-double QtRunLoop::now() const { return static_cast<double>(_clock.nsecsElapsed()) * 1e-9; }
+double QtRunLoop::now() const {
+    return static_cast<double>(_clock.nsecsElapsed()) * 1e-9;
+}
 
-QDateTime QtRunLoop::date() const { return QDateTime::currentDateTime(); }
+QDateTime QtRunLoop::date() const {
+    return QDateTime::currentDateTime();
+}
 
 void QtRunLoop::perform(std::function<void()> work, double delay) {
     QTimer::singleShot(toMilliseconds(delay), Qt::PreciseTimer, QCoreApplication::instance(), std::move(work));

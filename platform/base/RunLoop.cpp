@@ -12,6 +12,8 @@ RunLoop& RunLoop::main() {
     return *sMain;
 }
 
-void RunLoop::setMain(RunLoop* loop) { sMain = loop; }
+void RunLoop::setMain(RunLoop* loop) {
+    sMain = loop;
+}
 
 } // namespace platform

@@ -47,7 +47,8 @@ public:
     virtual void perform(std::function<void()> work, double delay = 0) = 0;
     /// Calls `work` every `interval` seconds, or once. Timers run on under modal panels. A late repeating timer skips
     /// the firings that it missed. The callback may destroy or re-arm its own timer.
-    [[nodiscard]] virtual std::unique_ptr<Timer> schedule(double interval, bool repeats, std::function<void()> work) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Timer> schedule(double interval, bool repeats,
+                                                          std::function<void()> work) = 0;
 };
 
 } // namespace platform

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-/// Settings in one XML property list. It is written whole to a temporary file beside it, synced, and renamed over it, so
-/// that a crash at any moment leaves the old or the new settings, never a mixture. A damaged file is renamed aside
+/// Settings in one XML property list. It is written whole to a temporary file beside it, synced, and renamed over it,
+/// so that a crash at any moment leaves the old or the new settings, never a mixture. A damaged file is renamed aside
 /// ("NAME.damaged-YYYYMMDD-HHMMSS") and reported in the log, never overwritten.
 class SettingsFile final : public SettingsStorage {
 public:
