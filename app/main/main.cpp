@@ -18,7 +18,7 @@
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -141,9 +141,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
     platform::MovieToolkit::setShared(&toolkit);
     toolkit.prepare(firstMovie(line.files));
 
-    QApplication application(count, arguments);
-    QApplication::setApplicationName(QStringLiteral("Lumaro"));
-    QApplication::setDesktopFileName(QStringLiteral("org.lumaro.Lumaro"));
+    platform::QtDesktop desktop(count, arguments, QStringLiteral("Lumaro"));
+    platform::Desktop::setShared(&desktop);
     platform::QtRunLoop loop;
     platform::RunLoop::setMain(&loop);
     Settings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
@@ -151,8 +150,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         return exitUsage;
 
     platform::SessionBus bus;
-    platform::QtDesktop desktop({[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }});
-    platform::Desktop::setShared(&desktop);
+    desktop.setServices({[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }});
 
     int status = exitSuccess;
     {

@@ -45,8 +45,12 @@ void standAbove(QWidget& panel, QWindow* window) {
 
 } // namespace
 
-QtDesktop::QtDesktop(Services services)
-    : _services(std::move(services)) {}
+QtDesktop::QtDesktop(int& argumentCount, char** arguments, const QString& applicationName)
+    : _application(std::make_unique<QApplication>(argumentCount, arguments)) {
+    QApplication::setApplicationName(applicationName);
+    QApplication::setDesktopFileName(QStringLiteral("org.lumaro.Lumaro"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
 
 QtDesktop::~QtDesktop() {
     if (_signals) {
@@ -61,7 +65,6 @@ QtDesktop::~QtDesktop() {
 
 int QtDesktop::run(ApplicationDelegate& delegate) {
     _delegate = &delegate;
-    QApplication::setQuitOnLastWindowClosed(false);
     followSignals();
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive) {

@@ -7,7 +7,9 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
+class QApplication;
 class QSocketNotifier;
 class QWindow;
 
@@ -16,7 +18,7 @@ namespace platform {
 class ApplicationDelegate;
 
 /// The desktop through Qt, and the application's life on it: launching, activation, the question whether to end, and the end.
-/// Needs the application object.
+/// It holds Qt's application object; one at a time.
 class QtDesktop final : public QObject, public Desktop {
 public:
     /// What needs the session's services.
@@ -24,8 +26,11 @@ public:
         std::function<void(bool)> setUserActive;
         std::function<void()> sleep;
     };
-    explicit QtDesktop(Services services);
+    /// The arguments stay the caller's, for as long as this lives.
+    QtDesktop(int& argumentCount, char** arguments, const QString& applicationName);
     ~QtDesktop() override;
+
+    void setServices(Services services) { _services = std::move(services); }
 
     /// The window above which panels stand.
     void setMainWindow(QWindow* window) { _mainWindow = window; }
@@ -50,6 +55,7 @@ public:
 private:
     void followSignals();
 
+    std::unique_ptr<QApplication> _application;
     Services _services;
     ApplicationDelegate* _delegate = nullptr;
     QWindow* _mainWindow = nullptr;

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFile>
 
 #include <algorithm>
 #include <chrono>
@@ -157,7 +158,9 @@ void MpvPlayer::sendLoad() {
     if (size.width() * size.height() > largestForOneThread)
         options += QByteArray(options.isEmpty() ? "" : ",") + "vd-lavc-threads=0";
     ++_entriesSent;
-    const QByteArray address = addressOf(_movie->url());
+    // The player takes an absolute path as it stands, whatever characters are in it.
+    const QUrl& url = _movie->url();
+    const QByteArray address = url.isLocalFile() ? QFile::encodeName(url.toLocalFile()) : addressOf(url);
     if (options.isEmpty())
         command({"loadfile", address.constData(), "replace"});
     else
