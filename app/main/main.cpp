@@ -131,15 +131,21 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
 
 int play(int& count, char** arguments, const CommandLine& line) {
     platform::SingleInstance instance(platform::SingleInstance::defaultSocketPath());
+    // Opening the first movie takes as long as starting the application: it begins first.
+    std::optional<platform::MpvToolkit> toolkit;
+    if (!instance.isTaken()) {
+        toolkit.emplace();
+        toolkit->prepare(firstMovie(line.files));
+    }
     platform::HandOver files{line.append, {}};
     for (const QString& file : line.files)
         files.files.append(asHandedOver(file));
-    if (instance.handOver(files))
-        return exitSuccess;
-
-    platform::MpvToolkit toolkit;
-    platform::MovieToolkit::setShared(&toolkit);
-    toolkit.prepare(firstMovie(line.files));
+    if (!toolkit) {
+        if (instance.handOver(files))
+            return exitSuccess;
+        toolkit.emplace();
+    }
+    platform::MovieToolkit::setShared(&*toolkit);
 
     platform::QtDesktop desktop(count, arguments, QStringLiteral("Lumaro"));
     platform::Desktop::setShared(&desktop);
@@ -155,7 +161,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
     int status = exitSuccess;
     {
         QVFullScreenWindow window;
-        QVMovieView view(toolkit.player());
+        QVMovieView view(toolkit->player());
         window.contentView().addSubview(view);
         MainMenu menu;
         Steps steps;

@@ -117,6 +117,17 @@ HandOver SingleInstance::decoded(const QByteArray& bytes) {
     return message;
 }
 
+bool SingleInstance::isTaken() const {
+    const int lock = ::open(QFile::encodeName(lockPath()).constData(), O_RDWR | O_CLOEXEC);
+    if (lock < 0)
+        return false;
+    const bool taken = ::flock(lock, LOCK_SH | LOCK_NB) != 0;
+    ::close(lock);
+    return taken;
+}
+
+QString SingleInstance::lockPath() const { return _path + QStringLiteral(".lock"); }
+
 bool SingleInstance::handOver(const HandOver& message) const {
     const auto address = addressOf(_path);
     if (!address)
@@ -144,7 +155,7 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> receive) {
     if (!address)
         return false;
     // Whoever holds the lock is the running player; a socket left behind by a crash is then nobody's.
-    _lock = ::open(QFile::encodeName(_path + QStringLiteral(".lock")).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    _lock = ::open(QFile::encodeName(lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (_lock < 0 || ::flock(_lock, LOCK_EX | LOCK_NB) != 0)
         return false;
     ::unlink(address->sun_path);

@@ -31,6 +31,8 @@ public:
     SingleInstance& operator=(const SingleInstance&) = delete;
     ~SingleInstance();
 
+    /// Whether a player is running, as far as can be told without asking it.
+    bool isTaken() const;
     /// Hands over to the running player; true when one took it. Needs no application object. A player that does not answer within three
     /// seconds counts as none.
     bool handOver(const HandOver& message) const;
@@ -44,6 +46,7 @@ public:
 
 private:
     struct Client;
+    QString lockPath() const;
     void acceptClient();
     void readClient(Client& client);
 

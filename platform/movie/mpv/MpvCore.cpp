@@ -38,6 +38,9 @@ constexpr Option options[] = {
     {"audio-file-auto", "no"},
     {"cover-art-auto", "no"},
     {"sid", "no"},
+    // No text is ever drawn: the fonts of the system need not be read for it.
+    {"sub-font-provider", "none"},
+    {"osd-font-provider", "none"},
     {"audio-display", "no"},
     {"audio-fallback-to-null", "yes"},
     {"hwdec", "auto-safe"},
