@@ -51,7 +51,7 @@ std::shared_ptr<QVMovie> QVMovieView::movie() const {
     return std::static_pointer_cast<QVMovie>(movieObject());
 }
 
-void QVMovieView::setMovie(std::shared_ptr<QVMovie> movie) {
+void QVMovieView::setMovie(const std::shared_ptr<QVMovie>& movie) {
     if (superview())
         superview()->setNeedsDisplayInRect(frame());
     stop();

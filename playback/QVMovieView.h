@@ -41,7 +41,7 @@ public:
 
     /// The movie shown, or none.
     std::shared_ptr<QVMovie> movie() const;
-    void setMovie(std::shared_ptr<QVMovie> movie);
+    void setMovie(const std::shared_ptr<QVMovie>& movie);
 
     std::int32_t movieSize() const { return _size; }
     enum class Recalculation { ifChanged, forced };

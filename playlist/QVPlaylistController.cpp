@@ -37,7 +37,7 @@ QString localized(const char* key) {
 /// The movie's folder as the settings keep it: the home folder is "~".
 QString abbreviatedFolder(const QUrl& url) {
     const QString path = url.toLocalFile();
-    const QString folder = path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
+    QString folder = path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
     const QString home = QDir::homePath();
     if (folder == home || folder.startsWith(home + u'/'))
         return u'~' + folder.mid(home.size());
