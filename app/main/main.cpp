@@ -81,6 +81,13 @@ QUrl firstMovie(const QStringList& files) {
                : QUrl();
 }
 
+platform::Renderer chosenRenderer(const CommandLine& line) {
+    if (line.software)
+        return platform::Renderer::software;
+    // For drivers that the automatic choice gets wrong.
+    return qgetenv("LUMARO_RENDERER") == "opengl" ? platform::Renderer::openGL : platform::Renderer::automatic;
+}
+
 class Steps final : public LaunchSteps {
 public:
     QWindow* window = nullptr;
@@ -165,7 +172,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         window.contentView().addSubview(view);
         MainMenu menu;
         Steps steps;
-        platform::QtWindowHost host(window, line.software ? platform::Renderer::software : platform::Renderer::automatic);
+        platform::QtWindowHost host(window, chosenRenderer(line));
         QVAppController controller(window, view, menu, steps);
         host.setMainMenu(menu.bar(), controller);
         desktop.setMainWindow(&host);

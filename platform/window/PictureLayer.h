@@ -8,6 +8,14 @@
 
 namespace platform {
 
+/// A host's OpenGL context, to be made current outside of painting. Main thread.
+class GLContext {
+public:
+    virtual ~GLContext() = default;
+    virtual bool makeCurrent() = 0;
+    virtual void* procAddress(const char* name) = 0;
+};
+
 /// A picture that renders itself straight into a window host's target, below everything that is drawn over it.
 /// All rectangles are whole device pixels of the target, origin top left, y down. Main thread.
 class PictureLayer {
@@ -24,13 +32,12 @@ public:
     virtual bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels,
                               std::size_t stride) = 0;
 
-    /// The OpenGL context that renderGL will run in is current and stays for the life of the host. False when
-    /// the layer cannot render with it; the host then goes on with renderPixels.
-    using GetProcAddress = void* (*)(const char* name);
-    virtual bool beginGL(GetProcAddress getProcAddress) = 0;
-    /// The same context is current and is about to end.
+    /// Rendering goes through this context from here on, which outlives the next endGL(). False when the layer cannot
+    /// render with it; the host then goes on with renderPixels.
+    virtual bool beginGL(GLContext& context) = 0;
+    /// The context is about to end.
     virtual void endGL() = 0;
-    /// The picture into the framebuffer object `framebuffer` of `target` pixels. The state of OpenGL is left undefined.
+    /// The context is current: the picture into the framebuffer object `framebuffer` of `target` pixels. The state of OpenGL is left undefined.
     virtual bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) = 0;
 
     /// A new picture is due since the last render. While the window is not shown the host calls skip() instead.

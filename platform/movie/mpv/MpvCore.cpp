@@ -3,9 +3,12 @@
 
 #include "platform/base/Log.h"
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/window/PictureLayer.h"
 
 #include <QString>
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace platform {
@@ -43,7 +46,6 @@ constexpr Option options[] = {
     {"osd-font-provider", "none"},
     {"audio-display", "no"},
     {"audio-fallback-to-null", "yes"},
-    {"hwdec", "auto-safe"},
     // Where there is no hardware decoder one thread decodes 1080p in a sixth of the time there is, with the least
     // overhead and memory; the thread count of larger pictures is chosen when they are loaded.
     {"vd-lavc-threads", "1"},
@@ -62,6 +64,17 @@ constexpr Option options[] = {
     {"audio-client-name", "Lumaro"},
 };
 
+bool hasGraphicsDevice() {
+    std::error_code ignored;
+    if (std::filesystem::exists("/dev/nvidiactl", ignored))
+        return true;
+    for (const auto& entry : std::filesystem::directory_iterator("/dev/dri", ignored)) {
+        if (entry.path().filename().string().starts_with("renderD"))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 std::unique_ptr<MpvCore> MpvCore::create() {
@@ -78,6 +91,8 @@ std::unique_ptr<MpvCore> MpvCore::create() {
                            .arg(QString::fromUtf8(option.name), QString::fromUtf8(mpv->mpv_error_string(error))));
         }
     }
+    // Without a graphics device there is no decoder in hardware to look for, which takes a while and loads the drivers.
+    mpv->mpv_set_option_string(handle, "hwdec", hasGraphicsDevice() ? "auto-safe" : "no");
     if (const int error = mpv->mpv_initialize(handle); error < 0) {
         Log::write(QStringLiteral("ERROR: MpvCore: The player does not start: %1")
                        .arg(QString::fromUtf8(mpv->mpv_error_string(error))));
@@ -127,12 +142,12 @@ bool MpvCore::useSoftware() {
     return createRender(parameters);
 }
 
-bool MpvCore::useOpenGL(void* (*getProcAddress)(const char*)) {
+bool MpvCore::useOpenGL(GLContext& context) {
     mpv_opengl_init_params opengl{};
-    opengl.get_proc_address = [](void* function, const char* name) {
-        return reinterpret_cast<void* (*)(const char*)>(function)(name);
+    opengl.get_proc_address = [](void* self, const char* name) {
+        return static_cast<GLContext*>(self)->procAddress(name);
     };
-    opengl.get_proc_address_ctx = reinterpret_cast<void*>(getProcAddress);
+    opengl.get_proc_address_ctx = &context;
     mpv_render_param parameters[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
                                      {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &opengl},
                                      {MPV_RENDER_PARAM_INVALID, nullptr}};

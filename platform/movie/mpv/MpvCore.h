@@ -9,6 +9,8 @@
 
 namespace platform {
 
+class GLContext;
+
 /// One libmpv core with its software render context, made and ended in the order that it asks for. Making it takes a few
 /// ten milliseconds and may be done on any thread; after that it belongs to the main thread.
 class MpvCore {
@@ -25,9 +27,9 @@ public:
     /// Both are called on threads of libmpv, which holds locks meanwhile: they may only pass the word on.
     void setCallbacks(std::function<void()> events, std::function<void()> pictures);
 
-    /// Replaces the render context by one for the OpenGL context that is current, or (null) by the software one. False when
+    /// Replaces the render context by one for the OpenGL context, which is current, or by the software one. False when
     /// it could not be made; there is none then.
-    bool useOpenGL(void* (*getProcAddress)(const char*));
+    bool useOpenGL(GLContext& context);
     bool useSoftware();
 
 private:

@@ -55,13 +55,22 @@ bool MpvPicture::renderPixels(const QRect& picture, const QRect& visible, unsign
     return MpvLibrary::get()->mpv_render_context_render(_core->renderContext(), parameters) >= 0;
 }
 
-bool MpvPicture::beginGL(GetProcAddress getProcAddress) {
-    return !_core || _core->useOpenGL(getProcAddress);
+void MpvPicture::setCore(MpvCore* core) {
+    // The core's renderer ends with it, or is made anew, in the context that it belongs to.
+    if (_gl && _gl->makeCurrent() && core)
+        core->useOpenGL(*_gl);
+    _core = core;
+}
+
+bool MpvPicture::beginGL(GLContext& context) {
+    _gl = &context;
+    return !_core || (_gl->makeCurrent() && _core->useOpenGL(context));
 }
 
 void MpvPicture::endGL() {
-    if (_core)
+    if (_core && _gl && _gl->makeCurrent())
         _core->useSoftware();
+    _gl = nullptr;
 }
 
 bool MpvPicture::renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) {

@@ -17,7 +17,8 @@ class MpvCore;
 /// that was decoded while the movie was opened stands in its place. Main thread.
 class MpvPicture final : public PictureLayer {
 public:
-    void setCore(MpvCore* core) { _core = core; }
+    /// Before the core loads anything; null before it ends.
+    void setCore(MpvCore* core);
     /// A movie of that displayed size was loaded: no picture of the core's is of it yet.
     void begin(const QSizeF& naturalSize);
     void setFirst(std::shared_ptr<const FirstPicture> first) { _first = std::move(first); }
@@ -26,7 +27,7 @@ public:
     bool hasCorePicture() const { return _coreHasPicture; }
 
     bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) override;
-    bool beginGL(GetProcAddress getProcAddress) override;
+    bool beginGL(GLContext& context) override;
     void endGL() override;
     bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) override;
     void skip() override;
@@ -36,6 +37,7 @@ private:
     void setProperty(const char* name, double value);
 
     MpvCore* _core = nullptr;
+    GLContext* _gl = nullptr;
     bool _coreHasPicture = false;
     std::shared_ptr<const FirstPicture> _first;
     QSizeF _naturalSize;

@@ -316,6 +316,9 @@ void MpvPlayer::handle(const mpv_event& event) {
     switch (event.event_id) {
     case MPV_EVENT_LOG_MESSAGE: {
         const auto* message = static_cast<const mpv_event_log_message*>(event.data);
+        // The ways to sound are tried one by one; those that are not there are no errors.
+        if (QByteArrayView(message->prefix).startsWith("ao"))
+            break;
         Log::write(QStringLiteral("ERROR: libmpv: %1: %2")
                        .arg(QString::fromUtf8(message->prefix), QString::fromUtf8(message->text).trimmed()));
         break;
@@ -385,6 +388,8 @@ void MpvPlayer::timeChanged(double seconds) {
         time = std::min(time, _movie->duration());
     if (std::exchange(_jumpToReport, false)) {
         _time = time;
+        if (_observer)
+            _observer->playerStateChanged();
         _movie->playerJumped();
         return;
     }

@@ -44,6 +44,26 @@ bool hasGraphicsDevice() {
 
 } // namespace
 
+/// The window's OpenGL context. Before the window exists, and for what is not painting, it is current on a surface of its own.
+class QtWindowHost::OpenGL final : public GLContext {
+public:
+    bool create() {
+        if (!_context.create())
+            return false;
+        _offscreen.setFormat(_context.format());
+        _offscreen.create();
+        return makeCurrent();
+    }
+    QByteArray rendererName() { return reinterpret_cast<const char*>(_context.functions()->glGetString(GL_RENDERER)); }
+    QOpenGLContext& context() { return _context; }
+    bool makeCurrent() override { return _context.makeCurrent(&_offscreen); }
+    void* procAddress(const char* name) override { return reinterpret_cast<void*>(_context.getProcAddress(name)); }
+
+private:
+    QOpenGLContext _context;
+    QOffscreenSurface _offscreen;
+};
+
 QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
     : _root(root) {
     setFlags(Qt::Window | Qt::FramelessWindowHint);
@@ -59,10 +79,8 @@ QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
 }
 
 QtWindowHost::~QtWindowHost() {
-    if (_contextInUse && _context->makeCurrent(this)) {
+    if (_openGL)
         forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
-        _context->doneCurrent();
-    }
     _root.setHost(nullptr);
 }
 
@@ -71,19 +89,16 @@ void QtWindowHost::setMainMenu(Menu& menu, MenuTarget& target) { _menus = std::m
 bool QtWindowHost::chooseOpenGL(Renderer renderer) {
     if (renderer == Renderer::software || (renderer == Renderer::automatic && !hasGraphicsDevice()))
         return false;
-    auto context = std::make_unique<QOpenGLContext>();
-    QOffscreenSurface probe;
-    if (!context->create())
+    auto openGL = std::make_unique<OpenGL>();
+    if (!openGL->create() || (renderer == Renderer::automatic && isSoftwareRenderer(openGL->rendererName())))
         return false;
-    probe.setFormat(context->format());
-    probe.create();
-    if (!context->makeCurrent(&probe))
+    bool taken = true;
+    forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
+    if (!taken) {
+        forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
         return false;
-    const QByteArray name = reinterpret_cast<const char*>(context->functions()->glGetString(GL_RENDERER));
-    context->doneCurrent();
-    if (renderer == Renderer::automatic && isSoftwareRenderer(name))
-        return false;
-    _context = std::move(context);
+    }
+    _openGL = std::move(openGL);
     return true;
 }
 
@@ -181,7 +196,7 @@ void QtWindowHost::paint() {
         return;
     ++_paintCount;
     const QRegion dirty = std::exchange(_dirty, QRegion());
-    if (_context)
+    if (_openGL)
         paintOpenGL();
     else
         paintSoftware(dirty);
@@ -254,27 +269,21 @@ void QtWindowHost::paintSoftware(const QRegion& marked) {
 }
 
 void QtWindowHost::paintOpenGL() {
-    if (!_context->makeCurrent(this))
+    QOpenGLContext& context = _openGL->context();
+    if (!context.makeCurrent(this))
         return;
-    if (!std::exchange(_contextInUse, true)) {
-        forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) {
-            layer.beginGL([](const char* name) -> void* {
-                return reinterpret_cast<void*>(QOpenGLContext::currentContext()->getProcAddress(name));
-            });
-        });
-    }
     const QSize pixels = pixelSize();
-    QOpenGLFunctions* gl = _context->functions();
+    QOpenGLFunctions* gl = context.functions();
     const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
     gl->glViewport(0, 0, pixels.width(), pixels.height());
     gl->glClearColor(static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
                      static_cast<float>(color.blueF()), 1.0F);
     gl->glClear(GL_COLOR_BUFFER_BIT);
     forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect& picture) {
-        layer.renderGL(picture, pixels, _context->defaultFramebufferObject());
+        layer.renderGL(picture, pixels, context.defaultFramebufferObject());
     });
     // The renderer leaves the state of OpenGL as it likes; the painter wants it plain.
-    gl->glBindFramebuffer(GL_FRAMEBUFFER, _context->defaultFramebufferObject());
+    gl->glBindFramebuffer(GL_FRAMEBUFFER, context.defaultFramebufferObject());
     gl->glDisable(GL_SCISSOR_TEST);
     gl->glDisable(GL_DEPTH_TEST);
     gl->glUseProgram(0);
@@ -284,7 +293,7 @@ void QtWindowHost::paintOpenGL() {
     QPainter painter(&device);
     drawOver(painter, QRegion(QRect(QPoint(0, 0), pixels)));
     painter.end();
-    _context->swapBuffers(this);
+    context.swapBuffers(this);
 }
 
 void QtWindowHost::drawOver(QPainter& painter, const QRegion& dirty) { drawViews(painter, _root.contentView(), dirty); }

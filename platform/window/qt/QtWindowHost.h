@@ -13,7 +13,6 @@
 
 class QBackingStore;
 class QDropEvent;
-class QOpenGLContext;
 class QPainter;
 
 namespace platform {
@@ -41,7 +40,7 @@ public:
 
     /// How many times the window was painted (measurements).
     unsigned long paintCount() const { return _paintCount; }
-    bool usesOpenGL() const { return _context != nullptr; }
+    bool usesOpenGL() const { return _openGL != nullptr; }
 
     void frameChanged() override;
     void alphaChanged() override;
@@ -53,6 +52,8 @@ public:
     double pixelRatio() const override { return devicePixelRatio(); }
 
 private:
+    class OpenGL;
+
     bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -81,8 +82,7 @@ private:
 
     platform::Window& _root; // QSurface has a Window of its own
     std::unique_ptr<QBackingStore> _backingStore;
-    std::unique_ptr<QOpenGLContext> _context;
-    bool _contextInUse = false;
+    std::unique_ptr<OpenGL> _openGL;
     std::unique_ptr<QtMenus> _menus;
     QRegion _dirty; // pixels
     bool _paintScheduled = false;
