@@ -26,6 +26,8 @@ struct MovieInfo {
     bool hasAudio = false;
     /// The size of the displayed picture in square pixels: pixel shape and rotation applied. Empty without video.
     QSizeF naturalSize;
+    /// Quarter turns clockwise, 0 to 3, that the stored picture takes to stand upright. Other angles count as 0.
+    int quarterTurns = 0;
     /// Pictures in the video track: the container's count, else duration times average rate, rounded; 0 without video.
     std::uint32_t videoSampleCount = 0;
     /// Units of timeScale that one picture stays on average; 0 when not known.

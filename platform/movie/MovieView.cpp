@@ -148,7 +148,7 @@ void MovieView::draw(QPainter& painter, const QRectF& dirty) {
 }
 
 PictureLayer* MovieView::pictureLayer() {
-    return _movie ? _player.pictureLayer() : nullptr;
+    return _player.pictureLayer(); // also without a movie: the host prepares it before there is one
 }
 
 QRectF MovieView::pictureRect() const {

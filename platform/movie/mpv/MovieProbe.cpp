@@ -57,9 +57,10 @@ std::int16_t errorOf(int code) {
     }
 }
 
-/// A file that would block or that is no file is refused before the libraries see it: opening a FIFO waits for a writer.
+/// A file that would block or that is no file is refused before the libraries see it: opening a FIFO waits for a
+/// writer.
 std::int16_t checkFile(const QUrl& url) {
-    struct stat status{};
+    struct stat status {};
     if (::stat(QFile::encodeName(url.toLocalFile()).constData(), &status) != 0)
         return errorOf(AVERROR(errno));
     if (!S_ISREG(status.st_mode) && !S_ISBLK(status.st_mode))
@@ -87,7 +88,9 @@ const AVStream* firstSoundStream(const AVFormatContext* input) {
     return nullptr;
 }
 
-bool isKnown(AVRational rate) { return rate.num > 0 && rate.den > 0; }
+bool isKnown(AVRational rate) {
+    return rate.num > 0 && rate.den > 0;
+}
 
 double durationInSeconds(const AVFormatContext* input) {
     if (input->duration > 0)
@@ -117,7 +120,16 @@ bool isComplete(const AVFormatContext* input) {
            (video->nb_frames > 0 || isKnown(video->avg_frame_rate));
 }
 
-QSizeF displayedSize(AVFormatContext* input, const AVStream* video) {
+int quarterTurnsOf(const AVStream* video) {
+    const AvLibrary& av = *AvLibrary::get();
+    const std::uint8_t* matrix = av.av_stream_get_side_data(video, AV_PKT_DATA_DISPLAYMATRIX, nullptr);
+    if (!matrix)
+        return 0;
+    const double angle = av.av_display_rotation_get(reinterpret_cast<const std::int32_t*>(matrix)); // anticlockwise
+    return std::isnan(angle) ? 0 : static_cast<int>((4 - std::lround(angle / 90.0) % 4) % 4);
+}
+
+QSizeF displayedSize(AVFormatContext* input, const AVStream* video, int quarterTurns) {
     const AvLibrary& av = *AvLibrary::get();
     double width = video->codecpar->width;
     double height = video->codecpar->height;
@@ -129,11 +141,8 @@ QSizeF displayedSize(AVFormatContext* input, const AVStream* video) {
         else
             height = std::round(height / av_q2d(aspect));
     }
-    if (const std::uint8_t* matrix = av.av_stream_get_side_data(video, AV_PKT_DATA_DISPLAYMATRIX, nullptr)) {
-        const double angle = av.av_display_rotation_get(reinterpret_cast<const std::int32_t*>(matrix));
-        if (!std::isnan(angle) && std::lround(std::fabs(angle) / 90.0) % 2 == 1)
-            std::swap(width, height);
-    }
+    if (quarterTurns % 2 == 1)
+        std::swap(width, height);
     return {width, height};
 }
 
@@ -155,7 +164,8 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, bool hasAudio)
     info.duration = static_cast<std::int32_t>(std::min(std::round(seconds * info.timeScale), largest));
     if (!video)
         return info;
-    info.naturalSize = displayedSize(input, video);
+    info.quarterTurns = quarterTurnsOf(video);
+    info.naturalSize = displayedSize(input, video, info.quarterTurns);
     const AVRational rate = isKnown(video->avg_frame_rate) ? video->avg_frame_rate : video->r_frame_rate;
     double count = static_cast<double>(video->nb_frames);
     if (count <= 0 && isKnown(rate))
@@ -170,7 +180,9 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, bool hasAudio)
 
 } // namespace
 
-bool isNetworkURL(const QUrl& url) { return !url.isLocalFile() && !url.scheme().isEmpty(); }
+bool isNetworkURL(const QUrl& url) {
+    return !url.isLocalFile() && !url.scheme().isEmpty();
+}
 
 QByteArray addressOf(const QUrl& url) {
     return url.isLocalFile() ? "file:" + QFile::encodeName(url.toLocalFile()) : url.toEncoded();
@@ -185,8 +197,8 @@ ProbeResult probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
             return {std::nullopt, error};
     }
 
-    Deadline deadline{Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout)),
-                      cancelled};
+    Deadline deadline{
+        Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout)), cancelled};
     AVFormatContext* context = av->avformat_alloc_context();
     if (!context)
         return {std::nullopt, movieError::couldNotOpen};

@@ -24,6 +24,9 @@ struct Option {
 constexpr Option options[] = {
     {"config", "no"},
     {"load-scripts", "no"},
+    {"load-stats-overlay", "no"},
+    {"load-osd-console", "no"},
+    {"load-auto-profiles", "no"},
     {"ytdl", "no"},
     {"osc", "no"},
     {"osd-level", "0"},

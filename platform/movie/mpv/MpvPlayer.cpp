@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -45,7 +46,9 @@ constexpr double largestForOneThread = 1920.0 * 1088.0;
 
 MpvPlayer::MpvPlayer() = default;
 
-MpvPlayer::~MpvPlayer() { dropCore(); }
+MpvPlayer::~MpvPlayer() {
+    dropCore();
+}
 
 void MpvPlayer::dropCore() {
     if (_movie)
@@ -135,7 +138,8 @@ void MpvPlayer::load(Movie* movie) {
 }
 
 void MpvPlayer::takePreparedPicture() {
-    if (!_prepared.picture.valid() || !_movie || _movie->url() != _prepared.url || _time != 0 || _picture.hasCorePicture()) {
+    if (!_prepared.picture.valid() || !_movie || _movie->url() != _prepared.url || _time != 0 ||
+        _picture.hasCorePicture()) {
         _preparedPoll.reset();
         return;
     }
@@ -154,6 +158,13 @@ void MpvPlayer::sendLoad() {
     QByteArray options;
     if (_time > 0)
         options = "start=" + QByteArray::number(toSeconds(_time), 'f', 6);
+    // The player leaves turning to its renderers, and the software renderer crashes on a turned picture instead.
+    static constexpr const char* turns[] = {nullptr, "lavfi=[transpose=clock]", "lavfi=[hflip,vflip]",
+                                            "lavfi=[transpose=cclock]"};
+    if (const char* turn = turns[_movie->info().quarterTurns]) {
+        const QByteArray length = QByteArray::number(static_cast<int>(std::strlen(turn)));
+        options += QByteArray(options.isEmpty() ? "" : ",") + "video-rotate=no,vf=%" + length + "%" + turn;
+    }
     const QSizeF size = _movie->info().naturalSize;
     if (size.width() * size.height() > largestForOneThread)
         options += QByteArray(options.isEmpty() ? "" : ",") + "vd-lavc-threads=0";
@@ -188,7 +199,9 @@ void MpvPlayer::play() {
     setRate(1.0F);
 }
 
-void MpvPlayer::pause() { setRate(0); }
+void MpvPlayer::pause() {
+    setRate(0);
+}
 
 void MpvPlayer::setRate(float rate) {
     if (!_movie || std::isnan(rate) || rate == _rate)
@@ -269,8 +282,7 @@ void MpvPlayer::seek(std::int32_t time, JumpReport report) {
     _holdsTime = true;
     if (isScrubbing())
         _scrubPosition = toSeconds(_time);
-    if (const auto next =
-            _seeks.request(toSeconds(_time), SeekPlanner::Precision::exact, _movie->info().hasVideo))
+    if (const auto next = _seeks.request(toSeconds(_time), SeekPlanner::Precision::exact, _movie->info().hasVideo))
         send(*next);
     if (report == JumpReport::reported)
         _movie->playerJumped();
@@ -483,6 +495,8 @@ std::int32_t MpvPlayer::toUnits(double seconds) const {
     return static_cast<std::int32_t>(std::clamp(std::round(seconds * _movie->timeScale()), 0.0, largest));
 }
 
-double MpvPlayer::toSeconds(std::int32_t units) const { return static_cast<double>(units) / _movie->timeScale(); }
+double MpvPlayer::toSeconds(std::int32_t units) const {
+    return static_cast<double>(units) / _movie->timeScale();
+}
 
 } // namespace platform
