@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cmath>
+#include <algorithm>
 #include <fstream>
 
 using namespace harness;
@@ -59,9 +59,14 @@ std::vector<Format> formats() {
         {"silent.mp4", picture(green) + h264, green},
         {"short.mp4", picture(blue) + h264 + Arguments{"-frames:v", "10"}, blue, 320, 180, 0.4, 10},
         {"variable.mkv", picture(red) + Arguments{"-vf", "select='lt(n,20)+not(mod(n,5))'", "-vsync", "vfr"} + h264,
-         red, 320, 180, 2, -1},
+         red, 320, 180, 1.84, -1},
         {"wide-pixels.mp4", picture(green, "160x180") + Arguments{"-vf", "setsar=2/1"} + h264, green},
     };
+}
+
+// Other containers say how long and how fast, not how many: with sound a little longer the result is one more.
+bool countsFrames(const std::string& file) {
+    return file.ends_with(".mp4") || file.ends_with(".mov");
 }
 
 class Formats : public PlayerFixture {
@@ -85,9 +90,13 @@ protected:
         });
     }
 
-    std::string rotated() {
-        const std::string upright = media().make("upright.mp4", picture(blue) + h264).string();
-        return media().make("rotated.mov", {"-i", upright, "-c", "copy", "-metadata:s:v", "rotate=90"}).string();
+    // Red on the left and blue on the right, to be turned anticlockwise (what ffmpeg writes for these degrees).
+    std::string rotated(int degrees) {
+        const std::string upright = media().make(
+            "upright.mp4", picture(red) + Arguments{"-vf", "drawbox=x=160:w=160:h=180:color=blue:t=fill"} + h264);
+        const std::string turn = std::to_string(degrees);
+        return media().make("rotated" + turn + ".mov",
+                            {"-i", upright, "-c", "copy", "-metadata:s:v", "rotate=" + turn});
     }
 
     // Four hours: red for two, then green. Its units of time do not fit 31 bits.
@@ -111,8 +120,8 @@ TEST_F(Formats, are_inspected_as_they_are_shown) {
     Arguments files;
     for (const Format& format : wanted)
         files.push_back(media().make(format.name, format.arguments).string());
-    wanted.push_back({"rotated.mov", {}, {}, 180, 320, 2, 50});
-    files.push_back(rotated());
+    wanted.push_back({"rotated90.mov", {}, {}, 180, 320, 2, 50});
+    files.push_back(rotated(90));
     wanted.push_back({"four hours.mp4", {}, {}, 64, 36, 14400, 14400});
     files.push_back(fourHours());
 
@@ -128,7 +137,7 @@ TEST_F(Formats, are_inspected_as_they_are_shown) {
             EXPECT_EQ(bounds[3].toInt(), wanted[i].height);
         }
         if (wanted[i].frames >= 0)
-            EXPECT_EQ(movie["frameCount"].toInt(-1), wanted[i].frames);
+            EXPECT_NEAR(movie["frameCount"].toInt(-1), wanted[i].frames, countsFrames(files[i]) ? 0 : 1);
         else
             EXPECT_GT(movie["frameCount"].toInt(-1), 0);
         const double scale = movie["timeScale"].toDouble(), duration = movie["duration"].toDouble();
@@ -153,15 +162,25 @@ TEST_F(Formats, are_shown_one_after_the_other) {
 }
 
 TEST_F(Formats, a_turned_phone_video_stands_upright) {
-    start({"--set", "QVDefaultMovieSize=1", rotated()});
-    Region seen;
-    EXPECT_TRUE(waitUntil(
-        [&] {
-            seen = probe.extentOf(blue);
-            return seen == Region{550, 200, 180, 320};
-        },
-        Seconds(5)))
-        << seen;
+    start({"--set", "QVDefaultMovieSize=1", "--set", "QVPlaylistAutoNext=0", rotated(90), rotated(180), rotated(270)});
+    const Color pureBlue{0, 0, 255};
+    const struct {
+        int degrees, redX, redY, blueX, blueY;
+        Region picture;
+    } turns[] = {{90, 640, 480, 640, 240, {550, 200, 180, 320}},
+                 {180, 720, 360, 560, 360, {480, 270, 320, 180}},
+                 {270, 640, 240, 640, 480, {550, 200, 180, 320}}};
+    for (const auto& turn : turns) {
+        SCOPED_TRACE(turn.degrees);
+        EXPECT_TRUE(probe.waitForColor(turn.redX, turn.redY, red, Seconds(5)));
+        EXPECT_TRUE(probe.waitForColor(turn.blueX, turn.blueY, pureBlue, Seconds(5)));
+        const Region ofRed = probe.extentOf(red, 60), ofBlue = probe.extentOf(pureBlue, 60);
+        EXPECT_EQ(std::min(ofRed.x, ofBlue.x), turn.picture.x);
+        EXPECT_EQ(std::min(ofRed.y, ofBlue.y), turn.picture.y);
+        EXPECT_EQ(std::max(ofRed.x + ofRed.width, ofBlue.x + ofBlue.width), turn.picture.x + turn.picture.width);
+        EXPECT_EQ(std::max(ofRed.y + ofRed.height, ofBlue.y + ofBlue.height), turn.picture.y + turn.picture.height);
+        probe.tap(XK_Page_Down);
+    }
     ASSERT_TRUE(quitsCleanly());
 }
 

@@ -252,7 +252,7 @@ TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
     EXPECT_TRUE(waitUntil([&] { return probe.extentOf(blue).width == 400 || probe.extentOf(blue).width == 200; }))
         << probe.extentOf(blue);
     for (const std::string& line : player->errorLines())
-        EXPECT_EQ(line.find("ERROR"), std::string::npos) << line;
+        EXPECT_EQ(line.find("ERROR: SettingsFile"), std::string::npos) << line;
     ASSERT_TRUE(quitsCleanly());
 }
 
