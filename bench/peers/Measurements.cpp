@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/peers/Measurements.h"
+
+#include "bench/peers/Movies.h"
+#include "bench/peers/ProcessFigures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <stdexcept>
+
+using harness::ChildProcess;
+using harness::Seconds;
+using harness::waitUntil;
+
+namespace bench {
+
+namespace {
+
+constexpr Seconds lookEvery{0.0005};
+constexpr double warmUp = 2;
+
+double now() {
+    return Seconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+void pause(double seconds) {
+    std::this_thread::sleep_for(Seconds(seconds));
+}
+
+double medianOf(std::vector<double> values) {
+    if (values.empty())
+        return std::numeric_limits<double>::quiet_NaN();
+    std::ranges::sort(values);
+    const std::size_t half = values.size() / 2;
+    return values.size() % 2 ? values[half] : (values[half - 1] + values[half]) / 2;
+}
+
+} // namespace
+
+Plan Plan::quick() {
+    Plan plan;
+    plan.startRounds = 3;
+    plan.playRounds = 1;
+    plan.playSeconds = 5;
+    plan.jumpRounds = 1;
+    plan.openRounds = 1;
+    return plan;
+}
+
+void Samples::add(const std::string& figure, const std::string& player, double value) {
+    _values[figure][player].push_back(value);
+}
+
+double Samples::median(const std::string& figure, const std::string& player) const {
+    const auto players = _values.find(figure);
+    if (players == _values.end() || !players->second.contains(player))
+        return medianOf({});
+    return medianOf(players->second.at(player));
+}
+
+std::string Samples::listing(const std::string& figure) const {
+    std::string text = figure + ":";
+    if (const auto players = _values.find(figure); players != _values.end())
+        for (const auto& [player, values] : players->second) {
+            text += "\n    " + player + ":";
+            for (const double value : values) {
+                char number[32];
+                std::snprintf(number, sizeof number, " %.4g", value);
+                text += number;
+            }
+        }
+    return text;
+}
+
+Measurements::Measurements(Plan plan, const std::filesystem::path& folder)
+    : _plan(std::move(plan))
+    , _folder(folder)
+    , _media(folder / "media")
+    , _movie(makeMovie(_media).string())
+    , _server(screenWidth, screenHeight)
+    , _probe(_server.display()) {
+    for (const Player::Kind kind : {Player::Kind::mpv, Player::Kind::vlc, Player::Kind::lumaro})
+        _players.emplace_back(kind, folder / "users");
+}
+
+const Samples& Measurements::run() {
+    for (const Player& player : _players) { // Programs and movie into memory, first settings written.
+        auto process = startPlaying(player);
+        endAndClear(process);
+    }
+    if (wants("start"))
+        measureStart();
+    if (wants("cpu") || wants("memory") || wants("paused"))
+        measurePlaying();
+    if (wants("jump"))
+        measureJumps();
+    if (wants("open"))
+        measureOpening();
+    return _samples;
+}
+
+std::vector<const Player*> Measurements::turnOf(int round) const {
+    std::vector<const Player*> turn;
+    for (std::size_t i = 0; i < _players.size(); ++i)
+        turn.push_back(&_players[(i + std::size_t(round)) % _players.size()]);
+    return turn;
+}
+
+std::unique_ptr<ChildProcess> Measurements::startPlaying(const Player& player) {
+    auto process = player.start(_server.display(), {_movie});
+    if (!waitUntil([this] { return showsMovie(_probe); }, harness::patience, lookEvery))
+        throw std::runtime_error(player.name() + " shows no movie: " + process->errorOutput());
+    return process;
+}
+
+void Measurements::endAndClear(std::unique_ptr<ChildProcess>& process) {
+    Player::end(process);
+    if (!waitUntil([this] { return !showsMovie(_probe); }))
+        throw std::runtime_error("the screen is not cleared");
+    pause(0.3);
+}
+
+void Measurements::measureStart() {
+    for (int round = 0; round < _plan.startRounds; ++round)
+        for (const Player* player : turnOf(round)) {
+            const double before = now();
+            auto process = startPlaying(*player);
+            _samples.add("start", player->name(), (now() - before) * 1000);
+            pause(0.2);
+            endAndClear(process);
+        }
+}
+
+void Measurements::measurePlaying() {
+    for (int round = 0; round < _plan.playRounds; ++round)
+        for (const Player* player : turnOf(round))
+            playOnce(*player);
+}
+
+void Measurements::playOnce(const Player& player) {
+    auto process = startPlaying(player);
+    pause(warmUp);
+    const pid_t server = childNamed("Xvfb").value_or(0);
+    const double before = now(), serverBefore = millisecondsRun(server);
+    const auto ticksBefore = processorTicks(process->pid());
+    pause(_plan.playSeconds);
+    const auto ticks = processorTicks(process->pid()) - ticksBefore;
+    const double seconds = now() - before;
+    _samples.add("cpu", player.name(), double(ticks) / ticksPerSecond() / seconds);
+    _samples.add("server", player.name(), (millisecondsRun(server) - serverBefore) / 1000 / seconds);
+    const Memory memory = memoryOf(process->pid());
+    _samples.add("resident", player.name(), memory.residentMegabytes);
+    _samples.add("proportional", player.name(), memory.proportionalMegabytes);
+
+    // A player that leaves pictures out uses less: how many does it show?
+    int pictures = 0;
+    std::optional<int> last;
+    waitUntil(
+        [&] {
+            const auto frame = frameOnScreen(_probe);
+            pictures += frame && frame != last;
+            last = frame ? frame : last;
+            return false;
+        },
+        Seconds(2), Seconds(0.004));
+    _samples.add("pictures", player.name(), (pictures - 1) / 2.0); // The first was there already.
+
+    if (wants("paused")) {
+        _probe.tap(player.pauseKey().key, player.pauseKey().modifiers);
+        pause(2);
+        const auto frame = frameOnScreen(_probe);
+        const auto pausedTicks = processorTicks(process->pid());
+        const double pausedRun = millisecondsRun(process->pid()), serverRun = millisecondsRun(server);
+        pause(_plan.pausedSeconds);
+        _samples.add("paused ticks", player.name(), double(processorTicks(process->pid()) - pausedTicks));
+        _samples.add("paused run", player.name(), millisecondsRun(process->pid()) - pausedRun);
+        _samples.add("paused server", player.name(), millisecondsRun(server) - serverRun);
+        if (frameOnScreen(_probe) != frame)
+            throw std::runtime_error(player.name() + " does not pause");
+    }
+    endAndClear(process);
+}
+
+void Measurements::measureJumps() {
+    for (int round = 0; round < _plan.jumpRounds; ++round)
+        for (const Player* player : turnOf(round)) {
+            jumpThrice(*player, false, round);
+            if (player->kind() == Player::Kind::mpv)
+                jumpThrice(*player, true, round);
+        }
+}
+
+void Measurements::jumpThrice(const Player& player, bool exactly, int round) {
+    const std::string name = player.kind() == Player::Kind::mpv && exactly ? "mpv exact" : player.name();
+    const KeyPress key = exactly ? player.exactJumpKey() : player.jumpKey();
+    auto process = startPlaying(player);
+    for (int jump = 0; jump < 3; ++jump) {
+        // Not always as far from a keyframe.
+        pause(0.8 + 0.37 * ((round * 3 + jump) % 4));
+        std::optional<int> from;
+        waitUntil([&] { return (from = frameOnScreen(_probe)).has_value(); });
+        const double before = now();
+        double first = 0, exact = 0;
+        _probe.tap(key.key, key.modifiers);
+        waitUntil(
+            [&] {
+                const auto frame = frameOnScreen(_probe);
+                if (!frame || !from)
+                    return false;
+                const double passed = now() - before;
+                const double gone = *frame - *from, played = passed * framesPerSecond;
+                // Keyframes are 8.3 s apart: the last before the new place lies at least 1.7 s ahead.
+                if (first == 0 && gone > played + 1.3 * framesPerSecond)
+                    first = passed;
+                if (gone >= 9.7 * framesPerSecond && gone <= 10.2 * framesPerSecond + played)
+                    exact = passed;
+                return exact > 0;
+            },
+            Seconds(2.5), lookEvery);
+        if (first > 0)
+            _samples.add("jump first", name, first * 1000);
+        if (exact > 0)
+            _samples.add("jump exact", name, exact * 1000);
+    }
+    endAndClear(process);
+}
+
+double Measurements::openWithLumaro(const std::vector<std::string>& files) {
+    const double before = now();
+    auto process =
+        _players.back().start(_server.display(), files, {"--set", "QVEnableTrace=1", "--set", "QVPlaylistAutoPlay=0"});
+    if (!process->waitForErrorLine("END: -[QVPlaylistController addURLs", 0, Seconds(60)))
+        throw std::runtime_error("Lumaro opens no files: " + process->errorOutput());
+    const double taken = (now() - before) * 1000;
+    Player::end(process);
+    return taken;
+}
+
+void Measurements::measureOpening() {
+    const std::filesystem::path many = _folder / "many";
+    for (int round = 0; round < _plan.openRounds; ++round) {
+        std::filesystem::remove_all(many);
+        const auto forPeer = makeManyMovies(_media, many / "a", _plan.files);
+        const auto forLumaro = makeManyMovies(_media, many / "b", _plan.files);
+        const auto openSerially = [&] {
+            ChildProcess::Options options;
+            options.arguments = {LUMARO_OPEN_SERIALLY};
+            options.arguments.insert(options.arguments.end(), forPeer.begin(), forPeer.end());
+            ChildProcess process(options);
+            if (process.waitForExit(Seconds(120)) != 0)
+                throw std::runtime_error("opening serially: " + process.errorOutput());
+            _samples.add("open", "libavformat", std::stod(process.output()));
+        };
+        if (round % 2 == 0)
+            openSerially();
+        // What a start with one file takes is no part of it, however the work is spread over threads.
+        const double one = openWithLumaro({forPeer.front()});
+        _samples.add("open", "Lumaro", openWithLumaro(forLumaro) - one);
+        if (round % 2 == 1)
+            openSerially();
+    }
+    std::filesystem::remove_all(many);
+}
+
+} // namespace bench

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/peers/Movies.h"
+
+#include <fstream>
+#include <stdexcept>
+
+using harness::Color;
+
+namespace bench {
+
+namespace {
+
+constexpr int bitCount = 12; // as harness::MediaFixture::frameNumber reads them
+constexpr Color stripe{220, 0, 0};
+
+// An mp4 box that readers skip, with the number in it.
+std::string unlikeAnyOther(int number) {
+    std::string text = std::to_string(number);
+    text.insert(0, 16 - text.size(), '0');
+    return std::string("\0\0\0\x18"
+                       "free",
+                       8) +
+           text;
+}
+
+} // namespace
+
+std::filesystem::path makeMovie(const harness::MediaFixture& media) {
+    std::string filter = "drawbox=x=0:y=ih*7/16:w=iw:h=ih/8:color=black:t=fill";
+    const int block = screenWidth / bitCount;
+    for (int bit = 0; bit < bitCount; ++bit)
+        filter += ",drawbox=x=" + std::to_string(block * (bitCount - 1 - bit)) +
+                  ":y=ih*7/16:w=" + std::to_string(block) + ":h=ih/8:color=white:t=fill:enable='gte(mod(n," +
+                  std::to_string(2 << bit) + ")," + std::to_string(1 << bit) + ")'";
+    filter += ",drawbox=x=0:y=ih*15/16:w=iw:h=ih/16:color=" + harness::ffmpegColor(stripe) + ":t=fill";
+    const std::string keyframes = "250";
+    return media.make("side by side.mp4", {"-f",
+                                           "lavfi",
+                                           "-i",
+                                           "testsrc2=s=1920x1080:r=30:d=60",
+                                           "-vf",
+                                           filter,
+                                           "-c:v",
+                                           "libx264",
+                                           "-preset",
+                                           "veryfast",
+                                           "-crf",
+                                           "23",
+                                           "-pix_fmt",
+                                           "yuv420p",
+                                           "-g",
+                                           keyframes,
+                                           "-keyint_min",
+                                           keyframes,
+                                           "-sc_threshold",
+                                           "0"});
+}
+
+bool showsMovie(harness::XProbe& probe) {
+    return probe.pixel(screenWidth - 100, screenHeight - 20).isNear(stripe, 60);
+}
+
+std::optional<int> frameOnScreen(harness::XProbe& probe) {
+    return harness::MediaFixture::frameNumber(probe, {0, 0, screenWidth, screenHeight});
+}
+
+std::vector<std::string> makeManyMovies(const harness::MediaFixture& media, const std::filesystem::path& folder,
+                                        int count) {
+    const std::filesystem::path first =
+        media.make("short.mp4", {"-f", "lavfi", "-i", "testsrc2=s=320x180:r=25:d=1", "-f", "lavfi", "-i",
+                                 "sine=frequency=440:duration=1", "-c:v", "libx264", "-preset", "veryfast", "-pix_fmt",
+                                 "yuv420p", "-c:a", "aac"});
+    if (!std::filesystem::create_directories(folder))
+        throw std::runtime_error(folder.string() + " is there already");
+    std::vector<std::string> files;
+    for (int i = 0; i < count; ++i) {
+        const std::filesystem::path file = folder / ("movie " + std::to_string(i) + ".mp4");
+        std::filesystem::copy_file(first, file);
+        std::ofstream(file, std::ios::binary | std::ios::app) << unlikeAnyOther(i);
+        files.push_back(file.string());
+    }
+    return files;
+}
+
+} // namespace bench

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/support/x11/MediaFixture.h"
+#include "tests/support/x11/XProbe.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+inline constexpr int screenWidth = 1920;
+inline constexpr int screenHeight = 1080;
+inline constexpr int framesPerSecond = 30;
+
+// What the players play, without sound: a minute of moving test picture as large as the screen, H.264 at some 5 Mbit/s
+// with keyframes 250 apart. It carries each frame's number across its middle and a red stripe at its bottom, by which
+// it is seen from outside. Throws std::runtime_error when ffmpeg fails.
+std::filesystem::path makeMovie(const harness::MediaFixture& media);
+
+// Whether the movie is on the screen; the number of the frame that is.
+bool showsMovie(harness::XProbe& probe);
+std::optional<int> frameOnScreen(harness::XProbe& probe);
+
+// So many short movies with sound in the folder, which must not exist yet. No two have the same bytes.
+std::vector<std::string> makeManyMovies(const harness::MediaFixture& media, const std::filesystem::path& folder,
+                                        int count);
+
+} // namespace bench

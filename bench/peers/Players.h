@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/support/x11/ChildProcess.h"
+#include "tests/support/x11/XProbe.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+struct KeyPress {
+    harness::KeySym key = 0;
+    std::vector<harness::KeySym> modifiers;
+};
+
+// A player that is compared: how it is started and which of its keys do what.
+class Player {
+public:
+    enum class Kind { mpv, vlc, lumaro };
+
+    // Its settings, which it keeps between starts, lie in a folder of its own inside the given one.
+    Player(Kind kind, const std::filesystem::path& folder);
+
+    Kind kind() const { return _kind; }
+    const std::string& name() const { return _name; }
+    // Full screen, software output, no sound.
+    std::unique_ptr<harness::ChildProcess> start(const std::string& display, const std::vector<std::string>& files,
+                                                 const std::vector<std::string>& options = {}) const;
+    // Asks it to quit, waits, and kills it when it does not.
+    static void end(std::unique_ptr<harness::ChildProcess>& process);
+
+    KeyPress pauseKey() const;
+    // Ten seconds forward as the player does it by itself; exactly ten seconds.
+    KeyPress jumpKey() const;
+    KeyPress exactJumpKey() const;
+
+private:
+    Kind _kind;
+    std::string _name;
+    std::filesystem::path _folder;
+};
+
+} // namespace bench
