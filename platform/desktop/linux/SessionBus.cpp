@@ -19,6 +19,8 @@ const QString saverPath = QStringLiteral("/org/freedesktop/ScreenSaver");
 const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString reason = QStringLiteral("Playing a movie");
 
+constexpr double settleDelay = 1.0;
+
 // The portal's flags for what to keep away: suspending and going idle.
 constexpr quint32 portalSuspendAndIdle = 4 | 8;
 
@@ -35,6 +37,11 @@ void SessionBus::setInhibited(bool inhibited) {
     if (inhibited == _wanted)
         return;
     _wanted = inhibited;
+    // After a moment: connecting takes a while that the first picture should not wait for, and a pause may be short.
+    _delay = RunLoop::main().schedule(settleDelay, false, [this] { settle(); });
+}
+
+void SessionBus::settle() {
     if (_wanted && !_held && !_asking)
         inhibit();
     else if (!_wanted && _held)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/RunLoop.h"
+
 #include <QObject>
 #include <QString>
 
@@ -24,10 +26,12 @@ public:
     void suspend();
 
 private:
+    void settle();
     void inhibit();
     void inhibitThroughPortal();
     void release();
 
+    std::unique_ptr<Timer> _delay;
     bool _wanted = false;
     bool _asking = false;
     bool _held = false;

@@ -41,8 +41,13 @@ void MpvPicture::setCrop(const QRect& picture, const QRect& visible) {
 bool MpvPicture::renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) {
     unsigned char* const target = pixels + static_cast<std::size_t>(visible.y()) * stride +
                                   static_cast<std::size_t>(visible.x()) * 4;
-    if (!_coreHasPicture)
-        return _first && picture == visible && _first->render(visible.size(), target, stride);
+    if (!_coreHasPicture) {
+        if (!_first || picture != visible || !_first->render(visible.size(), target, stride))
+            return false;
+        if (_firstShown)
+            _firstShown();
+        return true;
+    }
     setCrop(picture, visible);
     int size[2] = {visible.width(), visible.height()};
     int block = 0;

@@ -6,6 +6,7 @@
 
 #include <QSizeF>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -22,6 +23,9 @@ public:
     /// A movie of that displayed size was loaded: no picture of the core's is of it yet.
     void begin(const QSizeF& naturalSize);
     void setFirst(std::shared_ptr<const FirstPicture> first) { _first = std::move(first); }
+    /// Called each time the first picture was rendered.
+    void setFirstShown(std::function<void()> shown) { _firstShown = std::move(shown); }
+    bool usesOpenGL() const { return _gl != nullptr; }
     /// The core's picture is of the movie from here on.
     void corePictureReady() { _coreHasPicture = true; }
     bool hasCorePicture() const { return _coreHasPicture; }
@@ -40,6 +44,7 @@ private:
     GLContext* _gl = nullptr;
     bool _coreHasPicture = false;
     std::shared_ptr<const FirstPicture> _first;
+    std::function<void()> _firstShown;
     QSizeF _naturalSize;
     QRect _cropPicture;
     QRect _cropVisible;

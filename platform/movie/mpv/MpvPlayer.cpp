@@ -39,6 +39,8 @@ constexpr double keyframePatience = 0.1;
 constexpr double failureDelay = 0.25;
 // The first picture is worth asking for often: nothing else holds up the start then.
 constexpr double preparedPollInterval = 0.001;
+// How long the core is kept back for it at most.
+constexpr double firstPicturePatience = 0.15;
 constexpr float loudest = 3.0F;
 constexpr double largestForOneThread = 1920.0 * 1088.0;
 
@@ -54,9 +56,18 @@ void MpvPlayer::dropCore() {
     if (_movie)
         load(nullptr);
     _failureTimer.reset();
+    _preparedPoll.reset();
+    _firstPictureWait.reset();
+    _picture.setFirstShown(nullptr);
     _picture.setCore(nullptr);
     _core.reset();
     _delivered.reset();
+}
+
+void MpvPlayer::whenFirstPictureIsDone(std::function<void()> work) {
+    const bool isComing = !_prepared.url.isEmpty() && !_picture.usesOpenGL();
+    _firstPictureWait = RunLoop::main().schedule(isComing ? firstPicturePatience : 0, false, std::move(work));
+    _picture.setFirstShown([this] { _firstPictureWait->rearm(0); });
 }
 
 void MpvPlayer::deliverCore(std::unique_ptr<MpvCore> core) {
@@ -148,7 +159,10 @@ void MpvPlayer::takePreparedPicture() {
         return;
     }
     _preparedPoll.reset();
-    _picture.setFirst(_prepared.picture.get());
+    auto first = _prepared.picture.get();
+    if (!first && _firstPictureWait)
+        _firstPictureWait->rearm(0);
+    _picture.setFirst(std::move(first));
     if (_observer)
         _observer->playerPictureChanged();
 }

@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <future>
 #include <memory>
 #include <utility>
@@ -35,6 +36,8 @@ public:
     ~MpvPlayer() override;
 
     void setPreparedPicture(PreparedPicture prepared) { _prepared = std::move(prepared); }
+    /// Calls `work` once the prepared picture was shown, or soon, when there is none to wait for.
+    void whenFirstPictureIsDone(std::function<void()> work);
     /// Unloads the movie and ends the core.
     void dropCore();
 
@@ -91,6 +94,7 @@ private:
     MpvPicture _picture;
     PreparedPicture _prepared;
     std::unique_ptr<Timer> _preparedPoll;
+    std::unique_ptr<Timer> _firstPictureWait;
     Observer* _observer = nullptr;
     Movie* _movie = nullptr;
 

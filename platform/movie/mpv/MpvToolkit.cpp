@@ -39,12 +39,17 @@ void MpvToolkit::prepare(const QUrl& url) {
 }
 
 void MpvToolkit::enter() {
-    if (_coreMaker.joinable())
+    if (std::exchange(_entered, true))
         return;
     // The application object takes the user's locale over; libmpv asks for numbers with a point.
     setlocale(LC_NUMERIC, "C");
     _player.setPreparedPicture(std::move(_firstPicture));
-    _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
+    // Loading a library holds a lock that starting the window needs, too. So the core comes after the first picture
+    // where one is on its way.
+    _player.whenFirstPictureIsDone([this] {
+        if (!_coreMaker.joinable() && !_cancelled)
+            _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
+    });
 }
 
 void MpvToolkit::exit() {

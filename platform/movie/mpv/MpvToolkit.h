@@ -35,6 +35,7 @@ private:
     ProbeResult probeWhileRunning(const QUrl& url);
 
     std::atomic<bool> _cancelled{false};
+    bool _entered = false;
     QUrl _preparedUrl;
     std::future<ProbeResult> _prepared;
     PreparedPicture _firstPicture;

@@ -74,6 +74,7 @@ QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
         setSurfaceType(QSurface::RasterSurface);
         _backingStore = std::make_unique<QBackingStore>(this);
     }
+    setCursor(Qt::ArrowCursor);
     _root.setHost(this);
     placeOnScreen();
 }
@@ -161,10 +162,7 @@ void QtWindowHost::setPointerHidden(bool hidden) {
     if (hidden == _pointerHidden)
         return;
     _pointerHidden = hidden;
-    if (hidden)
-        setCursor(Qt::BlankCursor);
-    else
-        unsetCursor();
+    setCursor(hidden ? Qt::BlankCursor : Qt::ArrowCursor);
 }
 
 void QtWindowHost::displayNeeded(const QRectF& rect) {
