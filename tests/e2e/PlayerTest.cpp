@@ -217,13 +217,25 @@ TEST_F(Player, a_second_launch_hands_its_files_over) {
 
 TEST_F(Player, the_right_button_opens_a_menu_that_escape_closes) {
     startPaused({numbered("red.mp4", red, 300)});
-    const auto window = probe.windowAt(320, 620);
+    const auto window = probe.windowAt(320, 220);
     ASSERT_NE(window, 0u);
-    probe.click(300, 600, 3);
-    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 620) != window; })) << "no menu opened";
+    probe.click(300, 200, 3);
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 220) != window; })) << "no menu opened";
     probe.tap(XK_Escape);
-    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 620) == window; })) << "the menu stays";
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 220) == window; })) << "the menu stays";
     EXPECT_TRUE(player->isRunning());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, the_menu_bar_comes_while_the_pointer_is_at_the_top) {
+    startPaused({numbered("red.mp4", red, 300)});
+    const auto covered = [](const Color& color) { return !color.isNear(red); };
+    ASSERT_FALSE(covered(probe.pixel(1200, 8)));
+    probe.movePointer(640, 300);
+    probe.movePointer(640, 0);
+    EXPECT_TRUE(probe.waitForPixel(1200, 8, covered)) << "no menu bar";
+    probe.movePointer(640, 300);
+    EXPECT_TRUE(probe.waitForColor(1200, 8, red)) << "the menu bar stays";
     ASSERT_TRUE(quitsCleanly());
 }
 
