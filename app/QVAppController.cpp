@@ -92,19 +92,19 @@ platform::Window* QVAppController::window() { return &_window; }
 MainWindow* QVAppController::mainWindow() { return &_window; }
 
 QVPlaylistController* QVAppController::playlist() {
-    if (!_playlist)
+    if (!_playlist && !_cleanedUp)
         _playlist = std::make_unique<QVPlaylistController>();
     return _playlist.get();
 }
 
 QVSubtitlesController* QVAppController::subtitles() {
-    if (!_subtitles)
+    if (!_subtitles && !_cleanedUp)
         _subtitles = std::make_unique<QVSubtitlesController>();
     return _subtitles.get();
 }
 
 QVMovieController* QVAppController::movieController() {
-    if (!_controller) {
+    if (!_controller && !_cleanedUp) {
         _controller = std::make_unique<QVMovieController>();
         _window.setDelegate(_controller.get());
     }
@@ -195,6 +195,8 @@ void QVAppController::finishLaunching() {
     }
     finishAddingFiles();
     _is_launching = false;
+    // Files may have arrived while those movies were opened.
+    finishAddingFiles();
     if (defaults().boolForKey(kQVOSDStateSave))
         QVOSDOverlay::sharedOSDOverlay().setDisplayType(defaults().integerForKey(kQVOSDStateSavedType));
 }
@@ -393,6 +395,8 @@ void QVAppController::applicationWillTerminate() {
 }
 
 void QVAppController::cleanup() {
+    // From here on nothing is created again, though the view still asks for it.
+    _cleanedUp = true;
     _autohide_cursor_timer.reset();
     _launchTimer.reset();
     _batchTimer.reset();

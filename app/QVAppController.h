@@ -90,6 +90,7 @@ private:
     bool _pause_forced = false;
     bool _window_hidden = false;
     bool _is_launching = true;
+    bool _cleanedUp = false;
     std::unique_ptr<platform::Timer> _autohide_cursor_timer;
     std::unique_ptr<platform::Timer> _launchTimer;
     std::unique_ptr<platform::Timer> _batchTimer;
