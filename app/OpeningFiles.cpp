@@ -13,6 +13,17 @@
 
 namespace {
 
+/// Folders that other systems show as one file: what lies inside is not the user's to play.
+bool isFilePackage(const QString& folder) {
+    static const QSet<QString> extensions{QStringLiteral("app"),          QStringLiteral("bundle"),
+                                          QStringLiteral("fcpbundle"),    QStringLiteral("imovielibrary"),
+                                          QStringLiteral("photolibrary"), QStringLiteral("photoslibrary"),
+                                          QStringLiteral("pkg"),          QStringLiteral("plugin"),
+                                          QStringLiteral("rcproject"),    QStringLiteral("rtfd")};
+    return extensions.contains(QFileInfo(folder).suffix().toLower()) ||
+           QFileInfo::exists(folder + QStringLiteral("/Contents/Info.plist"));
+}
+
 /// Walks a folder in the order in which a person reads its list: names without regard to case, numbers by value.
 void addFolder(const QString& folder, const QStringList& types, QSet<QString>& seen, QList<QUrl>& urls) {
     // A link back up must not make the walk go round.
@@ -27,10 +38,12 @@ void addFolder(const QString& folder, const QStringList& types, QSet<QString>& s
     for (const QString& name : std::as_const(names)) {
         const QString path = folder + QLatin1Char('/') + name;
         const QFileInfo info(path);
-        if (info.isDir())
-            addFolder(path, types, seen, urls);
-        else if (info.exists() && isFileOfType(path, types))
+        if (info.isDir()) {
+            if (!isFilePackage(path))
+                addFolder(path, types, seen, urls);
+        } else if (info.exists() && isFileOfType(path, types)) {
             urls.append(QUrl::fromLocalFile(info.absoluteFilePath()));
+        }
     }
 }
 
@@ -40,7 +53,8 @@ QStringList supportedFileTypes() {
     static const QStringList types = [] {
         QStringList result;
         result.reserve(20);
-        const QVariant documents = platform::Bundle::main().objectForInfoDictionaryKey(QStringLiteral("CFBundleDocumentTypes"));
+        const QVariant documents =
+            platform::Bundle::main().objectForInfoDictionaryKey(QStringLiteral("CFBundleDocumentTypes"));
         for (const QVariant& document : documents.toList()) {
             const QVariantMap entry = document.toMap();
             result += entry.value(QStringLiteral("CFBundleTypeExtensions")).toStringList();
