@@ -28,10 +28,11 @@ private:
         });
 };
 
-/// A host that shows nothing and keeps the areas that were to be drawn again.
+/// A host that shows nothing and keeps the areas that were to be drawn again, and whether the pointer is hidden.
 class RecordingHost final : public platform::WindowHost {
 public:
     std::vector<QRectF> areas;
+    bool pointerHidden = false;
 
     void frameChanged() override {}
     void alphaChanged() override {}
@@ -39,7 +40,7 @@ public:
     void orderedChanged() override {}
     void displayNeeded(const QRectF& rect) override { areas.push_back(rect); }
     void makeKeyAndOrderFront() override {}
-    void setPointerHidden(bool) override {}
+    void setPointerHidden(bool hidden) override { pointerHidden = hidden; }
     double pixelRatio() const override { return 1; }
 };
 

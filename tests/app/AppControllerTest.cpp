@@ -1,0 +1,410 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/QVAppController.h"
+
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/Tracing.h"
+#include "tests/app/AppRig.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Settings = QVariantMap;
+
+constexpr int openPanelAtLaunch = 2;
+
+/// Nothing happens by itself at launch.
+Settings quiet(Settings settings = {}) {
+    settings.insert(kQVOnLaunchDefaultAction, settings.value(kQVOnLaunchDefaultAction, 0));
+    return settings;
+}
+
+} // namespace
+
+// Launch
+
+TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_before_the_files) {
+    AppRig rig({{kQVVolumeSave, true},
+                {kQVVolumeSavedLevel, 0.5},
+                {kQVForceScreenBrightness, true},
+                {kQVScreenBrightness, 0.75},
+                {kQVOSDStateSave, true},
+                {kQVOSDStateSavedType, 3}});
+    rig.desktop.brightnessLevels[1] = 0.25F;
+    rig.steps.checksVersion = true;
+    QVOSDOverlay::sharedOSDOverlay().setDisplayType(0);
+    EXPECT_TRUE(rig.app->openFile(rig.file(QStringLiteral("a.mp4"))));
+    rig.app->applicationWillFinishLaunching();
+    EXPECT_EQ(rig.toolkit.entered, 1);
+    EXPECT_TRUE(rig.window.isOrderedIn());
+    EXPECT_EQ(rig.window.alphaValue(), 1.0F);
+    EXPECT_EQ(rig.window.firstResponder(), &rig.view);
+    EXPECT_NE(rig.window.delegate(), nullptr);
+    EXPECT_FLOAT_EQ(rig.view.volume(), 0.5F);
+    EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.75F);
+    rig.app->applicationDidFinishLaunching();
+    EXPECT_TRUE(rig.events.isEmpty());
+
+    rig.settings.runLoop.runPending();
+    EXPECT_EQ(rig.events.join(u' ').toStdString(), "configure donation version open a.mp4");
+    EXPECT_TRUE(rig.desktop.openPanels.empty()) << "with a file the launch action does not run";
+    EXPECT_FALSE(rig.app->isLaunching());
+    EXPECT_TRUE(rig.view.isPlaying());
+    EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
+
+    rig.app->applicationShouldTerminate();
+    EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.25F) << "the screen gets back the brightness found at launch";
+}
+
+TEST(AppController, without_files_the_launch_does_what_the_settings_say) {
+    struct Case {
+        int launchAction;
+        const char* events;
+        std::size_t panels;
+    };
+    for (const Case& c :
+         {Case{0, "configure donation", 0}, Case{1, "configure donation restore", 0},
+          Case{openPanelAtLaunch, "configure donation open b.avi", 1}, Case{7, "configure donation", 0}}) {
+        AppRig rig({{kQVOnLaunchDefaultAction, c.launchAction}, {kNSNavLastRootDirectory, QStringLiteral("~/movies")}});
+        rig.desktop.openPanelAnswers.push_back({rig.file(QStringLiteral("b.avi"))});
+        rig.launch();
+        EXPECT_EQ(rig.events.join(u' ').toStdString(), c.events) << c.launchAction;
+        ASSERT_EQ(rig.desktop.openPanels.size(), c.panels) << c.launchAction;
+        for (const FakeDesktop::OpenPanel& panel : rig.desktop.openPanels)
+            EXPECT_EQ(panel.folder, QDir::homePath() + QStringLiteral("/movies"));
+    }
+}
+
+// Files handed over
+
+TEST(AppController, files_that_arrive_together_are_one_batch) {
+    AppRig rig(quiet());
+    rig.launch();
+    Posts<QVPlaylistChangedNotification> adds;
+    for (const char* name : {"1.mp4", "2.mkv", "3.AVI"})
+        rig.app->openFile(rig.file(QString::fromLatin1(name)));
+    rig.app->openFile(QStringLiteral("http://example.org/4%20x.mp4"));
+    EXPECT_EQ(adds.count, 0);
+    rig.settings.runLoop.runPending();
+    EXPECT_EQ(adds.count, 1);
+    EXPECT_EQ(rig.listed().toStdString(), "1.mp4 2.mkv 3.AVI 4 x.mp4");
+
+    rig.app->openFile(rig.file(QStringLiteral("5.mp4")));
+    rig.settings.runLoop.runPending();
+    EXPECT_EQ(adds.count, 2);
+    EXPECT_EQ(rig.listed().toStdString(), "5.mp4");
+}
+
+TEST(AppController, the_option_key_at_the_first_file_decides_whether_a_batch_is_appended) {
+    AppRig rig(quiet());
+    rig.launch();
+    const QString a = rig.file(QStringLiteral("a.mp4"));
+    const QString b = rig.file(QStringLiteral("b.mp4"));
+    const auto handOver = [&](std::uint32_t first, std::uint32_t second) {
+        rig.desktop.heldModifiers = first;
+        rig.app->openFile(a);
+        rig.desktop.heldModifiers = second;
+        rig.app->openFile(b);
+        rig.desktop.heldModifiers = 0;
+        rig.settings.runLoop.runPending();
+        return rig.listed().toStdString();
+    };
+    using namespace platform::modifier;
+    EXPECT_EQ(handOver(0, option), "a.mp4 b.mp4");
+    EXPECT_EQ(handOver(option | shift, 0), "a.mp4 b.mp4 a.mp4 b.mp4");
+    EXPECT_EQ(handOver(shift | command, 0), "a.mp4 b.mp4");
+    // The panel asks when it has been answered.
+    rig.desktop.openPanelAnswers = {{b}, {a}};
+    rig.desktop.heldModifiers = option;
+    rig.app->doOpen();
+    EXPECT_EQ(rig.listed().toStdString(), "a.mp4 b.mp4 b.mp4");
+    rig.desktop.heldModifiers = 0;
+    rig.app->doOpen();
+    rig.app->doOpen();
+    EXPECT_EQ(rig.listed().toStdString(), "a.mp4") << "a cancelled panel adds nothing";
+}
+
+TEST(AppController, files_handed_over_while_the_first_ones_are_opened_are_not_lost) {
+    for (const bool launching : {true, false}) {
+        AppRig rig(quiet());
+        const QString broken = rig.file(QStringLiteral("broken.mp4"));
+        rig.toolkit.setFailure(QUrl::fromLocalFile(broken), platform::movieError::couldNotOpen);
+        if (!launching)
+            rig.launch();
+        rig.desktop.whileAlertIsUp = [&rig] {
+            rig.desktop.whileAlertIsUp = nullptr;
+            rig.app->openFile(rig.file(QStringLiteral("later.mp4")));
+            rig.settings.runLoop.runPending();
+        };
+        rig.app->openFile(broken);
+        rig.app->openFile(rig.file(QStringLiteral("good.mp4")));
+        if (launching)
+            rig.launch();
+        rig.settings.runLoop.runPending();
+        EXPECT_EQ(rig.listed().toStdString(), "later.mp4") << launching;
+        rig.app->openFile(rig.file(QStringLiteral("last.mp4")));
+        rig.settings.runLoop.runPending();
+        EXPECT_EQ(rig.listed().toStdString(), "last.mp4") << launching;
+    }
+}
+
+// The pointer
+
+TEST(AppController, the_pointer_hides_after_the_delay_and_mouse_moves_put_it_off) {
+    AppRig rig(quiet({{kQVCursorAutohideDelay, 10}}));
+    rig.launch();
+    platform::MouseEvent move;
+    move.locationInWindow = QPointF(700, 450);
+    rig.settings.runLoop.advance(9);
+    rig.window.dispatchMouseMoved(move);
+    rig.settings.runLoop.advance(9);
+    rig.window.dispatchMouseUp(move);
+    rig.settings.runLoop.advance(9.9);
+    EXPECT_FALSE(rig.host.pointerHidden);
+    rig.settings.runLoop.advance(0.1);
+    EXPECT_TRUE(rig.host.pointerHidden);
+
+    rig.window.setKey(true);
+    rig.window.setKey(false);
+    EXPECT_FALSE(rig.host.pointerHidden) << "the pointer belongs to another window";
+    rig.app->applicationDidBecomeActive();
+    rig.settings.runLoop.advance(10);
+    EXPECT_TRUE(rig.host.pointerHidden);
+}
+
+TEST(AppController, a_delay_above_ten_seconds_never_hides_the_pointer) {
+    AppRig rig(quiet({{kQVCursorAutohideDelay, 11}}));
+    rig.launch();
+    rig.settings.runLoop.advance(1000);
+    EXPECT_FALSE(rig.host.pointerHidden);
+}
+
+// Activation
+
+TEST(AppController, losing_the_keyboard_pauses_and_getting_it_back_restores_what_was) {
+    struct Case {
+        bool pauses, plays;
+        bool playsMeanwhile, playsAfter;
+    };
+    for (const Case& c :
+         {Case{true, true, false, true}, Case{true, false, false, false}, Case{false, true, true, true}}) {
+        AppRig rig(quiet({{kQVPauseOnDeactivate, c.pauses}, {kQVMainWindowLayer, 5}}));
+        rig.app->openFile(rig.file(QStringLiteral("a.mp4")));
+        rig.launch();
+        rig.window.setKey(true);
+        if (c.plays)
+            rig.view.setRate(2);
+        else
+            rig.view.stop();
+        rig.window.setKey(false);
+        EXPECT_EQ(rig.view.isPlaying(), c.playsMeanwhile);
+        EXPECT_EQ(rig.window.level(), platform::windowLevel::normal);
+        rig.window.setKey(true);
+        EXPECT_EQ(rig.view.isPlaying(), c.playsAfter);
+        EXPECT_EQ(rig.view.rate(), c.playsAfter ? 2.0F : 0.0F);
+        EXPECT_EQ(rig.window.level(), 5);
+        // What was paused is put back once.
+        rig.view.stop();
+        rig.window.setKey(false);
+        rig.settings.defaults().setBool(false, kQVPauseOnDeactivate);
+        rig.window.setKey(true);
+        EXPECT_FALSE(rig.view.isPlaying());
+    }
+}
+
+TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
+    for (const bool hides : {true, false}) {
+        AppRig rig(quiet({{kQVHideOnDeactivate, hides}, {kQVMainWindowLayer, 5}}));
+        rig.launch();
+        rig.app->applicationWillResignActive();
+        EXPECT_EQ(rig.window.level(), platform::windowLevel::normal);
+        EXPECT_EQ(rig.window.alphaValue(), hides ? 0.0F : 1.0F);
+        EXPECT_TRUE(rig.desktop.terminationReplies.empty());
+        rig.app->applicationWillBecomeActive();
+        EXPECT_EQ(rig.window.level(), 5);
+        EXPECT_EQ(rig.window.alphaValue(), 1.0F);
+    }
+    AppRig rig(quiet({{kQVMainWindowLayer, -2}}));
+    rig.launch();
+    rig.app->applicationWillResignActive();
+    EXPECT_EQ(rig.window.level(), -2) << "a window below the others stays there";
+}
+
+TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size) {
+    const platform::Screen main{QRectF(0, 0, 1440, 900), true, 1, QStringLiteral("Main")};
+    platform::Screen second{QRectF(1440, 100, 1920, 1080), true, 2, QStringLiteral("Second")};
+    FakeDesktop desktop;
+    desktop.screenList = {main, second};
+    struct Case {
+        int index;
+        bool isScreen;
+        QRectF frame;
+    };
+    for (const Case& c : {Case{1, true, second.frame}, Case{1, false, main.frame}, Case{2, true, main.frame},
+                          Case{-1, true, main.frame}}) {
+        const TestSettings settings({{kQVMainWindowScreen, c.index}});
+        desktop.screenList[1].isScreen = c.isScreen;
+        EXPECT_EQ(QVFullScreenWindow().frame(), c.frame) << c.index;
+    }
+
+    AppRig rig(quiet());
+    rig.launch();
+    rig.desktop.screenList = {main, second};
+    rig.window.adoptScreen(second);
+    second.frame = QRectF(1440, 0, 2560, 1440);
+    rig.desktop.screenList = {main, second};
+    rig.app->applicationDidChangeScreenParameters();
+    EXPECT_EQ(rig.window.frame(), second.frame);
+    rig.desktop.screenList = {main};
+    rig.app->applicationDidChangeScreenParameters();
+    EXPECT_EQ(rig.window.frame(), main.frame) << "its screen went away";
+    rig.desktop.screenList = {};
+    rig.app->applicationDidChangeScreenParameters();
+    EXPECT_EQ(rig.window.frame(), main.frame);
+}
+
+// Dragging
+
+TEST(AppController, what_is_dragged_in_is_taken_as_its_source_allows) {
+    using namespace platform::dragOperation;
+    AppRig rig(quiet());
+    rig.launch();
+    platform::DraggingInfo info;
+    info.sourceOperationMask = generic | copy;
+    EXPECT_EQ(rig.view.draggingEntered(info), none) << "neither files nor a URL";
+    info.offersFileNames = true;
+    struct Case {
+        std::uint32_t allowed, answer;
+    };
+    for (const Case& c : {Case{generic | copy, generic}, Case{generic, generic}, Case{copy, copy}, Case{none, none}}) {
+        info.sourceOperationMask = c.allowed;
+        EXPECT_EQ(rig.view.draggingEntered(info), c.answer);
+        EXPECT_EQ(rig.view.draggingUpdated(info), c.answer);
+    }
+
+    info.fileNames = {rig.file(QStringLiteral("a.mp4")), rig.file(QStringLiteral("notes.txt"))};
+    info.sourceOperationMask = generic | copy;
+    EXPECT_TRUE(rig.view.performDragOperation(info));
+    EXPECT_EQ(rig.listed().toStdString(), "a.mp4");
+    info.fileNames = {rig.file(QStringLiteral("folder/b.mp4"))};
+    info.sourceOperationMask = copy;
+    EXPECT_TRUE(rig.view.performDragOperation(info));
+    EXPECT_EQ(rig.listed().toStdString(), "a.mp4 b.mp4");
+    info.fileNames.clear();
+    EXPECT_TRUE(rig.view.performDragOperation(info));
+    EXPECT_TRUE(rig.desktop.alerts.empty());
+    info.offersFileNames = false;
+    info.offersURL = true;
+    info.urlStrings = {QStringLiteral("http://example.org/c.mp4"), QString()};
+    info.sourceOperationMask = generic;
+    EXPECT_TRUE(rig.view.performDragOperation(info));
+    EXPECT_EQ(rig.listed().toStdString(), "c.mp4");
+}
+
+// Menus and keys
+
+TEST(AppController, menu_items_reach_those_who_act_on_them) {
+    AppRig rig(quiet());
+    rig.app->openFile(rig.file(QStringLiteral("a.mp4")));
+    rig.launch();
+    rig.events.clear();
+    const auto choose = [&](const char* action, int tag = 0) {
+        platform::Menu menu;
+        platform::MenuItem& item = menu.addItem(QString(), QString::fromLatin1(action), tag);
+        EXPECT_TRUE(rig.app->validateMenuItem(item)) << action;
+        rig.app->performMenuItem(item);
+    };
+    choose("startStop");
+    EXPECT_FALSE(rig.view.isPlaying());
+    choose("doOpen");
+    EXPECT_EQ(rig.desktop.openPanels.size(), 1U);
+    choose("showHelp");
+    EXPECT_EQ(rig.events.join(u' ').toStdString(), "help");
+    const bool bar = rig.view.isControllerVisible();
+    choose("toggleController");
+    EXPECT_NE(rig.view.isControllerVisible(), bar);
+    QVOSDOverlay::sharedOSDOverlay().setDisplayType(2);
+    choose("cycleDisplays", 1);
+    EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
+    choose("performAction", action::playPause);
+    EXPECT_TRUE(rig.view.isPlaying());
+    choose("quit");
+    rig.settings.runLoop.advance(5);
+    EXPECT_EQ(rig.desktop.terminations, 1);
+
+    platform::MenuItem* normal = nullptr;
+    for (int top = 0; top < rig.menu.bar().count() && !normal; ++top)
+        normal = rig.menu.bar().itemAt(top).submenu->itemWithTag(movieSize::fitWidth);
+    ASSERT_TRUE(normal);
+    rig.view.setMovieSize(movieSize::fitWidth, QVMovieView::Recalculation::ifChanged);
+    EXPECT_TRUE(rig.app->validateMenuItem(*normal));
+    EXPECT_TRUE(normal->state) << "the size shown has the check mark";
+}
+
+TEST(AppController, escape_quits_and_other_keys_that_reach_the_window_do_nothing) {
+    AppRig rig(quiet());
+    rig.launch();
+    platform::KeyEvent key;
+    key.charactersIgnoringModifiers = QStringLiteral("q");
+    EXPECT_FALSE(rig.window.dispatchKey(key));
+    rig.settings.runLoop.advance(5);
+    EXPECT_EQ(rig.desktop.terminations, 0);
+    key.charactersIgnoringModifiers = QChar(platform::functionKey::escape);
+    key.modifierFlags = platform::modifier::shift;
+    EXPECT_TRUE(rig.window.dispatchKey(key));
+    rig.settings.runLoop.advance(5);
+    EXPECT_EQ(rig.desktop.terminations, 1);
+}
+
+TEST(AppController, a_changed_layer_or_trace_setting_acts_at_once) {
+    AppRig rig(quiet());
+    rig.launch();
+    rig.settings.defaults().setInteger(7, kQVMainWindowLayer);
+    rig.settings.defaults().setBool(true, kQVEnableTrace);
+    for (const QString& key : {QString(kQVMainWindowLayer), QString(kQVEnableTrace)})
+        platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{key});
+    EXPECT_EQ(rig.window.level(), 7);
+    EXPECT_TRUE(gTracingEnabled);
+    gTracingEnabled = false;
+}
+
+// Termination
+
+TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_to_be_kept) {
+    AppRig rig({{kQVVolumeSave, true}, {kQVOSDStateSave, true}, {kQVOnLaunchDefaultAction, 1}});
+    rig.app->openFile(rig.file(QStringLiteral("a.mp4")));
+    rig.launch();
+    rig.events.clear();
+    rig.view.setVolume(0.25F);
+    rig.app->controller()->setForceMuted(true);
+    QVOSDOverlay::sharedOSDOverlay().setDisplayType(4);
+    EXPECT_EQ(rig.app->applicationShouldTerminate(), platform::ApplicationDelegate::TerminateReply::later);
+    EXPECT_FALSE(rig.view.isPlaying());
+    EXPECT_FALSE(rig.view.isMuted());
+    EXPECT_EQ(rig.window.alphaValue(), 0.0F);
+    EXPECT_EQ(rig.desktop.terminationReplies, std::vector<bool>{true});
+    EXPECT_EQ(rig.events.join(u' ').toStdString(), "save");
+    EXPECT_TRUE(rig.desktop.brightnessLevels.isEmpty()) << "a brightness that cannot be read is not set";
+
+    rig.app->applicationWillTerminate();
+    EXPECT_FLOAT_EQ(rig.settings.disk->domain.value(kQVVolumeSavedLevel).toFloat(), 0.25F);
+    EXPECT_EQ(rig.settings.disk->domain.value(kQVOSDStateSavedType).toInt(), 4);
+    EXPECT_EQ(rig.toolkit.exited, 1);
+    EXPECT_FALSE(rig.view.movie());
+    EXPECT_EQ(rig.window.delegate(), nullptr);
+    EXPECT_EQ(rig.settings.runLoop.pendingCount(), 0U);
+    rig.app.reset();
+    EXPECT_EQ(gAppController, nullptr);
+}
+
+TEST(AppController, quitting_keeps_nothing_that_the_settings_leave_out) {
+    AppRig rig(quiet({{kQVVolumeSave, false}, {kQVOSDStateSave, false}}));
+    rig.launch();
+    rig.view.setVolume(0.25F);
+    QVOSDOverlay::sharedOSDOverlay().setDisplayType(4);
+    rig.app->applicationShouldTerminate();
+    rig.app->applicationWillTerminate();
+    EXPECT_FALSE(rig.settings.disk->domain.contains(kQVVolumeSavedLevel));
+    EXPECT_FALSE(rig.settings.disk->domain.contains(kQVOSDStateSavedType));
+    EXPECT_FALSE(rig.events.contains(QStringLiteral("save")));
+}
