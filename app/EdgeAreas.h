@@ -6,8 +6,8 @@
 
 #include <array>
 
-/// An area at the window's edge that pans the picture towards it while the pointer is in it. Content coordinates (origin bottom left), points; the
-/// direction in the bits of panDirection.
+/// An area at the window's edge that pans the picture towards it while the pointer is in it. Content coordinates
+/// (origin bottom left), points; the direction in the bits of panDirection.
 struct EdgeArea {
     QRectF rect;
     int direction;

@@ -2,8 +2,8 @@
 #include "app/Inspection.h"
 
 #include "app/OpeningFiles.h"
-#include "playback/QVMovie.h"
 #include "platform/movie/MovieToolkit.h"
+#include "playback/QVMovie.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -47,7 +47,8 @@ InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToo
         if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(url)) {
             objects.append(describeMovie(name, *movie));
         } else {
-            result.errors.append(QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(toolkit.stickyError()));
+            result.errors.append(
+                QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(toolkit.stickyError()));
         }
     }
     result.json = QJsonDocument(objects).toJson(QJsonDocument::Compact) + '\n';

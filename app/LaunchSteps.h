@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// The steps of launch and termination that are components of their own: first-time configuration, donation prompt, version check, saved
-/// state. Those that do not exist do nothing. Main thread.
+/// The steps of launch and termination that are components of their own: first-time configuration, donation prompt,
+/// version check, saved state. Those that do not exist do nothing. Main thread.
 class LaunchSteps {
 public:
     virtual ~LaunchSteps() = default;

@@ -14,7 +14,8 @@ QStringList supportedFileTypes();
 /// True with no types at all; else when the lowercased extension of the path is among them.
 bool isFileOfType(const QString& path, const QStringList& types);
 
-/// The files of these types among the paths, folders walked to the bottom; what does not exist or is of another type is left out.
+/// The files of these types among the paths, folders walked to the bottom; what does not exist or is of another type is
+/// left out.
 QList<QUrl> urlsWithPathStrings(const QStringList& paths, const QStringList& types);
 
 /// The texts that are URLs.

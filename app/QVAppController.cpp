@@ -37,7 +37,9 @@ constexpr std::int32_t restoreState = 1;
 constexpr std::int32_t openPanel = 2;
 } // namespace launchAction
 
-platform::UserDefaults& defaults() { return QVUserDefaults::standardUserDefaults(); }
+platform::UserDefaults& defaults() {
+    return QVUserDefaults::standardUserDefaults();
+}
 
 QString infoText(const char* key) {
     return platform::Bundle::main().objectForInfoDictionaryKey(QString::fromLatin1(key)).toString();
@@ -87,9 +89,13 @@ QVAppController::~QVAppController() {
 
 // The main objects
 
-platform::Window* QVAppController::window() { return &_window; }
+platform::Window* QVAppController::window() {
+    return &_window;
+}
 
-MainWindow* QVAppController::mainWindow() { return &_window; }
+MainWindow* QVAppController::mainWindow() {
+    return &_window;
+}
 
 QVPlaylistController* QVAppController::playlist() {
     if (!_playlist && !_cleanedUp)
@@ -111,7 +117,9 @@ QVMovieController* QVAppController::movieController() {
     return _controller.get();
 }
 
-CommandTarget* QVAppController::controller() { return movieController(); }
+CommandTarget* QVAppController::controller() {
+    return movieController();
+}
 
 // Launch
 
@@ -151,7 +159,8 @@ void QVAppController::startAddingFiles() {
     _is_adding_files = true;
     _is_should_replace = addingFor(QVGetModifierFlags()) == Adding::replace;
     _added_files.reserve(25);
-    // The files of one hand-over arrive one by one; the batch is closed when all have. At launch finishLaunching does it.
+    // The files of one hand-over arrive one by one; the batch is closed when all have. At launch finishLaunching does
+    // it.
     if (!_is_launching)
         _batchTimer = platform::RunLoop::main().schedule(0, false, [this] { finishAddingFiles(); });
 }
@@ -312,13 +321,15 @@ std::uint32_t QVAppController::draggingEntered(const platform::DraggingInfo& inf
     return info.sourceOperationMask & dragOperation::copy ? dragOperation::copy : dragOperation::none;
 }
 
-std::uint32_t QVAppController::draggingUpdated(const platform::DraggingInfo& info) { return draggingEntered(info); }
+std::uint32_t QVAppController::draggingUpdated(const platform::DraggingInfo& info) {
+    return draggingEntered(info);
+}
 
 bool QVAppController::performDragOperation(const platform::DraggingInfo& info) {
     using namespace platform;
     // A source limits itself to copying while the Option key is held.
-    const bool append = !(info.sourceOperationMask & dragOperation::generic) &&
-                        (info.sourceOperationMask & dragOperation::copy);
+    const bool append =
+        !(info.sourceOperationMask & dragOperation::generic) && (info.sourceOperationMask & dragOperation::copy);
     const Adding adding = append ? Adding::append : Adding::replace;
     if (info.offersFileNames) {
         if (!info.fileNames.isEmpty())

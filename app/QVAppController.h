@@ -17,8 +17,8 @@ class LaunchSteps;
 class QVFullScreenWindow;
 class QVMovieController;
 
-/// The application's delegate and the owner of its main objects: launch, the files handed over, activation, hiding the pointer, termination. One
-/// instance; it is gAppController while it lives. Main thread.
+/// The application's delegate and the owner of its main objects: launch, the files handed over, activation, hiding the
+/// pointer, termination. One instance; it is gAppController while it lives. Main thread.
 class QVAppController final : public QVAppContext,
                               public platform::ApplicationDelegate,
                               public platform::MenuTarget,

@@ -16,7 +16,8 @@ constexpr const char* className = "QVFullScreenWindow";
 QRectF chosenFrame() {
     const std::vector<platform::Screen> screens = platform::Desktop::shared().screens();
     const std::int32_t index = QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowScreen);
-    if (index >= 0 && static_cast<std::size_t>(index) < screens.size() && screens[static_cast<std::size_t>(index)].isScreen)
+    if (index >= 0 && static_cast<std::size_t>(index) < screens.size() &&
+        screens[static_cast<std::size_t>(index)].isScreen)
         return screens[static_cast<std::size_t>(index)].frame;
     return screens.empty() ? QRectF(0, 0, 1280, 720) : screens.front().frame;
 }
@@ -32,7 +33,9 @@ QVFullScreenWindow::QVFullScreenWindow()
         [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
 }
 
-QVFullScreenWindow::~QVFullScreenWindow() { removeTrackingRects(); }
+QVFullScreenWindow::~QVFullScreenWindow() {
+    removeTrackingRects();
+}
 
 void QVFullScreenWindow::show() {
     orderFront();
@@ -107,8 +110,9 @@ bool QVFullScreenWindow::keyDown(const platform::KeyEvent& event) {
             gAppController->controller()->performAction(action::quit, Feedback::yes);
         return true;
     }
-    trace("%@: NOT HANDLED! Next Responder: 0x%08X", className,
-          QString::number(reinterpret_cast<quintptr>(gAppController), 16).toUpper().rightJustified(8, QLatin1Char('0')));
+    trace(
+        "%@: NOT HANDLED! Next Responder: 0x%08X", className,
+        QString::number(reinterpret_cast<quintptr>(gAppController), 16).toUpper().rightJustified(8, QLatin1Char('0')));
     return false;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// The on-screen display: 0 nothing, 1 time, 2 movie, 3 subtitles, 4 looping, 5 volume. One for the process. Main thread.
+/// The on-screen display: 0 nothing, 1 time, 2 movie, 3 subtitles, 4 looping, 5 volume. One for the process. Main
+/// thread.
 class QVOSDOverlay {
 public:
     static QVOSDOverlay& sharedOSDOverlay();

@@ -10,9 +10,13 @@ SubtitleRegistry& SubtitleRegistry::shared() {
     return sShared ? *sShared : registry;
 }
 
-void SubtitleRegistry::setShared(SubtitleRegistry* registry) { sShared = registry; }
+void SubtitleRegistry::setShared(SubtitleRegistry* registry) {
+    sShared = registry;
+}
 
-QStringList SubtitleRegistry::subtitleUnfilteredFileTypes() const { return {}; }
+QStringList SubtitleRegistry::subtitleUnfilteredFileTypes() const {
+    return {};
+}
 
 std::vector<std::shared_ptr<QVSubtitles>> SubtitleRegistry::subtitlesWithFilePath(const QString&, SubtitleOwner&) {
     return {};

@@ -5,8 +5,11 @@
 
 void QVSubtitlesController::cycleSubtitles(int) {}
 
-void QVSubtitlesController::setCurrenWithIndex(std::int32_t) { _index = 0xFFFFFFFF; }
+void QVSubtitlesController::setCurrenWithIndex(std::int32_t) {
+    _index = 0xFFFFFFFF;
+}
 
 QString QVSubtitlesController::currentInfoAsString() const {
-    return platform::localizedFormat(QStringLiteral("Subtitles: %@"), {platform::localizedString(QStringLiteral("None"))});
+    return platform::localizedFormat(QStringLiteral("Subtitles: %@"),
+                                     {platform::localizedString(QStringLiteral("None"))});
 }

@@ -37,7 +37,8 @@ public:
     virtual bool beginGL(GLContext& context) = 0;
     /// The context is about to end.
     virtual void endGL() = 0;
-    /// The context is current: the picture into the framebuffer object `framebuffer` of `target` pixels. The state of OpenGL is left undefined.
+    /// The context is current: the picture into the framebuffer object `framebuffer` of `target` pixels. The state of
+    /// OpenGL is left undefined.
     virtual bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) = 0;
 
     /// A new picture is due since the last render. While the window is not shown the host calls skip() instead.

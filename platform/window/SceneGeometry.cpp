@@ -13,9 +13,9 @@ QRect fromEdges(double left, double top, double right, double bottom) {
 } // namespace
 
 QRect toPixels(const QRectF& rect, const QSizeF& contentSize, double pixelRatio) {
-    return fromEdges(std::round(rect.left() * pixelRatio),
-                     std::round((contentSize.height() - rect.bottom()) * pixelRatio),
-                     std::round(rect.right() * pixelRatio), std::round((contentSize.height() - rect.top()) * pixelRatio));
+    return fromEdges(
+        std::round(rect.left() * pixelRatio), std::round((contentSize.height() - rect.bottom()) * pixelRatio),
+        std::round(rect.right() * pixelRatio), std::round((contentSize.height() - rect.top()) * pixelRatio));
 }
 
 QRect toCoveringPixels(const QRectF& rect, const QSizeF& contentSize, double pixelRatio) {
@@ -24,7 +24,9 @@ QRect toCoveringPixels(const QRectF& rect, const QSizeF& contentSize, double pix
                      std::ceil(rect.right() * pixelRatio), std::ceil((contentSize.height() - rect.top()) * pixelRatio));
 }
 
-QPointF flipped(QPointF point, const QSizeF& contentSize) { return {point.x(), contentSize.height() - point.y()}; }
+QPointF flipped(QPointF point, const QSizeF& contentSize) {
+    return {point.x(), contentSize.height() - point.y()};
+}
 
 QRectF flippedOnDesktop(const QRectF& rect, double mainScreenHeight) {
     return QRectF(QPointF(rect.x(), mainScreenHeight - rect.y() - rect.height()), rect.size());

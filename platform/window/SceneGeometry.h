@@ -9,8 +9,8 @@
 
 namespace platform::sceneGeometry {
 
-/// A rectangle of a window's content (origin bottom left, y up, points) in device pixels (origin top left, y down). Edges
-/// are rounded each by itself, so that rectangles that touch in points touch in pixels.
+/// A rectangle of a window's content (origin bottom left, y up, points) in device pixels (origin top left, y down).
+/// Edges are rounded each by itself, so that rectangles that touch in points touch in pixels.
 QRect toPixels(const QRectF& rect, const QSizeF& contentSize, double pixelRatio);
 
 /// The smallest rectangle of whole pixels that covers it.
@@ -19,8 +19,8 @@ QRect toCoveringPixels(const QRectF& rect, const QSizeF& contentSize, double pix
 /// A point with origin top left, y down, in a content's coordinates, and back: both directions are the same.
 QPointF flipped(QPointF point, const QSizeF& contentSize);
 
-/// A rectangle of the desktop with origin top left of the main screen, y down (the window system's), as one with origin bottom left, y up
-/// (ours), and back.
+/// A rectangle of the desktop with origin top left of the main screen, y down (the window system's), as one with origin
+/// bottom left, y up (ours), and back.
 QRectF flippedOnDesktop(const QRectF& rect, double mainScreenHeight);
 
 } // namespace platform::sceneGeometry

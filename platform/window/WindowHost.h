@@ -8,8 +8,8 @@ namespace platform {
 class Menu;
 class Window;
 
-/// Shows a root window and the windows above it on the screen. A window tells its host what changed; the host reads the rest
-/// from the window. Main thread.
+/// Shows a root window and the windows above it on the screen. A window tells its host what changed; the host reads the
+/// rest from the window. Main thread.
 class WindowHost {
 public:
     WindowHost() = default;

@@ -53,7 +53,8 @@ void SessionBus::inhibit() {
     if (!bus.isConnected())
         return;
     _asking = true;
-    QDBusMessage call = QDBusMessage::createMethodCall(saverService, saverPath, saverService, QStringLiteral("Inhibit"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(saverService, saverPath, saverService, QStringLiteral("Inhibit"));
     call << QStringLiteral("Lumaro") << reason;
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -72,9 +73,9 @@ void SessionBus::inhibit() {
 }
 
 void SessionBus::inhibitThroughPortal() {
-    QDBusMessage call = QDBusMessage::createMethodCall(portalService, QStringLiteral("/org/freedesktop/portal/desktop"),
-                                                       QStringLiteral("org.freedesktop.portal.Inhibit"),
-                                                       QStringLiteral("Inhibit"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(portalService, QStringLiteral("/org/freedesktop/portal/desktop"),
+                                       QStringLiteral("org.freedesktop.portal.Inhibit"), QStringLiteral("Inhibit"));
     call << QString() << portalSuspendAndIdle << QVariantMap{{QStringLiteral("reason"), reason}};
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -96,8 +97,8 @@ void SessionBus::release() {
         call = QDBusMessage::createMethodCall(saverService, saverPath, saverService, QStringLiteral("UnInhibit"));
         call << _cookie;
     } else {
-        call = QDBusMessage::createMethodCall(portalService, _portalRequest,
-                                              QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close"));
+        call = QDBusMessage::createMethodCall(
+            portalService, _portalRequest, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close"));
     }
     QDBusConnection::sessionBus().send(call);
     _held = false;

@@ -13,8 +13,8 @@ class QDBusPendingCallWatcher;
 
 namespace platform {
 
-/// What the user's session offers over D-Bus: keeping the screen saver away, and sleep. Calls return at once; a session without
-/// the service is left alone. Main thread.
+/// What the user's session offers over D-Bus: keeping the screen saver away, and sleep. Calls return at once; a session
+/// without the service is left alone. Main thread.
 class SessionBus final : public QObject {
 public:
     SessionBus();

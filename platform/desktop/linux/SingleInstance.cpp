@@ -54,7 +54,7 @@ int connectTo(const sockaddr_un& address) {
 }
 
 bool isPrivateFolder(const QByteArray& path) {
-    struct stat status{};
+    struct stat status {};
     return ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::getuid() &&
            (status.st_mode & 022) == 0;
 }
@@ -126,7 +126,9 @@ bool SingleInstance::isTaken() const {
     return taken;
 }
 
-QString SingleInstance::lockPath() const { return _path + QStringLiteral(".lock"); }
+QString SingleInstance::lockPath() const {
+    return _path + QStringLiteral(".lock");
+}
 
 bool SingleInstance::handOver(const HandOver& message) const {
     const auto address = addressOf(_path);
@@ -138,8 +140,8 @@ bool SingleInstance::handOver(const HandOver& message) const {
     const QByteArray bytes = encoded(message);
     qsizetype sent = 0;
     while (sent < bytes.size()) {
-        const ssize_t count = ::send(socket, bytes.constData() + sent, static_cast<std::size_t>(bytes.size() - sent),
-                                     MSG_NOSIGNAL);
+        const ssize_t count =
+            ::send(socket, bytes.constData() + sent, static_cast<std::size_t>(bytes.size() - sent), MSG_NOSIGNAL);
         if (count <= 0)
             break;
         sent += count;
@@ -183,7 +185,8 @@ void SingleInstance::acceptClient() {
     client->socket = socket;
     client->notifier = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
     Client* raw = client.get();
-    QObject::connect(raw->notifier.get(), &QSocketNotifier::activated, raw->notifier.get(), [this, raw] { readClient(*raw); });
+    QObject::connect(raw->notifier.get(), &QSocketNotifier::activated, raw->notifier.get(),
+                     [this, raw] { readClient(*raw); });
     _clients.push_back(std::move(client));
 }
 

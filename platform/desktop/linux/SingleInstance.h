@@ -33,11 +33,11 @@ public:
 
     /// Whether a player is running, as far as can be told without asking it.
     bool isTaken() const;
-    /// Hands over to the running player; true when one took it. Needs no application object. A player that does not answer within three
-    /// seconds counts as none.
+    /// Hands over to the running player; true when one took it. Needs no application object. A player that does not
+    /// answer within three seconds counts as none.
     bool handOver(const HandOver& message) const;
-    /// Becomes the running player: `receive` is called for each hand-over from here on. False when another one is, or the socket cannot be
-    /// made.
+    /// Becomes the running player: `receive` is called for each hand-over from here on. False when another one is, or
+    /// the socket cannot be made.
     bool listen(std::function<void(const HandOver&)> receive);
 
     /// The message as it goes over the socket, and back; nothing readable gives no files.

@@ -120,7 +120,8 @@ int QtDesktop::runAlert(const Alert& alert) {
     QPushButton* usual = box.addButton(alert.defaultButton, QMessageBox::AcceptRole);
     QPushButton* alternate =
         alert.alternateButton.isEmpty() ? nullptr : box.addButton(alert.alternateButton, QMessageBox::RejectRole);
-    QPushButton* other = alert.otherButton.isEmpty() ? nullptr : box.addButton(alert.otherButton, QMessageBox::RejectRole);
+    QPushButton* other =
+        alert.otherButton.isEmpty() ? nullptr : box.addButton(alert.otherButton, QMessageBox::RejectRole);
     box.setDefaultButton(usual);
     box.setEscapeButton(other ? other : alternate ? alternate : usual);
     standAbove(box, _mainWindow);
@@ -149,7 +150,9 @@ QStringList QtDesktop::runOpenPanel(const QStringList& extensions, const QString
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 
-void QtDesktop::beep() { QApplication::beep(); }
+void QtDesktop::beep() {
+    QApplication::beep();
+}
 
 std::vector<Screen> QtDesktop::screens() const {
     std::vector<Screen> result;
@@ -158,8 +161,8 @@ std::vector<Screen> QtDesktop::screens() const {
         return result;
     std::uint32_t number = 0;
     const auto add = [&](const QScreen* screen) {
-        result.push_back({sceneGeometry::flippedOnDesktop(screen->geometry(), main->geometry().height()), true, ++number,
-                          screen->name()});
+        result.push_back({sceneGeometry::flippedOnDesktop(screen->geometry(), main->geometry().height()), true,
+                          ++number, screen->name()});
     };
     add(main);
     for (const QScreen* screen : QGuiApplication::screens()) {
@@ -169,11 +172,15 @@ std::vector<Screen> QtDesktop::screens() const {
     return result;
 }
 
-float QtDesktop::brightness(const Screen&) const { return std::numeric_limits<float>::infinity(); }
+float QtDesktop::brightness(const Screen&) const {
+    return std::numeric_limits<float>::infinity();
+}
 
 void QtDesktop::setBrightness(const Screen&, float) {}
 
-bool QtDesktop::openURL(const QUrl& url) { return url.isValid() && QDesktopServices::openUrl(url); }
+bool QtDesktop::openURL(const QUrl& url) {
+    return url.isValid() && QDesktopServices::openUrl(url);
+}
 
 std::uint32_t QtDesktop::modifierFlags() const {
     return qtEvents::modifierFlags(QGuiApplication::queryKeyboardModifiers()) | _assumedModifiers;

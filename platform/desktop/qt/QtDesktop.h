@@ -17,8 +17,8 @@ namespace platform {
 
 class ApplicationDelegate;
 
-/// The desktop through Qt, and the application's life on it: launching, activation, the question whether to end, and the end.
-/// It holds Qt's application object; one at a time.
+/// The desktop through Qt, and the application's life on it: launching, activation, the question whether to end, and
+/// the end. It holds Qt's application object; one at a time.
 class QtDesktop final : public QObject, public Desktop {
 public:
     /// What needs the session's services.

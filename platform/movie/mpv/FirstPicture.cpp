@@ -18,7 +18,9 @@ struct Freed {
     void operator()(AVFrame* frame) const { AvLibrary::get()->av_frame_free(&frame); }
 };
 
-int isCancelled(void* flag) { return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0; }
+int isCancelled(void* flag) {
+    return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0;
+}
 
 bool isPlain(const AVStream* stream, const AVFrame* frame) {
     return !AvLibrary::get()->av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr) &&
@@ -40,7 +42,9 @@ int colorMatrix(const AVFrame* frame) {
 
 } // namespace
 
-FirstPicture::~FirstPicture() { AvLibrary::get()->av_frame_free(&_frame); }
+FirstPicture::~FirstPicture() {
+    AvLibrary::get()->av_frame_free(&_frame);
+}
 
 std::shared_ptr<const FirstPicture> FirstPicture::decode(const QUrl& url, const std::atomic<bool>& cancelled) {
     const AvLibrary* av = AvLibrary::get();
@@ -92,9 +96,9 @@ std::shared_ptr<const FirstPicture> FirstPicture::decode(const QUrl& url, const 
 
 bool FirstPicture::render(const QSize& size, unsigned char* pixels, std::size_t stride) const {
     const AvLibrary& av = *AvLibrary::get();
-    SwsContext* scaler = av.sws_getContext(_frame->width, _frame->height, static_cast<AVPixelFormat>(_frame->format),
-                                           size.width(), size.height(), AV_PIX_FMT_BGR0, SWS_BILINEAR, nullptr, nullptr,
-                                           nullptr);
+    SwsContext* scaler =
+        av.sws_getContext(_frame->width, _frame->height, static_cast<AVPixelFormat>(_frame->format), size.width(),
+                          size.height(), AV_PIX_FMT_BGR0, SWS_BILINEAR, nullptr, nullptr, nullptr);
     if (!scaler)
         return false;
     const int* matrix = av.sws_getCoefficients(colorMatrix(_frame));

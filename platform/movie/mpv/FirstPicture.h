@@ -12,7 +12,8 @@ struct AVFrame;
 
 namespace platform {
 
-/// The first picture of a movie, decoded without the player: it stands on the screen while the player is still starting.
+/// The first picture of a movie, decoded without the player: it stands on the screen while the player is still
+/// starting.
 class FirstPicture {
 public:
     /// Decodes it; null where that is not simple (rotated, high dynamic range, nothing decoded soon). Any thread.

@@ -14,10 +14,10 @@ extern "C" {
 
 namespace platform {
 
-// The libraries are loaded at run time instead of being linked: resolving the more than two hundred libraries behind libmpv
-// takes as long as everything else at the start together, and on a thread of its own it costs the start nothing. They are
-// loaded in the order in which they are needed: the readers first, so that a movie is open, and its first picture decoded,
-// while the player is still being loaded.
+// The libraries are loaded at run time instead of being linked: resolving the more than two hundred libraries behind
+// libmpv takes as long as everything else at the start together, and on a thread of its own it costs the start nothing.
+// They are loaded in the order in which they are needed: the readers first, so that a movie is open, and its first
+// picture decoded, while the player is still being loaded.
 
 #define LUMARO_AV_FUNCTIONS(X)                                                                                         \
     X(avformat_alloc_context)                                                                                          \
@@ -75,7 +75,8 @@ struct AvLibrary {
 #define X(name) decltype(&::name) name = nullptr;
     LUMARO_AV_FUNCTIONS(X)
 #undef X
-    /// The loaded library, or null when it cannot be loaded (a message was logged). Blocks while it is being loaded. Any thread.
+    /// The loaded library, or null when it cannot be loaded (a message was logged). Blocks while it is being loaded.
+    /// Any thread.
     static const AvLibrary* get();
 };
 

@@ -18,13 +18,15 @@ struct ProbeResult {
 };
 
 /// Opens a movie with libavformat, reads its facts and closes it again. Only the header is read where that says
-/// everything; else the streams are looked into. Any thread; blocks, at most about `timeout` seconds, or until `cancelled` is set.
+/// everything; else the streams are looked into. Any thread; blocks, at most about `timeout` seconds, or until
+/// `cancelled` is set.
 ProbeResult probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled);
 
 /// Whether opening the URL may have to wait for a network.
 bool isNetworkURL(const QUrl& url);
 
-/// What the libraries take as the address: a path for local files (never taken for an option or a protocol), else the encoded URL.
+/// What the libraries take as the address: a path for local files (never taken for an option or a protocol), else the
+/// encoded URL.
 QByteArray addressOf(const QUrl& url);
 
 } // namespace platform

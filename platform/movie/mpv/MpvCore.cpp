@@ -165,8 +165,12 @@ void MpvCore::setCallbacks(std::function<void()> events, std::function<void()> p
     mpv.mpv_render_context_set_update_callback(_render, &MpvCore::update, this);
 }
 
-void MpvCore::wakeup(void* self) { static_cast<MpvCore*>(self)->_events(); }
+void MpvCore::wakeup(void* self) {
+    static_cast<MpvCore*>(self)->_events();
+}
 
-void MpvCore::update(void* self) { static_cast<MpvCore*>(self)->_pictures(); }
+void MpvCore::update(void* self) {
+    static_cast<MpvCore*>(self)->_pictures();
+}
 
 } // namespace platform

@@ -39,8 +39,8 @@ void MpvPicture::setCrop(const QRect& picture, const QRect& visible) {
 }
 
 bool MpvPicture::renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) {
-    unsigned char* const target = pixels + static_cast<std::size_t>(visible.y()) * stride +
-                                  static_cast<std::size_t>(visible.x()) * 4;
+    unsigned char* const target =
+        pixels + static_cast<std::size_t>(visible.y()) * stride + static_cast<std::size_t>(visible.x()) * 4;
     if (!_coreHasPicture) {
         if (!_first || picture != visible || !_first->render(visible.size(), target, stride))
             return false;

@@ -14,8 +14,8 @@ namespace platform {
 
 class MpvCore;
 
-/// The picture of the core, rendered into the host's pixels or framebuffer. Until the core has one of the movie, the first picture
-/// that was decoded while the movie was opened stands in its place. Main thread.
+/// The picture of the core, rendered into the host's pixels or framebuffer. Until the core has one of the movie, the
+/// first picture that was decoded while the movie was opened stands in its place. Main thread.
 class MpvPicture final : public PictureLayer {
 public:
     /// Before the core loads anything; null before it ends.

@@ -28,8 +28,8 @@ struct PreparedPicture {
     std::future<std::shared_ptr<const FirstPicture>> picture;
 };
 
-/// The player on libmpv. What is asked of it is kept as the wanted state, answered at once, and carried out asynchronously, so that it never waits for
-/// the core and can be asked before the core stands. Main thread.
+/// The player on libmpv. What is asked of it is kept as the wanted state, answered at once, and carried out
+/// asynchronously, so that it never waits for the core and can be asked before the core stands. Main thread.
 class MpvPlayer final : public QObject, public MoviePlayer {
 public:
     MpvPlayer();

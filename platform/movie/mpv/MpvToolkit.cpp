@@ -8,8 +8,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
-#include <clocale>
 #include <chrono>
+#include <clocale>
 #include <utility>
 
 namespace platform {
@@ -23,7 +23,9 @@ constexpr double localTimeout = 60.0;
 
 MpvToolkit::MpvToolkit() = default;
 
-MpvToolkit::~MpvToolkit() { exit(); }
+MpvToolkit::~MpvToolkit() {
+    exit();
+}
 
 void MpvToolkit::prepare(const QUrl& url) {
     std::promise<ProbeResult> probed;
@@ -31,11 +33,12 @@ void MpvToolkit::prepare(const QUrl& url) {
     _prepared = probed.get_future();
     _preparedUrl = url.isLocalFile() ? url : QUrl();
     _firstPicture = {_preparedUrl, decoded.get_future()};
-    _preparer = std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = std::move(decoded)]() mutable {
-        AvLibrary::get();
-        probed.set_value(url.isEmpty() ? ProbeResult{} : probeMovie(url, localTimeout, _cancelled));
-        decoded.set_value(url.isEmpty() ? nullptr : FirstPicture::decode(url, _cancelled));
-    });
+    _preparer =
+        std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = std::move(decoded)]() mutable {
+            AvLibrary::get();
+            probed.set_value(url.isEmpty() ? ProbeResult{} : probeMovie(url, localTimeout, _cancelled));
+            decoded.set_value(url.isEmpty() ? nullptr : FirstPicture::decode(url, _cancelled));
+        });
 }
 
 void MpvToolkit::enter() {
@@ -61,7 +64,9 @@ void MpvToolkit::exit() {
     _player.dropCore();
 }
 
-MoviePlayer& MpvToolkit::player() { return _player; }
+MoviePlayer& MpvToolkit::player() {
+    return _player;
+}
 
 std::optional<MovieInfo> MpvToolkit::open(const QUrl& url) {
     ProbeResult result;

@@ -18,12 +18,12 @@ public:
     MpvToolkit();
     ~MpvToolkit() override;
 
-    /// Starts to load the libraries on a thread and, with a URL, to open it and decode its first picture: what the first open() and load will ask
-    /// for. Needs no application object yet; call it as early as possible.
+    /// Starts to load the libraries on a thread and, with a URL, to open it and decode its first picture: what the
+    /// first open() and load will ask for. Needs no application object yet; call it as early as possible.
     void prepare(const QUrl& url);
 
-    /// enter() needs the application object: the player's core is made on a thread from here on. Before it and after exit() the player takes
-    /// what it is asked, and plays nothing.
+    /// enter() needs the application object: the player's core is made on a thread from here on. Before it and after
+    /// exit() the player takes what it is asked, and plays nothing.
     void enter() override;
     void exit() override;
     std::optional<MovieInfo> open(const QUrl& url) override;

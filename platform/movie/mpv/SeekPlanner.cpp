@@ -35,6 +35,8 @@ std::optional<SeekPlanner::Seek> SeekPlanner::done() {
     return Seek{*std::exchange(_refine, std::nullopt), Kind::exact};
 }
 
-void SeekPlanner::reset() { *this = SeekPlanner(); }
+void SeekPlanner::reset() {
+    *this = SeekPlanner();
+}
 
 } // namespace platform

@@ -5,8 +5,9 @@
 
 namespace platform {
 
-/// Decides which seek to send next, one at a time: the keyframe before a new place first, so that a picture of it stands at once, then the
-/// exact place. Places asked for while a seek is under way replace each other, so that a dragged slider builds up no backlog.
+/// Decides which seek to send next, one at a time: the keyframe before a new place first, so that a picture of it
+/// stands at once, then the exact place. Places asked for while a seek is under way replace each other, so that a
+/// dragged slider builds up no backlog.
 class SeekPlanner {
 public:
     enum class Kind { keyframe, exact };

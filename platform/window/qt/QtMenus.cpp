@@ -21,8 +21,7 @@ MenuItem* itemWithShortcut(Menu& menu, const QKeySequence& keys) {
         if (item.submenu) {
             if (MenuItem* found = itemWithShortcut(*item.submenu, keys))
                 return found;
-        } else if (!item.shortcut.isEmpty() &&
-                   QKeySequence(item.shortcut, QKeySequence::PortableText) == keys) {
+        } else if (!item.shortcut.isEmpty() && QKeySequence(item.shortcut, QKeySequence::PortableText) == keys) {
             return &item;
         }
     }
@@ -63,7 +62,8 @@ void QtMenus::fill(QMenu& menu, Menu& model) {
         action->setEnabled(enabled);
         action->setCheckable(item.state);
         action->setChecked(item.state);
-        QObject::connect(action, &QAction::triggered, action, [this, copy = copyOf(item)] { _target.performMenuItem(copy); });
+        QObject::connect(action, &QAction::triggered, action,
+                         [this, copy = copyOf(item)] { _target.performMenuItem(copy); });
     }
 }
 
@@ -83,7 +83,9 @@ void QtMenus::popUp(QPoint globalPosition) {
     _contextMenu->popup(globalPosition);
 }
 
-bool QtMenus::isBarShown() const { return _bar && _bar->isVisible(); }
+bool QtMenus::isBarShown() const {
+    return _bar && _bar->isVisible();
+}
 
 void QtMenus::pointerMoved(QPoint position) {
     if (position.y() <= barReach) {
@@ -116,7 +118,9 @@ void QtMenus::showBar() {
     _bar->show();
 }
 
-void QtMenus::hideBar() { _bar->hide(); }
+void QtMenus::hideBar() {
+    _bar->hide();
+}
 
 bool QtMenus::performShortcut(const QKeySequence& keys, bool isRepeat) {
     MenuItem* item = itemWithShortcut(_menu, keys);

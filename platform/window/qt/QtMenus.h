@@ -16,8 +16,8 @@ class Menu;
 class MenuTarget;
 struct MenuItem;
 
-/// Presents a menu model over a window: as a menu bar that shows while the pointer is at the top, as a context menu, and
-/// through its shortcuts. The visible menus are made from the model when they open.
+/// Presents a menu model over a window: as a menu bar that shows while the pointer is at the top, as a context menu,
+/// and through its shortcuts. The visible menus are made from the model when they open.
 class QtMenus {
 public:
     QtMenus(QWindow& window, Menu& menu, MenuTarget& target);
@@ -28,8 +28,8 @@ public:
     void popUp(QPoint globalPosition);
     /// The pointer moved in the window (its coordinates, origin top left).
     void pointerMoved(QPoint position);
-    /// Performs the enabled item with the shortcut; true when there is one. Automatic repeats of a held key are taken without
-    /// effect.
+    /// Performs the enabled item with the shortcut; true when there is one. Automatic repeats of a held key are taken
+    /// without effect.
     bool performShortcut(const QKeySequence& keys, bool isRepeat);
     bool isBarShown() const;
 

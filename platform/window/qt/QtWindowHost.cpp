@@ -38,13 +38,16 @@ bool isSoftwareRenderer(const QByteArray& name) {
 
 /// Asking OpenGL who it is takes a tenth of a second where there is no hardware, so that is looked for first.
 bool hasGraphicsDevice() {
-    return !QDir(QStringLiteral("/dev/dri")).entryList({QStringLiteral("renderD*")}, QDir::System | QDir::Files).isEmpty() ||
+    return !QDir(QStringLiteral("/dev/dri"))
+                .entryList({QStringLiteral("renderD*")}, QDir::System | QDir::Files)
+                .isEmpty() ||
            QFile::exists(QStringLiteral("/dev/nvidiactl"));
 }
 
 } // namespace
 
-/// The window's OpenGL context. Before the window exists, and for what is not painting, it is current on a surface of its own.
+/// The window's OpenGL context. Before the window exists, and for what is not painting, it is current on a surface of
+/// its own.
 class QtWindowHost::OpenGL final : public GLContext {
 public:
     bool create() {
@@ -85,7 +88,9 @@ QtWindowHost::~QtWindowHost() {
     _root.setHost(nullptr);
 }
 
-void QtWindowHost::setMainMenu(Menu& menu, MenuTarget& target) { _menus = std::make_unique<QtMenus>(*this, menu, target); }
+void QtWindowHost::setMainMenu(Menu& menu, MenuTarget& target) {
+    _menus = std::make_unique<QtMenus>(*this, menu, target);
+}
 
 bool QtWindowHost::chooseOpenGL(Renderer renderer) {
     if (renderer == Renderer::software || (renderer == Renderer::automatic && !hasGraphicsDevice()))
@@ -94,7 +99,8 @@ bool QtWindowHost::chooseOpenGL(Renderer renderer) {
     if (!openGL->create() || (renderer == Renderer::automatic && isSoftwareRenderer(openGL->rendererName())))
         return false;
     bool taken = true;
-    forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
+    forEachPicture(_root.contentView(),
+                   [&](PictureLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
     if (!taken) {
         forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
         return false;
@@ -180,7 +186,9 @@ void QtWindowHost::displayNeeded(const QRectF& rect) {
 
 // Painting
 
-QSize QtWindowHost::pixelSize() const { return (QSizeF(size()) * devicePixelRatio()).toSize(); }
+QSize QtWindowHost::pixelSize() const {
+    return (QSizeF(size()) * devicePixelRatio()).toSize();
+}
 
 void QtWindowHost::schedulePaint() {
     // Posted, not painted at once, so that everything that changes in one pass of the event loop is painted together.
@@ -235,7 +243,8 @@ void QtWindowHost::paintSoftware(const QRegion& marked) {
 
     QRegion points;
     for (const QRect& rect : dirty)
-        points += QRectF(rect.x() / ratio, rect.y() / ratio, rect.width() / ratio, rect.height() / ratio).toAlignedRect();
+        points +=
+            QRectF(rect.x() / ratio, rect.y() / ratio, rect.width() / ratio, rect.height() / ratio).toAlignedRect();
     _backingStore->beginPaint(points);
     QPaintDevice* device = _backingStore->paintDevice();
     auto* image = device->devType() == QInternal::Image ? static_cast<QImage*>(device) : nullptr;
@@ -294,7 +303,9 @@ void QtWindowHost::paintOpenGL() {
     context.swapBuffers(this);
 }
 
-void QtWindowHost::drawOver(QPainter& painter, const QRegion& dirty) { drawViews(painter, _root.contentView(), dirty); }
+void QtWindowHost::drawOver(QPainter& painter, const QRegion& dirty) {
+    drawViews(painter, _root.contentView(), dirty);
+}
 
 void QtWindowHost::drawViews(QPainter& painter, const View& view, const QRegion& dirty) {
     const QSizeF content = _root.frame().size();
@@ -395,7 +406,9 @@ void QtWindowHost::mousePressEvent(QMouseEvent* event) {
     _root.dispatchMouseDown(translated);
 }
 
-void QtWindowHost::mouseReleaseEvent(QMouseEvent* event) { _root.dispatchMouseUp(mouseEvent(*event)); }
+void QtWindowHost::mouseReleaseEvent(QMouseEvent* event) {
+    _root.dispatchMouseUp(mouseEvent(*event));
+}
 
 void QtWindowHost::mouseMoveEvent(QMouseEvent* event) {
     setPointerHidden(false);
@@ -408,9 +421,13 @@ void QtWindowHost::mouseMoveEvent(QMouseEvent* event) {
         _root.dispatchMouseMoved(translated);
 }
 
-void QtWindowHost::focusInEvent(QFocusEvent*) { _root.setKey(true); }
+void QtWindowHost::focusInEvent(QFocusEvent*) {
+    _root.setKey(true);
+}
 
-void QtWindowHost::focusOutEvent(QFocusEvent*) { _root.setKey(false); }
+void QtWindowHost::focusOutEvent(QFocusEvent*) {
+    _root.setKey(false);
+}
 
 bool QtWindowHost::dragEvent(QDropEvent& event, QEvent::Type type) {
     const DraggingInfo info = qtEvents::draggingInfo(event);

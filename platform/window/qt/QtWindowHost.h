@@ -27,15 +27,16 @@ class Window;
 /// Which way pictures come to the screen. Automatic takes OpenGL where hardware draws it, else software.
 enum class Renderer { automatic, software, openGL };
 
-/// Shows a root window in one frameless native window. It paints, in order, the root's background, the picture, the content's views and the
-/// windows above; with the software renderer the picture goes straight into the window's own pixels. Nothing is painted while nothing was
-/// marked for display.
+/// Shows a root window in one frameless native window. It paints, in order, the root's background, the picture, the
+/// content's views and the windows above; with the software renderer the picture goes straight into the window's own
+/// pixels. Nothing is painted while nothing was marked for display.
 class QtWindowHost final : public QWindow, public WindowHost {
 public:
     QtWindowHost(platform::Window& root, Renderer renderer);
     ~QtWindowHost() override;
 
-    /// The menu bar, shown while the pointer is at the top of the screen and as a context menu; its shortcuts act at any time.
+    /// The menu bar, shown while the pointer is at the top of the screen and as a context menu; its shortcuts act at
+    /// any time.
     void setMainMenu(Menu& menu, MenuTarget& target);
 
     /// How many times the window was painted (measurements).
