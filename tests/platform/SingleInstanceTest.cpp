@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop/linux/SingleInstance.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <functional>
+#include <future>
+#include <vector>
+
+using platform::HandOver;
+using platform::SingleInstance;
+
+namespace {
+
+class SingleInstanceTest : public testing::Test {
+protected:
+    static bool waitFor(const std::function<bool()>& done) {
+        const QDeadlineTimer deadline(10000);
+        QTimer wake; // what is waited for may come without an event
+        wake.start(2);
+        while (!done() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        return done();
+    }
+    bool listens(SingleInstance& instance) {
+        return instance.listen([this](const HandOver& message) { received.push_back(message); });
+    }
+    /// A second launch, which waits for its answer while this one runs its event loop.
+    bool handOver(const HandOver& message) {
+        auto launch = std::async(std::launch::async, [&] { return SingleInstance(path).handOver(message); });
+        waitFor([&] { return launch.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+        return launch.get();
+    }
+    /// A connection to the socket that says the bytes and waits.
+    int connected(const QByteArray& bytes) const {
+        const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        const QByteArray place = QFile::encodeName(path);
+        std::memcpy(address.sun_path, place.constData(), static_cast<std::size_t>(place.size()));
+        EXPECT_EQ(::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+        EXPECT_EQ(::send(socket, bytes.constData(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL),
+                  bytes.size());
+        return socket;
+    }
+
+    int argumentCount = 1;
+    char name[5] = "test";
+    char* arguments[2] = {name, nullptr};
+    QCoreApplication application{argumentCount, arguments};
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("player.socket"));
+    std::vector<HandOver> received;
+};
+
+} // namespace
+
+TEST_F(SingleInstanceTest, a_second_launch_hands_its_files_to_the_first) {
+    EXPECT_FALSE(SingleInstance(path).isTaken());
+    EXPECT_FALSE(SingleInstance(path).handOver({false, {QStringLiteral("/a")}}));
+    {
+        SingleInstance first(path);
+        ASSERT_TRUE(listens(first));
+        EXPECT_TRUE(SingleInstance(path).isTaken());
+        SingleInstance second(path);
+        EXPECT_FALSE(listens(second));
+
+        HandOver many{false, {}};
+        for (int i = 0; i < 20000; ++i)
+            many.files.append(QStringLiteral("/movies/a rather long name of a movie %1.mp4").arg(i));
+        const std::vector<HandOver> messages = {
+            {true, {QString::fromUtf8("/ü %1 #.mp4"), QStringLiteral("http://x/y"), QStringLiteral("line\nbreak")}},
+            {false, {}},
+            many,
+        };
+        for (const HandOver& message : messages)
+            EXPECT_TRUE(handOver(message));
+        EXPECT_EQ(received, messages);
+    }
+    EXPECT_FALSE(SingleInstance(path).isTaken());
+    EXPECT_FALSE(QFileInfo::exists(path));
+    SingleInstance next(path);
+    EXPECT_TRUE(listens(next)) << "the next one follows the first";
+}
+
+TEST_F(SingleInstanceTest, what_a_crash_left_behind_is_in_nobodys_way) {
+    for (const char* suffix : {"", ".lock"}) {
+        QFile left(path + QString::fromLatin1(suffix));
+        ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    }
+    EXPECT_FALSE(SingleInstance(path).isTaken());
+    SingleInstance instance(path);
+    ASSERT_TRUE(listens(instance));
+    EXPECT_TRUE(handOver({false, {QStringLiteral("/a")}}));
+}
+
+TEST_F(SingleInstanceTest, clients_that_misbehave_keep_nobody_out) {
+    SingleInstance instance(path);
+    ASSERT_TRUE(listens(instance));
+    std::vector<int> sockets;
+    for (int i = 0; i < 40; ++i) { // more than are kept at once
+        sockets.push_back(connected(i % 2 == 0 ? QByteArray() : QByteArray("\0\0\0\x20rep", 7)));
+        QCoreApplication::processEvents(); // the listener's queue is short
+    }
+    const int huge = connected(QByteArray("\x7f\xff\xff\xff garbage", 12));
+    const int gone = connected(QByteArray("\0\0\0\x20rep", 7));
+    ::close(gone);
+    // Refused: the connection ends without an answer.
+    char answer = 0;
+    ssize_t count = -1;
+    EXPECT_TRUE(waitFor([&] { return (count = ::recv(huge, &answer, 1, MSG_DONTWAIT)) >= 0 || errno == ECONNRESET; }));
+    EXPECT_LE(count, 0);
+    EXPECT_TRUE(handOver({true, {QStringLiteral("/good")}}));
+    EXPECT_EQ(received, (std::vector<HandOver>{{true, {QStringLiteral("/good")}}}));
+    for (const int socket : sockets)
+        ::close(socket);
+    ::close(huge);
+}
+
+TEST_F(SingleInstanceTest, a_place_where_no_socket_can_be_made_leaves_every_launch_alone) {
+    for (const QString& place :
+         {QString(), QStringLiteral("/nowhere/player.socket"), folder.filePath(QString(200, u'x'))}) {
+        SingleInstance instance(place);
+        EXPECT_FALSE(instance.isTaken());
+        EXPECT_FALSE(instance.handOver({false, {QStringLiteral("/a")}}));
+        EXPECT_FALSE(listens(instance));
+    }
+}
