@@ -2,6 +2,7 @@
 #include "control/QVMovieController.h"
 
 #include "app/context/MainWindow.h"
+#include "app/context/Notifications.h"
 #include "app/context/QVAppContext.h"
 #include "app/settings/QVUserDefaults.h"
 #include "app/settings/SettingsKeys.h"
@@ -13,7 +14,6 @@
 #include "platform/base/Localization.h"
 #include "platform/desktop/Desktop.h"
 #include "playback/QVMovieView.h"
-#include "playback/QVPlaylistMovieChangedNotification.h"
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
 

@@ -2,12 +2,12 @@
 // The movie controller's menus: the items' actions and states, and the items that follow the playlist and the movie.
 #include "control/QVMovieController.h"
 
+#include "app/context/Notifications.h"
 #include "app/context/QVAppContext.h"
 #include "platform/base/Localization.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
-#include "playback/QVPlaylistMovieChangedNotification.h"
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
 

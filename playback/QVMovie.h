@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/context/Notifications.h"
 #include "platform/movie/Movie.h"
 #include "subtitles/QVSubtitles.h"
 
@@ -12,16 +13,6 @@
 #include <vector>
 
 class QVMovie;
-
-/// The movie played to its end.
-struct QVMovieCompleteNotification {
-    std::shared_ptr<QVMovie> movie;
-};
-
-/// A picture is due, the time jumped, or setTime() moved it.
-struct QVMovieInterestingTimeNotification {
-    std::shared_ptr<QVMovie> movie;
-};
 
 /// One open movie as the player sees it: times, frame count and rate, ordering, and the subtitle tracks found beside
 /// it. Times are counts of units of the movie's time scale. Main thread.

@@ -2,6 +2,7 @@
 #include "playback/QVMovieView.h"
 
 #include "app/context/CommandTarget.h"
+#include "app/context/Notifications.h"
 #include "app/context/QVAppContext.h"
 #include "app/settings/QVUserDefaults.h"
 #include "app/settings/SettingsKeys.h"
@@ -12,7 +13,6 @@
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Window.h"
 #include "playback/QVMovie.h"
-#include "playback/QVPlaylistMovieChangedNotification.h"
 
 #include <utility>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/context/Notifications.h"
 #include "app/settings/QVPreferencesChangedNotification.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
@@ -12,16 +13,6 @@
 
 class QVMovie;
 class QVMovieView;
-struct QVPlaylistMovieChangedNotification;
-
-/// The picture's size or place changed.
-struct QVMovieViewSizeChangedNotification {
-    QVMovieView* view;
-};
-
-struct QVMovieVolumeChangedNotification {
-    QVMovieView* view;
-};
 
 /// Takes what is dragged onto the movie (the application controller).
 class DropTarget {

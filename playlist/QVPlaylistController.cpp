@@ -2,6 +2,7 @@
 #include "playlist/QVPlaylistController.h"
 
 #include "app/context/CommandTarget.h"
+#include "app/context/Notifications.h"
 #include "app/context/QVAppContext.h"
 #include "app/settings/QVUserDefaults.h"
 #include "app/settings/SettingsKeys.h"
@@ -14,7 +15,6 @@
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
-#include "playback/QVPlaylistMovieChangedNotification.h"
 
 #include <QDir>
 

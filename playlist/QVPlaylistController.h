@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/context/Notifications.h"
 #include "app/settings/QVPreferencesChangedNotification.h"
 #include "platform/base/NotificationCenter.h"
 #include "playlist/Arrangement.h"
@@ -17,16 +18,6 @@
 
 class QVMovie;
 class QVPlaylistController;
-struct QVMovieCompleteNotification;
-
-/// An add kept at least one movie.
-struct QVPlaylistChangedNotification {
-    std::vector<std::shared_ptr<QVMovie>> movies;
-};
-
-struct QVPlaylistLoopingChangedNotification {
-    QVPlaylistController* playlist;
-};
 
 /// The position that means none.
 inline constexpr std::uint32_t NSNotFound = 0x7FFFFFFF;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "playback/QVPlaylistMovieChangedNotification.h"
+#include "app/context/Notifications.h"
 #include "tests/control/ControllerFixture.h"
 
 namespace {

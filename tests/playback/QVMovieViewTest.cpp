@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/QVMovieView.h"
 
+#include "app/context/Notifications.h"
 #include "app/settings/SettingsKeys.h"
 #include "overlays/QVFeedbackOverlay.h"
-#include "playback/QVPlaylistMovieChangedNotification.h"
 #include "tests/support/PlaybackRig.h"
 
 #include <gtest/gtest.h>

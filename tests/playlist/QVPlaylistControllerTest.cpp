@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlist/QVPlaylistController.h"
 
+#include "app/context/Notifications.h"
 #include "app/settings/SettingsKeys.h"
 #include "app/settings/Tracing.h"
-#include "playback/QVPlaylistMovieChangedNotification.h"
 #include "tests/support/CapturedLog.h"
 #include "tests/support/PlaybackRig.h"
 

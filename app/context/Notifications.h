@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <vector>
+
+class QVMovie;
+class QVMovieView;
+class QVPlaylistController;
+class QVSubtitles;
+
+// The notifications by which the components meet. All are posted and delivered on the main thread. They stand here,
+// below the components, so that what is drawn over the movie can follow them without knowing who posts them.
+
+/// The movie played to its end.
+struct QVMovieCompleteNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
+/// A picture is due, the time jumped, or the movie's setTime() moved it.
+struct QVMovieInterestingTimeNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
+/// The picture's size or place changed.
+struct QVMovieViewSizeChangedNotification {
+    QVMovieView* view;
+};
+
+struct QVMovieVolumeChangedNotification {
+    QVMovieView* view;
+};
+
+/// An add kept at least one movie.
+struct QVPlaylistChangedNotification {
+    std::vector<std::shared_ptr<QVMovie>> movies;
+};
+
+/// Posted by the playlist each time a position is set, with the movie that is now the current one.
+struct QVPlaylistMovieChangedNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
+struct QVPlaylistLoopingChangedNotification {
+    QVPlaylistController* playlist;
+};
+
+/// Another subtitle track was selected, or the display of subtitles was switched.
+struct QVSubtitlesChangedNotification {
+    std::shared_ptr<QVSubtitles> current;
+};
