@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/FirstPicture.h"
+
+#include "tests/toolkit/ToolkitRig.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::filesystem::path pattern(const std::string& name, const std::string& size,
+                              const std::vector<std::string>& encoder) {
+    std::vector<std::string> arguments{"-f", "lavfi", "-i", "testsrc2=s=" + size + ":r=25:d=1"};
+    arguments.insert(arguments.end(), encoder.begin(), encoder.end());
+    return media().make(name, arguments);
+}
+
+} // namespace
+
+TEST(FirstPicture, is_the_one_that_the_player_shows_first) {
+    const std::filesystem::path paths[] = {
+        pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}),
+        pattern("large.mp4", "1280x720", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}),
+        pattern("full.mp4", "640x360", {"-c:v", "libx264", "-vf", "scale=out_range=full,format=yuvj420p"}),
+        pattern(
+            "told.mkv", "640x360",
+            {"-vf", "scale=out_color_matrix=bt709", "-colorspace", "bt709", "-c:v", "libx264", "-pix_fmt", "yuv444p"}),
+        pattern("old.avi", "640x360", {"-c:v", "mpeg4", "-q:v", "2"}),
+        pattern("web.webm", "640x360", {"-c:v", "libvpx-vp9", "-deadline", "realtime", "-cpu-used", "8"}),
+    };
+    for (const std::filesystem::path& path : paths) {
+        ToolkitRig rig;
+        const std::atomic<bool> cancelled{false};
+        const auto first = platform::FirstPicture::decode(urlOf(path), cancelled);
+        ASSERT_TRUE(first) << path;
+        RenderedPicture expected(rig.screen.size());
+        ASSERT_TRUE(first->render(expected.size(), expected.pixels(), expected.stride()));
+        const auto movie = rig.open(urlOf(path));
+        ASSERT_TRUE(movie) << path;
+        rig.player().load(movie.get());
+        EXPECT_TRUE(rig.waitFor([&] { return rig.screen.differenceTo(expected) < 3; }))
+            << path << ": " << rig.screen.differenceTo(expected);
+    }
+}
+
+TEST(FirstPicture, is_left_to_the_player_where_it_is_not_simple) {
+    const std::atomic<bool> cancelled{false};
+    const auto rotated =
+        media().make("turned.mp4", {"-i", pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}),
+                                    "-c", "copy", "-metadata:s:v:0", "rotate=90"});
+    EXPECT_FALSE(platform::FirstPicture::decode(urlOf(rotated), cancelled));
+    const auto sound = media().make("sound.mp3", {"-f", "lavfi", "-i", "sine=d=1"});
+    EXPECT_FALSE(platform::FirstPicture::decode(urlOf(sound), cancelled));
+    EXPECT_FALSE(platform::FirstPicture::decode(urlOf("/nowhere.mp4"), cancelled));
+}
