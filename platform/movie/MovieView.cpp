@@ -147,6 +147,10 @@ void MovieView::draw(QPainter& painter, const QRectF& dirty) {
     painter.restore();
 }
 
+QRectF MovieView::drawnRect() const {
+    return _controllerVisible ? controllerRect() : QRectF();
+}
+
 PictureLayer* MovieView::pictureLayer() {
     return _player.pictureLayer(); // also without a movie: the host prepares it before there is one
 }

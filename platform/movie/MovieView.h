@@ -54,6 +54,7 @@ public:
     bool handleMovieKey(const KeyEvent& event);
 
     void draw(QPainter& painter, const QRectF& dirty) override;
+    QRectF drawnRect() const override;
     PictureLayer* pictureLayer() override;
     QRectF pictureRect() const override;
     bool mouseDown(const MouseEvent& event) override;

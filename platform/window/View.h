@@ -62,6 +62,8 @@ public:
     /// Draws the part `dirty` (own coordinates). The painter's origin is the view's top left corner with y growing
     /// downwards, as Qt draws; its clip is set. Called only where something is marked for redisplay.
     virtual void draw(QPainter& painter, const QRectF& dirty);
+    /// The part (own coordinates) that draw() draws into: nothing outside it is asked for.
+    virtual QRectF drawnRect() const { return bounds(); }
     /// The picture that the host puts into pictureRect() (own coordinates) before draw(), or null.
     virtual PictureLayer* pictureLayer() { return nullptr; }
     virtual QRectF pictureRect() const { return QRectF(); }

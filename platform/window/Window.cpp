@@ -57,9 +57,9 @@ void Window::setFrame(const QRectF& frame) {
         return;
     const QRectF old = std::exchange(_frame, frame);
     const bool resized = old.size() != frame.size();
-    if (_parent && _orderedIn) {
-        _parent->displayNeeded(old.translated(-_parent->_frame.topLeft()));
-        _parent->displayNeeded(frame.translated(-_parent->_frame.topLeft()));
+    if (_parent && _orderedIn && _alpha > 0) {
+        _parent->compose(old.translated(-_parent->_frame.topLeft()));
+        _parent->compose(frame.translated(-_parent->_frame.topLeft()));
     }
     // Children keep their place above their parent.
     const QPointF moved = frame.topLeft() - old.topLeft();
@@ -84,11 +84,12 @@ void Window::setAlphaValue(float alpha) {
     const float clamped = alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
     if (clamped == _alpha)
         return;
+    // Composed anew from its cached picture: the content is the same.
+    composeWhole();
     _alpha = clamped;
+    composeWhole();
     if (_host)
         _host->alphaChanged();
-    else
-        displayNeeded(_contentView.bounds());
 }
 
 void Window::setBackgroundColor(const QColor& color) {
@@ -113,14 +114,14 @@ void Window::orderFront() {
     if (_host)
         _host->orderedChanged();
     else
-        displayNeeded(_contentView.bounds());
+        composeWhole();
 }
 
 void Window::orderOut() {
     if (!_orderedIn)
         return;
     if (!_host)
-        displayNeeded(_contentView.bounds());
+        composeWhole();
     _orderedIn = false;
     if (_host)
         _host->orderedChanged();
@@ -144,13 +145,13 @@ void Window::addChildWindow(Window& child) {
         child._parent->removeChildWindow(child);
     _children.push_back(&child);
     child._parent = this;
-    child.displayNeeded(child._contentView.bounds());
+    child.composeWhole();
 }
 
 void Window::removeChildWindow(Window& child) {
     if (child._parent != this)
         return;
-    child.displayNeeded(child._contentView.bounds());
+    child.composeWhole();
     std::erase(_children, &child);
     child._parent = nullptr;
 }
@@ -213,13 +214,24 @@ void Window::setKey(bool key) {
 }
 
 void Window::displayNeeded(const QRectF& rect) {
+    if (rect.intersected(_contentView.bounds()).isEmpty())
+        return;
+    ++_contentRevision;
+    compose(rect);
+}
+
+void Window::compose(const QRectF& rect) {
     const QRectF visible = rect.intersected(_contentView.bounds());
     if (visible.isEmpty())
         return;
     if (_host)
         _host->displayNeeded(visible);
-    else if (_parent && _orderedIn)
-        _parent->displayNeeded(visible.translated(_frame.topLeft() - _parent->_frame.topLeft()));
+    else if (_parent && _orderedIn && _alpha > 0)
+        _parent->compose(visible.translated(_frame.topLeft() - _parent->_frame.topLeft()));
+}
+
+void Window::composeWhole() {
+    compose(_contentView.bounds());
 }
 
 bool Window::keyDown(const KeyEvent&) {

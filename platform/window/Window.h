@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QRectF>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -97,6 +98,9 @@ public:
     void setKey(bool key);
 
     void displayNeeded(const QRectF& rect) override;
+    /// Counts the changes of what the content draws: a host that kept a picture of it can tell whether it still holds.
+    /// Moving or fading a window does not change its content.
+    std::uint64_t contentRevision() const { return _contentRevision; }
 
 protected:
     /// Reached by keys that no view took.
@@ -110,6 +114,9 @@ protected:
 
 private:
     void forgetView(const View& view) override;
+    /// Has a part of the window (content coordinates) put onto the screen anew, its content unchanged.
+    void compose(const QRectF& rect);
+    void composeWhole();
 
     struct TrackingArea {
         int tag;
@@ -119,6 +126,7 @@ private:
     void trackPointer(QPointF location, bool insideWindow);
 
     QRectF _frame;
+    std::uint64_t _contentRevision = 0;
     float _alpha = 1.0F;
     QColor _backgroundColor;
     int _level = windowLevel::normal;

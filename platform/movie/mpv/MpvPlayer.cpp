@@ -132,7 +132,11 @@ void MpvPlayer::load(Movie* movie) {
     _scrubTimer.reset();
     _keyframeTimer.reset();
     _fileLoaded = false;
+    _failed = false;
+    _failureTimer.reset();
     _atEnd = false;
+    _jumpToReport = false;
+    _stepsWaiting = 0;
     _seekInFlight = false;
     _seeks.reset();
     _seeks.hold();
@@ -197,6 +201,13 @@ void MpvPlayer::fileFailed(int error) {
         return;
     Log::write(QStringLiteral("ERROR: MpvPlayer: Can't play %1: %2")
                    .arg(_movie->url().toString(), QString::fromUtf8(MpvLibrary::get()->mpv_error_string(error))));
+    _failed = true;
+    endFailed();
+}
+
+void MpvPlayer::endFailed() {
+    if (!_failed || _rate <= 0)
+        return;
     _failureTimer = RunLoop::main().schedule(failureDelay, false, [this] {
         if (_rate > 0)
             reachedEnd();
@@ -236,6 +247,7 @@ void MpvPlayer::setRate(float rate) {
     if (_rate != 0 && !isScrubbing())
         _holdsTime = false;
     applyMotion();
+    endFailed();
     if (_observer)
         _observer->playerStateChanged();
 }
@@ -294,6 +306,7 @@ void MpvPlayer::seek(std::int32_t time, JumpReport report) {
         time = std::clamp(time, 0, _movie->duration());
     _time = std::max(time, 0);
     _holdsTime = true;
+    _stepsWaiting = 0;
     if (isScrubbing())
         _scrubPosition = toSeconds(_time);
     if (const auto next = _seeks.request(toSeconds(_time), SeekPlanner::Precision::exact, _movie->info().hasVideo))
@@ -320,9 +333,21 @@ void MpvPlayer::step(int direction) {
     if (!_movie || !_movie->info().hasVideo)
         return;
     setRate(0);
+    // Sent while the core seeks, a step would play on to the end.
+    _stepsWaiting += direction > 0 ? 1 : -1;
+    if (!_seeks.isBusy())
+        sendSteps();
+}
+
+void MpvPlayer::sendSteps() {
+    if (_stepsWaiting == 0)
+        return;
     _holdsTime = false;
     _jumpToReport = true;
-    command({direction > 0 ? "frame-step" : "frame-back-step"});
+    for (; _stepsWaiting > 0; --_stepsWaiting)
+        command({"frame-step"});
+    for (; _stepsWaiting < 0; ++_stepsWaiting)
+        command({"frame-back-step"});
 }
 
 // What the core reports
@@ -404,6 +429,8 @@ void MpvPlayer::seekDone() {
     applyMotion();
     if (_atEnd && _rate > 0)
         reachedEnd();
+    else if (_rate == 0)
+        sendSteps();
 }
 
 void MpvPlayer::timeChanged(double seconds) {

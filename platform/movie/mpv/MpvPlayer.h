@@ -68,6 +68,8 @@ private:
     void handleEvents();
     void handle(const mpv_event& event);
     void fileFailed(int error);
+    /// A movie that cannot be played is at its end as soon as it is to play.
+    void endFailed();
     void playbackRestarted();
     void timeChanged(double seconds);
     void endChanged(bool atEnd);
@@ -80,6 +82,7 @@ private:
     void setNumber(const char* property, double value);
     void sendLoad();
     void send(const SeekPlanner::Seek& seek);
+    void sendSteps();
     /// Brings the core's pause and speed to what is wanted.
     void applyMotion();
     bool isScrubbing() const { return _scrubTimer != nullptr; }
@@ -115,7 +118,9 @@ private:
     bool _pictureSinceSeek = false;
     std::unique_ptr<Timer> _keyframeTimer;
     std::unique_ptr<Timer> _failureTimer;
+    bool _failed = false;
     bool _atEnd = false;
+    int _stepsWaiting = 0; // for the seek under way
     bool _jumpToReport = false;
     bool _holdsTime = false; // time() is what was asked for, until pictures move on from there
 

@@ -22,6 +22,9 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <xcb/xcb.h>
+
+#include <cstdlib>
 #include <utility>
 
 namespace platform {
@@ -42,6 +45,23 @@ bool hasGraphicsDevice() {
                 .entryList({QStringLiteral("renderD*")}, QDir::System | QDir::Files)
                 .isEmpty() ||
            QFile::exists(QStringLiteral("/dev/nvidiactl"));
+}
+
+/// Opacity of a window does something only where a compositing manager runs.
+bool windowSystemFades() {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!x11)
+        return false;
+    constexpr char name[] = "_NET_WM_CM_S0";
+    xcb_connection_t* connection = x11->connection();
+    const auto freed = [](void* reply) { std::free(reply); };
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(freed)> atom(
+        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, sizeof(name) - 1, name), nullptr), freed);
+    if (!atom || atom->atom == XCB_ATOM_NONE)
+        return false;
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(freed)> owner(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr), freed);
+    return owner && owner->owner != XCB_WINDOW_NONE;
 }
 
 } // namespace
@@ -68,7 +88,8 @@ private:
 };
 
 QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
-    : _root(root) {
+    : _root(root)
+    , _composer(root) {
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     setTitle(QCoreApplication::applicationName());
     if (chooseOpenGL(renderer)) {
@@ -84,7 +105,7 @@ QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
 
 QtWindowHost::~QtWindowHost() {
     if (_openGL)
-        forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
+        _composer.forEachPicture(devicePixelRatio(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
     _root.setHost(nullptr);
 }
 
@@ -99,10 +120,10 @@ bool QtWindowHost::chooseOpenGL(Renderer renderer) {
     if (!openGL->create() || (renderer == Renderer::automatic && isSoftwareRenderer(openGL->rendererName())))
         return false;
     bool taken = true;
-    forEachPicture(_root.contentView(),
-                   [&](PictureLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
+    _composer.forEachPicture(devicePixelRatio(),
+                             [&](PictureLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
     if (!taken) {
-        forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
+        _composer.forEachPicture(devicePixelRatio(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
         return false;
     }
     _openGL = std::move(openGL);
@@ -136,8 +157,11 @@ void QtWindowHost::frameChanged() {
 }
 
 void QtWindowHost::alphaChanged() {
-    // Where a compositor takes it, the window system fades the window; else paint() does.
-    setOpacity(static_cast<double>(_root.alphaValue()));
+    // Where a compositor takes it, the window system fades the window; else its content is darkened.
+    const bool fades = windowSystemFades();
+    _composer.setPaintsAlpha(!fades);
+    if (fades)
+        setOpacity(static_cast<double>(_root.alphaValue()));
     orderedChanged();
     displayNeeded(_root.contentView().bounds());
 }
@@ -186,6 +210,17 @@ void QtWindowHost::displayNeeded(const QRectF& rect) {
 
 // Painting
 
+QRegion QtWindowHost::toPoints(const QRegion& pixels) const {
+    const double ratio = devicePixelRatio();
+    if (ratio == 1)
+        return pixels;
+    QRegion points;
+    for (const QRect& rect : pixels)
+        points +=
+            QRectF(rect.x() / ratio, rect.y() / ratio, rect.width() / ratio, rect.height() / ratio).toAlignedRect();
+    return points;
+}
+
 QSize QtWindowHost::pixelSize() const {
     return (QSizeF(size()) * devicePixelRatio()).toSize();
 }
@@ -208,69 +243,36 @@ void QtWindowHost::paint() {
         paintSoftware(dirty);
 }
 
-void QtWindowHost::forEachPicture(const View& view, const std::function<void(PictureLayer&, const QRect&)>& visit) {
-    for (View* child : view.subviews()) {
-        if (PictureLayer* layer = child->pictureLayer()) {
-            visit(*layer, sceneGeometry::toPixels(child->convertToWindow(child->pictureRect()), _root.frame().size(),
-                                                  devicePixelRatio()));
-        }
-        forEachPicture(*child, visit);
-    }
-}
-
 void QtWindowHost::skipPictures() {
-    forEachPicture(_root.contentView(), [](PictureLayer& layer, const QRect&) { layer.skip(); });
+    _composer.forEachPicture(devicePixelRatio(), [](PictureLayer& layer, const QRect&) { layer.skip(); });
 }
 
 void QtWindowHost::paintSoftware(const QRegion& marked) {
-    const double ratio = devicePixelRatio();
     const QRect whole(QPoint(0, 0), pixelSize());
     QRegion dirty = marked;
     if (_backingStore->size() != size()) {
         _backingStore->resize(size());
         dirty = whole;
     }
-
-    // A picture is always rendered whole: what lies over any part of it is painted anew, too.
-    QRegion pictures;
-    forEachPicture(_root.contentView(), [&](PictureLayer&, const QRect& picture) {
-        const QRect visible = picture.intersected(whole);
-        if (dirty.intersects(visible)) {
-            dirty += visible;
-            pictures += visible;
-        }
+    _composer.forEachPicture(devicePixelRatio(), [&](PictureLayer&, const QRect& picture) {
+        if (dirty.intersects(picture))
+            dirty += picture.intersected(whole);
     });
-
-    QRegion points;
-    for (const QRect& rect : dirty)
-        points +=
-            QRectF(rect.x() / ratio, rect.y() / ratio, rect.width() / ratio, rect.height() / ratio).toAlignedRect();
+    const QRegion points = toPoints(dirty);
     _backingStore->beginPaint(points);
     QPaintDevice* device = _backingStore->paintDevice();
     auto* image = device->devType() == QInternal::Image ? static_cast<QImage*>(device) : nullptr;
-    const bool direct = image && image->depth() == 32;
-
-    if (direct) {
-        forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect& picture) {
-            const QRect visible = picture.intersected(whole).intersected(image->rect());
-            if (!visible.isEmpty() && pictures.intersects(visible) &&
-                !layer.renderPixels(picture, visible, image->bits(), static_cast<std::size_t>(image->bytesPerLine())))
-                pictures -= visible;
-        });
+    if (image && image->depth() == 32) {
+        _composer.compose(*image, dirty, devicePixelRatio()); // straight into the window's pixels
     } else {
-        pictures = QRegion();
+        if (_canvas.size() != whole.size())
+            _canvas = QImage(whole.size(), QImage::Format_RGB32);
+        _composer.compose(_canvas, dirty, devicePixelRatio());
+        QPainter painter(device);
+        painter.scale(1 / devicePixelRatio(), 1 / devicePixelRatio());
+        for (const QRect& rect : dirty)
+            painter.drawImage(rect, _canvas, rect);
     }
-
-    QPainter painter(device);
-    painter.scale(1 / ratio, 1 / ratio); // pixels from here on
-    const QRegion background = dirty - pictures;
-    if (!background.isEmpty()) {
-        const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
-        for (const QRect& rect : background)
-            painter.fillRect(rect, color);
-    }
-    drawOver(painter, dirty);
-    painter.end();
     _backingStore->endPaint();
     _backingStore->flush(points);
 }
@@ -286,7 +288,7 @@ void QtWindowHost::paintOpenGL() {
     gl->glClearColor(static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
                      static_cast<float>(color.blueF()), 1.0F);
     gl->glClear(GL_COLOR_BUFFER_BIT);
-    forEachPicture(_root.contentView(), [&](PictureLayer& layer, const QRect& picture) {
+    _composer.forEachPicture(devicePixelRatio(), [&](PictureLayer& layer, const QRect& picture) {
         layer.renderGL(picture, pixels, context.defaultFramebufferObject());
     });
     // The renderer leaves the state of OpenGL as it likes; the painter wants it plain.
@@ -298,31 +300,9 @@ void QtWindowHost::paintOpenGL() {
     gl->glViewport(0, 0, pixels.width(), pixels.height());
     QOpenGLPaintDevice device(pixels);
     QPainter painter(&device);
-    drawOver(painter, QRegion(QRect(QPoint(0, 0), pixels)));
+    _composer.drawOver(painter, QRegion(QRect(QPoint(0, 0), pixels)), devicePixelRatio());
     painter.end();
     context.swapBuffers(this);
-}
-
-void QtWindowHost::drawOver(QPainter& painter, const QRegion& dirty) {
-    drawViews(painter, _root.contentView(), dirty);
-}
-
-void QtWindowHost::drawViews(QPainter& painter, const View& view, const QRegion& dirty) {
-    const QSizeF content = _root.frame().size();
-    for (View* child : view.subviews()) {
-        const QRectF inWindow = child->convertToWindow(child->bounds());
-        const QRect pixels = sceneGeometry::toCoveringPixels(inWindow, content, devicePixelRatio());
-        const QRegion clip = dirty.intersected(pixels);
-        if (!clip.isEmpty()) {
-            painter.save();
-            painter.setClipRegion(clip);
-            painter.scale(devicePixelRatio(), devicePixelRatio());
-            painter.translate(inWindow.left(), content.height() - inWindow.bottom());
-            child->draw(painter, child->bounds());
-            painter.restore();
-        }
-        drawViews(painter, *child, dirty);
-    }
 }
 
 // What the window system tells

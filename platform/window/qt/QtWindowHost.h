@@ -2,26 +2,24 @@
 #pragma once
 
 #include "platform/window/Events.h"
+#include "platform/window/SceneComposer.h"
 #include "platform/window/WindowHost.h"
 
+#include <QImage>
 #include <QPointF>
 #include <QRegion>
 #include <QWindow>
 
-#include <functional>
 #include <memory>
 
 class QBackingStore;
 class QDropEvent;
-class QPainter;
 
 namespace platform {
 
 class Menu;
 class MenuTarget;
-class PictureLayer;
 class QtMenus;
-class View;
 class Window;
 
 /// Which way pictures come to the screen. Automatic takes OpenGL where hardware draws it, else software.
@@ -73,16 +71,15 @@ private:
     void paint();
     void paintSoftware(const QRegion& dirty);
     void paintOpenGL();
-    /// The views' own drawing and the windows above, within `dirty` (pixels).
-    void drawOver(QPainter& painter, const QRegion& dirty);
-    void drawViews(QPainter& painter, const View& view, const QRegion& dirty);
-    void forEachPicture(const View& view, const std::function<void(PictureLayer&, const QRect&)>& visit);
+    QRegion toPoints(const QRegion& pixels) const;
     void skipPictures();
     MouseEvent mouseEvent(const QMouseEvent& event);
     bool dragEvent(QDropEvent& event, QEvent::Type type);
 
     platform::Window& _root; // QSurface has a Window of its own
+    SceneComposer _composer;
     std::unique_ptr<QBackingStore> _backingStore;
+    QImage _canvas; // where the window's own pixels cannot be drawn into
     std::unique_ptr<OpenGL> _openGL;
     std::unique_ptr<QtMenus> _menus;
     QRegion _dirty; // pixels

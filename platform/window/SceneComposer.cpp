@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/SceneComposer.h"
+
+#include "platform/window/PictureLayer.h"
+#include "platform/window/PixelBlending.h"
+#include "platform/window/SceneGeometry.h"
+#include "platform/window/View.h"
+#include "platform/window/Window.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace platform {
+
+namespace {
+/// A child larger than this many pixels on a side is a mistake, not a picture.
+constexpr int largestChild = 16384;
+} // namespace
+
+SceneComposer::SceneComposer(Window& root)
+    : _root(root) {}
+
+void SceneComposer::forEachPicture(double pixelRatio, const std::function<void(PictureLayer&, const QRect&)>& visit) {
+    visitPictures(_root.contentView(), pixelRatio, visit);
+}
+
+void SceneComposer::visitPictures(const View& view, double pixelRatio,
+                                  const std::function<void(PictureLayer&, const QRect&)>& visit) {
+    for (View* child : view.subviews()) {
+        if (PictureLayer* layer = child->pictureLayer()) {
+            visit(*layer, sceneGeometry::toPixels(child->convertToWindow(child->pictureRect()), _root.frame().size(),
+                                                  pixelRatio));
+        }
+        visitPictures(*child, pixelRatio, visit);
+    }
+}
+
+QRegion SceneComposer::compose(QImage& target, const QRegion& marked, double pixelRatio) {
+    const QRect whole = target.rect();
+    QRegion dirty = marked.intersected(whole);
+    // A picture is always rendered whole: what lies over any part of it is painted anew, too.
+    QRegion pictures;
+    forEachPicture(pixelRatio, [&](PictureLayer& layer, const QRect& picture) {
+        const QRect visible = picture.intersected(whole);
+        if (visible.isEmpty() || !dirty.intersects(visible))
+            return;
+        dirty += visible;
+        if (layer.renderPixels(picture, visible, target.bits(), static_cast<std::size_t>(target.bytesPerLine())))
+            pictures += visible;
+    });
+    const QRegion background = dirty - pictures;
+    const bool viewsDraw = anyViewDraws(_root.contentView(), dirty, pixelRatio);
+    if (!background.isEmpty() || viewsDraw) {
+        QPainter painter(&target);
+        painter.scale(1 / target.devicePixelRatio(), 1 / target.devicePixelRatio()); // pixels from here on
+        const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
+        for (const QRect& rect : background)
+            painter.fillRect(rect, color);
+        if (viewsDraw)
+            drawViews(painter, _root, _root.contentView(), dirty, pixelRatio);
+    }
+    updateChildren(pixelRatio);
+    for (const Child& child : _children) {
+        const unsigned opacity = pixelBlending::opacity256(child.window->alphaValue());
+        for (const QRect& rect : dirty)
+            pixelBlending::blend(target, child.picture, child.place.topLeft(), rect, opacity);
+    }
+    if (_paintsAlpha && _root.alphaValue() < 1) {
+        for (const QRect& rect : dirty)
+            pixelBlending::dim(target, rect, pixelBlending::opacity256(_root.alphaValue()));
+    }
+    return dirty;
+}
+
+void SceneComposer::drawOver(QPainter& painter, const QRegion& marked, double pixelRatio) {
+    drawViews(painter, _root, _root.contentView(), marked, pixelRatio);
+    updateChildren(pixelRatio);
+    for (const Child& child : _children) {
+        painter.setOpacity(static_cast<double>(child.window->alphaValue()));
+        painter.drawImage(child.place.topLeft(), child.picture);
+    }
+    painter.setOpacity(1);
+    if (_paintsAlpha && _root.alphaValue() < 1)
+        painter.fillRect(marked.boundingRect(), QColor::fromRgbF(0, 0, 0, 1.0F - _root.alphaValue()));
+}
+
+bool SceneComposer::anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const {
+    return std::any_of(view.subviews().begin(), view.subviews().end(), [&](const View* child) {
+        const QRectF drawn = child->drawnRect();
+        return (!drawn.isEmpty() && dirty.intersects(sceneGeometry::toCoveringPixels(
+                                        child->convertToWindow(drawn), _root.frame().size(), pixelRatio))) ||
+               anyViewDraws(*child, dirty, pixelRatio);
+    });
+}
+
+void SceneComposer::drawViews(QPainter& painter, const Window& window, const View& view, const QRegion& dirty,
+                              double pixelRatio) {
+    const QSizeF content = window.frame().size();
+    for (View* child : view.subviews()) {
+        const QRectF drawn = child->drawnRect();
+        const QRegion clip =
+            dirty.intersected(sceneGeometry::toCoveringPixels(child->convertToWindow(drawn), content, pixelRatio));
+        if (!drawn.isEmpty() && !clip.isEmpty()) {
+            const QRectF place = child->convertToWindow(child->bounds());
+            painter.save();
+            painter.setClipRegion(clip);
+            painter.scale(pixelRatio, pixelRatio);
+            painter.translate(place.left(), content.height() - place.bottom());
+            child->draw(painter, child->bounds());
+            painter.restore();
+        }
+        drawViews(painter, window, *child, dirty, pixelRatio);
+    }
+}
+
+void SceneComposer::updateChildren(double pixelRatio) {
+    std::size_t count = 0;
+    for (const Window* window : _root.childWindows()) {
+        if (!window->isOrderedIn() || window->alphaValue() <= 0)
+            continue;
+        const QRect place = sceneGeometry::toPixels(window->frame().translated(-_root.frame().topLeft()),
+                                                    _root.frame().size(), pixelRatio);
+        if (place.isEmpty() || place.width() > largestChild || place.height() > largestChild)
+            continue;
+        // Kept in the order of the windows, each with the picture it had.
+        const auto begin = _children.begin() + static_cast<std::ptrdiff_t>(count);
+        const auto known =
+            std::find_if(begin, _children.end(), [&](const Child& child) { return child.window == window; });
+        if (known == _children.end()) {
+            Child fresh;
+            fresh.window = window;
+            _children.insert(begin, std::move(fresh));
+        } else if (known != begin) {
+            std::rotate(begin, known, known + 1);
+        }
+        Child& child = _children[count++];
+        const bool holds = child.revision == window->contentRevision() && child.pixelRatio == pixelRatio &&
+                           child.picture.size() == place.size();
+        child.place = place;
+        if (!holds || child.picture.isNull())
+            drawChild(child, pixelRatio);
+    }
+    _children.resize(count);
+}
+
+void SceneComposer::drawChild(Child& child, double pixelRatio) {
+    ++_childDrawings;
+    child.revision = child.window->contentRevision();
+    child.pixelRatio = pixelRatio;
+    if (child.picture.size() != child.place.size())
+        child.picture = QImage(child.place.size(), QImage::Format_ARGB32_Premultiplied);
+    child.picture.fill(Qt::transparent);
+    QPainter painter(&child.picture);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    auto& window = const_cast<Window&>(*child.window);
+    drawViews(painter, window, window.contentView(), QRegion(child.picture.rect()), pixelRatio);
+}
+
+} // namespace platform

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QImage>
+#include <QRegion>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+class QPainter;
+
+namespace platform {
+
+class PictureLayer;
+class View;
+class Window;
+
+/// Composes a root window into pixels, in this order: its background, the pictures of its views, what the views draw,
+/// and the child windows, each from a cached picture at its alpha. A child's picture is drawn anew only when its
+/// content, size or pixel ratio changed. Main thread.
+class SceneComposer {
+public:
+    explicit SceneComposer(Window& root);
+
+    /// Brings the marked part (pixels) of the target up to date; answers what was painted, which is more where a
+    /// picture or a child reaches beyond it. The target is 32 bits a pixel and covers the whole content.
+    QRegion compose(QImage& target, const QRegion& marked, double pixelRatio);
+    /// The same without the root's background and the pictures, for a host that renders those itself.
+    void drawOver(QPainter& painter, const QRegion& marked, double pixelRatio);
+
+    void forEachPicture(double pixelRatio, const std::function<void(PictureLayer&, const QRect&)>& visit);
+
+    /// Whether the root's alpha is painted: where the window system does not fade windows, the content is darkened.
+    void setPaintsAlpha(bool paints) { _paintsAlpha = paints; }
+    /// How many pictures of children were drawn (measurements and tests).
+    unsigned long childDrawings() const { return _childDrawings; }
+
+private:
+    struct Child {
+        const Window* window = nullptr;
+        std::uint64_t revision = 0;
+        double pixelRatio = 0;
+        QImage picture;
+        QRect place; // pixels
+    };
+
+    void visitPictures(const View& view, double pixelRatio,
+                       const std::function<void(PictureLayer&, const QRect&)>& visit);
+    bool anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const;
+    void drawViews(QPainter& painter, const Window& window, const View& view, const QRegion& dirty, double pixelRatio);
+    void updateChildren(double pixelRatio);
+    void drawChild(Child& child, double pixelRatio);
+
+    Window& _root;
+    std::vector<Child> _children; // the shown ones, from the back to the front
+    bool _paintsAlpha = false;
+    unsigned long _childDrawings = 0;
+};
+
+} // namespace platform
