@@ -14,9 +14,9 @@ function(lumaro_target target)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
   if(LUMARO_SANITIZE)
-    # The null-dereference analysis reads the checks that the sanitizers add as code of ours.
+    # These analyses read the checks that the sanitizers add as code of ours.
     target_compile_options(${target} PRIVATE -fsanitize=${LUMARO_SANITIZE} -fno-omit-frame-pointer
-      -fno-sanitize-recover=undefined -Wno-null-dereference)
+      -fno-sanitize-recover=undefined -Wno-null-dereference -Wno-maybe-uninitialized)
     target_link_options(${target} PRIVATE -fsanitize=${LUMARO_SANITIZE})
   endif()
 endfunction()
