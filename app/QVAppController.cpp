@@ -4,6 +4,7 @@
 #include "app/LaunchSteps.h"
 #include "app/OpeningFiles.h"
 #include "app/QVFullScreenWindow.h"
+#include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
 #include "app/settings/QVUserDefaults.h"
 #include "app/settings/SettingsKeys.h"
@@ -136,9 +137,9 @@ void QVAppController::applicationWillFinishLaunching() {
     if (defaults().boolForKey(kQVVolumeSave))
         _view.setVolume(defaults().floatForKey(kQVVolumeSavedLevel));
     if (const auto screen = screenOf(_window)) {
-        _savedBrightness = platform::Desktop::shared().brightness(*screen);
+        _savedBrightness = brightnessOf(*screen);
         if (defaults().boolForKey(kQVForceScreenBrightness))
-            platform::Desktop::shared().setBrightness(*screen, defaults().floatForKey(kQVScreenBrightness));
+            setBrightnessOf(*screen, defaults().floatForKey(kQVScreenBrightness));
     }
     _window.show();
 }
@@ -390,9 +391,8 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
         _view.stop();
     _window.setTerminating(true);
     _window.hide();
-    if (const auto screen = screenOf(_window);
-        screen && _savedBrightness != platform::Desktop::shared().brightness(*screen))
-        platform::Desktop::shared().setBrightness(*screen, _savedBrightness);
+    if (const auto screen = screenOf(_window); screen && _savedBrightness != brightnessOf(*screen))
+        setBrightnessOf(*screen, _savedBrightness);
     return TerminateReply::later;
 }
 

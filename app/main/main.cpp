@@ -9,9 +9,11 @@
 #include "app/QVFullScreenWindow.h"
 #include "app/panels/HelpPanel.h"
 #include "app/settings/QVUserDefaults.h"
+#include "app/settings/Tracing.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/QtRunLoop.h"
 #include "platform/base/SettingsFile.h"
+#include "platform/desktop/linux/Backlight.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
 #include "platform/desktop/qt/QtDesktop.h"
@@ -163,7 +165,20 @@ int play(int& count, char** arguments, const CommandLine& line) {
         return exitUsage;
 
     platform::SessionBus bus;
-    desktop.setServices({[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }});
+    const platform::Backlight backlight(platform::Backlight::systemFolder(),
+                                        [&bus](const QString& light, unsigned level) {
+                                            bus.setBacklight(light, level);
+                                            return true;
+                                        });
+    const auto brightness = [&backlight](const QString& screen) {
+        int error = 0;
+        const float value = backlight.brightness(screen, error);
+        if (error != 0)
+            logAlways("%@: ERROR: Retrieving brightness for current screen: %d", "Screen", error);
+        return value;
+    };
+    desktop.setServices({[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }, brightness,
+                         [&backlight](const QString& screen, float value) { backlight.setBrightness(screen, value); }});
 
     int status = exitSuccess;
     {

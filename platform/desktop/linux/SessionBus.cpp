@@ -105,6 +105,14 @@ void SessionBus::release() {
     _portalRequest.clear();
 }
 
+void SessionBus::setBacklight(const QString& light, unsigned level) {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1/session/auto"),
+        QStringLiteral("org.freedesktop.login1.Session"), QStringLiteral("SetBrightness"));
+    call << QStringLiteral("backlight") << light << static_cast<quint32>(level);
+    QDBusConnection::systemBus().send(call);
+}
+
 void SessionBus::suspend() {
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),

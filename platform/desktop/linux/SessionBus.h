@@ -24,6 +24,8 @@ public:
     void setInhibited(bool inhibited);
     /// Suspends the computer through the login manager.
     void suspend();
+    /// Has the login manager set the level of a light of the kernel's backlight class.
+    void setBacklight(const QString& light, unsigned level);
 
 private:
     void settle();

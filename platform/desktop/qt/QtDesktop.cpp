@@ -172,11 +172,14 @@ std::vector<Screen> QtDesktop::screens() const {
     return result;
 }
 
-float QtDesktop::brightness(const Screen&) const {
-    return std::numeric_limits<float>::infinity();
+float QtDesktop::brightness(const Screen& screen) const {
+    return _services.brightness ? _services.brightness(screen.name) : std::numeric_limits<float>::infinity();
 }
 
-void QtDesktop::setBrightness(const Screen&, float) {}
+void QtDesktop::setBrightness(const Screen& screen, float brightness) {
+    if (_services.setBrightness)
+        _services.setBrightness(screen.name, brightness);
+}
 
 bool QtDesktop::openURL(const QUrl& url) {
     return url.isValid() && QDesktopServices::openUrl(url);

@@ -25,6 +25,9 @@ public:
     struct Services {
         std::function<void(bool)> setUserActive;
         std::function<void()> sleep;
+        /// By the screen's name; 0 to 1, infinity for unknown.
+        std::function<float(const QString&)> brightness;
+        std::function<void(const QString&, float)> setBrightness;
     };
     /// The arguments stay the caller's, for as long as this lives.
     QtDesktop(int& argumentCount, char** arguments, const QString& applicationName);

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ScreenBrightness.h"
+
+#include "app/settings/Tracing.h"
+#include "platform/desktop/Desktop.h"
+
+#include <limits>
+
+float brightnessOf(const platform::Screen& screen) {
+    return screen.isScreen ? platform::Desktop::shared().brightness(screen) : std::numeric_limits<float>::infinity();
+}
+
+void setBrightnessOf(const platform::Screen& screen, float brightness) {
+    if (!screen.isScreen)
+        return;
+    // Written so that what is no number is refused, too.
+    if (!(brightness >= 0.0F && brightness <= 1.0F)) {
+        logAlways("%@: ERROR: Attempt to set invalid brightness: %f", "Screen", brightness);
+        return;
+    }
+    platform::Desktop::shared().setBrightness(screen, brightness);
+}

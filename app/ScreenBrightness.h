@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace platform {
+struct Screen;
+}
+
+/// A screen's brightness, 0 to 1; positive infinity when it is no screen or has none that can be read.
+float brightnessOf(const platform::Screen& screen);
+
+/// Values outside 0 to 1 are refused with a line in the log.
+void setBrightnessOf(const platform::Screen& screen, float brightness);
