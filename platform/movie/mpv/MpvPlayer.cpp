@@ -246,6 +246,10 @@ void MpvPlayer::setRate(float rate) {
     }
     if (_rate != 0 && !isScrubbing())
         _holdsTime = false;
+    if (_rate != 0) {
+        _stepsWaiting = 0;
+        _jumpToReport = false;
+    }
     applyMotion();
     endFailed();
     if (_observer)

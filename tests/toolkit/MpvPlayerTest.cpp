@@ -1,0 +1,332 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/MpvPlayer.h"
+
+#include "tests/toolkit/ToolkitRig.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+namespace fs = std::filesystem;
+using JumpReport = platform::MoviePlayer::JumpReport;
+
+namespace {
+
+constexpr int picture = 512; // the numbered movie's time units for each of its 300 pictures
+constexpr int movieEnd = 300 * picture;
+
+QUrl greenMovie() {
+    harness::MediaFixture::Numbered movie;
+    movie.color = {0, 200, 0};
+    movie.frames = 60;
+    return urlOf(media().makeNumbered("green.mp4", movie));
+}
+
+fs::path scratch(const std::string& name, const std::string& content) {
+    const fs::path folder = fs::path(LUMARO_BINARY_DIR) / "tests" / "media" / "scratch";
+    fs::create_directories(folder);
+    std::ofstream(folder / name, std::ios::binary | std::ios::trunc) << content;
+    return folder / name;
+}
+
+bool isIncreasing(const std::vector<std::int32_t>& times) {
+    return std::ranges::adjacent_find(times, std::greater_equal<>()) == times.end();
+}
+
+} // namespace
+
+TEST(MpvPlayer, plays_pictures_in_order_and_rests_on_the_one_of_its_time) {
+    ToolkitRig rig;
+    const auto movie = rig.show(numberedMovie());
+    EXPECT_EQ(rig.player().time(), 0);
+    rig.player().play();
+    EXPECT_TRUE(rig.player().isPlaying());
+    ASSERT_TRUE(rig.waitFor([&] { return rig.player().time() >= 30 * picture; }));
+    rig.player().pause();
+    EXPECT_FALSE(rig.player().isPlaying());
+    rig.settle();
+    EXPECT_TRUE(isIncreasing(rig.times));
+    EXPECT_GE(rig.times.size(), 15U);
+    EXPECT_TRUE(std::ranges::all_of(rig.times, [](std::int32_t time) { return time % picture == 0; }));
+    EXPECT_EQ(rig.screen.number(), rig.player().time() / picture);
+    EXPECT_EQ(rig.ends + rig.jumps, 0);
+
+    // And on from there.
+    const std::int32_t rested = rig.player().time();
+    rig.times.clear();
+    rig.player().setRate(2);
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > rested + 30 * picture; }));
+    EXPECT_GT(rig.times.front(), rested - picture);
+    EXPECT_EQ(rig.player().rate(), 2.0F);
+}
+
+TEST(MpvPlayer, a_seek_answers_its_target_at_once_and_shows_its_picture) {
+    ToolkitRig rig;
+    const auto movie = rig.show(numberedMovie());
+    for (const int number : {137, 30, 29, 299, 0, 1, 150}) {
+        movie->setTimeValue(number * picture);
+        EXPECT_EQ(rig.player().time(), number * picture);
+        EXPECT_TRUE(rig.shows(number)) << number << " not " << rig.screen.number().value_or(-1);
+        rig.settle();
+        EXPECT_EQ(rig.player().time(), number * picture);
+        EXPECT_EQ(rig.screen.number(), number);
+    }
+    EXPECT_EQ(rig.jumps, 0) << "these are the movie's own";
+    rig.player().seek(75 * picture, JumpReport::reported);
+    EXPECT_EQ(rig.jumps, 1);
+    rig.player().seek(-5, JumpReport::silent);
+    EXPECT_EQ(rig.player().time(), 0);
+    rig.player().seek(movieEnd + 5, JumpReport::silent);
+    EXPECT_EQ(rig.player().time(), movieEnd);
+    EXPECT_TRUE(rig.shows(299));
+}
+
+TEST(MpvPlayer, seeks_that_follow_fast_end_at_the_last_one_also_while_playing) {
+    for (const bool playing : {false, true}) {
+        ToolkitRig rig;
+        const auto movie = rig.show(numberedMovie());
+        if (playing)
+            rig.player().play();
+        for (int number = 20; number <= 200; number += 9) {
+            rig.player().seek(number * picture, JumpReport::silent);
+            EXPECT_EQ(rig.player().time(), number * picture);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(rig.player().time(), number * picture);
+        }
+        if (playing) {
+            rig.times.clear();
+            EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 210 * picture; }));
+            EXPECT_GE(rig.times.front(), 199 * picture) << "never back to where an earlier seek led";
+            EXPECT_TRUE(isIncreasing(rig.times));
+        } else {
+            EXPECT_TRUE(rig.shows(200));
+        }
+    }
+}
+
+TEST(MpvPlayer, the_end_is_reported_once_while_playing_and_not_while_paused) {
+    ToolkitRig rig;
+    const auto movie = rig.show(numberedMovie());
+    rig.player().seek(movieEnd, JumpReport::silent);
+    EXPECT_TRUE(rig.shows(299));
+    rig.settle();
+    EXPECT_EQ(rig.ends, 0);
+    EXPECT_EQ(rig.player().time(), movieEnd);
+
+    rig.player().play(); // from the start
+    EXPECT_EQ(rig.jumps, 1);
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 0 && rig.player().time() < 60 * picture; }));
+    rig.player().seek(285 * picture, JumpReport::silent);
+    EXPECT_TRUE(rig.player().isPlaying());
+    EXPECT_TRUE(rig.waitFor([&] { return rig.ends > 0; }));
+    EXPECT_FALSE(rig.player().isPlaying());
+    EXPECT_EQ(rig.player().time(), movieEnd);
+    rig.settle();
+    EXPECT_EQ(rig.ends, 1);
+    EXPECT_EQ(rig.player().time(), movieEnd);
+    EXPECT_EQ(rig.screen.number(), 299);
+}
+
+TEST(MpvPlayer, steps_go_one_picture_in_each_direction_and_count_as_jumps) {
+    ToolkitRig rig;
+    const auto movie = rig.show(numberedMovie());
+    // Right after a seek a step counts from where that leads.
+    rig.player().seek(100 * picture, JumpReport::silent);
+    rig.player().step(1);
+    EXPECT_TRUE(rig.shows(101));
+    rig.settle();
+    EXPECT_EQ(rig.player().time(), 101 * picture);
+    EXPECT_EQ(rig.jumps, 1);
+    for (int i = 0; i < 3; ++i)
+        rig.player().step(1);
+    EXPECT_TRUE(rig.shows(104));
+    rig.settle();
+    EXPECT_EQ(rig.player().time(), 104 * picture);
+    rig.player().step(-1);
+    EXPECT_TRUE(rig.shows(103));
+    rig.settle();
+    EXPECT_EQ(rig.player().time(), 103 * picture);
+    EXPECT_GE(rig.jumps, 3);
+    for (const int direction : {1, -1, -1, 1, -1})
+        rig.player().step(direction);
+    rig.settle();
+    EXPECT_EQ(rig.player().time(), 102 * picture);
+    EXPECT_EQ(rig.screen.number(), 102);
+
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 110 * picture; }));
+    rig.player().step(1);
+    EXPECT_FALSE(rig.player().isPlaying());
+    rig.settle();
+    EXPECT_EQ(rig.screen.number(), rig.player().time() / picture);
+
+    // There is no picture before the first and after the last.
+    rig.player().seek(0, JumpReport::silent);
+    EXPECT_TRUE(rig.shows(0));
+    rig.settle();
+    rig.player().step(-1);
+    rig.settle();
+    EXPECT_EQ(rig.screen.number(), 0);
+    rig.player().seek(299 * picture, JumpReport::silent);
+    EXPECT_TRUE(rig.shows(299));
+    rig.settle();
+    rig.player().step(1);
+    rig.settle();
+    EXPECT_EQ(rig.screen.number(), 299);
+    EXPECT_EQ(rig.ends, 0);
+}
+
+TEST(MpvPlayer, fast_motion_in_both_directions_stops_at_the_ends) {
+    ToolkitRig rig;
+    const auto movie = rig.show(numberedMovie());
+    rig.player().seek(150 * picture, JumpReport::silent);
+    EXPECT_TRUE(rig.shows(150));
+    rig.times.clear();
+    rig.player().setRate(8);
+    EXPECT_TRUE(rig.waitFor([&] { return !rig.player().isPlaying(); }));
+    EXPECT_EQ(rig.player().time(), movieEnd);
+    EXPECT_TRUE(isIncreasing(rig.times));
+    EXPECT_GE(rig.times.size(), 4U);
+    EXPECT_EQ(rig.ends, 1);
+
+    rig.times.clear();
+    rig.player().setRate(-8);
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() < 200 * picture; }));
+    EXPECT_EQ(rig.player().rate(), -8.0F);
+    // To normal speed in the middle, and back again.
+    rig.player().setRate(1);
+    const std::int32_t turned = rig.player().time();
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > turned; }));
+    rig.player().setRate(-8);
+    EXPECT_TRUE(rig.waitFor([&] { return !rig.player().isPlaying(); }));
+    EXPECT_EQ(rig.player().time(), 0);
+    EXPECT_TRUE(rig.shows(0));
+    rig.player().setRate(-2);
+    EXPECT_FALSE(rig.player().isPlaying()) << "nothing lies before the beginning";
+    rig.settle();
+    EXPECT_EQ(rig.player().time(), 0);
+    EXPECT_EQ(rig.ends, 1);
+}
+
+TEST(MpvPlayer, volume_and_mute_stay_from_movie_to_movie) {
+    ToolkitRig rig;
+    rig.player().setVolume(0.25F);
+    rig.player().setMuted(true);
+    const auto first = rig.show(numberedMovie());
+    const auto second = rig.show(greenMovie());
+    EXPECT_FLOAT_EQ(rig.player().volume(), 0.25F);
+    EXPECT_TRUE(rig.player().isMuted());
+    rig.player().setVolume(7);
+    EXPECT_FLOAT_EQ(rig.player().volume(), 3);
+    rig.player().setVolume(-1);
+    EXPECT_FLOAT_EQ(rig.player().volume(), 0);
+}
+
+TEST(MpvPlayer, the_movie_loaded_last_is_the_one_that_plays) {
+    ToolkitRig rig;
+    const auto red = rig.open(numberedMovie());
+    const auto green = rig.open(greenMovie());
+    red->setTimeValue(90 * picture);
+    green->setTimeValue(30 * picture);
+    // At once, and before the core stands.
+    rig.player().load(red.get());
+    rig.player().load(green.get());
+    rig.player().load(red.get());
+    rig.player().load(green.get());
+    EXPECT_EQ(rig.player().time(), 30 * picture);
+    EXPECT_EQ(red->time(), 90 * picture);
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 40 * picture; }));
+    EXPECT_TRUE(rig.screen.at(64, 180).isNear({0, 200, 0}));
+    EXPECT_GE(*std::ranges::min_element(rig.times), 0);
+    rig.player().pause();
+    const std::int32_t left = rig.player().time();
+
+    rig.player().load(red.get());
+    EXPECT_EQ(green->time(), left) << "a movie keeps the time at which it was left";
+    EXPECT_EQ(rig.player().time(), 90 * picture);
+    EXPECT_FALSE(rig.player().isPlaying());
+    EXPECT_TRUE(rig.shows(90));
+    EXPECT_TRUE(rig.screen.at(64, 180).isNear({200, 0, 0}));
+    rig.player().load(nullptr);
+    rig.settle();
+    EXPECT_EQ(red->time(), 90 * picture);
+    EXPECT_FALSE(rig.screen.number()) << "no movie, no picture";
+    rig.player().play();
+    EXPECT_FALSE(rig.player().isPlaying());
+}
+
+TEST(MpvPlayer, sound_without_a_picture_plays_seeks_and_ends) {
+    ToolkitRig rig;
+    const auto movie =
+        rig.open(urlOf(media().make("tone.mp3", {"-f", "lavfi", "-i", "sine=frequency=440:duration=20"})));
+    ASSERT_TRUE(movie);
+    rig.player().load(movie.get());
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 300; }));
+    rig.player().seek(15 * 600, JumpReport::silent);
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 15 * 600; }));
+    rig.player().seek(movie->duration() - 200, JumpReport::silent);
+    EXPECT_TRUE(rig.waitFor([&] { return rig.ends == 1; }));
+    EXPECT_EQ(rig.player().time(), movie->duration());
+}
+
+TEST(MpvPlayer, a_movie_that_breaks_off_ends_there) {
+    harness::MediaFixture::Numbered numbered;
+    numbered.frames = 90;
+    numbered.encoder.insert(numbered.encoder.end(), {"-movflags", "+faststart"});
+    std::ifstream file(media().makeNumbered("faststart.mp4", numbered), std::ios::binary);
+    const std::string whole{std::istreambuf_iterator<char>(file), {}};
+    ToolkitRig rig;
+    rig.expectedError = QStringLiteral("libmpv");
+    const auto movie = rig.show(urlOf(scratch("broken off.mp4", whole.substr(0, whole.size() / 2))));
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return rig.ends == 1; }));
+    EXPECT_FALSE(rig.player().isPlaying());
+}
+
+TEST(MpvPlayer, a_movie_that_cannot_be_played_ends_whenever_it_is_started) {
+    ToolkitRig rig;
+    rig.expectedError = QStringLiteral("ERROR: ");
+    const auto good = rig.open(numberedMovie());
+    // It opened, and was replaced before it was loaded.
+    const QUrl url = urlOf(scratch("replaced.mp4", "no movie"));
+    platform::MovieInfo info = good->info();
+    info.url = url;
+    platform::Movie bad(info, rig.player());
+    int badEnds = 0;
+    const auto isReported = [&] { return rig.log.contains(QStringLiteral("Can't play")); };
+    const auto arm = [&] { bad.callWhenStopped([&] { ++badEnds; }); };
+    arm();
+    rig.player().load(&bad);
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return badEnds == 1; }));
+    EXPECT_FALSE(rig.player().isPlaying());
+
+    // Paused when it failed.
+    rig.log.clear();
+    bad.setTimeValue(0);
+    rig.player().load(nullptr);
+    rig.player().load(&bad);
+    arm();
+    EXPECT_TRUE(rig.waitFor(isReported));
+    rig.settle();
+    EXPECT_EQ(badEnds, 1);
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return badEnds == 2; }));
+
+    // Its end does not become that of the movie after it.
+    rig.log.clear();
+    rig.player().load(nullptr);
+    rig.player().load(&bad);
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor(isReported));
+    good->setTimeValue(0);
+    rig.player().load(good.get());
+    rig.player().play();
+    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 30 * picture; }));
+    EXPECT_EQ(badEnds, 2);
+    EXPECT_EQ(rig.ends, 0);
+    rig.player().load(nullptr);
+}
