@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+
+#include <cstdint>
+
+/// Where an overlay stands and how large it is, in points; y grows upwards. What is no number, or beyond every screen,
+/// is brought back to what a window can have.
+namespace OverlayPlacement {
+
+// The fields of an alignment code.
+inline constexpr std::uint32_t horizontalMask = 0x0F; // 0 centred, 1 left, 2 right
+inline constexpr std::uint32_t verticalMask = 0xF0;   // 0x00 centred, 0x10 top, 0x20 bottom
+inline constexpr std::uint32_t referenceMask = 0xF00;
+inline constexpr std::uint32_t insideParent = 0x100;
+
+/// What surrounds an overlay's content.
+struct Panel {
+    bool backgroundOn = false;
+    bool backgroundRounded = false;
+    float radius = 0;
+    bool frameOn = false;
+    float frameWidth = 0;
+};
+
+/// How far the panel reaches beyond the content on every side.
+double backgroundMargin(const Panel& panel);
+
+/// The rectangle with the margin around it.
+QRectF grown(const QRectF& rect, double margin);
+
+/// The x of a window `width` wide inside the parent's frame, `padding` away from its edge.
+double horizontalOrigin(std::uint32_t alignment, const QRectF& parent, double width, double padding);
+double verticalOrigin(std::uint32_t alignment, const QRectF& parent, double height, double padding);
+
+/// The rectangle moved to where the alignment code puts it in the parent's frame.
+QRectF placedInParent(const QRectF& rect, std::uint32_t alignment, const QRectF& parent, double padding);
+
+} // namespace OverlayPlacement

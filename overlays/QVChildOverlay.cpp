@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVChildOverlay.h"
+
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/Tracing.h"
+
+QVChildOverlay::QVChildOverlay(platform::Window* parent, const QString& style)
+    : QVStyledOverlay(parent ? parent->frame() : QRectF(), style) {
+    contentView().addSubview(_content);
+    _content.setFrame(contentView().bounds());
+
+    // Straight into the panel: the content to lay out is made by the subclass, after this.
+    const auto defaults = styleDefaults();
+    _content.setBackgroundColor(backgroundColor());
+    _content.setBackgroundOn(styleValue(defaults, &QVOverlayStyleDefaults::backgroundOn));
+    _content.setBackgroundRounded(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRounded));
+    _content.setRadius(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRadius));
+    _content.setFrameOn(styleValue(defaults, &QVOverlayStyleDefaults::frameOn));
+    _content.setFrameWidth(styleValue(defaults, &QVOverlayStyleDefaults::frameWidth));
+    _alignStyle = static_cast<std::uint32_t>(styleValue(defaults, &QVOverlayStyleDefaults::alignment));
+    _padding = QVUserDefaults::standardUserDefaults().floatForKey(kQVOverlayDefaultPadding);
+
+    _onParentResize = platform::NotificationCenter::defaultCenter().observe<platform::WindowDidResizeNotification>(
+        [this](const platform::WindowDidResizeNotification& notification) {
+            if (notification.window == parentWindow())
+                parentSizeChanged();
+        });
+    setParentWindow(parent);
+    if (parent)
+        orderFront();
+}
+
+void QVChildOverlay::setParentWindow(platform::Window* parent) {
+    if (parent == parentWindow())
+        return;
+    if (parent)
+        parent->addChildWindow(*this);
+    else
+        parentWindow()->removeChildWindow(*this);
+}
+
+void QVChildOverlay::setBackgroundOn(bool flag) {
+    _content.setBackgroundOn(flag);
+    contentSizeChanged();
+}
+
+void QVChildOverlay::setBackgroundColor(const QColor& color) {
+    QVStyledOverlay::setBackgroundColor(color);
+    _content.setBackgroundColor(color);
+}
+
+void QVChildOverlay::setBackgroundRounded(bool flag) {
+    _content.setBackgroundRounded(flag);
+    contentSizeChanged();
+}
+
+void QVChildOverlay::setRadius(float radius) {
+    _content.setRadius(radius);
+    contentSizeChanged();
+}
+
+void QVChildOverlay::setFrameOn(bool flag) {
+    _content.setFrameOn(flag);
+    contentSizeChanged();
+}
+
+void QVChildOverlay::setFrameWidth(float width) {
+    _content.setFrameWidth(width);
+    contentSizeChanged();
+}
+
+void QVChildOverlay::setAlignmentStyle(std::uint32_t code) {
+    if (code == _alignStyle)
+        return;
+    _alignStyle = code;
+    contentSizeChanged();
+}
+
+void QVChildOverlay::setPadding(float padding) {
+    if (padding == _padding)
+        return;
+    _padding = padding;
+    contentSizeChanged();
+}
+
+QSizeF QVChildOverlay::contentSize() const {
+    logAlways("ERROR: Overlay %@: uses generic contentSize: implementation.", logName());
+    return _content.bounds().size();
+}
+
+QRectF QVChildOverlay::adjustForBackgroundStyle(const QRectF& rect) const {
+    return OverlayPlacement::grown(rect, OverlayPlacement::backgroundMargin(_content.panel()));
+}
+
+void QVChildOverlay::adoptNewOverlayFrame(const QRectF&) {}
+
+void QVChildOverlay::contentSizeChanged() {
+    QRectF rect = adjustForBackgroundStyle(QRectF(QPointF(0, 0), contentSize()));
+    if (parentWindow() && (_alignStyle & OverlayPlacement::referenceMask) == OverlayPlacement::insideParent) {
+        rect =
+            OverlayPlacement::placedInParent(rect, _alignStyle, parentWindow()->frame(), static_cast<double>(_padding));
+    }
+    applyNewOverlayFrame(rect, "%@: Overlay Frame After Recalc: x:%d y:%d w:%d h:%d");
+}
+
+void QVChildOverlay::applyNewOverlayFrame(const QRectF& frame, const char* message) {
+    adoptNewOverlayFrame(frame);
+    trace(message, logName(), static_cast<qint64>(frame.x()), static_cast<qint64>(frame.y()),
+          static_cast<qint64>(frame.width()), static_cast<qint64>(frame.height()));
+    setFrame(frame);
+    contentView().setNeedsDisplay();
+}
+
+void QVChildOverlay::setFrame(const QRectF& frame) {
+    QVStyledOverlay::setFrame(frame);
+    _content.setFrame(contentView().bounds());
+}
+
+bool QVChildOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    bool handledAll = notification.key == style();
+    if (handledAll) {
+        const auto defaults = styleDefaults();
+        for (const QString& key : notification.styleKeys) {
+            if (key == kBackgroundOn) {
+                setBackgroundOn(styleValue(defaults, &QVOverlayStyleDefaults::backgroundOn));
+            } else if (key == kBackgroundRounded) {
+                setBackgroundRounded(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRounded));
+            } else if (key == kBackgroundRadius) {
+                setRadius(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRadius));
+            } else if (key == kFrameOn) {
+                setFrameOn(styleValue(defaults, &QVOverlayStyleDefaults::frameOn));
+            } else if (key == kFrameWidth) {
+                setFrameWidth(styleValue(defaults, &QVOverlayStyleDefaults::frameWidth));
+            } else if (key == kAlignment) {
+                _alignStyle = static_cast<std::uint32_t>(styleValue(defaults, &QVOverlayStyleDefaults::alignment));
+                contentSizeChanged();
+            } else {
+                handledAll = false;
+            }
+        }
+    }
+    return handledAll || QVStyledOverlay::preferencesChanged(notification);
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/settings/SettingsKeys.h"
+#include "overlays/QVOverlayContentView.h"
+#include "overlays/QVStyledOverlay.h"
+
+/// A styled overlay above a parent: it follows the parent's size, stands inside its frame where the style's alignment
+/// code puts it, and draws a panel behind its content. Main thread.
+class QVChildOverlay : public QVStyledOverlay {
+public:
+    /// Attached to the parent and ordered in, hidden. Without a parent it begins with an empty frame.
+    explicit QVChildOverlay(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle);
+
+    /// Attaches the overlay to another window, or to none; it keeps its place until its next layout.
+    void setParentWindow(platform::Window* parent);
+
+    // The panel. What changes its margin lays the overlay out again.
+    bool backgroundOn() const { return _content.backgroundOn(); }
+    void setBackgroundOn(bool flag);
+    void setBackgroundColor(const QColor& color) override;
+    bool backgroundRounded() const { return _content.backgroundRounded(); }
+    void setBackgroundRounded(bool flag);
+    /// Points.
+    float radius() const { return _content.radius(); }
+    void setRadius(float radius);
+    bool frameOn() const { return _content.frameOn(); }
+    void setFrameOn(bool flag);
+    QColor frameColor() const { return _content.frameColor(); }
+    void setFrameColor(const QColor& color) { _content.setFrameColor(color); }
+    /// Points.
+    float frameWidth() const { return _content.frameWidth(); }
+    void setFrameWidth(float width);
+
+    std::uint32_t alignemntStyle() const { return _alignStyle; }
+    void setAlignmentStyle(std::uint32_t code);
+    /// Points between the overlay and the parent's edges.
+    float padding() const { return _padding; }
+    void setPadding(float padding);
+
+    /// The size of what is to be shown, without the panel's margin. Each kind of overlay answers for itself.
+    virtual QSizeF contentSize() const;
+    /// The rectangle with the panel's margin around it.
+    QRectF adjustForBackgroundStyle(const QRectF& rect) const;
+    /// Computes and applies the frame.
+    virtual void contentSizeChanged();
+    virtual void parentSizeChanged() { contentSizeChanged(); }
+
+    void setFrame(const QRectF& frame) override;
+    bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
+
+protected:
+    const char* logName() const override { return "QVChildOverlay"; }
+
+    /// Told the new frame before it is applied: the place to lay the content out in it.
+    virtual void adoptNewOverlayFrame(const QRectF& frame);
+    /// Applies a frame that was computed: adoptNewOverlayFrame(), the frame itself, redisplay. `message` is the line
+    /// for the log, filled with the class and the whole points of the frame.
+    void applyNewOverlayFrame(const QRectF& frame, const char* message);
+
+    /// The panel, above which subclasses put their views.
+    QVOverlayContentView& overlayContentView() { return _content; }
+    const QVOverlayContentView& overlayContentView() const { return _content; }
+
+private:
+    std::uint32_t _alignStyle = 0;
+    float _padding = 0;
+    QVOverlayContentView _content;
+    platform::Subscription _onParentResize;
+};

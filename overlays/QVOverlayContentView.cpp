@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVOverlayContentView.h"
+
+#include "overlays/RoundedRectangle.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+void QVOverlayContentView::setBackgroundColor(const QColor& color) {
+    _backgroundColor = color;
+    setNeedsDisplay();
+}
+
+void QVOverlayContentView::setFrameColor(const QColor& color) {
+    _frameColor = color;
+    setNeedsDisplay();
+}
+
+void QVOverlayContentView::draw(QPainter& painter, const QRectF&) {
+    painter.save();
+    // The painter's clip is the part that is drawn again.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(bounds(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (_panel.backgroundOn) {
+        const double most = std::min(bounds().width(), bounds().height());
+        const double line = _panel.frameOn && _panel.frameWidth > 0.0F
+                                ? std::min(static_cast<double>(_panel.frameWidth), std::max(most, 0.0))
+                                : 0.0;
+        const QRectF rect = bounds().adjusted(line * 0.5, line * 0.5, -line * 0.5, -line * 0.5);
+        const QPainterPath path = roundedRectangle(rect, _panel.backgroundRounded ? _panel.radius : 0.0F);
+        painter.setRenderHint(QPainter::Antialiasing);
+        if (_backgroundColor.isValid())
+            painter.fillPath(path, _backgroundColor);
+        const QColor lineColor = _frameColor.isValid() ? _frameColor : _backgroundColor;
+        if (line > 0 && lineColor.isValid())
+            painter.strokePath(path, QPen(lineColor, line, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    }
+    painter.restore();
+}

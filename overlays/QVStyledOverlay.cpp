@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVStyledOverlay.h"
+
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/Tracing.h"
+#include "overlays/QVFadeCalculator.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Seconds between the steps of a fade; shorter fades are none.
+constexpr double kFadingStep = 0.05;
+
+/// A limit as the window can show it. Written so that a value that is no number falls to 0.
+float shown(float alpha) {
+    return alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
+}
+
+/// Written so that an interval that is no number counts as none.
+bool takesTime(double interval) {
+    return interval >= kFadingStep;
+}
+
+bool isWindowVisible(const platform::Window& window) {
+    const auto* overlay = dynamic_cast<const QVStyledOverlay*>(&window);
+    return overlay ? overlay->isVisible() : window.isOrderedIn();
+}
+
+} // namespace
+
+QVStyledOverlay::QVStyledOverlay(const QRectF& contentRect, const QString& style)
+    : platform::Window(contentRect)
+    , _style(style) {
+    const auto defaults = styleDefaults();
+    Window::setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
+    _fadingInInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingInInterval);
+    _fadingOutInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
+    _fadingDelayInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
+    _maxAlpha = styleValue(defaults, &QVOverlayStyleDefaults::maxAlpha);
+    _minAlpha = styleValue(defaults, &QVOverlayStyleDefaults::minAlpha);
+    setAlphaValue(_minAlpha);
+
+    auto& center = platform::NotificationCenter::defaultCenter();
+    _onPreferences = center.observe<QVPreferencesChangedNotification>(
+        [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
+    _onMovieViewSize = center.observe<QVMovieViewSizeChangedNotification>(
+        [this](const QVMovieViewSizeChangedNotification& notification) { movieViewSizeChanged(notification); });
+    _onCurrentMovie = center.observe<QVPlaylistMovieChangedNotification>(
+        [this](const QVPlaylistMovieChangedNotification& notification) { currentMovieChanged(notification); });
+}
+
+QVStyledOverlay::~QVStyledOverlay() = default;
+
+std::optional<QVOverlayStyleDefaults> QVStyledOverlay::styleDefaults() const {
+    return QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(QVUserDefaults::standardUserDefaults(), _style);
+}
+
+void QVStyledOverlay::show() {
+    if (parentWindow() && !isWindowVisible(*parentWindow()))
+        return;
+    if (_fadingState == FadingState::fadingIn)
+        return;
+    _fadingState = FadingState::fadingIn;
+    if (!takesTime(_fadingInInterval) || alphaValue() >= shown(_maxAlpha)) {
+        setAlphaValue(_maxAlpha);
+        postFadeIn();
+        return;
+    }
+    trace("%@: Start Fading IN, interval: %f", logName(), QString::number(_fadingInInterval, 'f', 6));
+    const auto calculator = QVFadeCalculator::fadeInCalculator(_fadingInInterval, static_cast<double>(alphaValue()));
+    setFadeTimer(platform::RunLoop::main().schedule(kFadingStep, true, [this, calculator] { doFadeIn(calculator); }));
+}
+
+void QVStyledOverlay::hide() {
+    if (_fadingState == FadingState::fadingOut)
+        return;
+    _fadingState = FadingState::fadingOut;
+    const double interval = fadingOutInterval();
+    if (!takesTime(interval) || alphaValue() <= shown(_minAlpha)) {
+        setAlphaValue(_minAlpha);
+        postFadeOut();
+        return;
+    }
+    trace("%@: Start Fading OUT, interval: %f", logName(), QString::number(interval, 'f', 6));
+    const auto calculator = QVFadeCalculator::fadeOutCalculator(interval, static_cast<double>(alphaValue()));
+    setFadeTimer(platform::RunLoop::main().schedule(kFadingStep, true, [this, calculator] { doFadeOut(calculator); }));
+}
+
+void QVStyledOverlay::doFadeIn(const QVFadeCalculator& calculator) {
+    if (alphaValue() < shown(_maxAlpha))
+        setAlphaValue(static_cast<float>(calculator.valueNow()));
+    if (alphaValue() >= shown(_maxAlpha))
+        postFadeIn();
+}
+
+void QVStyledOverlay::doFadeOut(const QVFadeCalculator& calculator) {
+    if (alphaValue() > shown(_minAlpha))
+        setAlphaValue(static_cast<float>(calculator.valueNow()));
+    if (alphaValue() <= shown(_minAlpha))
+        postFadeOut();
+}
+
+void QVStyledOverlay::postFadeIn() {
+    setAlphaValue(_maxAlpha);
+    setFadeTimer(nullptr);
+    _fadingState = FadingState::idle;
+    if (_autopop)
+        delay();
+}
+
+void QVStyledOverlay::postFadeOut() {
+    setAlphaValue(_minAlpha);
+    setFadeTimer(nullptr);
+    _fadingState = FadingState::idle;
+    _autopop = false;
+}
+
+void QVStyledOverlay::autopop() {
+    _autopop = true;
+    switch (_fadingState) {
+    case FadingState::idle:
+    case FadingState::fadingOut:
+        show();
+        break;
+    case FadingState::delaying:
+        delay();
+        break;
+    case FadingState::fadingIn:
+        break; // the hold follows
+    }
+}
+
+void QVStyledOverlay::delay() {
+    // Written so that an interval that is no number counts as none.
+    const double hold = _fadingDelayInterval > 0 ? _fadingDelayInterval : 0;
+    if (_fadingState == FadingState::delaying && _fadingTimer && _fadingTimer->isValid()) {
+        _fadingTimer->rearm(hold);
+        return;
+    }
+    _fadingState = FadingState::delaying;
+    trace("%@: Start Fading DELAY, interval: %f", logName(), QString::number(_fadingDelayInterval, 'f', 6));
+    setFadeTimer(platform::RunLoop::main().schedule(hold, false, [this] { postDelay(); }));
+}
+
+void QVStyledOverlay::postDelay() {
+    if (_autopop)
+        hide();
+}
+
+void QVStyledOverlay::setMaxAlpha(float alpha) {
+    if (alpha == _maxAlpha)
+        return;
+    _maxAlpha = alpha;
+    if (_minAlpha > _maxAlpha)
+        _minAlpha = _maxAlpha;
+    if (_fadingState == FadingState::idle || _fadingState == FadingState::delaying)
+        setAlphaValue(_maxAlpha);
+}
+
+void QVStyledOverlay::setMinAlpha(float alpha) {
+    if (alpha == _minAlpha)
+        return;
+    _minAlpha = alpha;
+    if (_minAlpha > _maxAlpha)
+        _maxAlpha = _minAlpha;
+    if (_minAlpha > alphaValue() && _fadingState == FadingState::idle)
+        setAlphaValue(_minAlpha);
+}
+
+bool QVStyledOverlay::isVisible() const {
+    if (!isOrderedIn() || _fadingState == FadingState::fadingOut)
+        return false;
+    return alphaValue() > shown(_minAlpha) || _fadingState == FadingState::fadingIn;
+}
+
+bool QVStyledOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key != _style)
+        return false;
+    const auto defaults = styleDefaults();
+    bool handledAll = true;
+    for (const QString& key : notification.styleKeys) {
+        if (key == kBackgroundColor) {
+            setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
+            contentView().setNeedsDisplay();
+        } else if (key == kFadingInInterval) {
+            _fadingInInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingInInterval);
+        } else if (key == kFadingOutInterval) {
+            _fadingOutInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
+        } else if (key == kFadingDelayInterval) {
+            _fadingDelayInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
+        } else if (key == kMinAlpha) {
+            setMinAlpha(styleValue(defaults, &QVOverlayStyleDefaults::minAlpha));
+        } else if (key == kMaxAlpha) {
+            setMaxAlpha(styleValue(defaults, &QVOverlayStyleDefaults::maxAlpha));
+        } else {
+            handledAll = false;
+        }
+    }
+    return handledAll;
+}
+
+void QVStyledOverlay::movieViewSizeChanged(const QVMovieViewSizeChangedNotification&) {}
+
+void QVStyledOverlay::currentMovieChanged(const QVPlaylistMovieChangedNotification&) {}
+
+void QVStyledOverlay::currentSubtitlesChanged(const QVSubtitlesChangedNotification&) {}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/context/Notifications.h"
+#include "app/settings/QVOverlayStyleDefaults.h"
+#include "app/settings/QVPreferencesChangedNotification.h"
+#include "platform/base/NotificationCenter.h"
+#include "platform/base/RunLoop.h"
+#include "platform/window/Window.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <type_traits>
+
+class QVFadeCalculator;
+
+/// A window that fades between the two opacities of its style. Showing and hiding never orders it in or out; a hidden
+/// overlay rests at its smallest opacity. Everything works over a style that is not registered: such an overlay stays
+/// transparent. Main thread.
+class QVStyledOverlay : public platform::Window {
+public:
+    enum class FadingState { idle = 0, fadingIn = 1, fadingOut = 2, delaying = 3 };
+
+    /// `contentRect` is in screen coordinates, `style` a style selector key. The overlay starts hidden.
+    QVStyledOverlay(const QRectF& contentRect, const QString& style);
+    ~QVStyledOverlay() override;
+
+    /// The selector key.
+    const QString& style() const { return _style; }
+
+    /// Fades in from the opacity that stands now; does nothing under a parent that is not visible.
+    virtual void show();
+    /// Fades out from the opacity that stands now.
+    virtual void hide();
+    /// Shows, holds for fadingDelayInterval() and hides; while it is held, the hold starts again.
+    void autopop();
+    /// Starts the hold, or starts it again.
+    void delay();
+    FadingState fadingState() const { return _fadingState; }
+    bool isAutopop() const { return _autopop; }
+
+    /// Seconds; a fade that runs keeps the interval with which it began.
+    double fadingInInterval() const { return _fadingInInterval; }
+    void setFadingInInterval(double seconds) { _fadingInInterval = seconds; }
+    virtual double fadingOutInterval() const { return _fadingOutInterval; }
+    void setFadingOutInterval(double seconds) { _fadingOutInterval = seconds; }
+    double fadingDelayInterval() const { return _fadingDelayInterval; }
+    void setFadingDelayInterval(double seconds) { _fadingDelayInterval = seconds; }
+
+    /// Opacities, 0 to 1; setting one moves the other where the smallest would lie above the largest.
+    float maxAlpha() const { return _maxAlpha; }
+    void setMaxAlpha(float alpha);
+    float minAlpha() const { return _minAlpha; }
+    void setMinAlpha(float alpha);
+
+    /// Ordered in and seen, or on the way to be seen; an overlay that fades out no longer counts as visible.
+    virtual bool isVisible() const;
+
+    /// Takes over what changed of this overlay's style. True when every changed key was handled.
+    virtual bool preferencesChanged(const QVPreferencesChangedNotification& notification);
+    virtual void movieViewSizeChanged(const QVMovieViewSizeChangedNotification& notification);
+    virtual void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
+    virtual void currentSubtitlesChanged(const QVSubtitlesChangedNotification& notification);
+
+protected:
+    /// The class's name, for the log.
+    virtual const char* logName() const { return "QVStyledOverlay"; }
+
+    /// The ends of the fades. Who extends them calls them first.
+    virtual void postFadeIn();
+    virtual void postFadeOut();
+
+    /// The style as it stands in the settings now, or nothing when it is not registered.
+    std::optional<QVOverlayStyleDefaults> styleDefaults() const;
+
+private:
+    void postDelay();
+    void doFadeIn(const QVFadeCalculator& calculator);
+    void doFadeOut(const QVFadeCalculator& calculator);
+    void setFadeTimer(std::unique_ptr<platform::Timer> timer) { _fadingTimer = std::move(timer); }
+
+    QString _style;
+    std::unique_ptr<platform::Timer> _fadingTimer; // the one fade or hold that runs
+    FadingState _fadingState = FadingState::idle;
+    double _fadingInInterval = 0;
+    double _fadingOutInterval = 0;
+    double _fadingDelayInterval = 0;
+    bool _autopop = false;
+    float _maxAlpha = 0;
+    float _minAlpha = 0;
+    platform::Subscription _onPreferences;
+    platform::Subscription _onMovieViewSize;
+    platform::Subscription _onCurrentMovie;
+};
+
+/// What a getter of the style answers; the zero value for a missing style.
+template <class Value>
+Value styleValue(const std::optional<QVOverlayStyleDefaults>& style, Value (QVOverlayStyleDefaults::*getter)() const) {
+    if (style)
+        return ((*style).*getter)();
+    if constexpr (std::is_same_v<Value, QSizeF>)
+        return QSizeF(0, 0); // a QSizeF of its own accord is no size at all
+    else
+        return Value();
+}
