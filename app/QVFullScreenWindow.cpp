@@ -25,29 +25,17 @@ QRectF chosenFrame() {
 } // namespace
 
 QVFullScreenWindow::QVFullScreenWindow()
-    : platform::Window(chosenFrame()) {
-    setAlphaValue(0);
+    : QVParentOverlay(chosenFrame(), kQVFullscreenOverlayStyle) {
     setLevel(QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowLayer));
     addTrackingRects();
-    _preferencesChanged = platform::NotificationCenter::defaultCenter().observe<QVPreferencesChangedNotification>(
-        [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
 }
 
 QVFullScreenWindow::~QVFullScreenWindow() {
     removeTrackingRects();
 }
 
-void QVFullScreenWindow::show() {
-    orderFront();
-    setAlphaValue(1.0F);
-}
-
-void QVFullScreenWindow::hide() {
-    setAlphaValue(0);
-    postFadeOut();
-}
-
 void QVFullScreenWindow::postFadeOut() {
+    QVParentOverlay::postFadeOut();
     if (_terminating)
         platform::Desktop::shared().replyToApplicationShouldTerminate(true);
 }
@@ -92,13 +80,13 @@ void QVFullScreenWindow::mouseExited(int trackingTag) {
 }
 
 void QVFullScreenWindow::mouseMoved(const platform::MouseEvent& event) {
-    platform::Window::mouseMoved(event);
+    QVParentOverlay::mouseMoved(event);
     if (gAppController)
         gAppController->scheduleCursorHide();
 }
 
 void QVFullScreenWindow::mouseUp(const platform::MouseEvent& event) {
-    platform::Window::mouseUp(event);
+    QVParentOverlay::mouseUp(event);
     if (gAppController)
         gAppController->scheduleCursorHide();
 }
@@ -118,7 +106,7 @@ bool QVFullScreenWindow::keyDown(const platform::KeyEvent& event) {
 
 bool QVFullScreenWindow::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key != kQVMainWindowLayer)
-        return false;
+        return QVParentOverlay::preferencesChanged(notification);
     setLevel(QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowLayer));
     return true;
 }

@@ -3,32 +3,31 @@
 
 #include "app/EdgeAreas.h"
 #include "app/context/MainWindow.h"
-#include "app/settings/QVPreferencesChangedNotification.h"
-#include "platform/base/NotificationCenter.h"
-#include "platform/window/Window.h"
+#include "overlays/QVParentOverlay.h"
 
 #include <array>
 
 /// The one main window: borderless, covering a whole screen. Main thread.
-class QVFullScreenWindow final : public platform::Window, public MainWindow {
+class QVFullScreenWindow final : public QVParentOverlay, public MainWindow {
 public:
     /// On the screen that the settings name, else the main one; not shown yet.
     QVFullScreenWindow();
     ~QVFullScreenWindow() override;
 
-    void show() override;
-    void hide() override;
-    double fadingInInterval() const { return 0; }
-    double fadingOutInterval() const override { return 0; }
+    void show() override { QVParentOverlay::show(); }
+    void hide() override { QVParentOverlay::hide(); }
+    double fadingOutInterval() const override { return QVParentOverlay::fadingOutInterval(); }
     void adoptScreen(const platform::Screen& screen) override;
     void addTrackingRects() override;
     void removeTrackingRects() override;
-    /// Restores the order of the windows above this one.
-    void orderChildrens() {}
     /// The application ends when this window has been hidden.
     void setTerminating(bool terminating) { _terminating = terminating; }
 
+    bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
+
 protected:
+    const char* logName() const override { return "QVFullScreenWindow"; }
+    void postFadeOut() override;
     bool keyDown(const platform::KeyEvent& event) override;
     void mouseMoved(const platform::MouseEvent& event) override;
     void mouseUp(const platform::MouseEvent& event) override;
@@ -37,10 +36,7 @@ protected:
 
 private:
     int _directionWithTag(int tag) const;
-    bool preferencesChanged(const QVPreferencesChangedNotification& notification);
-    void postFadeOut();
 
     std::array<int, 8> _trackingTags{}; // in the order of the areas; 0 for none
     bool _terminating = false;
-    platform::Subscription _preferencesChanged;
 };
