@@ -37,7 +37,6 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
     rig.app->applicationWillFinishLaunching();
     EXPECT_EQ(rig.toolkit.entered, 1);
     EXPECT_TRUE(rig.window.isOrderedIn());
-    EXPECT_EQ(rig.window.alphaValue(), 1.0F);
     EXPECT_EQ(rig.window.firstResponder(), &rig.view);
     EXPECT_NE(rig.window.delegate(), nullptr);
     EXPECT_FLOAT_EQ(rig.view.volume(), 0.5F);
@@ -45,7 +44,8 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
     rig.app->applicationDidFinishLaunching();
     EXPECT_TRUE(rig.events.isEmpty());
 
-    rig.settings.runLoop.runPending();
+    rig.fade();
+    EXPECT_GT(rig.window.alphaValue(), 0.9F);
     EXPECT_EQ(rig.events.join(u' ').toStdString(), "configure donation version open a.mp4");
     EXPECT_TRUE(rig.desktop.openPanels.empty()) << "with a file the launch action does not run";
     EXPECT_FALSE(rig.app->isLaunching());
@@ -155,6 +155,7 @@ TEST(AppController, the_pointer_hides_after_the_delay_and_mouse_moves_put_it_off
     rig.launch();
     platform::MouseEvent move;
     move.locationInWindow = QPointF(700, 450);
+    rig.window.dispatchMouseMoved(move);
     rig.settings.runLoop.advance(9);
     rig.window.dispatchMouseMoved(move);
     rig.settings.runLoop.advance(9);
@@ -216,13 +217,16 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
     for (const bool hides : {true, false}) {
         AppRig rig(quiet({{kQVHideOnDeactivate, hides}, {kQVMainWindowLayer, 5}}));
         rig.launch();
+        const float shown = rig.window.alphaValue();
         rig.app->applicationWillResignActive();
+        rig.fade();
         EXPECT_EQ(rig.window.level(), platform::windowLevel::normal);
-        EXPECT_EQ(rig.window.alphaValue(), hides ? 0.0F : 1.0F);
+        EXPECT_EQ(rig.window.alphaValue(), hides ? 0.0F : shown);
         EXPECT_TRUE(rig.desktop.terminationReplies.empty());
         rig.app->applicationWillBecomeActive();
+        rig.fade();
         EXPECT_EQ(rig.window.level(), 5);
-        EXPECT_EQ(rig.window.alphaValue(), 1.0F);
+        EXPECT_EQ(rig.window.alphaValue(), shown);
     }
     AppRig rig(quiet({{kQVMainWindowLayer, -2}}));
     rig.launch();
@@ -381,6 +385,9 @@ TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_
     EXPECT_EQ(rig.app->applicationShouldTerminate(), platform::ApplicationDelegate::TerminateReply::later);
     EXPECT_FALSE(rig.view.isPlaying());
     EXPECT_FALSE(rig.view.isMuted());
+    EXPECT_EQ(rig.desktop.terminationReplies.empty(), rig.window.fadingOutInterval() >= 0.05)
+        << "the process ends when the window has vanished, not before";
+    rig.fade();
     EXPECT_EQ(rig.window.alphaValue(), 0.0F);
     EXPECT_EQ(rig.desktop.terminationReplies, std::vector<bool>{true});
     EXPECT_EQ(rig.events.join(u' ').toStdString(), "save");

@@ -16,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 /// The whole application but for the window system and the player: real controllers on a scripted toolkit and desktop.
@@ -34,8 +35,10 @@ public:
     void launch() {
         app->applicationWillFinishLaunching();
         app->applicationDidFinishLaunching();
-        settings.runLoop.runPending();
+        fade();
     }
+    /// As long as the window takes to appear, or to vanish.
+    void fade() { settings.runLoop.advance(std::max(window.fadingInInterval(), window.fadingOutInterval()) + 0.05); }
     /// Makes an empty file, which the toolkit opens as a movie, and answers its path.
     QString file(const QString& name) {
         const QString path = folder.filePath(name);

@@ -26,6 +26,8 @@ namespace {
 
 class SingleInstanceTest : public testing::Test {
 protected:
+    // No event loop has run in which objects left for later would end.
+    ~SingleInstanceTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
     static bool waitFor(const std::function<bool()>& done) {
         const QDeadlineTimer deadline(10000);
         QTimer wake; // what is waited for may come without an event
