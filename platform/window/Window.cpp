@@ -84,10 +84,12 @@ void Window::setAlphaValue(float alpha) {
     const float clamped = alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
     if (clamped == _alpha)
         return;
-    // Composed anew from its cached picture: the content is the same.
-    composeWhole();
+    // Composed anew from its cached picture: the content is the same. A window that vanishes is still seen before.
+    if (clamped == 0.0F)
+        composeWhole();
     _alpha = clamped;
-    composeWhole();
+    if (clamped > 0.0F)
+        composeWhole();
     if (_host)
         _host->alphaChanged();
 }
