@@ -12,7 +12,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -76,15 +75,6 @@ public:
         QStringList& _events;
     };
 
-    /// Fonts need it.
-    struct Application {
-        int count = 1;
-        char name[5] = "test";
-        char* arguments[2] = {name, nullptr};
-        QGuiApplication application{count, arguments};
-    };
-
-    Application application;
     QStringList events;
     TestSettings settings;
     FakeDesktop desktop;
