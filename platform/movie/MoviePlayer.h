@@ -24,6 +24,8 @@ public:
         virtual ~Observer() = default;
         /// A new picture is ready to be rendered.
         virtual void playerPictureChanged() = 0;
+        /// The same while playing: now is the moment to show it.
+        virtual void playerPictureDue() { playerPictureChanged(); }
         /// Time, playing or volume changed as a control bar shows them.
         virtual void playerStateChanged() = 0;
     };

@@ -2,6 +2,8 @@
 #include "platform/movie/MovieView.h"
 
 #include "platform/movie/Movie.h"
+#include "platform/window/Window.h"
+#include "platform/window/WindowHost.h"
 
 #include <QPainter>
 
@@ -184,6 +186,11 @@ bool MovieView::mouseDragged(const MouseEvent& event) {
 bool MovieView::mouseUp(const MouseEvent&) {
     _bar.release();
     return std::exchange(_tracking, false);
+}
+
+void MovieView::playerPictureDue() {
+    if (Window* shownIn = window(); shownIn && shownIn->host())
+        shownIn->host()->displayNow(convertToWindow(pictureRect()));
 }
 
 void MovieView::playerPictureChanged() {

@@ -70,6 +70,7 @@ protected:
 
 private:
     void playerPictureChanged() override;
+    void playerPictureDue() override;
     void playerStateChanged() override;
     QRectF controllerRect() const;
     void performController(const ControllerBar::Command& command);

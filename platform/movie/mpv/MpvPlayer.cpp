@@ -490,7 +490,7 @@ void MpvPlayer::picturesDue() {
         return;
     _pictureSinceSeek = true;
     if (_observer)
-        _observer->playerPictureChanged();
+        _observer->playerPictureDue();
     else
         _picture.skip();
     if (_keyframeTimer)

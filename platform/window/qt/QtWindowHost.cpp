@@ -195,17 +195,27 @@ void QtWindowHost::setPointerHidden(bool hidden) {
     setCursor(hidden ? Qt::BlankCursor : Qt::ArrowCursor);
 }
 
-void QtWindowHost::displayNeeded(const QRectF& rect) {
+bool QtWindowHost::markDirty(const QRectF& rect) {
     const QRect pixels = sceneGeometry::toCoveringPixels(rect, _root.frame().size(), devicePixelRatio())
                              .intersected(QRect(QPoint(0, 0), pixelSize()));
     if (pixels.isEmpty())
-        return;
+        return false;
     if (!isExposed()) {
         skipPictures();
-        return; // exposing paints everything
+        return false; // exposing paints everything
     }
     _dirty += pixels;
-    schedulePaint();
+    return true;
+}
+
+void QtWindowHost::displayNeeded(const QRectF& rect) {
+    if (markDirty(rect))
+        schedulePaint();
+}
+
+void QtWindowHost::displayNow(const QRectF& rect) {
+    if (markDirty(rect))
+        paint();
 }
 
 // Painting

@@ -46,6 +46,7 @@ public:
     void levelChanged() override;
     void orderedChanged() override;
     void displayNeeded(const QRectF& rect) override;
+    void displayNow(const QRectF& rect) override;
     void makeKeyAndOrderFront() override;
     void setPointerHidden(bool hidden) override;
     double pixelRatio() const override { return devicePixelRatio(); }
@@ -67,6 +68,7 @@ private:
     bool chooseOpenGL(Renderer renderer);
     void placeOnScreen();
     QSize pixelSize() const;
+    bool markDirty(const QRectF& rect);
     void schedulePaint();
     void paint();
     void paintSoftware(const QRegion& dirty);
