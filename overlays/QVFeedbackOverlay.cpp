@@ -1,15 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVFeedbackOverlay.h"
 
+#include "app/context/QVAppContext.h"
 #include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
+
+namespace {
+std::unique_ptr<QVFeedbackOverlay> sShared;
+} // namespace
 
 QVFeedbackOverlay& QVFeedbackOverlay::sharedFeedbackOverlay() {
-    static QVFeedbackOverlay overlay;
-    return overlay;
+    if (!sShared)
+        sShared = std::make_unique<QVFeedbackOverlay>(gAppController ? gAppController->window() : nullptr);
+    return *sShared;
+}
+
+void QVFeedbackOverlay::destroyShared() {
+    sShared.reset();
+}
+
+QVFeedbackOverlay::QVFeedbackOverlay(platform::Window* parent)
+    : QVTextOverlay(parent, kQVFeedbackOverlayStyle) {
+    orderFront();
 }
 
 void QVFeedbackOverlay::postFeedback(const QString& message) {
-    if (QVUserDefaults::standardUserDefaults().boolForKey(kQVDisplayFeedback))
-        _text = message;
+    if (!QVUserDefaults::standardUserDefaults().boolForKey(kQVDisplayFeedback))
+        return;
+    setText(message);
+    autopop();
 }

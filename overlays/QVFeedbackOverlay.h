@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include "overlays/QVTextOverlay.h"
 
-/// Short confirmations of commands. One for the process. Main thread.
-class QVFeedbackOverlay {
+/// Short confirmations of commands, each shown for a while. Main thread.
+class QVFeedbackOverlay final : public QVTextOverlay {
 public:
+    /// The one of the process, made on the first call above the application's main window, if there is one.
     static QVFeedbackOverlay& sharedFeedbackOverlay();
+    /// Ends the shared overlay, at termination; the next call would make another.
+    static void destroyShared();
+
+    explicit QVFeedbackOverlay(platform::Window* parent);
 
     /// Shows a message for a while, unless feedback is switched off (QVDisplayFeedback).
     void postFeedback(const QString& message);
-    /// The message posted last.
-    const QString& text() const { return _text; }
 
-    /// Seconds.
-    double fadingInInterval() const { return 0; }
-    double fadingDelayInterval() const { return 0; }
-
-private:
-    QString _text;
+protected:
+    const char* logName() const override { return "QVFeedbackOverlay"; }
 };

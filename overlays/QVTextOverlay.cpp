@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVTextOverlay.h"
+
+#include "app/settings/ColorText.h"
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/Tracing.h"
+#include "platform/window/Fonts.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Room under the last line, as a share of the font's size.
+constexpr double kRoomBelow = 0.125;
+
+float smallestFontSize() {
+    return static_cast<float>(QVUserDefaults::standardUserDefaults().integerForKey(kQVOverlayTextFontSizeMin));
+}
+
+QString wholePoints(float size) {
+    return QString::number(static_cast<double>(size), 'f', 0);
+}
+
+} // namespace
+
+QVTextOverlay::QVTextOverlay(platform::Window* parent, const QString& style)
+    : QVChildOverlay(parent, style)
+    , _containerWidth(parent ? parent->frame().width() : static_cast<double>(QVLargeNumberForText)) {
+    overlayContentView().addSubview(_view);
+    const auto defaults = styleDefaults();
+    _base_font_size = static_cast<float>(styleValue(defaults, &QVOverlayStyleDefaults::textFontSize));
+    _min_font_size = std::min(smallestFontSize(), _base_font_size);
+    _view.setFont(
+        platform::fontWithFamilyName(styleValue(defaults, &QVOverlayStyleDefaults::textFontName), _base_font_size));
+    const QColor color = styleValue(defaults, &QVOverlayStyleDefaults::textColor).value_or(QColor());
+    _view.setTextColor(color);
+    setFrameColor(color);
+    setShadowOn(styleValue(defaults, &QVOverlayStyleDefaults::shadowOn));
+    sizeToFit();
+}
+
+void QVTextOverlay::setText(const QString& text) {
+    if (text == _view.text())
+        return;
+    trace("%@: Set Text: %@", logName(), text);
+    _view.setText(text);
+    sizeToFit();
+}
+
+void QVTextOverlay::setTextFont(const QFont& font) {
+    _view.setFont(font);
+    sizeToFit();
+}
+
+void QVTextOverlay::setTextFontName(const QString& family) {
+    setTextFont(platform::fontWithFamilyName(family, platform::pointSizeOf(_view.font())));
+    trace("%@: Changed text font to \"%@\"", logName(), family);
+}
+
+void QVTextOverlay::setTextFontSize(float size) {
+    if (size == _base_font_size)
+        return;
+    _min_font_size = std::min(_min_font_size, size);
+    _base_font_size = size;
+    trace("%@: Changed text size to: %.0f", logName(), wholePoints(size));
+    recalculateFontSize();
+}
+
+void QVTextOverlay::setTextFontSizeMin(float size) {
+    if (size == _min_font_size)
+        return;
+    _base_font_size = std::max(_base_font_size, size);
+    _min_font_size = size;
+    trace("%@: Changed minimum text size to: %.0f", logName(), wholePoints(size));
+    recalculateFontSize();
+}
+
+void QVTextOverlay::setTextColor(const QColor& color) {
+    _view.setTextColor(color);
+    setFrameColor(color);
+    sizeToFit();
+    trace("%@: Changed text color to: %@", logName(), JHStringFromColor(color));
+}
+
+void QVTextOverlay::setShadowOn(bool flag) {
+    if (flag && !_view.shadow()) {
+        const auto defaults = styleDefaults();
+        _view.setShadow(QVShadow{styleValue(defaults, &QVOverlayStyleDefaults::shadowOffset),
+                                 styleValue(defaults, &QVOverlayStyleDefaults::shadowBlurRadius),
+                                 styleValue(defaults, &QVOverlayStyleDefaults::shadowColor).value_or(QColor())});
+    } else if (!flag) {
+        _view.setShadow(std::nullopt);
+    }
+    _view.setNeedsDisplay();
+}
+
+template <class Change>
+void QVTextOverlay::changeShadow(Change change) {
+    if (!_view.shadow())
+        return;
+    QVShadow shadow = *_view.shadow();
+    change(shadow);
+    _view.setShadow(shadow);
+}
+
+void QVTextOverlay::setShadowOffset(const QSizeF& offset) {
+    changeShadow([&](QVShadow& shadow) { shadow.offset = offset; });
+}
+
+void QVTextOverlay::setShadowBlurRadius(float radius) {
+    changeShadow([&](QVShadow& shadow) { shadow.blurRadius = radius; });
+}
+
+void QVTextOverlay::setShadowColor(const QColor& color) {
+    changeShadow([&](QVShadow& shadow) { shadow.color = color; });
+}
+
+void QVTextOverlay::recalculateFontSize() {
+    setTextFont(platform::convertedFont(_view.font(), _base_font_size));
+}
+
+void QVTextOverlay::sizeToFit() {
+    const double height = parentWindow() ? parentWindow()->frame().height() : static_cast<double>(QVLargeNumberForText);
+    const double room = kRoomBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
+    _view.setContainerSize(QSizeF(_containerWidth, height - room));
+    _view.sizeToFit();
+    const QRectF fitted = _view.frame();
+    _view.setFrame(QRectF(fitted.topLeft(), QSizeF(fitted.width(), fitted.height() + room)));
+    contentSizeChanged();
+}
+
+void QVTextOverlay::adoptNewOverlayFrame(const QRectF& frame) {
+    const QSizeF view = _view.bounds().size();
+    _view.setFrame(QRectF(QPointF((frame.width() - view.width()) * 0.5, (frame.height() - view.height()) * 0.5), view));
+    _view.setNeedsDisplay();
+}
+
+bool QVTextOverlay::changeStyle(const QString& key, const std::optional<QVOverlayStyleDefaults>& style) {
+    if (key == kTextColor)
+        setTextColor(styleValue(style, &QVOverlayStyleDefaults::textColor).value_or(QColor()));
+    else if (key == kTextFontName)
+        setTextFontName(styleValue(style, &QVOverlayStyleDefaults::textFontName));
+    else if (key == kTextFontSize)
+        setTextFontSize(static_cast<float>(styleValue(style, &QVOverlayStyleDefaults::textFontSize)));
+    else if (key == kShadowOn)
+        setShadowOn(styleValue(style, &QVOverlayStyleDefaults::shadowOn));
+    else if (key == kShadowColor)
+        setShadowColor(styleValue(style, &QVOverlayStyleDefaults::shadowColor).value_or(QColor()));
+    else if (key == kShadowRadius)
+        setShadowBlurRadius(styleValue(style, &QVOverlayStyleDefaults::shadowBlurRadius));
+    else if (key == kShadowOffset)
+        setShadowOffset(styleValue(style, &QVOverlayStyleDefaults::shadowOffset));
+    else
+        return false;
+    return true;
+}
+
+bool QVTextOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key == kQVOverlayTextFontSizeMin) { // of no style: every text overlay follows it
+        setTextFontSizeMin(smallestFontSize());
+        return false;
+    }
+    bool handledAll = notification.key == style();
+    if (handledAll) {
+        const auto defaults = styleDefaults();
+        for (const QString& key : notification.styleKeys)
+            handledAll = changeStyle(key, defaults) && handledAll;
+    }
+    return handledAll || QVChildOverlay::preferencesChanged(notification);
+}

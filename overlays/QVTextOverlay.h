@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "overlays/QVChildOverlay.h"
+#include "platform/window/TextView.h"
+
+#include <QFont>
+
+/// The platform's own objects serve as they are.
+using QVTextView = platform::TextView;
+using QVShadow = platform::Shadow;
+
+/// The practically unbounded extent of a text's container, points.
+inline constexpr float QVLargeNumberForText = 1e7F;
+
+/// A child overlay as large as its one text, which is centred and wraps at the parent's width. Main thread.
+class QVTextOverlay : public QVChildOverlay {
+public:
+    explicit QVTextOverlay(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle);
+
+    const QString& text() const { return _view.text(); }
+    /// A null text is the empty one. The text that is shown already costs nothing.
+    void setText(const QString& text);
+
+    QFont textFont() const { return _view.font(); }
+    void setTextFont(const QFont& font);
+    void setTextFontName(const QString& family);
+    /// Points. The smallest size never lies above the size: setting one moves the other where needed.
+    float textFontSize() const { return _base_font_size; }
+    void setTextFontSize(float size);
+    float textFontSizeMin() const { return _min_font_size; }
+    void setTextFontSizeMin(float size);
+    QColor textColor() const { return _view.textColor(); }
+    /// Also the colour of the panel's line.
+    void setTextColor(const QColor& color);
+
+    /// Takes the shadow of the style when there is none yet.
+    void setShadowOn(bool flag);
+    // These change the shadow that there is, if any.
+    void setShadowOffset(const QSizeF& offset);
+    void setShadowBlurRadius(float radius);
+    void setShadowColor(const QColor& color);
+    const std::optional<QVShadow>& shadow() const { return _view.shadow(); }
+
+    /// Gives the text the size that it should have now.
+    virtual void recalculateFontSize();
+    /// Fits the view to its text and the window to the view.
+    void sizeToFit();
+    QSizeF contentSize() const override { return _view.bounds().size(); }
+
+    bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
+
+protected:
+    const char* logName() const override { return "QVTextOverlay"; }
+    void adoptNewOverlayFrame(const QRectF& frame) override;
+
+    const QVTextView& textView() const { return _view; }
+
+private:
+    bool changeStyle(const QString& key, const std::optional<QVOverlayStyleDefaults>& style);
+    template <class Change>
+    void changeShadow(Change change);
+
+    QVTextView _view;
+    float _base_font_size = 0;
+    float _min_font_size = 0;
+    double _containerWidth;
+};

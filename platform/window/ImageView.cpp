@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/ImageView.h"
+
+#include <QPainter>
+
+namespace platform {
+
+namespace {
+/// Pixels a side up to which a shrunken image is made whole; beyond, only its visible part is drawn.
+constexpr double kLargestWhole = 4096;
+} // namespace
+
+void ImageView::setImage(const QImage& image) {
+    _image = image;
+    setNeedsDisplay();
+}
+
+void ImageView::draw(QPainter& painter, const QRectF&) {
+    if (_image.isNull() || bounds().isEmpty())
+        return;
+    const QTransform toDevice = painter.deviceTransform();
+    const QSizeF pixels(bounds().width() * toDevice.m11(), bounds().height() * toDevice.m22());
+    const bool shrinks = pixels.width() < _image.width() || pixels.height() < _image.height();
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // Neighbours are enough to enlarge an image; a smaller one must take in every pixel.
+    if (shrinks && pixels.width() >= 1 && pixels.height() >= 1 && pixels.width() <= kLargestWhole &&
+        pixels.height() <= kLargestWhole)
+        painter.drawImage(bounds(), _image.scaled(pixels.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    else
+        painter.drawImage(bounds(), _image);
+    painter.restore();
+}
+
+} // namespace platform

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/TextLayout.h"
+
+#include <QPainter>
+#include <QTextOption>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+// What no screen shows.
+constexpr qsizetype kMostCharacters = 4096;
+constexpr double kLargestSide = 8192;
+
+double side(double points) {
+    return std::isfinite(points) ? std::clamp(points, 1.0, kLargestSide) : kLargestSide;
+}
+
+} // namespace
+
+QString displayableText(const QString& text) {
+    QString result;
+    result.reserve(std::min(text.size(), kMostCharacters));
+    for (qsizetype at = 0; at < text.size() && result.size() < kMostCharacters; ++at) {
+        const QChar character = text[at];
+        const QChar next = at + 1 < text.size() ? text[at + 1] : QChar();
+        if (character == u'\r') {
+            if (next != u'\n')
+                result += u'\n';
+        } else if (character == u'\n' || character == u'\v' || character == u'\f' || character == u'\x85' ||
+                   character == QChar::LineSeparator || character == QChar::ParagraphSeparator) {
+            result += u'\n';
+        } else if (character == u'\t') {
+            result += u' ';
+        } else if (character.isHighSurrogate() && next.isLowSurrogate()) {
+            result += character;
+            result += next;
+            ++at;
+        } else if (character.isSurrogate() || character == QChar::ObjectReplacementCharacter) {
+            result += QChar(QChar::ReplacementCharacter);
+        } else if (character.category() != QChar::Other_Control) {
+            result += character;
+        }
+    }
+    return result;
+}
+
+TextLayout::TextLayout(const QString& text, const QFont& font, const QSizeF& container)
+    : _container(side(container.width()), side(container.height()))
+    , _size(0, 0) {
+    const QString displayed = displayableText(text);
+    qsizetype start = 0;
+    while (!_full && start <= displayed.size()) {
+        const qsizetype found = displayed.indexOf(u'\n', start);
+        const qsizetype end = found < 0 ? displayed.size() : found;
+        addParagraph(displayed.mid(start, end - start), font);
+        start = end + 1;
+    }
+    _size = QSizeF(std::min(std::ceil(_size.width()), _container.width()),
+                   std::min(std::ceil(_size.height()), _container.height()));
+}
+
+void TextLayout::addParagraph(const QString& text, const QFont& font) {
+    Paragraph paragraph{std::make_unique<QTextLayout>(text, font)};
+    QTextLayout& layout = *paragraph.layout;
+    QTextOption option(Qt::AlignHCenter);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setUseDesignMetrics(true);
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(_container.width());
+        const double bottom = _size.height() + line.height();
+        _full = bottom > _container.height() && _size.height() > 0;
+        if (_full)
+            break;
+        line.setPosition(QPointF(0, _size.height()));
+        _size = QSizeF(std::max(_size.width(), line.naturalTextWidth()), bottom);
+        ++paragraph.lines;
+    }
+    layout.endLayout();
+    _paragraphs.push_back(std::move(paragraph));
+}
+
+void TextLayout::draw(QPainter& painter, double width) const {
+    const QPointF origin((width - _container.width()) / 2, 0);
+    for (const Paragraph& paragraph : _paragraphs) {
+        for (int line = 0; line < paragraph.lines; ++line)
+            paragraph.layout->lineAt(line).draw(&painter, origin);
+    }
+}
+
+} // namespace platform

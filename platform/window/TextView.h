@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/window/Shadow.h"
+#include "platform/window/TextLayout.h"
+#include "platform/window/View.h"
+
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace platform {
+
+/// A view that shows one text, centred, from its top downwards. The text is laid out when it, its font or its
+/// container changed, and painted with its shadow when it is drawn anew at another pixel ratio or in other colours.
+/// Values are kept as they were set; what cannot be drawn is brought back to what can. Main thread.
+class TextView final : public View {
+public:
+    const QString& text() const { return _text; }
+    void setText(const QString& text);
+    QFont font() const { return _font; }
+    void setFont(const QFont& font);
+    QColor textColor() const { return _textColor; }
+    void setTextColor(const QColor& color);
+    const std::optional<Shadow>& shadow() const { return _shadow; }
+    void setShadow(const std::optional<Shadow>& shadow);
+
+    /// Lines wrap at the width, and those below the height are left out; points.
+    QSizeF containerSize() const { return _container; }
+    void setContainerSize(const QSizeF& size);
+
+    /// Makes the view as large as its text, in whole points, where it stands.
+    void sizeToFit();
+
+    void draw(QPainter& painter, const QRectF& dirty) override;
+
+private:
+    const TextLayout& layout();
+    void layoutChanged();
+    void paintingChanged();
+    QImage painted(double pixelRatio);
+
+    QString _text;
+    QFont _font;
+    QColor _textColor;
+    std::optional<Shadow> _shadow;
+    QSizeF _container{1e7, 1e7};
+    std::unique_ptr<TextLayout> _layout; // null while it has to be made
+    QImage _picture;                     // of the text and its shadow; null while it has to be made
+    double _pictureRatio = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/OverlayPlacement.h"
+#include "overlays/QVChildOverlay.h"
+#include "tests/overlays/OverlayRig.h"
+#include "tests/support/CapturedLog.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+class Box : public QVChildOverlay {
+public:
+    explicit Box(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle)
+        : QVChildOverlay(parent, style) {
+        contentSizeChanged();
+    }
+    QSizeF contentSize() const override { return {100, 20}; }
+    using QVChildOverlay::overlayContentView;
+};
+
+} // namespace
+
+TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
+    const QRectF parent(100, 50, 1024, 768);
+    const struct {
+        std::uint32_t code;
+        QPointF origin;
+    } cases[] = {
+        {0x100, {512, 409}}, {0x101, {120, 409}}, {0x102, {904, 409}}, {0x110, {512, 748}}, {0x111, {120, 748}},
+        {0x112, {904, 748}}, {0x120, {512, 70}},  {0x121, {120, 70}},  {0x122, {904, 70}},  {0x133, {100, 50}},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(OverlayPlacement::placedInParent(QRectF(-7, -7, 200, 50), c.code, parent, 20),
+                  QRectF(c.origin, QSizeF(200, 50)))
+            << std::hex << c.code;
+    }
+    EXPECT_EQ(OverlayPlacement::horizontalOrigin(1, parent, 10, std::numeric_limits<double>::quiet_NaN()), 100);
+}
+
+TEST(OverlayPlacement, the_panel_reaches_beyond_the_content) {
+    const float huge = std::numeric_limits<float>::infinity();
+    const struct {
+        OverlayPlacement::Panel panel;
+        double margin;
+    } cases[] = {
+        {{true, true, 10, true, 2}, 7},  {{true, true, 10, false, 2}, 5},  {{true, false, 10, true, 2}, 2},
+        {{false, true, 10, true, 2}, 0}, {{true, true, -10, true, -2}, 0}, {{true, true, huge, true, 2}, 2},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(OverlayPlacement::backgroundMargin(c.panel), c.margin);
+}
+
+TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
+    OverlayRig rig;
+    Box box(&rig.window);
+    EXPECT_EQ(box.frame(), QRectF(20, 20, 114, 34));
+    EXPECT_TRUE(box.isOrderedIn());
+    box.setAlignmentStyle(0x112);
+    EXPECT_EQ(box.frame(), QRectF(1024 - 114 - 20, 768 - 34 - 20, 114, 34));
+    rig.window.setFrame(QRectF(50, 0, 640, 480));
+    EXPECT_EQ(box.frame(), QRectF(50 + 640 - 114 - 20, 480 - 34 - 20, 114, 34));
+    EXPECT_EQ(box.overlayContentView().frame(), QRectF(0, 0, 114, 34));
+    box.setAlignmentStyle(0x021);
+    EXPECT_EQ(box.frame(), QRectF(-7, -7, 114, 34)) << "placed by others";
+
+    platform::Window other(QRectF(0, 0, 300, 200));
+    box.setAlignmentStyle(0x122);
+    box.setParentWindow(&other);
+    rig.window.setFrame(QRectF(0, 0, 100, 100));
+    other.setFrame(QRectF(0, 0, 400, 200));
+    EXPECT_EQ(box.frame().x(), 400 - 114 - 20);
+    box.setParentWindow(nullptr);
+    other.setFrame(QRectF(0, 0, 500, 200));
+    EXPECT_EQ(box.frame().x(), 400 - 114 - 20);
+}
+
+TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
+    OverlayRig rig;
+    Box box(&rig.window);
+    box.setFrameOn(false);
+    EXPECT_EQ(box.frame().size(), QSizeF(110, 30));
+    box.setRadius(20);
+    EXPECT_EQ(box.frame().size(), QSizeF(120, 40));
+    box.setBackgroundRounded(false);
+    EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
+    box.setPadding(5);
+    EXPECT_EQ(box.frame().topLeft(), QPointF(5, 5));
+
+    rig.change(kBackgroundRounded, true);
+    rig.change(kBackgroundRadius, 30.0);
+    rig.change(kFrameWidth, 3.0);
+    rig.change(kFrameOn, true);
+    rig.change(kAlignment, 0x101);
+    EXPECT_EQ(box.frame(), QRectF(5, (768 - 56) / 2.0, 136, 56));
+    rig.change(kBackgroundOn, false);
+    EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
+    EXPECT_TRUE(box.preferencesChanged({kQVDefaultOverlayStyle, {kFrameOn, kAlignment}}));
+    EXPECT_TRUE(box.preferencesChanged({kQVDefaultOverlayStyle, {kMaxAlpha}})) << "the base's answer";
+    EXPECT_FALSE(box.preferencesChanged({kQVDefaultOverlayStyle, {kFrameOn, kMaxAlpha}})) << "the base's answer";
+    rig.change(kMaxAlpha, 0.5);
+    rig.change(kBackgroundColor, QStringLiteral("0 1 0 1"));
+    EXPECT_EQ(box.maxAlpha(), 0.5F);
+    EXPECT_EQ(box.overlayContentView().backgroundColor(), QColor(Qt::green));
+}
+
+TEST(QVChildOverlay, a_missing_style_and_a_missing_parent_leave_it_where_it_is) {
+    OverlayRig rig;
+    rig.settings.defaults().setObject(QStringLiteral("Gone"), kQVOSDOverlayStyle);
+    EXPECT_EQ(Box(&rig.window, kQVOSDOverlayStyle).frame(), QRectF(0, 0, 100, 20));
+    EXPECT_EQ(Box(nullptr).frame(), QRectF(-7, -7, 114, 34));
+    CapturedLog log;
+    QVChildOverlay plain(&rig.window);
+    plain.contentSizeChanged();
+    EXPECT_TRUE(log.contains(QStringLiteral("ERROR: Overlay QVChildOverlay: uses generic contentSize:")));
+}
+
+TEST(QVOverlayContentView, draws_the_panel_and_the_line_around_it) {
+    QVOverlayContentView view;
+    view.setFrame(QRectF(0, 0, 40, 20));
+    view.setBackgroundColor(Qt::blue);
+    view.setFrameWidth(4);
+    view.setFrameOn(true);
+    const auto drawn = [&view] {
+        QImage image(40, 20, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::red);
+        QPainter painter(&image);
+        view.draw(painter, view.bounds());
+        return image;
+    };
+    EXPECT_EQ(drawn().pixelColor(20, 10).alpha(), 0) << "no background, no line, and what was there is gone";
+    view.setBackgroundOn(true);
+    EXPECT_EQ(drawn().pixelColor(1, 10), QColor(Qt::blue)) << "without a colour of its own the line has the panel's";
+    view.setFrameColor(Qt::green);
+    EXPECT_EQ(drawn().pixelColor(20, 10), QColor(Qt::blue));
+    for (const QPoint edge : {QPoint(1, 10), QPoint(38, 10), QPoint(20, 1), QPoint(20, 18), QPoint(0, 0)})
+        EXPECT_EQ(drawn().pixelColor(edge), QColor(Qt::green));
+    view.setBackgroundRounded(true);
+    view.setRadius(8);
+    EXPECT_EQ(drawn().pixelColor(0, 0).alpha(), 0);
+    for (const float absurd : {1e9F, -1e9F, std::numeric_limits<float>::quiet_NaN()}) {
+        view.setRadius(absurd);
+        view.setFrameWidth(absurd);
+        EXPECT_EQ(drawn().pixelColor(20, 10).alpha(), 255) << absurd;
+    }
+}

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVFadeCalculator.h"
+#include "overlays/QVParentOverlay.h"
+#include "tests/overlays/OverlayRig.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+using State = QVStyledOverlay::FadingState;
+
+class Overlay : public QVParentOverlay {
+public:
+    explicit Overlay(const QString& style = kQVDefaultOverlayStyle)
+        : QVParentOverlay(QRectF(0, 0, 100, 50), style) {
+        orderFront();
+    }
+    int fadedIn = 0;
+    int fadedOut = 0;
+
+protected:
+    void postFadeIn() override {
+        QVParentOverlay::postFadeIn();
+        ++fadedIn;
+    }
+    void postFadeOut() override {
+        QVParentOverlay::postFadeOut();
+        ++fadedOut;
+    }
+};
+
+class Fading : public testing::Test {
+protected:
+    Fading() { advance(60); } // the settings are written
+    void advance(double seconds) { rig.settings.runLoop.advance(seconds); }
+    std::size_t timers() { return rig.settings.runLoop.pendingCount(); }
+
+    OverlayRig rig;
+    Overlay overlay;
+};
+
+} // namespace
+
+TEST_F(Fading, a_new_overlay_is_hidden) {
+    EXPECT_EQ(overlay.fadingState(), State::idle);
+    EXPECT_EQ(overlay.alphaValue(), 0);
+    EXPECT_FALSE(overlay.isVisible());
+}
+
+TEST_F(Fading, showing_rises_evenly_and_ends_at_the_largest_opacity) {
+    overlay.setMinAlpha(0.2F);
+    overlay.setMaxAlpha(0.8F);
+    overlay.hide();
+    advance(1);
+    ASSERT_EQ(overlay.alphaValue(), 0.2F);
+    overlay.show();
+    EXPECT_EQ(overlay.fadingState(), State::fadingIn);
+    EXPECT_TRUE(overlay.isVisible());
+    advance(0.3);
+    EXPECT_NEAR(overlay.alphaValue(), 0.5, 1e-3);
+    overlay.show();
+    advance(0.25);
+    EXPECT_EQ(overlay.fadingState(), State::fadingIn);
+    advance(0.1);
+    EXPECT_EQ(overlay.fadingState(), State::idle);
+    EXPECT_EQ(overlay.alphaValue(), 0.8F);
+    EXPECT_EQ(overlay.fadedIn, 1);
+    EXPECT_EQ(timers(), 0U);
+}
+
+TEST_F(Fading, a_fade_is_taken_back_from_where_it_stands) {
+    overlay.show();
+    advance(1.1);
+    overlay.hide();
+    EXPECT_EQ(overlay.fadingState(), State::fadingOut);
+    EXPECT_FALSE(overlay.isVisible()) << "although it can still be seen";
+    advance(0.25);
+    EXPECT_NEAR(overlay.alphaValue(), 0.5, 1e-3);
+    overlay.hide();
+    EXPECT_EQ(timers(), 1U);
+    overlay.show();
+    EXPECT_EQ(timers(), 1U) << "the fade-out was stopped";
+    EXPECT_NEAR(overlay.alphaValue(), 0.5, 1e-3);
+    advance(0.25);
+    EXPECT_NEAR(overlay.alphaValue(), 0.75, 1e-3);
+    overlay.hide();
+    advance(0.45);
+    EXPECT_EQ(overlay.fadingState(), State::idle);
+    EXPECT_EQ(overlay.alphaValue(), 0);
+    EXPECT_EQ(overlay.fadedOut, 1);
+    EXPECT_EQ(timers(), 0U);
+}
+
+TEST_F(Fading, a_late_step_does_not_lengthen_the_fade) {
+    const QVFadeCalculator ramp = QVFadeCalculator::fadeOutCalculator(2, 0.75);
+    EXPECT_DOUBLE_EQ(ramp.valueNow(), 0.75);
+    advance(1);
+    EXPECT_DOUBLE_EQ(ramp.valueNow(), 0.25);
+    advance(1);
+    EXPECT_DOUBLE_EQ(ramp.valueNow(), -0.25) << "the ramp runs on";
+    EXPECT_DOUBLE_EQ(QVFadeCalculator().valueNow(), 0);
+}
+
+TEST_F(Fading, intervals_too_short_for_a_step_or_absurd_fade_at_once) {
+    for (const double interval : {0.04, 0.0, -3.0, std::numeric_limits<double>::quiet_NaN()}) {
+        overlay.setFadingInInterval(interval);
+        overlay.setFadingOutInterval(interval);
+        overlay.show();
+        EXPECT_EQ(overlay.alphaValue(), 1) << interval;
+        EXPECT_EQ(overlay.fadingState(), State::idle) << interval;
+        overlay.hide();
+        EXPECT_EQ(overlay.alphaValue(), 0) << interval;
+        EXPECT_EQ(overlay.fadingState(), State::idle) << interval;
+        EXPECT_EQ(timers(), 0U) << interval;
+    }
+}
+
+TEST_F(Fading, popping_up_shows_holds_and_hides) {
+    overlay.autopop();
+    EXPECT_EQ(overlay.fadingState(), State::fadingIn);
+    advance(0.5);
+    overlay.autopop();
+    EXPECT_NEAR(overlay.alphaValue(), 0.5, 1e-3) << "the fade goes on";
+    advance(0.6);
+    EXPECT_EQ(overlay.fadingState(), State::delaying);
+    EXPECT_EQ(timers(), 1U);
+    advance(1.5);
+    overlay.autopop();
+    advance(1.9);
+    EXPECT_EQ(overlay.fadingState(), State::delaying) << "the hold began again";
+    EXPECT_EQ(overlay.alphaValue(), 1);
+    advance(0.2);
+    EXPECT_EQ(overlay.fadingState(), State::fadingOut);
+    overlay.autopop();
+    EXPECT_EQ(overlay.fadingState(), State::fadingIn);
+    advance(4);
+    EXPECT_EQ(overlay.fadingState(), State::idle);
+    EXPECT_FALSE(overlay.isAutopop());
+    EXPECT_EQ(overlay.fadedIn, 2);
+    EXPECT_EQ(overlay.fadedOut, 1);
+}
+
+TEST_F(Fading, a_hold_ends_with_hide_and_goes_on_without_popping_up) {
+    overlay.autopop();
+    advance(1.1);
+    overlay.hide();
+    EXPECT_EQ(overlay.fadingState(), State::fadingOut);
+    advance(0.6);
+    EXPECT_EQ(timers(), 0U);
+    overlay.delay();
+    advance(3);
+    EXPECT_EQ(overlay.fadingState(), State::delaying);
+    overlay.autopop();
+    advance(2.1);
+    EXPECT_EQ(overlay.fadingState(), State::idle) << "hidden already: through fading out at once";
+    EXPECT_FALSE(overlay.isAutopop());
+}
+
+TEST_F(Fading, the_limits_push_each_other_and_move_a_resting_overlay) {
+    overlay.setMaxAlpha(0.6F);
+    EXPECT_EQ(overlay.alphaValue(), 0.6F) << "a hidden overlay appears";
+    overlay.setMinAlpha(0.7F);
+    EXPECT_EQ(overlay.maxAlpha(), 0.7F);
+    EXPECT_EQ(overlay.alphaValue(), 0.7F);
+    overlay.setMinAlpha(0.1F);
+    EXPECT_EQ(overlay.alphaValue(), 0.7F);
+    overlay.setMaxAlpha(0.05F);
+    EXPECT_EQ(overlay.minAlpha(), 0.05F);
+    EXPECT_EQ(overlay.alphaValue(), 0.05F);
+    overlay.setMaxAlpha(1);
+    overlay.hide();
+    advance(0.1);
+    const float fading = overlay.alphaValue();
+    overlay.setMaxAlpha(0.9F);
+    EXPECT_EQ(overlay.alphaValue(), fading) << "a fade is not disturbed";
+}
+
+TEST_F(Fading, limits_that_no_window_can_reach_still_end_a_fade) {
+    for (const float largest : {5.0F, 1e9F}) {
+        overlay.setMaxAlpha(largest);
+        overlay.hide();
+        advance(2);
+        overlay.show();
+        advance(2);
+        EXPECT_EQ(overlay.fadingState(), State::idle) << largest;
+        EXPECT_EQ(overlay.alphaValue(), 1) << largest;
+    }
+    overlay.setMinAlpha(-1e9F);
+    overlay.setMaxAlpha(std::numeric_limits<float>::quiet_NaN());
+    overlay.hide();
+    overlay.show();
+    advance(2);
+    EXPECT_EQ(timers(), 0U);
+    EXPECT_EQ(overlay.alphaValue(), 0);
+}
+
+TEST_F(Fading, a_style_that_is_missing_leaves_the_overlay_transparent) {
+    rig.settings.defaults().setObject(QStringLiteral("Gone"), kQVOSDOverlayStyle);
+    Overlay unstyled(kQVOSDOverlayStyle);
+    unstyled.show();
+    EXPECT_EQ(unstyled.alphaValue(), 0);
+    EXPECT_EQ(unstyled.fadingState(), State::idle);
+    EXPECT_FALSE(unstyled.isVisible());
+    unstyled.autopop();
+    advance(1);
+    EXPECT_EQ(timers(), 0U);
+}
+
+TEST_F(Fading, changes_of_the_own_style_are_taken_over) {
+    rig.change(kFadingInInterval, 3.0);
+    rig.change(kFadingOutInterval, 4.0);
+    rig.change(kFadingDelayInterval, 5.0);
+    rig.change(kMinAlpha, 0.25);
+    rig.change(kMaxAlpha, 0.5);
+    rig.change(kBackgroundColor, QStringLiteral("1 0 0 1"));
+    EXPECT_EQ(overlay.fadingInInterval(), 3);
+    EXPECT_EQ(overlay.fadingOutInterval(), 4);
+    EXPECT_EQ(overlay.fadingDelayInterval(), 5);
+    EXPECT_EQ(overlay.minAlpha(), 0.25F);
+    EXPECT_EQ(overlay.maxAlpha(), 0.5F);
+    EXPECT_EQ(overlay.backgroundColor(), QColor(Qt::red));
+    EXPECT_TRUE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kMinAlpha, kMaxAlpha}}));
+    EXPECT_FALSE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kMinAlpha, kAlignment}}));
+    EXPECT_FALSE(overlay.preferencesChanged({kQVOSDOverlayStyle, {kMinAlpha}}));
+}
+
+TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
+    Overlay seen, unseen;
+    for (Overlay* child : {&seen, &unseen})
+        overlay.addChildWindow(*child);
+    seen.show();
+    EXPECT_EQ(seen.fadingState(), State::idle) << "under a hidden parent nothing is shown";
+    overlay.show();
+    seen.show();
+    {
+        Overlay gone;
+        overlay.addChildWindow(gone);
+        gone.show();
+        advance(2);
+        overlay.hide();
+        EXPECT_EQ(seen.fadingState(), State::fadingOut);
+        EXPECT_EQ(unseen.fadingState(), State::idle);
+        overlay.hide();
+    }
+    advance(1);
+    unseen.show();
+    overlay.show();
+    advance(2);
+    EXPECT_TRUE(seen.isVisible());
+    EXPECT_FALSE(unseen.isVisible());
+    overlay.orderOut();
+    EXPECT_FALSE(overlay.isVisible());
+}

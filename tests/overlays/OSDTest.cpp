@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/context/Notifications.h"
+#include "overlays/ClockText.h"
+#include "overlays/OSDTexts.h"
+#include "overlays/QVFeedbackOverlay.h"
+#include "overlays/QVOSDOverlay.h"
+#include "overlays/QVParentOverlay.h"
+#include "tests/overlays/OverlayRig.h"
+#include "tests/support/FakeApp.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class CountingTexts final : public OSDTexts {
+public:
+    std::int32_t time = 61;
+    mutable int asked = 0;
+    std::int32_t timeInSeconds() const override { return ++asked, time; }
+    std::int32_t durationInSeconds() const override { return 7325; }
+    QString currentMovieInfo() const override { return ++asked, QStringLiteral("A film (1/2)"); }
+    QString currentSubtitlesInfo() const override { return ++asked, QStringLiteral("English"); }
+    QString loopingInfo() const override { return ++asked, QStringLiteral("Looping"); }
+    QString volumeInfo() const override { return ++asked, QStringLiteral("Volume: 50%"); }
+};
+
+class OSD : public testing::Test {
+protected:
+    OSD() { QVOSDOverlay::setTexts(&texts); }
+    ~OSD() override { QVOSDOverlay::setTexts(nullptr); }
+
+    template <class Notification>
+    int refreshesOf(const Notification& notification) {
+        const int before = texts.asked;
+        platform::NotificationCenter::defaultCenter().post(notification);
+        return texts.asked - before;
+    }
+
+    OverlayRig rig;
+    CountingTexts texts;
+    QVOSDOverlay osd{&rig.window};
+};
+
+} // namespace
+
+TEST_F(OSD, cycles_through_its_displays_both_ways) {
+    const QString shown[] = {QString(),
+                             QStringLiteral("Time: 0:01:01/2:02:05"),
+                             QStringLiteral("Movie: A film (1/2)"),
+                             QStringLiteral("English"),
+                             QStringLiteral("Looping"),
+                             QStringLiteral("Volume: 50%")};
+    for (const int type : {1, 2, 3, 4, 5}) {
+        osd.cycleDisplays(+1);
+        EXPECT_EQ(osd.displayType(), type);
+        EXPECT_EQ(osd.text(), shown[type]);
+        EXPECT_TRUE(osd.isVisible());
+    }
+    osd.cycleDisplays(+1);
+    EXPECT_EQ(osd.displayType(), 0);
+    EXPECT_FALSE(osd.isVisible());
+    for (const int type : {5, 4, 3, 2, 1, 0}) {
+        osd.cycleDisplays(-1);
+        EXPECT_EQ(osd.displayType(), type);
+    }
+    EXPECT_FALSE(osd.isVisible());
+    osd.setDisplayType(3);
+    osd.setDisplayType(9);
+    EXPECT_EQ(osd.text(), shown[3]);
+    EXPECT_TRUE(osd.isVisible()) << "a type that there is not changes nothing";
+}
+
+TEST_F(OSD, refreshes_only_on_what_its_display_shows) {
+    const struct {
+        int type, movie, time, subtitles, volume, looping;
+    } cases[] = {{0, 0, 0, 0, 0, 0}, {1, 1, 1, 0, 0, 0}, {2, 1, 0, 0, 0, 0},
+                 {3, 0, 0, 1, 0, 0}, {4, 0, 0, 0, 0, 1}, {5, 0, 0, 0, 1, 0}};
+    for (const auto& c : cases) {
+        osd.setDisplayType(c.type);
+        EXPECT_EQ(refreshesOf(QVPlaylistMovieChangedNotification{}), c.movie) << c.type;
+        EXPECT_EQ(refreshesOf(QVMovieInterestingTimeNotification{}), c.time) << c.type;
+        EXPECT_EQ(refreshesOf(QVSubtitlesChangedNotification{}), c.subtitles) << c.type;
+        EXPECT_EQ(refreshesOf(QVMovieVolumeChangedNotification{nullptr}), c.volume) << c.type;
+        EXPECT_EQ(refreshesOf(QVPlaylistLoopingChangedNotification{nullptr}), c.looping) << c.type;
+        const int asked = texts.asked;
+        osd.setDisplayType(c.type);
+        EXPECT_EQ(texts.asked, asked) << c.type;
+    }
+}
+
+TEST_F(OSD, a_time_that_reads_the_same_draws_nothing_anew) {
+    osd.setDisplayType(1);
+    rig.settings.runLoop.advance(2);
+    const std::uint64_t revision = osd.contentRevision();
+    platform::NotificationCenter::defaultCenter().post(QVMovieInterestingTimeNotification{});
+    EXPECT_EQ(osd.contentRevision(), revision);
+    ++texts.time;
+    platform::NotificationCenter::defaultCenter().post(QVMovieInterestingTimeNotification{});
+    EXPECT_EQ(osd.text(), QStringLiteral("Time: 0:01:02/2:02:05"));
+    EXPECT_GT(osd.contentRevision(), revision);
+}
+
+TEST_F(OSD, without_anybody_who_knows_the_texts_it_is_an_empty_panel) {
+    QVOSDOverlay::setTexts(nullptr);
+    osd.setDisplayType(5);
+    EXPECT_EQ(osd.text(), QString());
+    EXPECT_TRUE(osd.isVisible());
+}
+
+TEST(ClockText, hours_are_neither_padded_nor_limited) {
+    for (const auto& [seconds, text] :
+         {std::pair{0, "0:00:00"}, {3599, "0:59:59"}, {3600, "1:00:00"}, {360000, "100:00:00"}})
+        EXPECT_EQ(stringWithTimeIntervalInSeconds(seconds), QString::fromUtf8(text));
+}
+
+TEST(QVFeedbackOverlay, a_message_is_held_in_full_after_the_last_one) {
+    OverlayRig rig;
+    QVFeedbackOverlay feedback(&rig.window);
+    feedback.setFadingInInterval(0.2);
+    feedback.setFadingDelayInterval(2);
+    feedback.setFadingOutInterval(0.5);
+    feedback.postFeedback(QStringLiteral("one"));
+    rig.settings.runLoop.advance(0.5);
+    feedback.postFeedback(QStringLiteral("two"));
+    EXPECT_EQ(feedback.text(), QStringLiteral("two"));
+    rig.settings.runLoop.advance(1.95);
+    EXPECT_EQ(feedback.alphaValue(), feedback.maxAlpha());
+    rig.settings.runLoop.advance(0.3);
+    const float fading = feedback.alphaValue();
+    EXPECT_LT(fading, feedback.maxAlpha());
+    feedback.postFeedback(QStringLiteral("three"));
+    EXPECT_EQ(feedback.alphaValue(), fading);
+    rig.settings.runLoop.advance(0.3);
+    EXPECT_EQ(feedback.alphaValue(), feedback.maxAlpha());
+    rig.settings.runLoop.advance(3);
+    EXPECT_FALSE(feedback.isVisible());
+    rig.settings.defaults().setBool(false, kQVDisplayFeedback);
+    feedback.postFeedback(QStringLiteral("four"));
+    EXPECT_EQ(feedback.text(), QStringLiteral("three"));
+    EXPECT_FALSE(feedback.isVisible());
+}
+
+TEST(SharedOverlays, hang_above_the_main_window_and_end_before_or_after_it) {
+    OverlayRig rig;
+    FakeApp app;
+    for (const bool windowFirst : {false, true}) {
+        QVFeedbackOverlay::destroyShared();
+        QVOSDOverlay::destroyShared();
+        auto window = std::make_unique<QVParentOverlay>(QRectF(0, 0, 800, 600), kQVFullscreenOverlayStyle);
+        app.windowObject = window.get();
+        EXPECT_EQ(QVFeedbackOverlay::sharedFeedbackOverlay().parentWindow(), window.get());
+        EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().parentWindow(), window.get());
+        EXPECT_TRUE(QVOSDOverlay::sharedOSDOverlay().isOrderedIn());
+        QVFeedbackOverlay::sharedFeedbackOverlay().postFeedback(QStringLiteral("held"));
+        if (windowFirst)
+            window.reset();
+        QVFeedbackOverlay::destroyShared();
+        QVOSDOverlay::destroyShared();
+        rig.settings.runLoop.advance(5);
+        EXPECT_TRUE(windowFirst || window->childWindows().empty());
+        app.windowObject = nullptr;
+    }
+}

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/window/Fonts.h"
+#include "platform/window/Shadow.h"
+#include "platform/window/TextLayout.h"
+#include "platform/window/TextView.h"
+
+#include <QFontInfo>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace platform;
+
+namespace {
+
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+
+QFont font(float size = 20) {
+    return fontWithFamilyName(QStringLiteral("Sans Serif"), size);
+}
+
+QSizeF sizeOf(const QString& text, double width = 1e7, double height = 1e7) {
+    return TextLayout(text, font(), QSizeF(width, height)).size();
+}
+
+QImage drawn(TextView& view, double ratio = 1) {
+    QImage image((view.bounds().size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(ratio, ratio);
+    view.draw(painter, view.bounds());
+    return image;
+}
+
+/// Whether two areas agree but for the soft pixels at their edges.
+bool nearlyEqual(const QRect& one, const QRect& other) {
+    return one.adjusted(-1, -1, 1, 1).contains(other) && other.adjusted(-1, -1, 1, 1).contains(one);
+}
+
+/// The smallest rectangle around the pixels that a test finds.
+template <class Test>
+QRect extent(const QImage& image, Test test) {
+    QRect found;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (test(image.pixelColor(x, y)))
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
+QRect inkOf(const QImage& image) {
+    return extent(image, [](const QColor& color) { return color.alpha() > 100; });
+}
+
+} // namespace
+
+TEST(TextLayout, lines_end_where_the_text_says_and_where_the_container_ends) {
+    const double line = sizeOf(QStringLiteral("x")).height();
+    EXPECT_GE(line, 20);
+    const QString words = QStringLiteral("one two three four");
+    const double whole = sizeOf(words).width();
+    const struct {
+        QString text;
+        double width;
+        int lines;
+    } cases[] = {
+        {QString(), 1e7, 1},
+        {QStringLiteral("a\nb\r\nc\rd\u2028e\u2029f"), 1e7, 6},
+        {QStringLiteral("a\n\nb\n"), 1e7, 4},
+        {words, whole, 1},
+        {words, whole - 1, 2},
+        {QString(40, u'x'), sizeOf(QString(20, u'x')).width() + 2, 2},
+        {QStringLiteral("xyz"), 1, 3},
+        {QStringLiteral("xyz"), -50, 3},
+    };
+    for (const auto& c : cases) {
+        const QSizeF size = sizeOf(c.text, c.width);
+        EXPECT_NEAR(size.height(), c.lines * line, c.lines) << c.text.toStdString() << " in " << c.width;
+        EXPECT_LE(size.width(), std::max(c.width, 1.0)) << c.text.toStdString();
+    }
+}
+
+TEST(TextLayout, more_lines_than_fit_are_left_out) {
+    QString lines;
+    for (int i = 0; i < 500; ++i)
+        lines += QStringLiteral("line\n");
+    const double line = sizeOf(QStringLiteral("line")).height();
+    EXPECT_LE(sizeOf(lines, 1920, 10.5 * line).height(), 10.5 * line);
+    EXPECT_GT(sizeOf(lines, 1920, 10.5 * line).height(), 9 * line);
+    EXPECT_GT(sizeOf(QStringLiteral("x"), 100, 1).height(), 0);
+    const QSizeF most = sizeOf(QString(10'000, u'x'), 1920, 1080);
+    EXPECT_LE(most.width(), 1920);
+    EXPECT_LE(most.height(), 1080);
+}
+
+TEST(TextLayout, what_cannot_be_shown_is_left_out_or_stands_in) {
+    const QString half(QChar(0xD83D)), otherHalf(QChar(0xDE00));
+    const struct {
+        QString text, shown;
+    } cases[] = {
+        {QStringLiteral("a\u0007b\u0000c\u009Fd\te"), QStringLiteral("abcd e")},
+        {half + u'x', QStringLiteral("\uFFFDx")},
+        {otherHalf + half, QStringLiteral("\uFFFD\uFFFD")},
+        {half + otherHalf, half + otherHalf},
+        {QStringLiteral("\uFFFC\u0085\u000B"), QStringLiteral("\uFFFD\n\n")},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(displayableText(c.text), c.shown);
+    EXPECT_LT(displayableText(QString(10'000, u'x')).size(), 10'000);
+}
+
+TEST(TextLayout, marks_join_their_letter_and_scripts_run_their_way) {
+    EXPECT_NEAR(sizeOf(QStringLiteral("e\u0301")).width(), sizeOf(QStringLiteral("e")).width(), 1);
+    // Lam and alef are drawn as one, shorter shape.
+    EXPECT_LT(sizeOf(QStringLiteral("\u0644\u0627")).width(), sizeOf(QStringLiteral("\u0644 \u0627")).width());
+    for (const char* text : {"\u05E9\u05DC\u05D5\u05DD", "\u0928\u092E\u0938\u094D\u0924\u0947", "\U0001F600"}) {
+        TextView view;
+        view.setFont(font());
+        view.setText(QString::fromUtf8(text));
+        view.sizeToFit();
+        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << text;
+    }
+}
+
+TEST(Fonts, an_unknown_family_and_an_absurd_size_still_make_a_font) {
+    const QString fallback = QFontInfo(fontWithFamilyName(QString(), 20)).family();
+    EXPECT_EQ(QFontInfo(fontWithFamilyName(QStringLiteral("No Such Family"), 20)).family(), fallback);
+    EXPECT_EQ(pointSizeOf(font(36)), 36);
+    EXPECT_EQ(pointSizeOf(convertedFont(font(36), 12)), 12);
+    for (const float absurd : {1e9F, -5.0F, 0.0F, std::numeric_limits<float>::quiet_NaN()}) {
+        EXPECT_GE(pointSizeOf(font(absurd)), 1);
+        EXPECT_LE(pointSizeOf(font(absurd)), 4096);
+    }
+}
+
+TEST(TextView, lines_stand_in_the_middle_at_every_pixel_ratio) {
+    TextView view;
+    view.setFont(font());
+    view.setTextColor(Qt::white);
+    view.setText(QStringLiteral("HHHHHHHHHHHH\nHH"));
+    view.sizeToFit();
+    for (const double ratio : {1.0, 1.5, 2.0}) {
+        const QImage image = drawn(view, ratio);
+        const QRect all = inkOf(image);
+        const QRect lower = inkOf(image.copy(0, image.height() / 2, image.width(), image.height() / 2));
+        EXPECT_NEAR(all.center().x(), image.width() / 2.0, 3 * ratio) << ratio;
+        EXPECT_NEAR(lower.center().x(), image.width() / 2.0, 3 * ratio) << ratio;
+        EXPECT_GT(all.width(), 4 * lower.width()) << ratio;
+        EXPECT_NEAR(all.height(), 35 * ratio, 8 * ratio) << ratio;
+    }
+}
+
+TEST(TextView, the_shadow_falls_where_its_offset_points_in_its_colour) {
+    TextView view;
+    view.setFont(font(40));
+    view.setTextColor(Qt::white);
+    view.setText(QStringLiteral("I"));
+    view.sizeToFit();
+    view.setFrame(QRectF(0, 0, 100, 100));
+    const QRect ink = inkOf(drawn(view));
+    const auto shadowRed = [](const QColor& color) { return color.red() > 200 && color.blue() < 50; };
+    view.setShadow(Shadow{QSizeF(20, -10), 0, Qt::red});
+    EXPECT_TRUE(nearlyEqual(extent(drawn(view), shadowRed), ink.translated(20, 10)));
+    view.setShadow(Shadow{QSizeF(-20, 5), 0, Qt::red});
+    EXPECT_TRUE(nearlyEqual(extent(drawn(view), shadowRed), ink.translated(-20, -5)));
+    EXPECT_NEAR(extent(drawn(view, 2), shadowRed).width() / 2, ink.width(), 1);
+
+    view.setShadow(Shadow{QSizeF(20, 0), 8, Qt::red});
+    const QImage soft = drawn(view);
+    const QRect spread = extent(soft, [](const QColor& c) { return c.alpha() > 2 && c.blue() < 50; });
+    EXPECT_GT(spread.right(), ink.right() + 20 + 3);
+    EXPECT_LT(spread.right(), ink.right() + 20 + 16);
+    view.setShadow(std::nullopt);
+    EXPECT_EQ(inkOf(drawn(view)), ink);
+}
+
+TEST(TextView, absurd_shadows_texts_and_sizes_are_drawn_without_harm) {
+    TextView view;
+    view.setFont(font());
+    view.setText(QStringLiteral("x"));
+    view.sizeToFit();
+    for (const double absurd : {kNotANumber, 1e9, -1e9, 1e308}) {
+        view.setShadow(Shadow{QSizeF(absurd, absurd), static_cast<float>(std::min(absurd, 1e30)), Qt::red});
+        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << absurd;
+        view.setShadow(Shadow{QSizeF(0, 0), static_cast<float>(std::min(absurd, 1e30)), Qt::red});
+        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << absurd;
+        view.setContainerSize(QSizeF(absurd, absurd));
+        view.sizeToFit();
+        EXPECT_LE(view.bounds().width(), 8300) << absurd;
+        view.setContainerSize(QSizeF(800, 600));
+        view.sizeToFit();
+    }
+    QString noise;
+    for (char16_t unit = 0; noise.size() < 10'000; unit = static_cast<char16_t>(unit + 7919))
+        noise += QChar(unit);
+    view.setContainerSize(QSizeF(800, 600));
+    view.setText(noise);
+    view.sizeToFit();
+    EXPECT_LE(view.bounds().height(), 600);
+    EXPECT_FALSE(drawn(view).isNull());
+    view.setFont(font(1e9F));
+    view.sizeToFit();
+    EXPECT_LE(view.bounds().height(), 600);
+    EXPECT_FALSE(drawn(view).isNull());
+}
+
+TEST(Shadow, a_blur_keeps_its_weight_and_its_middle) {
+    for (const int side : {101, 1201}) { // the larger one is blurred at half the resolution
+        QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        const int middle = side / 2;
+        for (int y = middle - 5; y <= middle + 5; ++y)
+            for (int x = middle - 5; x <= middle + 5; ++x)
+                image.setPixelColor(x, y, QColor(255, 255, 255, 1)); // hardly any ink, so that the shadow is seen
+        castShadow(image, Shadow{QSizeF(0, 0), 8, Qt::black}, 1);
+        EXPECT_EQ(qAlpha(image.pixel(0, 0)), 0);
+        QImage solid(side, side, QImage::Format_ARGB32_Premultiplied);
+        solid.fill(Qt::transparent);
+        for (int y = middle - 5; y <= middle + 5; ++y)
+            for (int x = middle - 5; x <= middle + 5; ++x)
+                solid.setPixel(x, y, 0xFF000000);
+        castShadow(solid, Shadow{QSizeF(0, 0), 8, Qt::black}, 1);
+        // A bell curve of deviation 4 over a box of 11: half a pixel outside the edge it has lost half.
+        EXPECT_NEAR(qAlpha(solid.pixel(middle + 6, middle)), 95, 20) << side;
+        EXPECT_NEAR(qAlpha(solid.pixel(middle - 6, middle)), 95, 20) << side;
+        EXPECT_LT(qAlpha(solid.pixel(middle + 18, middle)), 6) << side;
+    }
+}

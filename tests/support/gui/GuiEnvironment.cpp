@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVFeedbackOverlay.h"
+#include "overlays/QVOSDOverlay.h"
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+/// Texts have fonts, and fonts an application: without a display, for as long as the tests run.
+class GuiEnvironment final : public testing::Environment {
+public:
+    void SetUp() override {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        _application = std::make_unique<QGuiApplication>(_argumentCount, _arguments);
+    }
+    void TearDown() override {
+        QVOSDOverlay::destroyShared();
+        QVFeedbackOverlay::destroyShared();
+        _application.reset();
+    }
+
+private:
+    int _argumentCount = 1;
+    char _name[5] = "test";
+    char* _arguments[2] = {_name, nullptr};
+    std::unique_ptr<QGuiApplication> _application;
+};
+
+const auto* const kEnvironment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
+
+} // namespace
