@@ -11,6 +11,7 @@
 #include "app/settings/Tracing.h"
 #include "control/ModifierFlags.h"
 #include "control/QVMovieController.h"
+#include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVOSDOverlay.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PropertyList.h"
@@ -77,6 +78,7 @@ QVAppController::QVAppController(QVFullScreenWindow& window, QVMovieView& view, 
     _preferencesChanged = platform::NotificationCenter::defaultCenter().observe<QVPreferencesChangedNotification>(
         [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
     _view.setDropTarget(this);
+    QVOSDOverlay::setTexts(&_texts);
     gAppController = this;
 }
 
@@ -207,8 +209,10 @@ void QVAppController::finishLaunching() {
     _is_launching = false;
     // Files may have arrived while those movies were opened.
     finishAddingFiles();
-    if (defaults().boolForKey(kQVOSDStateSave))
-        QVOSDOverlay::sharedOSDOverlay().setDisplayType(defaults().integerForKey(kQVOSDStateSavedType));
+    // A display that shows nothing is not made: its fonts would hold up the first picture.
+    if (const std::int32_t type = defaults().integerForKey(kQVOSDStateSavedType);
+        defaults().boolForKey(kQVOSDStateSave) && type != 0)
+        QVOSDOverlay::sharedOSDOverlay().setDisplayType(type);
 }
 
 // Activation
@@ -417,4 +421,8 @@ void QVAppController::cleanup() {
     _window.setDelegate(nullptr);
     _controller.reset();
     _view.setMovie(nullptr);
+    // They stand above the window, which goes next.
+    QVFeedbackOverlay::destroyShared();
+    QVOSDOverlay::destroyShared();
+    QVOSDOverlay::setTexts(nullptr);
 }

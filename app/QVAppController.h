@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/CurrentTexts.h"
 #include "app/MainMenu.h"
 #include "app/context/QVAppContext.h"
 #include "app/settings/QVPreferencesChangedNotification.h"
@@ -84,6 +85,7 @@ private:
     std::unique_ptr<QVPlaylistController> _playlist;
     std::unique_ptr<QVSubtitlesController> _subtitles;
     std::unique_ptr<QVMovieController> _controller;
+    CurrentTexts _texts;
     bool _is_adding_files = false;
     bool _is_should_replace = true;
     QStringList _added_files;
