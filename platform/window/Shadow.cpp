@@ -2,9 +2,11 @@
 #include "platform/window/Shadow.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -32,37 +34,44 @@ struct Coverage {
     std::vector<std::uint8_t> bytes;
 };
 
-/// The picture's alpha, each byte the mean of `reduction` by `reduction` pixels.
-Coverage coverageOf(const QImage& picture, int reduction) {
-    Coverage coverage((picture.width() + reduction - 1) / reduction, (picture.height() + reduction - 1) / reduction);
-    std::vector<unsigned> sums(static_cast<std::size_t>(coverage.width));
-    const auto share = kFixedOne / static_cast<unsigned>(reduction * reduction);
+/// The picture's alpha.
+Coverage coverageOf(const QImage& picture) {
+    Coverage coverage(picture.width(), picture.height());
     for (int y = 0; y < coverage.height; ++y) {
-        std::fill(sums.begin(), sums.end(), 0U);
-        const int end = std::min((y + 1) * reduction, picture.height());
-        for (int from = y * reduction; from < end; ++from) {
-            const auto* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(from));
-            for (int x = 0; x < picture.width(); ++x)
-                sums[static_cast<std::size_t>(x / reduction)] += static_cast<unsigned>(qAlpha(pixels[x]));
-        }
+        const auto* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         std::uint8_t* row = coverage.row(y);
-        for (std::size_t x = 0; x < sums.size(); ++x)
-            row[x] = static_cast<std::uint8_t>((sums[x] * share + kFixedOne / 2) >> 16);
+        for (int x = 0; x < coverage.width; ++x)
+            row[x] = static_cast<std::uint8_t>(pixels[x] >> 24);
     }
     return coverage;
 }
 
-/// The mean of the 2 * reach + 1 neighbours in the row.
+/// The picture's alpha at half the resolution; what lies beyond an odd edge counts as empty.
+Coverage halvedCoverageOf(const QImage& picture) {
+    Coverage coverage((picture.width() + 1) / 2, (picture.height() + 1) / 2);
+    std::vector<unsigned> sums(static_cast<std::size_t>(coverage.width));
+    for (int y = 0; y < coverage.height; ++y) {
+        std::fill(sums.begin(), sums.end(), 2U); // rounds
+        for (int from = 2 * y; from < std::min(2 * y + 2, picture.height()); ++from) {
+            const auto* pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(from));
+            for (int x = 0; x < picture.width(); ++x)
+                sums[static_cast<std::size_t>(x >> 1)] += pixels[x] >> 24;
+        }
+        std::uint8_t* row = coverage.row(y);
+        for (std::size_t x = 0; x < sums.size(); ++x)
+            row[x] = static_cast<std::uint8_t>(sums[x] >> 2);
+    }
+    return coverage;
+}
+
+/// The mean of the 2 * reach + 1 neighbours. Before both rows lie reach + 1 empty pixels, after them reach.
 void blurRow(const std::uint8_t* from, std::uint8_t* to, int width, int reach) {
     const unsigned share = kFixedOne / static_cast<unsigned>(2 * reach + 1);
     unsigned sum = 0;
     for (int x = 0; x < std::min(reach, width); ++x)
         sum += from[x];
     for (int x = 0; x < width; ++x) {
-        if (x + reach < width)
-            sum += from[x + reach];
-        if (x - reach - 1 >= 0)
-            sum -= from[x - reach - 1];
+        sum = sum + from[x + reach] - from[x - reach - 1];
         to[x] = static_cast<std::uint8_t>((sum * share + kFixedOne / 2) >> 16);
     }
 }
@@ -100,17 +109,22 @@ void blur(Coverage& coverage, double standardDeviation) {
         static_cast<int>(std::lround((std::sqrt(12 / kPasses * standardDeviation * standardDeviation + 1) - 1) / 2));
     if (reach < 1 || coverage.bytes.empty())
         return;
-    Coverage other(coverage.width, coverage.height);
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(coverage.width));
+    const auto width = static_cast<std::size_t>(coverage.width);
+    const auto margin = static_cast<std::size_t>(reach) + 1;
+    std::vector<std::uint8_t> one(width + 2 * margin), two(width + 2 * margin);
     for (int y = 0; y < coverage.height; ++y) {
-        std::uint8_t* own = coverage.row(y);
-        blurRow(own, row.data(), coverage.width, reach);
-        blurRow(row.data(), own, coverage.width, reach);
-        blurRow(own, other.row(y), coverage.width, reach);
+        std::uint8_t* row = coverage.row(y);
+        std::copy_n(row, width, one.data() + margin);
+        blurRow(one.data() + margin, two.data() + margin, coverage.width, reach);
+        blurRow(two.data() + margin, one.data() + margin, coverage.width, reach);
+        blurRow(one.data() + margin, two.data() + margin, coverage.width, reach);
+        std::copy_n(two.data() + margin, width, row);
     }
-    blurColumns(other, coverage, reach);
+    Coverage other(coverage.width, coverage.height);
     blurColumns(coverage, other, reach);
     blurColumns(other, coverage, reach);
+    blurColumns(coverage, other, reach);
+    std::swap(coverage, other);
 }
 
 double pixels(double points, double pixelRatio, double most) {
@@ -131,32 +145,30 @@ void castShadow(QImage& picture, const Shadow& shadow, double pixelRatio) {
         return;
     const double deviation =
         std::max(0.0, pixels(static_cast<double>(shadow.blurRadius), pixelRatio, kLargestBlur)) / 2;
-    const int reduction = deviation >= 2 && picture.width() * picture.height() > kManyPixels ? 2 : 1;
-    Coverage coverage = coverageOf(picture, reduction);
-    blur(coverage, deviation / reduction);
+    const bool many = picture.width() * picture.height() > kManyPixels;
+    const int halvings = many && deviation >= 2 ? 1 : 0;
+    Coverage coverage = halvings ? halvedCoverageOf(picture) : coverageOf(picture);
+    blur(coverage, deviation / (1 << halvings));
 
     const int right = static_cast<int>(std::lround(pixels(shadow.offset.width(), pixelRatio, kFarthest)));
     const int down = -static_cast<int>(std::lround(pixels(shadow.offset.height(), pixelRatio, kFarthest)));
-    const QRgb color = shadow.color.rgba();
-    const auto alpha = static_cast<unsigned>(qAlpha(color));
-    const unsigned red = times(static_cast<unsigned>(qRed(color)), alpha);
-    const unsigned green = times(static_cast<unsigned>(qGreen(color)), alpha);
-    const unsigned blue = times(static_cast<unsigned>(qBlue(color)), alpha);
+    // The shadow's pixel for every share of it that is seen.
+    std::array<QRgb, 256> shades;
+    for (unsigned share = 0; share < shades.size(); ++share) {
+        const QColor& color = shadow.color;
+        const unsigned alpha = times(static_cast<unsigned>(color.alpha()), share);
+        shades[share] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), static_cast<int>(alpha)));
+    }
     const int firstX = std::max(right, 0);
     const int endX = std::min(picture.width(), picture.width() + right);
     const int endY = std::min(picture.height(), picture.height() + down);
     for (int y = std::max(down, 0); y < endY; ++y) {
         auto* pixelsOfRow = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        const std::uint8_t* row = coverage.row((y - down) / reduction);
+        const std::uint8_t* row = coverage.row((y - down) >> halvings);
         for (int x = firstX; x < endX; ++x) {
-            const unsigned covered = row[(x - right) / reduction];
-            if (covered == 0)
-                continue;
             // The ink lies over the shadow.
             const QRgb ink = pixelsOfRow[x];
-            const unsigned share = times(covered, 255U - static_cast<unsigned>(qAlpha(ink)));
-            pixelsOfRow[x] = ink + ((times(alpha, share) << 24) | (times(red, share) << 16) |
-                                    (times(green, share) << 8) | times(blue, share));
+            pixelsOfRow[x] = ink + shades[times(row[(x - right) >> halvings], 255U - (ink >> 24))];
         }
     }
 }

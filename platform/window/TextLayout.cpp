@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/TextLayout.h"
 
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTextOption>
 
@@ -14,6 +15,24 @@ namespace {
 // What no screen shows.
 constexpr qsizetype kMostCharacters = 4096;
 constexpr double kLargestSide = 8192;
+
+/// Pixels from which on glyphs are filled as outlines, not copied from a cache.
+constexpr double kSizeOfOutlines = 64;
+
+/// The time to fill an outline grows with the square of the edges beside each other: a line at once takes several times
+/// as long as its glyphs.
+void drawGlyphByGlyph(QPainter& painter, const QTextLine& line, const QPointF& origin) {
+    const QList<QGlyphRun> runs = line.glyphRuns();
+    for (const QGlyphRun& run : runs) {
+        const QList<quint32> glyphs = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        QGlyphRun single = run;
+        for (qsizetype i = 0; i < glyphs.size(); ++i) {
+            single.setRawData(&glyphs[i], &positions[i], 1);
+            painter.drawGlyphRun(origin, single);
+        }
+    }
+}
 
 double side(double points) {
     return std::isfinite(points) ? std::clamp(points, 1.0, kLargestSide) : kLargestSide;
@@ -88,9 +107,16 @@ void TextLayout::addParagraph(const QString& text, const QFont& font) {
 
 void TextLayout::draw(QPainter& painter, double width) const {
     const QPointF origin((width - _container.width()) / 2, 0);
+    const double scale = painter.deviceTransform().m11();
     for (const Paragraph& paragraph : _paragraphs) {
-        for (int line = 0; line < paragraph.lines; ++line)
-            paragraph.layout->lineAt(line).draw(&painter, origin);
+        const bool largeGlyphs = paragraph.layout->font().pixelSize() * scale >= kSizeOfOutlines;
+        for (int index = 0; index < paragraph.lines; ++index) {
+            const QTextLine line = paragraph.layout->lineAt(index);
+            if (largeGlyphs)
+                drawGlyphByGlyph(painter, line, origin);
+            else
+                line.draw(&painter, origin);
+        }
     }
 }
 
