@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace platform {
@@ -16,6 +15,7 @@ namespace {
 constexpr double kLargestBlur = 256;     // pixels
 constexpr double kFarthest = 16384;      // pixels
 constexpr int kManyPixels = 1'000'000;   // from here on the blur works on half the resolution
+constexpr unsigned kStrength = 2;        // of a blurred shadow over a mere spread of the ink
 constexpr int kPasses = 3;               // boxes, which together come close to a bell curve
 constexpr unsigned kFixedOne = 1U << 16; // of the fixed-point reciprocals
 
@@ -124,7 +124,9 @@ void blur(Coverage& coverage, double standardDeviation) {
     blurColumns(coverage, other, reach);
     blurColumns(other, coverage, reach);
     blurColumns(coverage, other, reach);
-    std::swap(coverage, other);
+    // Spread over the blur, the strokes of letters would leave but a faint veil.
+    std::transform(other.bytes.begin(), other.bytes.end(), coverage.bytes.begin(),
+                   [](std::uint8_t covered) { return static_cast<std::uint8_t>(std::min(kStrength * covered, 255U)); });
 }
 
 double pixels(double points, double pixelRatio, double most) {
