@@ -16,7 +16,10 @@ using house::Sources;
 Sources sourcesIn(const std::vector<std::string>& folders) {
     const std::filesystem::path root = LUMARO_SOURCE_DIR;
     Sources sources;
-    for (const std::string& folder : folders)
+    for (const std::string& folder : folders) {
+        // A floor without sources has no folder in a fresh checkout.
+        if (!std::filesystem::exists(root / folder))
+            continue;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(root / folder)) {
             const std::string extension = entry.path().extension().string();
             if (!entry.is_regular_file() || (extension != ".h" && extension != ".cpp"))
@@ -26,6 +29,7 @@ Sources sourcesIn(const std::vector<std::string>& folders) {
             text << file.rdbuf();
             sources[entry.path().lexically_relative(root).generic_string()] = text.str();
         }
+    }
     return sources;
 }
 
