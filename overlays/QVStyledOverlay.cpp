@@ -12,6 +12,9 @@ namespace {
 /// Seconds between the steps of a fade; shorter fades are none.
 constexpr double kFadingStep = 0.05;
 
+/// Seconds that a style may ask for.
+constexpr double kLongestInterval = 60;
+
 /// A limit as the window can show it. Written so that a value that is no number falls to 0.
 float shown(float alpha) {
     return alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
@@ -20,6 +23,14 @@ float shown(float alpha) {
 /// Written so that an interval that is no number counts as none.
 bool takesTime(double interval) {
     return interval >= kFadingStep;
+}
+
+/// A fade or a hold of the style in seconds. Launching and quitting wait for fades: one that nobody would wait for, or
+/// that is no number, counts as none.
+double styleInterval(const std::optional<QVOverlayStyleDefaults>& style,
+                     double (QVOverlayStyleDefaults::*getter)() const) {
+    const double interval = styleValue(style, getter);
+    return interval <= kLongestInterval ? interval : 0;
 }
 
 bool isWindowVisible(const platform::Window& window) {
@@ -34,9 +45,9 @@ QVStyledOverlay::QVStyledOverlay(const QRectF& contentRect, const QString& style
     , _style(style) {
     const auto defaults = styleDefaults();
     Window::setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
-    _fadingInInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingInInterval);
-    _fadingOutInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
-    _fadingDelayInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
+    _fadingInInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingInInterval);
+    _fadingOutInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
+    _fadingDelayInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
     _maxAlpha = styleValue(defaults, &QVOverlayStyleDefaults::maxAlpha);
     _minAlpha = styleValue(defaults, &QVOverlayStyleDefaults::minAlpha);
     setAlphaValue(_minAlpha);
@@ -184,11 +195,11 @@ bool QVStyledOverlay::preferencesChanged(const QVPreferencesChangedNotification&
             setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
             contentView().setNeedsDisplay();
         } else if (key == kFadingInInterval) {
-            _fadingInInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingInInterval);
+            _fadingInInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingInInterval);
         } else if (key == kFadingOutInterval) {
-            _fadingOutInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
+            _fadingOutInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
         } else if (key == kFadingDelayInterval) {
-            _fadingDelayInterval = styleValue(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
+            _fadingDelayInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
         } else if (key == kMinAlpha) {
             setMinAlpha(styleValue(defaults, &QVOverlayStyleDefaults::minAlpha));
         } else if (key == kMaxAlpha) {
