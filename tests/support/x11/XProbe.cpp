@@ -5,6 +5,7 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XShm.h>
 #include <X11/extensions/XTest.h>
+#include <X11/extensions/Xfixes.h>
 #include <sys/ipc.h>
 #include <sys/shm.h>
 
@@ -195,6 +196,20 @@ void XProbe::drag(int fromX, int fromY, int toX, int toY, unsigned button) {
         movePointer(fromX + (toX - fromX) * step / steps, fromY + (toY - fromY) * step / steps);
     XTestFakeButtonEvent(_display, button, False, CurrentTime);
     XSync(_display, False);
+}
+
+bool XProbe::pointerShows() {
+    int major = 4, minor = 0;
+    if (!XFixesQueryVersion(_display, &major, &minor))
+        return false;
+    XFixesCursorImage* image = XFixesGetCursorImage(_display);
+    if (!image)
+        return false;
+    const unsigned long* pixels = image->pixels;
+    const bool shows = std::any_of(pixels, pixels + image->width * image->height,
+                                   [](unsigned long pixel) { return (pixel >> 24 & 0xFF) != 0; });
+    XFree(image);
+    return shows;
 }
 
 WindowId XProbe::windowAt(int x, int y) {

@@ -74,6 +74,8 @@ public:
     void movePointer(int x, int y);
     void click(int x, int y, unsigned button = 1);
     void drag(int fromX, int fromY, int toX, int toY, unsigned button = 1);
+    // Whether the pointer has any picture; one that a program hid has none.
+    bool pointerShows();
 
     // The top window that covers the point, or 0; whether any mapped top-level window is there at all.
     WindowId windowAt(int x, int y);

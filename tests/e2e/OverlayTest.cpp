@@ -1,0 +1,463 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands over the picture: the on-screen display, the feedback of commands, the fades of the window, the picture
+// moved by the pointer.
+#include "tests/e2e/PlayerFixture.h"
+
+#include <signal.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <fstream>
+#include <map>
+#include <string>
+
+using namespace harness;
+
+namespace {
+
+using Values = std::map<std::string, std::string>; // a style's key and its value as the settings file has it
+
+std::string real(double value) {
+    return "<real>" + std::to_string(value) + "</real>";
+}
+
+class Overlays : public PlayerFixture {
+protected:
+    static constexpr int padding = 24; // QVOverlayDefaultPadding as it is shipped
+    static constexpr Color panelOverRed{74, 14, 18};
+    enum class Corner { left, right };
+
+    // A minute of plain red that is larger than the screen.
+    static std::string plain() {
+        return media()
+            .makeColored("plain.mp4", {red}, 60, 2560, 1440, 5,
+                         {"-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p"})
+            .string();
+    }
+
+    static std::string quarters() {
+        return media()
+            .make("quarters.mp4", {"-f", "lavfi", "-i", "color=c=0xC80000:s=1280x720:r=5:d=60", "-vf",
+                                   "drawbox=x=640:w=640:color=0x009600:t=fill,"
+                                   "drawbox=y=360:w=640:h=360:color=0x0000C8:t=fill",
+                                   "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p"})
+            .string();
+    }
+
+    void writeSettings(const std::string& entries) {
+        std::filesystem::create_directories(user.settingsFile().parent_path());
+        std::ofstream(user.settingsFile())
+            << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>" << entries
+            << "</dict></plist>\n";
+    }
+
+    void writeStyles(const std::map<std::string, Values>& styles) {
+        std::string entries = "<key>QVOverlayStyles</key><dict>";
+        for (const auto& [name, values] : styles) {
+            entries += "<key>" + name + "</key><dict>";
+            for (const auto& [key, value] : values)
+                entries += "<key>" + key + "</key>" + value;
+            entries += "</dict>";
+        }
+        writeSettings(entries + "</dict>");
+    }
+
+    struct Seen {
+        Region panel; // what is not the picture
+        Region text;  // what is bright in it
+    };
+
+    // What stands in the upper half of the screen over a red picture, at one side.
+    Seen look(Corner corner) {
+        const Region part{corner == Corner::left ? 0 : screenWidth / 2, 0, screenWidth / 2, screenHeight / 2};
+        const Picture picture = probe.picture(part);
+        const auto extent = [&](auto wanted) {
+            int left = part.x + part.width, top = part.height, right = -1, bottom = -1;
+            for (int y = 0; y < part.height; ++y)
+                for (int x = part.x; x < part.x + part.width; ++x)
+                    if (wanted(picture.at(x, y))) {
+                        left = std::min(left, x), right = std::max(right, x);
+                        top = std::min(top, y), bottom = std::max(bottom, y);
+                    }
+            return right < 0 ? Region{} : Region{left, top, right - left + 1, bottom - top + 1};
+        };
+        return {extent([](const Color& color) { return !color.isNear(red, 60); }),
+                extent([](const Color& color) { return color.green > 150; })};
+    }
+
+    // Whether a panel in full opacity stands in the corner, and a text in its middle.
+    testing::AssertionResult panelStands(Corner corner) {
+        Seen seen;
+        Color ground;
+        const auto near = [](int a, int b) { return std::abs(a - b) <= 3; };
+        const bool stands = waitUntil(
+            [&] {
+                seen = look(corner);
+                const Region &panel = seen.panel, &text = seen.text;
+                if (text.width == 0)
+                    return false;
+                ground = probe.pixel(panel.x + panel.width / 2, panel.y + 4);
+                const bool placed =
+                    panel.y == padding &&
+                    (corner == Corner::left ? panel.x == padding : near(panel.x + panel.width, screenWidth - padding));
+                // The letters' own room to the left and right is not the same.
+                const bool centred = std::abs((text.x - panel.x) - (panel.x + panel.width - text.x - text.width)) <= 8;
+                const bool inside = text.x >= panel.x + 8 && text.y >= panel.y + 8 &&
+                                    text.y + text.height <= panel.y + panel.height - 6;
+                const bool legible = text.height >= 18 && panel.height <= 64;
+                return placed && centred && inside && legible && ground.isNear(panelOverRed, 16);
+            },
+            Seconds(5));
+        if (stands)
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << "panel " << seen.panel << ", text " << seen.text << ", ground " << ground;
+    }
+
+    bool panelGoes(Corner corner) {
+        return waitUntil([&] { return look(corner).panel.width == 0; }, Seconds(5));
+    }
+
+    // The texts that the overlay was given, in their order.
+    std::vector<std::string> textsOf(const std::string& overlay) {
+        const std::string mark = overlay + ": Set Text: ";
+        std::vector<std::string> texts;
+        for (const std::string& line : player->errorLines())
+            if (const auto at = line.find(mark); at != std::string::npos)
+                texts.push_back(line.substr(at + mark.size()));
+        return texts;
+    }
+
+    void startPlain(std::vector<std::string> arguments = {}) {
+        arguments.push_back(plain());
+        start(arguments);
+        ASSERT_TRUE(colorBecomes(red));
+    }
+
+    struct Press {
+        KeySym key;
+        std::vector<KeySym> modifiers;
+        std::string feedback; // empty: nothing is said
+    };
+
+    void pressAll(const std::vector<Press>& presses) {
+        std::vector<std::string> expected = textsOf("QVFeedbackOverlay");
+        for (const Press& press : presses) {
+            probe.tap(press.key, press.modifiers);
+            if (press.feedback.empty())
+                continue;
+            expected.push_back(press.feedback);
+            ASSERT_TRUE(waitUntil([&] { return textsOf("QVFeedbackOverlay").size() >= expected.size(); }))
+                << "nothing was said: " << press.feedback;
+            ASSERT_EQ(textsOf("QVFeedbackOverlay"), expected);
+            EXPECT_TRUE(panelStands(Corner::right)) << press.feedback;
+        }
+        EXPECT_TRUE(panelGoes(Corner::right)) << "the last message stays";
+    }
+
+    // Where the colours of the quarters meet on the screen; -1 beyond the screen.
+    struct Meeting {
+        int x = -1, y = -1;
+        bool operator==(const Meeting&) const = default;
+    };
+    Meeting meeting() {
+        // Off the feedback, and where red is above blue.
+        const Picture row = probe.picture({0, 120, screenWidth, 1});
+        const Picture column = probe.picture({40, 0, 1, screenHeight});
+        Meeting met;
+        for (int x = 1; x < screenWidth && met.x < 0; ++x)
+            if (!row.at(x - 1, 120).isNear(green) && row.at(x, 120).isNear(green))
+                met.x = x;
+        for (int y = 1; y < screenHeight && met.y < 0; ++y)
+            if (!column.at(40, y - 1).isNear(blue) && column.at(40, y).isNear(blue))
+                met.y = y;
+        return met;
+    }
+    testing::AssertionResult meetsAt(int x, int y) {
+        Meeting met;
+        if (waitUntil(
+                [&] {
+                    met = meeting();
+                    return std::abs(met.x - x) <= 2 && std::abs(met.y - y) <= 2;
+                },
+                Seconds(5)))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << "they meet at " << met.x << ", " << met.y;
+    }
+};
+
+} // namespace
+
+TEST_F(Overlays, the_display_walks_through_its_types_and_stands_at_the_top_left) {
+    startPlain();
+    const struct {
+        const char* text;
+        std::vector<KeySym> modifiers;
+    } types[] = {{"Time: 0:00:0", {}}, {"Movie: plain.mp4 (1/1)", {}}, {"Subtitles: None", {}},
+                 {"Loop: Off", {}},    {"Volume: 100%", {}},           {"", {}},
+                 {"", {XK_Shift_L}},   {"Loop: Off", {XK_Shift_L}}};
+    for (const auto& type : types) {
+        const std::size_t from = player->lineCount();
+        probe.tap(XK_d, type.modifiers);
+        if (type.text[0] == '\0' && type.modifiers.empty()) {
+            EXPECT_TRUE(panelGoes(Corner::left)) << "type 0 shows something";
+            continue;
+        }
+        // What has the same text still is shown anew after type 0, without being set.
+        if (type.text[0] != '\0') {
+            EXPECT_TRUE(logs(std::string("QVOSDOverlay: Set Text: ") + type.text, from));
+        }
+        EXPECT_TRUE(panelStands(Corner::left)) << type.text;
+    }
+    EXPECT_EQ(look(Corner::right).panel, Region{}) << "the display is confirmed by a message";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, the_time_display_counts_the_seconds) {
+    startPlain({"--set", "QVOSDStateSavedType=1"});
+    ASSERT_TRUE(panelStands(Corner::left));
+    const auto letters = [&] { return probe.picture(look(Corner::left).panel).pixels; };
+    const auto second = logs("QVOSDOverlay: Set Text: Time: 0:00:01/0:01:00");
+    ASSERT_TRUE(second);
+    const auto before = letters();
+    ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Time: 0:00:02/0:01:00"));
+    EXPECT_TRUE(waitUntil([&] { return letters() != before; }, Seconds(0.9))) << "the old second stands";
+    EXPECT_LE(textsOf("QVOSDOverlay").size(), 5u) << "set more often than it changes";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, the_display_is_kept_for_the_next_launch_where_the_setting_says_so) {
+    startPlain();
+    probe.tap(XK_d);
+    probe.tap(XK_d);
+    ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Movie: "));
+    ASSERT_TRUE(quitsCleanly());
+    startPlain();
+    EXPECT_TRUE(panelStands(Corner::left));
+    EXPECT_EQ(textsOf("QVOSDOverlay"), std::vector<std::string>{"Movie: plain.mp4 (1/1)"});
+    ASSERT_TRUE(quitsCleanly());
+    startPlain({"--set", "QVOSDStateSave=0"});
+    EXPECT_TRUE(staysTrue([&] { return look(Corner::left).panel.width == 0; }, Seconds(0.4)));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, commands_of_a_playing_movie_are_confirmed_at_the_top_right) {
+    startPlain({"--set", "QVJumpInterval=3"});
+    pressAll({{XK_m, {}, "Mute: On"},
+              {XK_m, {}, "Mute: Off"},
+              {XK_Up, {}, "Volume: 110%"},
+              {XK_Down, {}, "Volume: 100%"},
+              {XK_Tab, {}, ""}, // there is no other screen
+              {XK_s, {}, "Subtitles: None"},
+              {XK_l, {}, "Loop: One"},
+              {XK_l, {XK_Shift_L}, "Loop: Off"},
+              {XK_Right, {XK_Control_L}, "Jump Forward 3 s"},
+              {XK_Left, {XK_Control_L}, "Jump Backward 3 s"},
+              {XK_Right, {}, "Fast Forward x2"},
+              {XK_Right, {}, "Fast Forward x4"},
+              {XK_Left, {}, "Fast Rewind x2"},
+              {XK_space, {}, "Movie: Play"},
+              {XK_Left, {XK_Alt_L}, "Movie: Beginning"},
+              {XK_space, {}, "Movie: Pause"}});
+    ASSERT_TRUE(quitsCleanly());
+    EXPECT_EQ(textsOf("QVFeedbackOverlay").back(), "Quit");
+}
+
+TEST_F(Overlays, commands_of_a_paused_movie_are_confirmed_at_the_top_right) {
+    startPlain();
+    pressAll({{XK_space, {}, "Movie: Pause"},
+              {XK_Right, {}, "Step Forward"},
+              {XK_Left, {}, "Step Backward"},
+              {XK_Left, {XK_Super_L}, "Previous: plain.mp4 (1/1)"},
+              {XK_Right, {XK_Super_L}, "Next: plain.mp4 (1/1)"},
+              {XK_Right, {XK_Alt_L}, "Movie: End"}});
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, sizes_and_the_controller_bar_are_confirmed_at_the_top_right) {
+    startPlain();
+    pressAll({{XK_0, {}, "Size: Half"},
+              {XK_1, {}, "Size: Normal"},
+              {XK_2, {}, "Size: Double"},
+              {XK_3, {}, "Size: Full"},
+              {XK_4, {}, "Size: Fit Width"},
+              {XK_5, {}, "Size: Fit Height"},
+              {XK_plus, {XK_Shift_L}, "Size: Bigger"},
+              {XK_minus, {}, "Size: Smaller"},
+              {XK_c, {}, "Controller: On"},
+              {XK_c, {}, "Controller: Off"}});
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, no_command_is_confirmed_where_feedback_is_switched_off) {
+    startPlain({"--set", "QVDisplayFeedback=0"});
+    probe.tap(XK_m);
+    probe.tap(XK_space);
+    ASSERT_TRUE(logs("QVMovieView: Stop Playing movie"));
+    EXPECT_TRUE(staysTrue([&] { return look(Corner::right).panel.width == 0; }, Seconds(0.3)));
+    EXPECT_TRUE(textsOf("QVFeedbackOverlay").empty());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, the_window_fades_in_at_launch_and_then_the_movie_starts) {
+    writeStyles({{"Full Screen", {{"FadingInInterval", real(1)}, {"BackgroundColor", "<string>1 1 1 1</string>"}}}});
+    start({plain()});
+    int steps = 0, last = 0;
+    EXPECT_TRUE(waitUntil([&] {
+        const Color seen = probe.pixel(320, 600);
+        if (seen.green != seen.red)
+            return true; // the movie
+        EXPECT_GE(seen.red, last) << "it darkens";
+        steps += seen.red > last && seen.red < 255;
+        last = seen.red;
+        return false;
+    }));
+    EXPECT_GE(steps, 3) << "it stood at once";
+    EXPECT_GE(last, 230) << "the movie did not wait for the window";
+    EXPECT_TRUE(logs("QVFullScreenWindow: Start Fading IN, interval: 1.000000"));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, quitting_fades_out_and_then_ends_whatever_is_going_on) {
+    writeStyles({{"Full Screen", {{"FadingOutInterval", real(0.8)}}}});
+    const struct {
+        const char* name;
+        bool paused, menu;
+    } cases[] = {{"playing", false, false}, {"paused", true, false}, {"with a menu open", false, true}};
+    for (const auto& given : cases) {
+        SCOPED_TRACE(given.name);
+        startPlain();
+        if (given.paused) {
+            probe.tap(XK_space);
+            ASSERT_TRUE(logs("QVMovieView: Stop Playing movie"));
+        }
+        if (given.menu) {
+            const auto window = probe.windowAt(320, 220);
+            probe.click(300, 200, 3);
+            ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 220) != window; })) << "no menu opened";
+        }
+        const auto asked = std::chrono::steady_clock::now();
+        player->signal(SIGTERM);
+        bool darkened = false;
+        EXPECT_TRUE(waitUntil([&] {
+            const int seen = probe.pixel(1000, 600).red;
+            darkened = darkened || (seen > 8 && seen < 150);
+            return !player->isRunning();
+        }));
+        const Seconds took = std::chrono::steady_clock::now() - asked;
+        EXPECT_EQ(player->waitForExit(), 0);
+        EXPECT_TRUE(darkened) << "it went at once";
+        EXPECT_GE(took.count(), 0.7);
+        EXPECT_LE(took.count(), 2.5);
+    }
+}
+
+TEST_F(Overlays, dragging_moves_a_picture_larger_than_the_screen_as_far_as_its_edge) {
+    start({quarters()});
+    ASSERT_TRUE(meetsAt(640, 360));
+    probe.drag(600, 300, 700, 350);
+    EXPECT_TRUE(staysTrue([&] { return meeting() == Meeting{640, 360}; }, Seconds(0.3))) << "a picture that fits moved";
+    probe.tap(XK_2);
+    ASSERT_TRUE(logs("Size: Double"));
+    ASSERT_TRUE(meetsAt(640, 360));
+    probe.drag(600, 300, 700, 350);
+    EXPECT_TRUE(meetsAt(740, 410));
+    probe.drag(700, 350, 400, 150);
+    EXPECT_TRUE(meetsAt(440, 210));
+    probe.drag(1100, 600, 300, 200);
+    EXPECT_EQ(waitUntil([&] { return meeting().x == -1 && probe.pixel(5, 700).isNear(green); }, Seconds(5)), true)
+        << "it ends somewhere else than at the picture's edge: " << meeting().x;
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, the_pointer_at_an_edge_moves_a_picture_larger_than_the_screen) {
+    start({quarters()});
+    ASSERT_TRUE(meetsAt(640, 360));
+    probe.movePointer(640, 360);
+    probe.movePointer(20, 360);
+    EXPECT_TRUE(staysTrue([&] { return meeting() == Meeting{640, 360}; }, Seconds(0.3))) << "a picture that fits moved";
+    probe.movePointer(640, 360);
+    probe.tap(XK_2);
+    ASSERT_TRUE(logs("Size: Double"));
+    ASSERT_TRUE(meetsAt(640, 360));
+
+    probe.movePointer(20, 360); // to the left, and no further than it stays there
+    ASSERT_TRUE(waitUntil([&] { return meeting().x > 680; }));
+    probe.movePointer(640, 360);
+    Meeting stands;
+    EXPECT_TRUE(waitUntil([&] {
+        stands = meeting();
+        return staysTrue([&] { return meeting() == stands; }, Seconds(0.15));
+    }));
+    EXPECT_LT(stands.x, 1200);
+    EXPECT_NEAR(stands.y, 360, 2);
+
+    probe.movePointer(1260, 700); // towards the corner, both ways at once
+    EXPECT_TRUE(waitUntil([&] { return meeting().x < stands.x - 20 && meeting().y < stands.y - 20; }, Seconds(5)))
+        << meeting().x << ", " << meeting().y;
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, the_pointer_hides_when_it_rests_and_comes_back_when_it_moves) {
+    startPlain({"--set", "QVCursorAutohideDelay=1"});
+    probe.movePointer(500, 400);
+    ASSERT_TRUE(waitUntil([&] { return probe.pointerShows(); }));
+    EXPECT_TRUE(waitUntil([&] { return !probe.pointerShows(); }, Seconds(5))) << "it stays";
+    probe.movePointer(520, 420);
+    EXPECT_TRUE(waitUntil([&] { return probe.pointerShows(); }, Seconds(5))) << "it does not come back";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, a_damaged_style_neither_stops_nor_delays_the_program) {
+    const auto all = [](const std::string& value) {
+        Values values;
+        for (const char* key :
+             {"TextColor", "TextFontName", "TextFontSize", "ShadowOn", "ShadowColor", "ShadowRadius", "ShadowOffset",
+              "BackgroundOn", "BackgroundColor", "BackgroundRounded", "BackgroundRadius", "FrameOn", "FrameWidth",
+              "Alignment", "FadingInInterval", "FadingOutInterval", "FadingDelayInterval", "MinAlpha", "MaxAlpha"})
+            values[key] = value;
+        return values;
+    };
+    const struct {
+        const char* name;
+        Values values;
+        bool legible; // the texts are shown, if oddly
+    } cases[] = {{"an unknown font", {{"TextFontName", "<string>No Such Font</string>"}}, true},
+                 {"not a number", all("<real>nan</real>"), false},
+                 {"huge", all("<real>1e9</real>"), false},
+                 {"negative", all("<real>-1e9</real>"), false},
+                 {"huge in words", all("<string>1e9 -1e9</string>"), false},
+                 {"empty words", all("<string></string>"), false},
+                 {"lists", all("<array><string>1</string></array>"), false}};
+    for (const auto& given : cases) {
+        SCOPED_TRACE(given.name);
+        writeStyles({{"OSD", given.values}, {"Feedback", given.values}, {"Full Screen", given.values}});
+        start({plain()});
+        ASSERT_TRUE(logs("Start Playing movie"));
+        if (given.legible) {
+            ASSERT_TRUE(colorBecomes(red));
+            probe.tap(XK_d);
+            probe.tap(XK_m);
+            EXPECT_TRUE(panelStands(Corner::left));
+            EXPECT_TRUE(panelStands(Corner::right));
+        } else if (probe.hasVisibleWindow()) { // a window without opacity takes no keys
+            probe.tap(XK_d);
+            probe.tap(XK_m);
+        }
+        player->signal(SIGTERM);
+        EXPECT_EQ(player->waitForExit(Seconds(5)), 0) << player->errorOutput();
+        for (const std::string& fault : player->faults())
+            ADD_FAILURE() << fault;
+    }
+    for (const char* entries : {"<key>QVOverlayStyles</key><array/>",
+                                "<key>QVOverlayStyles</key><dict><key>OSD</key><string>none</string></dict>",
+                                "<key>QVOSDOverlayStyle</key><string>No Such Style</string>"}) {
+        SCOPED_TRACE(entries);
+        writeSettings(entries);
+        startPlain();
+        probe.tap(XK_d);
+        ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Time"));
+        player->signal(SIGTERM);
+        EXPECT_EQ(player->waitForExit(Seconds(5)), 0);
+    }
+}
