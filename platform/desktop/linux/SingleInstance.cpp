@@ -59,6 +59,18 @@ bool isPrivateFolder(const QByteArray& path) {
            (status.st_mode & 022) == 0;
 }
 
+/// Another launch that only looks holds the lock for an instant.
+bool takeLock(int lock) {
+    constexpr int attempts = 20;
+    constexpr unsigned pauseInMicroseconds = 500;
+    for (int i = 0; i < attempts; ++i) {
+        if (::flock(lock, LOCK_EX | LOCK_NB) == 0)
+            return true;
+        ::usleep(pauseInMicroseconds);
+    }
+    return false;
+}
+
 } // namespace
 
 struct SingleInstance::Client {
@@ -158,7 +170,7 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> receive) {
         return false;
     // Whoever holds the lock is the running player; a socket left behind by a crash is then nobody's.
     _lock = ::open(QFile::encodeName(lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (_lock < 0 || ::flock(_lock, LOCK_EX | LOCK_NB) != 0)
+    if (_lock < 0 || !takeLock(_lock))
         return false;
     ::unlink(address->sun_path);
     _socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
