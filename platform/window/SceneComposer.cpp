@@ -14,11 +14,6 @@
 
 namespace platform {
 
-namespace {
-/// A child larger than this many pixels on a side is a mistake, not a picture.
-constexpr int largestChild = 16384;
-} // namespace
-
 SceneComposer::SceneComposer(Window& root)
     : _root(root) {}
 
@@ -120,9 +115,12 @@ void SceneComposer::updateChildren(double pixelRatio) {
     for (const Window* window : _root.childWindows()) {
         if (!window->isOrderedIn() || window->alphaValue() <= 0)
             continue;
-        const QRect place = sceneGeometry::toPixels(window->frame().translated(-_root.frame().topLeft()),
+        const QRect whole = sceneGeometry::toPixels(window->frame().translated(-_root.frame().topLeft()),
                                                     _root.frame().size(), pixelRatio);
-        if (place.isEmpty() || place.width() > largestChild || place.height() > largestChild)
+        // What lies outside the root is never seen: no picture is made of it, however large a child is.
+        const QRect place =
+            whole.intersected(sceneGeometry::toPixels(_root.contentView().bounds(), _root.frame().size(), pixelRatio));
+        if (place.isEmpty())
             continue;
         // Kept in the order of the windows, each with the picture it had.
         const auto begin = _children.begin() + static_cast<std::ptrdiff_t>(count);
@@ -137,8 +135,10 @@ void SceneComposer::updateChildren(double pixelRatio) {
         }
         Child& child = _children[count++];
         const bool holds = child.revision == window->contentRevision() && child.pixelRatio == pixelRatio &&
-                           child.picture.size() == place.size();
+                           child.picture.size() == place.size() &&
+                           child.place.topLeft() - child.origin == place.topLeft() - whole.topLeft();
         child.place = place;
+        child.origin = whole.topLeft();
         if (!holds || child.picture.isNull())
             drawChild(child, pixelRatio);
     }
@@ -154,8 +154,10 @@ void SceneComposer::drawChild(Child& child, double pixelRatio) {
     child.picture.fill(Qt::transparent);
     QPainter painter(&child.picture);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    const QPoint outside = child.place.topLeft() - child.origin;
+    painter.translate(-outside);
     auto& window = const_cast<Window&>(*child.window);
-    drawViews(painter, window, window.contentView(), QRegion(child.picture.rect()), pixelRatio);
+    drawViews(painter, window, window.contentView(), QRegion(child.picture.rect().translated(outside)), pixelRatio);
 }
 
 } // namespace platform

@@ -42,7 +42,8 @@ private:
         std::uint64_t revision = 0;
         double pixelRatio = 0;
         QImage picture;
-        QRect place; // pixels
+        QRect place;   // pixels of the root that the picture covers: the child's within the root
+        QPoint origin; // where the child's top left corner stands
     };
 
     void visitPictures(const View& view, double pixelRatio,
