@@ -40,7 +40,7 @@ public:
     QRectF naturalBounds() const;
     /// The natural bounds within the main window, origin bottom left.
     QRectF naturalFrame() const;
-    const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const { return _subtitles; }
+    const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const override { return _subtitles; }
     QString description() const { return url().toString(); }
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.

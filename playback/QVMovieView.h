@@ -3,6 +3,7 @@
 
 #include "app/context/Notifications.h"
 #include "app/settings/QVPreferencesChangedNotification.h"
+#include "overlays/PictureGeometry.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MovieView.h"
@@ -25,7 +26,7 @@ public:
 
 /// The view that shows the current movie: size codes, magnification, jumps, panning, volume. Frame and sizes are
 /// points. Main thread.
-class QVMovieView final : public platform::MovieView {
+class QVMovieView final : public platform::MovieView, public PictureGeometry {
 public:
     explicit QVMovieView(platform::MoviePlayer& player);
     ~QVMovieView() override;
@@ -41,8 +42,8 @@ public:
     void setMovieSize(std::int32_t code, Recalculation recalculation);
     /// The frame's width by the natural width; 0 without a movie.
     float magnification() const;
-    float aspectRatio() const;
-    QSizeF sizeForFitScreen(std::int32_t mode) const;
+    float aspectRatio() const override;
+    QSizeF sizeForFitScreen(std::int32_t mode) const override;
     QSizeF sizeForMagnification(float m) const;
 
     /// In the movie's time units; 0 without a movie.
@@ -56,7 +57,9 @@ public:
     void saveMovieState();
     void restoreMovieState();
 
-    unsigned getControllerHeight() const { return 16; }
+    QRectF pictureFrame() const override { return frame(); }
+    bool isControllerBarVisible() const override { return isControllerVisible(); }
+    unsigned getControllerHeight() const override { return 16; }
     void toggleController();
     void setVolume(float volume) override;
     QString volumeInfoAsString() const;

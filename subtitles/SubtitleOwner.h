@@ -2,8 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <vector>
 
-/// What a subtitle track asks of the movie that it belongs to. Main thread.
+class QVSubtitles;
+
+/// What a subtitle track, and the subtitles controller, ask of the movie that the track belongs to. Main thread.
 class SubtitleOwner {
 public:
     virtual ~SubtitleOwner() = default;
@@ -13,4 +17,9 @@ public:
     /// Pictures a second; 0 without video.
     virtual float frameRate() = 0;
     virtual std::int32_t time() const = 0;
+    /// The tracks found for it; they must not be used once it is gone.
+    virtual const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const {
+        static const std::vector<std::shared_ptr<QVSubtitles>> none;
+        return none;
+    }
 };

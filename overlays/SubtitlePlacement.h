@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+
+#include <cstdint>
+#include <optional>
+
+/// How large the text of a subtitle is and where it stands, in points; y grows upwards.
+namespace SubtitlePlacement {
+
+/// The size of the letters for a picture `pictureWidth` wide that would be `fitWidth` wide where it fits the screen:
+/// they shrink with the picture, down to the smallest size, and never grow beyond the largest.
+struct TextSize {
+    float size;
+    double ratio;
+};
+TextSize textSize(double pictureWidth, double fitWidth, float smallest, float largest);
+
+/// What a subtitle stands on.
+struct Ground {
+    QRectF parent; // on the screen
+    double padding = 0;
+    /// The movie view within the parent, or nothing without one.
+    std::optional<QRectF> picture;
+    /// Of the controller bar, or nothing while it is hidden.
+    std::optional<double> bar;
+};
+
+/// The rectangle moved to where an alignment code puts it. The horizontal field is that of every overlay; the vertical
+/// one knows below the picture (0x00), on its bottom edge (0x10) and above the parent's bottom edge (0x20). Nothing
+/// stands below the parent's bottom edge; what would comes to stand on the bar, if that shows.
+QRectF placed(const QRectF& rect, std::uint32_t alignment, const Ground& ground);
+
+} // namespace SubtitlePlacement

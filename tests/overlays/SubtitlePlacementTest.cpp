@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/SubtitlePlacement.h"
+
+#include <gtest/gtest.h>
+
+using namespace SubtitlePlacement;
+
+TEST(SubtitlePlacement, letters_shrink_with_the_picture_and_never_grow) {
+    const struct {
+        double picture, fit;
+        float smallest, largest, size;
+    } cases[] = {
+        {512, 1024, 20, 36, 20}, // half of 36 is below the smallest
+        {512, 1024, 12, 36, 18}, {1024, 1024, 20, 36, 36}, {2048, 1024, 20, 36, 36},
+        {0, 0, 20, 36, 36},      {0, 1024, 20, 36, 20},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(textSize(c.picture, c.fit, c.smallest, c.largest).size, c.size) << c.picture << " of " << c.fit;
+}
+
+TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
+    const QRectF parent(100, 50, 1000, 800);
+    const QRectF small(200, 150, 600, 500), filling(0, 0, 1000, 800), beyond(-500, -400, 2000, 1600);
+    const struct {
+        const char* name;
+        std::uint32_t alignment;
+        std::optional<QRectF> picture;
+        std::optional<double> bar;
+        double y;
+    } cases[] = {
+        {"below", 0x100, small, {}, 160},
+        {"below, with the bar", 0x100, small, 16, 160},
+        {"below a picture that reaches down", 0x100, filling, {}, 50},
+        {"below a picture that reaches down, with the bar", 0x100, filling, 16, 66},
+        {"below a picture beyond the screen, with its bar there", 0x100, beyond, 16, 50},
+        {"on the picture", 0x110, small, {}, 200},
+        {"on the picture, above the bar", 0x110, small, 16, 216},
+        {"on a picture beyond the screen", 0x110, beyond, {}, 50},
+        {"at the bottom", 0x120, small, 16, 74},
+        {"unknown", 0x130, small, 16, 50},
+        {"below nothing", 0x100, {}, {}, 50},
+        {"on nothing", 0x110, {}, {}, 50},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(placed(QRectF(-3, -3, 400, 40), c.alignment, {parent, 24, c.picture, c.bar}),
+                  QRectF(400, c.y, 400, 40))
+            << c.name;
+    EXPECT_EQ(placed(QRectF(0, 0, 400, 40), 0x121, {parent, 24, small, {}}).x(), 124);
+    EXPECT_EQ(placed(QRectF(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
+}
