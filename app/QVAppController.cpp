@@ -390,7 +390,7 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
     if (defaults().integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
         _steps.saveState();
     if (defaults().boolForKey(kQVOSDStateSave))
-        defaults().setInteger(QVOSDOverlay::sharedOSDOverlay().displayType(), kQVOSDStateSavedType);
+        defaults().setInteger(QVOSDOverlay::sharedDisplayType(), kQVOSDStateSavedType);
     if (_view.isPlaying())
         _view.stop();
     _window.setTerminating(true);

@@ -42,6 +42,10 @@ QVOSDOverlay& QVOSDOverlay::sharedOSDOverlay() {
     return *sShared;
 }
 
+int QVOSDOverlay::sharedDisplayType() {
+    return sShared ? sShared->displayType() : 0;
+}
+
 void QVOSDOverlay::destroyShared() {
     sShared.reset();
 }

@@ -11,6 +11,8 @@ class QVOSDOverlay final : public QVTextOverlay {
 public:
     /// The one of the process, made on the first call above the application's main window, if there is one.
     static QVOSDOverlay& sharedOSDOverlay();
+    /// What the shared overlay shows, 0 when there is none; makes none.
+    static int sharedDisplayType();
     /// Ends the shared overlay, at termination; the next call would make another.
     static void destroyShared();
     /// Who knows what is shown; null for nobody, and then texts are empty. The texts must outlive their use.
