@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/SettingsKeys.h"
+#include "bench/Allocations.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVOSDOverlay.h"
 #include "overlays/QVParentOverlay.h"
+#include "platform/window/PictureLayer.h"
 #include "platform/window/SceneComposer.h"
 #include "tests/support/TestSettings.h"
 
@@ -11,7 +13,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <vector>
+#include <array>
 
 namespace {
 
@@ -79,28 +81,80 @@ BENCHMARK(tenThousandCharactersFromTextToComposed)
     ->Arg(2160)
     ->Unit(benchmark::kMillisecond);
 
-/// What the marked pixels of all three overlays cost when a movie's picture has just been put under them.
-void composingAFrameUnderThreeOverlays(benchmark::State& state) {
-    Scene scene(state.range(0));
-    QVTextOverlay subtitles(&scene.root, kQVSubtitlesOverlayStyle);
-    QVFeedbackOverlay feedback(&scene.root);
-    QVOSDOverlay osd(&scene.root);
-    scene.show(subtitles, subtitle(1));
-    scene.show(feedback, QStringLiteral("Volume: 50%"));
-    scene.show(osd, QStringLiteral("Time: 0:12:34/1:59:59"));
-    const bool shown = state.range(1) != 0;
-    for (QVTextOverlay* overlay : std::vector<QVTextOverlay*>{&subtitles, &feedback, &osd}) {
-        if (!shown)
-            overlay->orderOut();
+/// A movie that takes no time: what is measured is what stands over it.
+class Movie : public platform::View, public platform::PictureLayer {
+public:
+    platform::PictureLayer* pictureLayer() override { return this; }
+    QRectF pictureRect() const override { return bounds(); }
+    QRectF drawnRect() const override { return QRectF(); }
+    bool renderPixels(const QRect&, const QRect&, unsigned char*, std::size_t) override { return true; }
+    bool beginGL(platform::GLContext&) override { return false; }
+    void endGL() override {}
+    bool renderGL(const QRect&, const QSize&, unsigned) override { return false; }
+    void skip() override {}
+};
+
+/// A movie that fills the screen, under a subtitle of two lines, a message and the time.
+struct MovieScene : Scene {
+    explicit MovieScene(std::int64_t height)
+        : Scene(height) {
+        movie.setFrame(root.contentView().bounds());
+        root.contentView().addSubview(movie);
+        show(subtitles, subtitle(1));
+        show(feedback, QStringLiteral("Volume: 50%"));
+        show(osd, QStringLiteral("Time: 0:12:34/1:59:59"));
     }
-    const QRegion all = scene.place(subtitles) + scene.place(feedback) + scene.place(osd);
+    void composeFrame() { compose(target.rect()); }
+    void setAlpha(float alpha) {
+        for (QVTextOverlay* overlay : overlays)
+            overlay->setAlphaValue(alpha);
+    }
+
+    Movie movie;
+    QVTextOverlay subtitles{&root, kQVSubtitlesOverlayStyle};
+    QVFeedbackOverlay feedback{&root};
+    QVOSDOverlay osd{&root};
+    const std::array<QVTextOverlay*, 3> overlays{&subtitles, &feedback, &osd};
+};
+
+/// What all three overlays cost when a movie's picture has just been put under them.
+void composingAFrameUnderThreeOverlays(benchmark::State& state) {
+    MovieScene scene(state.range(0));
+    if (state.range(1) == 0)
+        for (QVTextOverlay* overlay : scene.overlays)
+            overlay->orderOut();
+    scene.composeFrame(); // the overlays' own pictures
+    const std::uint64_t before = allocationsSoFar();
     for ([[maybe_unused]] const auto step : state)
-        scene.compose(all);
+        scene.composeFrame();
+    state.counters["allocations"] =
+        benchmark::Counter(static_cast<double>(allocationsSoFar() - before), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(composingAFrameUnderThreeOverlays)
     ->ArgNames({"height", "shown"})
     ->ArgsProduct({{1080, 2160}, {0, 1}})
     ->Unit(benchmark::kMicrosecond);
+
+/// A second of a movie of 30 frames, in which the overlays take twenty steps of a fade, each composed by itself, or
+/// stand transparent. Ten milliseconds of it are a hundredth of a core, and of a frame's time.
+void aSecondOfAMovieWhileThreeOverlaysFade(benchmark::State& state) {
+    constexpr int frames = 30, steps = 20;
+    MovieScene scene(state.range(0));
+    scene.setAlpha(0);
+    for ([[maybe_unused]] const auto second : state) {
+        for (int frame = 0, step = 0; frame < frames; ++frame) {
+            scene.composeFrame();
+            if (state.range(1) != 0 && (frame + 1) * steps / frames > step) {
+                scene.setAlpha(static_cast<float>(++step) / steps);
+                scene.composeFrame();
+            }
+        }
+    }
+}
+BENCHMARK(aSecondOfAMovieWhileThreeOverlaysFade)
+    ->ArgNames({"height", "fading"})
+    ->ArgsProduct({{1080, 2160}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <fstream>
 #include <limits>
 #include <stdexcept>
 
@@ -20,6 +21,11 @@ namespace {
 
 constexpr Seconds lookEvery{0.0005};
 constexpr double warmUp = 2;
+
+constexpr harness::Region top{0, 0, screenWidth, screenHeight / 3};
+constexpr harness::Region topLeft{0, 0, screenWidth / 2, screenHeight / 3};
+constexpr harness::Region topRight{screenWidth / 2, 0, screenWidth / 2, screenHeight / 3};
+constexpr harness::Region bottom{0, screenHeight * 2 / 3, screenWidth, screenHeight / 3};
 
 double now() {
     return Seconds(std::chrono::steady_clock::now().time_since_epoch()).count();
@@ -35,6 +41,30 @@ double medianOf(std::vector<double> values) {
     std::ranges::sort(values);
     const std::size_t half = values.size() / 2;
     return values.size() % 2 ? values[half] : (values[half - 1] + values[half]) / 2;
+}
+
+// Everything fades in and out for nearly a second each.
+void writeSlowFades(const std::filesystem::path& configFolder) {
+    const std::filesystem::path folder = configFolder / "lumaro";
+    std::filesystem::create_directories(folder);
+    std::ofstream file(folder / "org.lumaro.Lumaro.plist");
+    file << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>QVOverlayStyles</key><dict>";
+    for (const char* style : {"OSD", "Feedback", "Subtitles"})
+        file << "<key>" << style
+             << "</key><dict><key>FadingInInterval</key><real>0.9</real><key>FadingOutInterval</key><real>0.9</real>"
+                "<key>FadingDelayInterval</key><real>0.1</real></dict>";
+    file << "</dict></dict></plist>\n";
+}
+
+// Pressed every second: the display comes and goes in turn, and a message comes when the display does and goes by
+// itself.
+void pressForFades(harness::XProbe& probe, int turn) {
+    if (turn % 2 == 0) {
+        probe.tap(XK_d, {XK_Shift_L});
+        probe.tap(XK_m);
+    } else {
+        probe.tap(XK_d);
+    }
 }
 
 } // namespace
@@ -79,6 +109,7 @@ Measurements::Measurements(Plan plan, const std::filesystem::path& folder)
     , _folder(folder)
     , _media(folder / "media")
     , _movie(makeMovie(_media).string())
+    , _plainMovie(makePlainMovie(_media).string())
     , _server(screenWidth, screenHeight)
     , _probe(_server.display()) {
     for (const Player::Kind kind : {Player::Kind::mpv, Player::Kind::vlc, Player::Kind::lumaro})
@@ -98,6 +129,12 @@ const Samples& Measurements::run() {
         measureJumps();
     if (wants("open"))
         measureOpening();
+    if (wants("osd"))
+        measureTimeDisplay();
+    if (wants("subtitles"))
+        measureSubtitles();
+    if (wants("fade"))
+        measureFade();
     return _samples;
 }
 
@@ -108,8 +145,9 @@ std::vector<const Player*> Measurements::turnOf(int round) const {
     return turn;
 }
 
-std::unique_ptr<ChildProcess> Measurements::startPlaying(const Player& player) {
-    auto process = player.start(_server.display(), {_movie});
+std::unique_ptr<ChildProcess> Measurements::startPlaying(const Player& player, const std::string& movie,
+                                                         const std::vector<std::string>& options) {
+    auto process = player.start(_server.display(), {movie}, options);
     if (!waitUntil([this] { return showsMovie(_probe); }, harness::patience, lookEvery))
         throw std::runtime_error(player.name() + " shows no movie: " + process->errorOutput());
     return process;
@@ -262,6 +300,103 @@ void Measurements::measureOpening() {
             openSerially();
     }
     std::filesystem::remove_all(many);
+}
+
+double Measurements::processorSharePlaying(const Player& player, const std::string& movie,
+                                           const std::vector<std::string>& options) {
+    auto process = startPlaying(player, movie, options);
+    pause(warmUp);
+    const double before = now();
+    const auto ticksBefore = processorTicks(process->pid());
+    pause(_plan.playSeconds);
+    const auto ticks = processorTicks(process->pid()) - ticksBefore;
+    const double seconds = now() - before;
+    endAndClear(process);
+    return double(ticks) / ticksPerSecond() / seconds;
+}
+
+bool Measurements::textAppears(const harness::Region& part) {
+    const auto isWhite = [](std::uint32_t pixel) { return (pixel & 0xE0E0E0) == 0xE0E0E0; };
+    return waitUntil([&] { return std::ranges::count_if(_probe.picture(part).pixels, isWhite) > 200; }, Seconds(5),
+                     Seconds(0.05));
+}
+
+bool Measurements::showsText(const Player& player, const harness::Region& part, const std::string& plainMovie,
+                             const std::vector<std::string>& options) {
+    auto process = startPlaying(player, plainMovie, options);
+    const bool shows = textAppears(part);
+    endAndClear(process);
+    return shows;
+}
+
+void Measurements::measureTimeDisplay() {
+    std::set<std::string> showing;
+    for (const Player& player : _players)
+        if (showsText(player, top, _plainMovie, player.timeDisplayOptions()))
+            showing.insert(player.name());
+    for (int round = 0; round < _plan.playRounds; ++round)
+        for (const Player* player : turnOf(round))
+            if (showing.contains(player->name()))
+                _samples.add("osd", player->name(),
+                             processorSharePlaying(*player, _movie, player->timeDisplayOptions()));
+}
+
+void Measurements::measureSubtitles() {
+    const std::string plain = withSubtitles(_plainMovie, _folder / "subtitled", 1.9).string();
+    const std::string movie = withSubtitles(_movie, _folder / "subtitled", 1.9).string();
+    std::set<std::string> showing;
+    for (const Player& player : _players)
+        if (showsText(player, bottom, plain, player.subtitleOptions(plain)))
+            showing.insert(player.name());
+    for (int round = 0; round < _plan.playRounds; ++round)
+        for (const Player* player : turnOf(round))
+            if (showing.contains(player->name()))
+                _samples.add("subtitles", player->name(),
+                             processorSharePlaying(*player, movie, player->subtitleOptions(movie)));
+}
+
+void Measurements::measureFade() {
+    const Player player(Player::Kind::lumaro, _folder / "users of fades");
+    writeSlowFades(player.configFolder());
+    const std::string plain = withSubtitles(_plainMovie, _folder / "fading", 1).string();
+    const std::string movie = withSubtitles(_movie, _folder / "fading", 1).string();
+    {
+        auto process = startPlaying(player, plain);
+        pressForFades(_probe, 0);
+        if (!textAppears(topLeft) || !textAppears(topRight))
+            throw std::runtime_error("no overlay fades in: " + process->errorOutput());
+        endAndClear(process);
+    }
+    for (int round = 0; round < _plan.playRounds; ++round) {
+        playFading(player, movie, round % 2 == 0);
+        playFading(player, movie, round % 2 != 0);
+    }
+}
+
+void Measurements::playFading(const Player& player, const std::string& movie, bool fading) {
+    auto process = startPlaying(player, fading ? movie : _movie);
+    pause(warmUp);
+    std::set<int> seen;
+    int taps = 0;
+    const double before = now();
+    const auto ticksBefore = processorTicks(process->pid());
+    waitUntil(
+        [&] {
+            if (fading && now() - before > taps)
+                pressForFades(_probe, taps++);
+            if (const auto frame = frameOnScreen(_probe))
+                seen.insert(*frame);
+            return false;
+        },
+        Seconds(_plan.playSeconds), Seconds(0.004));
+    const auto ticks = processorTicks(process->pid()) - ticksBefore;
+    const double seconds = now() - before;
+    endAndClear(process);
+    if (seen.empty())
+        throw std::runtime_error(player.name() + " shows no frame while overlays fade");
+    const std::string name = fading ? player.name() : "none fading";
+    _samples.add("fade", name, double(ticks) / ticksPerSecond() / seconds);
+    _samples.add("fade left out", name, *seen.rbegin() - *seen.begin() + 1 - int(seen.size()));
 }
 
 } // namespace bench

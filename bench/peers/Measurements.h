@@ -26,7 +26,8 @@ struct Plan {
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu", "memory", "paused", "jump", "open"};
+inline const std::set<std::string> rowNames = {"start", "cpu", "memory", "paused",   "jump",
+                                               "open",  "osd", "fade",   "subtitles"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -55,9 +56,21 @@ private:
     void measurePlaying();
     void measureJumps();
     void measureOpening();
+    void measureTimeDisplay();
+    void measureSubtitles();
+    void measureFade();
 
     // A player that shows the movie. Throws std::runtime_error with its words when it does not.
-    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player);
+    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player) { return startPlaying(player, _movie); }
+    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player, const std::string& movie,
+                                                        const std::vector<std::string>& options = {});
+    double processorSharePlaying(const Player& player, const std::string& movie,
+                                 const std::vector<std::string>& options);
+    // Whether white letters come into the part of the screen, where nothing but the plain movie is.
+    bool textAppears(const harness::Region& part);
+    bool showsText(const Player& player, const harness::Region& part, const std::string& plainMovie,
+                   const std::vector<std::string>& options);
+    void playFading(const Player& player, const std::string& movie, bool fading);
     void playOnce(const Player& player);
     void jumpThrice(const Player& player, bool exactly, int round);
     void endAndClear(std::unique_ptr<harness::ChildProcess>& process);
@@ -69,6 +82,7 @@ private:
     std::filesystem::path _folder;
     harness::MediaFixture _media;
     std::string _movie;
+    std::string _plainMovie;
     harness::XvfbServer _server;
     harness::XProbe _probe;
     std::vector<Player> _players;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/peers/Movies.h"
 
+#include <cstdio>
 #include <fstream>
 #include <stdexcept>
 
@@ -54,6 +55,32 @@ std::filesystem::path makeMovie(const harness::MediaFixture& media) {
                                            keyframes,
                                            "-sc_threshold",
                                            "0"});
+}
+
+std::filesystem::path makePlainMovie(const harness::MediaFixture& media) {
+    return media.make("plain.mp4",
+                      {"-f", "lavfi", "-i", "color=c=" + harness::ffmpegColor(stripe) + ":s=1920x1080:r=30:d=60",
+                       "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p"});
+}
+
+std::filesystem::path withSubtitles(const std::filesystem::path& movie, const std::filesystem::path& folder,
+                                    double secondsShown) {
+    std::filesystem::create_directories(folder);
+    const std::filesystem::path copy = folder / movie.filename();
+    std::filesystem::copy_file(movie, copy, std::filesystem::copy_options::overwrite_existing);
+    std::ofstream file(std::filesystem::path(copy).replace_extension(".srt"));
+    for (int cue = 0; cue < 30; ++cue) {
+        const int start = cue * 2000, end = start + int(secondsShown * 1000);
+        const auto time = [](int milliseconds) {
+            char text[48];
+            std::snprintf(text, sizeof text, "00:00:%02d,%03d", milliseconds / 1000, milliseconds % 1000);
+            return std::string(text);
+        };
+        file << cue + 1 << '\n'
+             << time(start) << " --> " << time(end) << "\nThe keeper saw " << cue
+             << " ships go by,\nand waved his hat to every one.\n\n";
+    }
+    return copy;
 }
 
 bool showsMovie(harness::XProbe& probe) {

@@ -19,6 +19,12 @@ inline constexpr int framesPerSecond = 30;
 // with keyframes 250 apart. It carries each frame's number across its middle and a red stripe at its bottom, by which
 // it is seen from outside. Throws std::runtime_error when ffmpeg fails.
 std::filesystem::path makeMovie(const harness::MediaFixture& media);
+// A minute of nothing but the stripe's colour, as large: what stands over it is seen.
+std::filesystem::path makePlainMovie(const harness::MediaFixture& media);
+
+// The movie in the folder, with a SubRip file beside it: a text of two lines every two seconds, shown for so long.
+std::filesystem::path withSubtitles(const std::filesystem::path& movie, const std::filesystem::path& folder,
+                                    double secondsShown);
 
 // Whether the movie is on the screen; the number of the frame that is.
 bool showsMovie(harness::XProbe& probe);

@@ -69,7 +69,9 @@ std::unique_ptr<ChildProcess> Player::start(const std::string& display, const st
         break;
     case Kind::lumaro:
         child.environment["QT_QPA_PLATFORM"] = "xcb";
-        arguments = {LUMARO_PROGRAM, "--software", "--set", "QVOnLaunchDefaultAction=0"};
+        arguments = {LUMARO_PROGRAM, "--software", "--set", "QVOnLaunchDefaultAction=0",
+                     // What a run before this one showed is kept.
+                     "--set", "QVOSDStateSavedType=0"};
         break;
     }
     append(arguments, options);
@@ -101,6 +103,25 @@ KeyPress Player::jumpKey() const {
 
 KeyPress Player::exactJumpKey() const {
     return _kind == Kind::mpv ? KeyPress{XK_z, {}} : jumpKey();
+}
+
+std::vector<std::string> Player::timeDisplayOptions() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {"--osd-level=3"};
+    case Kind::vlc:
+        return {"--sub-source=marq{marquee=%H:%M:%S,refresh=1000,position=5}"};
+    case Kind::lumaro:
+        break;
+    }
+    return {"--set", "QVOSDStateSavedType=1"};
+}
+
+std::vector<std::string> Player::subtitleOptions(const std::filesystem::path& movie) const {
+    if (_kind != Kind::vlc)
+        return {}; // They look beside the movie by themselves.
+    return {"--no-sub-autodetect-file",
+            "--sub-file=" + std::filesystem::path(movie).replace_extension(".srt").string()};
 }
 
 } // namespace bench

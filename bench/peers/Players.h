@@ -26,6 +26,7 @@ public:
 
     Kind kind() const { return _kind; }
     const std::string& name() const { return _name; }
+    std::filesystem::path configFolder() const { return _folder / "config"; }
     // Full screen, software output, no sound.
     std::unique_ptr<harness::ChildProcess> start(const std::string& display, const std::vector<std::string>& files,
                                                  const std::vector<std::string>& options = {}) const;
@@ -36,6 +37,11 @@ public:
     // Ten seconds forward as the player does it by itself; exactly ten seconds.
     KeyPress jumpKey() const;
     KeyPress exactJumpKey() const;
+
+    // With these options it shows the time over the picture as long as it plays; shows the subtitles that stand beside
+    // the movie.
+    std::vector<std::string> timeDisplayOptions() const;
+    std::vector<std::string> subtitleOptions(const std::filesystem::path& movie) const;
 
 private:
     Kind _kind;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Lumaro beside other players and prints a table:
-//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open]
+//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,fade]
 // Progress and every sample go to standard error.
 #include "bench/peers/Measurements.h"
 
@@ -24,22 +24,27 @@ struct Line {
     std::vector<std::string> peers; // of the columns mpv and VLC
     const char* format;
     std::optional<double> goal; // at most so much of the better peer
+    std::optional<double> more; // or: at most so much more than it
 };
 
 const std::vector<Line> lines = {
-    {"process start to first picture, ms", "start", {"mpv", "VLC"}, "%.0f", 0.9},
-    {"CPU seconds a second of 1080p30 H.264", "cpu", {"mpv", "VLC"}, "%.3f", 1.0},
-    {"the X server's CPU seconds meanwhile", "server", {"mpv", "VLC"}, "%.3f", {}},
-    {"pictures shown a second (of 30)", "pictures", {"mpv", "VLC"}, "%.1f", {}},
-    {"resident memory while playing, MB", "resident", {"mpv", "VLC"}, "%.0f", 1.0},
-    {"the same, shared pages in part (Pss), MB", "proportional", {"mpv", "VLC"}, "%.0f", {}},
-    {"jump of 10 s: first picture of the new place, ms (mpv: seek 10)", "jump first", {"mpv"}, "%.0f", 0.5},
-    {"the same (mpv: seek 10 exact)", "jump first", {"mpv exact", "VLC"}, "%.0f", 0.5},
-    {"jump of 10 s: exact picture, ms (mpv: seek 10 exact)", "jump exact", {"mpv exact", "VLC"}, "%.0f", {}},
-    {"opening 1,000 new mp4, ms (first column: libavformat, one by one)", "open", {"libavformat"}, "%.0f", 0.3},
-    {"paused: CPU ticks in 10 s", "paused ticks", {"mpv", "VLC"}, "%.0f", 0.0},
-    {"paused: ms run in 10 s", "paused run", {"mpv", "VLC"}, "%.1f", {}},
-    {"paused: ms the X server ran in 10 s", "paused server", {"mpv", "VLC"}, "%.1f", {}},
+    {"process start to first picture, ms", "start", {"mpv", "VLC"}, "%.0f", 0.9, {}},
+    {"CPU seconds a second of 1080p30 H.264", "cpu", {"mpv", "VLC"}, "%.3f", 1.0, {}},
+    {"the X server's CPU seconds meanwhile", "server", {"mpv", "VLC"}, "%.3f", {}, {}},
+    {"pictures shown a second (of 30)", "pictures", {"mpv", "VLC"}, "%.1f", {}, {}},
+    {"resident memory while playing, MB", "resident", {"mpv", "VLC"}, "%.0f", 1.0, {}},
+    {"the same, shared pages in part (Pss), MB", "proportional", {"mpv", "VLC"}, "%.0f", {}, {}},
+    {"jump of 10 s: first picture of the new place, ms (mpv: seek 10)", "jump first", {"mpv"}, "%.0f", 0.5, {}},
+    {"the same (mpv: seek 10 exact)", "jump first", {"mpv exact", "VLC"}, "%.0f", 0.5, {}},
+    {"jump of 10 s: exact picture, ms (mpv: seek 10 exact)", "jump exact", {"mpv exact", "VLC"}, "%.0f", {}, {}},
+    {"opening 1,000 new mp4, ms (first column: libavformat, one by one)", "open", {"libavformat"}, "%.0f", 0.3, {}},
+    {"CPU seconds a second, the time shown all along", "osd", {"mpv", "VLC"}, "%.3f", 1.0, {}},
+    {"CPU seconds a second, with subtitles of two lines", "subtitles", {"mpv", "VLC"}, "%.3f", 1.0, {}},
+    {"CPU seconds a second while overlays fade (first column: none do)", "fade", {"none fading"}, "%.3f", {}, 0.03},
+    {"pictures left out meanwhile (first column: none fade)", "fade left out", {"none fading"}, "%.0f", {}, 0.0},
+    {"paused: CPU ticks in 10 s", "paused ticks", {"mpv", "VLC"}, "%.0f", 0.0, {}},
+    {"paused: ms run in 10 s", "paused run", {"mpv", "VLC"}, "%.1f", {}, {}},
+    {"paused: ms the X server ran in 10 s", "paused server", {"mpv", "VLC"}, "%.1f", {}, {}},
 };
 
 std::string formatted(const char* format, double value) {
@@ -65,6 +70,10 @@ void print(const Line& line, const Samples& samples) {
     if (line.goal) {
         goal = *line.goal > 0 ? formatted("at most %.1f", *line.goal) : "none";
         reached = std::isnan(own) ? "-" : (*line.goal > 0 ? ratio <= *line.goal : own <= 0) ? "yes" : "no";
+    }
+    if (line.more) {
+        goal = formatted("at most %g more", *line.more);
+        reached = std::isnan(own) ? "-" : own - best <= *line.more ? "yes" : "no";
     }
     std::printf("| %s | %s%s | %s | %s | %s |\n", line.what.c_str(), cells.c_str(), formatted(line.format, own).c_str(),
                 formatted("%.2f", ratio).c_str(), goal.c_str(), reached.c_str());
@@ -96,7 +105,8 @@ std::optional<Plan> planOf(const std::vector<std::string>& arguments) {
 int main(int count, char** arguments) {
     const auto plan = planOf({arguments + 1, arguments + count});
     if (!plan) {
-        std::fputs("usage: side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open]\n", stderr);
+        std::fputs("usage: side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,fade]\n",
+                   stderr);
         return 2;
     }
     try {
