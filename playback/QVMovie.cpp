@@ -11,6 +11,7 @@
 #include "platform/window/Window.h"
 #include "playback/MovieOrdering.h"
 #include "playback/SubtitleDiscovery.h"
+#include "subtitles/SubtitleRegistry.h"
 
 #include <utility>
 

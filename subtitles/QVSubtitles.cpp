@@ -1,23 +1,295 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitles.h"
 
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/Tracing.h"
+#include "platform/base/RegularFile.h"
+#include "subtitles/CueSearch.h"
+#include "subtitles/text/LineReader.h"
+#include "subtitles/text/SubtitleText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <new>
+
 namespace {
-SubtitleRegistry* sShared = nullptr;
+
+constexpr float sFrameRateList[] = {0.0F, 23.976F, 24.0F, 25.0F, 29.97F, 30.0F};
+/// For a movie without a rate of its own.
+constexpr float usualFrameRate = 25.0F;
+constexpr std::uint32_t noIndex = 0x7FFFFFFF;
+/// A million cues fit; what is larger is no text that somebody wrote, and reading it would stop the player for seconds.
+constexpr qsizetype largestFile = 128 * 1024 * 1024;
+
+QString fileName(const QString& path) {
+    return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
-SubtitleRegistry& SubtitleRegistry::shared() {
-    static SubtitleRegistry registry;
-    return sShared ? *sShared : registry;
+} // namespace
+
+QVSubtitles::QVSubtitles(QString path, SubtitleOwner& owner, Type type, float timeScaleAdjustment)
+    : _path(std::move(path))
+    , _type(type)
+    , _owner(&owner)
+    , _fps(QVUserDefaults::standardUserDefaults().integerForKey(kQVSubtitlesDefaultFPS))
+    , _timeScaleAdjustment(timeScaleAdjustment) {}
+
+std::int32_t QVSubtitles::truncated(float value) {
+    // The first value that does not fit; the largest that does is no float.
+    constexpr float tooMuch = 2147483648.0F;
+    if (std::isnan(value))
+        return 0;
+    if (value >= tooMuch)
+        return std::numeric_limits<std::int32_t>::max();
+    if (value <= -tooMuch)
+        return std::numeric_limits<std::int32_t>::min();
+    return static_cast<std::int32_t>(value);
 }
 
-void SubtitleRegistry::setShared(SubtitleRegistry* registry) {
-    sShared = registry;
+QVSubtitles::~QVSubtitles() {
+    stopWorker();
 }
 
-QStringList SubtitleRegistry::subtitleUnfilteredFileTypes() const {
-    return {};
+std::uint32_t QVSubtitles::defaultEncoding() {
+    const QVariant stored = QVUserDefaults::standardUserDefaults().objectForKey(kQVSubtitlesDefaultEncoding);
+    return static_cast<std::uint32_t>(stored.toLongLong());
 }
 
-std::vector<std::shared_ptr<QVSubtitles>> SubtitleRegistry::subtitlesWithFilePath(const QString&, SubtitleOwner&) {
-    return {};
+std::unique_lock<std::mutex> QVSubtitles::lockWorker() {
+    return _guards ? std::unique_lock(_guards->worker) : std::unique_lock<std::mutex>();
+}
+
+std::unique_lock<std::mutex> QVSubtitles::lockSubtitles() const {
+    return _guards ? std::unique_lock(_guards->sub) : std::unique_lock<std::mutex>();
+}
+
+void QVSubtitles::preload() {
+    if (_subtitles)
+        return;
+    _encoding = defaultEncoding();
+    _decoder = platform::TextDecoder(_encoding);
+    _fps = std::max(0, truncated(QVUserDefaults::standardUserDefaults().floatForKey(kQVSubtitlesDefaultFPS)));
+    if (isThreaded() && !_guards)
+        _guards = std::make_unique<Guards>();
+    constexpr std::size_t usualCount = 100;
+    try {
+        _subtitles.emplace();
+        _subtitles->subtitles.reserve(usualCount);
+        _subtitles->ends.reserve(usualCount);
+    } catch (const std::bad_alloc&) {
+        _subtitles.reset();
+        logAlways("ERROR: %@: Unable to allocate storage for subtitles. Memory full?", className());
+        return;
+    }
+    _abort = false;
+    if (isThreaded())
+        _worker = std::thread([this] { _workerThread(); });
+    else
+        _preload();
+}
+
+void QVSubtitles::_workerThread() {
+    const auto guard = lockWorker();
+    try {
+        _preload();
+    } catch (const std::bad_alloc&) {
+        logAlways("ERROR: %@: Unable to allocate storage for subtitles. Memory full?", className());
+        finishLoading();
+    }
+}
+
+void QVSubtitles::stopWorker() {
+    _abort = true;
+    // Waiting for its end, not for its lock alone: one that has not begun yet would begin on an emptied track.
+    if (_worker.joinable())
+        _worker.join();
+    _abort = false;
+}
+
+void QVSubtitles::_preload() {
+    std::optional<QByteArray> bytes = platform::readRegularFile(_path, largestFile);
+    if (!bytes) {
+        logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(), fileName(_path));
+        reset();
+        return;
+    }
+    if (bytes->size() == largestFile)
+        logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(_path));
+    trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), fileName(_path), isThreaded() ? " threaded" : "");
+    const SubtitleText text = SubtitleText::fromBytes(*std::exchange(bytes, std::nullopt), _encoding);
+    _encoding = text.encoding;
+    _decoder = platform::TextDecoder(text.decodeWith);
+    LineReader lines(text.view());
+    do {
+        if (std::shared_ptr<QVSubtitle> subtitle = readSubtitle(lines))
+            appendSubtitle(std::move(subtitle));
+    } while (!lines.isAtEnd() && !_abort);
+    finishLoading();
+}
+
+void QVSubtitles::finishLoading() {
+    _previous.reset();
+    trace("%@: End parsing subtitles, %d entries loaded.", className(), count());
+    reset();
+}
+
+std::shared_ptr<QVSubtitle> QVSubtitles::readSubtitle(LineReader&) {
+    logAlways("ERROR: [QVSubtitles readSubtitle:] must be implemented by the subclasses!");
+    return nullptr;
+}
+
+void QVSubtitles::appendSubtitle(std::shared_ptr<QVSubtitle> subtitle) {
+    const auto guard = lockSubtitles();
+    Cues& cues = *_subtitles;
+    // Reading this cue may have changed the end of the one before it, and of no other.
+    if (!cues.ends.empty())
+        cues.ends.back() = cues.subtitles.back()->end();
+    cues.ends.push_back(subtitle->end());
+    cues.subtitles.push_back(std::move(subtitle));
+}
+
+void QVSubtitles::reset() {
+    _resetAsked = true;
+}
+
+void QVSubtitles::placeCursor(std::size_t index) {
+    _index = static_cast<std::uint32_t>(index);
+    _prevEnd = CueSearch::endBefore(_subtitles->ends, index);
+    _current = _subtitles->subtitles[index];
+}
+
+/// Carries out a reset that was asked for, and takes the first cue once there is one.
+void QVSubtitles::followWorker() {
+    if (_current && !_resetAsked)
+        return;
+    const auto guard = lockSubtitles();
+    _resetAsked = false;
+    if (_subtitles && !_subtitles->subtitles.empty())
+        placeCursor(0);
+}
+
+void QVSubtitles::unload() {
+    stopWorker();
+    _index = noIndex;
+    _prevEnd = 0;
+    _current.reset();
+    _previous.reset();
+    _subtitles.reset();
+}
+
+std::shared_ptr<QVSubtitle> QVSubtitles::subtitleForTime(std::int32_t time) {
+    followWorker();
+    if (!_current)
+        return nullptr;
+    if (_current->end() < time) {
+        const auto guard = lockSubtitles();
+        placeCursor(CueSearch::forward(_subtitles->ends, _index, time));
+    } else if (_prevEnd > time) {
+        const auto guard = lockSubtitles();
+        placeCursor(CueSearch::backward(_subtitles->ends, _index, time));
+    }
+    if (time < _current->start() && _index > 0 && _prevEnd == time) {
+        // The last moment of a cue before a gap: a seek finds it as playing does, from both sides.
+        const auto guard = lockSubtitles();
+        placeCursor(_index - 1);
+    }
+    if (time < _current->start() || time > _current->end() || (onlyForced() && !_current->forced()))
+        return nullptr;
+    return _current;
+}
+
+std::shared_ptr<QVSubtitle> QVSubtitles::current() {
+    followWorker();
+    return _current;
+}
+
+std::size_t QVSubtitles::count() const {
+    const auto guard = lockSubtitles();
+    return _subtitles ? _subtitles->subtitles.size() : 0;
+}
+
+std::vector<std::shared_ptr<QVSubtitle>> QVSubtitles::cues() const {
+    const auto guard = lockSubtitles();
+    return _subtitles ? _subtitles->subtitles : std::vector<std::shared_ptr<QVSubtitle>>();
+}
+
+void QVSubtitles::setFrameRate(std::int32_t choice) {
+    const auto worker = lockWorker();
+    if (!isFrameBased() || choice == _fps || count() == 0)
+        return;
+    const float ratio = actualFrameRate(_fps) / actualFrameRate(choice);
+    const auto guard = lockSubtitles();
+    for (std::size_t index = 0; index < _subtitles->subtitles.size(); ++index) {
+        QVSubtitle& subtitle = *_subtitles->subtitles[index];
+        subtitle.setStart(truncated(static_cast<float>(subtitle.start()) * ratio));
+        subtitle.setEnd(truncated(static_cast<float>(subtitle.end()) * ratio));
+        _subtitles->ends[index] = subtitle.end();
+    }
+    _fps = choice;
+    if (_current)
+        placeCursor(_index);
+}
+
+void QVSubtitles::setEncoding(std::uint32_t encoding) {
+    const auto worker = lockWorker();
+    if (encoding == _encoding || count() == 0)
+        return;
+    if (encoding == platform::textEncoding::automatic)
+        readAgain();
+    else
+        decodeAgain(encoding);
+}
+
+void QVSubtitles::decodeAgain(std::uint32_t encoding) {
+    platform::TextDecoder decoder(encoding);
+    const auto guard = lockSubtitles();
+    for (const std::shared_ptr<QVSubtitle>& subtitle : _subtitles->subtitles) {
+        const auto bytes = platform::lossyData(subtitle->text(), _encoding);
+        if (!bytes)
+            continue;
+        QString text = QLatin1String("");
+        const std::string_view view(bytes->constData(), static_cast<std::size_t>(bytes->size()));
+        subtitle->setText(decoder.append(view, text) ? text : QString());
+    }
+    _encoding = encoding;
+}
+
+/// The texts of the file itself take the place of those shown, cue by cue; times and cursor stay.
+void QVSubtitles::readAgain() {
+    if (isThreaded() || !isTextBased())
+        return;
+    Cues kept = std::move(*_subtitles);
+    const std::uint32_t before = std::exchange(_encoding, platform::textEncoding::automatic);
+    _subtitles.emplace();
+    _preload();
+    _resetAsked = false;
+    if (_subtitles->subtitles.empty()) {
+        // The file is gone: the texts stay as they were.
+        _subtitles = std::move(kept);
+        _encoding = before;
+        return;
+    }
+    if (_current)
+        placeCursor(std::min<std::size_t>(_index, _subtitles->subtitles.size() - 1));
+}
+
+QString QVSubtitles::title() const {
+    return fileName(path());
+}
+
+QString QVSubtitles::description() const {
+    return QStringLiteral("<%1>: %2, count = %3").arg(QString::fromLatin1(className()), title()).arg(count());
+}
+
+std::int32_t QVSubtitles::ajustToMovieTimeScale(std::int32_t value) const {
+    return truncated(static_cast<float>(value) * _timeScaleAdjustment);
+}
+
+float QVSubtitles::actualFrameRate(std::int32_t choice) const {
+    if (choice >= 1 && choice < static_cast<std::int32_t>(std::size(sFrameRateList)))
+        return sFrameRateList[choice];
+    const float rate = _owner ? _owner->frameRate() : 0.0F;
+    return std::isfinite(rate) && rate > 0 ? rate : usualFrameRate;
 }

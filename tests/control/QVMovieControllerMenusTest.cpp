@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/context/Notifications.h"
+#include "subtitles/SubtitleRegistry.h"
 #include "tests/control/ControllerFixture.h"
 
 namespace {

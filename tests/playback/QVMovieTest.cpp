@@ -4,6 +4,7 @@
 #include "app/settings/SettingsKeys.h"
 #include "app/settings/Tracing.h"
 #include "playback/SubtitleDiscovery.h"
+#include "subtitles/SubtitleRegistry.h"
 #include "tests/support/CapturedLog.h"
 #include "tests/support/PlaybackRig.h"
 

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/SubtitleRegistry.h"
+
+#include "subtitles/text/QVMicroDVDSubtitles.h"
+#include "subtitles/text/QVSubRipSubtitles.h"
+#include "subtitles/text/QVTMPlayerSubtitles.h"
+#include "subtitles/text/SubtitleText.h"
+
+#include <QHash>
+
+namespace {
+
+using Tracks = std::vector<std::shared_ptr<QVSubtitles>>;
+
+struct Reader {
+    std::int32_t type;
+    const char* name;
+    QStringList (*extensionsList)();
+    bool (*isFormatValid)(std::string_view beginning);
+    Tracks (*tracks)(const QString& path, SubtitleOwner& owner);
+};
+
+template <class Track>
+Tracks oneTrack(const QString& path, SubtitleOwner& owner) {
+    return {QVSubtitles::makeTrack<Track>(path, owner)};
+}
+
+template <class Track>
+Reader readerOf(std::int32_t type, const char* name) {
+    return {type, name, &Track::extensionsList, &Track::isFormatValid, &oneTrack<Track>};
+}
+
+/// In the order of their types.
+const std::vector<Reader>& clusterList() {
+    static const std::vector<Reader> readers{
+        readerOf<QVSubRipSubtitles>(QVSubtitles::typeSubRip, "QVSubRipSubtitles"),
+        readerOf<QVMicroDVDSubtitles>(QVSubtitles::typeMicroDVD, "QVMicroDVDSubtitles"),
+        readerOf<QVTMPlayerSubtitles>(QVSubtitles::typeTMPlayer, "QVTMPlayerSubtitles"),
+    };
+    return readers;
+}
+
+/// An extension that several readers claim belongs to the last of them.
+const QHash<QString, const Reader*>& extensionsMap() {
+    static const QHash<QString, const Reader*> map = [] {
+        QHash<QString, const Reader*> readers;
+        for (const Reader& reader : clusterList()) {
+            for (const QString& extension : reader.extensionsList())
+                readers.insert(extension, &reader);
+        }
+        return readers;
+    }();
+    return map;
+}
+
+QString extensionOf(const QString& path) {
+    const qsizetype name = path.lastIndexOf(u'/') + 1;
+    const qsizetype dot = path.lastIndexOf(u'.');
+    return dot > name ? path.mid(dot + 1) : QString();
+}
+
+SubtitleRegistry* sShared = nullptr;
+
+} // namespace
+
+SubtitleRegistry& SubtitleRegistry::shared() {
+    static SubtitleRegistry registry;
+    return sShared ? *sShared : registry;
+}
+
+void SubtitleRegistry::setShared(SubtitleRegistry* registry) {
+    sShared = registry;
+}
+
+QStringList SubtitleRegistry::subtitleUnfilteredFileTypes() const {
+    return extensionsMap().keys();
+}
+
+Tracks SubtitleRegistry::subtitlesWithFilePath(const QString& path, SubtitleOwner& owner) {
+    const SubtitleText beginning = SubtitleText::beginningOfFile(path);
+    if (beginning.bytes.isEmpty())
+        return {};
+    const Reader* const own = extensionsMap().value(extensionOf(path));
+    if (own && own->isFormatValid(beginning.view()))
+        return own->tracks(path, owner);
+    for (const Reader& reader : clusterList()) {
+        if (&reader != own && reader.isFormatValid(beginning.view()))
+            return reader.tracks(path, owner);
+    }
+    return {};
+}
+
+std::int32_t SubtitleRegistry::typeForExtension(const QString& extension) {
+    const Reader* const reader = extensionsMap().value(extension);
+    return reader ? reader->type : QVSubtitles::typeNone;
+}
+
+const char* SubtitleRegistry::classForType(std::int32_t type) {
+    for (const Reader& reader : clusterList()) {
+        if (reader.type == type)
+            return reader.name;
+    }
+    return nullptr;
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/text/QVSubRipSubtitles.h"
+
+#include "subtitles/text/CueText.h"
+#include "subtitles/text/LineReader.h"
+#include "subtitles/text/ScanFormat.h"
+#include "subtitles/text/SubtitleText.h"
+#include "subtitles/text/TimeOfDay.h"
+
+#include <array>
+
+namespace {
+
+using Numbers = std::array<std::int32_t, 8>;
+
+bool isTimingLine(std::string_view line, Numbers& numbers) {
+    return scanLine(line, "%d:%d:%d,%d --> %d:%d:%d,%d", numbers).filled == numbers.size();
+}
+
+} // namespace
+
+QVSubRipSubtitles::QVSubRipSubtitles(const QString& path, SubtitleOwner& owner)
+    : QVSubtitles(path, owner, typeSubRip, static_cast<float>(owner.timeScale()) / 1000.0F) {}
+
+bool QVSubRipSubtitles::isFormatValid(std::string_view text) {
+    LineReader lines(text);
+    Numbers numbers{};
+    for (int count = 0; count < probedLines; ++count) {
+        const auto line = lines.next();
+        if (!line)
+            return false;
+        if (isTimingLine(*line, numbers))
+            return true;
+    }
+    return false;
+}
+
+QStringList QVSubRipSubtitles::extensionsList() {
+    return {QStringLiteral("srt")};
+}
+
+std::shared_ptr<QVSubtitle> QVSubRipSubtitles::readSubtitle(LineReader& lines) {
+    QString text;
+    Numbers numbers{};
+    while (text.isEmpty()) {
+        auto line = lines.next();
+        while (line && !isTimingLine(*line, numbers))
+            line = lines.next();
+        if (!line)
+            return nullptr;
+        while ((line = lines.next()) && !line->starts_with('\r') && !line->starts_with('\n'))
+            appendBytes(*line, text);
+    }
+    const auto time = [&](std::size_t first) {
+        return ajustToMovieTimeScale(
+            milliseconds(numbers[first], numbers[first + 1], numbers[first + 2], numbers[first + 3]));
+    };
+    auto subtitle = std::make_shared<QVSubtitle>(CueText::trimmed(text), time(0), time(4));
+    if (_previous && _previous->end() > subtitle->start())
+        _previous->setEnd(subtitle->start());
+    _previous = subtitle;
+    return subtitle;
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <string_view>
+
+/// The text of a subtitle file as the readers take it: bytes whose line ends, digits and braces are those of ASCII.
+struct SubtitleText {
+    QByteArray bytes;
+    /// Of the file, for the user: what was asked for, or what was found for "automatic".
+    std::uint32_t encoding = 0;
+    /// What the bytes are to be decoded with: another one than the file's when that was wide.
+    std::uint32_t decodeWith = 0;
+
+    std::string_view view() const { return {bytes.constData(), static_cast<std::size_t>(bytes.size())}; }
+
+    /// Drops a byte-order mark that fits the encoding; a text of 16-bit units becomes UTF-8, with what is no character
+    /// in it replaced.
+    static SubtitleText fromBytes(QByteArray bytes, std::uint32_t encoding);
+    /// As much of a file as a probe looks at. Empty when it cannot be read or is no regular file.
+    static SubtitleText beginningOfFile(const QString& path);
+};
+
+/// How many lines of a file a probe looks at.
+inline constexpr int probedLines = 20;
