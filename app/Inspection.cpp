@@ -2,8 +2,10 @@
 #include "app/Inspection.h"
 
 #include "app/OpeningFiles.h"
+#include "platform/base/NumberText.h"
 #include "platform/movie/MovieToolkit.h"
 #include "playback/QVMovie.h"
+#include "subtitles/SubtitleRegistry.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,14 +15,82 @@
 
 namespace {
 
+/// Stands in for a movie: no pictures, and the time scale asked for.
+class NoMovie final : public SubtitleOwner {
+public:
+    explicit NoMovie(std::int32_t timeScale)
+        : _timeScale(timeScale) {}
+    std::int32_t timeScale() const override { return _timeScale; }
+    float frameRate() override { return 0; }
+    std::int32_t time() const override { return 0; }
+
+private:
+    std::int32_t _timeScale;
+};
+
+QJsonValue typeName(const QVSubtitles& track) {
+    switch (track.type()) {
+    case QVSubtitles::typeSubRip:
+        return QStringLiteral("SubRip");
+    case QVSubtitles::typeMicroDVD:
+        return QStringLiteral("MicroDVD");
+    case QVSubtitles::typeVobSub:
+        return QStringLiteral("VobSub");
+    case QVSubtitles::typeTMPlayer:
+        return QStringLiteral("TMPlayer");
+    default:
+        return {};
+    }
+}
+
+QJsonObject describeTrack(const QVSubtitles& track, std::int32_t timeScale) {
+    // The rate as it is written, not as it is nearest to in single precision.
+    const float rate = track.actualFrameRate(track.frameRateChoice());
+    return {{QStringLiteral("type"), typeName(track)},
+            {QStringLiteral("title"), track.title()},
+            {QStringLiteral("streamIndex"), static_cast<qint64>(track.streamIndex())},
+            {QStringLiteral("timeScale"), timeScale},
+            {QStringLiteral("frameRate"), platform::shortestText(rate).toDouble()}};
+}
+
 QJsonArray describeTracks(const QVMovie& movie) {
     QJsonArray tracks;
     for (const std::shared_ptr<QVSubtitles>& track : movie.subtitles()) {
-        tracks.append(QJsonObject{{QStringLiteral("path"), track->path()},
-                                  {QStringLiteral("title"), track->title()},
-                                  {QStringLiteral("streamIndex"), static_cast<qint64>(track->streamIndex())}});
+        QJsonObject object = describeTrack(*track, movie.timeScale());
+        object.insert(QStringLiteral("path"), track->path());
+        tracks.append(object);
     }
     return tracks;
+}
+
+QJsonArray describeCues(const QVSubtitles& track, std::int32_t timeScale) {
+    const auto milliseconds = [timeScale](std::int32_t time) { return qint64{time} * 1000 / timeScale; };
+    QJsonArray cues;
+    for (const std::shared_ptr<QVSubtitle>& cue : track.cues()) {
+        cues.append(QJsonObject{{QStringLiteral("start"), cue->start()},
+                                {QStringLiteral("end"), cue->end()},
+                                {QStringLiteral("startMs"), milliseconds(cue->start())},
+                                {QStringLiteral("endMs"), milliseconds(cue->end())},
+                                {QStringLiteral("text"), cue->text()}});
+    }
+    return cues;
+}
+
+/// The tracks of a subtitle file, loaded; none for other files.
+QJsonArray describeSubtitleFile(const QString& path, SubtitleOwner& owner) {
+    QJsonArray tracks;
+    for (const std::shared_ptr<QVSubtitles>& track : SubtitleRegistry::shared().subtitlesWithFilePath(path, owner)) {
+        track->preload();
+        QJsonObject object = describeTrack(*track, owner.timeScale());
+        object.insert(QStringLiteral("encoding"), static_cast<qint64>(track->encoding()));
+        object.insert(QStringLiteral("cues"), describeCues(*track, owner.timeScale()));
+        tracks.append(object);
+    }
+    return tracks;
+}
+
+bool hasSubtitleExtension(const QUrl& url) {
+    return isFileOfType(url.toLocalFile(), SubtitleRegistry::shared().subtitleUnfilteredFileTypes());
 }
 
 QJsonObject describeMovie(const QString& path, QVMovie& movie) {
@@ -39,17 +109,27 @@ QJsonObject describeMovie(const QString& path, QVMovie& movie) {
 
 } // namespace
 
-InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit) {
+InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit,
+                              InspectedSubtitles subtitles) {
     InspectionResult result;
     QJsonArray objects;
+    NoMovie owner(subtitles.timeScale);
     for (const QString& name : pathsOrUrls) {
         const QUrl url = isURLString(name) ? QUrl(name) : QUrl::fromLocalFile(name);
-        if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(url)) {
+        const auto addSubtitleFile = [&] {
+            const QJsonArray tracks = describeSubtitleFile(url.toLocalFile(), owner);
+            if (!tracks.isEmpty())
+                objects.append(QJsonObject{{QStringLiteral("path"), name}, {QStringLiteral("tracks"), tracks}});
+            return !tracks.isEmpty();
+        };
+        // A movie toolkit may take a subtitle file for a movie without pictures: the name decides what is tried first.
+        if (url.isLocalFile() && hasSubtitleExtension(url) && addSubtitleFile())
+            continue;
+        if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(url))
             objects.append(describeMovie(name, *movie));
-        } else {
+        else if (!url.isLocalFile() || !addSubtitleFile())
             result.errors.append(
                 QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(toolkit.stickyError()));
-        }
     }
     result.json = QJsonDocument(objects).toJson(QJsonDocument::Compact) + '\n';
     return result;

@@ -4,11 +4,16 @@
 #include <QByteArray>
 #include <QStringList>
 
-#include <functional>
+#include <cstdint>
 
 namespace platform {
 class MovieToolkit;
 }
+
+/// What stands in for a movie where subtitle files are looked at alone.
+struct InspectedSubtitles {
+    std::int32_t timeScale = 600;
+};
 
 /// What --inspect answers.
 struct InspectionResult {
@@ -18,5 +23,7 @@ struct InspectionResult {
     QStringList errors;
 };
 
-/// Finds out what is in the files. Needs no display. Times are in the movie's units, sizes in square pixels.
-InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit);
+/// Finds out what is in the files: movies, and subtitle files with their cues. Needs no display. Times are in the
+/// movie's units, sizes in square pixels.
+InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit,
+                              InspectedSubtitles subtitles = {});

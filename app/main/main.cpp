@@ -9,6 +9,7 @@
 #include "app/QVFullScreenWindow.h"
 #include "app/panels/HelpPanel.h"
 #include "app/settings/QVUserDefaults.h"
+#include "app/settings/SettingsKeys.h"
 #include "app/settings/Tracing.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/QtRunLoop.h"
@@ -131,7 +132,12 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         return exitUsage;
     platform::MpvToolkit toolkit;
     platform::MovieToolkit::setShared(&toolkit);
-    const InspectionResult result = inspectFiles(line.files, toolkit);
+    platform::UserDefaults& defaults = QVUserDefaults::standardUserDefaults();
+    if (line.encoding != 0)
+        defaults.setOverride(kQVSubtitlesDefaultEncoding, static_cast<qint64>(line.encoding));
+    if (line.frameRateChoice != 0)
+        defaults.setOverride(kQVSubtitlesDefaultFPS, line.frameRateChoice);
+    const InspectionResult result = inspectFiles(line.files, toolkit, {line.timeScale});
     std::fwrite(result.json.constData(), 1, static_cast<std::size_t>(result.json.size()), stdout);
     for (const QString& error : result.errors)
         complain(error);

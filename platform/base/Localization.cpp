@@ -73,7 +73,7 @@ std::vector<Table> readTables(const QStringList& languages) {
 QString localizedString(const QString& key) {
     Tables& kept = tables();
     if (!kept.read)
-        kept.read = readTables(kept.chosen.isEmpty() ? QLocale::system().uiLanguages() : kept.chosen);
+        kept.read = readTables(localizationLanguages());
     for (const Table& table : *kept.read) {
         const auto found = table.constFind(key);
         if (found != table.constEnd())
@@ -84,6 +84,11 @@ QString localizedString(const QString& key) {
 
 QString localizedFormat(const QString& format, const QStringList& arguments) {
     return formatted(localizedString(format), arguments);
+}
+
+QStringList localizationLanguages() {
+    const QStringList& chosen = tables().chosen;
+    return chosen.isEmpty() ? QLocale::system().uiLanguages() : chosen;
 }
 
 void setLocalizationLanguages(const QStringList& languages) {

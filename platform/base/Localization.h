@@ -14,6 +14,9 @@ QString localizedString(const QString& key);
 /// localizedString of the format, its "%@" and "%d" filled in order with the arguments.
 QString localizedFormat(const QString& format, const QStringList& arguments);
 
+/// The user's languages ("de", "pt-BR"), the preferred one first.
+QStringList localizationLanguages();
+
 /// Forgets the tables read so far, and takes these languages ("de", "pt-BR") in place of the user's; an empty list
 /// goes back to the user's.
 void setLocalizationLanguages(const QStringList& languages);

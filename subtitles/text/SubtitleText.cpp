@@ -7,6 +7,8 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
+
 namespace {
 
 using namespace platform;
@@ -14,6 +16,34 @@ using namespace platform;
 /// A text in 16-bit units with a mark in front as UTF-8. A lone surrogate or a cut last unit spoils only its own place.
 QByteArray narrowed(const QByteArray& bytes) {
     return QString(QStringDecoder(QStringDecoder::Utf16)(bytes)).toUtf8();
+}
+
+/// Whether a byte that looks like one of ASCII may be the second half of a character: like the bar and the brace by
+/// which the readers take a text apart.
+bool hidesASCII(std::uint32_t encoding) {
+    constexpr std::uint32_t hiding[] = {8,          21,         0x80000420, 0x80000421, 0x80000422,
+                                        0x80000423, 0x80000631, 0x80000632, 0x80000821, 0x80000822,
+                                        0x80000830, 0x80000840, 0x80000A03, 0x80000A05, 0x80000A06};
+    return std::ranges::find(hiding, encoding) != std::end(hiding);
+}
+
+/// As UTF-8, line by line; a line that is not valid stays as it is.
+QByteArray narrowedByLine(const QByteArray& bytes, std::uint32_t encoding) {
+    TextDecoder decoder(encoding);
+    QByteArray result;
+    result.reserve(bytes.size());
+    QString text;
+    std::string_view rest(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, std::min(rest.find('\n'), rest.size() - 1) + 1);
+        rest.remove_prefix(line.size());
+        text.resize(0);
+        if (decoder.append(line, text))
+            result.append(text.toUtf8());
+        else
+            result.append(line.data(), static_cast<qsizetype>(line.size()));
+    }
+    return result;
 }
 
 bool hasWideMark(const QByteArray& bytes) {
@@ -30,6 +60,10 @@ SubtitleText SubtitleText::fromBytes(QByteArray bytes, std::uint32_t encoding) {
     text.decodeWith = text.encoding;
     if (text.encoding == textEncoding::utf16 && hasWideMark(bytes)) {
         bytes = narrowed(bytes);
+        text.decodeWith = textEncoding::utf8;
+    }
+    if (encoding == textEncoding::automatic && hidesASCII(text.encoding)) {
+        bytes = narrowedByLine(bytes, text.encoding);
         text.decodeWith = textEncoding::utf8;
     }
     if (text.decodeWith == textEncoding::utf8 && bytes.startsWith("\xEF\xBB\xBF"))

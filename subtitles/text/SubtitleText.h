@@ -17,8 +17,9 @@ struct SubtitleText {
 
     std::string_view view() const { return {bytes.constData(), static_cast<std::size_t>(bytes.size())}; }
 
-    /// Drops a byte-order mark that fits the encoding; a text of 16-bit units becomes UTF-8, with what is no character
-    /// in it replaced.
+    /// Drops a byte-order mark that fits the encoding. A text of 16-bit units with a mark becomes UTF-8, with what is
+    /// no character in it replaced; so does one for which automatic (0) found an encoding that the readers cannot take
+    /// apart byte by byte.
     static SubtitleText fromBytes(QByteArray bytes, std::uint32_t encoding);
     /// As much of a file as a probe looks at. Empty when it cannot be read or is no regular file.
     static SubtitleText beginningOfFile(const QString& path);

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/base/LanguageNames.h"
+
+#include "platform/base/Localization.h"
+#include "platform/base/Log.h"
+
+#include <array>
+#include <unicode/uloc.h>
+
+namespace platform {
+
+namespace {
+
+constexpr const char* function = "QVLocalizedNameForLanguageID()";
+
+} // namespace
+
+QString localizedNameForLanguageID(const QString& code) {
+    const QByteArray language = code.toUtf8();
+    UErrorCode error = U_ZERO_ERROR;
+    std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
+    uloc_canonicalize(language.constData(), canonical.data(), canonical.size(), &error);
+    if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING || canonical[0] == '\0') {
+        Log::write(
+            formatted(QStringLiteral("ERROR: %@: Unable to create locale ref for language \"%@\". Error code %d"),
+                      {QString::fromLatin1(function), code, QString::number(error)}));
+        return code;
+    }
+    const QByteArray display = localizationLanguages().value(0, QStringLiteral("en")).toUtf8();
+    error = U_ZERO_ERROR;
+    std::array<UChar, 256> name{};
+    const std::int32_t length =
+        uloc_getDisplayLanguage(canonical.data(), display.constData(), name.data(), name.size(), &error);
+    // The warning says that no table knows the language: what was given is the code again.
+    if (U_FAILURE(error) || error == U_USING_DEFAULT_WARNING || length == 0) {
+        Log::write(formatted(
+            QStringLiteral("ERROR: %@: Unable to retrieve localized name for language \"%@\" in current locale. "
+                           "Error code: %d"),
+            {QString::fromLatin1(function), code, QString::number(U_FAILURE(error) ? error : 0)}));
+        return code;
+    }
+    constexpr qsizetype longest = 32;
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(name.data()), length).left(longest);
+}
+
+} // namespace platform
