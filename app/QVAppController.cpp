@@ -67,7 +67,8 @@ QVAppController::QVAppController(QVFullScreenWindow& window, QVMovieView& view, 
     : _window(window)
     , _view(view)
     , _menu(menu)
-    , _steps(steps) {
+    , _steps(steps)
+    , _subtitleScene(window, view) {
     gTracingEnabled = defaults().boolForKey(kQVEnableTrace);
     if (gTracingEnabled) {
         trace("Lumaro %@(v%@)", infoText("CFBundleShortVersionString"), infoText("CFBundleVersion"));
@@ -108,7 +109,7 @@ QVPlaylistController* QVAppController::playlist() {
 
 QVSubtitlesController* QVAppController::subtitles() {
     if (!_subtitles && !_cleanedUp)
-        _subtitles = std::make_unique<QVSubtitlesController>();
+        _subtitles = std::make_unique<QVSubtitlesController>(&_subtitleScene);
     return _subtitles.get();
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/CurrentTexts.h"
 #include "app/MainMenu.h"
+#include "app/SubtitlesOverMovie.h"
 #include "app/context/QVAppContext.h"
 #include "app/settings/QVPreferencesChangedNotification.h"
 #include "platform/base/NotificationCenter.h"
@@ -83,6 +84,7 @@ private:
     MainMenu& _menu;
     LaunchSteps& _steps;
     std::unique_ptr<QVPlaylistController> _playlist;
+    SubtitlesOverMovie _subtitleScene;
     std::unique_ptr<QVSubtitlesController> _subtitles;
     std::unique_ptr<QVMovieController> _controller;
     CurrentTexts _texts;

@@ -1,15 +1,228 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitlesController.h"
 
+#include "app/settings/QVUserDefaults.h"
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/Tracing.h"
 #include "platform/base/Localization.h"
+#include "platform/base/Log.h"
+#include "subtitles/QVSubtitle.h"
+#include "subtitles/SubtitleView.h"
 
-void QVSubtitlesController::cycleSubtitles(int) {}
+#include <algorithm>
+#include <utility>
 
-void QVSubtitlesController::setCurrenWithIndex(std::int32_t) {
-    _index = 0xFFFFFFFF;
+namespace {
+
+constexpr const char* className = "QVSubtitlesController";
+
+platform::UserDefaults& defaults() {
+    return QVUserDefaults::standardUserDefaults();
+}
+
+} // namespace
+
+QVSubtitlesController::QVSubtitlesController(SubtitleScene* scene)
+    : _scene(scene)
+    , _subtitlesOn(defaults().boolForKey(kQVDisplaySubtitles)) {
+    if (!_scene)
+        return;
+    auto& center = platform::NotificationCenter::defaultCenter();
+    _onMovie = center.observe<QVPlaylistMovieChangedNotification>(
+        [this](const auto& notification) { currentMovieChanged(notification); });
+    _onTime = center.observe<QVMovieInterestingTimeNotification>(
+        [this](const auto& notification) { movieInterestingTime(notification); });
+    _onPreferences = center.observe<QVPreferencesChangedNotification>(
+        [this](const auto& notification) { preferencesChanged(notification); });
+}
+
+QVSubtitlesController::~QVSubtitlesController() = default;
+
+// Selecting
+
+std::shared_ptr<QVSubtitles> QVSubtitlesController::preferredSubtitles() const {
+    const auto first = [this](auto fits) {
+        const auto found = std::ranges::find_if(_subtitles, [&](const auto& track) { return fits(*track); });
+        return found == _subtitles.end() ? nullptr : *found;
+    };
+    std::shared_ptr<QVSubtitles> preferred;
+    if (!_savedPath.isNull()) {
+        preferred = first([this](const QVSubtitles& track) {
+            return track.path() == _savedPath && track.streamIndex() == _savedIndex;
+        });
+    }
+    if (!preferred && _preferredType != -1) {
+        preferred = first([this](const QVSubtitles& track) {
+            return track.type() == _preferredType && track.streamIndex() == _preferredIndex;
+        });
+    }
+    return preferred || _subtitles.empty() ? preferred : _subtitles.front();
+}
+
+void QVSubtitlesController::setSavedPath(const QString& path, std::uint32_t index) {
+    _savedPath = path;
+    _savedIndex = index;
+}
+
+void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track) {
+    _current = track;
+    const auto found = std::ranges::find(_subtitles, track);
+    _index = track && found != _subtitles.end() ? static_cast<std::uint32_t>(found - _subtitles.begin()) : none;
+    trace("%@: Switching to subtitles stream: \"%@\"", className, track ? track->title() : QStringLiteral("(null)"));
+    if (track) {
+        if (track->isImageBased())
+            keepLoaded(track);
+        _preferredType = track->type();
+        _preferredIndex = track->streamIndex();
+        track->preload();
+        _setView(viewFor(*track));
+    }
+    showCueOfNow();
+    announce();
+}
+
+/// Images are large: those of one track at a time are kept.
+void QVSubtitlesController::keepLoaded(const std::shared_ptr<QVSubtitles>& track) {
+    if (track == _cached)
+        return;
+    if (_cached)
+        _cached->unload();
+    _cached = track;
+    _cachedMovie = _movie;
+}
+
+SubtitleView* QVSubtitlesController::viewFor(const QVSubtitles& track) {
+    if (!_scene || !(track.isTextBased() || track.isImageBased()))
+        return nullptr;
+    std::unique_ptr<SubtitleView>& view = track.isTextBased() ? _textView : _imageView;
+    if (!view) {
+        view = track.isTextBased() ? _scene->createTextView() : _scene->createImageView();
+        if (view)
+            view->orderFront();
+    }
+    return view.get();
+}
+
+void QVSubtitlesController::_setView(SubtitleView* view) {
+    if (view != _view) {
+        if (_view) {
+            _view->setSubtitle(nullptr);
+            _view->hide();
+        }
+        _view = view;
+    }
+    if (_view)
+        _view->currentSubtitlesChanged(QVSubtitlesChangedNotification{_current});
+}
+
+void QVSubtitlesController::showCueOfNow() {
+    if (!_view)
+        return;
+    std::shared_ptr<QVSubtitle> cue;
+    if (_current && _subtitlesOn) {
+        const std::shared_ptr<SubtitleOwner> movie = _scene->shownMovie();
+        cue = _current->subtitleForTime(movie ? movie->time() : 0);
+    }
+    _view->setSubtitle(cue);
+}
+
+void QVSubtitlesController::setCurrenWithIndex(std::int32_t index) {
+    if (index < 0 || static_cast<std::uint32_t>(index) >= count()) {
+        _index = none;
+        setDisplaySubtitles(false);
+        return;
+    }
+    switchDisplay(true);
+    if (static_cast<std::uint32_t>(index) != _index) {
+        // A copy: whoever follows the selection may change the list.
+        const auto track = _subtitles[static_cast<std::size_t>(index)];
+        setCurrent(track);
+    }
+}
+
+void QVSubtitlesController::cycleSubtitles(int direction) {
+    if (_subtitles.empty())
+        return;
+    std::uint32_t next = _index;
+    if (direction == 1)
+        next = _subtitlesOn ? _index + 1 : 0;
+    else if (direction == -1)
+        next = _subtitlesOn ? _index - 1 : count() - 1;
+    setCurrenWithIndex(static_cast<std::int32_t>(next));
+}
+
+// Display
+
+void QVSubtitlesController::setDisplaySubtitles(bool flag) {
+    // What comes back on shows a track: the one that was switched off, or one that was never selected.
+    if (switchDisplay(flag) && flag && _index == none)
+        setCurrent(_current ? _current : preferredSubtitles());
+}
+
+/// Whether the display was switched.
+bool QVSubtitlesController::switchDisplay(bool flag) {
+    if (_subtitles.empty() || flag == _subtitlesOn)
+        return false;
+    trace("%@: Turning subtitles %s", className, flag ? "ON" : "OFF");
+    _subtitlesOn = flag;
+    if (flag) {
+        // The movie went on meanwhile.
+        showCueOfNow();
+        if (_view)
+            _view->show();
+    } else if (_view) {
+        _view->hide();
+    }
+    defaults().setBool(flag, kQVDisplaySubtitles);
+    announce();
+    return true;
+}
+
+void QVSubtitlesController::announce() {
+    platform::NotificationCenter::defaultCenter().post(QVSubtitlesChangedNotification{_current});
 }
 
 QString QVSubtitlesController::currentInfoAsString() const {
-    return platform::localizedFormat(QStringLiteral("Subtitles: %@"),
-                                     {platform::localizedString(QStringLiteral("None"))});
+    QString info;
+    if (_subtitles.empty())
+        info = platform::localizedString(QStringLiteral("None"));
+    else if (_subtitlesOn && _current)
+        info = platform::formatted(QStringLiteral("%@ (%d/%d)"),
+                                   {_current->title(), QString::number(_index + 1), QString::number(count())});
+    else
+        info = platform::localizedString(QStringLiteral("Off"));
+    return platform::localizedFormat(QStringLiteral("Subtitles: %@"), {info});
+}
+
+// Following
+
+void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
+    // The old movie stays until none of its tracks is in use.
+    const auto old = std::exchange(_movie, _scene->ownerOf(notification.movie));
+    _subtitles = _movie ? _movie->subtitles() : std::vector<std::shared_ptr<QVSubtitles>>();
+    setCurrent(_subtitlesOn ? preferredSubtitles() : nullptr);
+}
+
+void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNotification& notification) {
+    if (!_current || !_subtitlesOn || !_view)
+        return;
+    if (const std::shared_ptr<SubtitleOwner> movie = _scene->ownerOf(notification.movie); movie && movie == _movie)
+        _view->setSubtitle(_current->subtitleForTime(movie->time()));
+}
+
+void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key == kQVDisplaySubtitles) {
+        setDisplaySubtitles(defaults().boolForKey(kQVDisplaySubtitles));
+    } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
+        _current->setEncoding(static_cast<std::uint32_t>(defaults().integerForKey(kQVSubtitlesDefaultEncoding)));
+        if (_subtitlesOn && _view) {
+            // The cue is the same object with another text: it is taken away, and shown anew.
+            _view->setSubtitle(nullptr);
+            showCueOfNow();
+        }
+    } else if (notification.key == kQVSubtitlesDefaultFPS && _current && _current->isFrameBased()) {
+        _current->setFrameRate(defaults().integerForKey(kQVSubtitlesDefaultFPS));
+        if (_subtitlesOn)
+            showCueOfNow();
+    }
 }

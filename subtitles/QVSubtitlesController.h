@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/context/Notifications.h"
+#include "app/settings/QVPreferencesChangedNotification.h"
+#include "platform/base/NotificationCenter.h"
 #include "subtitles/QVSubtitles.h"
 
 #include <QString>
@@ -9,22 +12,77 @@
 #include <memory>
 #include <vector>
 
-/// Decides which subtitle track of the current movie is shown, and whether. Main thread.
+class SubtitleScene;
+class SubtitleView;
+
+/// Decides which subtitle track of the current movie is shown, and whether. It follows the playlist's movie, feeds the
+/// view that suits the track with the cue of each picture, and acts at once on the settings that change. Main thread.
 class QVSubtitlesController {
 public:
-    virtual ~QVSubtitlesController() = default;
+    /// The scene outlives the controller; without one (null) nothing is followed or shown.
+    explicit QVSubtitlesController(SubtitleScene* scene = nullptr);
+    QVSubtitlesController(const QVSubtitlesController&) = delete;
+    QVSubtitlesController& operator=(const QVSubtitlesController&) = delete;
+    virtual ~QVSubtitlesController();
 
+    /// The track that the current movie is to begin with: the one restored, else one of the kind chosen last, else the
+    /// first; none without tracks.
+    std::shared_ptr<QVSubtitles> preferredSubtitles() const;
+    /// The selected track, or none. It is of the current movie.
+    std::shared_ptr<QVSubtitles> current() const { return _current; }
+    /// Selects a track of the current movie, or none. Whether subtitles are displayed does not change.
+    void setCurrent(const std::shared_ptr<QVSubtitles>& track);
+    /// A track to prefer wherever it turns up: its file and its place among the file's tracks.
+    void setSavedPath(const QString& path, std::uint32_t index);
+    /// Selects by position; a position outside the list turns the display off.
+    virtual void setCurrenWithIndex(std::int32_t index);
+
+    /// Kept in the settings. Without tracks nothing changes.
+    void setDisplaySubtitles(bool flag);
+    void toggleSubtitles() { setDisplaySubtitles(!_subtitlesOn); }
+    bool isSubtitlesOn() const { return _subtitlesOn; }
+
+    bool isSubtitlesPresent() const { return !_subtitles.empty(); }
     std::uint32_t count() const { return static_cast<std::uint32_t>(_subtitles.size()); }
+    std::uint32_t subtitlesCount() const { return count(); }
     /// The position of the current track, or all bits set for none.
     std::uint32_t index() const { return _index; }
     /// Goes on to the next track (1) or back (-1), with "off" after the last; nothing without tracks.
     virtual void cycleSubtitles(int direction);
-    /// Selects by position; a position outside the list turns the display off.
-    virtual void setCurrenWithIndex(std::int32_t index);
     /// "Subtitles: ..." for the on-screen display.
     virtual QString currentInfoAsString() const;
 
 private:
+    static constexpr std::uint32_t none = 0xFFFFFFFF;
+
+    void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
+    void movieInterestingTime(const QVMovieInterestingTimeNotification& notification);
+    void preferencesChanged(const QVPreferencesChangedNotification& notification);
+    void keepLoaded(const std::shared_ptr<QVSubtitles>& track);
+    SubtitleView* viewFor(const QVSubtitles& track);
+    void _setView(SubtitleView* view);
+    bool switchDisplay(bool flag);
+    void showCueOfNow();
+    void announce();
+
+    SubtitleScene* _scene;
+    /// The tracks ask the movie that they belong to: it stays as long as they do.
+    std::shared_ptr<SubtitleOwner> _movie;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
-    std::uint32_t _index = 0xFFFFFFFF;
+    std::shared_ptr<QVSubtitles> _current;
+    std::unique_ptr<SubtitleView> _textView;
+    std::unique_ptr<SubtitleView> _imageView;
+    SubtitleView* _view = nullptr; // one of the two
+    bool _subtitlesOn;
+    std::uint32_t _index = none;
+    /// The one image track that is kept loaded, with the movie that it belongs to.
+    std::shared_ptr<SubtitleOwner> _cachedMovie;
+    std::shared_ptr<QVSubtitles> _cached;
+    QString _savedPath;
+    std::uint32_t _savedIndex = 0;
+    std::int32_t _preferredType = -1;
+    std::uint32_t _preferredIndex = 0;
+    platform::Subscription _onMovie;
+    platform::Subscription _onTime;
+    platform::Subscription _onPreferences;
 };

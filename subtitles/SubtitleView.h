@@ -5,6 +5,7 @@
 
 class QVMovie;
 class QVSubtitle;
+struct QVSubtitlesChangedNotification;
 class SubtitleOwner;
 
 /// What the subtitles controller asks of a view that shows cues. Main thread.
@@ -21,7 +22,7 @@ public:
     /// Above the other windows of its parent.
     virtual void orderFront() = 0;
     /// Another track may be the current one.
-    virtual void currentSubtitlesChanged() = 0;
+    virtual void currentSubtitlesChanged(const QVSubtitlesChangedNotification& notification) = 0;
 };
 
 /// What the subtitles controller asks of the application around it. Main thread.

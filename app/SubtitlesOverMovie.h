@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "subtitles/SubtitleView.h"
+
+class QVMovieView;
+
+namespace platform {
+class Window;
+} // namespace platform
+
+/// Where subtitles are shown: above the main window, on the movie in its view. Both outlive it. Main thread.
+class SubtitlesOverMovie final : public SubtitleScene {
+public:
+    SubtitlesOverMovie(platform::Window& window, QVMovieView& view)
+        : _window(window)
+        , _view(view) {}
+
+    std::unique_ptr<SubtitleView> createTextView() override;
+    /// None: bitmap cues are not shown yet.
+    std::unique_ptr<SubtitleView> createImageView() override { return nullptr; }
+    std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override;
+    std::shared_ptr<SubtitleOwner> shownMovie() override;
+
+private:
+    platform::Window& _window;
+    QVMovieView& _view;
+};

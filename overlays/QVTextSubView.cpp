@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVTextSubView.h"
+
+#include "app/settings/Tracing.h"
+#include "overlays/PictureGeometry.h"
+#include "overlays/SubtitlePlacement.h"
+#include "platform/window/Fonts.h"
+#include "subtitles/QVSubtitle.h"
+
+namespace {
+
+/// The size code of a movie as large as the screen shows it whole.
+constexpr std::int32_t kFitScreen = 3;
+
+QString twoDigits(double value) {
+    return QString::number(value, 'g', 2);
+}
+
+} // namespace
+
+QVTextSubView::QVTextSubView(platform::Window* parent, const PictureGeometry* picture, const QString& style)
+    : QVTextOverlay(parent, style)
+    , _picture(picture) {
+    recalculateFontSize();
+}
+
+bool QVTextSubView::hasText() const {
+    return _subtitle && !_subtitle->text().isEmpty();
+}
+
+void QVTextSubView::setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) {
+    if (subtitle == _subtitle)
+        return;
+    _subtitle = subtitle;
+    if (hasText()) {
+        setText(_subtitle->text());
+        show();
+    } else {
+        hide();
+    }
+}
+
+void QVTextSubView::show() {
+    if (hasText())
+        QVTextOverlay::show();
+}
+
+void QVTextSubView::postFadeOut() {
+    QVTextOverlay::postFadeOut();
+    if (!_subtitle)
+        setText(QString());
+}
+
+void QVTextSubView::recalculateFontSize() {
+    const double width = _picture ? _picture->pictureFrame().width() : 0;
+    const double fit = _picture ? _picture->sizeForFitScreen(kFitScreen).width() : 0;
+    const auto [size, ratio] = SubtitlePlacement::textSize(width, fit, textFontSizeMin(), textFontSize());
+    setTextFont(platform::convertedFont(textFont(), size));
+    trace("%@: Changed current subtitle size to: %.2g, (min: %.2g, max: %.2g ratio: %.2g)\n", logName(),
+          twoDigits(static_cast<double>(size)), twoDigits(static_cast<double>(textFontSizeMin())),
+          twoDigits(static_cast<double>(textFontSize())), twoDigits(ratio));
+}
+
+void QVTextSubView::contentSizeChanged() {
+    QRectF rect = adjustForBackgroundStyle(QRectF(QPointF(0, 0), contentSize()));
+    if (parentWindow()) {
+        SubtitlePlacement::Ground ground{parentWindow()->frame(), static_cast<double>(padding()), {}, {}};
+        if (_picture) {
+            ground.picture = _picture->pictureFrame();
+            if (_picture->isControllerBarVisible())
+                ground.bar = _picture->getControllerHeight();
+        }
+        rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground);
+    }
+    applyNewOverlayFrame(rect, "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");
+}
+
+void QVTextSubView::movieViewSizeChanged(const QVMovieViewSizeChangedNotification&) {
+    recalculateFontSize();
+    contentSizeChanged();
+}

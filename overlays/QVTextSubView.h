@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "overlays/QVTextOverlay.h"
+#include "subtitles/SubtitleView.h"
+
+class PictureGeometry;
+
+/// Shows the cues of a text track: on the picture, scaled with it, clear of the controller bar. Main thread.
+class QVTextSubView final : public QVTextOverlay, public SubtitleView {
+public:
+    /// Hidden and without a cue. The picture may be null (no movie view), else it outlives the view.
+    QVTextSubView(platform::Window* parent, const PictureGeometry* picture,
+                  const QString& style = kQVSubtitlesOverlayStyle);
+
+    void setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) override;
+    /// Only what there is to show: without a text the panel would stand empty.
+    void show() override;
+    void hide() override { QVTextOverlay::hide(); }
+    void orderFront() override { QVTextOverlay::orderFront(); }
+    void currentSubtitlesChanged(const QVSubtitlesChangedNotification&) override {}
+
+    void recalculateFontSize() override;
+    void contentSizeChanged() override;
+    void movieViewSizeChanged(const QVMovieViewSizeChangedNotification& notification) override;
+
+protected:
+    const char* logName() const override { return "QVTextSubView"; }
+    void postFadeOut() override;
+
+private:
+    bool hasText() const;
+
+    std::shared_ptr<QVSubtitle> _subtitle;
+    const PictureGeometry* _picture;
+};

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVTextSubView.h"
+#include "overlays/PictureGeometry.h"
+#include "platform/window/Fonts.h"
+#include "subtitles/QVSubtitle.h"
+#include "tests/overlays/OverlayRig.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FakePicture final : public PictureGeometry {
+public:
+    QRectF frame{0, 96, 1024, 576};
+    QSizeF fit{1024, 576};
+    bool bar = false;
+    QRectF pictureFrame() const override { return frame; }
+    QSizeF sizeForFitScreen(std::int32_t mode) const override { return mode == 3 ? fit : QSizeF(1, 1); }
+    float aspectRatio() const override { return 16.0F / 9.0F; }
+    bool isControllerBarVisible() const override { return bar; }
+    unsigned getControllerHeight() const override { return 16; }
+};
+
+std::shared_ptr<QVSubtitle> cue(const char* text) {
+    return std::make_shared<QVSubtitle>(QString::fromUtf8(text), 0, 100);
+}
+
+class TextSubView : public testing::Test {
+protected:
+    TextSubView() {
+        rig.change(kTextFontSize, 36);
+        rig.change(kAlignment, 0x110); // centred, on the picture's bottom edge
+        view.setTextFontSizeMin(20);
+    }
+    void resizePicture(const QRectF& frame) {
+        picture.frame = frame;
+        platform::NotificationCenter::defaultCenter().post(QVMovieViewSizeChangedNotification{nullptr});
+    }
+    float letters() const { return platform::pointSizeOf(view.textFont()); }
+
+    OverlayRig rig;
+    FakePicture picture;
+    QVTextSubView view{&rig.window, &picture, kQVDefaultOverlayStyle};
+};
+
+} // namespace
+
+TEST_F(TextSubView, the_same_cue_again_costs_nothing) {
+    const auto first = cue("one");
+    view.setSubtitle(first);
+    rig.settings.runLoop.advance(2);
+    const auto revision = view.contentRevision();
+    view.setSubtitle(first);
+    view.setSubtitle(first);
+    EXPECT_EQ(view.contentRevision(), revision);
+    view.setSubtitle(cue("two"));
+    EXPECT_GT(view.contentRevision(), revision);
+    EXPECT_EQ(view.alphaValue(), view.maxAlpha()) << "a cue that follows without a gap fades in";
+}
+
+TEST_F(TextSubView, a_cue_that_goes_fades_and_takes_its_text_along) {
+    view.setSubtitle(cue("one"));
+    rig.settings.runLoop.advance(2);
+    EXPECT_TRUE(view.isVisible());
+    view.setSubtitle(nullptr);
+    EXPECT_EQ(view.text(), QStringLiteral("one")) << "the text goes before it has faded";
+    rig.settings.runLoop.advance(1);
+    EXPECT_EQ(view.alphaValue(), 0);
+    EXPECT_EQ(view.text(), QString());
+    // A cue without a text hides too, but is held: nothing is cleared.
+    view.setSubtitle(cue("two"));
+    view.setSubtitle(std::make_shared<QVSubtitle>());
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0);
+    EXPECT_EQ(view.text(), QStringLiteral("two"));
+}
+
+TEST_F(TextSubView, display_that_is_switched_on_shows_a_cue_and_never_an_empty_panel) {
+    view.show();
+    rig.settings.runLoop.advance(2);
+    EXPECT_FALSE(view.isVisible());
+    view.setSubtitle(cue("one"));
+    view.hide();
+    rig.settings.runLoop.advance(2);
+    EXPECT_FALSE(view.isVisible());
+    view.show();
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), view.maxAlpha());
+    EXPECT_EQ(view.text(), QStringLiteral("one"));
+}
+
+TEST_F(TextSubView, the_letters_follow_the_size_of_the_picture) {
+    view.setSubtitle(cue("some words"));
+    const double large = view.frame().height();
+    EXPECT_EQ(letters(), 36);
+    resizePicture({256, 240, 512, 288});
+    EXPECT_EQ(letters(), 20) << "half of 36 is less than the smallest size";
+    EXPECT_LT(view.frame().height(), large);
+    EXPECT_EQ(view.frame().y(), 240);
+    rig.change(kTextFontSize, 60);
+    EXPECT_EQ(letters(), 30);
+    resizePicture({-500, -300, 2048, 1152});
+    EXPECT_EQ(letters(), 60);
+    EXPECT_EQ(view.frame().y(), 0) << "below the parent's edge";
+}
+
+TEST_F(TextSubView, stands_in_the_middle_of_the_picture_above_the_bar) {
+    view.setSubtitle(cue("some words"));
+    EXPECT_EQ(view.frame().y(), 96);
+    EXPECT_NEAR(view.frame().center().x(), 512, 0.01);
+    picture.bar = true;
+    resizePicture(picture.frame);
+    EXPECT_EQ(view.frame().y(), 112);
+    rig.window.setFrame(QRectF(50, 30, 1024, 768));
+    view.parentSizeChanged();
+    EXPECT_EQ(view.frame().y(), 142);
+    EXPECT_NEAR(view.frame().center().x(), 562, 0.01);
+}
+
+TEST_F(TextSubView, works_without_a_movie_view_and_without_a_parent) {
+    for (platform::Window* parent : {&rig.window, static_cast<platform::Window*>(nullptr)}) {
+        QVTextSubView alone(parent, nullptr);
+        alone.setSubtitle(cue("one"));
+        rig.settings.runLoop.advance(1);
+        EXPECT_EQ(alone.alphaValue(), alone.maxAlpha());
+        EXPECT_EQ(platform::pointSizeOf(alone.textFont()), alone.textFontSize());
+    }
+}

@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/QVSubtitlesController.h"
+
+#include "app/settings/SettingsKeys.h"
+#include "subtitles/QVSubtitle.h"
+#include "subtitles/SubtitleRegistry.h"
+#include "subtitles/SubtitleView.h"
+#include "tests/support/PlaybackRig.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::uint32_t none = 0xFFFFFFFF;
+constexpr std::int32_t second = 600; // units of the scripted movies
+
+/// Its file's name, "type-stream title", says what it is. Its cue "A" stands from 1 to 2 s, "B" from 3 to 4 s.
+class Track final : public QVSubtitles {
+public:
+    Track(const QString& path, SubtitleOwner& owner, Type type, std::uint32_t stream)
+        : QVSubtitles(path, owner, type, 1.0F)
+        , _stream(stream) {
+        for (const auto& [text, from] : {std::pair{u'A', 1}, {u'B', 3}})
+            _cues.push_back(std::make_shared<QVSubtitle>(QString(text), from * second, (from + 1) * second));
+    }
+    bool loaded = false;
+
+    void preload() override { loaded = true; }
+    void unload() override { loaded = false; }
+    std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time) override {
+        const auto due = [&](const auto& cue) { return cue->start() <= time && time <= cue->end(); };
+        const auto found = std::ranges::find_if(_cues, due);
+        return loaded && found != _cues.end() ? *found : nullptr;
+    }
+    void setEncoding(std::uint32_t encoding) override {
+        for (const auto& cue : _cues)
+            cue->setText(cue->text() + QString::number(encoding));
+    }
+    void setFrameRate(std::int32_t choice) override {
+        for (const auto& cue : _cues) {
+            cue->setStart(cue->start() * choice);
+            cue->setEnd(cue->end() * choice);
+        }
+    }
+    QString title() const override { return path().section(u' ', 1); }
+    bool isTextBased() const override { return type() != typeVobSub; }
+    bool isImageBased() const override { return type() == typeVobSub; }
+    bool isFrameBased() const override { return type() == typeMicroDVD; }
+    std::uint32_t streamIndex() const override { return _stream; }
+
+private:
+    std::uint32_t _stream;
+    std::vector<std::shared_ptr<QVSubtitle>> _cues;
+};
+
+class Registry final : public SubtitleRegistry {
+public:
+    Registry() { setShared(this); }
+    ~Registry() override { setShared(nullptr); }
+    std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path,
+                                                                    SubtitleOwner& owner) override {
+        const auto type = static_cast<QVSubtitles::Type>(path.at(0).digitValue());
+        return {QVSubtitles::makeTrack<Track>(path, owner, type, static_cast<std::uint32_t>(path.at(2).digitValue()))};
+    }
+};
+
+/// Writes down what it is told.
+class View final : public SubtitleView {
+public:
+    explicit View(QStringList& told)
+        : _told(told) {}
+    void setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) override {
+        if (subtitle != _subtitle)
+            _told << (subtitle ? subtitle->text() : QStringLiteral("nothing"));
+        _subtitle = subtitle;
+    }
+    void show() override { _told << QStringLiteral("show"); }
+    void hide() override { _told << QStringLiteral("hide"); }
+    void orderFront() override { _told << QStringLiteral("front"); }
+    void currentSubtitlesChanged(const QVSubtitlesChangedNotification&) override {}
+
+private:
+    QStringList& _told;
+    std::shared_ptr<QVSubtitle> _subtitle;
+};
+
+class Scene final : public SubtitleScene {
+public:
+    explicit Scene(QVMovieView& view)
+        : _view(view) {}
+    QStringList text, image; // what the views were told
+    std::unique_ptr<SubtitleView> createTextView() override { return std::make_unique<View>(text); }
+    std::unique_ptr<SubtitleView> createImageView() override { return std::make_unique<View>(image); }
+    std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override { return movie; }
+    std::shared_ptr<SubtitleOwner> shownMovie() override { return _view.movie(); }
+
+private:
+    QVMovieView& _view;
+};
+
+class SubtitlesController : public testing::Test {
+protected:
+    std::shared_ptr<QVMovie> movie(const QStringList& tracks) {
+        auto made = QVMovie::movieWithURL(QUrl(QStringLiteral("file:///movies/a.mp4")));
+        for (const QString& track : tracks)
+            made->addSubtitleFile(track);
+        return made;
+    }
+    std::shared_ptr<QVMovie> play(const QStringList& tracks) {
+        auto made = movie(tracks);
+        post(QVPlaylistMovieChangedNotification{made});
+        return made;
+    }
+    template <class Notification>
+    static void post(const Notification& notification) {
+        platform::NotificationCenter::defaultCenter().post(notification);
+    }
+    void change(const QString& key, int value) {
+        rig.settings.defaults().setInteger(value, key);
+        post(QVPreferencesChangedNotification{key, {}});
+    }
+    QString info() const { return controller.currentInfoAsString().section(u' ', 1); }
+    bool displayStored() { return rig.settings.defaults().boolForKey(kQVDisplaySubtitles); }
+    static QStringList taken(QStringList& told) { return std::exchange(told, {}); }
+
+    PlaybackRig rig;
+    Registry registry;
+    Scene scene{rig.view};
+    QVSubtitlesController controller{&scene};
+    const QStringList three{QStringLiteral("0-0 one"), QStringLiteral("1-0 two"), QStringLiteral("3-0 three")};
+};
+
+} // namespace
+
+TEST_F(SubtitlesController, cycling_runs_through_the_tracks_and_off_both_ways) {
+    play(three);
+    controller.setDisplaySubtitles(false);
+    const char* const forward[] = {"one (1/3)", "two (2/3)", "three (3/3)", "Off", "one (1/3)"};
+    const char* const backward[] = {"Off", "three (3/3)", "two (2/3)", "one (1/3)", "Off"};
+    for (const char* shown : forward) {
+        controller.cycleSubtitles(1);
+        EXPECT_EQ(info().toStdString(), shown);
+        EXPECT_EQ(displayStored(), info() != QStringLiteral("Off"));
+    }
+    for (const char* shown : backward) {
+        controller.cycleSubtitles(-1);
+        EXPECT_EQ(info().toStdString(), shown);
+    }
+    EXPECT_EQ(controller.index(), none);
+    controller.toggleSubtitles();
+    EXPECT_EQ(info(), QStringLiteral("one (1/3)")) << "what was switched off comes back";
+}
+
+TEST_F(SubtitlesController, each_picture_gives_the_view_its_cue) {
+    auto shown = movie({QStringLiteral("0-0 one")});
+    post(QVPlaylistMovieChangedNotification{shown});
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("front")});
+    const struct {
+        double time;
+        const char* told;
+    } pictures[] = {{0.5, ""}, {1, "A"}, {1.5, ""}, {2, ""}, {2.5, "nothing"}, {3.5, "B"}, {1.2, "A"}, {0, "nothing"}};
+    for (const auto& [time, told] : pictures) {
+        shown->setTime(static_cast<std::int32_t>(time * second));
+        EXPECT_EQ(taken(scene.text).join(u' ').toStdString(), told) << time;
+    }
+    controller.setDisplaySubtitles(false);
+    shown->setTime(second);
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("hide")});
+    controller.setDisplaySubtitles(true);
+    EXPECT_EQ(taken(scene.text), (QStringList{QStringLiteral("A"), QStringLiteral("show")}))
+        << "a resting picture is not told again";
+    movie(three)->setTime(3 * second);
+    EXPECT_TRUE(taken(scene.text).isEmpty()) << "another movie's time counts";
+}
+
+TEST_F(SubtitlesController, the_next_movie_keeps_to_the_kind_of_track_chosen_last) {
+    const struct {
+        const char* name;
+        int choice;
+        QStringList next;
+        const char* selected;
+    } cases[] = {
+        {"of the same kind", 1, {"0-0 x", "1-0 y"}, "y (2/2)"},
+        {"of the same kind and stream", 3, {"2-0 x", "2-1 y"}, "y (2/2)"},
+        {"of no such kind", 1, {"0-0 x", "3-0 y"}, "x (1/2)"},
+        {"without tracks", 1, {}, "None"},
+    };
+    for (const auto& c : cases) {
+        play({QStringLiteral("0-0 a"), QStringLiteral("1-0 b"), QStringLiteral("2-0 c"), QStringLiteral("2-1 d")});
+        controller.setCurrenWithIndex(c.choice);
+        play(c.next);
+        EXPECT_EQ(info().toStdString(), c.selected) << c.name;
+    }
+    controller.setSavedPath(QStringLiteral("3-1 saved"), 1);
+    play({QStringLiteral("1-0 x"), QStringLiteral("3-0 saved"), QStringLiteral("3-1 saved")});
+    EXPECT_EQ(info(), QStringLiteral("saved (3/3)"));
+    play({QStringLiteral("0-0 x"), QStringLiteral("3-1 other")});
+    EXPECT_EQ(info(), QStringLiteral("other (2/2)")) << "the restored choice goes on as the kind chosen last";
+}
+
+TEST_F(SubtitlesController, a_movie_that_comes_while_display_is_off_is_shown_with_its_own_tracks) {
+    std::weak_ptr<QVMovie> gone = play(three);
+    controller.setCurrenWithIndex(1);
+    controller.setDisplaySubtitles(false);
+    play({QStringLiteral("0-0 x"), QStringLiteral("1-0 y")});
+    EXPECT_EQ(controller.current(), nullptr);
+    EXPECT_EQ(controller.index(), none);
+    EXPECT_TRUE(gone.expired());
+    EXPECT_EQ(info(), QStringLiteral("Off"));
+    controller.toggleSubtitles();
+    EXPECT_EQ(info(), QStringLiteral("y (2/2)"));
+    controller.setDisplaySubtitles(false);
+    play({QStringLiteral("0-0 x"), QStringLiteral("1-0 y")});
+    controller.setCurrenWithIndex(1);
+    ASSERT_TRUE(controller.current());
+    EXPECT_TRUE(std::static_pointer_cast<Track>(controller.current())->loaded);
+}
+
+TEST_F(SubtitlesController, without_tracks_nothing_can_be_switched) {
+    for (const bool withMovie : {false, true}) {
+        post(QVPlaylistMovieChangedNotification{withMovie ? movie({}) : nullptr});
+        controller.cycleSubtitles(1);
+        controller.toggleSubtitles();
+        controller.setCurrenWithIndex(0);
+        EXPECT_TRUE(controller.isSubtitlesOn());
+        EXPECT_TRUE(displayStored());
+        EXPECT_EQ(info(), QStringLiteral("None"));
+        EXPECT_EQ(controller.index(), none);
+    }
+    EXPECT_TRUE(scene.text.isEmpty());
+}
+
+TEST_F(SubtitlesController, changed_settings_act_on_the_cue_that_is_shown) {
+    auto shown = movie(three);
+    post(QVPlaylistMovieChangedNotification{shown});
+    rig.view.setMovie(shown);
+    shown->setTime(second);
+    taken(scene.text);
+    change(kQVSubtitlesDefaultEncoding, 12);
+    EXPECT_EQ(taken(scene.text), (QStringList{QStringLiteral("nothing"), QStringLiteral("A12")}));
+    change(kQVSubtitlesDefaultFPS, 3);
+    EXPECT_TRUE(taken(scene.text).isEmpty()) << "a track that is not timed in frames was timed anew";
+    controller.setCurrenWithIndex(1);
+    taken(scene.text);
+    change(kQVSubtitlesDefaultFPS, 3); // the cue stands from 3 to 6 s now
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("nothing")});
+    change(kQVDisplaySubtitles, 0);
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("hide")});
+    change(kQVSubtitlesDefaultEncoding, 4);
+    EXPECT_TRUE(taken(scene.text).isEmpty()) << "shown while display is off";
+    shown->setTime(2 * second);
+    change(kQVSubtitlesDefaultFPS, 1);
+    change(kQVDisplaySubtitles, 1);
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("show")});
+    shown->setTime(3 * second);
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("A4")});
+}
+
+TEST_F(SubtitlesController, one_image_track_is_kept_loaded_and_texts_and_images_have_their_own_views) {
+    const auto shown = play({QStringLiteral("2-0 a"), QStringLiteral("2-1 b"), QStringLiteral("0-0 c")});
+    const auto loaded = [&] {
+        QString all;
+        for (const auto& track : shown->subtitles())
+            all += std::static_pointer_cast<Track>(track)->loaded ? u'+' : u'-';
+        return all;
+    };
+    shown->setTime(second);
+    EXPECT_EQ(loaded(), QStringLiteral("+--"));
+    EXPECT_EQ(taken(scene.image), (QStringList{QStringLiteral("front"), QStringLiteral("A")}));
+    controller.setCurrenWithIndex(2);
+    EXPECT_EQ(loaded(), QStringLiteral("+-+"));
+    EXPECT_EQ(taken(scene.image), (QStringList{QStringLiteral("nothing"), QStringLiteral("hide")}));
+    controller.setCurrenWithIndex(1);
+    EXPECT_EQ(loaded(), QStringLiteral("-++"));
+    std::weak_ptr<QVMovie> held = play({QStringLiteral("0-0 x")});
+    EXPECT_EQ(loaded(), QStringLiteral("-++")) << "unloaded though no other image track was selected";
+}
+
+TEST_F(SubtitlesController, whatever_changes_is_announced_with_the_track_selected) {
+    Posts<QVSubtitlesChangedNotification> posts;
+    const auto shown = play(three);
+    EXPECT_EQ(posts.count, 1);
+    controller.setCurrenWithIndex(2);
+    EXPECT_EQ(posts.count, 2);
+    EXPECT_EQ(posts.last->current, shown->subtitles()[2]);
+    controller.setCurrenWithIndex(2);
+    EXPECT_EQ(posts.count, 2) << "announced without a change";
+    controller.setCurrenWithIndex(3);
+    EXPECT_EQ(posts.count, 3);
+    play({});
+    EXPECT_EQ(posts.last->current, nullptr);
+}
