@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The subtitles that lie beside a movie, on the screen: which, when, and after which keys.
+#include "tests/e2e/PlayerFixture.h"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <string>
+
+using namespace harness;
+
+namespace {
+
+using Files = std::map<std::string, std::string>; // extension and content
+
+// "First words" from 1 to 3 s, two lines from 5 to 7 s, in each format; TMPlayer has no ends, and fills the gap.
+const char* const subRip = "1\n00:00:01,000 --> 00:00:03,000\nFirst words\n\n"
+                           "2\n00:00:05,000 --> 00:00:07,000\nA second cue\nof two lines\n\n";
+const char* const microDVD = "{30}{90}First words\n{150}{210}A second cue|of two lines\n";
+const char* const tmPlayer = "00:00:01:First words\n00:00:05:A second cue|of two lines\n";
+
+class Subtitles : public PlayerFixture {
+protected:
+    // A red movie of ten seconds, numbered, in a folder of its own with subtitles beside it.
+    std::string movie(const Files& subtitles) {
+        const std::filesystem::path folder = user.folder() / ("movies" + std::to_string(++_folders));
+        std::filesystem::create_directories(folder);
+        for (const auto& [extension, content] : subtitles)
+            std::ofstream(folder / ("film." + extension), std::ios::binary) << content;
+        std::filesystem::create_symlink(numbered("subtitled.mp4", red, 300), folder / "film.mp4");
+        return (folder / "film.mp4").string();
+    }
+
+    // Stands at the beginning of the movie; each jump is of two seconds.
+    void startPaused(const std::string& file, std::vector<std::string> options = {}) {
+        options.insert(options.end(), {"--set", "QVJumpInterval=2", file});
+        start(options);
+        ASSERT_TRUE(frameBecomes([](int) { return true; }, "any"));
+        probe.tap(XK_space);
+        ASSERT_TRUE(logs("QVMovieView: Stop Playing movie"));
+        ASSERT_TRUE(settledFrame());
+        probe.tap(XK_Left, {XK_Alt_L});
+        ASSERT_TRUE(frameBecomes(0));
+    }
+
+    void jump(int direction, int seconds) {
+        probe.tap(direction > 0 ? XK_Right : XK_Left, {XK_Control_L});
+        ASSERT_TRUE(frameBecomes(seconds * 30));
+    }
+
+    // The white of letters in the lower quarter of the screen, as a mask; empty without any.
+    std::vector<bool> letters() {
+        const Region part{0, screenHeight * 3 / 4, screenWidth, screenHeight / 4};
+        const Picture picture = probe.picture(part);
+        std::vector<bool> mask;
+        mask.reserve(picture.pixels.size());
+        for (const std::uint32_t pixel : picture.pixels)
+            mask.push_back((pixel & 0xFF) > 200 && (pixel >> 8 & 0xFF) > 200);
+        if (std::ranges::count(mask, true) < 100)
+            mask.clear();
+        return mask;
+    }
+    bool noCue() {
+        return waitUntil([&] { return letters().empty(); }) &&
+               staysTrue([&] { return letters().empty(); }, Seconds(0.15));
+    }
+    // The letters once they stand.
+    std::vector<bool> cue() {
+        std::vector<bool> seen;
+        waitUntil([&] {
+            seen = letters();
+            return !seen.empty() && staysTrue([&] { return letters() == seen; }, Seconds(0.15));
+        });
+        return seen;
+    }
+    bool cueBecomes(const std::vector<bool>& wanted) {
+        return waitUntil([&] { return letters() == wanted; });
+    }
+
+private:
+    int _folders = 0;
+};
+
+} // namespace
+
+TEST_F(Subtitles, each_format_shows_its_cues_at_their_times_and_none_between) {
+    std::vector<bool> first, second;
+    const struct {
+        const char* extension;
+        const char* content;
+        bool gaps;
+    } formats[] = {{"srt", subRip, true}, {"sub", microDVD, true}, {"txt", tmPlayer, false}};
+    for (const auto& format : formats) {
+        SCOPED_TRACE(format.extension);
+        startPaused(movie({{format.extension, format.content}}));
+        EXPECT_TRUE(noCue());
+        jump(1, 2);
+        const std::vector<bool> one = cue();
+        EXPECT_TRUE(logs("QVTextSubView: Set Text: First words"));
+        jump(1, 4);
+        EXPECT_TRUE(format.gaps ? noCue() : cueBecomes(one));
+        jump(1, 6);
+        EXPECT_TRUE(logs("QVTextSubView: Set Text: A second cue"));
+        EXPECT_TRUE(waitUntil([&] { return !letters().empty() && letters() != one; }));
+        const std::vector<bool> two = cue();
+        jump(-1, 4);
+        EXPECT_TRUE(format.gaps ? noCue() : cueBecomes(one));
+        jump(-1, 2);
+        EXPECT_TRUE(cueBecomes(one)) << "the first cue looks different the second time";
+        jump(-1, 0);
+        EXPECT_TRUE(noCue());
+        ASSERT_TRUE(quitsCleanly());
+        if (first.empty())
+            first = one, second = two;
+        EXPECT_TRUE(one == first && two == second) << "the same texts look different";
+    }
+    EXPECT_NE(first, second);
+}
+
+TEST_F(Subtitles, a_playing_movie_shows_the_cue_of_the_moment) {
+    start({movie({{"srt", subRip}})});
+    int with = 0, without = 0;
+    ASSERT_TRUE(frameBecomes(
+        [&](int before) {
+            const bool seen = !letters().empty();
+            const std::optional<int> after = frame();
+            const auto within = [&](int from, int to) { return before > from && after && *after < to; };
+            if (within(32, 88) || within(152, 208)) {
+                EXPECT_TRUE(seen) << before;
+                ++with;
+            } else if (within(-1, 30) || within(93, 150)) {
+                EXPECT_FALSE(seen) << before;
+                ++without;
+            }
+            return before > 212;
+        },
+        "one after the second cue"));
+    EXPECT_GT(with, 10);
+    EXPECT_GT(without, 10);
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Subtitles, keys_cycle_through_the_tracks_and_off_and_on) {
+    const auto cueOfAll = [](const std::string& text) { return "1\n00:00:00,000 --> 00:00:09,000\n" + text + "\n\n"; };
+    startPaused(movie({{"a.srt", cueOfAll("Apples")}, {"b.SRT", cueOfAll("Bread and butter")}, {"c.sub", microDVD}}));
+    const std::vector<bool> apples = cue();
+    probe.tap(XK_d, {});
+    probe.tap(XK_d, {});
+    probe.tap(XK_d, {});
+    ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Subtitles: film.a.srt (1/3)"));
+    probe.tap(XK_s);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: film.b.SRT (2/3)"));
+    EXPECT_TRUE(logs("QVOSDOverlay: Set Text: Subtitles: film.b.SRT (2/3)"));
+    EXPECT_TRUE(waitUntil([&] { return !letters().empty() && letters() != apples; }));
+    probe.tap(XK_s);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: film.c.sub (3/3)"));
+    EXPECT_TRUE(noCue());
+    probe.tap(XK_s);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: Off"));
+    EXPECT_TRUE(logs("QVOSDOverlay: Set Text: Subtitles: Off"));
+    std::size_t from = player->lineCount();
+    probe.tap(XK_s);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: film.a.srt (1/3)", from));
+    EXPECT_TRUE(cueBecomes(apples));
+    probe.tap(XK_s, {XK_Shift_L});
+    EXPECT_TRUE(noCue());
+    ASSERT_TRUE(quitsCleanly());
+
+    startPaused(movie({{"srt", cueOfAll("Apples")}}));
+    EXPECT_TRUE(noCue()) << "off is not kept for the next launch";
+    probe.tap(XK_s);
+    EXPECT_TRUE(cueBecomes(apples));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Subtitles, the_setting_for_the_encoding_decides_how_bytes_read) {
+    const std::string times = "1\n00:00:00,000 --> 00:00:09,000\n";
+    const std::string russian = times + "\xCF\xF0\xE8\xE2\xE5\xF2\n"; // in Windows 1251
+    startPaused(movie({{"srt", times + "Привет\n"}}));
+    const std::vector<bool> wanted = cue();
+    ASSERT_FALSE(wanted.empty());
+    ASSERT_TRUE(quitsCleanly());
+    startPaused(movie({{"srt", russian}}), {"--set", "QVSubtitlesDefaultEncoding=11"});
+    EXPECT_TRUE(cueBecomes(wanted));
+    ASSERT_TRUE(quitsCleanly());
+    startPaused(movie({{"srt", russian}}), {"--set", "QVSubtitlesDefaultEncoding=12"});
+    EXPECT_TRUE(waitUntil([&] { return !letters().empty(); }));
+    EXPECT_NE(cue(), wanted);
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Subtitles, stand_on_the_picture_as_large_as_it_is) {
+    const auto height = [&] {
+        const std::vector<bool> mask = cue();
+        int top = -1, bottom = -1;
+        for (std::size_t i = 0; i < mask.size(); ++i)
+            if (mask[i]) {
+                bottom = static_cast<int>(i) / screenWidth;
+                top = top < 0 ? bottom : top;
+            }
+        return bottom - top;
+    };
+    startPaused(movie({{"srt", "1\n00:00:00,000 --> 00:00:09,000\nApples\n"}}));
+    const int full = height();
+    EXPECT_GT(full, 25);
+    const std::vector<bool> before = letters();
+    probe.tap(XK_minus);
+    probe.tap(XK_minus);
+    EXPECT_TRUE(waitUntil([&] { return !letters().empty() && letters() != before; }));
+    EXPECT_LT(height(), full - 2);
+    ASSERT_TRUE(quitsCleanly());
+}
