@@ -75,7 +75,7 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
         _preferredType = track->type();
         _preferredIndex = track->streamIndex();
         track->preload();
-        _setView(viewFor(*track));
+        _setView(placeOfView(*track).get());
     }
     showCueOfNow();
     announce();
@@ -91,16 +91,16 @@ void QVSubtitlesController::keepLoaded(const std::shared_ptr<QVSubtitles>& track
     _cachedMovie = _movie;
 }
 
-SubtitleView* QVSubtitlesController::viewFor(const QVSubtitles& track) {
-    if (!_scene || !(track.isTextBased() || track.isImageBased()))
-        return nullptr;
-    std::unique_ptr<SubtitleView>& view = track.isTextBased() ? _textView : _imageView;
-    if (!view) {
-        view = track.isTextBased() ? _scene->createTextView() : _scene->createImageView();
-        if (view)
-            view->orderFront();
-    }
-    return view.get();
+std::unique_ptr<SubtitleView>& QVSubtitlesController::placeOfView(const QVSubtitles& track) {
+    return track.isImageBased() ? _imageView : _textView;
+}
+
+void QVSubtitlesController::createView(const QVSubtitles& track) {
+    std::unique_ptr<SubtitleView>& view = placeOfView(track);
+    view = track.isImageBased() ? _scene->createImageView() : _scene->createTextView();
+    if (view)
+        view->orderFront();
+    _setView(view.get());
 }
 
 void QVSubtitlesController::_setView(SubtitleView* view) {
@@ -116,14 +116,20 @@ void QVSubtitlesController::_setView(SubtitleView* view) {
 }
 
 void QVSubtitlesController::showCueOfNow() {
-    if (!_view)
-        return;
     std::shared_ptr<QVSubtitle> cue;
-    if (_current && _subtitlesOn) {
+    if (_current && _subtitlesOn && _scene) {
         const std::shared_ptr<SubtitleOwner> movie = _scene->shownMovie();
         cue = _current->subtitleForTime(movie ? movie->time() : 0);
     }
-    _view->setSubtitle(cue);
+    give(cue);
+}
+
+void QVSubtitlesController::give(const std::shared_ptr<QVSubtitle>& cue) {
+    // A view is not made before its first cue: its fonts would hold up the movie's first picture.
+    if (cue && !_view)
+        createView(*_current);
+    if (_view)
+        _view->setSubtitle(cue);
 }
 
 void QVSubtitlesController::setCurrenWithIndex(std::int32_t index) {
@@ -204,10 +210,10 @@ void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNoti
 }
 
 void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNotification& notification) {
-    if (!_current || !_subtitlesOn || !_view)
+    if (!_current || !_subtitlesOn)
         return;
     if (const std::shared_ptr<SubtitleOwner> movie = _scene->ownerOf(notification.movie); movie && movie == _movie)
-        _view->setSubtitle(_current->subtitleForTime(movie->time()));
+        give(_current->subtitleForTime(movie->time()));
 }
 
 void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
@@ -215,9 +221,9 @@ void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotific
         setDisplaySubtitles(defaults().boolForKey(kQVDisplaySubtitles));
     } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
         _current->setEncoding(static_cast<std::uint32_t>(defaults().integerForKey(kQVSubtitlesDefaultEncoding)));
-        if (_subtitlesOn && _view) {
+        if (_subtitlesOn) {
             // The cue is the same object with another text: it is taken away, and shown anew.
-            _view->setSubtitle(nullptr);
+            give(nullptr);
             showCueOfNow();
         }
     } else if (notification.key == kQVSubtitlesDefaultFPS && _current && _current->isFrameBased()) {

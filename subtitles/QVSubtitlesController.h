@@ -59,10 +59,12 @@ private:
     void movieInterestingTime(const QVMovieInterestingTimeNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
     void keepLoaded(const std::shared_ptr<QVSubtitles>& track);
-    SubtitleView* viewFor(const QVSubtitles& track);
+    std::unique_ptr<SubtitleView>& placeOfView(const QVSubtitles& track);
+    void createView(const QVSubtitles& track);
     void _setView(SubtitleView* view);
     bool switchDisplay(bool flag);
     void showCueOfNow();
+    void give(const std::shared_ptr<QVSubtitle>& cue);
     void announce();
 
     SubtitleScene* _scene;
@@ -72,7 +74,7 @@ private:
     std::shared_ptr<QVSubtitles> _current;
     std::unique_ptr<SubtitleView> _textView;
     std::unique_ptr<SubtitleView> _imageView;
-    SubtitleView* _view = nullptr; // one of the two
+    SubtitleView* _view = nullptr; // that of the selected track, once it was made
     bool _subtitlesOn;
     std::uint32_t _index = none;
     /// The one image track that is kept loaded, with the movie that it belongs to.

@@ -156,11 +156,12 @@ TEST_F(SubtitlesController, cycling_runs_through_the_tracks_and_off_both_ways) {
 TEST_F(SubtitlesController, each_picture_gives_the_view_its_cue) {
     auto shown = movie({QStringLiteral("0-0 one")});
     post(QVPlaylistMovieChangedNotification{shown});
-    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("front")});
+    EXPECT_TRUE(taken(scene.text).isEmpty()) << "a view was made before there was a cue for it";
     const struct {
         double time;
         const char* told;
-    } pictures[] = {{0.5, ""}, {1, "A"}, {1.5, ""}, {2, ""}, {2.5, "nothing"}, {3.5, "B"}, {1.2, "A"}, {0, "nothing"}};
+    } pictures[] = {{0.5, ""},        {1, "front A"}, {1.5, ""},  {2, ""},
+                    {2.5, "nothing"}, {3.5, "B"},     {1.2, "A"}, {0, "nothing"}};
     for (const auto& [time, told] : pictures) {
         shown->setTime(static_cast<std::int32_t>(time * second));
         EXPECT_EQ(taken(scene.text).join(u' ').toStdString(), told) << time;
