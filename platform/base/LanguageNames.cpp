@@ -18,9 +18,9 @@ constexpr const char* function = "QVLocalizedNameForLanguageID()";
 QString localizedNameForLanguageID(const QString& code) {
     const QByteArray language = code.toUtf8();
     UErrorCode error = U_ZERO_ERROR;
-    std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
-    uloc_canonicalize(language.constData(), canonical.data(), canonical.size(), &error);
-    if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING || canonical[0] == '\0') {
+    std::array<char, ULOC_LANG_CAPACITY> subtag{};
+    uloc_getLanguage(language.constData(), subtag.data(), subtag.size(), &error);
+    if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING || subtag[0] == '\0') {
         Log::write(
             formatted(QStringLiteral("ERROR: %@: Unable to create locale ref for language \"%@\". Error code %d"),
                       {QString::fromLatin1(function), code, QString::number(error)}));
@@ -30,7 +30,7 @@ QString localizedNameForLanguageID(const QString& code) {
     error = U_ZERO_ERROR;
     std::array<UChar, 256> name{};
     const std::int32_t length =
-        uloc_getDisplayLanguage(canonical.data(), display.constData(), name.data(), name.size(), &error);
+        uloc_getDisplayLanguage(subtag.data(), display.constData(), name.data(), name.size(), &error);
     // The warning says that no table knows the language: what was given is the code again.
     if (U_FAILURE(error) || error == U_USING_DEFAULT_WARNING || length == 0) {
         Log::write(formatted(

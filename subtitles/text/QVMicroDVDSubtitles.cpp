@@ -65,8 +65,10 @@ std::shared_ptr<QVSubtitle> QVMicroDVDSubtitles::readSubtitle(LineReader& lines)
         const std::size_t brace = line->rfind('}');
         if (!frames || brace == std::string_view::npos)
             continue;
-        CueText::splitSegments(line->substr(brace + 1), lines,
-                               [&](std::string_view segment) { appendBytes(segment, text); });
+        const std::string_view rest = line->substr(brace + 1);
+        if (rest.find_first_not_of("\r\n") == std::string_view::npos)
+            continue;
+        CueText::splitSegments(rest, lines, [&](std::string_view segment) { appendBytes(segment, text); });
     }
     const float rate = actualFrameRate(frameRateChoice());
     const auto time = [&](std::int32_t frame) {

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/QVSubtitles.h"
+
+#include "subtitles/text/LineReader.h"
+#include "tests/subtitles/SubtitleFiles.h"
+#include "tests/support/CapturedLog.h"
+
+#include <condition_variable>
+
+namespace {
+
+/// Is loaded by a worker that takes a step whenever the test lets it.
+class ScriptedTrack final : public QVSubtitles {
+public:
+    struct Step {
+        std::int32_t start;
+        std::int32_t end;
+        bool forced;
+    };
+    ScriptedTrack(SubtitleOwner& owner, std::vector<Step> steps, bool forcedOnly)
+        : QVSubtitles(QStringLiteral("/movies/scripted.idx"), owner, typeVobSub, 0.6F)
+        , _steps(std::move(steps))
+        , _forcedOnly(forcedOnly) {}
+
+    bool isThreaded() const override { return true; }
+    bool onlyForced() const override { return _forcedOnly; }
+
+    /// Lets the worker read up to so many cues in all, and waits until it did.
+    void allow(std::size_t count) {
+        std::unique_lock lock(_guard);
+        _allowed = count;
+        _changed.notify_all();
+        _changed.wait(lock, [&] { return _appended >= std::min(count, _steps.size()); });
+    }
+
+protected:
+    void _preload() override {
+        {
+            const std::lock_guard lock(_guard);
+            _appended = 0;
+        }
+        for (const Step& step : _steps) {
+            {
+                std::unique_lock lock(_guard);
+                while (_appended >= _allowed && !_abort)
+                    _changed.wait_for(lock, std::chrono::milliseconds(1));
+            }
+            if (_abort)
+                break;
+            auto cue = std::make_shared<QVSubtitle>(QString::number(step.start), step.start, step.end);
+            cue->setForced(step.forced);
+            if (_previous && _previous->end() > cue->start())
+                _previous->setEnd(cue->start());
+            _previous = cue;
+            appendSubtitle(cue);
+            const std::lock_guard lock(_guard);
+            ++_appended;
+            _changed.notify_all();
+        }
+        finishLoading();
+    }
+
+private:
+    std::vector<Step> _steps;
+    bool _forcedOnly;
+    std::mutex _guard;
+    std::condition_variable _changed;
+    std::size_t _allowed = 0;
+    std::size_t _appended = 0;
+};
+
+class Track : public SubtitleFiles {
+protected:
+    /// What is shown at a time, "" for nothing.
+    static std::string shown(QVSubtitles& track, std::int32_t time) {
+        const auto cue = track.subtitleForTime(time);
+        return cue ? cue->text().toStdString() : "";
+    }
+    std::shared_ptr<ScriptedTrack> scripted(std::vector<ScriptedTrack::Step> steps, bool forcedOnly = false) {
+        return QVSubtitles::makeTrack<ScriptedTrack>(owner, std::move(steps), forcedOnly);
+    }
+
+    /// A from 1 to 2 s, B from 2 to 3 s, C from 5 to 6 s.
+    const std::string three = "0:0:1,0 --> 0:0:2,0\nA\n\n0:0:2,0 --> 0:0:3,0\nB\n\n0:0:5,0 --> 0:0:6,0\nC\n\n";
+};
+
+} // namespace
+
+TEST_F(Track, a_time_finds_its_cue_wherever_the_search_begins) {
+    const auto track = load(QStringLiteral("film.srt"), three);
+    ASSERT_TRUE(track);
+    const struct {
+        std::int32_t time;
+        const char* text;
+    } cases[] = {{-1, ""},   {0, ""},    {600, "A"},  {1199, "A"}, {1201, "B"}, {1800, "B"},
+                 {1801, ""}, {2999, ""}, {3000, "C"}, {3600, "C"}, {3601, ""},  {2147483647, ""}};
+    for (const auto& from : cases) {
+        for (const auto& to : cases) {
+            shown(*track, from.time);
+            EXPECT_EQ(shown(*track, to.time), to.text) << from.time << " to " << to.time;
+        }
+    }
+    shown(*track, 2000);
+    EXPECT_EQ(track->current()->text(), QStringLiteral("C")) << "a gap leaves the cursor on the later cue";
+    shown(*track, 9999);
+    EXPECT_EQ(track->current()->text(), QStringLiteral("C"));
+    track->reset();
+    EXPECT_EQ(track->current()->text(), QStringLiteral("A"));
+}
+
+TEST_F(Track, cues_out_of_order_are_walked_over_without_end) {
+    const auto track = load(QStringLiteral("film.txt"), "0:0:9:A\n0:0:5:B\n0:0:7:C\n0:0:1:D\n");
+    ASSERT_TRUE(track);
+    for (std::int32_t time = -600; time < 9000; time += 77)
+        shown(*track, time);
+    for (std::int32_t time = 9000; time > -600; time -= 77)
+        shown(*track, time);
+    EXPECT_EQ(track->count(), 4U);
+}
+
+TEST_F(Track, loading_takes_the_settings_as_they_are_then) {
+    const auto track = open(write(QStringLiteral("film.sub"), "{240}{480}caf\xE9|B\n"));
+    ASSERT_TRUE(track);
+    EXPECT_EQ(track->encoding(), QVSubtitles::noEncoding);
+    EXPECT_EQ(track->subtitleForTime(0), nullptr);
+    chooseEncoding(12);
+    settings.defaults().setFloat(2.9F, kQVSubtitlesDefaultFPS);
+    track->preload();
+    EXPECT_EQ(cuesOf(*track), (std::vector<ExpectedCue>{{6000, 12000, "caf\xC3\xA9\nB"}}));
+    EXPECT_EQ(track->encoding(), 12U);
+    EXPECT_EQ(track->title(), QStringLiteral("film.sub"));
+    track->unload();
+    EXPECT_EQ(track->count(), 0U);
+    EXPECT_EQ(track->current(), nullptr);
+    chooseEncoding(4);
+    settings.defaults().setFloat(-3.0F, kQVSubtitlesDefaultFPS);
+    track->preload();
+    EXPECT_EQ(cuesOf(*track), (std::vector<ExpectedCue>{{5400, 11400, "B"}}))
+        << "at the movie's 25 a second, in whole seconds; a line that is not valid UTF-8 is left out";
+}
+
+TEST_F(Track, a_frame_rate_is_the_choice_s_or_the_movie_s_or_25) {
+    const auto track = open(write(QStringLiteral("film.sub"), "{0}{25}A\n"));
+    const struct {
+        float movie;
+        std::int32_t choice;
+        float rate;
+    } cases[] = {{24, 0, 24}, {24, 1, 23.976F},  {24, 5, 30},  {24, 6, 24}, {24, -1, 24},
+                 {0, 0, 25},  {INFINITY, 0, 25}, {NAN, 0, 25}, {-3, 9, 25}};
+    for (const auto& c : cases) {
+        owner.rate = c.movie;
+        EXPECT_EQ(track->actualFrameRate(c.choice), c.rate) << c.movie << ", " << c.choice;
+    }
+}
+
+TEST_F(Track, a_new_frame_rate_moves_the_cues_of_loaded_frame_based_tracks_only) {
+    settings.defaults().setInteger(3, kQVSubtitlesDefaultFPS);
+    const auto track = open(write(QStringLiteral("film.sub"), "{100}{200}A\n{250}{2147483647}B\n"));
+    track->setFrameRate(1);
+    EXPECT_EQ(track->frameRateChoice(), 3) << "nothing is loaded";
+    track->preload();
+    track->setFrameRate(1);
+    EXPECT_EQ(cuesOf(*track), (std::vector<ExpectedCue>{{2502, 5005, "A"}, {6256, 2147483647, "B"}}));
+    EXPECT_EQ(track->frameRateChoice(), 1);
+    EXPECT_EQ(shown(*track, 5005), "A");
+    EXPECT_EQ(shown(*track, 6255), "");
+
+    const auto timed = load(QStringLiteral("film.srt"), three);
+    timed->setFrameRate(1);
+    EXPECT_EQ(timed->frameRateChoice(), 3);
+}
+
+TEST_F(Track, a_new_encoding_decodes_the_texts_again) {
+    chooseEncoding(12);
+    const auto track = load(QStringLiteral("film.srt"), "0:0:1,0 --> 0:0:2,0\ncaf\xE9\n\n0:0:2,0 --> 0:0:3,0\nB\n");
+    track->setEncoding(15);
+    EXPECT_EQ(shown(*track, 700), "caf\xC3\xA9");
+    track->setEncoding(11);
+    EXPECT_EQ(shown(*track, 700), "caf\xD0\xB9");
+    track->setEncoding(4);
+    EXPECT_TRUE(track->current()->text().isNull());
+    EXPECT_EQ(shown(*track, 1300), "B");
+    track->setEncoding(11);
+    EXPECT_EQ(shown(*track, 700), "") << "what was lost stays lost";
+    track->setEncoding(0);
+    EXPECT_EQ(shown(*track, 700), "caf\xC3\xA9") << "but the automatic choice reads the file again";
+    EXPECT_EQ(track->encoding(), 12U);
+}
+
+TEST_F(Track, a_file_that_vanishes_before_it_is_loaded_leaves_the_track_empty) {
+    const QString path = write(QStringLiteral("film.srt"), three);
+    const auto track = open(path);
+    ASSERT_TRUE(QFile::remove(path));
+    CapturedLog log;
+    track->preload();
+    EXPECT_TRUE(log.contains("ERROR: QVSubRipSubtitles: Unable to open subtitles file \"film.srt\" for reading."));
+    EXPECT_EQ(shown(*track, 700), "");
+}
+
+TEST_F(Track, a_track_being_loaded_shows_what_is_there_already) {
+    const auto track = scripted({{600, 1300, false}, {1200, 1800, false}, {3000, 3600, false}});
+    track->preload();
+    EXPECT_EQ(shown(*track, 700), "");
+    track->allow(1);
+    EXPECT_EQ(shown(*track, 700), "600");
+    EXPECT_EQ(shown(*track, 3100), "");
+    track->allow(3);
+    EXPECT_EQ(shown(*track, 3100), "3000");
+    EXPECT_EQ(shown(*track, 1250), "1200");
+}
+
+TEST_F(Track, unloading_stops_a_worker_and_loading_again_begins_anew) {
+    std::vector<ScriptedTrack::Step> steps;
+    for (std::int32_t number = 0; number < 1000; ++number)
+        steps.push_back({number * 10, number * 10 + 5, false});
+    const auto track = scripted(std::move(steps));
+    for (int round = 0; round < 20; ++round) {
+        track->preload();
+        track->unload();
+        EXPECT_EQ(track->count(), 0U);
+    }
+    track->preload();
+    track->allow(500);
+    EXPECT_EQ(shown(*track, 4991), "4990");
+    track->unload();
+    EXPECT_EQ(shown(*track, 4991), "");
+    track->preload();
+    track->allow(1000);
+    EXPECT_EQ(shown(*track, 9991), "9990");
+    // The end of the test destroys a track whose worker may run still.
+}
+
+TEST_F(Track, a_track_limited_to_forced_cues_shows_no_others) {
+    const auto track = scripted({{0, 500, false}, {600, 1200, true}}, true);
+    track->preload();
+    track->allow(2);
+    EXPECT_EQ(shown(*track, 100), "");
+    EXPECT_EQ(shown(*track, 700), "600");
+}
+
+TEST(Cue, a_place_scales_the_picture) {
+    auto image = std::make_shared<SubtitleImage>();
+    QVSubtitle cue(image, 1, 2);
+    cue.setRect(QRectF(10, 20, 300, 40));
+    EXPECT_EQ(image->size, QSizeF(300, 40));
+    EXPECT_EQ(cue.rect(), QRectF(10, 20, 300, 40));
+    EXPECT_TRUE(cue.text().isNull());
+}

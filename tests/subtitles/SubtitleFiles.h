@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/settings/SettingsKeys.h"
+#include "subtitles/SubtitleRegistry.h"
+#include "tests/support/TestSettings.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A movie of 600 units and 25 pictures a second.
+class PlainOwner final : public SubtitleOwner {
+public:
+    float rate = 25;
+    std::int32_t timeScale() const override { return 600; }
+    float frameRate() override { return rate; }
+    std::int32_t time() const override { return 0; }
+};
+
+/// A cue as tests write it.
+struct ExpectedCue {
+    std::int32_t start;
+    std::int32_t end;
+    std::string text;
+    bool operator==(const ExpectedCue&) const = default;
+};
+
+inline void PrintTo(const ExpectedCue& cue, std::ostream* out) {
+    *out << cue.start << "-" << cue.end << " \"" << cue.text << '"';
+}
+
+inline std::vector<ExpectedCue> cuesOf(const QVSubtitles& track) {
+    std::vector<ExpectedCue> cues;
+    for (const auto& cue : track.cues())
+        cues.push_back({cue->start(), cue->end(), cue->text().toStdString()});
+    return cues;
+}
+
+/// Subtitle files in a folder of their own, and the registry's tracks of them.
+class SubtitleFiles : public testing::Test {
+protected:
+    QString write(const QString& name, std::string_view bytes) {
+        const QString path = folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        return path;
+    }
+    /// The only track of a file; none when no reader takes it.
+    std::shared_ptr<QVSubtitles> open(const QString& path) {
+        auto tracks = registry.subtitlesWithFilePath(path, owner);
+        EXPECT_LE(tracks.size(), 1U);
+        return tracks.empty() ? nullptr : tracks.front();
+    }
+    /// Writes a file and loads it.
+    std::shared_ptr<QVSubtitles> load(const QString& name, std::string_view bytes) {
+        auto track = open(write(name, bytes));
+        if (track)
+            track->preload();
+        return track;
+    }
+    /// The cues that a file's bytes make; none when no reader takes it.
+    std::vector<ExpectedCue> cues(const QString& name, std::string_view bytes) {
+        const auto track = load(name, bytes);
+        return track ? cuesOf(*track) : std::vector<ExpectedCue>();
+    }
+    void chooseEncoding(qint64 number) { settings.defaults().setObject(number, kQVSubtitlesDefaultEncoding); }
+
+    TestSettings settings;
+    QTemporaryDir folder;
+    PlainOwner owner;
+    SubtitleRegistry registry;
+};
