@@ -131,6 +131,7 @@ void QVSubtitles::_preload() {
 
 void QVSubtitles::finishLoading() {
     _previous.reset();
+    _pendingText = QString();
     trace("%@: End parsing subtitles, %d entries loaded.", className(), count());
     reset();
 }

@@ -113,6 +113,11 @@ protected:
     void finishLoading();
     /// Decodes exactly these bytes and appends them; leaves the text as it is when they are not valid.
     bool appendBytes(std::string_view bytes, QString& text) { return _decoder.append(bytes, text); }
+    /// Where a cue's text is put together: empty, and with the room that earlier cues needed.
+    QString& emptiedText() {
+        _pendingText.resize(0);
+        return _pendingText;
+    }
     SubtitleOwner* owner() const { return _owner; }
     /// Towards zero, clamped to 32 bits; what is not a number is 0.
     static std::int32_t truncated(float value);
@@ -148,6 +153,7 @@ private:
     float _timeScaleAdjustment = 1.0F;
     std::uint32_t _encoding = noEncoding;
     platform::TextDecoder _decoder;
+    QString _pendingText;
     std::optional<Cues> _subtitles;
     std::uint32_t _index = 0x7FFFFFFF;
     double _prevEnd = 0;

@@ -55,7 +55,7 @@ QStringList QVMicroDVDSubtitles::extensionsList() {
 }
 
 std::shared_ptr<QVSubtitle> QVMicroDVDSubtitles::readSubtitle(LineReader& lines) {
-    QString text;
+    QString& text = emptiedText();
     std::optional<Frames> frames;
     while (text.isEmpty()) {
         const auto line = lines.next();

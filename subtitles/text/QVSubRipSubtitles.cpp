@@ -40,7 +40,7 @@ QStringList QVSubRipSubtitles::extensionsList() {
 }
 
 std::shared_ptr<QVSubtitle> QVSubRipSubtitles::readSubtitle(LineReader& lines) {
-    QString text;
+    QString& text = emptiedText();
     Numbers numbers{};
     while (text.isEmpty()) {
         auto line = lines.next();

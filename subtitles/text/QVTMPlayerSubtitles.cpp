@@ -56,7 +56,7 @@ QStringList QVTMPlayerSubtitles::extensionsList() {
 }
 
 std::shared_ptr<QVSubtitle> QVTMPlayerSubtitles::readSubtitle(LineReader& lines) {
-    QString text;
+    QString& text = emptiedText();
     std::optional<LineStart> start;
     do {
         const auto line = lines.next();
