@@ -2,7 +2,6 @@
 #include "overlays/OverlayPlacement.h"
 #include "overlays/QVChildOverlay.h"
 #include "tests/overlays/OverlayRig.h"
-#include "tests/support/CapturedLog.h"
 
 #include <QImage>
 #include <QPainter>
@@ -42,19 +41,6 @@ TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
     EXPECT_EQ(OverlayPlacement::horizontalOrigin(1, parent, 10, std::numeric_limits<double>::quiet_NaN()), 100);
 }
 
-TEST(OverlayPlacement, the_panel_reaches_beyond_the_content) {
-    const float huge = std::numeric_limits<float>::infinity();
-    const struct {
-        OverlayPlacement::Panel panel;
-        double margin;
-    } cases[] = {
-        {{true, true, 10, true, 2}, 7},  {{true, true, 10, false, 2}, 5},  {{true, false, 10, true, 2}, 2},
-        {{false, true, 10, true, 2}, 0}, {{true, true, -10, true, -2}, 0}, {{true, true, huge, true, 2}, 2},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(OverlayPlacement::backgroundMargin(c.panel), c.margin);
-}
-
 TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
     OverlayRig rig;
     Box box(&rig.window);
@@ -86,6 +72,8 @@ TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     EXPECT_EQ(box.frame().size(), QSizeF(110, 30));
     box.setRadius(20);
     EXPECT_EQ(box.frame().size(), QSizeF(120, 40));
+    box.setRadius(std::numeric_limits<float>::infinity());
+    EXPECT_LT(box.frame().width(), 1e6);
     box.setBackgroundRounded(false);
     EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
     box.setPadding(5);
@@ -99,13 +87,6 @@ TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     EXPECT_EQ(box.frame(), QRectF(5, (768 - 56) / 2.0, 136, 56));
     rig.change(kBackgroundOn, false);
     EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
-    EXPECT_TRUE(box.preferencesChanged({kQVDefaultOverlayStyle, {kFrameOn, kAlignment}}));
-    EXPECT_TRUE(box.preferencesChanged({kQVDefaultOverlayStyle, {kMaxAlpha}})) << "the base's answer";
-    EXPECT_FALSE(box.preferencesChanged({kQVDefaultOverlayStyle, {kFrameOn, kMaxAlpha}})) << "the base's answer";
-    rig.change(kMaxAlpha, 0.5);
-    rig.change(kBackgroundColor, QStringLiteral("0 1 0 1"));
-    EXPECT_EQ(box.maxAlpha(), 0.5F);
-    EXPECT_EQ(box.overlayContentView().backgroundColor(), QColor(Qt::green));
 }
 
 TEST(QVChildOverlay, a_missing_style_and_a_missing_parent_leave_it_where_it_is) {
@@ -113,10 +94,6 @@ TEST(QVChildOverlay, a_missing_style_and_a_missing_parent_leave_it_where_it_is) 
     rig.settings.defaults().setObject(QStringLiteral("Gone"), kQVOSDOverlayStyle);
     EXPECT_EQ(Box(&rig.window, kQVOSDOverlayStyle).frame(), QRectF(0, 0, 100, 20));
     EXPECT_EQ(Box(nullptr).frame(), QRectF(-7, -7, 114, 34));
-    CapturedLog log;
-    QVChildOverlay plain(&rig.window);
-    plain.contentSizeChanged();
-    EXPECT_TRUE(log.contains(QStringLiteral("ERROR: Overlay QVChildOverlay: uses generic contentSize:")));
 }
 
 TEST(QVOverlayContentView, draws_the_panel_and_the_line_around_it) {

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/Tracing.h"
 #include "overlays/QVImageOverlay.h"
 #include "overlays/QVTextOverlay.h"
 #include "platform/window/Fonts.h"
 #include "tests/overlays/OverlayRig.h"
-#include "tests/support/CapturedLog.h"
 
 #include <QPainter>
 
@@ -52,19 +50,13 @@ TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
 
 TEST(QVTextOverlay, an_unchanged_text_lays_nothing_out) {
     OverlayRig rig;
-    rig.settings.defaults().setBool(true, kQVEnableTrace);
-    gTracingEnabled = true;
     TextOverlay overlay(&rig.window);
     overlay.setText(QStringLiteral("text"));
     const std::uint64_t revision = overlay.contentRevision();
-    CapturedLog log;
     overlay.setText(QStringLiteral("text"));
-    EXPECT_EQ(log.lines(), QStringList());
     EXPECT_EQ(overlay.contentRevision(), revision);
     overlay.setText(QStringLiteral("other"));
-    EXPECT_TRUE(log.contains(QStringLiteral("QVTextOverlay: Set Text: other")));
-    EXPECT_EQ(log.count(QStringLiteral("QVTextOverlay: Overlay Frame After Recalc: x:20 y:20 w:")), 1);
-    gTracingEnabled = false;
+    EXPECT_GT(overlay.contentRevision(), revision);
 }
 
 TEST(QVTextOverlay, size_and_smallest_size_push_each_other) {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "overlays/QVFadeCalculator.h"
 #include "overlays/QVParentOverlay.h"
 #include "tests/overlays/OverlayRig.h"
 
@@ -43,12 +42,6 @@ protected:
 
 } // namespace
 
-TEST_F(Fading, a_new_overlay_is_hidden) {
-    EXPECT_EQ(overlay.fadingState(), State::idle);
-    EXPECT_EQ(overlay.alphaValue(), 0);
-    EXPECT_FALSE(overlay.isVisible());
-}
-
 TEST_F(Fading, showing_rises_evenly_and_ends_at_the_largest_opacity) {
     overlay.setMinAlpha(0.2F);
     overlay.setMaxAlpha(0.8F);
@@ -91,16 +84,6 @@ TEST_F(Fading, a_fade_is_taken_back_from_where_it_stands) {
     EXPECT_EQ(overlay.alphaValue(), 0);
     EXPECT_EQ(overlay.fadedOut, 1);
     EXPECT_EQ(timers(), 0U);
-}
-
-TEST_F(Fading, a_late_step_does_not_lengthen_the_fade) {
-    const QVFadeCalculator ramp = QVFadeCalculator::fadeOutCalculator(2, 0.75);
-    EXPECT_DOUBLE_EQ(ramp.valueNow(), 0.75);
-    advance(1);
-    EXPECT_DOUBLE_EQ(ramp.valueNow(), 0.25);
-    advance(1);
-    EXPECT_DOUBLE_EQ(ramp.valueNow(), -0.25) << "the ramp runs on";
-    EXPECT_DOUBLE_EQ(QVFadeCalculator().valueNow(), 0);
 }
 
 TEST_F(Fading, intervals_too_short_for_a_step_or_absurd_fade_at_once) {
@@ -201,29 +184,10 @@ TEST_F(Fading, a_style_that_is_missing_leaves_the_overlay_transparent) {
     Overlay unstyled(kQVOSDOverlayStyle);
     unstyled.show();
     EXPECT_EQ(unstyled.alphaValue(), 0);
-    EXPECT_EQ(unstyled.fadingState(), State::idle);
     EXPECT_FALSE(unstyled.isVisible());
     unstyled.autopop();
     advance(1);
     EXPECT_EQ(timers(), 0U);
-}
-
-TEST_F(Fading, changes_of_the_own_style_are_taken_over) {
-    rig.change(kFadingInInterval, 3.0);
-    rig.change(kFadingOutInterval, 4.0);
-    rig.change(kFadingDelayInterval, 5.0);
-    rig.change(kMinAlpha, 0.25);
-    rig.change(kMaxAlpha, 0.5);
-    rig.change(kBackgroundColor, QStringLiteral("1 0 0 1"));
-    EXPECT_EQ(overlay.fadingInInterval(), 3);
-    EXPECT_EQ(overlay.fadingOutInterval(), 4);
-    EXPECT_EQ(overlay.fadingDelayInterval(), 5);
-    EXPECT_EQ(overlay.minAlpha(), 0.25F);
-    EXPECT_EQ(overlay.maxAlpha(), 0.5F);
-    EXPECT_EQ(overlay.backgroundColor(), QColor(Qt::red));
-    EXPECT_TRUE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kMinAlpha, kMaxAlpha}}));
-    EXPECT_FALSE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kMinAlpha, kAlignment}}));
-    EXPECT_FALSE(overlay.preferencesChanged({kQVOSDOverlayStyle, {kMinAlpha}}));
 }
 
 TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
