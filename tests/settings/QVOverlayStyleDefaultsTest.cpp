@@ -30,20 +30,19 @@ protected:
 
 } // namespace
 
-TEST_F(QVOverlayStyleDefaultsTest, a_selector_without_a_style_takes_the_default_one_and_says_so_while_tracing) {
+TEST_F(QVOverlayStyleDefaultsTest,
+       a_selector_without_a_style_takes_the_default_one_and_a_style_nobody_registered_is_none) {
     EXPECT_EQ(style(kQVOSDOverlayStyle)->key(), "Other");
     EXPECT_EQ(style("missing")->key(), "Plain");
     EXPECT_TRUE(log.lines().isEmpty());
-    gTracingEnabled = true;
-    EXPECT_EQ(style("missing")->key(), "Plain");
-    EXPECT_EQ(log.lines(), QStringList{"WARNING: QVOverlayStyleDefaults: No default settings found for key: missing."});
-}
-
-TEST_F(QVOverlayStyleDefaultsTest, a_style_that_is_not_registered_is_none_even_when_the_user_changed_it) {
     settings.defaults().setObject("Gone", kQVOSDOverlayStyle);
     settings.defaults().setObject(QVariantMap{{"Gone", QVariantMap{{kTextFontSize, 5}}}}, kQVOverlayStyles);
     EXPECT_FALSE(style(kQVOSDOverlayStyle));
     EXPECT_EQ(log.lines(), QStringList{"ERROR: QVOverlayStyleDefaults: No defaults found for key: Gone."});
+    log.clear();
+    gTracingEnabled = true;
+    EXPECT_EQ(style("missing")->key(), "Plain");
+    EXPECT_EQ(log.lines(), QStringList{"WARNING: QVOverlayStyleDefaults: No default settings found for key: missing."});
 }
 
 TEST_F(QVOverlayStyleDefaultsTest, a_change_covers_its_own_value_alone) {

@@ -23,6 +23,9 @@ TEST(ColorText, components_that_the_text_does_not_reach_keep_their_start_values)
         EXPECT_EQ(JHColorFromString(text), color) << text;
     EXPECT_FALSE(JHColorFromString(""));
     EXPECT_FALSE(JHColorFromString({}));
+    EXPECT_EQ(JHSizeFromString("3"), QSizeF(3, 0));
+    EXPECT_EQ(JHSizeFromString("x 3"), QSizeF(0, 0));
+    EXPECT_EQ(JHStringFromSize({1234567.0, 0.0001}), "1.23457e+06 0.0001");
 }
 
 TEST(ColorText, a_colour_is_written_short_and_read_back_as_the_same_one) {
@@ -36,15 +39,6 @@ TEST(ColorText, a_colour_is_written_short_and_read_back_as_the_same_one) {
         const QColor color = QColor::fromRgba64(value, value, value, value);
         ASSERT_EQ(JHColorFromString(JHStringFromColor(color)), color) << level;
     }
-}
-
-TEST(ColorText, sizes) {
-    EXPECT_EQ(JHSizeFromString(""), QSizeF(0, 0));
-    EXPECT_EQ(JHSizeFromString("3"), QSizeF(3, 0));
-    EXPECT_EQ(JHSizeFromString("x 3"), QSizeF(0, 0));
-    EXPECT_EQ(JHSizeFromString("2 -2"), QSizeF(2, -2));
-    EXPECT_EQ(JHStringFromSize({2, -2}), "2 -2");
-    EXPECT_EQ(JHStringFromSize({1234567.0, 0.0001}), "1.23457e+06 0.0001");
 }
 
 TEST(StringComparison, names_are_ordered_without_case_and_numbers_by_value_when_asked) {
