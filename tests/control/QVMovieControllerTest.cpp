@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/control/ControllerFixture.h"
 
-#include "control/ModifierFlags.h"
-
 namespace {
 
 class MovieController : public ControllerFixture {};
@@ -37,8 +35,12 @@ TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_so
     EXPECT_EQ(app.cursorHides, 2);
 }
 
-TEST_F(MovieController, Sound_that_was_off_before_fast_motion_stays_off_after_it) {
-    addMovies(1);
+TEST_F(MovieController, Sound_comes_back_with_a_new_movie_but_not_where_it_was_off_before_fast_motion) {
+    addMovies(2);
+    view.start();
+    controller->performAction(action::fastForward, Feedback::no);
+    playlist.playNext();
+    EXPECT_FALSE(controller->forceMuted() || view.isMuted()) << "a new movie is heard";
     view.start();
     view.setMuted(true);
     controller->performAction(action::fastRewind, Feedback::no);
@@ -46,15 +48,6 @@ TEST_F(MovieController, Sound_that_was_off_before_fast_motion_stays_off_after_it
     EXPECT_FALSE(controller->forceMuted());
     controller->performAction(action::playPause, Feedback::no);
     EXPECT_TRUE(view.isMuted());
-}
-
-TEST_F(MovieController, A_new_movie_ends_the_forced_mute) {
-    addMovies(2);
-    view.start();
-    controller->performAction(action::fastForward, Feedback::no);
-    playlist.playNext();
-    EXPECT_FALSE(controller->forceMuted());
-    EXPECT_FALSE(view.isMuted());
 }
 
 TEST_F(MovieController, Fast_rewind_starts_a_stopped_movie_backwards_except_at_its_beginning) {
@@ -178,42 +171,10 @@ TEST_F(MovieController, A_held_arrow_doubles_the_rate_every_0_8_seconds_up_to_12
         EXPECT_TRUE(press(key::left, 0, true));
         EXPECT_EQ(view.rate(), expected);
     }
+    EXPECT_TRUE(press(key::right, 0, true));
+    EXPECT_EQ(view.rate(), -128.0F) << "the other arrow has not been pressed yet";
     EXPECT_TRUE(press(key::right));
     EXPECT_EQ(view.rate(), 2.0F);
-}
-
-TEST_F(MovieController, Space_restores_normal_playback_and_then_leaves_pausing_to_the_view) {
-    addMovies(1);
-    view.start();
-    EXPECT_TRUE(press(key::right));
-    EXPECT_TRUE(press(key::space));
-    EXPECT_EQ(view.rate(), 1.0F);
-    EXPECT_FALSE(view.isMuted());
-    EXPECT_EQ(posted(), text("Movie: Play"));
-    EXPECT_FALSE(press(key::space));
-    EXPECT_TRUE(view.isPlaying());
-}
-
-TEST_F(MovieController, Size_looping_controller_and_subtitle_keys_act_and_confirm) {
-    addMovies(1);
-    settings.defaults().setBool(false, kQVDisplaySubtitles);
-    EXPECT_TRUE(press(u'2'));
-    EXPECT_EQ(view.movieSize(), movieSize::twice);
-    EXPECT_EQ(posted(), text("Size: Double"));
-    EXPECT_FALSE(press(u'0', 0, true));
-    EXPECT_EQ(view.movieSize(), movieSize::twice);
-    EXPECT_TRUE(press(u'c'));
-    EXPECT_TRUE(view.isControllerVisible());
-    EXPECT_EQ(posted(), text("Controller: On"));
-    EXPECT_TRUE(press(u'c'));
-    EXPECT_EQ(posted(), text("Controller: Off"));
-    EXPECT_TRUE(press(u'L', held::shift));
-    EXPECT_EQ(playlist.looping(), looping::all);
-    EXPECT_EQ(posted(), playlist.loopingInfoAsString().toStdString());
-    EXPECT_TRUE(press(u's'));
-    EXPECT_TRUE(press(u'S', held::shift));
-    EXPECT_EQ(subtitles.cycles, (std::vector{1, -1}));
-    EXPECT_EQ(posted(), "track");
 }
 
 TEST_F(MovieController, Held_movie_keys_go_back_through_the_list_but_one_movie_forward_only) {
@@ -241,6 +202,10 @@ TEST_F(MovieController, The_next_movie_after_the_last_quits_when_the_settings_sa
 }
 
 TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_has_faded) {
+    controller->performAction(action::previousScreen, Feedback::yes);
+    settings.runLoop.advance(5);
+    EXPECT_TRUE(mainWindow.calls.isEmpty()) << "there is no other screen";
+    EXPECT_EQ(posted(), "");
     desktop.screenList.push_back({QRectF(1440, 0, 800, 600), false, 2, QStringLiteral("Tablet")});
     desktop.screenList.push_back({QRectF(2240, 0, 1024, 768), true, 3, QStringLiteral("Beamer")});
     EXPECT_TRUE(press(key::tab));
@@ -254,15 +219,6 @@ TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_h
     settings.runLoop.advance(0.5);
     EXPECT_EQ(mainWindow.calls.size(), 2);
     EXPECT_EQ(mainWindow.adopted.number, 3U);
-}
-
-TEST_F(MovieController, With_one_screen_nothing_happens_and_nothing_is_said) {
-    settings.defaults().setInteger(5, kQVMainWindowScreen);
-    controller->performAction(action::previousScreen, Feedback::yes);
-    settings.runLoop.advance(5);
-    EXPECT_TRUE(mainWindow.calls.isEmpty());
-    EXPECT_EQ(posted(), "");
-    EXPECT_EQ(settings.defaults().integerForKey(kQVMainWindowScreen), 5);
 }
 
 TEST_F(MovieController, Sleep_waits_for_its_confirmation_and_closing_the_window_quits) {
@@ -311,9 +267,4 @@ TEST_F(MovieController, Commands_without_the_objects_they_act_on_are_left_out) {
     platform::NotificationCenter::defaultCenter().post(QVPlaylistChangedNotification{});
     settings.runLoop.advance(1);
     EXPECT_TRUE(controller->forceMuted());
-}
-
-TEST_F(MovieController, The_modifier_keys_held_are_the_desktops_without_bits_of_other_keys) {
-    desktop.heldModifiers = held::option | held::capsLock | 0x3;
-    EXPECT_EQ(QVGetModifierFlags(), held::option | held::capsLock);
 }

