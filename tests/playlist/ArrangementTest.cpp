@@ -44,24 +44,3 @@ TEST(Arrangement, what_comes_next_depends_on_place_and_looping) {
         EXPECT_EQ(previousIndex(c.place), c.previousIndex);
     }
 }
-
-TEST(Arrangement, the_end_of_a_movie_and_of_the_list_follow_looping_and_the_flags) {
-    const struct {
-        std::uint32_t index;
-        std::int32_t mode;
-        bool autoNext;
-        EndOfMovie end;
-    } movies[] = {
-        {0, looping::one, true, EndOfMovie::playAgain}, {1, looping::one, false, EndOfMovie::playAgain},
-        {0, looping::off, true, EndOfMovie::playNext},  {1, looping::off, true, EndOfMovie::playNext},
-        {0, looping::all, false, EndOfMovie::stay},     {1, looping::all, false, EndOfMovie::endList},
-        {0, looping::off, false, EndOfMovie::stay},     {1, looping::off, false, EndOfMovie::endList},
-    };
-    for (const auto& c : movies)
-        EXPECT_EQ(atEndOfMovie({c.index, 2, c.mode}, c.autoNext), c.end) << c.index << ", " << c.mode;
-    for (const bool quits : {false, true}) {
-        EXPECT_EQ(atEndOfList(looping::all, quits), EndOfList::startAgain);
-        EXPECT_EQ(atEndOfList(looping::one, quits), EndOfList::stay);
-        EXPECT_EQ(atEndOfList(looping::off, quits), quits ? EndOfList::quit : EndOfList::stay);
-    }
-}
