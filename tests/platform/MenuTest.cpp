@@ -29,17 +29,6 @@ TEST(Menu, Keeping_the_first_items_removes_the_others_and_leaves_shorter_menus_a
     }
 }
 
-TEST(Menu, Only_items_that_act_are_found_by_their_tag) {
-    Menu menu;
-    menu.addSeparator();
-    menu.addSubmenu(QStringLiteral("More"));
-    EXPECT_EQ(menu.itemWithTag(0), nullptr);
-    platform::MenuItem& first = menu.addItem(QStringLiteral("First"), QStringLiteral("act"), 0);
-    menu.addItem(QStringLiteral("Second"), QStringLiteral("act"), 0);
-    EXPECT_EQ(menu.itemWithTag(0), &first);
-    EXPECT_EQ(menu.itemWithTag(7), nullptr);
-}
-
 TEST(Menu, An_item_stays_where_it_is_while_others_come_and_go) {
     Menu menu = menuOf(3);
     platform::MenuItem* last = &menu.itemAt(2);

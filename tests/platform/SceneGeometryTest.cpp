@@ -32,9 +32,3 @@ TEST(SceneGeometry, rectangles_that_touch_in_points_touch_in_pixels) {
         }
     }
 }
-
-TEST(SceneGeometry, flipping_twice_changes_nothing) {
-    EXPECT_EQ(flippedOnDesktop(QRectF(1440, 100, 1920, 1080), 900), QRectF(1440, -280, 1920, 1080));
-    EXPECT_EQ(flippedOnDesktop(flippedOnDesktop(QRectF(-5, 7, 3, 4), 900), 900), QRectF(-5, 7, 3, 4));
-    EXPECT_EQ(flipped(flipped(QPointF(3, 4), QSizeF(10, 20)), QSizeF(10, 20)), QPointF(3, 4));
-}

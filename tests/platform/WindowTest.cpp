@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/Window.h"
-#include "platform/base/NotificationCenter.h"
 #include "platform/window/WindowHost.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +7,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <limits>
 #include <memory>
 
 using namespace platform;
@@ -85,7 +83,6 @@ public:
     QStringList events;
     void windowDidBecomeKey(Window&) override { events << QStringLiteral("become"); }
     void windowDidResignKey(Window&) override { events << QStringLiteral("resign"); }
-    void windowDidResize(Window&) override { events << QStringLiteral("resize"); }
 };
 
 MouseEvent at(double x, double y) {
@@ -165,45 +162,6 @@ TEST(View, A_view_cannot_come_to_lie_in_itself) {
     outer.addSubview(outer);
     EXPECT_EQ(outer.superview(), nullptr);
     EXPECT_EQ(inner.superview(), &outer);
-}
-
-TEST(Window, Resizing_tells_content_host_observers_and_delegate_and_moving_only_the_host) {
-    RecordingHost host;
-    RecordingDelegate delegate;
-    Window window(screen);
-    window.setHost(&host);
-    window.setDelegate(&delegate);
-    QSizeF observed;
-    const auto subscription = NotificationCenter::defaultCenter().observe<WindowDidResizeNotification>(
-        [&](const auto& n) { observed = n.window->contentView().frame().size(); });
-
-    window.setFrame(screen.translated(10, 10));
-    EXPECT_EQ(host.calls, QStringList{QStringLiteral("frame")});
-    EXPECT_TRUE(delegate.events.isEmpty());
-    window.setFrame(QRectF(10, 10, 500, 300));
-    EXPECT_EQ(observed, QSizeF(500, 300));
-    EXPECT_EQ(delegate.events, QStringList{QStringLiteral("resize")});
-    window.setFrame(QRectF(10, 10, 500, 300));
-    EXPECT_EQ(host.calls.size(), 2);
-}
-
-TEST(Window, Alpha_is_kept_within_its_limits_and_reported_when_it_changes) {
-    RecordingHost host;
-    Window window(screen);
-    window.setHost(&host);
-    const struct {
-        float given, kept;
-        int reports;
-    } cases[] = {{0.5F, 0.5F, 1},
-                 {0.5F, 0.5F, 1},
-                 {7.0F, 1.0F, 2},
-                 {-1.0F, 0.0F, 3},
-                 {std::numeric_limits<float>::quiet_NaN(), 0.0F, 3}};
-    for (const auto& c : cases) {
-        window.setAlphaValue(c.given);
-        EXPECT_EQ(window.alphaValue(), c.kept);
-        EXPECT_EQ(host.calls.size(), c.reports);
-    }
 }
 
 TEST(Window, Children_move_with_their_parent_and_draw_through_its_host) {
