@@ -6,9 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 
-namespace fs = std::filesystem;
 using JumpReport = platform::MoviePlayer::JumpReport;
 
 namespace {
@@ -21,13 +19,6 @@ QUrl greenMovie() {
     movie.color = {0, 200, 0};
     movie.frames = 60;
     return urlOf(media().makeNumbered("green.mp4", movie));
-}
-
-fs::path scratch(const std::string& name, const std::string& content) {
-    const fs::path folder = fs::path(LUMARO_BINARY_DIR) / "tests" / "media" / "scratch";
-    fs::create_directories(folder);
-    std::ofstream(folder / name, std::ios::binary | std::ios::trunc) << content;
-    return folder / name;
 }
 
 bool isIncreasing(const std::vector<std::int32_t>& times) {
@@ -276,8 +267,7 @@ TEST(MpvPlayer, a_movie_that_breaks_off_ends_there) {
     harness::MediaFixture::Numbered numbered;
     numbered.frames = 90;
     numbered.encoder.insert(numbered.encoder.end(), {"-movflags", "+faststart"});
-    std::ifstream file(media().makeNumbered("faststart.mp4", numbered), std::ios::binary);
-    const std::string whole{std::istreambuf_iterator<char>(file), {}};
+    const std::string whole = bytesOf(media().makeNumbered("faststart.mp4", numbered));
     ToolkitRig rig;
     rig.expectedError = QStringLiteral("libmpv");
     const auto movie = rig.show(urlOf(scratch("broken off.mp4", whole.substr(0, whole.size() / 2))));

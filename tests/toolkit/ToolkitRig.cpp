@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <utility>
 
 const harness::MediaFixture& media() {
@@ -24,6 +25,18 @@ QUrl urlOf(const std::filesystem::path& path) {
 
 QUrl numberedMovie() {
     return urlOf(media().makeNumbered("numbered.mp4", {}));
+}
+
+std::filesystem::path scratch(const std::string& name, const std::string& content) {
+    const std::filesystem::path folder = LUMARO_BINARY_DIR "/tests/media/scratch";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / name, std::ios::binary | std::ios::trunc) << content;
+    return folder / name;
+}
+
+std::string bytesOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 RenderedPicture::RenderedPicture(const QSize& size)

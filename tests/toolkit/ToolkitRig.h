@@ -20,6 +20,9 @@ const harness::MediaFixture& media();
 QUrl urlOf(const std::filesystem::path& path);
 /// 300 numbered pictures at 30 a second, a keyframe every 30.
 QUrl numberedMovie();
+/// A file of that content, made anew.
+std::filesystem::path scratch(const std::string& name, const std::string& content);
+std::string bytesOf(const std::filesystem::path& path);
 
 /// A picture as it is rendered: 32 bits a pixel, blue first.
 class RenderedPicture {
