@@ -72,18 +72,8 @@ protected:
     Seen look(Corner corner) {
         const Region part{corner == Corner::left ? 0 : screenWidth / 2, 0, screenWidth / 2, screenHeight / 2};
         const Picture picture = probe.picture(part);
-        const auto extent = [&](auto wanted) {
-            int left = part.x + part.width, top = part.height, right = -1, bottom = -1;
-            for (int y = 0; y < part.height; ++y)
-                for (int x = part.x; x < part.x + part.width; ++x)
-                    if (wanted(picture.at(x, y))) {
-                        left = std::min(left, x), right = std::max(right, x);
-                        top = std::min(top, y), bottom = std::max(bottom, y);
-                    }
-            return right < 0 ? Region{} : Region{left, top, right - left + 1, bottom - top + 1};
-        };
-        return {extent([](const Color& color) { return !color.isNear(red, 60); }),
-                extent([](const Color& color) { return color.green > 150; })};
+        return {picture.extentWhere([](const Color& color) { return !color.isNear(red, 60); }),
+                picture.extentWhere([](const Color& color) { return color.green > 150; })};
     }
 
     // Whether a panel in full opacity stands in the corner, and a text in its middle.
@@ -286,16 +276,6 @@ TEST_F(Overlays, sizes_and_the_controller_bar_are_confirmed_at_the_top_right) {
               {XK_minus, {}, "Size: Smaller"},
               {XK_c, {}, "Controller: On"},
               {XK_c, {}, "Controller: Off"}});
-    ASSERT_TRUE(quitsCleanly());
-}
-
-TEST_F(Overlays, no_command_is_confirmed_where_feedback_is_switched_off) {
-    startPlain({"--set", "QVDisplayFeedback=0"});
-    probe.tap(XK_m);
-    probe.tap(XK_space);
-    ASSERT_TRUE(logs("QVMovieView: Stop Playing movie"));
-    EXPECT_TRUE(staysTrue([&] { return look(Corner::right).panel.width == 0; }, Seconds(0.3)));
-    EXPECT_TRUE(textsOf("QVFeedbackOverlay").empty());
     ASSERT_TRUE(quitsCleanly());
 }
 

@@ -4,7 +4,6 @@
 #include <signal.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -145,22 +144,6 @@ TEST_F(Player, size_keys_place_the_picture) {
     ASSERT_TRUE(quitsCleanly());
 }
 
-TEST_F(Player, the_bar_seeks_where_it_is_clicked) {
-    startPaused({"--set", "QVControllerVisible=1", "--set", "QVDefaultMovieSize=4", numbered("red.mp4", red, 300)});
-    // Fit width with the bar: the bar lies below the picture, at the bottom of the screen or partly beyond it.
-    probe.tap(XK_3);
-    const Region picture{int(std::lround((screenWidth - 704 * 16 / 9.0) / 2)), 0, int(std::lround(704 * 16 / 9.0)),
-                         704};
-    ASSERT_TRUE(waitUntil([&] { return MediaFixture::frameNumber(probe, picture).has_value(); }));
-    probe.click(screenWidth / 2, screenHeight - 8);
-    EXPECT_TRUE(waitUntil([&] {
-        const std::optional<int> seen = MediaFixture::frameNumber(probe, picture);
-        return seen && *seen > 100 && *seen < 200;
-    })) << "frame "
-        << MediaFixture::frameNumber(probe, picture).value_or(-1);
-    ASSERT_TRUE(quitsCleanly());
-}
-
 TEST_F(Player, looping_one_repeats_the_movie_and_looping_all_the_list) {
     start({numbered("short1.mp4", red, 25), numbered("short2.mp4", green, 25)});
     ASSERT_TRUE(colorBecomes(red));
@@ -266,26 +249,6 @@ TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
     for (const std::string& line : player->errorLines())
         EXPECT_EQ(line.find("ERROR: SettingsFile"), std::string::npos) << line;
     ASSERT_TRUE(quitsCleanly());
-}
-
-TEST_F(Player, a_damaged_settings_file_is_kept_aside_and_reported) {
-    const std::string damage = "<?xml version=\"1.0\"?><plist><dict><key>QVJumpInterval</key><inte";
-    std::filesystem::create_directories(user.settingsFile().parent_path());
-    std::ofstream(user.settingsFile()) << damage;
-    start({numbered("red.mp4", red, 300)});
-    ASSERT_TRUE(colorBecomes(red));
-    EXPECT_TRUE(logs("ERROR: "));
-    probe.tap(XK_1);
-    ASSERT_TRUE(quitsCleanly());
-    bool kept = false;
-    for (const auto& entry : std::filesystem::directory_iterator(user.settingsFile().parent_path())) {
-        std::ifstream file(entry.path());
-        std::string line;
-        std::getline(file, line);
-        kept = kept || line == damage;
-    }
-    EXPECT_TRUE(kept) << "the damaged file is gone";
-    EXPECT_NE(settingsText().find("</plist>"), std::string::npos);
 }
 
 TEST_F(Player, wrong_usage_ends_with_status_2_and_help_and_version_with_0) {

@@ -136,20 +136,21 @@ bool XProbe::waitForColor(int x, int y, const Color& color, Seconds timeout) {
         x, y, [&](const Color& seen) { return seen.isNear(color); }, timeout);
 }
 
-Region XProbe::extentOf(const Color& color, int tolerance) {
-    const Picture seen = screen();
-    int left = width(), top = height(), right = -1, bottom = -1;
-    for (int y = 0; y < height(); ++y)
-        for (int x = 0; x < width(); ++x)
-            if (seen.at(x, y).isNear(color, tolerance)) {
+Region Picture::extentWhere(const std::function<bool(const Color&)>& wanted) const {
+    int left = region.x + region.width, top = region.y + region.height, right = -1, bottom = -1;
+    for (int y = region.y; y < region.y + region.height; ++y)
+        for (int x = region.x; x < region.x + region.width; ++x)
+            if (wanted(at(x, y))) {
                 left = std::min(left, x);
                 right = std::max(right, x);
                 top = std::min(top, y);
                 bottom = std::max(bottom, y);
             }
-    if (right < 0)
-        return {};
-    return {left, top, right - left + 1, bottom - top + 1};
+    return right < 0 ? Region{} : Region{left, top, right - left + 1, bottom - top + 1};
+}
+
+Region XProbe::extentOf(const Color& color, int tolerance) {
+    return screen().extentWhere([&](const Color& seen) { return seen.isNear(color, tolerance); });
 }
 
 void XProbe::sendKey(KeySym key, bool down) {

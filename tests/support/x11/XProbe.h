@@ -39,6 +39,8 @@ struct Picture {
     Region region;
     std::vector<std::uint32_t> pixels; // 0x00RRGGBB, rows from the top
     Color at(int x, int y) const;      // in screen coordinates
+    // The smallest region that holds every pixel wanted; empty when there is none.
+    Region extentWhere(const std::function<bool(const Color&)>& wanted) const;
 };
 
 // Watches a display from outside and plays its user: reads pixels, presses keys, moves the pointer.
