@@ -25,8 +25,3 @@ QStringList FakeDesktop::runOpenPanel(const QStringList& extensions, const QStri
     openPanels.push_back({extensions, folder});
     return nextAnswer(openPanelAnswers, QStringList());
 }
-
-bool FakeDesktop::openURL(const QUrl& url) {
-    openedURLs.push_back(url);
-    return opensURLs;
-}

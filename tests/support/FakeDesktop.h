@@ -34,11 +34,8 @@ public:
     std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, QStringLiteral("Main")}};
     /// By the screens' numbers; a screen that is missing cannot be read.
     QHash<std::uint32_t, float> brightnessLevels;
-    std::vector<QUrl> openedURLs;
-    bool opensURLs = true;
     std::uint32_t heldModifiers = 0;
     bool userActive = false;
-    int userActiveCalls = 0;
     int sleeps = 0;
     int terminations = 0;
     std::vector<bool> terminationReplies;
@@ -53,12 +50,9 @@ public:
     void setBrightness(const platform::Screen& screen, float brightness) override {
         brightnessLevels[screen.number] = brightness;
     }
-    bool openURL(const QUrl& url) override;
+    bool openURL(const QUrl&) override { return true; }
     std::uint32_t modifierFlags() const override { return heldModifiers; }
-    void setUserActive(bool active) override {
-        userActive = active;
-        ++userActiveCalls;
-    }
+    void setUserActive(bool active) override { userActive = active; }
     void sleep() override { ++sleeps; }
     void terminate() override { ++terminations; }
     void replyToApplicationShouldTerminate(bool terminate) override { terminationReplies.push_back(terminate); }

@@ -100,10 +100,6 @@ QDateTime ManualRunLoop::date() const {
     return _dateAtStart.addMSecs(static_cast<qint64>(std::llround(_state->now * 1000.0)));
 }
 
-void ManualRunLoop::setDate(const QDateTime& date) {
-    _dateAtStart = date.addMSecs(-static_cast<qint64>(std::llround(_state->now * 1000.0)));
-}
-
 void ManualRunLoop::perform(std::function<void()> work, double delay) {
     auto once = std::make_shared<Work>();
     once->call = std::move(work);

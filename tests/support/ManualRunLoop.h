@@ -25,8 +25,6 @@ public:
     void advance(double seconds);
     /// Runs what is due now.
     void runPending() { advance(0); }
-    /// Sets the wall clock, which runs on with advance(). It begins at noon of 1 January 2026, UTC.
-    void setDate(const QDateTime& date);
     /// How many timers and performs still wait.
     std::size_t pendingCount() const;
 
