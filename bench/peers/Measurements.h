@@ -2,9 +2,9 @@
 #pragma once
 
 #include "bench/peers/Players.h"
-#include "tests/support/x11/MediaFixture.h"
-#include "tests/support/x11/XProbe.h"
-#include "tests/support/x11/XvfbServer.h"
+#include "tools/screen/MediaFixture.h"
+#include "tools/screen/XProbe.h"
+#include "tools/screen/XvfbServer.h"
 
 #include <map>
 #include <set>

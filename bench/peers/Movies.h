@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tests/support/x11/MediaFixture.h"
-#include "tests/support/x11/XProbe.h"
+#include "tools/screen/MediaFixture.h"
+#include "tools/screen/XProbe.h"
 
 #include <filesystem>
 #include <optional>

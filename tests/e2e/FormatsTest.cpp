@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/e2e/PlayerFixture.h"
-#include "tests/support/x11/HttpServer.h"
+#include "tools/screen/HttpServer.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

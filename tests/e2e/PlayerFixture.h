@@ -2,9 +2,9 @@
 #pragma once
 
 #include "tests/e2e/LumaroProcess.h"
-#include "tests/support/x11/MediaFixture.h"
-#include "tests/support/x11/XProbe.h"
-#include "tests/support/x11/XvfbServer.h"
+#include "tools/screen/MediaFixture.h"
+#include "tools/screen/XProbe.h"
+#include "tools/screen/XvfbServer.h"
 
 #include <gtest/gtest.h>
 

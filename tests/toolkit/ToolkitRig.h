@@ -5,7 +5,7 @@
 #include "platform/movie/Movie.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "tests/support/CapturedLog.h"
-#include "tests/support/x11/MediaFixture.h"
+#include "tools/screen/MediaFixture.h"
 
 #include <QCoreApplication>
 #include <QSize>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/x11/HttpServer.h"
+#include "tools/screen/HttpServer.h"
 
 #include <arpa/inet.h>
 #include <netinet/in.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/x11/XProbe.h"
+#include "tools/screen/XProbe.h"
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tests/support/x11/Waiting.h"
+#include "tools/screen/Waiting.h"
 
 #include <X11/keysym.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/x11/ChildProcess.h"
+#include "tools/screen/ChildProcess.h"
 
 #include <fcntl.h>
 #include <poll.h>

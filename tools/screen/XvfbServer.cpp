@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/x11/XvfbServer.h"
+#include "tools/screen/XvfbServer.h"
 
 #include <stdexcept>
 

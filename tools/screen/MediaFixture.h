@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tests/support/x11/XProbe.h"
+#include "tools/screen/XProbe.h"
 
 #include <filesystem>
 #include <optional>

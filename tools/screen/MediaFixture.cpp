@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/x11/MediaFixture.h"
+#include "tools/screen/MediaFixture.h"
 
-#include "tests/support/x11/ChildProcess.h"
+#include "tools/screen/ChildProcess.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
