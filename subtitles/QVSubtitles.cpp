@@ -118,7 +118,11 @@ void QVSubtitles::_preload() {
     if (bytes->size() == largestFile)
         logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(_path));
     trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), fileName(_path), isThreaded() ? " threaded" : "");
-    const SubtitleText text = SubtitleText::fromBytes(*std::exchange(bytes, std::nullopt), _encoding);
+    readAll(std::move(*bytes), _encoding);
+}
+
+void QVSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
+    const SubtitleText text = SubtitleText::fromBytes(std::move(bytes), encoding);
     _encoding = text.encoding;
     _decoder = platform::TextDecoder(text.decodeWith);
     LineReader lines(text.view());

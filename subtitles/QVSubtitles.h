@@ -5,6 +5,7 @@
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleOwner.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <atomic>
@@ -106,6 +107,8 @@ protected:
     virtual std::shared_ptr<QVSubtitle> readSubtitle(LineReader& lines);
     /// Reads all cues, giving each to appendSubtitle, until _abort is set; at the end calls finishLoading.
     virtual void _preload();
+    /// The loop of _preload over the bytes of a file, for readers of texts.
+    void readAll(QByteArray bytes, std::uint32_t encoding);
     /// The class's name, as messages have it.
     virtual const char* className() const { return "QVSubtitles"; }
 

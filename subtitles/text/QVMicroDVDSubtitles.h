@@ -9,7 +9,7 @@
 
 /// Subtitles a line each, timed in frames: "{start}{end}text|next line". Without an end a cue lasts until the next one
 /// starts.
-class QVMicroDVDSubtitles final : public QVSubtitles {
+class QVMicroDVDSubtitles : public QVSubtitles {
 public:
     /// Any file is read, for as many cues as it has: the registry asks isFormatValid first.
     QVMicroDVDSubtitles(const QString& path, SubtitleOwner& owner);

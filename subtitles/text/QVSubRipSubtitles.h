@@ -8,7 +8,7 @@
 #include <string_view>
 
 /// Subtitles in blocks: a number, "hours:minutes:seconds,milliseconds --> ..." and lines of text up to a blank one.
-class QVSubRipSubtitles final : public QVSubtitles {
+class QVSubRipSubtitles : public QVSubtitles {
 public:
     /// Any file is read, for as many cues as it has: the registry asks isFormatValid first.
     QVSubRipSubtitles(const QString& path, SubtitleOwner& owner);

@@ -9,7 +9,7 @@
 
 /// Subtitles a line each, timed in seconds: "hours:minutes:seconds:text|next line", or "...,1=text" and "...,2=text"
 /// for the lines of a cue. A cue lasts until the next one starts, the last one three seconds.
-class QVTMPlayerSubtitles final : public QVSubtitles {
+class QVTMPlayerSubtitles : public QVSubtitles {
 public:
     /// Any file is read, for as many cues as it has: the registry asks isFormatValid first.
     QVTMPlayerSubtitles(const QString& path, SubtitleOwner& owner);

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/base/UserDefaults.h"
+#include "subtitles/QVSubtitles.h"
+#include "subtitles/text/LineReader.h"
+#include "subtitles/text/SubtitleText.h"
+#include "tests/support/ManualRunLoop.h"
+
+#include <QByteArray>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+/// What a reader needs around it while it is fed with bytes.
+class FuzzRoom final : public SubtitleOwner {
+public:
+    FuzzRoom() {
+        platform::RunLoop::setMain(&_loop);
+        platform::UserDefaults::setStandard(&_defaults);
+    }
+    std::int32_t timeScale() const override { return 90000; }
+    float frameRate() override { return 23.976F; }
+    std::int32_t time() const override { return 0; }
+
+private:
+    class Nowhere final : public platform::SettingsStorage {
+        QVariantMap load() override { return {}; }
+        bool store(const QVariantMap&) override { return true; }
+    };
+    ManualRunLoop _loop;
+    platform::UserDefaults _defaults{std::make_unique<Nowhere>()};
+};
+
+/// A reader without a file: it takes its cues from the bytes.
+template <class Reader>
+class FuzzedTrack final : public Reader {
+public:
+    explicit FuzzedTrack(SubtitleOwner& owner)
+        : Reader(QString(), owner) {}
+
+    /// The first byte chooses the encoding, the rest is the file.
+    void feed(QByteArray bytes) {
+        constexpr std::uint32_t encodings[] = {0, 4, 12, 8, 10, 0x80000632, 21, 99};
+        const auto choice = static_cast<unsigned char>(bytes.isEmpty() ? '\0' : bytes.front());
+        bytes.remove(0, 1);
+        _bytes = std::move(bytes);
+        _encoding = encodings[choice % std::size(encodings)];
+        this->unload();
+        this->preload();
+        for (std::int32_t time : {0, 90000, -1, 2147483647, 450000, -2147483647 - 1})
+            this->subtitleForTime(time);
+        this->setFrameRate(4);
+        this->setEncoding(choice % 2 ? 12 : 8);
+        this->subtitleForTime(0);
+    }
+
+protected:
+    void _preload() override { this->readAll(_bytes, _encoding); }
+
+private:
+    QByteArray _bytes;
+    std::uint32_t _encoding = 0;
+};
+
+/// Defines a fuzz target for one reader.
+#define LUMARO_FUZZ_READER(Reader)                                                                                     \
+    extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {                                \
+        static FuzzRoom room;                                                                                          \
+        static const auto track = QVSubtitles::makeTrack<FuzzedTrack<Reader>>(room);                                   \
+        track->feed(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));                    \
+        return 0;                                                                                                      \
+    }
