@@ -220,7 +220,7 @@ void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotific
     if (notification.key == kQVDisplaySubtitles) {
         setDisplaySubtitles(defaults().boolForKey(kQVDisplaySubtitles));
     } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
-        _current->setEncoding(static_cast<std::uint32_t>(defaults().integerForKey(kQVSubtitlesDefaultEncoding)));
+        _current->setEncoding(QVSubtitles::defaultEncoding());
         if (_subtitlesOn) {
             // The cue is the same object with another text: it is taken away, and shown anew.
             give(nullptr);
