@@ -21,7 +21,7 @@ constexpr float sFrameRateList[] = {0.0F, 23.976F, 24.0F, 25.0F, 29.97F, 30.0F};
 constexpr float usualFrameRate = 25.0F;
 constexpr std::uint32_t noIndex = 0x7FFFFFFF;
 /// A million cues fit; what is larger is no text that somebody wrote, and reading it would stop the player for seconds.
-constexpr qsizetype largestFile = 128 * 1024 * 1024;
+constexpr qsizetype largestFile = 160 * 1024 * 1024;
 
 QString fileName(const QString& path) {
     return path.mid(path.lastIndexOf(u'/') + 1);
