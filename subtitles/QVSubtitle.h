@@ -10,10 +10,19 @@
 #include <cstdint>
 #include <memory>
 
-/// A picture to be drawn scaled to a size, which may differ from that of its pixels.
-struct SubtitleImage {
-    QImage pixels;
-    QSizeF size;
+/// The picture of a cue, kept small until it is shown: a film has more than a thousand.
+class SubtitleImage {
+public:
+    SubtitleImage() = default;
+    SubtitleImage(const SubtitleImage&) = delete;
+    SubtitleImage& operator=(const SubtitleImage&) = delete;
+    virtual ~SubtitleImage() = default;
+
+    /// The pixels, made anew by each call (Format_ARGB32_Premultiplied). Any thread.
+    virtual QImage expanded() const = 0;
+
+    /// The size to draw it at, which may differ from that of its pixels. Main thread once the cue is in its track.
+    QSizeF size{0, 0};
 };
 
 /// One cue: a text or a picture, shown while start <= time <= end. Times are counts of units of the movie's time scale.

@@ -239,7 +239,10 @@ TEST_F(Track, a_track_limited_to_forced_cues_shows_no_others) {
 }
 
 TEST(Cue, a_place_scales_the_picture) {
-    auto image = std::make_shared<SubtitleImage>();
+    struct NoPixels final : SubtitleImage {
+        QImage expanded() const override { return {}; }
+    };
+    const auto image = std::make_shared<NoPixels>();
     QVSubtitle cue(image, 1, 2);
     cue.setRect(QRectF(10, 20, 300, 40));
     EXPECT_EQ(image->size, QSizeF(300, 40));
