@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 /// The picture of a cue, kept small until it is shown: a film has more than a thousand.
 class SubtitleImage {
@@ -34,6 +35,11 @@ public:
         : _start(start)
         , _end(end)
         , _text(std::move(text)) {}
+    /// A text that is valid UTF-8 and is decoded when it is asked for: the bytes outlive the cue.
+    QVSubtitle(std::string_view utf8, std::int32_t start, std::int32_t end)
+        : _start(start)
+        , _end(end)
+        , _utf8(utf8) {}
     QVSubtitle(std::shared_ptr<SubtitleImage> image, std::int32_t start, std::int32_t end)
         : _start(start)
         , _end(end)
@@ -48,8 +54,11 @@ public:
 
     /// Lines end in line feeds (a carriage return before one stays as the file has it). Null for pictures, and for a
     /// text that could not be decoded.
-    const QString& text() const { return _text; }
-    void setText(QString text) { _text = std::move(text); }
+    QString text() const;
+    void setText(QString text) {
+        _text = std::move(text);
+        _utf8 = {};
+    }
 
     /// None for texts.
     const std::shared_ptr<SubtitleImage>& image() const { return _image; }
@@ -74,6 +83,7 @@ private:
     std::int32_t _start = 0;
     std::atomic<std::int32_t> _end = 0;
     QString _text;
+    std::string_view _utf8; // the text, where there is any here
     std::shared_ptr<SubtitleImage> _image;
     float _x = 0;
     float _y = 0;

@@ -6,6 +6,7 @@
 #include "app/settings/Tracing.h"
 #include "platform/base/RegularFile.h"
 #include "subtitles/CueSearch.h"
+#include "subtitles/text/CueText.h"
 #include "subtitles/text/LineReader.h"
 #include "subtitles/text/SubtitleText.h"
 
@@ -13,6 +14,7 @@
 #include <cmath>
 #include <limits>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -122,20 +124,29 @@ void QVSubtitles::_preload() {
 }
 
 void QVSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
-    const SubtitleText text = SubtitleText::fromBytes(std::move(bytes), encoding);
+    SubtitleText text = SubtitleText::fromBytes(std::move(bytes), encoding);
     _encoding = text.encoding;
     _decoder = platform::TextDecoder(text.decodeWith);
-    LineReader lines(text.view());
+    const auto cues = std::make_shared<TextCues>();
+    cues->bytes = std::move(text.bytes);
+    const std::string_view view(cues->bytes.constData(), static_cast<std::size_t>(cues->bytes.size()));
+    if (text.decodeWith == platform::textEncoding::utf8 && CueText::isValidUTF8(view))
+        cues->validUTF8 = view;
+    _subtitles->texts = cues;
+    LineReader lines(view);
     do {
         if (std::shared_ptr<QVSubtitle> subtitle = readSubtitle(lines))
             appendSubtitle(std::move(subtitle));
     } while (!lines.isAtEnd() && !_abort);
+    cues->validUTF8 = {};
+    if (!cues->bytesInUse)
+        cues->bytes = QByteArray();
     finishLoading();
 }
 
 void QVSubtitles::finishLoading() {
     _previous.reset();
-    _pendingText = QString();
+    _pendingText = PendingText();
     trace("%@: End parsing subtitles, %d entries loaded.", className(), count());
     reset();
 }
@@ -143,6 +154,28 @@ void QVSubtitles::finishLoading() {
 std::shared_ptr<QVSubtitle> QVSubtitles::readSubtitle(LineReader&) {
     logAlways("ERROR: [QVSubtitles readSubtitle:] must be implemented by the subclasses!");
     return nullptr;
+}
+
+void QVSubtitles::appendPiece(std::string_view piece, PendingText& text) {
+    const std::string_view all = _subtitles->texts->validUTF8;
+    const bool follows = text.utf8.empty() ? text.copy.isEmpty() : text.utf8.data() + text.utf8.size() == piece.data();
+    if (follows && CueText::endsBetweenCharacters(piece, all)) {
+        text.utf8 =
+            std::string_view(text.utf8.empty() ? piece.data() : text.utf8.data(), text.utf8.size() + piece.size());
+        return;
+    }
+    if (!text.utf8.empty())
+        appendBytes(std::exchange(text.utf8, {}), text.copy);
+    appendBytes(piece, text.copy);
+}
+
+std::shared_ptr<QVSubtitle> QVSubtitles::makeSubtitle(const PendingText& text, std::int32_t start, std::int32_t end) {
+    const std::shared_ptr<TextCues>& cues = _subtitles->texts;
+    const std::string_view utf8 = CueText::trimmed(text.utf8);
+    cues->bytesInUse |= !utf8.empty();
+    QVSubtitle& subtitle = utf8.empty() ? cues->subtitles.emplace_back(CueText::trimmed(text.copy), start, end)
+                                        : cues->subtitles.emplace_back(utf8, start, end);
+    return {cues, &subtitle};
 }
 
 void QVSubtitles::appendSubtitle(std::shared_ptr<QVSubtitle> subtitle) {

@@ -18,4 +18,13 @@ void splitSegments(std::string_view rest, LineReader& lines, const std::function
 /// Without white space and line ends at both ends, in memory of its own size. Never null.
 QString trimmed(const QString& text);
 
+/// The same of valid UTF-8, in place.
+std::string_view trimmed(std::string_view utf8);
+
+/// Strictly: no surrogates, nothing longer than it must be, nothing cut.
+bool isValidUTF8(std::string_view bytes);
+
+/// Whether a piece of a valid text begins and ends between two of its characters.
+bool endsBetweenCharacters(std::string_view piece, std::string_view text);
+
 } // namespace CueText

@@ -55,7 +55,8 @@ QStringList QVMicroDVDSubtitles::extensionsList() {
 }
 
 std::shared_ptr<QVSubtitle> QVMicroDVDSubtitles::readSubtitle(LineReader& lines) {
-    QString& text = emptiedText();
+    PendingText& pending = emptiedText();
+    QString& text = pending.copy;
     std::optional<Frames> frames;
     while (text.isEmpty()) {
         const auto line = lines.next();
@@ -74,7 +75,7 @@ std::shared_ptr<QVSubtitle> QVMicroDVDSubtitles::readSubtitle(LineReader& lines)
     const auto time = [&](std::int32_t frame) {
         return ajustToMovieTimeScale(truncated(static_cast<float>(frame) / rate));
     };
-    auto subtitle = std::make_shared<QVSubtitle>(CueText::trimmed(text), time(frames->start), time(frames->end));
+    auto subtitle = makeSubtitle(pending, time(frames->start), time(frames->end));
     if (_previous && (_endTimeUndefined || _previous->end() > subtitle->start()))
         _previous->setEnd(subtitle->start());
     _previous = subtitle;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/text/QVSubRipSubtitles.h"
 
-#include "subtitles/text/CueText.h"
 #include "subtitles/text/LineReader.h"
 #include "subtitles/text/ScanFormat.h"
 #include "subtitles/text/SubtitleText.h"
@@ -40,7 +39,7 @@ QStringList QVSubRipSubtitles::extensionsList() {
 }
 
 std::shared_ptr<QVSubtitle> QVSubRipSubtitles::readSubtitle(LineReader& lines) {
-    QString& text = emptiedText();
+    PendingText& text = emptiedText();
     Numbers numbers{};
     while (text.isEmpty()) {
         auto line = lines.next();
@@ -49,13 +48,13 @@ std::shared_ptr<QVSubtitle> QVSubRipSubtitles::readSubtitle(LineReader& lines) {
         if (!line)
             return nullptr;
         while ((line = lines.next()) && !line->starts_with('\r') && !line->starts_with('\n'))
-            appendBytes(*line, text);
+            appendPiece(*line, text);
     }
     const auto time = [&](std::size_t first) {
         return ajustToMovieTimeScale(
             milliseconds(numbers[first], numbers[first + 1], numbers[first + 2], numbers[first + 3]));
     };
-    auto subtitle = std::make_shared<QVSubtitle>(CueText::trimmed(text), time(0), time(4));
+    auto subtitle = makeSubtitle(text, time(0), time(4));
     if (_previous && _previous->end() > subtitle->start())
         _previous->setEnd(subtitle->start());
     _previous = subtitle;

@@ -56,7 +56,8 @@ QStringList QVTMPlayerSubtitles::extensionsList() {
 }
 
 std::shared_ptr<QVSubtitle> QVTMPlayerSubtitles::readSubtitle(LineReader& lines) {
-    QString& text = emptiedText();
+    PendingText& pending = emptiedText();
+    QString& text = pending.copy;
     std::optional<LineStart> start;
     do {
         const auto line = lines.next();
@@ -72,7 +73,7 @@ std::shared_ptr<QVSubtitle> QVTMPlayerSubtitles::readSubtitle(LineReader& lines)
 
     const std::int32_t begin = ajustToMovieTimeScale(start->milliseconds);
     const std::int32_t end = clampedTo32Bits(std::int64_t{begin} + ajustToMovieTimeScale(lastCueMilliseconds));
-    auto subtitle = std::make_shared<QVSubtitle>(CueText::trimmed(text), begin, end);
+    auto subtitle = makeSubtitle(pending, begin, end);
     trace("%@: %d - %d %@", className(), begin, end, text);
     if (_previous)
         _previous->setEnd(begin);

@@ -106,11 +106,26 @@ TEST_F(TextReaders, subrip_blocks_become_cues) {
             {"a line that is no UTF-8 is left out",
              "\xEF\xBB\xBF" + timing + "A\n\xC3\nB\n\xC3\xA9",
              {{900, 1950, "A\nB\n\xC3\xA9"}}},
+            {"a character cut by the end of a piece goes with both pieces",
+             timing + "A\n" + std::string(998, 'x') + "\xC3\xA9y\nC\n",
+             {{900, 1950, "A\nC"}}},
+            {"white space beyond ASCII is trimmed",
+             timing + "\xC2\xA0\xE3\x80\x80\xC3\xA9t\xC3\xA9\xE2\x80\xA8\xC2\x85\n",
+             {{900, 1950, "\xC3\xA9t\xC3\xA9"}}},
             {"19 lines in front", std::string(19, '\n') + timing + "A\n", {{900, 1950, "A"}}},
             {"20 lines in front", std::string(20, '\n') + timing + "A\n", {}},
             {"empty", "", {}},
             {"no timing", "Hello\n", {}},
         });
+}
+
+TEST_F(TextReaders, a_cue_that_is_shown_outlives_its_track) {
+    auto track = load(QStringLiteral("film.srt"), timing + "A\n");
+    const auto cue = track->subtitleForTime(900);
+    track->unload();
+    track.reset();
+    ASSERT_TRUE(cue);
+    EXPECT_EQ(cue->text(), QStringLiteral("A"));
 }
 
 TEST_F(TextReaders, a_long_subrip_line_joins_without_a_break) {
