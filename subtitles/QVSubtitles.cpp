@@ -22,8 +22,9 @@ constexpr float sFrameRateList[] = {0.0F, 23.976F, 24.0F, 25.0F, 29.97F, 30.0F};
 /// For a movie without a rate of its own.
 constexpr float usualFrameRate = 25.0F;
 constexpr std::uint32_t noIndex = 0x7FFFFFFF;
-/// A million cues fit; what is larger is no text that somebody wrote, and reading it would stop the player for seconds.
-constexpr qsizetype largestFile = 160 * 1024 * 1024;
+/// What is larger, or has more cues, is no text that somebody wrote, and would stop the player for seconds.
+constexpr qsizetype largestFile = 256 * 1024 * 1024;
+constexpr std::size_t mostCues = 2'000'000;
 
 QString fileName(const QString& path) {
     return path.mid(path.lastIndexOf(u'/') + 1);
@@ -117,10 +118,11 @@ void QVSubtitles::_preload() {
         reset();
         return;
     }
-    if (bytes->size() == largestFile)
-        logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(_path));
+    const bool cut = bytes->size() == largestFile;
     trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), fileName(_path), isThreaded() ? " threaded" : "");
     readAll(std::move(*bytes), _encoding);
+    if (cut || _subtitles->subtitles.size() >= mostCues)
+        logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(_path));
 }
 
 void QVSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
@@ -137,7 +139,7 @@ void QVSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
     do {
         if (std::shared_ptr<QVSubtitle> subtitle = readSubtitle(lines))
             appendSubtitle(std::move(subtitle));
-    } while (!lines.isAtEnd() && !_abort);
+    } while (!lines.isAtEnd() && !_abort && _subtitles->subtitles.size() < mostCues);
     cues->validUTF8 = {};
     if (!cues->bytesInUse)
         cues->bytes = QByteArray();
