@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/vobsub/DataFile.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <limits>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// Positions are looked at a little before them as well; the window begins early enough for that.
+constexpr std::int64_t lookedAtBefore = 32;
+
+} // namespace
+
+std::unique_ptr<DataFile> DataFile::open(const QString& path) {
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return nullptr;
+    struct stat facts {};
+    if (::fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode)) {
+        ::close(descriptor);
+        return nullptr;
+    }
+    return std::unique_ptr<DataFile>(new DataFile(path, descriptor, facts.st_size));
+}
+
+DataFile::DataFile(QString path, int descriptor, std::int64_t size)
+    : _path(std::move(path))
+    , _descriptor(descriptor)
+    , _size(size) {}
+
+DataFile::~DataFile() {
+    ::close(_descriptor);
+}
+
+std::span<const std::uint8_t> DataFile::at(std::int64_t position, std::size_t count) {
+    constexpr std::int64_t lastPosition = std::numeric_limits<std::int64_t>::max() - 2 * std::int64_t{windowSize};
+    if (position < 0 || position > lastPosition)
+        return {};
+    count = std::min(count, windowSize);
+    const auto filledTo = [this] { return _windowStart + static_cast<std::int64_t>(_windowFilled); };
+    if (position < _windowStart || position + static_cast<std::int64_t>(count) > filledTo())
+        fill(std::max<std::int64_t>(0, position - lookedAtBefore));
+    if (position >= filledTo())
+        return {};
+    const auto offset = static_cast<std::size_t>(position - _windowStart);
+    return std::span(_window).subspan(offset, std::min(count, _windowFilled - offset));
+}
+
+void DataFile::fill(std::int64_t position) {
+    _window.resize(windowSize + static_cast<std::size_t>(lookedAtBefore));
+    _windowStart = position;
+    _windowFilled = 0;
+    while (_windowFilled < _window.size()) {
+        const ssize_t count = ::pread(_descriptor, _window.data() + _windowFilled, _window.size() - _windowFilled,
+                                      position + static_cast<std::int64_t>(_windowFilled));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            _error = errno;
+        if (count <= 0)
+            break;
+        _windowFilled += static_cast<std::size_t>(count);
+    }
+}

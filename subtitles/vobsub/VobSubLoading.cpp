@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the worker of a VobSub track makes its cues.
+#include "app/settings/Tracing.h"
+#include "platform/base/RunLoop.h"
+#include "subtitles/vobsub/DataFile.h"
+#include "subtitles/vobsub/PackReader.h"
+#include "subtitles/vobsub/QVVobSubPacket.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
+#include "subtitles/vobsub/VobSubPlacement.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+/// Of the pictures of a track. A film has about six MiB; a file with more than this is not one of a film.
+constexpr std::size_t mostMemory = std::size_t{256} * 1024 * 1024;
+/// Of a cue, beside its picture.
+constexpr std::size_t cueMemory = sizeof(QVSubtitle) + 64;
+
+QString fileName(const QString& path) {
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+/// Milliseconds as far as a cue can say them.
+std::int32_t milliseconds(std::int64_t value) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+/// For messages only: the clock is asked when somebody reads them.
+double messageTime() {
+    return gTracingEnabled ? platform::RunLoop::main().now() : 0;
+}
+
+} // namespace
+
+void QVVobSubSubtitles::_preload() {
+    const double begin = messageTime();
+    const VobSubIndex& index = _subInfo->index();
+    const auto file = DataFile::open(_subInfo->subPath());
+    if (!file) {
+        logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
+                  fileName(_subInfo->subPath()));
+        trace("%@: Preload Time: %@", className(), QString::asprintf("%6.5f", messageTime() - begin));
+        reset();
+        return;
+    }
+    trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), fileName(path()), " threaded");
+
+    PackReader reader(*file, streamInfo()._index, _abort);
+    std::size_t memory = 0;
+    bool previousHasNoStop = false;
+    for (const QVVobSubPos& pos : streamInfo()._subPos) {
+        auto packet = QVVobSubPacket::packetWithFile(reader, pos);
+        if (!packet || _abort)
+            break;
+        const std::int32_t start = ajustToMovieTimeScale(milliseconds(pos._timestamp));
+        const std::int32_t end = ajustToMovieTimeScale(milliseconds(pos._timestamp + packet->displayTime()));
+        const auto image = packet->decodeWithInfo(index);
+        memory += cueMemory + (image ? image->memory() : 0);
+        if (memory > mostMemory) {
+            logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(file->path()));
+            break;
+        }
+        auto subtitle = std::make_shared<QVSubtitle>(image, start, end);
+        if (_previous && (previousHasNoStop || _previous->end() > start))
+            _previous->setEnd(start);
+        previousHasNoStop = packet->displayTime() == 0;
+        subtitle->setRect(VobSubPlacement::place(packet->rect(), index));
+        subtitle->setForced(packet->forced());
+        _previous = subtitle;
+        appendSubtitle(std::move(subtitle));
+        if (_abort)
+            break;
+    }
+    finishLoading();
+    trace("%@: Preload Time: %@", className(), QString::asprintf("%6.5f", messageTime() - begin));
+}
