@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/ColorText.h"
 #include "platform/base/Log.h"
+#include "platform/base/PercentEscapes.h"
 #include "platform/base/StringComparison.h"
 
 #include <gtest/gtest.h>
@@ -85,4 +86,11 @@ TEST(Formatted, placeholders_are_filled_once_and_in_order) {
                  {"%9$@ %0$@", {"a"}, "%9$@ a"}};
     for (const auto& [format, arguments, result] : cases)
         EXPECT_EQ(platform::formatted(format, arguments), result) << format;
+}
+
+TEST(PercentEscapes, what_a_url_cannot_hold_is_escaped_and_its_separators_stay) {
+    EXPECT_EQ(platform::stringByAddingPercentEscapes(QStringLiteral("http://a.org/b c?d=\u00E9&e=1;f#\"<[100%]>|\\")),
+              QStringLiteral("http://a.org/b%20c?d=%C3%A9&e=1;f%23%22%3C%5B100%25%5D%3E%7C%5C"));
+    EXPECT_EQ(platform::stringByAddingPercentEscapes(QStringLiteral("(it's-_.!~*)$+,@")),
+              QStringLiteral("(it's-_.!~*)$+,@"));
 }
