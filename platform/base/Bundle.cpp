@@ -50,6 +50,16 @@ QString Bundle::pathForResource(const QString& name, const QString& type) const 
     return QFileInfo(path).isFile() ? path : QString();
 }
 
+QString Bundle::pathForTool(const QString& name) const {
+    for (const char* place : {"/", "/" LUMARO_TOOLS_FROM_RESOURCES "/"}) {
+        const QString path = QDir::cleanPath(resourcePath() + QString::fromUtf8(place) + name);
+        const QFileInfo file(path);
+        if (file.isFile() && file.isExecutable())
+            return path;
+    }
+    return {};
+}
+
 const QVariantMap& Bundle::infoDictionary() const {
     if (!_infoRead) {
         _infoRead = true;

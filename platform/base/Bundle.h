@@ -20,6 +20,10 @@ public:
     /// The full path of "name.type" in the resources, or an empty string when there is no such file.
     QString pathForResource(const QString& name, const QString& type) const;
 
+    /// The full path of a program of ours that the application runs: in the resources, else where it is installed; an
+    /// empty string when there is none.
+    QString pathForTool(const QString& name) const;
+
     /// The information dictionary, read once; empty when it is missing or damaged.
     const QVariantMap& infoDictionary() const;
     /// Replaces the information dictionary (tests).

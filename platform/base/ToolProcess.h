@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace platform {
+
+/// A program to run to its end.
+struct ToolRequest {
+    /// A path, or a name to be looked up in the folders of PATH.
+    QString program;
+    QStringList arguments;
+    /// After this long the program and what it has started are killed.
+    double longestSeconds = 60;
+    /// Where it runs, when given.
+    QString folder;
+    /// "NAME=value", over the variables it would have otherwise.
+    QStringList environment;
+    /// At most so many bytes of memory, and of any file it writes, when given.
+    std::optional<std::uint64_t> memory;
+    std::optional<std::uint64_t> fileSize;
+    /// Leaves out what it says to its standard error, which is put with its output otherwise.
+    bool dropsErrors = false;
+    /// Called with each piece of its output while it runs.
+    std::function<void(const QByteArray&)> output;
+    /// Asked some twenty times a second: the program is killed when the answer is no.
+    std::function<bool()> mayGoOn;
+};
+
+/// Runs a program without input, in a process group of its own, and waits for its end; events are not handled
+/// meanwhile. It does not outlive this process. Answers its exit status, 128 and the signal's number when a signal
+/// ended it, and none when it could not be started. Any thread; the program dies with the thread that called.
+std::optional<int> runTool(const ToolRequest& request);
+
+} // namespace platform
