@@ -5,6 +5,7 @@
 #include "subtitles/text/QVSubRipSubtitles.h"
 #include "subtitles/text/QVTMPlayerSubtitles.h"
 #include "subtitles/text/SubtitleText.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
 
 #include <QHash>
 
@@ -16,7 +17,7 @@ struct Reader {
     std::int32_t type;
     const char* name;
     QStringList (*extensionsList)();
-    bool (*isFormatValid)(std::string_view beginning);
+    bool (*isFormatValid)(const QString& path, std::string_view beginning);
     Tracks (*tracks)(const QString& path, SubtitleOwner& owner);
 };
 
@@ -26,16 +27,21 @@ Tracks oneTrack(const QString& path, SubtitleOwner& owner) {
 }
 
 template <class Track>
-Reader readerOf(std::int32_t type, const char* name) {
-    return {type, name, &Track::extensionsList, &Track::isFormatValid, &oneTrack<Track>};
+Reader textReader(std::int32_t type, const char* name) {
+    const auto isFormatValid = [](const QString&, std::string_view beginning) {
+        return Track::isFormatValid(beginning);
+    };
+    return {type, name, &Track::extensionsList, isFormatValid, &oneTrack<Track>};
 }
 
 /// In the order of their types.
 const std::vector<Reader>& clusterList() {
     static const std::vector<Reader> readers{
-        readerOf<QVSubRipSubtitles>(QVSubtitles::typeSubRip, "QVSubRipSubtitles"),
-        readerOf<QVMicroDVDSubtitles>(QVSubtitles::typeMicroDVD, "QVMicroDVDSubtitles"),
-        readerOf<QVTMPlayerSubtitles>(QVSubtitles::typeTMPlayer, "QVTMPlayerSubtitles"),
+        textReader<QVSubRipSubtitles>(QVSubtitles::typeSubRip, "QVSubRipSubtitles"),
+        textReader<QVMicroDVDSubtitles>(QVSubtitles::typeMicroDVD, "QVMicroDVDSubtitles"),
+        {QVSubtitles::typeVobSub, "QVVobSubSubtitles", &QVVobSubSubtitles::extensionsList,
+         &QVVobSubSubtitles::isFormatValid, &QVVobSubSubtitles::subtitlesWithFilePath},
+        textReader<QVTMPlayerSubtitles>(QVSubtitles::typeTMPlayer, "QVTMPlayerSubtitles"),
     };
     return readers;
 }
@@ -81,10 +87,10 @@ Tracks SubtitleRegistry::subtitlesWithFilePath(const QString& path, SubtitleOwne
     if (beginning.bytes.isEmpty())
         return {};
     const Reader* const own = extensionsMap().value(extensionOf(path));
-    if (own && own->isFormatValid(beginning.view()))
+    if (own && own->isFormatValid(path, beginning.view()))
         return own->tracks(path, owner);
     for (const Reader& reader : clusterList()) {
-        if (&reader != own && reader.isFormatValid(beginning.view()))
+        if (&reader != own && reader.isFormatValid(path, beginning.view()))
             return reader.tracks(path, owner);
     }
     return {};

@@ -8,6 +8,10 @@
 #include <memory>
 #include <vector>
 
+namespace platform {
+class PrivateFolder;
+}
+
 /// The parsed index of a VobSub pair, shared by the tracks of its streams, together with the data file that it belongs
 /// to: the one beside it, or the one out of an archive beside it, which stays extracted while this object lives.
 /// Made on the main thread; afterwards it does not change and is read by any thread.
@@ -29,6 +33,12 @@ public:
 private:
     QVVobSubInfo();
 
+    bool _parseIDXFile(const QString& path);
+    QString _locateSubFile(const QString& base);
+    QString _extractSubFile(const QString& archive, const QString& baseName);
+
     VobSubIndex _index;
     QString _subPath;
+    /// What was taken out of an archive.
+    std::unique_ptr<platform::PrivateFolder> _tempFolder;
 };

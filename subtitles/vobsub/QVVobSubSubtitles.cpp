@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
+
+#include "subtitles/text/LineReader.h"
+#include "subtitles/vobsub/IndexParser.h"
+#include "subtitles/vobsub/SubFileSearch.h"
+
+QVVobSubSubtitles::QVVobSubSubtitles(const QString& path, SubtitleOwner& owner,
+                                     std::shared_ptr<const QVVobSubInfo> info, std::uint32_t idx)
+    : QVSubtitles(path, owner, typeVobSub, static_cast<float>(owner.timeScale()) / 1000.0F)
+    , _subInfo(std::move(info))
+    , _idx(idx) {}
+
+bool QVVobSubSubtitles::isFormatValid(const QString& path, std::string_view text) {
+    const auto line = LineReader(text).next();
+    if (!line || !IndexParser::headerVersion(*line))
+        return false;
+    const QString base = SubFileSearch::basePath(path);
+    return !SubFileSearch::fileBeside(base, QStringLiteral("sub")).isEmpty() ||
+           !SubFileSearch::fileBeside(base, QStringLiteral("rar")).isEmpty();
+}
+
+QStringList QVVobSubSubtitles::extensionsList() {
+    return {QStringLiteral("idx")};
+}
+
+std::vector<std::shared_ptr<QVSubtitles>> QVVobSubSubtitles::subtitlesWithFilePath(const QString& path,
+                                                                                   SubtitleOwner& owner) {
+    std::vector<std::shared_ptr<QVSubtitles>> tracks;
+    const auto info = QVVobSubInfo::infoWithFile(path);
+    const std::size_t count = info ? info->streams().size() : 0;
+    for (std::uint32_t idx = 0; idx < count; ++idx)
+        tracks.push_back(makeTrack<QVVobSubSubtitles>(path, owner, info, idx));
+    return tracks;
+}
+
+float QVVobSubSubtitles::aspectRatio() const {
+    return static_cast<float>(size().width()) / static_cast<float>(size().height());
+}
+
+QString QVVobSubSubtitles::title() const {
+    return QStringLiteral("%1, %2").arg(streamInfo()._languageName, QVSubtitles::title());
+}
