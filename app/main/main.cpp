@@ -12,6 +12,7 @@
 #include "app/settings/SettingsKeys.h"
 #include "app/settings/Tracing.h"
 #include "platform/base/Bundle.h"
+#include "platform/base/PrivateFolder.h"
 #include "platform/base/QtRunLoop.h"
 #include "platform/base/SettingsFile.h"
 #include "platform/desktop/linux/Backlight.h"
@@ -207,6 +208,9 @@ int play(int& count, char** arguments, const CommandLine& line) {
             host.makeKeyAndOrderFront();
         };
         instance.listen(take);
+        // After the first picture: nobody waits for it.
+        constexpr double sweepDelay = 5;
+        loop.perform([] { platform::PrivateFolder::sweep(); }, sweepDelay);
         if (!files.files.isEmpty())
             take(files);
         status = desktop.run(controller);
