@@ -123,6 +123,8 @@ const Samples& Measurements::run() {
     }
     if (wants("start"))
         measureStart();
+    if (wants("track"))
+        measureStartWithTrack();
     if (wants("cpu") || wants("memory") || wants("paused"))
         measurePlaying();
     if (wants("jump"))
@@ -166,6 +168,23 @@ void Measurements::measureStart() {
             const double before = now();
             auto process = startPlaying(*player);
             _samples.add("start", player->name(), (now() - before) * 1000);
+            pause(0.2);
+            endAndClear(process);
+        }
+}
+
+void Measurements::measureStartWithTrack() {
+    // No text comes with the first picture: what is measured is the reading.
+    const std::string withTrack =
+        withSubtitles(_movie, _folder / "long track", {.count = 2000, .first = 10'000, .every = 25, .shown = 20})
+            .string();
+    const Player& player = _players.back();
+    // The difference is small beside how starts spread.
+    for (int round = 0; round < 2 * _plan.startRounds; ++round)
+        for (const bool track : {round % 2 == 0, round % 2 != 0}) {
+            const double before = now();
+            auto process = startPlaying(player, track ? withTrack : _movie);
+            _samples.add("track", track ? player.name() : "no track", (now() - before) * 1000);
             pause(0.2);
             endAndClear(process);
         }
@@ -342,8 +361,8 @@ void Measurements::measureTimeDisplay() {
 }
 
 void Measurements::measureSubtitles() {
-    const std::string plain = withSubtitles(_plainMovie, _folder / "subtitled", 1.9).string();
-    const std::string movie = withSubtitles(_movie, _folder / "subtitled", 1.9).string();
+    const std::string plain = withSubtitles(_plainMovie, _folder / "subtitled", {}).string();
+    const std::string movie = withSubtitles(_movie, _folder / "subtitled", {}).string();
     std::set<std::string> showing;
     for (const Player& player : _players)
         if (showsText(player, bottom, plain, player.subtitleOptions(plain)))
@@ -358,8 +377,8 @@ void Measurements::measureSubtitles() {
 void Measurements::measureFade() {
     const Player player(Player::Kind::lumaro, _folder / "users of fades");
     writeSlowFades(player.configFolder());
-    const std::string plain = withSubtitles(_plainMovie, _folder / "fading", 1).string();
-    const std::string movie = withSubtitles(_movie, _folder / "fading", 1).string();
+    const std::string plain = withSubtitles(_plainMovie, _folder / "fading", {.shown = 1000}).string();
+    const std::string movie = withSubtitles(_movie, _folder / "fading", {.shown = 1000}).string();
     {
         auto process = startPlaying(player, plain);
         pressForFades(_probe, 0);

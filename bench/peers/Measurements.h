@@ -26,8 +26,8 @@ struct Plan {
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu", "memory", "paused",   "jump",
-                                               "open",  "osd", "fade",   "subtitles"};
+inline const std::set<std::string> rowNames = {"start", "cpu", "memory", "paused",    "jump",
+                                               "open",  "osd", "fade",   "subtitles", "track"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -53,6 +53,7 @@ public:
 
 private:
     void measureStart();
+    void measureStartWithTrack();
     void measurePlaying();
     void measureJumps();
     void measureOpening();

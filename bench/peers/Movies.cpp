@@ -64,13 +64,13 @@ std::filesystem::path makePlainMovie(const harness::MediaFixture& media) {
 }
 
 std::filesystem::path withSubtitles(const std::filesystem::path& movie, const std::filesystem::path& folder,
-                                    double secondsShown) {
+                                    const Cues& cues) {
     std::filesystem::create_directories(folder);
     const std::filesystem::path copy = folder / movie.filename();
     std::filesystem::copy_file(movie, copy, std::filesystem::copy_options::overwrite_existing);
     std::ofstream file(std::filesystem::path(copy).replace_extension(".srt"));
-    for (int cue = 0; cue < 30; ++cue) {
-        const int start = cue * 2000, end = start + int(secondsShown * 1000);
+    for (int cue = 0; cue < cues.count; ++cue) {
+        const int start = cues.first + cue * cues.every, end = start + cues.shown;
         const auto time = [](int milliseconds) {
             char text[48];
             std::snprintf(text, sizeof text, "00:00:%02d,%03d", milliseconds / 1000, milliseconds % 1000);

@@ -22,9 +22,16 @@ std::filesystem::path makeMovie(const harness::MediaFixture& media);
 // A minute of nothing but the stripe's colour, as large: what stands over it is seen.
 std::filesystem::path makePlainMovie(const harness::MediaFixture& media);
 
-// The movie in the folder, with a SubRip file beside it: a text of two lines every two seconds, shown for so long.
+// A SubRip file of texts of two lines; milliseconds.
+struct Cues {
+    int count = 30;
+    int first = 0;
+    int every = 2000;
+    int shown = 1900;
+};
+// The movie in the folder, with such a file beside it.
 std::filesystem::path withSubtitles(const std::filesystem::path& movie, const std::filesystem::path& folder,
-                                    double secondsShown);
+                                    const Cues& cues);
 
 // Whether the movie is on the screen; the number of the frame that is.
 bool showsMovie(harness::XProbe& probe);
