@@ -9,6 +9,7 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QImage>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -78,6 +79,7 @@ int main(int count, char** arguments) {
     }
     // Drawing texts needs an application, but no display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const QGuiApplication application(count, arguments);
 
     vobsub::PairWriter pair;
