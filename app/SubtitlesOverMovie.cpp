@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/SubtitlesOverMovie.h"
 
+#include "overlays/QVImageSubView.h"
 #include "overlays/QVTextSubView.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 
 std::unique_ptr<SubtitleView> SubtitlesOverMovie::createTextView() {
     return std::make_unique<QVTextSubView>(&_window, &_view);
+}
+
+std::unique_ptr<ImageSubtitleView> SubtitlesOverMovie::createImageView() {
+    return std::make_unique<QVImageSubView>(&_window, &_view);
 }
 
 std::shared_ptr<SubtitleOwner> SubtitlesOverMovie::ownerOf(const std::shared_ptr<QVMovie>& movie) {

@@ -17,8 +17,7 @@ public:
         , _view(view) {}
 
     std::unique_ptr<SubtitleView> createTextView() override;
-    /// None: bitmap cues are not shown yet.
-    std::unique_ptr<SubtitleView> createImageView() override { return nullptr; }
+    std::unique_ptr<ImageSubtitleView> createImageView() override;
     std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override;
     std::shared_ptr<SubtitleOwner> shownMovie() override;
 

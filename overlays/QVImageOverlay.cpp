@@ -6,9 +6,9 @@
 
 namespace {
 
-double scaled(int pixels, float factor) {
+double scaled(double unscaled, float factor) {
     constexpr double largest = 1e5; // more than any screen has
-    const double length = static_cast<double>(pixels) * static_cast<double>(factor);
+    const double length = unscaled * static_cast<double>(factor);
     return std::isfinite(length) ? std::clamp(length, 0.0, largest) : 0;
 }
 
@@ -20,8 +20,9 @@ QVImageOverlay::QVImageOverlay(platform::Window* parent, const QString& style)
     _view.setFrame(frame());
 }
 
-void QVImageOverlay::setImage(const QImage& image) {
+void QVImageOverlay::setImage(const QImage& image, const QSizeF& size) {
     _view.setImage(image);
+    _imageSize = size;
     sizeToFit();
 }
 
@@ -34,11 +35,10 @@ void QVImageOverlay::setScale(float scaleX, float scaleY) {
 }
 
 void QVImageOverlay::sizeToFit() {
-    const QImage& image = _view.image();
-    if (image.isNull())
+    if (_view.image().isNull())
         return;
-    _view.setFrame(
-        QRectF(_view.frame().topLeft(), QSizeF(scaled(image.width(), _scaleX), scaled(image.height(), _scaleY))));
+    _view.setFrame(QRectF(_view.frame().topLeft(),
+                          QSizeF(scaled(_imageSize.width(), _scaleX), scaled(_imageSize.height(), _scaleY))));
     contentSizeChanged();
 }
 

@@ -11,7 +11,9 @@ public:
 
     const QImage& image() const { return _view.image(); }
     /// A null image is none: the overlay keeps its size.
-    void setImage(const QImage& image);
+    void setImage(const QImage& image) { setImage(image, image.size()); }
+    /// The same with the size, in points, at which it stands unscaled.
+    void setImage(const QImage& image, const QSizeF& size);
 
     float scaleX() const { return _scaleX; }
     float scaleY() const { return _scaleY; }
@@ -27,6 +29,7 @@ protected:
 
 private:
     platform::ImageView _view;
+    QSizeF _imageSize{0, 0};
     float _scaleX = 1.0F;
     float _scaleY = 1.0F;
 };

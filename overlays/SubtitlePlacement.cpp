@@ -5,6 +5,14 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr float kQVAspect4x3 = 1.3333334F;
+constexpr float kQVAspect16x9 = 1.7777778F;
+constexpr float kWideFrom = 1.5F;
+
+} // namespace
+
 namespace SubtitlePlacement {
 
 TextSize textSize(double pictureWidth, double fitWidth, float smallest, float largest) {
@@ -35,6 +43,25 @@ QRectF placed(const QRectF& rect, std::uint32_t alignment, const Ground& ground)
         y = ground.bar ? std::max(floor, pictureBottom + *ground.bar) : floor;
     const double x = OverlayPlacement::horizontalOrigin(alignment, ground.parent, rect.width(), ground.padding);
     return {x, y, rect.width(), rect.height()};
+}
+
+float frameAspect(float movieAspect) {
+    // Written so that what is no number counts as wide.
+    return movieAspect < kWideFrom ? kQVAspect4x3 : kQVAspect16x9;
+}
+
+FrameScale frameScale(const QSizeF& frame, double viewWidth, float aspect) {
+    const auto scale = [](double shown, double pixels) {
+        return pixels == 0 ? 1.0F : static_cast<float>(shown / pixels);
+    };
+    return {scale(viewWidth, frame.width()), scale(viewWidth / static_cast<double>(aspect), frame.height())};
+}
+
+QRectF bitmapFrame(const QRectF& rect, const FrameScale& scale, const QRectF& view, float aspect) {
+    const double bottom = view.y() - (view.width() / static_cast<double>(aspect) - view.height()) * 0.5;
+    const auto x = static_cast<double>(scale.x);
+    const auto y = static_cast<double>(scale.y);
+    return {view.x() + x * rect.x(), bottom + y * rect.y(), x * rect.width(), y * rect.height()};
 }
 
 } // namespace SubtitlePlacement

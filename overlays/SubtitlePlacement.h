@@ -32,4 +32,20 @@ struct Ground {
 /// stands below the parent's bottom edge; what would comes to stand on the bar, if that shows.
 QRectF placed(const QRectF& rect, std::uint32_t alignment, const Ground& ground);
 
+/// Width by height of the frame that the bitmaps of a movie stand on: that of a wide or of a narrow television,
+/// whichever the movie's own is nearer to.
+float frameAspect(float movieAspect);
+
+/// Points for a pixel of the bitmaps' frame, which is shown as wide as the movie view and as high as its aspect makes
+/// it.
+struct FrameScale {
+    float x;
+    float y;
+};
+FrameScale frameScale(const QSizeF& frame, double viewWidth, float aspect);
+
+/// Where a bitmap stands on the screen. `rect` is its place in its frame, y upwards; the frame is centred on the movie
+/// view, whose place on the screen is `view`, from top to bottom.
+QRectF bitmapFrame(const QRectF& rect, const FrameScale& scale, const QRectF& view, float aspect);
+
 } // namespace SubtitlePlacement

@@ -8,6 +8,7 @@
 #include "platform/base/Log.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleView.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
 
 #include <algorithm>
 #include <utility>
@@ -75,7 +76,8 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
         _preferredType = track->type();
         _preferredIndex = track->streamIndex();
         track->preload();
-        _setView(placeOfView(*track).get());
+        adoptAppearance(*track);
+        _setView(viewFor(*track));
     }
     showCueOfNow();
     announce();
@@ -91,16 +93,31 @@ void QVSubtitlesController::keepLoaded(const std::shared_ptr<QVSubtitles>& track
     _cachedMovie = _movie;
 }
 
-std::unique_ptr<SubtitleView>& QVSubtitlesController::placeOfView(const QVSubtitles& track) {
-    return track.isImageBased() ? _imageView : _textView;
+SubtitleView* QVSubtitlesController::viewFor(const QVSubtitles& track) const {
+    return track.isImageBased() ? _imageView.get() : _textView.get();
 }
 
 void QVSubtitlesController::createView(const QVSubtitles& track) {
-    std::unique_ptr<SubtitleView>& view = placeOfView(track);
-    view = track.isImageBased() ? _scene->createImageView() : _scene->createTextView();
+    if (track.isImageBased())
+        _imageView = _scene->createImageView();
+    else
+        _textView = _scene->createTextView();
+    SubtitleView* const view = viewFor(track);
     if (view)
         view->orderFront();
-    _setView(view.get());
+    adoptAppearance(track);
+    _setView(view);
+}
+
+/// An index says how its images come and go, in place of the view's style.
+void QVSubtitlesController::adoptAppearance(const QVSubtitles& track) {
+    const auto* const images = dynamic_cast<const QVVobSubSubtitles*>(&track);
+    if (!images || !_imageView)
+        return;
+    const VobSubIndex& index = images->info()->index();
+    _imageView->setMaxAlpha(index._alpha);
+    _imageView->setFadingInInterval(index._fadeIn);
+    _imageView->setFadingOutInterval(index._fadeOut);
 }
 
 void QVSubtitlesController::_setView(SubtitleView* view) {

@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+class ImageSubtitleView;
 class SubtitleScene;
 class SubtitleView;
 
@@ -59,8 +60,9 @@ private:
     void movieInterestingTime(const QVMovieInterestingTimeNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
     void keepLoaded(const std::shared_ptr<QVSubtitles>& track);
-    std::unique_ptr<SubtitleView>& placeOfView(const QVSubtitles& track);
+    SubtitleView* viewFor(const QVSubtitles& track) const;
     void createView(const QVSubtitles& track);
+    void adoptAppearance(const QVSubtitles& track);
     void _setView(SubtitleView* view);
     bool switchDisplay(bool flag);
     void showCueOfNow();
@@ -73,7 +75,7 @@ private:
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     std::shared_ptr<QVSubtitles> _current;
     std::unique_ptr<SubtitleView> _textView;
-    std::unique_ptr<SubtitleView> _imageView;
+    std::unique_ptr<ImageSubtitleView> _imageView;
     SubtitleView* _view = nullptr; // that of the selected track, once it was made
     bool _subtitlesOn;
     std::uint32_t _index = none;

@@ -25,6 +25,16 @@ public:
     virtual void currentSubtitlesChanged(const QVSubtitlesChangedNotification& notification) = 0;
 };
 
+/// What it asks of the view for images: a track of images says itself how they come, stand and go.
+class ImageSubtitleView : public SubtitleView {
+public:
+    /// Opacity, 0 to 1.
+    virtual void setMaxAlpha(float alpha) = 0;
+    /// Seconds.
+    virtual void setFadingInInterval(double seconds) = 0;
+    virtual void setFadingOutInterval(double seconds) = 0;
+};
+
 /// What the subtitles controller asks of the application around it. Main thread.
 class SubtitleScene {
 public:
@@ -32,7 +42,7 @@ public:
 
     /// A new view above the main window, for texts or for images; null where there is none of the kind.
     virtual std::unique_ptr<SubtitleView> createTextView() = 0;
-    virtual std::unique_ptr<SubtitleView> createImageView() = 0;
+    virtual std::unique_ptr<ImageSubtitleView> createImageView() = 0;
     /// A movie, which the notifications name only by its address, as the tracks see it; null for none.
     virtual std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) = 0;
     /// The movie that the movie view shows, or null.

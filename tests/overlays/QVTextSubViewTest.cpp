@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVTextSubView.h"
-#include "overlays/PictureGeometry.h"
 #include "platform/window/Fonts.h"
 #include "subtitles/QVSubtitle.h"
+#include "tests/overlays/FakePicture.h"
 #include "tests/overlays/OverlayRig.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-class FakePicture final : public PictureGeometry {
-public:
-    QRectF frame{0, 96, 1024, 576};
-    QSizeF fit{1024, 576};
-    bool bar = false;
-    QRectF pictureFrame() const override { return frame; }
-    QSizeF sizeForFitScreen(std::int32_t mode) const override { return mode == 3 ? fit : QSizeF(1, 1); }
-    float aspectRatio() const override { return 16.0F / 9.0F; }
-    bool isControllerBarVisible() const override { return bar; }
-    unsigned getControllerHeight() const override { return 16; }
-};
 
 std::shared_ptr<QVSubtitle> cue(const char* text) {
     return std::make_shared<QVSubtitle>(QString::fromUtf8(text), 0, 100);

@@ -5,7 +5,11 @@
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleRegistry.h"
 #include "subtitles/SubtitleView.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/support/PlaybackRig.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -61,13 +65,15 @@ public:
     ~Registry() override { setShared(nullptr); }
     std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path,
                                                                     SubtitleOwner& owner) override {
+        if (path.endsWith(QStringLiteral(".idx")))
+            return QVVobSubSubtitles::subtitlesWithFilePath(path, owner);
         const auto type = static_cast<QVSubtitles::Type>(path.at(0).digitValue());
         return {QVSubtitles::makeTrack<Track>(path, owner, type, static_cast<std::uint32_t>(path.at(2).digitValue()))};
     }
 };
 
 /// Writes down what it is told.
-class View final : public SubtitleView {
+class View final : public ImageSubtitleView {
 public:
     explicit View(QStringList& told)
         : _told(told) {}
@@ -80,6 +86,9 @@ public:
     void hide() override { _told << QStringLiteral("hide"); }
     void orderFront() override { _told << QStringLiteral("front"); }
     void currentSubtitlesChanged(const QVSubtitlesChangedNotification&) override {}
+    void setMaxAlpha(float alpha) override { _told << QStringLiteral("alpha %1").arg(alpha); }
+    void setFadingInInterval(double seconds) override { _told << QStringLiteral("in %1").arg(seconds); }
+    void setFadingOutInterval(double seconds) override { _told << QStringLiteral("out %1").arg(seconds); }
 
 private:
     QStringList& _told;
@@ -92,7 +101,7 @@ public:
         : _view(view) {}
     QStringList text, image; // what the views were told
     std::unique_ptr<SubtitleView> createTextView() override { return std::make_unique<View>(text); }
-    std::unique_ptr<SubtitleView> createImageView() override { return std::make_unique<View>(image); }
+    std::unique_ptr<ImageSubtitleView> createImageView() override { return std::make_unique<View>(image); }
     std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override { return movie; }
     std::shared_ptr<SubtitleOwner> shownMovie() override { return _view.movie(); }
 
@@ -292,4 +301,24 @@ TEST_F(SubtitlesController, whatever_changes_is_announced_with_the_track_selecte
     EXPECT_EQ(posts.count, 3);
     play({});
     EXPECT_EQ(posts.last->current, nullptr);
+}
+
+TEST_F(SubtitlesController, an_index_says_how_its_images_come_and_go) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.idx"));
+    for (const QString& name : {path, folder.filePath(QStringLiteral("a.sub"))}) {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(
+            "# VobSub index file, v7 (do not modify this line!)\nalpha: 75%\nfadein/out: 100, 250\nid: en, index: 0\n");
+    }
+    // The view is made for a cue of the first track, and takes on the look of the second.
+    const auto shown = play({QStringLiteral("2-0 first"), path});
+    rig.view.setMovie(shown);
+    shown->setTime(second);
+    post(QVMovieInterestingTimeNotification{shown});
+    taken(scene.image);
+    controller.setCurrenWithIndex(1);
+    EXPECT_EQ(taken(scene.image), (QStringList{QStringLiteral("alpha 0.75"), QStringLiteral("in 0.1"),
+                                               QStringLiteral("out 0.25"), QStringLiteral("nothing")}));
 }

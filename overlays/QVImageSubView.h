@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "overlays/QVImageOverlay.h"
+#include "subtitles/SubtitleView.h"
+
+class PictureGeometry;
+class QVVobSubInfo;
+
+/// Shows the cues of a bitmap track where they stand in their frame, which lies over the picture. Main thread.
+class QVImageSubView final : public QVImageOverlay, public ImageSubtitleView {
+public:
+    /// Hidden and without a cue. The picture may be null (no movie view), else it outlives the view.
+    QVImageSubView(platform::Window* parent, const PictureGeometry* picture,
+                   const QString& style = kQVVobSubOverlayStyle);
+
+    void setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) override;
+    /// Only what there is to show: without an image the panel would stand empty.
+    void show() override;
+    void hide() override { QVImageOverlay::hide(); }
+    void orderFront() override { QVImageOverlay::orderFront(); }
+    /// A view that is not shown stays unseen.
+    void setMaxAlpha(float alpha) override;
+    void setFadingInInterval(double seconds) override { QVImageOverlay::setFadingInInterval(seconds); }
+    void setFadingOutInterval(double seconds) override { QVImageOverlay::setFadingOutInterval(seconds); }
+
+    void currentSubtitlesChanged(const QVSubtitlesChangedNotification& notification) override;
+    void contentSizeChanged() override;
+    void movieViewSizeChanged(const QVMovieViewSizeChangedNotification& notification) override;
+
+    /// Width by height of the frame that the cues stand on; 1 while no bitmap track is current.
+    float aspect() const { return _aspect; }
+
+protected:
+    const char* logName() const override { return "QVImageSubView"; }
+    void postFadeOut() override;
+
+private:
+    void _recalculateAspect();
+    void _recalculateScale();
+    bool hasImage() const;
+
+    std::shared_ptr<QVSubtitle> _subtitle;
+    float _aspect = 1.0F;
+    const PictureGeometry* _picture;
+    /// Of the current track; gone with it, together with what was taken out of an archive.
+    std::weak_ptr<const QVVobSubInfo> _info;
+};

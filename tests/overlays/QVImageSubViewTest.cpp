@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVImageSubView.h"
+#include "subtitles/QVSubtitle.h"
+#include "subtitles/SubtitleOwner.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
+#include "tests/overlays/FakePicture.h"
+#include "tests/overlays/OverlayRig.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Owner final : public SubtitleOwner {
+public:
+    std::int32_t timeScale() const override { return 600; }
+    float frameRate() override { return 25; }
+    std::int32_t time() const override { return 0; }
+};
+
+class OnePixel final : public SubtitleImage {
+public:
+    QImage expanded() const override {
+        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        return image;
+    }
+};
+
+std::shared_ptr<QVSubtitle> cueAt(const QRectF& rect) {
+    auto cue = std::make_shared<QVSubtitle>(std::make_shared<OnePixel>(), 0, 100);
+    cue->setRect(rect);
+    return cue;
+}
+
+class ImageSubView : public testing::Test {
+protected:
+    ImageSubView() {
+        picture.aspect = 1.33F;
+        picture.frame = {128, 0, 768, 576};
+        view.setBackgroundOn(false);
+        view.setFrameOn(false);
+    }
+    /// A track whose frame has the size.
+    std::shared_ptr<QVSubtitles> track(const char* size) {
+        const QString path = folder.filePath(QStringLiteral("film.idx"));
+        for (const QString& name : {path, folder.filePath(QStringLiteral("film.sub"))}) {
+            QFile file(name);
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write("# VobSub index file, v7 (do not modify this line!)\nsize: ");
+            file.write(size);
+            file.write("\nscale: 100%, 100%\nid: en, index: 0\ntimestamp: 00:00:01:000, filepos: 000000000\n");
+        }
+        const auto tracks = QVVobSubSubtitles::subtitlesWithFilePath(path, owner);
+        return tracks.empty() ? nullptr : tracks.front();
+    }
+    void select(const std::shared_ptr<QVSubtitles>& selected) {
+        current = selected;
+        view.currentSubtitlesChanged(QVSubtitlesChangedNotification{selected});
+    }
+
+    OverlayRig rig;
+    FakePicture picture;
+    QTemporaryDir folder;
+    Owner owner;
+    std::shared_ptr<QVSubtitles> current;
+    QVImageSubView view{&rig.window, &picture, kQVDefaultOverlayStyle};
+};
+
+void expectFrame(const QVImageSubView& view, const QRectF& expected) {
+    EXPECT_NEAR(view.frame().x(), expected.x(), 0.01);
+    EXPECT_NEAR(view.frame().y(), expected.y(), 0.01);
+    EXPECT_NEAR(view.frame().width(), expected.width(), 0.01);
+    EXPECT_NEAR(view.frame().height(), expected.height(), 0.01);
+}
+
+} // namespace
+
+TEST_F(ImageSubView, a_cue_stands_where_its_frame_lies_over_the_picture) {
+    EXPECT_EQ(view.aspect(), 1);
+    select(track("720x480"));
+    view.setSubtitle(cueAt({60, 20, 600, 50}));
+    expectFrame(view, {192, 24, 640, 60});
+    // The window may stand anywhere, and the picture changes its size.
+    rig.window.setFrame(QRectF(1000, 500, 1024, 768));
+    picture.frame = {256, 100, 384, 288};
+    view.movieViewSizeChanged({});
+    expectFrame(view, {1288, 612, 320, 30});
+    // A film that is wider than a television: its frame reaches beyond it, above and below.
+    picture.aspect = 2.35F;
+    picture.frame = {0, 0, 720, 300};
+    view.movieViewSizeChanged({});
+    EXPECT_NEAR(view.aspect(), 16.0 / 9, 1e-6);
+    expectFrame(view, {1060, 500 - 52.5 + 20 * 405 / 480.0, 600, 50 * 405 / 480.0});
+}
+
+TEST_F(ImageSubView, the_scale_is_that_of_the_current_track) {
+    select(track("720x480"));
+    view.setSubtitle(cueAt({0, 0, 720, 480}));
+    expectFrame(view, {128, 0, 768, 576});
+    select(track("360x240"));
+    view.setSubtitle(cueAt({0, 0, 360, 240}));
+    expectFrame(view, {128, 0, 768, 576});
+    select(track("0x0"));
+    EXPECT_EQ(view.scaleX(), 1);
+    EXPECT_EQ(view.scaleY(), 1);
+    select(nullptr);
+    EXPECT_EQ(view.aspect(), 1);
+}
+
+TEST_F(ImageSubView, images_come_and_go_like_texts) {
+    select(track("720x480"));
+    view.setMaxAlpha(0.5F);
+    EXPECT_EQ(view.alphaValue(), 0) << "nothing to show yet";
+    view.show();
+    EXPECT_FALSE(view.isVisible());
+    const auto cue = cueAt({0, 0, 10, 10});
+    view.setSubtitle(cue);
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0.5F);
+    const auto revision = view.contentRevision();
+    view.setSubtitle(cue);
+    EXPECT_EQ(view.contentRevision(), revision);
+    view.setSubtitle(nullptr);
+    EXPECT_FALSE(view.image().isNull()) << "the image goes before it has faded";
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0);
+    EXPECT_TRUE(view.image().isNull());
+    // Switched off and on again, and a cue without an image.
+    view.setSubtitle(cue);
+    view.hide();
+    rig.settings.runLoop.advance(2);
+    view.setMaxAlpha(0.75F);
+    EXPECT_EQ(view.alphaValue(), 0);
+    view.show();
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0.75F);
+    view.setSubtitle(std::make_shared<QVSubtitle>());
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0);
+}
