@@ -13,6 +13,12 @@ namespace {
 
 constexpr const char* function = "QVLocalizedNameForLanguageID()";
 
+/// A system set up for no language has English texts.
+QByteArray displayLanguage() {
+    const QString first = localizationLanguages().value(0);
+    return first.isEmpty() || first == QStringLiteral("C") ? "en" : first.toUtf8();
+}
+
 } // namespace
 
 QString localizedNameForLanguageID(const QString& code) {
@@ -26,7 +32,7 @@ QString localizedNameForLanguageID(const QString& code) {
                       {QString::fromLatin1(function), code, QString::number(error)}));
         return code;
     }
-    const QByteArray display = localizationLanguages().value(0, QStringLiteral("en")).toUtf8();
+    const QByteArray display = displayLanguage();
     error = U_ZERO_ERROR;
     std::array<UChar, 256> name{};
     const std::int32_t length =

@@ -4,6 +4,7 @@
 #include "app/settings/Tracing.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/LanguageNames.h"
+#include "platform/base/Localization.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/base/RegularFile.h"
 #include "platform/base/TextEncoding.h"
@@ -30,7 +31,12 @@ QString fileName(const QString& path) {
 
 /// Remembered, since finding a name costs more than reading a stream. Main thread.
 QString languageName(const QString& code) {
+    static QStringList languages;
     static QHash<QString, QString> names;
+    if (const QStringList now = platform::localizationLanguages(); now != languages) {
+        languages = now;
+        names.clear();
+    }
     auto known = names.constFind(code);
     if (known == names.constEnd())
         known = names.insert(code, platform::localizedNameForLanguageID(code));

@@ -30,10 +30,12 @@ bool isRegularFile(const QJsonObject& entry) {
     if (std::any_of(std::begin(others), std::end(others), [&](const char* key) { return isSet(entry, key); }))
         return false;
     // Where a Unix system wrote the archive the mode tells what the entry was.
-    const bool isFromUnix = entry.value(QStringLiteral("RAROS")).toInt() == 3;
-    const QJsonValue attributes =
-        entry.value(isFromUnix ? QStringLiteral("RARAttributes") : QStringLiteral("XADPosixPermissions"));
-    const auto kind = static_cast<mode_t>(attributes.toDouble()) & S_IFMT;
+    QString mode = QStringLiteral("XADPosixPermissions");
+    if (entry.value(QStringLiteral("RAROS")).toInt() == 3)
+        mode = QStringLiteral("RARAttributes");
+    else if (entry.value(QStringLiteral("RAR5OS")).toInt() == 1)
+        mode = QStringLiteral("RAR5Attributes");
+    const auto kind = static_cast<mode_t>(entry.value(mode).toDouble()) & S_IFMT;
     return kind == 0 || kind == S_IFREG;
 }
 
