@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/vobsub/PackReader.h"
+#include "tests/subtitles/VobSubFiles.h"
+#include "tests/support/CapturedLog.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using vobsub::Bytes;
+using vobsub::Layout;
+
+namespace {
+
+class VobSubPacks : public testing::Test {
+protected:
+    /// A unit of some packs (7,000 bytes), or of a part of one, with bytes that differ from unit to unit.
+    static Bytes largeUnit(unsigned seed) { return vobsub::unit(uncropped(randomBitmap(240, 160, 4, seed))); }
+    static Bytes smallUnit(unsigned seed) { return vobsub::unit(uncropped(randomBitmap(60, 20, 30, seed))); }
+
+    QString write(const Bytes& bytes) {
+        const QString path = folder.filePath(QStringLiteral("data.sub"));
+        writeFile(path, bytes);
+        return path;
+    }
+    /// What a packet of stream 3 would be made of; empty when there is none.
+    Bytes read(DataFile& file, std::int64_t position) {
+        PackReader reader(file, 3, abort);
+        for (const auto way : {&PackReader::readByLengths, &PackReader::readFixedLayout}) {
+            auto unit = (reader.*way)(position);
+            if (unit && ControlSequences::parse(unit->bytes, unit->dataSize))
+                return unit->bytes;
+        }
+        return {};
+    }
+    Bytes read(const Bytes& bytes, std::int64_t position) {
+        const auto file = DataFile::open(write(bytes));
+        return file ? read(*file, position) : Bytes();
+    }
+
+    QTemporaryDir folder;
+    std::atomic<bool> abort = false;
+};
+
+} // namespace
+
+TEST_F(VobSubPacks, units_are_put_together_from_packs_of_all_layouts) {
+    struct Case {
+        const char* name;
+        Layout layout;
+    };
+    const Case cases[] = {
+        {"the usual", {}},
+        {"fill in place of a padding packet", {.paddingStream = false}},
+        {"packs of video between", {.foreignPacks = 2}},
+        {"stuffing in the pack header", {.stuffing = 5}},
+        {"all stuffing, and video between", {.stuffing = 7, .foreignPacks = 1}},
+        {"a system header", {.systemHeader = true}},
+        {"short packs", {.packSize = 700}},
+        {"short packs that are filled", {.packSize = 1000, .paddingStream = false}},
+        {"long packs", {.packSize = 4096}},
+        {"one very long pack", {.packSize = 20000}},
+        {"the last pack ends with its packet", {.shortLastPack = true}},
+        {"fill between the packs", {.fillBetween = 1500}},
+        {"everything at once",
+         {.packSize = 1300,
+          .stuffing = 3,
+          .systemHeader = true,
+          .paddingStream = false,
+          .fillBetween = 7,
+          .foreignPacks = 1}},
+        {"packets without a length", {.packetLengthsOfZero = true}},
+    };
+    for (const Case& one : cases) {
+        vobsub::DataWriter writer;
+        const Bytes before = largeUnit(1);
+        const Bytes large = largeUnit(2);
+        const Bytes small = smallUnit(3);
+        ASSERT_GT(large.size(), 4096U);
+        writer.append(before, 5, 0, one.layout);
+        const std::int64_t largeAt = writer.append(large, 3, 0, one.layout);
+        const std::int64_t smallAt = writer.append(small, 3, 0, one.layout);
+        writer.append(before, 5, 0, one.layout);
+        EXPECT_EQ(read(writer.bytes(), largeAt), large) << one.name;
+        EXPECT_EQ(read(writer.bytes(), smallAt), small) << one.name;
+    }
+}
+
+TEST_F(VobSubPacks, a_position_that_is_a_little_off_is_found_again) {
+    for (const Layout& layout : {Layout{}, Layout{.stuffing = 4}, Layout{.packSize = 900}}) {
+        vobsub::DataWriter writer;
+        writer.append(smallUnit(1), 3, 0, layout);
+        const Bytes unit = largeUnit(2);
+        const std::int64_t position = writer.append(unit, 3, 0, layout);
+        writer.append(smallUnit(3), 3, 0, layout);
+        const auto file = DataFile::open(write(writer.bytes()));
+        for (int shift = -16; shift <= 16; ++shift)
+            EXPECT_EQ(read(*file, position + shift), unit) << shift;
+        EXPECT_TRUE(read(*file, position + 60).empty());
+        EXPECT_TRUE(read(*file, position - 60).empty());
+    }
+}
+
+TEST_F(VobSubPacks, the_packs_of_another_stream_between_are_left_out) {
+    // Two units whose packs take turns.
+    const Bytes unit = largeUnit(1);
+    vobsub::DataWriter own;
+    vobsub::DataWriter other;
+    own.append(unit, 3, 0);
+    other.append(largeUnit(2), 4, 0);
+    Bytes mixed;
+    for (std::size_t at = 0; at < own.bytes().size(); at += 2048)
+        for (const vobsub::DataWriter* writer : {&own, &other})
+            if (at < writer->bytes().size())
+                mixed.insert(mixed.end(), writer->bytes().begin() + static_cast<std::ptrdiff_t>(at),
+                             writer->bytes().begin() + static_cast<std::ptrdiff_t>(at) + 2048);
+    EXPECT_EQ(read(mixed, 0), unit);
+}
+
+TEST_F(VobSubPacks, the_first_pack_is_judged_by_its_beginning) {
+    vobsub::DataWriter writer;
+    const Bytes unit = smallUnit(1);
+    writer.append(unit, 4, 0);
+    // Taken as it is, though of another stream.
+    EXPECT_EQ(read(writer.bytes(), 0), unit);
+    Bytes damaged = writer.bytes();
+    damaged[3] = 0;
+    EXPECT_EQ(read(damaged, 0), unit) << "a subpicture in a pack without its start code";
+    const std::size_t subStream = 23U + damaged[22];
+    damaged[subStream] = 0x83;
+    EXPECT_EQ(read(damaged, 0), unit) << "the number of the stream alone";
+    damaged[subStream] = 0x84;
+    EXPECT_EQ(read(damaged, 0), unit) << "a stranger with a time stamp";
+    damaged[21] = 0;
+    damaged[23] = 0x31;
+    EXPECT_TRUE(read(damaged, 0).empty()) << "a stranger";
+    damaged[3] = 0xBA;
+    EXPECT_EQ(read(damaged, 0), unit) << "a stranger in a pack that begins as it should";
+}
+
+TEST_F(VobSubPacks, a_file_that_is_cut_anywhere_gives_whole_units_or_none) {
+    for (const Layout& layout : {Layout{.foreignPacks = 1}, Layout{.packSize = 800, .stuffing = 2, .fillBetween = 3}}) {
+        vobsub::DataWriter writer;
+        const Bytes unit = largeUnit(1);
+        const std::int64_t position = writer.append(unit, 3, 0, layout);
+        const QString path = write(writer.bytes());
+        qsizetype whole = 0;
+        for (auto size = static_cast<qint64>(writer.bytes().size()); size >= 0; --size) {
+            ASSERT_TRUE(QFile::resize(path, size));
+            const auto file = DataFile::open(path);
+            const Bytes found = read(*file, position);
+            whole += found.empty() ? 0 : 1;
+            ASSERT_TRUE(found.empty() || found == unit) << size;
+        }
+        EXPECT_GT(whole, 0);
+    }
+}
+
+TEST_F(VobSubPacks, a_file_that_shrinks_while_it_is_read_ends) {
+    vobsub::DataWriter writer;
+    for (int i = 0; i < 100; ++i)
+        writer.append(largeUnit(1), 3, 0);
+    const QString path = write(writer.bytes());
+    const auto file = DataFile::open(path);
+    EXPECT_FALSE(read(*file, 0).empty());
+    ASSERT_TRUE(QFile::resize(path, 100));
+    EXPECT_TRUE(read(*file, static_cast<std::int64_t>(writer.bytes().size()) - 100'000).empty());
+}
+
+TEST_F(VobSubPacks, only_so_many_strange_bytes_are_passed_over) {
+    constexpr std::int64_t packet = 65541;
+    const auto packets = [](std::int64_t bytes) { return bytes / packet; };
+    for (const bool isTooMuch : {false, true}) {
+        vobsub::DataWriter writer;
+        const Bytes unit = largeUnit(1);
+        writer.append(unit, 3, 0);
+        const QString path = write(writer.bytes());
+        // The rest of the unit moves behind packets of video, whose payloads are holes of the file.
+        const std::int64_t count = packets(PackReader::mostSkipped) + (isTooMuch ? 1 : -1);
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.resize(2048));
+        for (std::int64_t i = 0; i < count; ++i) {
+            file.seek(2048 + i * packet);
+            file.write("\x00\x00\x01\xE0\xFF\xFF", 6);
+        }
+        file.seek(2048 + count * packet);
+        file.write(reinterpret_cast<const char*>(writer.bytes().data()) + 2048,
+                   static_cast<qint64>(writer.bytes().size()) - 2048);
+        file.close();
+        const auto data = DataFile::open(path);
+        EXPECT_EQ(read(*data, 0), isTooMuch ? Bytes() : unit);
+        abort = true;
+        EXPECT_TRUE(read(*data, 0).empty()) << "while it gives up";
+        abort = false;
+    }
+}
+
+TEST_F(VobSubPacks, what_cannot_be_read_is_said) {
+    vobsub::DataWriter writer;
+    Bytes unit = smallUnit(1);
+    writer.append(unit, 3, 0);
+    unit[2] = 0xFF; // control sequences far away
+    const std::int64_t malformedAt = writer.append(unit, 3, 0);
+    unit[0] = unit[1] = 0;
+    const std::int64_t emptyAt = writer.append(unit, 3, 0);
+    const auto end = static_cast<std::int64_t>(writer.bytes().size());
+    const auto file = DataFile::open(write(writer.bytes()));
+    PackReader reader(*file, 3, abort);
+    const std::pair<std::int64_t, const char*> cases[] = {
+        {malformedAt, "WARNING: QVVobSubPacket: Wrong subpicture parameter block ending"},
+        {emptyAt, ""},
+        {end, "ERROR: QVVobSubPacket: Unable to read data from file "},
+        {-1, "ERROR: QVVobSubPacket: Unable to read data from file "},
+        {std::numeric_limits<std::int64_t>::max(), "ERROR: QVVobSubPacket: Unable to read data from file "},
+        {std::numeric_limits<std::int64_t>::min(), "ERROR: QVVobSubPacket: Unable to read data from file "},
+    };
+    for (const auto& [position, line] : cases) {
+        const CapturedLog log;
+        EXPECT_FALSE(QVVobSubPacket::packetWithFile(reader, {._pos = position}));
+        EXPECT_EQ(log.lines().size(), *line ? 1 : 0) << position;
+        EXPECT_TRUE(!*line || log.lines().join(u' ').startsWith(QString::fromLatin1(line))) << position;
+    }
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_FALSE(DataFile::open(pipe));
+    EXPECT_FALSE(DataFile::open(folder.path()));
+}
