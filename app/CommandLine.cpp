@@ -36,7 +36,7 @@ private:
         if (name == QStringLiteral("--set"))
             setting(value(name));
         else if (name == QStringLiteral("--images"))
-            _result.imagesFolder = value(name);
+            imagesFolder(value(name));
         else if (name == QStringLiteral("--time-scale"))
             _result.timeScale = number(name, 1, 1'000'000'000);
         else if (name == QStringLiteral("--fps"))
@@ -80,6 +80,13 @@ private:
                      .arg(text));
         }
         return result;
+    }
+
+    void imagesFolder(const QString& text) {
+        if (text.isEmpty())
+            fail(QStringLiteral("option '--images' takes a folder"));
+        else
+            _result.imagesFolder = QDir::cleanPath(QDir(_folder).absoluteFilePath(text));
     }
 
     void encoding(const QString& text) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Inspection.h"
 
+#include "app/CueImages.h"
 #include "app/OpeningFiles.h"
 #include "platform/base/NumberText.h"
 #include "platform/movie/MovieToolkit.h"
@@ -63,28 +64,45 @@ QJsonArray describeTracks(const QVMovie& movie) {
     return tracks;
 }
 
-QJsonArray describeCues(const QVSubtitles& track, std::int32_t timeScale) {
+/// What a text cue says, or where a picture stands and what file holds it.
+void describeContent(const QVSubtitle& cue, const QString& image, QJsonObject& object) {
+    if (!cue.image()) {
+        object.insert(QStringLiteral("text"), cue.text());
+        return;
+    }
+    const QRectF rect = cue.rect();
+    object.insert(QStringLiteral("rect"), QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()});
+    object.insert(QStringLiteral("forced"), cue.forced());
+    if (!image.isEmpty())
+        object.insert(QStringLiteral("image"), image);
+}
+
+QJsonArray describeCues(const QVSubtitles& track, std::int32_t timeScale, CueImages& images) {
     const auto milliseconds = [timeScale](std::int32_t time) { return qint64{time} * 1000 / timeScale; };
     QJsonArray cues;
+    std::size_t number = 0;
     for (const std::shared_ptr<QVSubtitle>& cue : track.cues()) {
-        cues.append(QJsonObject{{QStringLiteral("start"), cue->start()},
-                                {QStringLiteral("end"), cue->end()},
-                                {QStringLiteral("startMs"), milliseconds(cue->start())},
-                                {QStringLiteral("endMs"), milliseconds(cue->end())},
-                                {QStringLiteral("text"), cue->text()}});
+        QJsonObject object{{QStringLiteral("start"), cue->start()},
+                           {QStringLiteral("end"), cue->end()},
+                           {QStringLiteral("startMs"), milliseconds(cue->start())},
+                           {QStringLiteral("endMs"), milliseconds(cue->end())}};
+        describeContent(*cue, images.write(track, ++number, *cue), object);
+        cues.append(object);
     }
     return cues;
 }
 
 /// The tracks of a subtitle file, loaded; none for other files.
-QJsonArray describeSubtitleFile(const QString& path, SubtitleOwner& owner) {
+QJsonArray describeSubtitleFile(const QString& path, SubtitleOwner& owner, CueImages& images) {
     QJsonArray tracks;
     for (const std::shared_ptr<QVSubtitles>& track : SubtitleRegistry::shared().subtitlesWithFilePath(path, owner)) {
         track->preload();
+        track->waitForLoading();
         QJsonObject object = describeTrack(*track, owner.timeScale());
         object.insert(QStringLiteral("encoding"), static_cast<qint64>(track->encoding()));
-        object.insert(QStringLiteral("cues"), describeCues(*track, owner.timeScale()));
+        object.insert(QStringLiteral("cues"), describeCues(*track, owner.timeScale(), images));
         tracks.append(object);
+        track->unload();
     }
     return tracks;
 }
@@ -114,10 +132,11 @@ InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToo
     InspectionResult result;
     QJsonArray objects;
     NoMovie owner(subtitles.timeScale);
+    CueImages images(subtitles.imagesFolder);
     for (const QString& name : pathsOrUrls) {
         const QUrl url = isURLString(name) ? QUrl(name) : QUrl::fromLocalFile(name);
         const auto addSubtitleFile = [&] {
-            const QJsonArray tracks = describeSubtitleFile(url.toLocalFile(), owner);
+            const QJsonArray tracks = describeSubtitleFile(url.toLocalFile(), owner, images);
             if (!tracks.isEmpty())
                 objects.append(QJsonObject{{QStringLiteral("path"), name}, {QStringLiteral("tracks"), tracks}});
             return !tracks.isEmpty();
@@ -131,6 +150,8 @@ InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToo
             result.errors.append(
                 QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(toolkit.stickyError()));
     }
+    if (!images.error().isEmpty())
+        result.errors.append(images.error());
     result.json = QJsonDocument(objects).toJson(QJsonDocument::Compact) + '\n';
     return result;
 }

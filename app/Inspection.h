@@ -13,13 +13,15 @@ class MovieToolkit;
 /// What stands in for a movie where subtitle files are looked at alone.
 struct InspectedSubtitles {
     std::int32_t timeScale = 600;
+    /// Where the pictures of bitmap cues are written to; empty for nowhere.
+    QString imagesFolder = {};
 };
 
 /// What --inspect answers.
 struct InspectionResult {
     /// A JSON array, an object for each file in the order given.
     QByteArray json;
-    /// A line for each file that could not be read; those have no object.
+    /// A line for each file that could not be read; those have no object. One more when pictures could not be written.
     QStringList errors;
 };
 

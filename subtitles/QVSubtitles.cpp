@@ -87,6 +87,7 @@ void QVSubtitles::preload() {
         return;
     }
     _abort = false;
+    _loading = isThreaded();
     if (isThreaded())
         _worker = std::thread([this] { _workerThread(); });
     else
@@ -101,6 +102,12 @@ void QVSubtitles::_workerThread() {
         logAlways("ERROR: %@: Unable to allocate storage for subtitles. Memory full?", className());
         finishLoading();
     }
+    _loading = false;
+}
+
+void QVSubtitles::waitForLoading() {
+    if (_worker.joinable())
+        _worker.join();
 }
 
 void QVSubtitles::stopWorker() {

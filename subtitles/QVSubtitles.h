@@ -47,8 +47,12 @@ public:
     /// Loads the cues as the settings for encoding and frame rate stand, unless they are loaded or being loaded. A
     /// threaded track returns at once and is filled by a worker. What cannot be read is logged and gives no cues.
     virtual void preload();
+    /// Returns when all cues are there; nothing unless a worker is loading.
+    void waitForLoading();
     /// Stops a worker, waiting for its current cue, and drops the cues.
     virtual void unload();
+    /// A worker is still at it.
+    virtual bool isLoading() const { return _loading; }
     /// Puts the cursor on the first cue; nothing without cues. Any thread.
     void reset();
     /// The cue to show at a time, or none. The search begins where the last one ended: playing forward it is a
@@ -190,4 +194,5 @@ private:
     std::atomic<bool> _resetAsked = false;
     std::unique_ptr<Guards> _guards;
     std::thread _worker;
+    std::atomic<bool> _loading = false;
 };

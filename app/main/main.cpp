@@ -138,7 +138,7 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         defaults.setOverride(kQVSubtitlesDefaultEncoding, static_cast<qint64>(line.encoding));
     if (line.frameRateChoice != 0)
         defaults.setOverride(kQVSubtitlesDefaultFPS, line.frameRateChoice);
-    const InspectionResult result = inspectFiles(line.files, toolkit, {line.timeScale});
+    const InspectionResult result = inspectFiles(line.files, toolkit, {line.timeScale, line.imagesFolder});
     std::fwrite(result.json.constData(), 1, static_cast<std::size_t>(result.json.size()), stdout);
     for (const QString& error : result.errors)
         complain(error);

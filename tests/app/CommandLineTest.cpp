@@ -57,11 +57,12 @@ TEST(CommandLine, wrong_usage_names_what_is_wrong) {
         const char* named;
     };
     for (const Case& c :
-         {Case{"--fast a", "'--fast'"}, Case{"-x", "'-x'"}, Case{"--append=1", "'--append=1'"},
-          Case{"--set", "'--set' needs"}, Case{"--set novalue", "'novalue'"}, Case{"--set =x", "'=x'"},
-          Case{"--images", "'--images' needs"}, Case{"--fps 6 --inspect a", "0 to 5"}, Case{"--time-scale 0", "'0'"},
-          Case{"--time-scale 99999999999", "'99999999999'"}, Case{"--fps=", "''"}, Case{"--encoding utf8", "'utf8'"},
-          Case{"--inspect", "needs a file"}, Case{"--unknown --also", "'--unknown'"}}) {
+         {Case{"--fast a", "'--fast'"}, Case{"--images= --inspect a", "'--images'"}, Case{"-x", "'-x'"},
+          Case{"--append=1", "'--append=1'"}, Case{"--set", "'--set' needs"}, Case{"--set novalue", "'novalue'"},
+          Case{"--set =x", "'=x'"}, Case{"--images", "'--images' needs"}, Case{"--fps 6 --inspect a", "0 to 5"},
+          Case{"--time-scale 0", "'0'"}, Case{"--time-scale 99999999999", "'99999999999'"}, Case{"--fps=", "''"},
+          Case{"--encoding utf8", "'utf8'"}, Case{"--inspect", "needs a file"},
+          Case{"--unknown --also", "'--unknown'"}}) {
         const CommandLine line = parse(c.words);
         EXPECT_NE(line.error.toStdString().find(c.named), std::string::npos)
             << c.words << ": " << line.error.toStdString();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Data files that come out of archives: what is taken, what is refused, and that nothing stays behind.
+#include "app/settings/Tracing.h"
 #include "platform/base/PrivateFolder.h"
 #include "subtitles/vobsub/QVVobSubInfo.h"
 #include "subtitles/vobsub/SubFileSearch.h"
@@ -143,6 +144,21 @@ TEST_F(Archives, the_tool_that_is_missing_is_told_of) {
     qputenv("PATH", resources);
     EXPECT_EQ(info->subPath(), QString());
     EXPECT_EQ(leftBehind(), QStringList());
+}
+
+TEST_F(Archives, the_search_is_traced) {
+    gTracingEnabled = true;
+    infoWithArchive(rarArchive(RarFormat::rar4, {{"film.sub", "inside"}}));
+    gTracingEnabled = false;
+    const QStringList expected = {QStringLiteral("QVVobSubInfo: Start parsing \"film.idx\""),
+                                  QStringLiteral("QVVobSubInfo: End parsing \"film.idx\", 1 streams found."),
+                                  QStringLiteral("QVVobSubInfo: Locating VobSub data file."),
+                                  QStringLiteral("QVVobSubInfo: Processing \"film.rar\""),
+                                  QStringLiteral("QVVobSubInfo: Launching UNRAR:"),
+                                  QStringLiteral("1 files, 6 bytes"),
+                                  QStringLiteral("QVVobSubInfo: UNRAR terminates with staus: 0"),
+                                  QStringLiteral("QVVobSubInfo: VobSub data file \"film.sub\"")};
+    EXPECT_EQ(log.lines(), expected);
 }
 
 TEST_F(Archives, extensions_are_found_in_any_case) {
