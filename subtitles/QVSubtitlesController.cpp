@@ -80,7 +80,22 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
         _setView(viewFor(*track));
     }
     showCueOfNow();
+    followLoading();
     announce();
+}
+
+/// A cue that a worker reads after it was looked for would not be seen while no picture is due: while the movie stands.
+void QVSubtitlesController::followLoading() {
+    _loadingTimer.reset();
+    if (!_current || !_current->isLoading())
+        return;
+    constexpr double interval = 0.05;
+    _loadingTimer = platform::RunLoop::main().schedule(interval, true, [this] {
+        const bool done = !_current || !_current->isLoading();
+        showCueOfNow();
+        if (done)
+            _loadingTimer.reset();
+    });
 }
 
 /// Images are large: those of one track at a time are kept.

@@ -4,6 +4,7 @@
 #include "app/context/Notifications.h"
 #include "app/settings/QVPreferencesChangedNotification.h"
 #include "platform/base/NotificationCenter.h"
+#include "platform/base/RunLoop.h"
 #include "subtitles/QVSubtitles.h"
 
 #include <QString>
@@ -66,6 +67,7 @@ private:
     void _setView(SubtitleView* view);
     bool switchDisplay(bool flag);
     void showCueOfNow();
+    void followLoading();
     void give(const std::shared_ptr<QVSubtitle>& cue);
     void announce();
 
@@ -86,6 +88,7 @@ private:
     std::uint32_t _savedIndex = 0;
     std::int32_t _preferredType = -1;
     std::uint32_t _preferredIndex = 0;
+    std::unique_ptr<platform::Timer> _loadingTimer;
     platform::Subscription _onMovie;
     platform::Subscription _onTime;
     platform::Subscription _onPreferences;

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The subtitles that lie beside a movie, on the screen: which, when, and after which keys.
-#include "tests/e2e/PlayerFixture.h"
+#include "tests/e2e/SubtitledMovie.h"
 
 #include <algorithm>
-#include <fstream>
-#include <map>
 #include <string>
 
 using namespace harness;
 
 namespace {
-
-using Files = std::map<std::string, std::string>; // extension and content
 
 // "First words" from 1 to 3 s, two lines from 5 to 7 s, in each format; TMPlayer has no ends, and fills the gap.
 const char* const subRip = "1\n00:00:01,000 --> 00:00:03,000\nFirst words\n\n"
@@ -19,35 +15,8 @@ const char* const subRip = "1\n00:00:01,000 --> 00:00:03,000\nFirst words\n\n"
 const char* const microDVD = "{30}{90}First words\n{150}{210}A second cue|of two lines\n";
 const char* const tmPlayer = "00:00:01:First words\n00:00:05:A second cue|of two lines\n";
 
-class Subtitles : public PlayerFixture {
+class Subtitles : public SubtitledMovie {
 protected:
-    // A red movie of ten seconds, numbered, in a folder of its own with subtitles beside it.
-    std::string movie(const Files& subtitles) {
-        const std::filesystem::path folder = user.folder() / ("movies" + std::to_string(++_folders));
-        std::filesystem::create_directories(folder);
-        for (const auto& [extension, content] : subtitles)
-            std::ofstream(folder / ("film." + extension), std::ios::binary) << content;
-        std::filesystem::create_symlink(numbered("subtitled.mp4", red, 300), folder / "film.mp4");
-        return (folder / "film.mp4").string();
-    }
-
-    // Stands at the beginning of the movie; each jump is of two seconds.
-    void startPaused(const std::string& file, std::vector<std::string> options = {}) {
-        options.insert(options.end(), {"--set", "QVJumpInterval=2", file});
-        start(options);
-        ASSERT_TRUE(frameBecomes([](int) { return true; }, "any"));
-        probe.tap(XK_space);
-        ASSERT_TRUE(logs("QVMovieView: Stop Playing movie"));
-        ASSERT_TRUE(settledFrame());
-        probe.tap(XK_Left, {XK_Alt_L});
-        ASSERT_TRUE(frameBecomes(0));
-    }
-
-    void jump(int direction, int seconds) {
-        probe.tap(direction > 0 ? XK_Right : XK_Left, {XK_Control_L});
-        ASSERT_TRUE(frameBecomes(seconds * 30));
-    }
-
     // The white of letters in the lower quarter of the screen, as a mask; empty without any.
     std::vector<bool> letters() {
         const Region part{0, screenHeight * 3 / 4, screenWidth, screenHeight / 4};
@@ -76,9 +45,6 @@ protected:
     bool cueBecomes(const std::vector<bool>& wanted) {
         return waitUntil([&] { return letters() == wanted; });
     }
-
-private:
-    int _folders = 0;
 };
 
 } // namespace

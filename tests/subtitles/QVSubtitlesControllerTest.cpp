@@ -30,8 +30,10 @@ public:
             _cues.push_back(std::make_shared<QVSubtitle>(QString(text), from * second, (from + 1) * second));
     }
     bool loaded = false;
+    bool loading = false; // its cues come later, while the movie stands
 
-    void preload() override { loaded = true; }
+    void preload() override { loaded = !loading; }
+    bool isLoading() const override { return loading; }
     void unload() override { loaded = false; }
     std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time) override {
         const auto due = [&](const auto& cue) { return cue->start() <= time && time <= cue->end(); };
@@ -321,4 +323,23 @@ TEST_F(SubtitlesController, an_index_says_how_its_images_come_and_go) {
     controller.setCurrenWithIndex(1);
     EXPECT_EQ(taken(scene.image), (QStringList{QStringLiteral("alpha 0.75"), QStringLiteral("in 0.1"),
                                                QStringLiteral("out 0.25"), QStringLiteral("nothing")}));
+}
+
+TEST_F(SubtitlesController, a_standing_movie_shows_the_cue_that_a_worker_reads_at_last) {
+    const auto shown = movie({QStringLiteral("2-0 a")});
+    const auto track = std::static_pointer_cast<Track>(shown->subtitles().front());
+    track->loading = true;
+    rig.view.setMovie(shown);
+    rig.settings.runLoop.advance(1);
+    const std::size_t pending = rig.settings.runLoop.pendingCount();
+    post(QVPlaylistMovieChangedNotification{shown});
+    shown->setTime(second);
+    rig.settings.runLoop.advance(1);
+    EXPECT_EQ(taken(scene.image), QStringList());
+    track->loaded = true;
+    rig.settings.runLoop.advance(0.1);
+    EXPECT_EQ(taken(scene.image), (QStringList{QStringLiteral("front"), QStringLiteral("A")}));
+    track->loading = false;
+    rig.settings.runLoop.advance(0.1);
+    EXPECT_EQ(rig.settings.runLoop.pendingCount(), pending) << "it still looks for cues";
 }

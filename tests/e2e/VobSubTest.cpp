@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Bitmap subtitles beside a movie, on the screen: where, when, out of which file and in which language.
+#include "tests/e2e/SubtitledMovie.h"
+#include "tests/support/RarWriter.h"
+#include "tools/vobsub/VobSubWriter.h"
+
+#include <algorithm>
+#include <iostream>
+
+using namespace harness;
+
+namespace {
+
+// Where something blue stands on the screen; width 0 for nowhere.
+struct Box {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+};
+
+std::ostream& operator<<(std::ostream& out, const Box& box) {
+    return out << box.width << "x" << box.height << " at " << box.x << "," << box.y;
+}
+
+class VobSub : public SubtitledMovie {
+protected:
+    static constexpr std::uint8_t blueOfPalette = 6;
+
+    // A blue rectangle within a transparent margin, in a frame of 720 by 480.
+    static vobsub::Subpicture rectangle(int x, int y, int width, int height) {
+        constexpr int margin = 10;
+        vobsub::Subpicture picture{.bitmap = {width + 2 * margin, height + 2 * margin}};
+        picture.bitmap.fill(margin, margin, width, height, 1);
+        picture.x = x - margin;
+        picture.y = y - margin;
+        picture.colors[1] = blueOfPalette;
+        picture.stop = 2000 * 90 / 1024; // two seconds
+        return picture;
+    }
+    // English: below on the left from 1 to 3 s, wide and on the right from 5 to 7 s. German: in the middle, all along.
+    static vobsub::PairWriter pair() {
+        vobsub::PairWriter writer;
+        writer.addStream("en");
+        writer.addStream("de");
+        vobsub::Subpicture german = rectangle(300, 240, 60, 60);
+        german.stop.reset();
+        writer.add(1, 0, german);
+        writer.add(0, 1000, rectangle(90, 400, 180, 40), {.foreignPacks = 1});
+        writer.add(0, 5000, rectangle(360, 320, 270, 80));
+        writer.add(1, 9000, german);
+        return writer;
+    }
+    static std::string dataOf(const vobsub::PairWriter& writer) {
+        const auto& bytes = const_cast<vobsub::PairWriter&>(writer).data().bytes();
+        return {bytes.begin(), bytes.end()};
+    }
+
+    Box blueBox() {
+        const Picture picture = probe.picture({0, 0, screenWidth, screenHeight});
+        int left = screenWidth, right = -1, top = screenHeight, bottom = -1;
+        for (int y = 0; y < screenHeight; ++y)
+            for (int x = 0; x < screenWidth; ++x) {
+                const std::uint32_t pixel = picture.pixels[static_cast<std::size_t>(y * screenWidth + x)];
+                if ((pixel & 0xFF) < 128 || (pixel >> 16 & 0xFF) > 127 || (pixel >> 8 & 0xFF) > 127)
+                    continue;
+                left = std::min(left, x), right = std::max(right, x);
+                top = std::min(top, y), bottom = std::max(bottom, y);
+            }
+        return right < 0 ? Box() : Box{left, top, right - left + 1, bottom - top + 1};
+    }
+    // The rectangle comes to stand where the frame, as large as the screen, has it.
+    testing::AssertionResult standsAt(int x, int y, int width, int height) {
+        const auto scaled = [](int pixels, int shown, int of) { return pixels * shown / of; };
+        const Box wanted{scaled(x, screenWidth, 720), scaled(y, screenHeight, 480), scaled(width, screenWidth, 720),
+                         scaled(height, screenHeight, 480)};
+        constexpr int blurred = 2; // the edges of an enlarged picture
+        Box seen;
+        const bool stands = waitUntil([&] {
+            seen = blueBox();
+            const auto near = [](int a, int b) { return std::abs(a - b) <= blurred; };
+            return near(seen.x, wanted.x) && near(seen.y, wanted.y) && near(seen.width, wanted.width) &&
+                   near(seen.height, wanted.height);
+        });
+        return stands ? testing::AssertionSuccess() : testing::AssertionFailure() << seen << " instead of " << wanted;
+    }
+    bool nothingStands() {
+        return waitUntil([&] { return blueBox().width == 0; }) &&
+               staysTrue([&] { return blueBox().width == 0; }, Seconds(0.15));
+    }
+};
+
+} // namespace
+
+TEST_F(VobSub, cues_stand_at_their_times_and_places_out_of_a_pair_and_out_of_archives) {
+    const vobsub::PairWriter writer = pair();
+    const auto archive = [&](RarFormat format) {
+        const std::string data = dataOf(writer);
+        return rarArchive(format, {{"Film.SUB", QByteArray(data.data(), static_cast<qsizetype>(data.size()))}})
+            .toStdString();
+    };
+    for (const Files& data : {Files{{"sub", dataOf(writer)}}, Files{{"rar", archive(RarFormat::rar4)}},
+                              Files{{"rar", archive(RarFormat::rar5)}}}) {
+        SCOPED_TRACE(data.begin()->first);
+        Files files = data;
+        files["idx"] = writer.index();
+        startPaused(movie(files));
+        EXPECT_TRUE(logs("QVSubtitlesController: Switching to subtitles stream: \"English, film.idx\""));
+        EXPECT_TRUE(nothingStands());
+        jump(1, 2);
+        EXPECT_TRUE(standsAt(90, 400, 180, 40));
+        jump(1, 4);
+        EXPECT_TRUE(nothingStands());
+        jump(1, 6);
+        EXPECT_TRUE(standsAt(360, 320, 270, 80));
+        jump(-1, 4);
+        EXPECT_TRUE(nothingStands());
+        jump(-1, 2);
+        EXPECT_TRUE(standsAt(90, 400, 180, 40));
+        ASSERT_TRUE(quitsCleanly());
+    }
+}
+
+TEST_F(VobSub, the_chosen_language_follows_to_the_next_movie_and_the_picture_scales_it) {
+    const Files files{{"idx", pair().index()}, {"sub", dataOf(pair())}};
+    const std::string next = movie(files);
+    startPaused(movie(files), {next});
+    EXPECT_TRUE(nothingStands());
+    probe.tap(XK_s);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: German, film.idx (2/2)"));
+    EXPECT_TRUE(standsAt(300, 240, 60, 60));
+    probe.tap(XK_s);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: Off"));
+    EXPECT_TRUE(nothingStands());
+    probe.tap(XK_s, {XK_Shift_L});
+    EXPECT_TRUE(standsAt(300, 240, 60, 60));
+    const std::size_t from = player->lineCount();
+    probe.tap(XK_Next);
+    ASSERT_TRUE(logs("QVSubtitlesController: Switching to subtitles stream: \"German, film.idx\"", from));
+    EXPECT_TRUE(standsAt(300, 240, 60, 60));
+    // A smaller picture takes them along.
+    const Box full = blueBox();
+    probe.tap(XK_minus);
+    probe.tap(XK_minus);
+    EXPECT_TRUE(waitUntil([&] {
+        const Box box = blueBox();
+        return box.width > 0 && box.width < full.width - 2 && box.height < full.height - 2;
+    }));
+    ASSERT_TRUE(quitsCleanly());
+}
