@@ -1,11 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Bitmap subtitles of a DVD: reading an index.
+// Bitmap subtitles of a DVD: reading an index, and loading the pictures of a film.
+#include "platform/base/QtRunLoop.h"
+#include "platform/base/UserDefaults.h"
 #include "subtitles/vobsub/IndexParser.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
+#include "tools/vobsub/VobSubWriter.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <malloc.h>
+#include <random>
 #include <string>
+#include <sys/resource.h>
+#include <thread>
+#include <vector>
 
 namespace {
 
@@ -45,6 +62,175 @@ void readingAMillionPositions(benchmark::State& state) {
 }
 BENCHMARK(readingAMillionPositions)->Unit(benchmark::kMillisecond);
 
+constexpr std::size_t cueCount = 1500;
+
+class NoMovie final : public SubtitleOwner {
+public:
+    std::int32_t timeScale() const override { return 600; }
+    float frameRate() override { return 25; }
+    std::int32_t time() const override { return 0; }
+};
+
+/// Settings that are the shipped ones and are not kept.
+class Settings {
+public:
+    Settings() {
+        class Nowhere final : public platform::SettingsStorage {
+            QVariantMap load() override { return {}; }
+            bool store(const QVariantMap&) override { return true; }
+        };
+        platform::RunLoop::setMain(&_loop);
+        _defaults = std::make_unique<platform::UserDefaults>(std::make_unique<Nowhere>());
+        platform::UserDefaults::setStandard(_defaults.get());
+    }
+
+private:
+    platform::QtRunLoop _loop;
+    std::unique_ptr<platform::UserDefaults> _defaults;
+};
+
+/// Two lines of letters, as far as run lengths are concerned: strokes with outlines, and room between the lines.
+vobsub::Subpicture lettersLike(unsigned seed) {
+    std::mt19937 random(seed);
+    vobsub::Subpicture subpicture{.bitmap = {720, 100}};
+    subpicture.y = 460;
+    subpicture.stop = 300;
+    vobsub::Bitmap& bitmap = subpicture.bitmap;
+    for (const int top : {6, 54}) {
+        for (int x = 20; x < 690;) {
+            const int stroke = 4 + static_cast<int>(random() % 3);
+            const int height = 24 + static_cast<int>(random() % 16);
+            bitmap.fill(x - 2, top - 2, stroke + 4, height + 4, 2);
+            for (int y = 0; y < height; ++y) // slanted, so that lines differ
+                bitmap.fill(x + y % 2, top + y, stroke - 1, 1, 1);
+            x += stroke + 6 + static_cast<int>(random() % 10);
+        }
+    }
+    return subpicture;
+}
+
+/// A film of two hours.
+class Film {
+public:
+    Film() {
+        vobsub::PairWriter pair;
+        pair.height = 576;
+        pair.addStream("en");
+        for (std::size_t i = 0; i < cueCount; ++i)
+            pair.add(0, static_cast<std::int64_t>(i) * 4800, lettersLike(static_cast<unsigned>(i)));
+        if (!pair.write(base.toStdString()))
+            std::abort();
+        size = pair.data().bytes().size();
+    }
+    std::shared_ptr<QVSubtitles> open() {
+        return QVVobSubSubtitles::subtitlesWithFilePath(base + QStringLiteral(".idx"), owner).front();
+    }
+
+    QTemporaryDir folder;
+    QString base = folder.filePath(QStringLiteral("film"));
+    std::size_t size = 0;
+    NoMovie owner;
+};
+
+Film& film() {
+    static Film made;
+    return made;
+}
+
+void waitFor(QVSubtitles& track, std::size_t count) {
+    while (track.count() < count)
+        std::this_thread::sleep_for(std::chrono::microseconds(200));
+}
+
+double cpuSeconds() {
+    timespec time{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+double cpuSecondsOfChildren() {
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+/// CPU time of loading a film's pictures, and how much of that of ffmpeg on the same pair; 0.5 is the most it may be.
+/// The memory of all cues may be 60 MB.
+void loadingAFilm(benchmark::State& state) {
+    double cpu = 0;
+    double memory = 0;
+    for ([[maybe_unused]] const auto step : state) {
+        const auto track = film().open();
+        const auto before = mallinfo2();
+        const double begin = cpuSeconds();
+        track->preload();
+        waitFor(*track, cueCount);
+        const double spent = cpuSeconds() - begin;
+        const auto after = mallinfo2();
+        state.SetIterationTime(spent);
+        cpu += spent;
+        memory = static_cast<double>(after.uordblks + after.hblkhd - before.uordblks - before.hblkhd);
+    }
+    const std::string idx = film().base.toStdString() + ".idx";
+    const double begin = cpuSecondsOfChildren();
+    constexpr int runs = 5;
+    for (int i = 0; i < runs; ++i)
+        if (std::system(("ffmpeg -nostdin -v error -i '" + idx + "' -map 0:s:0 -c:s dvdsub -f null -").c_str()) != 0)
+            state.SkipWithError("ffmpeg failed");
+    const double reference = (cpuSecondsOfChildren() - begin) / runs;
+    const auto iterations = static_cast<double>(state.iterations());
+    state.SetBytesProcessed(static_cast<std::int64_t>(film().size) * state.iterations());
+    state.counters["ffmpegMs"] = reference * 1000;
+    state.counters["toFfmpeg"] = cpu / iterations / reference;
+    state.counters["memoryMB"] = memory / 1e6;
+}
+BENCHMARK(loadingAFilm)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(20);
+
+/// The longest that one call of the main thread takes while the worker loads; 5 ms are the most it may be.
+void lookingUpWhileItLoads(benchmark::State& state) {
+    using Clock = std::chrono::steady_clock;
+    std::vector<double> longestOfLoads;
+    for ([[maybe_unused]] const auto step : state) {
+        const auto track = film().open();
+        double longest = 0;
+        const auto timed = [&](auto work) {
+            const auto begin = Clock::now();
+            work();
+            longest = std::max(longest, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
+        };
+        timed([&] { track->preload(); });
+        for (std::int32_t time = 0; track->count() < cueCount; time = (time + 2880) % (7200 * 600))
+            timed([&] { benchmark::DoNotOptimize(track->subtitleForTime(time)); });
+        timed([&] { track->unload(); });
+        longestOfLoads.push_back(longest);
+    }
+    // On a busy machine some calls wait for a turn of the processor.
+    std::sort(longestOfLoads.begin(), longestOfLoads.end());
+    state.counters["longestMs"] = longestOfLoads[longestOfLoads.size() / 2];
+    state.counters["worstMs"] = longestOfLoads.back();
+}
+BENCHMARK(lookingUpWhileItLoads)->Unit(benchmark::kMillisecond)->Iterations(20);
+
+/// From the kept run lengths to pixels.
+void expandingAPicture(benchmark::State& state) {
+    const auto track = film().open();
+    track->preload();
+    waitFor(*track, cueCount);
+    const auto cue = track->cues().front();
+    for ([[maybe_unused]] const auto step : state)
+        benchmark::DoNotOptimize(cue->image()->expanded());
+}
+BENCHMARK(expandingAPicture)->Unit(benchmark::kMicrosecond);
+
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int count, char** arguments) {
+    const QCoreApplication application(count, arguments);
+    const Settings settings;
+    benchmark::Initialize(&count, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

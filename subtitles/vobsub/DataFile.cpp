@@ -44,7 +44,8 @@ std::span<const std::uint8_t> DataFile::at(std::int64_t position, std::size_t co
         return {};
     count = std::min(count, windowSize);
     const auto filledTo = [this] { return _windowStart + static_cast<std::int64_t>(_windowFilled); };
-    if (position < _windowStart || position + static_cast<std::int64_t>(count) > filledTo())
+    const std::int64_t end = std::min(position + static_cast<std::int64_t>(count), _size);
+    if (position < _windowStart || end > filledTo())
         fill(std::max<std::int64_t>(0, position - lookedAtBefore));
     if (position >= filledTo())
         return {};
@@ -53,7 +54,8 @@ std::span<const std::uint8_t> DataFile::at(std::int64_t position, std::size_t co
 }
 
 void DataFile::fill(std::int64_t position) {
-    _window.resize(windowSize + static_cast<std::size_t>(lookedAtBefore));
+    const auto left = static_cast<std::uint64_t>(std::max<std::int64_t>(0, _size - position));
+    _window.resize(std::min<std::uint64_t>(windowSize + static_cast<std::size_t>(lookedAtBefore), left));
     _windowStart = position;
     _windowFilled = 0;
     while (_windowFilled < _window.size()) {
