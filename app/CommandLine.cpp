@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 
 #include "app/OpeningFiles.h"
+#include "platform/base/TextEncoding.h"
 
 #include <QDir>
 
@@ -92,8 +93,11 @@ private:
     void encoding(const QString& text) {
         bool isNumber = false;
         _result.encoding = text.toLongLong(&isNumber, 0);
-        if (_result.error.isEmpty() && !isNumber)
-            fail(QStringLiteral("option '--encoding' takes an encoding number, not '%1'").arg(text));
+        // Beyond 31 bits both a negative and a positive number mean the same encoding.
+        const auto number = static_cast<std::uint32_t>(_result.encoding);
+        const bool isKnown = isNumber && !platform::localizedNameOfTextEncoding(number).isEmpty();
+        if (_result.error.isEmpty() && !isKnown)
+            fail(QStringLiteral("option '--encoding' takes the number of an encoding, not '%1'").arg(text));
     }
 
     void setting(const QString& text) {

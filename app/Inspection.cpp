@@ -59,6 +59,8 @@ QJsonArray describeTracks(const QVMovie& movie) {
     for (const std::shared_ptr<QVSubtitles>& track : movie.subtitles()) {
         QJsonObject object = describeTrack(*track, movie.timeScale());
         object.insert(QStringLiteral("path"), track->path());
+        // It is not loaded: this is what it would be read with.
+        object.insert(QStringLiteral("encoding"), static_cast<qint64>(QVSubtitles::defaultEncoding()));
         tracks.append(object);
     }
     return tracks;

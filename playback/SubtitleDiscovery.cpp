@@ -3,6 +3,7 @@
 
 #include "platform/base/RunLoop.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
@@ -19,6 +20,7 @@ struct Listing {
     QString folder;
     QStringList extensions;
     double readAt = 0;
+    QDateTime changed; // when it was read
     /// Name in one case, and name as it is; ordered, so that those that begin alike stand together.
     std::vector<std::pair<QString, QString>> names;
 };
@@ -26,7 +28,7 @@ struct Listing {
 constexpr double keptSeconds = 1;
 
 Listing readFolder(const QString& folder, const QStringList& extensions) {
-    Listing listing{folder, extensions, platform::RunLoop::main().now(), {}};
+    Listing listing{folder, extensions, platform::RunLoop::main().now(), QFileInfo(folder).lastModified(), {}};
     // Plain files only: opening a pipe would wait for its other end.
     const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
     for (const QString& name : names) {
@@ -40,7 +42,8 @@ Listing readFolder(const QString& folder, const QStringList& extensions) {
 const Listing& listingOfFolder(const QString& folder, const QStringList& extensions) {
     static Listing kept;
     const double age = platform::RunLoop::main().now() - kept.readAt;
-    if (kept.folder != folder || kept.extensions != extensions || !(age >= 0 && age < keptSeconds))
+    if (kept.folder != folder || kept.extensions != extensions || !(age >= 0 && age < keptSeconds) ||
+        kept.changed != QFileInfo(folder).lastModified())
         kept = readFolder(folder, extensions);
     return kept;
 }

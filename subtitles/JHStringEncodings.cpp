@@ -15,6 +15,8 @@ JHStringEncodings::JHStringEncodings() {
 }
 
 std::uint32_t JHStringEncodings::encodingForLocalizedEncodingName(const QString& name) const {
+    if (name == platform::localizedNameOfTextEncoding(platform::textEncoding::automatic))
+        return platform::textEncoding::automatic;
     return _encodings.value(name, noEncoding);
 }
 

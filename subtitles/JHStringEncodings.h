@@ -20,6 +20,7 @@ public:
 
     /// Name to number. "Automatic" is not among them.
     const QHash<QString, std::uint32_t>& availableEncodings() const { return _encodings; }
+    /// "Automatic" (0) is known here.
     std::uint32_t encodingForLocalizedEncodingName(const QString& name) const;
     /// The names in the order of the numbers; a number without a name is left out and logged.
     static QStringList localizedNamesOfStringEncodings(const QList<std::uint32_t>& encodings);

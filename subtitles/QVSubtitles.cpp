@@ -281,11 +281,9 @@ void QVSubtitles::setFrameRate(std::int32_t choice) {
 
 void QVSubtitles::setEncoding(std::uint32_t encoding) {
     const auto worker = lockWorker();
-    if (encoding == _encoding || count() == 0)
-        return;
     if (encoding == platform::textEncoding::automatic)
         readAgain();
-    else
+    else if (encoding != _encoding && count() > 0)
         decodeAgain(encoding);
 }
 
@@ -303,9 +301,10 @@ void QVSubtitles::decodeAgain(std::uint32_t encoding) {
     _encoding = encoding;
 }
 
-/// The texts of the file itself take the place of those shown, cue by cue; times and cursor stay.
+/// The cues of the file itself take the place of those loaded; the cursor stays on its place. What was read in a wrong
+/// encoding may have had no cue at all.
 void QVSubtitles::readAgain() {
-    if (isThreaded() || !isTextBased())
+    if (isThreaded() || !isTextBased() || !_subtitles)
         return;
     Cues kept = std::move(*_subtitles);
     const std::uint32_t before = std::exchange(_encoding, platform::textEncoding::automatic);

@@ -106,6 +106,7 @@ std::uint32_t numberForDetected(const char* name) {
         std::uint32_t number;
     } wider[] = {{"ISO-8859-1", textEncoding::windows1252},
                  {"ISO-8859-9", 14},
+                 {"EUC-KR", 0x80000422},
                  {"ISO-8859-8-I", 0x80000505},
                  {"ISO-8859-8", 0x80000505}};
     for (const auto& entry : wider) {
@@ -117,6 +118,59 @@ std::uint32_t numberForDetected(const char* name) {
             return entry.number;
     }
     return textEncoding::automatic;
+}
+
+/// The Windows encodings have letters and quotation marks where those of ISO have control characters.
+bool hasBytesOfWindows(std::string_view bytes) {
+    return std::ranges::any_of(bytes, [](char byte) {
+        const auto value = static_cast<unsigned char>(byte);
+        return value >= 0x80 && value < 0xA0;
+    });
+}
+
+/// Slovene, which the detector does not know: its letters č, š and ž in Windows 1250 are all that a text
+/// has beyond ASCII, and in Windows 1252 two of the three hardly occur.
+bool looksSlovene(std::string_view bytes) {
+    std::size_t letters = 0;
+    std::size_t itsOwn = 0;
+    std::size_t sOrZ = 0;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        const bool hasCaron = value == 0x8A || value == 0x8E || value == 0x9A || value == 0x9E;
+        letters += value >= 0xC0 || hasCaron;
+        itsOwn += value == 0xC8 || value == 0xE8 || hasCaron;
+        sOrZ += hasCaron;
+    }
+    return itsOwn * 10 >= letters * 9 && sOrZ * 5 >= itsOwn && sOrZ > 0;
+}
+
+/// What the sample left open: the encoding of Windows that all of the bytes ask for in place of one of ISO.
+std::uint32_t widened(std::uint32_t number, std::string_view bytes) {
+    constexpr struct {
+        std::uint32_t iso;
+        std::uint32_t windows;
+    } pairs[] = {{9, 15}, {0x80000207, 13}};
+    for (const auto& pair : pairs) {
+        if (number == pair.iso && hasBytesOfWindows(bytes))
+            return pair.windows;
+    }
+    if (number == textEncoding::windows1252 && looksSlovene(bytes))
+        return 15;
+    return number;
+}
+
+/// A text of UTF-8 with a few lines that somebody spoilt; other encodings hardly ever look like it.
+bool isMostlyUTF8(std::string_view bytes) {
+    constexpr std::size_t soundForASpoiltOne = 4;
+    std::size_t sound = 0;
+    std::size_t spoilt = 0;
+    while (!bytes.empty()) {
+        const std::string_view line = bytes.substr(0, bytes.find('\n'));
+        bytes.remove_prefix(std::min(bytes.size(), line.size() + 1));
+        if (!isASCII(line))
+            ++(QUtf8StringView(line.data(), static_cast<qsizetype>(line.size())).isValidUtf8() ? sound : spoilt);
+    }
+    return sound > 0 && sound >= soundForASpoiltOne * spoilt;
 }
 
 } // namespace
@@ -225,7 +279,7 @@ std::uint32_t detectedTextEncoding(std::string_view bytes) {
         return utf16;
     constexpr char escape = '\x1B';
     const bool escapes = isASCII(bytes) && bytes.find(escape) != std::string_view::npos;
-    if (!escapes && isValidUTF8(bytes))
+    if (!escapes && (isValidUTF8(bytes) || isMostlyUTF8(bytes)))
         return utf8;
 
     const std::string sample = tellingLines(bytes, escapes ? escape : '\0');
@@ -241,7 +295,7 @@ std::uint32_t detectedTextEncoding(std::string_view bytes) {
             continue;
         const std::uint32_t number = numberForDetected(name);
         if (number == utf8 || (number != textEncoding::automatic && decodesStrictly(sample, number)))
-            return number;
+            return widened(number, bytes);
     }
     return escapes ? utf8 : textEncoding::windows1252;
 }

@@ -39,12 +39,12 @@ TEST(CommandLine, options_take_their_values_attached_or_following) {
                                                      {QStringLiteral("X"), QString()}};
     EXPECT_EQ(play.settings, expected);
 
-    const CommandLine inspect = parse("--inspect --images=/out x.srt --time-scale 1000 --fps=3 --encoding 0x8000100");
+    const CommandLine inspect = parse("--inspect --images=/out x.srt --time-scale 1000 --fps=3 --encoding 0x80000632");
     EXPECT_EQ(inspect.mode, CommandLine::Mode::inspect);
     EXPECT_EQ(inspect.imagesFolder.toStdString(), "/out");
     EXPECT_EQ(inspect.timeScale, 1000);
     EXPECT_EQ(inspect.frameRateChoice, 3);
-    EXPECT_EQ(inspect.encoding, 0x8000100);
+    EXPECT_EQ(inspect.encoding, 0x80000632);
 
     EXPECT_EQ(parse("--help").mode, CommandLine::Mode::help);
     EXPECT_EQ(parse("-h").mode, CommandLine::Mode::help);
@@ -61,7 +61,7 @@ TEST(CommandLine, wrong_usage_names_what_is_wrong) {
           Case{"--append=1", "'--append=1'"}, Case{"--set", "'--set' needs"}, Case{"--set novalue", "'novalue'"},
           Case{"--set =x", "'=x'"}, Case{"--images", "'--images' needs"}, Case{"--fps 6 --inspect a", "0 to 5"},
           Case{"--time-scale 0", "'0'"}, Case{"--time-scale 99999999999", "'99999999999'"}, Case{"--fps=", "''"},
-          Case{"--encoding utf8", "'utf8'"}, Case{"--inspect", "needs a file"},
+          Case{"--encoding utf8", "'utf8'"}, Case{"--encoding 12345", "'12345'"}, Case{"--inspect", "needs a file"},
           Case{"--unknown --also", "'--unknown'"}}) {
         const CommandLine line = parse(c.words);
         EXPECT_NE(line.error.toStdString().find(c.named), std::string::npos)

@@ -104,6 +104,7 @@ TEST(TextEncoding, the_list_has_a_name_for_each_number_and_finds_it_again) {
     }
     for (const std::uint32_t number : {1U, 3U, 4U, 5U, 8U, 9U, 10U, 11U, 12U, 13U, 14U, 15U, 21U, 30U, 0x80000632U})
         EXPECT_FALSE(localizedNameOfTextEncoding(number).isEmpty()) << number;
+    EXPECT_EQ(manager.encodingForLocalizedEncodingName(localizedNameOfTextEncoding(0)), 0U);
     EXPECT_EQ(manager.encodingForLocalizedEncodingName(QStringLiteral("None such")), JHStringEncodings::noEncoding);
     CapturedLog log;
     EXPECT_EQ(JHStringEncodings::localizedNamesOfStringEncodings({4, 99, 12}).size(), 2);
@@ -144,12 +145,42 @@ TEST_F(AutomaticEncoding, texts_of_many_languages_are_read_right) {
     }
 }
 
+TEST_F(AutomaticEncoding, the_wider_encoding_of_windows_is_told_by_all_of_the_text) {
+    constexpr std::uint32_t windows1250 = 15, windows1253 = 13, windows949 = 0x80000422;
+    // What tells it comes after more than the detector looks at.
+    const struct {
+        const char* what;
+        std::uint32_t encoding;
+        const char* usual;
+        const char* telling;
+    } cases[] = {
+        {"Hungarian", windows1250, "Az őrült kutya átugrotta a hűvös, zöld mezőt, és elszaladt az erdő felé.",
+         "„Őrült vagy” – mondta…"},
+        {"Greek", windows1253, "Το πλοίο έφυγε νωρίς το πρωί και κανείς δεν το είδε να γυρίζει.", "Ά… «ναι» – είπε"},
+        {"Korean", windows949, "배는 아침 일찍 떠났고 아무도 돌아오는 것을 보지 못했다.", "똠방각하 햏햏"},
+        {"Slovene", windows1250, "Zakaj ne poveš, kaj počneš? Žal mi je, že smo šli čez reko.",
+         "„Saj še ni konec,“ je rekel…"},
+    };
+    for (const auto& c : cases) {
+        QStringList lines(200, QString::fromUtf8(c.usual));
+        lines.append(QString::fromUtf8(c.telling));
+        EXPECT_EQ(read(QStringLiteral("film.srt"), encoded(subRip(lines), c.encoding)), lines) << c.what;
+        EXPECT_EQ(found, c.encoding) << c.what;
+    }
+}
+
 TEST_F(AutomaticEncoding, damage_spoils_no_more_than_its_own_line) {
     const QStringList lines = QString::fromUtf8(encodingTexts[0].text).split(u'\n');
     // Cut in the middle of a character.
     const std::string cut = encoded(subRip({lines[0]}), 4) + "2\r\n00:09:00,000 --> 00:09:30,000\r\nza\xC5";
     EXPECT_EQ(read(QStringLiteral("cut.srt"), cut).value(0), lines[0]);
     EXPECT_EQ(found, textEncoding::utf8);
+    // One line of another encoding among many.
+    const std::string mixed = encoded(subRip(QStringList(8, QStringLiteral("d\u00E9j\u00E0 vu"))), 4) +
+                              "9\r\n00:09:00,000 --> 00:09:30,000\r\ncaf\xE9\r\nau lait\r\n";
+    const QStringList sound = read(QStringLiteral("mixed.srt"), mixed);
+    EXPECT_EQ(sound.value(7), QStringLiteral("d\u00E9j\u00E0 vu"));
+    EXPECT_EQ(sound.value(8), QStringLiteral("au lait"));
     // A wide text with half a character, half a unit at its end.
     const std::string half =
         encoded(QChar(QChar::ByteOrderMark) + subRip({QStringLiteral("a\xD83D") + QChar(0xD800), lines[1]}),

@@ -65,6 +65,9 @@ std::int16_t checkFile(const QUrl& url) {
         return errorOf(AVERROR(errno));
     if (!S_ISREG(status.st_mode) && !S_ISBLK(status.st_mode))
         return movieError::couldNotOpen;
+    // An empty file is no movie; one of the kernel's, which only looks empty, may keep its reader waiting for ever.
+    if (S_ISREG(status.st_mode) && status.st_size == 0)
+        return movieError::couldNotOpen;
     return movieError::none;
 }
 
