@@ -22,7 +22,6 @@
 #include <string>
 #include <sys/resource.h>
 #include <thread>
-#include <vector>
 
 namespace {
 
@@ -189,28 +188,41 @@ void loadingAFilm(benchmark::State& state) {
 }
 BENCHMARK(loadingAFilm)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(20);
 
-/// The longest that one call of the main thread takes while the worker loads; 5 ms are the most it may be.
+/// How often another program took the processor from this thread.
+long preemptions() {
+    rusage usage{};
+    ::getrusage(RUSAGE_THREAD, &usage);
+    return usage.ru_nivcsw;
+}
+
+/// The longest that one call of the main thread takes while the worker loads; 5 ms are the most it may be. Calls during
+/// which another program had the processor say nothing about that; they are counted in worstMs.
 void lookingUpWhileItLoads(benchmark::State& state) {
     using Clock = std::chrono::steady_clock;
-    std::vector<double> longestOfLoads;
+    double longest = 0;
+    double longestUnload = 0;
+    double worst = 0;
     for ([[maybe_unused]] const auto step : state) {
         const auto track = film().open();
-        double longest = 0;
-        const auto timed = [&](auto work) {
+        const auto timed = [&](double& most, auto work) {
+            const long before = preemptions();
             const auto begin = Clock::now();
             work();
-            longest = std::max(longest, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
+            const double spent = std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+            worst = std::max(worst, spent);
+            if (preemptions() == before)
+                most = std::max(most, spent);
         };
-        timed([&] { track->preload(); });
-        for (std::int32_t time = 0; track->count() < cueCount; time = (time + 2880) % (7200 * 600))
-            timed([&] { benchmark::DoNotOptimize(track->subtitleForTime(time)); });
-        timed([&] { track->unload(); });
-        longestOfLoads.push_back(longest);
+        timed(longest, [&] { track->preload(); });
+        for (std::int32_t time = 0; track->count() < cueCount; time = (time + 2880) % (7200 * 600)) {
+            timed(longest, [&] { benchmark::DoNotOptimize(track->subtitleForTime(time)); });
+            std::this_thread::sleep_for(std::chrono::microseconds(200)); // far more often than a movie asks
+        }
+        timed(longestUnload, [&] { track->unload(); });
     }
-    // On a busy machine some calls wait for a turn of the processor.
-    std::sort(longestOfLoads.begin(), longestOfLoads.end());
-    state.counters["longestMs"] = longestOfLoads[longestOfLoads.size() / 2];
-    state.counters["worstMs"] = longestOfLoads.back();
+    state.counters["longestMs"] = longest;
+    state.counters["longestUnloadMs"] = longestUnload;
+    state.counters["worstMs"] = worst;
 }
 BENCHMARK(lookingUpWhileItLoads)->Unit(benchmark::kMillisecond)->Iterations(20);
 
