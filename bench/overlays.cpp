@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/SettingsKeys.h"
 #include "bench/Allocations.h"
+#include "bench/Letters.h"
+#include "overlays/PictureGeometry.h"
 #include "overlays/QVFeedbackOverlay.h"
+#include "overlays/QVImageSubView.h"
 #include "overlays/QVOSDOverlay.h"
 #include "overlays/QVParentOverlay.h"
 #include "platform/window/PictureLayer.h"
 #include "platform/window/SceneComposer.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/support/TestSettings.h"
 
 #include <QGuiApplication>
 #include <QImage>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -35,7 +40,7 @@ struct Scene {
         settings.runLoop.advance(5);
     }
     /// The part of the target that the overlay covers.
-    QRegion place(const QVTextOverlay& overlay) const {
+    QRegion place(const QVChildOverlay& overlay) const {
         const QRectF frame = overlay.frame();
         return QRectF(frame.x(), root.frame().height() - frame.bottom(), frame.width(), frame.height()).toAlignedRect();
     }
@@ -80,6 +85,65 @@ BENCHMARK(tenThousandCharactersFromTextToComposed)
     ->Arg(1080)
     ->Arg(2160)
     ->Unit(benchmark::kMillisecond);
+
+/// A movie view that fills the scene.
+class WholeScreen final : public PictureGeometry {
+public:
+    explicit WholeScreen(const QRectF& screen)
+        : _screen(screen) {}
+    QRectF pictureFrame() const override { return _screen; }
+    QSizeF sizeForFitScreen(std::int32_t) const override { return _screen.size(); }
+    float aspectRatio() const override { return 16.0F / 9.0F; }
+    bool isControllerBarVisible() const override { return false; }
+    unsigned getControllerHeight() const override { return 0; }
+
+private:
+    QRectF _screen;
+};
+
+/// The movie of a bitmap track.
+class Owner final : public SubtitleOwner {
+public:
+    std::int32_t timeScale() const override { return 1000; }
+    float frameRate() override { return 25; }
+    std::int32_t time() const override { return 0; }
+};
+
+/// Subpictures of 720 by 100 out of a data file, one after the other.
+void aNewBitmapCueFromRunLengthsToComposed(benchmark::State& state) {
+    const QTemporaryDir folder;
+    const QString base = folder.filePath(QStringLiteral("film"));
+    vobsub::PairWriter pair;
+    pair.height = 576;
+    pair.addStream("en");
+    for (unsigned number = 0; number < 8; ++number)
+        pair.add(0, number * 4000, lettersLike(number));
+    Scene scene(state.range(0));
+    Owner owner;
+    const auto tracks = pair.write(base.toStdString())
+                            ? QVVobSubSubtitles::subtitlesWithFilePath(base + QStringLiteral(".idx"), owner)
+                            : std::vector<std::shared_ptr<QVSubtitles>>();
+    if (tracks.empty())
+        return state.SkipWithError("no track");
+    tracks[0]->preload();
+    tracks[0]->waitForLoading();
+    const auto cues = tracks[0]->cues();
+    const WholeScreen picture(QRectF(QPointF(0, 0), scene.root.frame().size()));
+    QVImageSubView overlay(&scene.root, &picture);
+    overlay.currentSubtitlesChanged(QVSubtitlesChangedNotification{tracks[0]});
+    overlay.setSubtitle(cues[0]);
+    scene.settings.runLoop.advance(5);
+    std::size_t number = 0;
+    for ([[maybe_unused]] const auto step : state) {
+        overlay.setSubtitle(cues[++number % cues.size()]);
+        scene.compose(scene.place(overlay));
+    }
+}
+BENCHMARK(aNewBitmapCueFromRunLengthsToComposed)
+    ->ArgName("height")
+    ->Arg(1080)
+    ->Arg(2160)
+    ->Unit(benchmark::kMicrosecond);
 
 /// A movie that takes no time: what is measured is what stands over it.
 class Movie : public platform::View, public platform::PictureLayer {

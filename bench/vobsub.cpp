@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bitmap subtitles of a DVD: reading an index, and loading the pictures of a film.
+#include "bench/Letters.h"
 #include "platform/base/QtRunLoop.h"
 #include "platform/base/UserDefaults.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
-#include "tools/vobsub/VobSubWriter.h"
 
 #include <QCoreApplication>
 #include <QImage>
@@ -18,7 +18,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <malloc.h>
-#include <random>
 #include <string>
 #include <sys/resource.h>
 #include <thread>
@@ -87,26 +86,6 @@ private:
     platform::QtRunLoop _loop;
     std::unique_ptr<platform::UserDefaults> _defaults;
 };
-
-/// Two lines of letters, as far as run lengths are concerned: strokes with outlines, and room between the lines.
-vobsub::Subpicture lettersLike(unsigned seed) {
-    std::mt19937 random(seed);
-    vobsub::Subpicture subpicture{.bitmap = {720, 100}};
-    subpicture.y = 460;
-    subpicture.stop = 300;
-    vobsub::Bitmap& bitmap = subpicture.bitmap;
-    for (const int top : {6, 54}) {
-        for (int x = 20; x < 690;) {
-            const int stroke = 4 + static_cast<int>(random() % 3);
-            const int height = 24 + static_cast<int>(random() % 16);
-            bitmap.fill(x - 2, top - 2, stroke + 4, height + 4, 2);
-            for (int y = 0; y < height; ++y) // slanted, so that lines differ
-                bitmap.fill(x + y % 2, top + y, stroke - 1, 1, 1);
-            x += stroke + 6 + static_cast<int>(random() % 10);
-        }
-    }
-    return subpicture;
-}
 
 /// A film of two hours.
 class Film {
