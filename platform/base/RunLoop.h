@@ -26,7 +26,8 @@ public:
     virtual void fire() = 0;
 };
 
-/// The main thread's run loop: the one source of time above the platform layer. Every call is for the main thread.
+/// The main thread's run loop: the one source of time above the platform layer. Every call but now() is for the main
+/// thread.
 class RunLoop {
 public:
     RunLoop() = default;
@@ -39,7 +40,7 @@ public:
     /// Installs the loop (the process's at start, a manual one in tests); null takes it away again.
     static void setMain(RunLoop* loop);
 
-    /// Monotonic seconds since an unspecified start.
+    /// Monotonic seconds since an unspecified start. Any thread, while the loop stays installed.
     virtual double now() const = 0;
     /// The wall clock.
     virtual QDateTime date() const = 0;
