@@ -2,6 +2,7 @@
 #include "app/settings/SettingsKeys.h"
 #include "bench/Allocations.h"
 #include "bench/Letters.h"
+#include "bench/SubtitleRoom.h"
 #include "overlays/PictureGeometry.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVImageSubView.h"
@@ -101,14 +102,6 @@ private:
     QRectF _screen;
 };
 
-/// The movie of a bitmap track.
-class Owner final : public SubtitleOwner {
-public:
-    std::int32_t timeScale() const override { return 1000; }
-    float frameRate() override { return 25; }
-    std::int32_t time() const override { return 0; }
-};
-
 /// Subpictures of 720 by 100 out of a data file, one after the other.
 void aNewBitmapCueFromRunLengthsToComposed(benchmark::State& state) {
     const QTemporaryDir folder;
@@ -119,7 +112,7 @@ void aNewBitmapCueFromRunLengthsToComposed(benchmark::State& state) {
     for (unsigned number = 0; number < 8; ++number)
         pair.add(0, number * 4000, lettersLike(number));
     Scene scene(state.range(0));
-    Owner owner;
+    NoMovie owner;
     const auto tracks = pair.write(base.toStdString())
                             ? QVVobSubSubtitles::subtitlesWithFilePath(base + QStringLiteral(".idx"), owner)
                             : std::vector<std::shared_ptr<QVSubtitles>>();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A file of 100,000 cues: loading it, and finding cues in it.
-#include "platform/base/QtRunLoop.h"
-#include "platform/base/UserDefaults.h"
+#include "bench/SubtitleRoom.h"
 #include "subtitles/SubtitleRegistry.h"
 
 #include <QCoreApplication>
@@ -18,31 +17,6 @@ namespace {
 
 constexpr std::int32_t cueCount = 100'000;
 constexpr std::int32_t unitsPerCue = 600; // a second each
-
-class NoMovie final : public SubtitleOwner {
-public:
-    std::int32_t timeScale() const override { return 600; }
-    float frameRate() override { return 25; }
-    std::int32_t time() const override { return 0; }
-};
-
-/// Settings that are the shipped ones and are not kept.
-class Settings {
-public:
-    Settings() {
-        class Nowhere final : public platform::SettingsStorage {
-            QVariantMap load() override { return {}; }
-            bool store(const QVariantMap&) override { return true; }
-        };
-        platform::RunLoop::setMain(&_loop);
-        _defaults = std::make_unique<platform::UserDefaults>(std::make_unique<Nowhere>());
-        platform::UserDefaults::setStandard(_defaults.get());
-    }
-
-private:
-    platform::QtRunLoop _loop;
-    std::unique_ptr<platform::UserDefaults> _defaults;
-};
 
 std::string twoDigits(std::int32_t number) {
     return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
