@@ -23,8 +23,8 @@ public:
     DataFile& operator=(const DataFile&) = delete;
     ~DataFile();
 
-    /// The bytes from a position on: `count` of them (at most windowSize), fewer where the file ended when it was opened,
-    /// or ends now, or cannot be read. Valid until the next call.
+    /// The bytes from a position on: `count` of them (at most windowSize), fewer where the file ended when it was
+    /// opened, or ends now, or cannot be read. Valid until the next call.
     std::span<const std::uint8_t> at(std::int64_t position, std::size_t count);
     /// Of the file when it was opened.
     std::int64_t size() const { return _size; }
