@@ -8,49 +8,28 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-const QStringList kStyleKeys = {kTextColor,           kTextFontName,      kTextFontSize,     kShadowOn,
-                                kShadowColor,         kShadowRadius,      kShadowOffset,     kBackgroundOn,
-                                kBackgroundColor,     kBackgroundRounded, kBackgroundRadius, kFrameOn,
-                                kFrameWidth,          kAlignment,         kFadingInInterval, kFadingOutInterval,
-                                kFadingDelayInterval, kMinAlpha,          kMaxAlpha};
-const QStringList kSelectors = {kQVDefaultOverlayStyle,   kQVFeedbackOverlayStyle, kQVOSDOverlayStyle,
-                                kQVSubtitlesOverlayStyle, kQVVobSubOverlayStyle,   kQVFullscreenOverlayStyle};
-
-class Build {
-public:
-    explicit Build(const QVariant& number) {
-        platform::Bundle::main().setInfoDictionary({{"CFBundleVersion", number}});
-    }
-    ~Build() { platform::Bundle::main().setResourcePath(platform::Bundle::main().resourcePath()); }
-};
-
-QVariantMap legacySettings() {
-    return {{kQVRunFirstTimeConfig, true},   {kQVOpenSavedPlaylist, false},
-            {kQVSortPlaylist, false},        {kQVPlaylistDefaultArrangement, 2},
-            {kQVOnLaunchDefaultAction, 1},   {kQVSubtitlesColor, "1 0 0"},
-            {kQVSubtitlesFontName, "Serif"}, {kQVSubtitlesSizeMin, 17},
-            {kQVSubtitlesSizeMax, 41.7},     {kLegacyVersionMirrorsKey, QVariantList{"x"}}};
-}
-
-} // namespace
+using Styles = QVOverlayStyleDefaults;
 
 TEST(QVUserDefaults, each_migration_step_runs_for_the_builds_before_it) {
+    const QVariantMap legacy = {{kQVRunFirstTimeConfig, true},   {kQVOpenSavedPlaylist, false},
+                                {kQVSortPlaylist, false},        {kQVPlaylistDefaultArrangement, 2},
+                                {kQVOnLaunchDefaultAction, 1},   {kQVSubtitlesColor, "1 0 0"},
+                                {kQVSubtitlesFontName, "Serif"}, {kQVSubtitlesSizeMin, 17},
+                                {kQVSubtitlesSizeMax, 41.7},     {kLegacyVersionMirrorsKey, QVariantList{"x"}}};
     const struct {
         QVariant current;
         int last;
         bool first, second, third, fourth;
-    } cases[] = {{"40", 10, true, true, true, true},           {"40", 15, true, true, true, true},
-                 {"40", 16, false, true, true, true},          {"40", 22, false, true, true, true},
-                 {"40", 23, false, false, true, true},         {"40", 24, false, false, true, true},
-                 {"40", 25, false, false, false, true},        {"40", 37, false, false, false, true},
-                 {"40", 38, false, false, false, false},       {"10", 10, false, false, false, false},
-                 {"no number", 0, false, false, false, false}, {11, 10, true, true, true, true}};
+    } cases[] = {{"40", 15, true, true, true, true},     {"40", 16, false, true, true, true},
+                 {"40", 22, false, true, true, true},    {"40", 23, false, false, true, true},
+                 {"40", 24, false, false, true, true},   {"40", 25, false, false, false, true},
+                 {"40", 37, false, false, false, true},  {"40", 38, false, false, false, false},
+                 {"10", 10, false, false, false, false}, {11, 10, true, true, true, true}};
+    auto& bundle = platform::Bundle::main();
     for (const auto& [current, last, first, second, third, fourth] : cases) {
         SCOPED_TRACE(testing::Message() << "from " << last << " to " << current.toString().toStdString());
-        const Build build(current);
-        QVariantMap stored = legacySettings();
+        bundle.setInfoDictionary({{"CFBundleVersion", current}});
+        QVariantMap stored = legacy;
         stored[kQVLastVersionSeen] = last;
         TestSettings settings(stored);
         const auto& defaults = settings.defaults();
@@ -62,8 +41,7 @@ TEST(QVUserDefaults, each_migration_step_runs_for_the_builds_before_it) {
         EXPECT_EQ(defaults.integerForKey(kQVPlaylistDefaultArrangement), second ? 0 : 2);
         for (const QString& key : {kQVSubtitlesColor, kQVSubtitlesFontName, kQVSubtitlesSizeMin, kQVSubtitlesSizeMax})
             EXPECT_NE(defaults.hasStoredValue(key), third) << key.toStdString();
-        const auto style =
-            QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(settings.defaults(), kQVSubtitlesOverlayStyle);
+        const auto style = Styles::overlayStyleDefaultsWithKey(settings.defaults(), kQVSubtitlesOverlayStyle);
         ASSERT_TRUE(style);
         EXPECT_EQ(style->textColor() == QColor(255, 0, 0), third);
         EXPECT_EQ(style->textFontName() == "Serif", third);
@@ -72,41 +50,25 @@ TEST(QVUserDefaults, each_migration_step_runs_for_the_builds_before_it) {
         EXPECT_NE(defaults.hasStoredValue(kLegacyVersionMirrorsKey), fourth);
         EXPECT_EQ(defaults.integerForKey(kQVLastVersionSeen), last);
     }
-}
+    bundle.setResourcePath(bundle.resourcePath());
 
-TEST(QVUserDefaults, migration_leaves_alone_what_it_does_not_know) {
-    TestSettings settings({{kQVOpenSavedPlaylist, true},
-                           {kQVOnLaunchDefaultAction, 1},
-                           {kQVSubtitlesColor, 5},
-                           {kQVSubtitlesFontName, QVariantList{}}});
-    EXPECT_EQ(settings.defaults().integerForKey(kQVOnLaunchDefaultAction), 1) << "a switch that was on";
-    EXPECT_FALSE(settings.defaults().hasStoredValue(kQVOpenSavedPlaylist));
-    EXPECT_FALSE(settings.defaults().hasStoredValue(kQVPlaylistDefaultArrangement));
-    EXPECT_EQ(settings.defaults().integerForKey(kQVSubtitlesColor), 5) << "of another type";
-    EXPECT_TRUE(settings.defaults().hasStoredValue(kQVSubtitlesFontName));
-    EXPECT_FALSE(settings.defaults().hasStoredValue(kQVOverlayStyles));
-}
-
-TEST(QVUserDefaults, a_missing_resource_registers_nothing) {
-    const CapturedLog log;
-    const QString before = platform::Bundle::main().resourcePath();
-    platform::Bundle::main().setResourcePath("/nowhere");
-    {
-        TestSettings settings;
-        EXPECT_FALSE(settings.defaults().objectForKey(kQVJumpInterval).isValid());
-        EXPECT_EQ(settings.defaults().integerForKey(kQVJumpInterval), 0);
-    }
-    platform::Bundle::main().setResourcePath(before);
+    TestSettings odd({{kQVOpenSavedPlaylist, true}, {kQVOnLaunchDefaultAction, 1}, {kQVSubtitlesColor, 5}});
+    EXPECT_EQ(odd.defaults().integerForKey(kQVOnLaunchDefaultAction), 1) << "a switch that was on";
+    EXPECT_EQ(odd.defaults().integerForKey(kQVSubtitlesColor), 5) << "of another type";
 }
 
 TEST(QVUserDefaults, the_shipped_values_keep_to_their_ranges_and_every_style_is_complete) {
     const CapturedLog log;
     TestSettings settings;
     auto& defaults = settings.defaults();
-    for (const QString& selector : kSelectors) {
-        const auto style = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(defaults, selector);
+    for (const QString& selector : {kQVDefaultOverlayStyle, kQVFeedbackOverlayStyle, kQVOSDOverlayStyle,
+                                    kQVSubtitlesOverlayStyle, kQVVobSubOverlayStyle, kQVFullscreenOverlayStyle}) {
+        const auto style = Styles::overlayStyleDefaultsWithKey(defaults, selector);
         ASSERT_TRUE(style) << selector.toStdString();
-        for (const QString& key : kStyleKeys)
+        for (const QString& key :
+             {kTextColor, kTextFontName, kTextFontSize, kShadowOn, kShadowColor, kShadowRadius, kShadowOffset,
+              kBackgroundOn, kBackgroundColor, kBackgroundRounded, kBackgroundRadius, kFrameOn, kFrameWidth, kAlignment,
+              kFadingInInterval, kFadingOutInterval, kFadingDelayInterval, kMinAlpha, kMaxAlpha})
             EXPECT_TRUE(style->objectForKey(key).isValid()) << selector.toStdString() << " " << key.toStdString();
         EXPECT_TRUE(style->textColor() && style->shadowColor() && style->backgroundColor());
         EXPECT_GT(style->maxAlpha(), style->minAlpha());
@@ -114,11 +76,6 @@ TEST(QVUserDefaults, the_shipped_values_keep_to_their_ranges_and_every_style_is_
     for (const QString& key : {kQVScreenBrightness, kQVVolumeSavedLevel}) {
         EXPECT_GT(defaults.floatForKey(key), 0) << key.toStdString();
         EXPECT_LE(defaults.floatForKey(key), 1) << key.toStdString();
-    }
-    for (const QString& legacy : legacySettings().keys()) {
-        if (legacy != kQVPlaylistDefaultArrangement && legacy != kQVOnLaunchDefaultAction) {
-            EXPECT_FALSE(defaults.objectForKey(legacy).isValid()) << legacy.toStdString();
-        }
     }
     // A date that was never stored is missing, which means something.
     EXPECT_FALSE(defaults.objectForKey(kQVAskDonationAfter).isValid());

@@ -101,16 +101,6 @@ TEST_F(SettingsFileTest, what_could_not_be_read_is_never_replaced) {
     }
 }
 
-TEST_F(SettingsFileTest, a_place_that_takes_no_file_is_reported_each_time) {
-    write("a file, not a folder");
-    SettingsFile file(path + "/settings.plist");
-    file.load();
-    log.clear();
-    EXPECT_FALSE(file.store(settings));
-    EXPECT_EQ(log.count("ERROR: "), 1);
-    EXPECT_EQ(contents(path), "a file, not a folder");
-}
-
 TEST_F(SettingsFileTest, a_link_stays_a_link_and_permissions_stay) {
     const QString target = folder.filePath("elsewhere.plist");
     ASSERT_TRUE(QFile::link("elsewhere.plist", path));
@@ -155,15 +145,4 @@ TEST_F(SettingsFileTest, killed_at_any_moment_it_reads_back_whole) {
     file.close();
     SettingsFile(path).load();
     EXPECT_FALSE(QFile::exists(left));
-}
-
-TEST(SettingsFilePath, it_lies_in_the_configuration_folder) {
-    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    qputenv("XDG_CONFIG_HOME", "/somewhere");
-    EXPECT_EQ(SettingsFile::defaultPath(), "/somewhere/lumaro/org.lumaro.Lumaro.plist");
-    for (const char* unusable : {"", "relative/path"}) {
-        qputenv("XDG_CONFIG_HOME", unusable);
-        EXPECT_EQ(SettingsFile::defaultPath(), QDir::homePath() + "/.config/lumaro/org.lumaro.Lumaro.plist");
-    }
-    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
 }

@@ -14,16 +14,13 @@ TEST(ColorText, components_that_the_text_does_not_reach_keep_their_start_values)
                  {"0.5", QColor::fromRgbF(0.5F, 0, 0, 1)},
                  {"red", QColor::fromRgbF(0, 0, 0, 1)},
                  {"0.5 x 1 0", QColor::fromRgbF(0.5F, 0, 0, 1)},
-                 {"0 0 0 0", QColor::fromRgbF(0, 0, 0, 0)},
                  {" \t1\n1  1 0.25 9", QColor::fromRgbF(1, 1, 1, 0.25F)},
                  {"2 -1 1e9 0.5", QColor::fromRgbF(1, 0, 1, 0.5F)},
-                 {"nan 1 1 1", QColor::fromRgbF(0, 0, 0, 1)},
                  {"0,5 1 1 1", QColor::fromRgbF(0, 0, 0, 1)},
                  {"+.5 5e-1 1 1", QColor::fromRgbF(0.5F, 0.5F, 1, 1)}};
     for (const auto& [text, color] : cases)
         EXPECT_EQ(JHColorFromString(text), color) << text;
     EXPECT_FALSE(JHColorFromString(""));
-    EXPECT_FALSE(JHColorFromString({}));
     EXPECT_EQ(JHSizeFromString("3"), QSizeF(3, 0));
     EXPECT_EQ(JHSizeFromString("x 3"), QSizeF(0, 0));
     EXPECT_EQ(JHStringFromSize({1234567.0, 0.0001}), "1.23457e+06 0.0001");
@@ -32,9 +29,6 @@ TEST(ColorText, components_that_the_text_does_not_reach_keep_their_start_values)
 TEST(ColorText, a_colour_is_written_short_and_read_back_as_the_same_one) {
     EXPECT_EQ(JHStringFromColor(QColor(255, 0, 0)), "1 0 0 1");
     EXPECT_EQ(JHStringFromColor(QColor::fromRgbF(0.5F, 0.5F, 0.5F, 0.5F)), "0.5 0.5 0.5 0.5");
-    EXPECT_EQ(JHStringFromColor(QColor::fromHsvF(0, 1, 1)), "1 0 0 1");
-    EXPECT_TRUE(JHStringFromColor(std::nullopt).isNull());
-    EXPECT_TRUE(JHStringFromColor(QColor()).isNull());
     for (int level = 0; level < 65536; level += 7) {
         const auto value = static_cast<quint16>(level);
         const QColor color = QColor::fromRgba64(value, value, value, value);
@@ -48,21 +42,13 @@ TEST(StringComparison, names_are_ordered_without_case_and_numbers_by_value_when_
         const char* right;
         int plain;
         int numerical;
-    } cases[] = {{"", "", 0, 0},
-                 {"", "a", -1, -1},
-                 {"a.avi", "A.AVI", 0, 0},
-                 {"ÄRGER", "ärger", 0, 0},
-                 {"Ep9.avi", "Ep10.avi", 1, -1},
-                 {"ep 2", "ep 02", 1, 0},
-                 {"ep 002b", "ep 2a", -1, 1},
-                 {"x00", "x0y", -1, -1},
-                 {"7", "a", -1, -1},
-                 {"a_b", "aXb", -1, -1},
-                 {"v99999999999999999999999998", "v99999999999999999999999999", -1, -1},
-                 {"v100000000000000000000000000", "v99999999999999999999999999", -1, 1}};
+    } cases[] = {{"", "a", -1, -1},        {"a.avi", "A.AVI", 0, 0},
+                 {"ÄRGER", "ärger", 0, 0}, {"Ep9.avi", "Ep10.avi", 1, -1},
+                 {"ep 2", "ep 02", 1, 0},  {"ep 002b", "ep 2a", -1, 1},
+                 {"x00", "x0y", -1, -1},   {"v100000000000000000000000000", "v99999999999999999999999999", -1, 1}};
     for (const auto& [left, right, plain, numerical] : cases) {
-        const QString l = QString::fromUtf8(left);
-        const QString r = QString::fromUtf8(right);
+        const QString l = left;
+        const QString r = right;
         EXPECT_EQ(platform::compareCaseInsensitively(l, r, false), plain) << left << " " << right;
         EXPECT_EQ(platform::compareCaseInsensitively(r, l, false), -plain) << left << " " << right;
         EXPECT_EQ(platform::compareCaseInsensitively(l, r, true), numerical) << left << " " << right;
@@ -78,9 +64,7 @@ TEST(Formatted, placeholders_are_filled_once_and_in_order) {
     } cases[] = {{"%@ (%d/%d)", {"Film.avi", "2", "5"}, "Film.avi (2/5)"},
                  {"%@ %@", {"100%@", "b"}, "100%@ b"},
                  {"%d%%", {"50"}, "50%"},
-                 {"%04X %.2f %s %ld", {"1060", "1.50", "x", "7"}, "1060 1.50 x 7"},
                  {"%@ %@", {"a"}, "a %@"},
-                 {"%@", {"a", "b"}, "a"},
                  {"100% sure %", {"a"}, "100% sure %"},
                  {"%2$@ before %1$@", {"a", "b"}, "b before a"},
                  {"%9$@ %0$@", {"a"}, "%9$@ a"}};
@@ -89,8 +73,7 @@ TEST(Formatted, placeholders_are_filled_once_and_in_order) {
 }
 
 TEST(PercentEscapes, what_a_url_cannot_hold_is_escaped_and_its_separators_stay) {
-    EXPECT_EQ(platform::stringByAddingPercentEscapes(QStringLiteral("http://a.org/b c?d=\u00E9&e=1;f#\"<[100%]>|\\")),
-              QStringLiteral("http://a.org/b%20c?d=%C3%A9&e=1;f%23%22%3C%5B100%25%5D%3E%7C%5C"));
-    EXPECT_EQ(platform::stringByAddingPercentEscapes(QStringLiteral("(it's-_.!~*)$+,@")),
-              QStringLiteral("(it's-_.!~*)$+,@"));
+    EXPECT_EQ(platform::stringByAddingPercentEscapes("http://a.org/b c?d=\u00E9&e=1;f#\"<[100%]>|\\"),
+              "http://a.org/b%20c?d=%C3%A9&e=1;f%23%22%3C%5B100%25%5D%3E%7C%5C");
+    EXPECT_EQ(platform::stringByAddingPercentEscapes("(it's-_.!~*)$+,@"), "(it's-_.!~*)$+,@");
 }
