@@ -3,11 +3,11 @@
 
 #include "platform/base/NotificationCenter.h"
 #include "platform/window/Window.h"
-#include "platform/window/WindowHost.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "tests/support/FakeApp.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/RecordingHost.h"
 #include "tests/support/ScriptedToolkit.h"
 #include "tests/support/TestSettings.h"
 
@@ -26,22 +26,6 @@ private:
             ++count;
             last = posted;
         });
-};
-
-/// A host that shows nothing and keeps the areas that were to be drawn again, and whether the pointer is hidden.
-class RecordingHost final : public platform::WindowHost {
-public:
-    std::vector<QRectF> areas;
-    bool pointerHidden = false;
-
-    void frameChanged() override {}
-    void alphaChanged() override {}
-    void levelChanged() override {}
-    void orderedChanged() override {}
-    void displayNeeded(const QRectF& rect) override { areas.push_back(rect); }
-    void makeKeyAndOrderFront() override {}
-    void setPointerHidden(bool hidden) override { pointerHidden = hidden; }
-    double pixelRatio() const override { return 1; }
 };
 
 /// A movie view in a window of 1440 by 900 points, on a scripted toolkit, with everything that it asks for at hand.
