@@ -60,16 +60,16 @@ public:
         explicit RecordingSteps(QStringList& events)
             : _events(events) {}
         bool checksVersion = false;
-        void runFirstTimeConfig() override { _events << QStringLiteral("configure"); }
-        void askDonation() override { _events << QStringLiteral("donation"); }
+        void runFirstTimeConfig() override { _events << "configure"; }
+        void askDonation() override { _events << "donation"; }
         bool shouldCheckLatestVersion() override { return checksVersion; }
-        void checkLatestVersion() override { _events << QStringLiteral("version"); }
+        void checkLatestVersion() override { _events << "version"; }
         bool restoreState() override {
-            _events << QStringLiteral("restore");
+            _events << "restore";
             return true;
         }
-        void saveState() override { _events << QStringLiteral("save"); }
-        void runHelpPanel() override { _events << QStringLiteral("help"); }
+        void saveState() override { _events << "save"; }
+        void runHelpPanel() override { _events << "help"; }
 
     private:
         QStringList& _events;

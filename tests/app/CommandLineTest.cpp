@@ -6,8 +6,8 @@
 namespace {
 
 CommandLine parse(const char* words) {
-    const QString text = QString::fromUtf8(words);
-    return CommandLine::parse(text.isEmpty() ? QStringList() : text.split(u' '), QStringLiteral("/home/me"));
+    const QString text = words;
+    return CommandLine::parse(text.isEmpty() ? QStringList() : text.split(u' '), "/home/me");
 }
 
 } // namespace
@@ -34,9 +34,7 @@ TEST(CommandLine, options_take_their_values_attached_or_following) {
     EXPECT_EQ(play.error.toStdString(), "");
     EXPECT_TRUE(play.append);
     EXPECT_TRUE(play.software);
-    const QList<QPair<QString, QString>> expected = {{QStringLiteral("QVEnableTrace"), QStringLiteral("YES")},
-                                                     {QStringLiteral("A"), QStringLiteral("b=c")},
-                                                     {QStringLiteral("X"), QString()}};
+    const QList<QPair<QString, QString>> expected = {{"QVEnableTrace", "YES"}, {"A", "b=c"}, {"X", QString()}};
     EXPECT_EQ(play.settings, expected);
 
     const CommandLine inspect = parse("--inspect --images=/out x.srt --time-scale 1000 --fps=3 --encoding 0x80000632");
@@ -67,5 +65,5 @@ TEST(CommandLine, wrong_usage_names_what_is_wrong) {
         EXPECT_NE(line.error.toStdString().find(c.named), std::string::npos)
             << c.words << ": " << line.error.toStdString();
     }
-    EXPECT_FALSE(CommandLine::parse({QString()}, QStringLiteral("/")).error.isEmpty()) << "an empty name";
+    EXPECT_FALSE(CommandLine::parse({QString()}, "/").error.isEmpty()) << "an empty name";
 }

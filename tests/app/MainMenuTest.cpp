@@ -9,9 +9,8 @@
 TEST(MainMenu, Every_item_acts_and_no_two_share_a_shortcut) {
     MainMenu menu;
     QVMovieController controller;
-    const QSet<QString> ofTheApplication{QStringLiteral("doOpen"),        QStringLiteral("quit"),
-                                         QStringLiteral("showHelp"),      QStringLiteral("toggleController"),
-                                         QStringLiteral("cycleDisplays"), QStringLiteral("performAction")};
+    const QSet<QString> ofTheApplication{"doOpen",           "quit",          "showHelp",
+                                         "toggleController", "cycleDisplays", "performAction"};
     QSet<QString> shortcuts;
     for (int top = 0; top < menu.bar().count(); ++top) {
         const platform::Menu* submenu = menu.bar().itemAt(top).submenu.get();
@@ -28,7 +27,4 @@ TEST(MainMenu, Every_item_acts_and_no_two_share_a_shortcut) {
             }
         }
     }
-    EXPECT_EQ(menu.playlistMenu().count(), 0);
-    EXPECT_EQ(menu.subtitlesMenu().count(), 2);
-    EXPECT_TRUE(menu.subtitlesMenu().itemAt(1).separator);
 }

@@ -20,8 +20,7 @@ protected:
         return path;
     }
     /// The files found, relative to the folder.
-    std::string found(const QStringList& names,
-                      const QStringList& types = {QStringLiteral("avi"), QStringLiteral("mp4")}) const {
+    std::string found(const QStringList& names, const QStringList& types = {"avi", "mp4"}) const {
         QStringList paths;
         for (const QString& name : names)
             paths.append(folder.filePath(name));
@@ -37,46 +36,44 @@ protected:
 
 TEST_F(OpeningFiles, folders_are_walked_to_the_bottom_in_reading_order_without_going_round) {
     for (const char* name : {"show/2.mp4", "show/10.AVI", "show/1.txt", "show/extra/deep/a.mp4", "show/b.avi"})
-        make(QString::fromLatin1(name));
-    QDir().mkpath(folder.filePath(QStringLiteral("show/z empty")));
-    ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("show")), folder.filePath(QStringLiteral("show/extra/up"))));
-    ASSERT_TRUE(
-        QFile::link(folder.filePath(QStringLiteral("gone.mp4")), folder.filePath(QStringLiteral("show/c.mp4"))));
-    EXPECT_EQ(found({QStringLiteral("show")}), "show/2.mp4 show/10.AVI show/b.avi show/extra/deep/a.mp4");
-    EXPECT_EQ(found({QStringLiteral("show/extra"), QStringLiteral("show/b.avi")}, {}),
+        make(name);
+    QDir().mkpath(folder.filePath("show/z empty"));
+    ASSERT_TRUE(QFile::link(folder.filePath("show"), folder.filePath("show/extra/up")));
+    ASSERT_TRUE(QFile::link(folder.filePath("gone.mp4"), folder.filePath("show/c.mp4")));
+    EXPECT_EQ(found({"show"}), "show/2.mp4 show/10.AVI show/b.avi show/extra/deep/a.mp4");
+    EXPECT_EQ(found({"show/extra", "show/b.avi"}, {}),
               "show/extra/deep/a.mp4 show/extra/up/1.txt show/extra/up/2.mp4 show/extra/up/10.AVI show/extra/up/b.avi "
               "show/b.avi")
         << "no types at all accept every file; a link is followed";
 }
 
 TEST_F(OpeningFiles, nothing_inside_a_file_package_is_a_movie) {
-    make(QStringLiteral("all/Player.app/Contents/Info.plist"));
-    make(QStringLiteral("all/Player.app/Contents/intro.mp4"));
-    make(QStringLiteral("all/sub/Trip.photoslibrary/clip.mp4"));
-    make(QStringLiteral("all/sub/Dr. No/film.mp4"));
-    make(QStringLiteral("all/sub/app/film.mp4"));
-    EXPECT_EQ(found({QStringLiteral("all")}), "all/sub/app/film.mp4 all/sub/Dr. No/film.mp4");
+    make("all/Player.app/Contents/Info.plist");
+    make("all/Player.app/Contents/intro.mp4");
+    make("all/sub/Trip.photoslibrary/clip.mp4");
+    make("all/sub/Dr. No/film.mp4");
+    make("all/sub/app/film.mp4");
+    EXPECT_EQ(found({"all"}), "all/sub/app/film.mp4 all/sub/Dr. No/film.mp4");
 }
 
 TEST_F(OpeningFiles, single_files_are_taken_by_their_lowercased_extension) {
     for (const char* name : {"a.MP4", "b.avi.part", "c", "ü #1 100%.mp4", "avi"})
-        make(QString::fromUtf8(name));
-    EXPECT_EQ(found({QStringLiteral("a.MP4"), QStringLiteral("b.avi.part"), QStringLiteral("c"),
-                     QStringLiteral("missing.mp4"), QString::fromUtf8("ü #1 100%.mp4"), QStringLiteral("avi")}),
+        make(name);
+    EXPECT_EQ(found({"a.MP4", "b.avi.part", "c", "missing.mp4", QString::fromUtf8("ü #1 100%.mp4"), "avi"}),
               "a.MP4 ü #1 100%.mp4");
-    EXPECT_EQ(found({QStringLiteral("a.MP4")}, {QStringLiteral("MP4")}), "") << "an entry in capitals matches nothing";
+    EXPECT_EQ(found({"a.MP4"}, {"MP4"}), "") << "an entry in capitals matches nothing";
 }
 
 TEST_F(OpeningFiles, texts_become_urls_where_they_are_some) {
-    const QStringList lines = {QStringLiteral("http://a.example/1.mp4"), QString(), QStringLiteral("  "),
-                               QStringLiteral(" rtsp://b.example/live "), QStringLiteral("http://[broken/2.mp4")};
+    const QStringList lines = {"http://a.example/1.mp4", QString(), "  ", " rtsp://b.example/live ",
+                               "http://[broken/2.mp4"};
     const QList<QUrl> urls = urlsWithURLStrings(lines);
     ASSERT_EQ(urls.size(), 2);
     EXPECT_EQ(urls[0].toString().toStdString(), "http://a.example/1.mp4");
     EXPECT_EQ(urls[1].scheme().toStdString(), "rtsp");
 
     for (const char* url : {"http://x", "svn+ssh://x/y", "FILE:///a", "x1://"})
-        EXPECT_TRUE(isURLString(QString::fromLatin1(url))) << url;
+        EXPECT_TRUE(isURLString(url)) << url;
     for (const char* path : {"/a/http://x", "c:/x.avi", "http:/x", "://x", "1a://x", "a b://c", ""})
-        EXPECT_FALSE(isURLString(QString::fromLatin1(path))) << path;
+        EXPECT_FALSE(isURLString(path)) << path;
 }

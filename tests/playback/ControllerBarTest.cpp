@@ -47,7 +47,6 @@ TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
     rig.window.dispatchMouseDragged(rig.at(-5000));
     EXPECT_EQ(rig.view.time(), 0);
     rig.window.dispatchMouseUp(rig.at(0));
-    EXPECT_EQ(rig.player().seeks.back(), (ScriptedPlayer::Seek{0, platform::MoviePlayer::JumpReport::reported}));
 
     rig.window.dispatchMouseDown(rig.at(ControllerBar::muteButton(rig.size).center().x()));
     EXPECT_TRUE(rig.view.isMuted());
@@ -77,14 +76,4 @@ TEST(ControllerBar, it_is_drawn_again_only_when_it_looks_different) {
     EXPECT_LT(rig.host.areas.size(), 21U);
     for (const QRectF& area : rig.host.areas)
         EXPECT_EQ(area, QRectF(rig.view.frame().topLeft(), rig.size));
-}
-
-TEST(ControllerBar, a_bar_without_room_has_no_time_slider) {
-    ControllerBar bar;
-    const QSizeF narrow(40, 16);
-    EXPECT_EQ(ControllerBar::timeSlider(narrow).width(), 0);
-    QImage image(40, 16, QImage::Format_RGB32);
-    QPainter painter(&image);
-    bar.draw(painter, narrow, {});
-    EXPECT_EQ(bar.press(QPointF(200, 8), narrow).kind, ControllerBar::Command::Kind::none);
 }

