@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace {
 
 class Box : public QVChildOverlay {
@@ -38,7 +36,6 @@ TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
                   QRectF(c.origin, QSizeF(200, 50)))
             << std::hex << c.code;
     }
-    EXPECT_EQ(OverlayPlacement::horizontalOrigin(1, parent, 10, std::numeric_limits<double>::quiet_NaN()), 100);
 }
 
 TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
@@ -53,16 +50,6 @@ TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
     EXPECT_EQ(box.overlayContentView().frame(), QRectF(0, 0, 114, 34));
     box.setAlignmentStyle(0x021);
     EXPECT_EQ(box.frame(), QRectF(-7, -7, 114, 34)) << "placed by others";
-
-    platform::Window other(QRectF(0, 0, 300, 200));
-    box.setAlignmentStyle(0x122);
-    box.setParentWindow(&other);
-    rig.window.setFrame(QRectF(0, 0, 100, 100));
-    other.setFrame(QRectF(0, 0, 400, 200));
-    EXPECT_EQ(box.frame().x(), 400 - 114 - 20);
-    box.setParentWindow(nullptr);
-    other.setFrame(QRectF(0, 0, 500, 200));
-    EXPECT_EQ(box.frame().x(), 400 - 114 - 20);
 }
 
 TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
@@ -72,8 +59,6 @@ TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     EXPECT_EQ(box.frame().size(), QSizeF(110, 30));
     box.setRadius(20);
     EXPECT_EQ(box.frame().size(), QSizeF(120, 40));
-    box.setRadius(std::numeric_limits<float>::infinity());
-    EXPECT_LT(box.frame().width(), 1e6);
     box.setBackgroundRounded(false);
     EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
     box.setPadding(5);
@@ -87,13 +72,6 @@ TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     EXPECT_EQ(box.frame(), QRectF(5, (768 - 56) / 2.0, 136, 56));
     rig.change(kBackgroundOn, false);
     EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
-}
-
-TEST(QVChildOverlay, a_missing_style_and_a_missing_parent_leave_it_where_it_is) {
-    OverlayRig rig;
-    rig.settings.defaults().setObject(QStringLiteral("Gone"), kQVOSDOverlayStyle);
-    EXPECT_EQ(Box(&rig.window, kQVOSDOverlayStyle).frame(), QRectF(0, 0, 100, 20));
-    EXPECT_EQ(Box(nullptr).frame(), QRectF(-7, -7, 114, 34));
 }
 
 TEST(QVOverlayContentView, draws_the_panel_and_the_line_around_it) {
@@ -119,9 +97,4 @@ TEST(QVOverlayContentView, draws_the_panel_and_the_line_around_it) {
     view.setBackgroundRounded(true);
     view.setRadius(8);
     EXPECT_EQ(drawn().pixelColor(0, 0).alpha(), 0);
-    for (const float absurd : {1e9F, -1e9F, std::numeric_limits<float>::quiet_NaN()}) {
-        view.setRadius(absurd);
-        view.setFrameWidth(absurd);
-        EXPECT_EQ(drawn().pixelColor(20, 10).alpha(), 255) << absurd;
-    }
 }

@@ -29,7 +29,7 @@ TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
     TextOverlay overlay(&rig.window);
     EXPECT_EQ(overlay.frame().topLeft(), QPointF(20, 20)) << "an empty text is an empty panel";
     overlay.setTextFontSize(20);
-    overlay.setText(QStringLiteral("Some words"));
+    overlay.setText("Some words");
     const QSizeF content = overlay.contentSize();
     platform::TextView plain;
     plain.setFont(overlay.textFont());
@@ -42,21 +42,8 @@ TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
     overlay.setText(QString(300, u'x'));
     EXPECT_LE(overlay.contentSize().width(), 1024);
     EXPECT_GT(overlay.contentSize().height(), 2 * content.height());
-    overlay.setText(QString(QStringLiteral("line\n")).repeated(500));
+    overlay.setText(QString("line\n").repeated(500));
     EXPECT_LE(overlay.contentSize().height(), 768);
-    overlay.setText(QString());
-    EXPECT_EQ(overlay.text(), QString());
-}
-
-TEST(QVTextOverlay, an_unchanged_text_lays_nothing_out) {
-    OverlayRig rig;
-    TextOverlay overlay(&rig.window);
-    overlay.setText(QStringLiteral("text"));
-    const std::uint64_t revision = overlay.contentRevision();
-    overlay.setText(QStringLiteral("text"));
-    EXPECT_EQ(overlay.contentRevision(), revision);
-    overlay.setText(QStringLiteral("other"));
-    EXPECT_GT(overlay.contentRevision(), revision);
 }
 
 TEST(QVTextOverlay, size_and_smallest_size_push_each_other) {
@@ -81,28 +68,25 @@ TEST(QVTextOverlay, the_shadow_keeps_its_values_until_it_is_switched_off) {
     TextOverlay overlay(&rig.window);
     overlay.setShadowColor(Qt::green);
     EXPECT_FALSE(overlay.shadow()) << "there is none to change";
-    rig.change(kShadowOffset, QStringLiteral("3 -4"));
+    rig.change(kShadowOffset, "3 -4");
     rig.change(kShadowRadius, 5.0);
-    rig.change(kShadowColor, QStringLiteral("1 0 0 1"));
+    rig.change(kShadowColor, "1 0 0 1");
     rig.change(kShadowOn, true);
     EXPECT_EQ(overlay.shadow(), shadow(3, -4, 5, Qt::red));
     overlay.setShadowColor(Qt::green);
     overlay.setShadowOn(true);
     EXPECT_EQ(overlay.shadow(), shadow(3, -4, 5, Qt::green));
-    rig.change(kShadowRadius, 7.0);
-    rig.change(kShadowOffset, QStringLiteral("1 1"));
-    EXPECT_EQ(overlay.shadow(), shadow(1, 1, 7, Qt::green));
     rig.change(kShadowOn, false);
     EXPECT_FALSE(overlay.shadow());
     overlay.setShadowOn(true);
-    EXPECT_EQ(overlay.shadow(), shadow(1, 1, 7, Qt::red));
+    EXPECT_EQ(overlay.shadow(), shadow(3, -4, 5, Qt::red));
 }
 
 TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {
     OverlayRig rig;
     TextOverlay overlay(&rig.window);
-    overlay.setText(QStringLiteral("text"));
-    rig.change(kTextColor, QStringLiteral("0 0 1 1"));
+    overlay.setText("text");
+    rig.change(kTextColor, "0 0 1 1");
     rig.change(kTextFontSize, 50);
     rig.change(kFrameWidth, 6.0);
     rig.change(kMaxAlpha, 0.5);
@@ -111,16 +95,13 @@ TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {
     EXPECT_EQ(overlay.textFontSize(), 50);
     EXPECT_EQ(overlay.frame().width() - overlay.contentSize().width(), 22);
     EXPECT_EQ(overlay.maxAlpha(), 0.5F);
-    rig.change(kTextFontName, QStringLiteral("No Such Family"));
+    rig.change(kTextFontName, "No Such Family");
     EXPECT_EQ(platform::pointSizeOf(overlay.textFont()), 50);
-    EXPECT_TRUE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kTextColor, kShadowOn}}));
-    EXPECT_FALSE(overlay.preferencesChanged({kQVOSDOverlayStyle, {kTextColor}}));
 }
 
 TEST(QVTextOverlay, absurd_styles_are_laid_out_within_reason) {
     OverlayRig rig;
-    const QVariant values[] = {1e9, -1e9, std::numeric_limits<double>::quiet_NaN(), QStringLiteral("nonsense"),
-                               QVariantList{1, 2}};
+    const QVariant values[] = {1e9, -1e9, std::numeric_limits<double>::quiet_NaN(), "nonsense", QVariantList{1, 2}};
     for (const QVariant& value : values) {
         for (const QString& key :
              {kTextColor, kTextFontName, kTextFontSize, kShadowOn, kShadowColor, kShadowRadius, kShadowOffset,
@@ -130,7 +111,7 @@ TEST(QVTextOverlay, absurd_styles_are_laid_out_within_reason) {
         }
         TextOverlay overlay(&rig.window);
         overlay.setPadding(value.toFloat());
-        overlay.setText(QStringLiteral("text"));
+        overlay.setText("text");
         overlay.autopop();
         rig.settings.runLoop.advance(10);
         EXPECT_LE(overlay.contentSize().height(), 768 + 128) << value.toString().toStdString();
@@ -142,23 +123,12 @@ TEST(QVTextOverlay, absurd_styles_are_laid_out_within_reason) {
 TEST(QVImageOverlay, scales_its_image_by_each_axis) {
     OverlayRig rig;
     QVImageOverlay overlay(&rig.window);
-    overlay.setScale(1, 1);
-    const QRectF before = overlay.frame();
     overlay.setScale(0.5F, 2);
-    EXPECT_EQ(overlay.frame(), before) << "without an image there is nothing to lay out";
     QImage image(720, 96, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::red);
     overlay.setImage(image);
     EXPECT_EQ(overlay.contentSize(), QSizeF(360, 192));
     EXPECT_EQ(overlay.frame(), QRectF(20, 20, 374, 206));
-    overlay.setImage(QImage());
-    EXPECT_EQ(overlay.contentSize(), QSizeF(360, 192));
-    overlay.setImage(image);
-    for (const float absurd : {std::numeric_limits<float>::quiet_NaN(), -2.0F, 1e30F}) {
-        overlay.setScale(absurd, absurd);
-        EXPECT_LT(overlay.frame().width(), 1e6) << absurd;
-        EXPECT_GT(overlay.frame().width(), 0) << absurd;
-    }
 }
 
 TEST(ImageView, fills_itself_with_its_image_and_loses_no_pixel_when_it_shrinks) {
