@@ -116,6 +116,14 @@ protected:
 TEST_F(Formats, are_inspected_as_they_are_shown) {
     std::vector<Format> wanted = formats();
     wanted.push_back({"tone.mp3", tone, {}, 0, 0, 2, 0});
+    wanted.push_back(
+        {"cover.mp3",
+         tone + picture(red) + Arguments{"-c:v", "mjpeg", "-frames:v", "1", "-disposition:v", "attached_pic"},
+         {},
+         0,
+         0,
+         2,
+         0});
     wanted.push_back({"tone.flac", tone + Arguments{"-c:a", "flac"}, {}, 0, 0, 2, 0});
     Arguments files;
     for (const Format& format : wanted)

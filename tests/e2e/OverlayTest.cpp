@@ -216,21 +216,6 @@ TEST_F(Overlays, the_time_display_counts_the_seconds) {
     ASSERT_TRUE(quitsCleanly());
 }
 
-TEST_F(Overlays, the_display_is_kept_for_the_next_launch_where_the_setting_says_so) {
-    startPlain();
-    probe.tap(XK_d);
-    probe.tap(XK_d);
-    ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Movie: "));
-    ASSERT_TRUE(quitsCleanly());
-    startPlain();
-    EXPECT_TRUE(panelStands(Corner::left));
-    EXPECT_EQ(textsOf("QVOSDOverlay"), std::vector<std::string>{"Movie: plain.mp4 (1/1)"});
-    ASSERT_TRUE(quitsCleanly());
-    startPlain({"--set", "QVOSDStateSave=0"});
-    EXPECT_TRUE(staysTrue([&] { return look(Corner::left).panel.width == 0; }, Seconds(0.4)));
-    ASSERT_TRUE(quitsCleanly());
-}
-
 TEST_F(Overlays, commands_of_a_playing_movie_are_confirmed_at_the_top_right) {
     startPlain({"--set", "QVJumpInterval=3"});
     pressAll({{XK_m, {}, "Mute: On"},
@@ -251,32 +236,6 @@ TEST_F(Overlays, commands_of_a_playing_movie_are_confirmed_at_the_top_right) {
               {XK_space, {}, "Movie: Pause"}});
     ASSERT_TRUE(quitsCleanly());
     EXPECT_EQ(textsOf("QVFeedbackOverlay").back(), "Quit");
-}
-
-TEST_F(Overlays, commands_of_a_paused_movie_are_confirmed_at_the_top_right) {
-    startPlain();
-    pressAll({{XK_space, {}, "Movie: Pause"},
-              {XK_Right, {}, "Step Forward"},
-              {XK_Left, {}, "Step Backward"},
-              {XK_Left, {XK_Super_L}, "Previous: plain.mp4 (1/1)"},
-              {XK_Right, {XK_Super_L}, "Next: plain.mp4 (1/1)"},
-              {XK_Right, {XK_Alt_L}, "Movie: End"}});
-    ASSERT_TRUE(quitsCleanly());
-}
-
-TEST_F(Overlays, sizes_and_the_controller_bar_are_confirmed_at_the_top_right) {
-    startPlain();
-    pressAll({{XK_0, {}, "Size: Half"},
-              {XK_1, {}, "Size: Normal"},
-              {XK_2, {}, "Size: Double"},
-              {XK_3, {}, "Size: Full"},
-              {XK_4, {}, "Size: Fit Width"},
-              {XK_5, {}, "Size: Fit Height"},
-              {XK_plus, {XK_Shift_L}, "Size: Bigger"},
-              {XK_minus, {}, "Size: Smaller"},
-              {XK_c, {}, "Controller: On"},
-              {XK_c, {}, "Controller: Off"}});
-    ASSERT_TRUE(quitsCleanly());
 }
 
 TEST_F(Overlays, the_window_fades_in_at_launch_and_then_the_movie_starts) {
@@ -347,34 +306,6 @@ TEST_F(Overlays, dragging_moves_a_picture_larger_than_the_screen_as_far_as_its_e
     probe.drag(1100, 600, 300, 200);
     EXPECT_EQ(waitUntil([&] { return meeting().x == -1 && probe.pixel(5, 700).isNear(green); }, Seconds(5)), true)
         << "it ends somewhere else than at the picture's edge: " << meeting().x;
-    ASSERT_TRUE(quitsCleanly());
-}
-
-TEST_F(Overlays, the_pointer_at_an_edge_moves_a_picture_larger_than_the_screen) {
-    start({quarters()});
-    ASSERT_TRUE(meetsAt(640, 360));
-    probe.movePointer(640, 360);
-    probe.movePointer(20, 360);
-    EXPECT_TRUE(staysTrue([&] { return meeting() == Meeting{640, 360}; }, Seconds(0.3))) << "a picture that fits moved";
-    probe.movePointer(640, 360);
-    probe.tap(XK_2);
-    ASSERT_TRUE(logs("Size: Double"));
-    ASSERT_TRUE(meetsAt(640, 360));
-
-    probe.movePointer(20, 360); // to the left, and no further than it stays there
-    ASSERT_TRUE(waitUntil([&] { return meeting().x > 680; }));
-    probe.movePointer(640, 360);
-    Meeting stands;
-    EXPECT_TRUE(waitUntil([&] {
-        stands = meeting();
-        return staysTrue([&] { return meeting() == stands; }, Seconds(0.15));
-    }));
-    EXPECT_LT(stands.x, 1200);
-    EXPECT_NEAR(stands.y, 360, 2);
-
-    probe.movePointer(1260, 700); // towards the corner, both ways at once
-    EXPECT_TRUE(waitUntil([&] { return meeting().x < stands.x - 20 && meeting().y < stands.y - 20; }, Seconds(5)))
-        << meeting().x << ", " << meeting().y;
     ASSERT_TRUE(quitsCleanly());
 }
 

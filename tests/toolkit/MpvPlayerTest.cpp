@@ -124,44 +124,29 @@ TEST(MpvPlayer, steps_go_one_picture_in_each_direction_and_count_as_jumps) {
     const auto movie = rig.show(numberedMovie());
     // Right after a seek a step counts from where that leads.
     rig.player().seek(100 * picture, JumpReport::silent);
-    rig.player().step(1);
-    EXPECT_TRUE(rig.shows(101));
-    rig.settle();
-    EXPECT_EQ(rig.player().time(), 101 * picture);
+    const auto step = [&rig](const std::vector<int>& directions, int number) {
+        for (const int direction : directions)
+            rig.player().step(direction);
+        EXPECT_TRUE(rig.shows(number));
+        rig.settle();
+        EXPECT_EQ(rig.player().time(), number * picture);
+        EXPECT_EQ(rig.screen.number(), number);
+    };
+    step({1}, 101);
     EXPECT_EQ(rig.jumps, 1);
-    for (int i = 0; i < 3; ++i)
-        rig.player().step(1);
-    EXPECT_TRUE(rig.shows(104));
-    rig.settle();
-    EXPECT_EQ(rig.player().time(), 104 * picture);
-    rig.player().step(-1);
-    EXPECT_TRUE(rig.shows(103));
-    rig.settle();
-    EXPECT_EQ(rig.player().time(), 103 * picture);
-    EXPECT_GE(rig.jumps, 3);
-    for (const int direction : {1, -1, -1, 1, -1})
-        rig.player().step(direction);
-    rig.settle();
-    EXPECT_EQ(rig.player().time(), 102 * picture);
-    EXPECT_EQ(rig.screen.number(), 102);
-
+    step({1, 1, 1}, 104);
+    step({-1}, 103);
+    step({1, -1, -1, 1, -1}, 102);
     rig.player().play();
     EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 110 * picture; }));
     rig.player().step(1);
     EXPECT_FALSE(rig.player().isPlaying());
-    rig.settle();
-    EXPECT_EQ(rig.screen.number(), rig.player().time() / picture);
 
     // There is no picture before the first and after the last.
     rig.player().seek(0, JumpReport::silent);
-    EXPECT_TRUE(rig.shows(0));
-    rig.settle();
-    rig.player().step(-1);
-    rig.settle();
-    EXPECT_EQ(rig.screen.number(), 0);
+    step({-1}, 0);
     rig.player().seek(299 * picture, JumpReport::silent);
     EXPECT_TRUE(rig.shows(299));
-    rig.settle();
     rig.player().step(1);
     rig.settle();
     EXPECT_EQ(rig.screen.number(), 299);
@@ -193,25 +178,7 @@ TEST(MpvPlayer, fast_motion_in_both_directions_stops_at_the_ends) {
     EXPECT_TRUE(rig.waitFor([&] { return !rig.player().isPlaying(); }));
     EXPECT_EQ(rig.player().time(), 0);
     EXPECT_TRUE(rig.shows(0));
-    rig.player().setRate(-2);
-    EXPECT_FALSE(rig.player().isPlaying()) << "nothing lies before the beginning";
-    rig.settle();
-    EXPECT_EQ(rig.player().time(), 0);
     EXPECT_EQ(rig.ends, 1);
-}
-
-TEST(MpvPlayer, volume_and_mute_stay_from_movie_to_movie) {
-    ToolkitRig rig;
-    rig.player().setVolume(0.25F);
-    rig.player().setMuted(true);
-    const auto first = rig.show(numberedMovie());
-    const auto second = rig.show(greenMovie());
-    EXPECT_FLOAT_EQ(rig.player().volume(), 0.25F);
-    EXPECT_TRUE(rig.player().isMuted());
-    rig.player().setVolume(7);
-    EXPECT_FLOAT_EQ(rig.player().volume(), 3);
-    rig.player().setVolume(-1);
-    EXPECT_FLOAT_EQ(rig.player().volume(), 0);
 }
 
 TEST(MpvPlayer, the_movie_loaded_last_is_the_one_that_plays) {
@@ -248,34 +215,6 @@ TEST(MpvPlayer, the_movie_loaded_last_is_the_one_that_plays) {
     EXPECT_FALSE(rig.player().isPlaying());
 }
 
-TEST(MpvPlayer, sound_without_a_picture_plays_seeks_and_ends) {
-    ToolkitRig rig;
-    const auto movie =
-        rig.open(urlOf(media().make("tone.mp3", {"-f", "lavfi", "-i", "sine=frequency=440:duration=20"})));
-    ASSERT_TRUE(movie);
-    rig.player().load(movie.get());
-    rig.player().play();
-    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 300; }));
-    rig.player().seek(15 * 600, JumpReport::silent);
-    EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 15 * 600; }));
-    rig.player().seek(movie->duration() - 200, JumpReport::silent);
-    EXPECT_TRUE(rig.waitFor([&] { return rig.ends == 1; }));
-    EXPECT_EQ(rig.player().time(), movie->duration());
-}
-
-TEST(MpvPlayer, a_movie_that_breaks_off_ends_there) {
-    harness::MediaFixture::Numbered numbered;
-    numbered.frames = 90;
-    numbered.encoder.insert(numbered.encoder.end(), {"-movflags", "+faststart"});
-    const std::string whole = bytesOf(media().makeNumbered("faststart.mp4", numbered));
-    ToolkitRig rig;
-    rig.expectedError = QStringLiteral("libmpv");
-    const auto movie = rig.show(urlOf(scratch("broken off.mp4", whole.substr(0, whole.size() / 2))));
-    rig.player().play();
-    EXPECT_TRUE(rig.waitFor([&] { return rig.ends == 1; }));
-    EXPECT_FALSE(rig.player().isPlaying());
-}
-
 TEST(MpvPlayer, a_movie_that_cannot_be_played_ends_whenever_it_is_started) {
     ToolkitRig rig;
     rig.expectedError = QStringLiteral("ERROR: ");
@@ -286,37 +225,23 @@ TEST(MpvPlayer, a_movie_that_cannot_be_played_ends_whenever_it_is_started) {
     info.url = url;
     platform::Movie bad(info, rig.player());
     int badEnds = 0;
-    const auto isReported = [&] { return rig.log.contains(QStringLiteral("Can't play")); };
-    const auto arm = [&] { bad.callWhenStopped([&] { ++badEnds; }); };
-    arm();
+    bad.callWhenStopped([&] { ++badEnds; });
     rig.player().load(&bad);
     rig.player().play();
     EXPECT_TRUE(rig.waitFor([&] { return badEnds == 1; }));
     EXPECT_FALSE(rig.player().isPlaying());
-
-    // Paused when it failed.
-    rig.log.clear();
-    bad.setTimeValue(0);
-    rig.player().load(nullptr);
-    rig.player().load(&bad);
-    arm();
-    EXPECT_TRUE(rig.waitFor(isReported));
-    rig.settle();
-    EXPECT_EQ(badEnds, 1);
-    rig.player().play();
-    EXPECT_TRUE(rig.waitFor([&] { return badEnds == 2; }));
 
     // Its end does not become that of the movie after it.
     rig.log.clear();
     rig.player().load(nullptr);
     rig.player().load(&bad);
     rig.player().play();
-    EXPECT_TRUE(rig.waitFor(isReported));
+    EXPECT_TRUE(rig.waitFor([&] { return rig.log.contains("Can't play"); }));
     good->setTimeValue(0);
     rig.player().load(good.get());
     rig.player().play();
     EXPECT_TRUE(rig.waitFor([&] { return rig.player().time() > 30 * picture; }));
-    EXPECT_EQ(badEnds, 2);
+    EXPECT_EQ(badEnds, 1);
     EXPECT_EQ(rig.ends, 0);
     rig.player().load(nullptr);
 }

@@ -42,14 +42,3 @@ TEST(SeekPlanner, places_asked_for_meanwhile_replace_each_other_and_the_exact_pl
     EXPECT_EQ(planner.done(), Answer(Seek{8, Kind::keyframe}));
     EXPECT_EQ(planner.done(), std::nullopt);
 }
-
-TEST(SeekPlanner, a_movie_that_is_still_opened_keeps_the_place_until_it_is_ready) {
-    SeekPlanner planner;
-    planner.hold();
-    EXPECT_EQ(planner.request(5, Precision::exact, true), std::nullopt);
-    EXPECT_EQ(planner.done(), Answer(Seek{5, Kind::keyframe}));
-    planner.request(6, Precision::exact, true);
-    planner.reset();
-    EXPECT_FALSE(planner.isBusy());
-    EXPECT_EQ(planner.done(), std::nullopt);
-}

@@ -34,11 +34,6 @@ std::filesystem::path scratch(const std::string& name, const std::string& conten
     return folder / name;
 }
 
-std::string bytesOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 RenderedPicture::RenderedPicture(const QSize& size)
     : _size(size)
     , _pixels(static_cast<unsigned char*>(std::aligned_alloc(64, stride() * static_cast<std::size_t>(size.height())))) {
@@ -89,7 +84,7 @@ ToolkitRig::~ToolkitRig() {
     platform::MovieToolkit::setShared(nullptr);
     platform::RunLoop::setMain(nullptr);
     for (const QString& line : log.lines()) {
-        if (line.startsWith(QStringLiteral("ERROR: ")) && (expectedError.isEmpty() || !line.contains(expectedError)))
+        if (line.startsWith("ERROR: ") && (expectedError.isEmpty() || !line.contains(expectedError)))
             ADD_FAILURE() << line.toStdString();
     }
 }

@@ -22,7 +22,6 @@ QUrl urlOf(const std::filesystem::path& path);
 QUrl numberedMovie();
 /// A file of that content, made anew.
 std::filesystem::path scratch(const std::string& name, const std::string& content);
-std::string bytesOf(const std::filesystem::path& path);
 
 /// A picture as it is rendered: 32 bits a pixel, blue first.
 class RenderedPicture {
