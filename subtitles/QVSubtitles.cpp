@@ -280,6 +280,9 @@ void QVSubtitles::setFrameRate(std::int32_t choice) {
 }
 
 void QVSubtitles::setEncoding(std::uint32_t encoding) {
+    // Pictures have no texts, and waiting for their worker would hold up the player.
+    if (isImageBased())
+        return;
     const auto worker = lockWorker();
     if (encoding == platform::textEncoding::automatic)
         readAgain();

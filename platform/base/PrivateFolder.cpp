@@ -88,8 +88,11 @@ std::unique_ptr<PrivateFolder> PrivateFolder::make(const QString& parent) {
         const int folder = openFolder(path.c_str());
         if (folder >= 0 && isLocked(folder) && leadsTo(path.c_str(), folder))
             return std::unique_ptr<PrivateFolder>(new PrivateFolder(QFile::decodeName(path.c_str()), folder));
-        if (folder >= 0)
-            ::close(folder);
+        if (folder < 0) {
+            ::rmdir(path.c_str());
+            return nullptr;
+        }
+        ::close(folder);
     }
     return nullptr;
 }
@@ -105,6 +108,33 @@ void PrivateFolder::sweep(const QString& parent) {
         if (entry->path().filename().native().starts_with(kPrefix))
             removeAbandoned(entry->path());
     }
+}
+
+PrivateSubfolder::PrivateSubfolder(std::shared_ptr<PrivateFolder> shared, QString path)
+    : _shared(std::move(shared))
+    , _path(std::move(path)) {}
+
+std::unique_ptr<PrivateSubfolder> PrivateSubfolder::make() {
+    static std::weak_ptr<PrivateFolder> kept;
+    static unsigned made = 0;
+    std::shared_ptr<PrivateFolder> shared = kept.lock();
+    if (!shared)
+        shared = PrivateFolder::make();
+    kept = shared;
+    if (!shared)
+        return nullptr;
+    const QString path = shared->path() + u'/' + QString::number(++made);
+    constexpr ::mode_t forThisUser = 0700;
+    if (::mkdir(QFile::encodeName(path).constData(), forThisUser) != 0) {
+        Log::write(QStringLiteral("ERROR: PrivateFolder: Unable to make %1: %2.")
+                       .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
+        return nullptr;
+    }
+    return std::unique_ptr<PrivateSubfolder>(new PrivateSubfolder(std::move(shared), path));
+}
+
+PrivateSubfolder::~PrivateSubfolder() {
+    removeTree(_path);
 }
 
 void removeTree(const QString& path) {

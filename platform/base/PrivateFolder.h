@@ -31,6 +31,27 @@ private:
     int _lock;
 };
 
+/// An empty folder within a private one that all of a process share, so that many take one file descriptor. Removed
+/// with everything in it when the object goes; the shared one goes with the last. Main thread.
+class PrivateSubfolder {
+public:
+    /// None when it cannot be made.
+    static std::unique_ptr<PrivateSubfolder> make();
+
+    PrivateSubfolder(const PrivateSubfolder&) = delete;
+    PrivateSubfolder& operator=(const PrivateSubfolder&) = delete;
+    ~PrivateSubfolder();
+
+    /// Absolute, without a slash at its end.
+    const QString& path() const { return _path; }
+
+private:
+    PrivateSubfolder(std::shared_ptr<PrivateFolder> shared, QString path);
+
+    std::shared_ptr<PrivateFolder> _shared;
+    QString _path;
+};
+
 /// Removes a file, or a folder with everything in it, also where a folder within forbids it. Links are not followed.
 void removeTree(const QString& path);
 

@@ -243,6 +243,7 @@ bool Parser::readOrigin(IndexFields fields) {
 bool Parser::readScale(IndexFields fields) {
     constexpr std::int32_t firstVersionWithTwo = 5;
     const auto x = fields.takeDecimal();
+    fields.skipBlanks(); // as scanf does before a percent sign
     const auto y = *_version < firstVersionWithTwo             ? x
                    : x && fields.take('%') && fields.take(',') ? fields.takeDecimal()
                                                                : std::nullopt;

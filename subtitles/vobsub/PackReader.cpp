@@ -35,7 +35,25 @@ bool belongs(Bytes pack, std::uint8_t subStream, std::uint8_t ownSubStream) {
     return (subStream & ~streamMask) == firstSubpicture || (subStream & streamMask) == (ownSubStream & streamMask);
 }
 
+/// Whether a pack has the header of the fixed layout, and a packet of private stream 1 right after it.
+bool keepsLayout(Bytes pack) {
+    constexpr std::uint8_t stuffingMask = 0x07;
+    return ProgramStream::isStartCode(pack, packCode) && (pack[packHeaderLength - 1] & stuffingMask) == 0 &&
+           ProgramStream::isStartCode(pack.subspan(packHeaderLength), privateStream1Code);
+}
+
+/// Whether the packet of such a pack says that it ends before the pack does.
+bool endsEarly(Bytes pack) {
+    constexpr std::int64_t lengthAt = packHeaderLength + 4;
+    const std::int64_t length = pack[lengthAt] << 8 | pack[lengthAt + 1];
+    return length != 0 && lengthAt + 2 + length < packSize;
+}
+
 } // namespace
+
+// Where the lengths in the packs are right, all give the same, unless the packs are of an unusual size.
+const std::array<PackReader::Way, 3> PackReader::ways{&PackReader::readFixedLayout, &PackReader::readByLengths,
+                                                      &PackReader::readAsFixedLayout};
 
 /// A unit that is being put together.
 class PackReader::Assembly {
@@ -112,7 +130,12 @@ bool PackReader::leadsOn(std::int64_t position) {
 /// right and whose packets are not are met in the wild.
 bool PackReader::recover(Walk& walk) {
     const std::int64_t following = walk.packStart + packSize;
-    if (walk.packStart < 0 || following < walk.takenTo || !ProgramStream::isStartCode(_file.at(following, 4), packCode))
+    if (!walk.isRecovering || walk.packStart < 0 || following < walk.takenTo ||
+        !ProgramStream::isStartCode(_file.at(following, 4), packCode))
+        return false;
+    // A pack of the unit itself whose packet is damaged is not passed over: the next unit would be taken for its end.
+    const Bytes pack = _file.at(walk.packStart, static_cast<std::size_t>(packSize));
+    if (const auto at = subStreamInPack(pack); walk.takenTo <= walk.packStart && at && pack[*at] == _subStream)
         return false;
     walk.position = following;
     walk.packStart = -1;
@@ -149,11 +172,13 @@ std::optional<Element> PackReader::nextPacket(Walk& walk) {
 /// The first own packet of the pack at which the walk stands.
 std::optional<Element> PackReader::firstPacketOfPack(Walk& walk) {
     const std::int64_t pack = walk.position;
+    walk.isRecovering = false;
     auto packet = nextPacket(walk);
     while (packet && walk.packStart == pack && !isOwn(*packet)) {
         walk.position += static_cast<std::int64_t>(packet->length);
         packet = skip(static_cast<std::int64_t>(packet->length)) ? nextPacket(walk) : std::nullopt;
     }
+    walk.isRecovering = true;
     return walk.packStart == pack ? packet : std::nullopt;
 }
 
@@ -227,17 +252,22 @@ std::optional<PackReader::Unit> PackReader::readByLengths(std::int64_t position)
     return assembly.finished();
 }
 
-std::optional<PackReader::Unit> PackReader::readFixedLayout(std::int64_t position) {
+std::optional<PackReader::Unit> PackReader::readPacks(std::int64_t position, bool keepLayout) {
     _skippable = mostSkipped;
     Assembly assembly;
     for (bool isFirst = true; assembly.missing() > 0; isFirst = false, position += packSize) {
         const Bytes pack = _file.at(position, static_cast<std::size_t>(packSize));
         const auto subStream = subStreamInPack(pack);
+        const bool isOwnPack = subStream && pack[*subStream] == _subStream;
+        if (keepLayout && !(isOwnPack ? keepsLayout(pack) : ProgramStream::isStartCode(pack, packCode)))
+            return std::nullopt;
         const bool isTaken =
-            subStream && (isFirst ? belongs(pack, pack[*subStream], _subStream) : pack[*subStream] == _subStream);
+            isOwnPack || (isFirst && !keepLayout && subStream && belongs(pack, pack[*subStream], _subStream));
         if (isTaken)
             assembly.take(pack.subspan(*subStream + 1));
         else if (isFirst || pack.empty() || !skip(packSize))
+            return std::nullopt;
+        if (isTaken && keepLayout && assembly.missing() > 0 && endsEarly(pack))
             return std::nullopt;
     }
     return assembly.finished();

@@ -4,6 +4,7 @@
 #include "subtitles/vobsub/DataFile.h"
 #include "subtitles/vobsub/ProgramStream.h"
 
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <optional>
@@ -32,9 +33,16 @@ public:
     /// The unit whose first pack is at the position or up to 16 bytes off, where the packs, headers and packets have
     /// the lengths that they say. None when the unit is not there whole.
     std::optional<Unit> readByLengths(std::int64_t position);
-    /// The unit whose first pack is at the position, where packs have 2048 bytes, headers 14 and a pack holds one
-    /// packet, whatever they say. None when the first pack is not of subpictures, or the unit is not there whole.
-    std::optional<Unit> readFixedLayout(std::int64_t position);
+    /// The unit whose first pack is at the position, where packs have 2048 bytes, headers 14, and a pack holds one
+    /// packet. None when a pack on the way says otherwise, or the unit is not there whole. A packet's length counts
+    /// only where it ends too early.
+    std::optional<Unit> readFixedLayout(std::int64_t position) { return readPacks(position, true); }
+    /// The same whatever the packs say, if only the first one is of subpictures.
+    std::optional<Unit> readAsFixedLayout(std::int64_t position) { return readPacks(position, false); }
+
+    /// The ways to read a unit, in the order to try them.
+    using Way = std::optional<Unit> (PackReader::*)(std::int64_t position);
+    static const std::array<Way, 3> ways;
 
 private:
     class Assembly;
@@ -45,6 +53,8 @@ private:
         std::int64_t packStart = -1;
         /// What lies before was taken.
         std::int64_t takenTo = 0;
+        /// Where the lengths lead nowhere, the walk goes on with the next pack.
+        bool isRecovering = true;
     };
 
     bool isOwn(const ProgramStream::Element& element) const;
@@ -54,6 +64,7 @@ private:
     std::optional<ProgramStream::Element> nextPacket(Walk& walk);
     std::optional<ProgramStream::Element> firstPacketOfPack(Walk& walk);
     std::optional<ProgramStream::Element> findStart(std::int64_t position, Walk& walk);
+    std::optional<Unit> readPacks(std::int64_t position, bool keepLayout);
     void takePacket(const ProgramStream::Element& packet, Walk& walk, Assembly& assembly);
 
     DataFile& _file;

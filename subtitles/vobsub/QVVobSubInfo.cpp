@@ -102,7 +102,7 @@ QString QVVobSubInfo::_locateSubFile(const QString& base) {
 }
 
 QString QVVobSubInfo::_extractSubFile(const QString& archive, const QString& baseName) {
-    _tempFolder = platform::PrivateFolder::make();
+    _tempFolder = platform::PrivateSubfolder::make();
     const QString temporary = _tempFolder ? _tempFolder->path() : QString();
     const QString tempPath = temporary + u'/' + baseName + u'/';
     std::optional<int> status;

@@ -9,7 +9,7 @@
 #include <vector>
 
 namespace platform {
-class PrivateFolder;
+class PrivateSubfolder;
 }
 
 /// The parsed index of a VobSub pair, shared by the tracks of its streams, together with the data file that it belongs
@@ -40,5 +40,5 @@ private:
     VobSubIndex _index;
     QString _subPath;
     /// What was taken out of an archive.
-    std::unique_ptr<platform::PrivateFolder> _tempFolder;
+    std::unique_ptr<platform::PrivateSubfolder> _tempFolder;
 };

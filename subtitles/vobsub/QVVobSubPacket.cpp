@@ -42,8 +42,7 @@ std::optional<QVVobSubPacket> QVVobSubPacket::packetWithFile(PackReader& reader,
         return std::nullopt;
     }
     bool isMalformed = false;
-    // Where the lengths in the packs are right, both ways give the same, unless the packs are of an unusual size.
-    for (const auto read : {&PackReader::readByLengths, &PackReader::readFixedLayout}) {
+    for (const auto read : PackReader::ways) {
         auto unit = (reader.*read)(pos._pos);
         if (!unit)
             continue;

@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::atomic<bool> abort = false;
     PackReader reader(*file, data[2], abort);
     const std::int64_t position = data[0] << 8 | data[1];
-    for (const auto way : {&PackReader::readByLengths, &PackReader::readFixedLayout}) {
+    for (const auto way : PackReader::ways) {
         const auto unit = (reader.*way)(position);
         // A unit is made of bytes of the file, and has the size that it says.
         if (unit && (unit->bytes.empty() || unit->bytes.size() > size || unit->dataSize < 1))

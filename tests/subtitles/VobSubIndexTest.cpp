@@ -47,7 +47,7 @@ TEST(VobSubIndex, a_usual_index_is_read_whole) {
                                       "\r\n"
                                       "  size: 720x576\r\n"
                                       "org: 10, -20\r\n"
-                                      "scale: 100%, 50%\r\n"
+                                      "scale: 100 %, 50%\r\n"
                                       "alpha: 80%\r\n"
                                       "smooth: OLD\r\n"
                                       "fadein/out: 100, 250\r\n"

@@ -26,14 +26,17 @@ protected:
         return path;
     }
     /// What a packet of stream 3 would be made of; empty when there is none.
-    Bytes read(DataFile& file, std::int64_t position) {
-        PackReader reader(file, 3, abort);
-        for (const auto way : {&PackReader::readByLengths, &PackReader::readFixedLayout}) {
+    Bytes read(PackReader& reader, std::int64_t position) {
+        for (const auto way : PackReader::ways) {
             auto unit = (reader.*way)(position);
             if (unit && ControlSequences::parse(unit->bytes, unit->dataSize))
                 return unit->bytes;
         }
         return {};
+    }
+    Bytes read(DataFile& file, std::int64_t position) {
+        PackReader reader(file, 3, abort);
+        return read(reader, position);
     }
     Bytes read(const Bytes& bytes, std::int64_t position) {
         const auto file = DataFile::open(write(bytes));
@@ -226,4 +229,18 @@ TEST_F(VobSubPacks, what_cannot_be_read_is_said) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_FALSE(DataFile::open(pipe));
     EXPECT_FALSE(DataFile::open(folder.path()));
+}
+
+TEST_F(VobSubPacks, a_long_track_of_packets_without_a_length_is_read_to_its_end) {
+    vobsub::DataWriter writer;
+    std::vector<std::int64_t> positions;
+    const Bytes unit = vobsub::unit(uncropped(randomBitmap(160, 100, 4, 1)));
+    ASSERT_GT(unit.size(), 2048U);
+    for (int count = 0; count < 400; ++count)
+        positions.push_back(writer.append(unit, 3, 0, {.foreignPacks = 2, .packetLengthsOfZero = true}));
+    const auto file = DataFile::open(write(writer.bytes()));
+    ASSERT_TRUE(file);
+    PackReader reader(*file, 3, abort);
+    for (const std::int64_t position : positions)
+        ASSERT_TRUE(read(reader, position) == unit) << position;
 }

@@ -52,9 +52,11 @@ ArchiveListing ArchiveListing::fromJson(const QByteArray& json) {
     double size = 0;
     for (const QJsonValue& value : entries) {
         const QJsonObject entry = value.toObject();
+        const QString name = entry.value(QStringLiteral("XADFileName")).toString();
+        if (name.count(u'/') + name.count(u'\\') > limits::depth)
+            listing.error = QStringLiteral("too many folders within one another");
         if (isSet(entry, "XADIsDirectory"))
             continue;
-        const QString name = entry.value(QStringLiteral("XADFileName")).toString();
         if (isSet(entry, "XADIsEncrypted"))
             listing.error = QStringLiteral("the archive is encrypted");
         if (!isRegularFile(entry) || !staysWithin(name)) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -67,7 +68,12 @@ FolderContents contentsOf(const fs::path& folder) {
 bool handOver(const fs::path& from, const fs::path& to) {
     std::vector<fs::path> files = entriesOf(from);
     std::erase_if(files, [](const fs::path& path) { return !isPlainFile(path); });
-    std::ranges::sort(files);
+    // What is in lower case already keeps its name.
+    const auto order = [&](const fs::path& path) {
+        const fs::path name = path.lexically_relative(from);
+        return std::pair(name != lowerCased(name), path);
+    };
+    std::ranges::sort(files, {}, order);
     std::error_code error;
     fs::create_directory(to, error);
     // All folders first: a file of the same name gives way.

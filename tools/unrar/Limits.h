@@ -11,5 +11,7 @@ inline constexpr double secondsToExtract = 50;
 inline constexpr std::uint64_t memory = std::uint64_t{1} << 30U;
 inline constexpr std::uint64_t bytes = std::uint64_t{2} << 30U;
 inline constexpr std::uint64_t entries = 10'000;
+/// Of folders within one another; a tree of thousands would keep the extraction busy for long.
+inline constexpr int depth = 32;
 
 } // namespace limits
