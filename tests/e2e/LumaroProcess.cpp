@@ -1,26 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/e2e/LumaroProcess.h"
 
+#include <regex>
 #include <sys/stat.h>
-
-#include <cstdlib>
-#include <stdexcept>
-
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "lumaro-test.XXXXXX").string();
-    if (!::mkdtemp(name.data()))
-        throw std::runtime_error("no temporary folder");
-    _path = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(_path, ignored);
-}
-
-LumaroProcess::LumaroProcess(const LumaroUser& user, const std::string& display,
-                             const std::vector<std::string>& arguments, const std::string& workingDirectory)
-    : ChildProcess(optionsFor(user, display, arguments, workingDirectory)) {}
 
 harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user, const std::string& display,
                                                          const std::vector<std::string>& arguments,
@@ -47,12 +29,10 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
 }
 
 std::vector<std::string> LumaroProcess::faults() const {
+    static const std::regex marks("AddressSanitizer|LeakSanitizer|runtime error:|ASSERT|terminate called");
     std::vector<std::string> result;
     for (const std::string& line : errorLines())
-        for (const char* mark : {"AddressSanitizer", "LeakSanitizer", "runtime error:", "ASSERT", "terminate called"})
-            if (line.find(mark) != std::string::npos) {
-                result.push_back(line);
-                break;
-            }
+        if (std::regex_search(line, marks))
+            result.push_back(line);
     return result;
 }

@@ -3,44 +3,30 @@
 
 #include "tools/screen/ChildProcess.h"
 
+#include <QTemporaryDir>
+
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <vector>
 
-// A folder that goes with the object.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    const std::filesystem::path& path() const { return _path; }
-
-private:
-    std::filesystem::path _path;
-};
-
 // The folders of one user: settings and the place of the running player. Every process started for the same user shares
-// them, as on a real desktop.
+// them, as on a real desktop. Movies of the test's own may lie there too.
 class LumaroUser {
 public:
-    std::filesystem::path settingsFile() const { return _folder.path() / "config/lumaro/org.lumaro.Lumaro.plist"; }
-    std::filesystem::path runtimeFolder() const { return _folder.path() / "run"; }
-    std::filesystem::path folder() const { return _folder.path(); }
+    std::filesystem::path folder() const { return _folder.path().toStdString(); }
+    std::filesystem::path settingsFile() const { return folder() / "config/lumaro/org.lumaro.Lumaro.plist"; }
+    std::filesystem::path runtimeFolder() const { return folder() / "run"; }
 
 private:
-    TemporaryFolder _folder;
+    QTemporaryDir _folder;
 };
 
-// The real program, started for a user on a display, with tracing on unless a test says otherwise. First-time questions
-// and the open panel are off, no sound device is used.
+// The real program, started for a user on a display; an empty display is none (for what needs no screen).
 class LumaroProcess : public harness::ChildProcess {
 public:
-    // An empty display: none (for what needs no screen).
     LumaroProcess(const LumaroUser& user, const std::string& display, const std::vector<std::string>& arguments,
-                  const std::string& workingDirectory = {});
+                  const std::string& workingDirectory = {})
+        : ChildProcess(optionsFor(user, display, arguments, workingDirectory)) {}
 
     // The lines that say that something went wrong in the program itself: sanitizers and failed assertions.
     std::vector<std::string> faults() const;
