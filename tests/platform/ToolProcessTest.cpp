@@ -20,34 +20,6 @@ platform::ToolRequest shell(const char* script) {
 
 } // namespace
 
-TEST(ToolProcess, status_and_output_come_back) {
-    QByteArray said;
-    const struct {
-        const char* script;
-        int status;
-        const char* output;
-    } cases[] = {
-        {"echo out; echo err >&2; exit 3", 3, "out\nerr\n"},
-        {"cat; pwd; echo $SOMETHING $HOME", 0, "/usr\nchanged /root-of-none\n"},
-        {"kill -9 $$", 128 + SIGKILL, ""},
-    };
-    for (const auto& one : cases) {
-        said.clear();
-        auto request = shell(one.script);
-        request.folder = QString("/usr");
-        request.environment = {QString("HOME=/root-of-none"), QString("SOMETHING=changed")};
-        request.output = [&](const QByteArray& piece) { said += piece; };
-        EXPECT_EQ(platform::runTool(request), one.status) << one.script;
-        EXPECT_EQ(said, QByteArray(one.output)) << one.script;
-    }
-    auto request = shell("echo out; echo err >&2; head -c 300000 /dev/zero");
-    request.dropsErrors = true;
-    qsizetype length = 0;
-    request.output = [&](const QByteArray& piece) { length += piece.size(); };
-    EXPECT_EQ(platform::runTool(request), 0);
-    EXPECT_EQ(length, 300'004);
-}
-
 TEST(ToolProcess, limits_end_the_program_and_what_it_started) {
     const QTemporaryDir folder;
     auto slow = shell("sleep 1000 & echo $!; sleep 1000");

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 using namespace platform;
 
 namespace {
@@ -70,25 +68,4 @@ TEST(Window, Children_move_with_their_parent_and_draw_through_its_host) {
     child.contentView().setNeedsDisplayInRect(QRectF(0, 0, 1, 1));
     child.orderOut();
     EXPECT_EQ(host.areas, (std::vector{QRectF(100, 50, 1, 1), QRectF(100, 50, 20, 10)}));
-}
-
-TEST(Window, Views_and_windows_may_end_in_any_order) {
-    auto window = std::make_unique<Window>(screen);
-    auto child = std::make_unique<Window>(screen);
-    Window grandchild(screen);
-    window->addChildWindow(*child);
-    child->addChildWindow(grandchild);
-    auto view = std::make_unique<View>();
-    View inner;
-    window->contentView().addSubview(*view);
-    view->addSubview(inner);
-    window->makeFirstResponder(&inner);
-    child.reset();
-    view.reset();
-    EXPECT_TRUE(window->childWindows().empty());
-    EXPECT_EQ(window->firstResponder(), nullptr);
-    EXPECT_EQ(inner.window(), nullptr);
-    window->addChildWindow(grandchild);
-    window.reset();
-    EXPECT_EQ(grandchild.parentWindow(), nullptr);
 }

@@ -46,16 +46,6 @@ TEST(PropertyList, what_was_written_is_read_back_and_what_was_cut_off_is_not) {
         ASSERT_FALSE(propertyList::parse(xml.left(size))) << size;
 }
 
-TEST(PropertyList, a_float_is_written_as_short_as_it_can_be_and_read_back_exactly) {
-    for (const float value : {0.3F, 0.1F + 0.2F, 1.0F, 1e-30F, std::numeric_limits<float>::max()}) {
-        const QByteArray xml = propertyList::toXml({{"value", value}});
-        EXPECT_EQ(static_cast<float>(propertyList::parse(xml)->toMap()["value"].toDouble()), value)
-            << xml.toStdString();
-    }
-    EXPECT_TRUE(propertyList::toXml({{"value", 0.3F}}).contains("<real>0.3</real>"));
-    EXPECT_TRUE(propertyList::toXml({{"value", std::numeric_limits<double>::quiet_NaN()}}).contains("<real>0</real>"));
-}
-
 TEST(PropertyList, the_binary_form_is_read_and_what_would_exhaust_the_reader_is_refused) {
     EXPECT_EQ(propertyList::parse(binary("01")), QVariant(QVariantList{QVariant(QVariantList{})}));
     const auto nested = [](int depth) { return QByteArray("<array>").repeated(depth); };

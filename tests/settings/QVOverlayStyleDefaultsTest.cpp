@@ -52,13 +52,3 @@ TEST_F(QVOverlayStyleDefaultsTest, a_change_covers_its_own_value_alone) {
     EXPECT_EQ(plain->shadowOffset(), QSizeF(2, -2));
     EXPECT_EQ(plain->textColor(), QColor(0, 0, 255)) << "no colour is no change";
 }
-
-TEST_F(QVOverlayStyleDefaultsTest, what_a_style_lacks_or_holds_damaged_is_zero) {
-    settings.defaults().setObject(QVariantMap{{"Other", 5}}, kQVOverlayStyles);
-    const auto other = style(kQVOSDOverlayStyle);
-    EXPECT_EQ(other->textFontSize(), 30);
-    EXPECT_FALSE(other->textColor());
-    EXPECT_FALSE(other->shadowOn());
-    EXPECT_EQ(other->maxAlpha(), 0);
-    EXPECT_EQ(other->shadowOffset(), QSizeF(0, 0));
-}

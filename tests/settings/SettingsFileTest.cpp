@@ -42,16 +42,6 @@ protected:
 
 } // namespace
 
-TEST_F(SettingsFileTest, the_first_run_makes_the_folder_and_leaves_nothing_but_the_settings_in_it) {
-    const QString deep = folder.filePath("a/b/settings.plist");
-    SettingsFile file(deep);
-    EXPECT_TRUE(file.load().isEmpty());
-    EXPECT_TRUE(file.store(settings));
-    EXPECT_EQ(SettingsFile(deep).load()["QVJumpInterval"], 15);
-    EXPECT_EQ(QDir(folder.filePath("a/b")).entryList(QDir::Files | QDir::Hidden), QStringList{"settings.plist"});
-    EXPECT_TRUE(log.lines().isEmpty());
-}
-
 TEST_F(SettingsFileTest, a_damaged_file_is_put_aside_and_reported) {
     const char* const damages[] = {"", "no property list", "<plist version=\"1.0\"><dict><key>a</key>",
                                    "<plist version=\"1.0\"><string>no dictionary</string></plist>", "bplist00"};

@@ -51,12 +51,9 @@ TEST_F(UserDefaultsTest, changes_are_written_together_a_second_after_the_first) 
     loop.advance(0.2);
     EXPECT_EQ(disk->stores, 1);
     EXPECT_EQ(disk->domain["a"], 2);
-
     defaults->setInteger(2, "a");
-    defaults->removeObjectForKey("b");
     loop.advance(10);
     EXPECT_EQ(disk->stores, 1) << "nothing had changed";
-    EXPECT_EQ(loop.pendingCount(), 0U);
 }
 
 TEST_F(UserDefaultsTest, a_write_that_failed_is_tried_again) {
