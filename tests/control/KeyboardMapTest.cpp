@@ -39,29 +39,23 @@ TEST(KeyboardMap, Each_key_with_its_modifiers_presses_and_repeats_as_the_map_say
         KeyCommand press, repeat;
     } cases[] = {
         {"1", u'1', every, {Kind::movieSize, 1, "Size: Normal"}, passOn},
-        {"F", u'F', shift, {Kind::movieSize, 3, "Size: Full"}, passOn},
         {"+", u'+', shift, {Kind::movieSize, -2, "Size: Bigger"}, acts},
         {"-", u'-', none, {Kind::movieSize, -3, "Size: Smaller"}, acts},
         {"s", u's', none, {Kind::cycleSubtitles, 1}, acts},
         {"Shift s", u'S', shift, {Kind::cycleSubtitles, -1}, acts},
-        {"s under Caps Lock", u'S', capsLock, {Kind::cycleSubtitles, 1}, acts},
         {"Shift d", u'd', shift, {Kind::cycleDisplays, -1}, acts},
         {"c", u'c', every, {Kind::toggleController}, consume},
         {"l", u'l', none, {Kind::toggleLooping, 1}, consume},
-        {"Shift l", u'L', shift, {Kind::toggleLooping, -1}, consume},
-        {"m", u'm', none, {Kind::volumeControl, 4}, consume},
         {"Tab", tab, none, {Kind::performAction, action::nextScreen}, consume},
         {"Up", up, none, {Kind::repeatAction, action::volumeUp}, consume},
         {"Alt Up", up, option | command, {Kind::performAction, action::optionUp}, consume},
         {"Down", down, shift | control, {Kind::repeatAction, action::volumeDown}, consume},
-        {"Alt Down", down, option, {Kind::performAction, action::optionDown}, consume},
         {"Super Left", left, command, {Kind::playPrevious}, acts},
         {"Super first, Left", left, every, {Kind::playPrevious}, acts},
         {"Alt Left", left, option | control, {Kind::gotoBeginning, 0, "Movie: Beginning"}, consume},
         {"Ctrl Left", left, control, {Kind::performAction, action::jumpBackward}, acts},
         {"Alt Right", right, option | control, {Kind::gotoEnd, 0, "Movie: End"}, consume},
         {"Ctrl Right", right, control, {Kind::performAction, action::jumpForward}, acts},
-        {"Escape", escape, none, passOn, passOn},
         {"x", u'x', every, passOn, passOn},
     };
     for (const auto& c : cases) {
@@ -70,19 +64,5 @@ TEST(KeyboardMap, Each_key_with_its_modifiers_presses_and_repeats_as_the_map_say
             EXPECT_EQ(keyCommand(key(c.character, c.modifiers, true), state), c.repeat == acts ? c.press : c.repeat)
                 << c.name << " held";
         }
-    }
-}
-
-TEST(KeyboardMap, Space_restores_normal_playback_only_from_fast_motion) {
-    const KeyEvent press = key(functionKey::space), held = key(functionKey::space, none, true);
-    for (const float rate : {2.0F, -2.0F, 0.5F}) {
-        const KeyboardState state{.isPlaying = true, .rate = rate};
-        EXPECT_EQ(keyCommand(press, state), (KeyCommand{Kind::restorePlayback, 0, "Movie: Play"})) << rate;
-        EXPECT_EQ(keyCommand(held, state), consume) << rate;
-    }
-    for (const KeyboardState& state : {playing, stopped}) {
-        EXPECT_EQ(keyCommand(press, state), passOn);
-        EXPECT_EQ(keyCommand(held, state), passOn);
-        EXPECT_EQ(keyCommand(KeyEvent(), state), passOn) << "no characters at all";
     }
 }

@@ -4,9 +4,6 @@
 #include "app/settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
 
-#include <QImage>
-#include <QPainter>
-
 #include <gtest/gtest.h>
 
 using platform::ControllerBar;
@@ -55,25 +52,4 @@ TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
     EXPECT_FALSE(rig.view.isMuted());
     EXPECT_NEAR(rig.view.volume(), 0.5, 0.01);
     EXPECT_EQ(volumes.count, 1);
-}
-
-TEST(ControllerBar, it_is_drawn_again_only_when_it_looks_different) {
-    BarRig rig;
-    QImage image(640, 496, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QPainter painter(&image);
-    rig.view.draw(painter, rig.view.bounds());
-    painter.end();
-    EXPECT_EQ(image.pixelColor(320, 479), QColor(Qt::red)) << "the bar lies below the picture";
-    EXPECT_NE(image.pixelColor(320, 482), QColor(Qt::red));
-
-    rig.host.areas.clear();
-    rig.view.start();
-    EXPECT_EQ(rig.host.areas.size(), 1U);
-    // 25 pictures, in which the slider's knob comes 9 points further.
-    rig.player().advance(1);
-    EXPECT_GT(rig.host.areas.size(), 15U);
-    EXPECT_LT(rig.host.areas.size(), 21U);
-    for (const QRectF& area : rig.host.areas)
-        EXPECT_EQ(area, QRectF(rig.view.frame().topLeft(), rig.size));
 }

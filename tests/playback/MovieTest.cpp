@@ -92,35 +92,3 @@ TEST(Movie, without_pictures_every_quarter_of_a_second_passes) {
     sound.player.advance(1.02);
     EXPECT_EQ(sound.passed, (std::vector<std::int32_t>{150, 300, 450, 600}));
 }
-
-TEST(Movie, a_move_of_a_resting_movie_is_silent_and_stays_in_the_movie) {
-    Loaded m;
-    int jumps = 0;
-    m.movie->callWhenTimeJumps([&] { ++jumps; });
-    m.watch();
-    EXPECT_EQ(m.movie->setTimeValue(40000), 0);
-    EXPECT_EQ(m.movie->time(), 36000);
-    m.movie->setTimeValue(-1);
-    EXPECT_EQ(m.movie->time(), 0);
-    EXPECT_TRUE(m.passed.empty());
-    EXPECT_EQ(jumps, 0);
-    m.player.step(1);
-    EXPECT_EQ(jumps, 1);
-    m.player.step(1);
-    EXPECT_EQ(jumps, 1) << "a callback is called once for each arming";
-}
-
-TEST(Movie, a_movie_that_is_not_loaded_rests_at_the_time_it_was_left_at) {
-    Loaded m;
-    m.player.play();
-    m.player.advance(1);
-    Movie other(plain(), m.player);
-    m.player.load(&other);
-    EXPECT_EQ(m.movie->time(), 600);
-    EXPECT_EQ(m.movie->rate(), 0);
-    EXPECT_EQ(other.time(), 0);
-    m.movie->setTimeValue(1200);
-    EXPECT_EQ(other.time(), 0);
-    m.player.load(m.movie.get());
-    EXPECT_EQ(m.player.time(), 1200);
-}

@@ -2,7 +2,6 @@
 #include "playback/QVMovie.h"
 
 #include "app/settings/SettingsKeys.h"
-#include "playback/SubtitleDiscovery.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -13,8 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <filesystem>
 #include <sys/stat.h>
 
 namespace {
@@ -25,30 +22,6 @@ void touch(const QString& path) {
 }
 
 } // namespace
-
-TEST(QVMovie, frames_and_seconds_are_counted_as_stated) {
-    PlaybackRig rig;
-    const struct {
-        bool video;
-        std::uint32_t frames;
-        std::int32_t duration; // at 600 units a second
-        float rate;
-    } cases[] = {
-        {true, 1500, 36000, 25.0F},
-        {true, 60, 1400, 30.0F}, // 2.33 seconds count as 2
-        {true, 12, 500, INFINITY},
-        {false, 0, 36000, 0.0F},
-    };
-    for (const auto& c : cases) {
-        platform::MovieInfo info = ScriptedToolkit::plainMovie(QUrl());
-        info.hasVideo = c.video;
-        info.videoSampleCount = c.frames;
-        info.duration = c.duration;
-        QVMovie movie(info, rig.player());
-        EXPECT_EQ(movie.frameRate(), c.rate);
-        EXPECT_EQ(movie.durationInSeconds(), c.duration / 600);
-    }
-}
 
 TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
     PlaybackRig rig;
@@ -125,16 +98,4 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
 
     rig.settings.defaults().setBool(false, kQVAutoloadSubtitles);
     EXPECT_TRUE(QVMovie::movieWithFilePath(folder.filePath("Film.avi"))->subtitles().empty());
-}
-
-TEST(QVMovie, a_subtitle_file_that_comes_later_is_found) {
-    PlaybackRig rig;
-    QTemporaryDir folder;
-    const QString base = folder.filePath("a");
-    const QStringList types{"srt"};
-    std::filesystem::last_write_time(folder.path().toStdString(), {}); // long ago
-    EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, types).isEmpty());
-    touch(base + ".srt");
-    EXPECT_TRUE(SubtitleDiscovery::filesBeginningWith(base, {}).isEmpty());
-    EXPECT_EQ(SubtitleDiscovery::filesBeginningWith(base, types), QStringList(base + ".srt"));
 }

@@ -115,7 +115,6 @@ platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
 }
 
 std::optional<platform::MovieInfo> ScriptedToolkit::open(const QUrl& url) {
-    opened.append(url);
     if (whileOpening)
         whileOpening(url);
     const auto script = scripts.constFind(url);

@@ -5,7 +5,6 @@
 #include "platform/movie/MovieToolkit.h"
 
 #include <QHash>
-#include <QList>
 #include <QUrl>
 
 #include <functional>
@@ -72,8 +71,6 @@ public:
         bool opens = false;
     };
     QHash<QUrl, Script> scripts;
-    /// The URLs opened, in order.
-    QList<QUrl> opened;
     /// Runs inside each open, as the event loop does while a network URL is opened.
     std::function<void(const QUrl&)> whileOpening;
     int entered = 0;
