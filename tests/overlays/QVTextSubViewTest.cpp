@@ -85,22 +85,10 @@ TEST_F(TextSubView, the_letters_follow_the_size_of_the_picture) {
     EXPECT_EQ(letters(), 20) << "half of 36 is less than the smallest size";
     EXPECT_LT(view.frame().height(), large);
     EXPECT_EQ(view.frame().y(), 240);
+    EXPECT_NEAR(view.frame().center().x(), 512, 0.01);
     rig.change(kTextFontSize, 60);
     EXPECT_EQ(letters(), 30);
     resizePicture({-500, -300, 2048, 1152});
     EXPECT_EQ(letters(), 60);
     EXPECT_EQ(view.frame().y(), 0) << "below the parent's edge";
-}
-
-TEST_F(TextSubView, stands_in_the_middle_of_the_picture_above_the_bar) {
-    view.setSubtitle(cue("some words"));
-    EXPECT_EQ(view.frame().y(), 96);
-    EXPECT_NEAR(view.frame().center().x(), 512, 0.01);
-    picture.bar = true;
-    resizePicture(picture.frame);
-    EXPECT_EQ(view.frame().y(), 112);
-    rig.window.setFrame(QRectF(50, 30, 1024, 768));
-    view.parentSizeChanged();
-    EXPECT_EQ(view.frame().y(), 142);
-    EXPECT_NEAR(view.frame().center().x(), 562, 0.01);
 }

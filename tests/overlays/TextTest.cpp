@@ -73,16 +73,6 @@ TEST(TextLayout, lines_end_where_the_text_says_and_where_the_container_ends) {
     }
 }
 
-TEST(TextLayout, more_lines_than_fit_are_left_out) {
-    QString lines;
-    for (int i = 0; i < 500; ++i)
-        lines += QStringLiteral("line\n");
-    const double line = sizeOf("line").height();
-    EXPECT_LE(sizeOf(lines, 1920, 10.5 * line).height(), 10.5 * line);
-    EXPECT_GT(sizeOf(lines, 1920, 10.5 * line).height(), 9 * line);
-    EXPECT_GT(sizeOf("x", 100, 1).height(), 0);
-}
-
 TEST(TextLayout, what_cannot_be_shown_is_left_out_or_stands_in) {
     const QString half(QChar(0xD83D)), otherHalf(QChar(0xDE00));
     const struct {
@@ -97,19 +87,6 @@ TEST(TextLayout, what_cannot_be_shown_is_left_out_or_stands_in) {
     for (const auto& c : cases)
         EXPECT_EQ(displayableText(c.text), c.shown);
     EXPECT_LT(displayableText(QString(10'000, u'x')).size(), 10'000);
-}
-
-TEST(TextLayout, marks_join_their_letter_and_scripts_run_their_way) {
-    EXPECT_NEAR(sizeOf("e\u0301").width(), sizeOf("e").width(), 1);
-    // Lam and alef are drawn as one, shorter shape.
-    EXPECT_LT(sizeOf("\u0644\u0627").width(), sizeOf("\u0644 \u0627").width());
-    for (const char* text : {"\u05E9\u05DC\u05D5\u05DD", "\u0928\u092E\u0938\u094D\u0924\u0947", "\U0001F600"}) {
-        TextView view;
-        view.setFont(font());
-        view.setText(text);
-        view.sizeToFit();
-        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << text;
-    }
 }
 
 TEST(TextView, lines_stand_in_the_middle_at_every_pixel_ratio) {
