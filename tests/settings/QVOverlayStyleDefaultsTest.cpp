@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/QVOverlayStyleDefaults.h"
 #include "app/settings/SettingsKeys.h"
-#include "tests/support/CapturedLog.h"
 #include "tests/support/TestSettings.h"
 
 #include <gtest/gtest.h>
@@ -27,17 +26,6 @@ protected:
 
 } // namespace
 
-TEST_F(QVOverlayStyleDefaultsTest,
-       a_selector_without_a_style_takes_the_default_one_and_a_style_nobody_registered_is_none) {
-    const CapturedLog log;
-    EXPECT_EQ(style(kQVOSDOverlayStyle)->key(), "Other");
-    EXPECT_EQ(style("missing")->key(), "Plain");
-    settings.defaults().setObject("Gone", kQVOSDOverlayStyle);
-    settings.defaults().setObject(QVariantMap{{"Gone", QVariantMap{{kTextFontSize, 5}}}}, kQVOverlayStyles);
-    EXPECT_FALSE(style(kQVOSDOverlayStyle));
-    EXPECT_EQ(log.lines(), QStringList{"ERROR: QVOverlayStyleDefaults: No defaults found for key: Gone."});
-}
-
 TEST_F(QVOverlayStyleDefaultsTest, a_change_covers_its_own_value_alone) {
     auto plain = style(kQVDefaultOverlayStyle);
     plain->setTextFontSize(25);
@@ -51,4 +39,7 @@ TEST_F(QVOverlayStyleDefaultsTest, a_change_covers_its_own_value_alone) {
     EXPECT_EQ(plain->textFontSize(), 25);
     EXPECT_EQ(plain->shadowOffset(), QSizeF(2, -2));
     EXPECT_EQ(plain->textColor(), QColor(0, 0, 255)) << "no colour is no change";
+    EXPECT_EQ(style("missing")->key(), "Plain");
+    settings.defaults().setObject("Gone", kQVOSDOverlayStyle);
+    EXPECT_FALSE(style(kQVOSDOverlayStyle));
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/UserDefaults.h"
-#include "tests/support/ManualRunLoop.h"
-#include "tests/support/MemorySettings.h"
+#include "tests/support/TestSettings.h"
 
 #include <gtest/gtest.h>
 
