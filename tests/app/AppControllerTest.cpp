@@ -201,10 +201,6 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
         EXPECT_EQ(rig.window.level(), 5);
         EXPECT_EQ(rig.window.alphaValue(), shown);
     }
-    AppRig rig(quiet({{kQVMainWindowLayer, -2}}));
-    rig.launch();
-    rig.app->applicationWillResignActive();
-    EXPECT_EQ(rig.window.level(), -2) << "a window below the others stays there";
 }
 
 TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size) {

@@ -47,15 +47,6 @@ TEST_F(OpeningFiles, folders_are_walked_to_the_bottom_in_reading_order_without_g
         << "no types at all accept every file; a link is followed";
 }
 
-TEST_F(OpeningFiles, nothing_inside_a_file_package_is_a_movie) {
-    make("all/Player.app/Contents/Info.plist");
-    make("all/Player.app/Contents/intro.mp4");
-    make("all/sub/Trip.photoslibrary/clip.mp4");
-    make("all/sub/Dr. No/film.mp4");
-    make("all/sub/app/film.mp4");
-    EXPECT_EQ(found({"all"}), "all/sub/app/film.mp4 all/sub/Dr. No/film.mp4");
-}
-
 TEST_F(OpeningFiles, single_files_are_taken_by_their_lowercased_extension) {
     for (const char* name : {"a.MP4", "b.avi.part", "c", "ü #1 100%.mp4", "avi"})
         make(name);

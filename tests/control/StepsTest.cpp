@@ -18,7 +18,7 @@ TEST(VolumeSteps, Steps_are_fine_near_silence_and_coarse_above_twice_the_normal_
         {up, 1.99F, 1.99F + 0.25F},
         {down, 2.1F, 2.1F - 0.1F},
         {down, 0.11F, 0.11F - 0.01F},
-        {down, 2.0F, 1.9F},
+        {down, 2.25F, 2.0F},
         {down, 0.1F, 0.1F - 0.01F},
         {down, 0.005F, 0.0F},
         {down, 0.0F, 0.0F},

@@ -5,19 +5,6 @@
 
 using namespace SubtitlePlacement;
 
-TEST(SubtitlePlacement, letters_shrink_with_the_picture_and_never_grow) {
-    const struct {
-        double picture, fit;
-        float smallest, largest, size;
-    } cases[] = {
-        {512, 1024, 20, 36, 20}, // half of 36 is below the smallest
-        {512, 1024, 12, 36, 18}, {1024, 1024, 20, 36, 36}, {2048, 1024, 20, 36, 36},
-        {0, 0, 20, 36, 36},      {0, 1024, 20, 36, 20},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(textSize(c.picture, c.fit, c.smallest, c.largest).size, c.size) << c.picture << " of " << c.fit;
-}
-
 TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
     const QRectF parent(100, 50, 1000, 800);
     const QRectF small(200, 150, 600, 500), filling(0, 0, 1000, 800), beyond(-500, -400, 2000, 1600);

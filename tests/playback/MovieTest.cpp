@@ -61,19 +61,12 @@ TEST(Movie, the_next_picture_is_the_next_multiple_of_a_pictures_length) {
     }
 }
 
-TEST(Movie, each_picture_shown_while_playing_passes_once_however_long_pictures_last) {
+TEST(Movie, each_picture_shown_while_playing_passes_once) {
     Loaded steady;
     steady.watch();
     steady.player.play();
     steady.player.advance(0.2);
     EXPECT_EQ(steady.passed, (std::vector<std::int32_t>{24, 48, 72, 96, 120}));
-
-    Loaded varying;
-    varying.watch();
-    varying.player.play();
-    for (const std::int32_t time : {5, 5, 11, 300, 301})
-        varying.player.showFrame(time);
-    EXPECT_EQ(varying.passed, (std::vector<std::int32_t>{5, 11, 300, 301}));
 
     Loaded backwards;
     backwards.player.seek(96, platform::MoviePlayer::JumpReport::silent);

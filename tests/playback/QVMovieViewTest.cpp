@@ -68,16 +68,3 @@ TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
     changePreference(kQVControllerVisible);
     EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 240));
 }
-
-TEST(QVMovieView, without_a_movie_a_size_is_only_remembered) {
-    PlaybackRig rig;
-    Posts<QVMovieViewSizeChangedNotification> posts;
-    for (const std::int32_t code : {movieSize::smaller, movieSize::bigger}) {
-        rig.view.setMovieSize(code, Recalculation::ifChanged);
-        EXPECT_EQ(rig.view.movieSize(), movieSize::custom) << "a step must not be taken from the empty view";
-    }
-    rig.view.setMovieSize(movieSize::twice, Recalculation::ifChanged);
-    EXPECT_EQ(posts.count, 0);
-    rig.show();
-    EXPECT_EQ(rig.view.frame().size(), QSizeF(1280, 960));
-}

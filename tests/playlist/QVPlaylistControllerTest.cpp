@@ -102,16 +102,6 @@ TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
     EXPECT_EQ(rig.app.opens, 0) << "not before the call has returned";
     rig.settings.runLoop.runPending();
     EXPECT_EQ(rig.app.opens, 1);
-
-    rig.toolkit.scripts[url("broken.avi")] = {platform::movieError::couldNotOpen};
-    rig.desktop.alertAnswers = {1, 1, 0};
-    EXPECT_FALSE(rig.add({"broken.avi"}));
-    rig.playlist->setReportsError(false);
-    EXPECT_FALSE(rig.add({"broken.avi"}));
-    EXPECT_EQ(rig.desktop.alerts.size(), 3U) << "that nothing can be played is said in any case";
-    rig.settings.runLoop.runPending();
-    EXPECT_EQ(rig.app.opens, 2) << "the last alert was cancelled";
-    EXPECT_EQ(rig.playlist->index(), NSNotFound);
 }
 
 TEST(QVPlaylistController, an_add_during_an_add_is_carried_out_after_it) {

@@ -29,11 +29,6 @@ void ScriptedPlayer::advance(double seconds) {
     }
 }
 
-void ScriptedPlayer::showFrame(std::int32_t time) {
-    _time = time;
-    _movie->playerShowedFrame(time);
-}
-
 void ScriptedPlayer::reachEnd() {
     _time = _movie->duration();
     _rate = 0;

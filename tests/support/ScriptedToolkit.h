@@ -16,8 +16,6 @@ public:
     /// Lets `seconds` pass: a running movie moves on picture by picture (without video: every 0.05 s of the movie),
     /// reports each, and at its end stops and reports that.
     void advance(double seconds);
-    /// Reports one picture at a time of the test's choice, as movies of variable frame rate have them.
-    void showFrame(std::int32_t time);
     /// Puts the time at the movie's end as playing would.
     void reachEnd();
 
