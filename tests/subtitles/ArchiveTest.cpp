@@ -147,32 +147,6 @@ TEST_F(Archives, the_tool_that_is_missing_is_told_of) {
     EXPECT_EQ(leftBehind(), QStringList());
 }
 
-TEST_F(Archives, the_search_is_traced) {
-    gTracingEnabled = true;
-    infoWithArchive(rarArchive(RarFormat::rar4, {{"film.sub", "inside"}}));
-    gTracingEnabled = false;
-    const QStringList expected = {QStringLiteral("QVVobSubInfo: Start parsing \"film.idx\""),
-                                  QStringLiteral("QVVobSubInfo: End parsing \"film.idx\", 1 streams found."),
-                                  QStringLiteral("QVVobSubInfo: Locating VobSub data file."),
-                                  QStringLiteral("QVVobSubInfo: Processing \"film.rar\""),
-                                  QStringLiteral("QVVobSubInfo: Launching UNRAR:"),
-                                  QStringLiteral("1 files, 6 bytes"),
-                                  QStringLiteral("QVVobSubInfo: UNRAR terminates with staus: 0"),
-                                  QStringLiteral("QVVobSubInfo: VobSub data file \"film.sub\"")};
-    EXPECT_EQ(log.lines(), expected);
-}
-
-TEST_F(Archives, extensions_are_found_in_any_case) {
-    const QString base = folder.filePath(QStringLiteral("Film.x"));
-    EXPECT_EQ(SubFileSearch::fileBeside(base, QStringLiteral("sub")), QString());
-    for (const char* extension : {"Sub", "SUB", "sub"}) {
-        const QString path = write(QStringLiteral("Film.x.") + QString::fromUtf8(extension), "x");
-        EXPECT_EQ(SubFileSearch::fileBeside(base, QStringLiteral("sub")), path);
-    }
-    EXPECT_EQ(SubFileSearch::basePath(base + QStringLiteral(".idx")), base);
-    EXPECT_EQ(SubFileSearch::basePath(QStringLiteral("/a.b/.idx")), QStringLiteral("/a.b/.idx"));
-}
-
 TEST_F(Archives, a_sweep_removes_what_killed_processes_left_and_nothing_else) {
     const auto used = platform::PrivateFolder::make();
     const QString abandoned = used->path() + QStringLiteral("-left");

@@ -15,15 +15,12 @@ public:
     struct Step {
         std::int32_t start;
         std::int32_t end;
-        bool forced;
     };
-    ScriptedTrack(SubtitleOwner& owner, std::vector<Step> steps, bool forcedOnly)
+    ScriptedTrack(SubtitleOwner& owner, std::vector<Step> steps)
         : QVSubtitles(QStringLiteral("/movies/scripted.idx"), owner, typeVobSub, 0.6F)
-        , _steps(std::move(steps))
-        , _forcedOnly(forcedOnly) {}
+        , _steps(std::move(steps)) {}
 
     bool isThreaded() const override { return true; }
-    bool onlyForced() const override { return _forcedOnly; }
 
     /// Lets the worker read up to so many cues in all, and waits until it did.
     void allow(std::size_t count) {
@@ -48,7 +45,6 @@ protected:
             if (_abort)
                 break;
             auto cue = std::make_shared<QVSubtitle>(QString::number(step.start), step.start, step.end);
-            cue->setForced(step.forced);
             if (_previous && _previous->end() > cue->start())
                 _previous->setEnd(cue->start());
             _previous = cue;
@@ -62,7 +58,6 @@ protected:
 
 private:
     std::vector<Step> _steps;
-    bool _forcedOnly;
     std::mutex _guard;
     std::condition_variable _changed;
     std::size_t _allowed = 0;
@@ -76,8 +71,8 @@ protected:
         const auto cue = track.subtitleForTime(time);
         return cue ? cue->text().toStdString() : "";
     }
-    std::shared_ptr<ScriptedTrack> scripted(std::vector<ScriptedTrack::Step> steps, bool forcedOnly = false) {
-        return QVSubtitles::makeTrack<ScriptedTrack>(owner, std::move(steps), forcedOnly);
+    std::shared_ptr<ScriptedTrack> scripted(std::vector<ScriptedTrack::Step> steps) {
+        return QVSubtitles::makeTrack<ScriptedTrack>(owner, std::move(steps));
     }
 
     /// A from 1 to 2 s, B from 2 to 3 s, C from 5 to 6 s.
@@ -106,16 +101,6 @@ TEST_F(Track, a_time_finds_its_cue_wherever_the_search_begins) {
     EXPECT_EQ(track->current()->text(), QStringLiteral("C"));
     track->reset();
     EXPECT_EQ(track->current()->text(), QStringLiteral("A"));
-}
-
-TEST_F(Track, cues_out_of_order_are_walked_over_without_end) {
-    const auto track = load(QStringLiteral("film.txt"), "0:0:9:A\n0:0:5:B\n0:0:7:C\n0:0:1:D\n");
-    ASSERT_TRUE(track);
-    for (std::int32_t time = -600; time < 9000; time += 77)
-        shown(*track, time);
-    for (std::int32_t time = 9000; time > -600; time -= 77)
-        shown(*track, time);
-    EXPECT_EQ(track->count(), 4U);
 }
 
 TEST_F(Track, loading_takes_the_settings_as_they_are_then) {
@@ -198,7 +183,7 @@ TEST_F(Track, a_file_that_vanishes_before_it_is_loaded_leaves_the_track_empty) {
 }
 
 TEST_F(Track, a_track_being_loaded_shows_what_is_there_already) {
-    const auto track = scripted({{600, 1300, false}, {1200, 1800, false}, {3000, 3600, false}});
+    const auto track = scripted({{600, 1300}, {1200, 1800}, {3000, 3600}});
     track->preload();
     EXPECT_EQ(shown(*track, 700), "");
     track->allow(1);
@@ -212,7 +197,7 @@ TEST_F(Track, a_track_being_loaded_shows_what_is_there_already) {
 TEST_F(Track, unloading_stops_a_worker_and_loading_again_begins_anew) {
     std::vector<ScriptedTrack::Step> steps;
     for (std::int32_t number = 0; number < 1000; ++number)
-        steps.push_back({number * 10, number * 10 + 5, false});
+        steps.push_back({number * 10, number * 10 + 5});
     const auto track = scripted(std::move(steps));
     for (int round = 0; round < 20; ++round) {
         track->preload();
@@ -228,24 +213,4 @@ TEST_F(Track, unloading_stops_a_worker_and_loading_again_begins_anew) {
     track->allow(1000);
     EXPECT_EQ(shown(*track, 9991), "9990");
     // The end of the test destroys a track whose worker may run still.
-}
-
-TEST_F(Track, a_track_limited_to_forced_cues_shows_no_others) {
-    const auto track = scripted({{0, 500, false}, {600, 1200, true}}, true);
-    track->preload();
-    track->allow(2);
-    EXPECT_EQ(shown(*track, 100), "");
-    EXPECT_EQ(shown(*track, 700), "600");
-}
-
-TEST(Cue, a_place_scales_the_picture) {
-    struct NoPixels final : SubtitleImage {
-        QImage expanded() const override { return {}; }
-    };
-    const auto image = std::make_shared<NoPixels>();
-    QVSubtitle cue(image, 1, 2);
-    cue.setRect(QRectF(10, 20, 300, 40));
-    EXPECT_EQ(image->size, QSizeF(300, 40));
-    EXPECT_EQ(cue.rect(), QRectF(10, 20, 300, 40));
-    EXPECT_TRUE(cue.text().isNull());
 }

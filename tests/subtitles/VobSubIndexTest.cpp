@@ -147,28 +147,16 @@ TEST(VobSubIndex, values_may_be_short_or_strange) {
 }
 
 TEST(VobSubIndex, a_line_that_is_not_understood_spoils_the_index) {
-    for (const char* const line : {"colour: 3\n",
-                                   "no key at all\n",
-                                   "size: 720\n",
-                                   "size: 720 x 576\n",
-                                   "scale: 100%\n",
-                                   "smooth: maybe\n",
-                                   "fadein/out: now\n",
-                                   "align: ON\n",
-                                   "align: ON at LEFT\n",
-                                   "palette: 0, 1, 2\n",
-                                   "custom colors: ON, colors: 1, 2, 3, 4\n",
-                                   "custom colors: ON, tridx: 1000\n",
-                                   "custom colors: ON, tridx: 1000, colors: 1, 2, 3\n",
-                                   "id: en, index: 32\n",
-                                   "id: en, index: -1\n",
-                                   "id: en\n",
-                                   "id:en, index: 0\n",
-                                   "alt: nobody's\n",
-                                   "delay: 00:00:01:000\n",
-                                   "timestamp: 00:00:01:000, filepos: 0\n",
-                                   "# VobSub index file, v8\n"}) {
-        const bool isHeader = *line == '#';
+    const QString bad =
+        QLatin1String("colour: 3|no key at all|size: 720|size: 720 x 576|scale: 100%|smooth: maybe|"
+                      "fadein/out: now|align: ON|align: ON at LEFT|palette: 0, 1, 2|"
+                      "custom colors: ON, colors: 1, 2, 3, 4|custom colors: ON, tridx: 1000|"
+                      "custom colors: ON, tridx: 1000, colors: 1, 2, 3|id: en, index: 32|id: en, index: -1|"
+                      "id: en|id:en, index: 0|alt: nobody's|delay: 00:00:01:000|"
+                      "timestamp: 00:00:01:000, filepos: 0|# VobSub index file, v8");
+    for (const QString& words : bad.split(u'|')) {
+        const std::string line = words.toStdString() + '\n';
+        const bool isHeader = line.front() == '#';
         const std::string text = (isHeader ? "" : header) + line + stream;
         const auto result = parsed(text);
         EXPECT_FALSE(result.index) << line;

@@ -5,8 +5,6 @@
 #include "tests/subtitles/VobSubFiles.h"
 #include "tests/support/CapturedLog.h"
 
-#include <thread>
-
 namespace {
 
 /// Tracks of pairs that the generator wrote, loaded by their real worker.
@@ -25,13 +23,9 @@ protected:
         EXPECT_TRUE(pair.write(folder.filePath(QStringLiteral("film")).toStdString()));
         return QVVobSubSubtitles::subtitlesWithFilePath(folder.filePath(QStringLiteral("film.idx")), owner);
     }
-    /// Loads a track that has cues, and waits for its end.
     static void load(QVSubtitles& track) {
         track.preload();
-        // Before there is a cue the worker may not have begun, and its lock says nothing.
-        for (int i = 0; i < 2'000'000 && track.count() == 0; ++i)
-            std::this_thread::yield();
-        track.setFrameRate(0); // takes the worker's lock
+        track.waitForLoading();
     }
 };
 
