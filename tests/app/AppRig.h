@@ -8,13 +8,8 @@
 #include "control/QVMovieController.h"
 #include "overlays/QVOSDOverlay.h"
 #include "playlist/QVPlaylistController.h"
+#include "tests/support/Files.h"
 #include "tests/support/PlaybackRig.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <memory>
@@ -40,13 +35,7 @@ public:
     /// As long as the window takes to appear, or to vanish.
     void fade() { settings.runLoop.advance(std::max(window.fadingInInterval(), window.fadingOutInterval()) + 0.05); }
     /// Makes an empty file, which the toolkit opens as a movie, and answers its path.
-    QString file(const QString& name) {
-        const QString path = folder.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return path;
-    }
+    QString file(const QString& name) { return writeFile(folder.filePath(name)); }
     /// What the playlist holds, as file names.
     QString listed() {
         QStringList names;

@@ -1,24 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/OpeningFiles.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include "tests/support/Files.h"
 
 namespace {
 
 class OpeningFiles : public testing::Test {
 protected:
-    QString make(const QString& name) {
-        const QString path = folder.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return path;
-    }
+    QString make(const QString& name) { return writeFile(folder.filePath(name)); }
     /// The files found, relative to the folder.
     std::string found(const QStringList& names, const QStringList& types = {"avi", "mp4"}) const {
         QStringList paths;

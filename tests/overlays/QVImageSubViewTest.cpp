@@ -1,36 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVImageSubView.h"
 #include "subtitles/QVSubtitle.h"
-#include "subtitles/SubtitleOwner.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/overlays/FakePicture.h"
 #include "tests/overlays/OverlayRig.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/FakeSubtitles.h"
+#include "tests/support/Files.h"
 
 namespace {
 
-class Owner final : public SubtitleOwner {
-public:
-    std::int32_t timeScale() const override { return 600; }
-    float frameRate() override { return 25; }
-    std::int32_t time() const override { return 0; }
-};
-
-class OnePixel final : public SubtitleImage {
-public:
-    QImage expanded() const override {
-        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::white);
-        return image;
-    }
-};
-
 std::shared_ptr<QVSubtitle> cueAt(const QRectF& rect) {
-    auto cue = std::make_shared<QVSubtitle>(std::make_shared<OnePixel>(), 0, 100);
+    auto cue = std::make_shared<QVSubtitle>(std::make_shared<TwoPixels>(), 0, 100);
     cue->setRect(rect);
     return cue;
 }
@@ -45,15 +25,11 @@ protected:
     }
     /// A track whose frame has the size.
     std::shared_ptr<QVSubtitles> track(const char* size) {
-        const QString path = folder.filePath(QStringLiteral("film.idx"));
-        for (const QString& name : {path, folder.filePath(QStringLiteral("film.sub"))}) {
-            QFile file(name);
-            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write("# VobSub index file, v7 (do not modify this line!)\nsize: ");
-            file.write(size);
-            file.write("\nscale: 100%, 100%\nid: en, index: 0\ntimestamp: 00:00:01:000, filepos: 000000000\n");
-        }
-        const auto tracks = QVVobSubSubtitles::subtitlesWithFilePath(path, owner);
+        writeFile(folder.filePath("film.sub"));
+        const QByteArray index = QByteArray("# VobSub index file, v7 (do not modify this line!)\nsize: ") + size +
+                                 "\nscale: 100%, 100%\nid: en, index: 0\n";
+        const auto tracks =
+            QVVobSubSubtitles::subtitlesWithFilePath(writeFile(folder.filePath("film.idx"), index), owner);
         return tracks.empty() ? nullptr : tracks.front();
     }
     void select(const std::shared_ptr<QVSubtitles>& selected) {
@@ -64,7 +40,7 @@ protected:
     OverlayRig rig;
     FakePicture picture;
     QTemporaryDir folder;
-    Owner owner;
+    PlainOwner owner;
     std::shared_ptr<QVSubtitles> current;
     QVImageSubView view{&rig.window, &picture, kQVDefaultOverlayStyle};
 };

@@ -61,21 +61,6 @@ TEST(Movie, the_next_picture_is_the_next_multiple_of_a_pictures_length) {
     }
 }
 
-TEST(Movie, each_picture_shown_while_playing_passes_once) {
-    Loaded steady;
-    steady.watch();
-    steady.player.play();
-    steady.player.advance(0.2);
-    EXPECT_EQ(steady.passed, (std::vector<std::int32_t>{24, 48, 72, 96, 120}));
-
-    Loaded backwards;
-    backwards.player.seek(96, platform::MoviePlayer::JumpReport::silent);
-    backwards.player.setRate(-1);
-    backwards.watch();
-    backwards.player.advance(0.08);
-    EXPECT_EQ(backwards.passed, (std::vector<std::int32_t>{72, 48}));
-}
-
 TEST(Movie, without_pictures_every_quarter_of_a_second_passes) {
     MovieInfo info = plain();
     info.hasVideo = false;

@@ -3,25 +3,10 @@
 
 #include "app/settings/SettingsKeys.h"
 #include "tests/support/FakeSubtitles.h"
+#include "tests/support/Files.h"
 #include "tests/support/PlaybackRig.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 #include <sys/stat.h>
-
-namespace {
-
-void touch(const QString& path) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-}
-
-} // namespace
 
 TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
     PlaybackRig rig;
@@ -87,7 +72,7 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
     QTemporaryDir folder;
     for (const char* name : {"Film.avi", "Film.srt", "FILM.SUB", "film.en.srt", "Filmography.txt", "Film.nfo",
                              "Fil.srt", "Other.srt", ".hidden.srt"})
-        touch(folder.filePath(name));
+        writeFile(folder.filePath(name));
     ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath("Film.pipe.srt")).constData(), 0600), 0);
     QDir(folder.path()).mkdir("Film.folder.srt");
 

@@ -2,12 +2,9 @@
 #include "platform/base/Localization.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PropertyList.h"
+#include "tests/support/Files.h"
 
-#include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace platform;
 
@@ -25,16 +22,13 @@ QStringList placeholders(const QString& text) {
 
 TEST(Localization, the_users_languages_come_first_then_english_then_the_key) {
     const QTemporaryDir folder;
-    QDir(folder.path()).mkdir("strings");
     const auto table = [&](const QString& language, const QVariantMap& texts) {
-        QFile file(folder.filePath("strings/" + language + ".strings.plist"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(propertyList::toXml(texts));
+        writeFile(folder.filePath("strings/" + language + ".strings.plist"), propertyList::toXml(texts));
     };
     table("en", {{"hello", "Hello"}, {"only", "English"}});
     table("de", {{"hello", "Hallo"}, {"only", ""}, {"count", "%d Filme"}});
     table("pt-BR", {{"hello", "Olá"}});
-    QFile(folder.filePath("strings/fr.strings.plist")).open(QIODevice::WriteOnly); // damaged
+    writeFile(folder.filePath("strings/fr.strings.plist")); // damaged
 
     const QString before = Bundle::main().resourcePath();
     Bundle::main().setResourcePath(folder.path());

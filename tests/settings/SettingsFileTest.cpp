@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/SettingsFile.h"
 #include "tests/support/CapturedLog.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/Files.h"
 
 #include <csignal>
 #include <sys/stat.h>
@@ -20,12 +14,6 @@ namespace {
 
 class SettingsFileTest : public testing::Test {
 protected:
-    void write(const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
     QStringList names() const {
         return QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden | QDir::System);
     }
@@ -47,7 +35,7 @@ TEST_F(SettingsFileTest, a_damaged_file_is_put_aside_and_reported) {
                                    "<plist version=\"1.0\"><string>no dictionary</string></plist>", "bplist00"};
     for (const char* damage : damages) {
         log.clear();
-        write(damage);
+        writeFile(path, QByteArray(damage));
         SettingsFile file(path);
         EXPECT_TRUE(file.load().isEmpty()) << damage;
         EXPECT_EQ(log.count("ERROR: "), 1) << damage;
@@ -70,7 +58,7 @@ TEST_F(SettingsFileTest, what_could_not_be_read_is_never_replaced) {
                  {"a pipe", [&] { ::mkfifo(QFile::encodeName(path).constData(), 0600); }},
                  {"a link to itself", [&] { QFile::link(path, path); }},
                  {"no permission", [&] {
-                      write("kept");
+                      writeFile(path, "kept");
                       ::chmod(QFile::encodeName(path).constData(), 0);
                   }}};
     for (const auto& [what, make] : cases) {

@@ -20,8 +20,8 @@ constexpr RarFormat formats[] = {RarFormat::rar4, RarFormat::rar5};
 class Archives : public SubtitleFiles {
 protected:
     /// An index with an archive beside it.
-    std::shared_ptr<const QVVobSubInfo> infoWithArchive(const QByteArray& archive, const char* name = "film.rar") {
-        write(QString::fromUtf8(name), {archive.constData(), static_cast<std::size_t>(archive.size())});
+    std::shared_ptr<const QVVobSubInfo> infoWithArchive(const QByteArray& archive) {
+        write(QStringLiteral("film.rar"), {archive.constData(), static_cast<std::size_t>(archive.size())});
         return QVVobSubInfo::infoWithFile(write(
             QStringLiteral("film.idx"), "# VobSub index file, v7 (do not modify this line!)\nid: en, index: 0\n"));
     }

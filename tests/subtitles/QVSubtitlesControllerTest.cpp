@@ -6,12 +6,8 @@
 #include "subtitles/SubtitleRegistry.h"
 #include "subtitles/SubtitleView.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
+#include "tests/support/Files.h"
 #include "tests/support/PlaybackRig.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -145,25 +141,6 @@ protected:
 
 } // namespace
 
-TEST_F(SubtitlesController, cycling_runs_through_the_tracks_and_off_both_ways) {
-    play(three);
-    controller.setDisplaySubtitles(false);
-    const char* const forward[] = {"one (1/3)", "two (2/3)", "three (3/3)", "Off", "one (1/3)"};
-    const char* const backward[] = {"Off", "three (3/3)", "two (2/3)", "one (1/3)", "Off"};
-    for (const char* shown : forward) {
-        controller.cycleSubtitles(1);
-        EXPECT_EQ(info().toStdString(), shown);
-        EXPECT_EQ(displayStored(), info() != QStringLiteral("Off"));
-    }
-    for (const char* shown : backward) {
-        controller.cycleSubtitles(-1);
-        EXPECT_EQ(info().toStdString(), shown);
-    }
-    EXPECT_EQ(controller.index(), none);
-    controller.toggleSubtitles();
-    EXPECT_EQ(info(), QStringLiteral("one (1/3)")) << "what was switched off comes back";
-}
-
 TEST_F(SubtitlesController, each_picture_gives_the_view_its_cue) {
     auto shown = movie({QStringLiteral("0-0 one")});
     post(QVPlaylistMovieChangedNotification{shown});
@@ -290,30 +267,12 @@ TEST_F(SubtitlesController, one_image_track_is_kept_loaded_and_texts_and_images_
     EXPECT_EQ(loaded(), QStringLiteral("-++")) << "unloaded though no other image track was selected";
 }
 
-TEST_F(SubtitlesController, whatever_changes_is_announced_with_the_track_selected) {
-    Posts<QVSubtitlesChangedNotification> posts;
-    const auto shown = play(three);
-    EXPECT_EQ(posts.count, 1);
-    controller.setCurrenWithIndex(2);
-    EXPECT_EQ(posts.count, 2);
-    EXPECT_EQ(posts.last->current, shown->subtitles()[2]);
-    controller.setCurrenWithIndex(2);
-    EXPECT_EQ(posts.count, 2) << "announced without a change";
-    controller.setCurrenWithIndex(3);
-    EXPECT_EQ(posts.count, 3);
-    play({});
-    EXPECT_EQ(posts.last->current, nullptr);
-}
-
 TEST_F(SubtitlesController, an_index_says_how_its_images_come_and_go) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.idx"));
-    for (const QString& name : {path, folder.filePath(QStringLiteral("a.sub"))}) {
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(
-            "# VobSub index file, v7 (do not modify this line!)\nalpha: 75%\nfadein/out: 100, 250\nid: en, index: 0\n");
-    }
+    writeFile(folder.filePath(QStringLiteral("a.sub")));
+    writeFile(path, "# VobSub index file, v7 (do not modify this line!)\n"
+                    "alpha: 75%\nfadein/out: 100, 250\nid: en, index: 0\n");
     // The view is made for a cue of the first track, and takes on the look of the second.
     const auto shown = play({QStringLiteral("2-0 first"), path});
     rig.view.setMovie(shown);

@@ -1,68 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitles.h"
 
-#include "subtitles/text/LineReader.h"
 #include "tests/subtitles/SubtitleFiles.h"
 #include "tests/support/CapturedLog.h"
 
-#include <condition_variable>
-
 namespace {
-
-/// Is loaded by a worker that takes a step whenever the test lets it.
-class ScriptedTrack final : public QVSubtitles {
-public:
-    struct Step {
-        std::int32_t start;
-        std::int32_t end;
-    };
-    ScriptedTrack(SubtitleOwner& owner, std::vector<Step> steps)
-        : QVSubtitles(QStringLiteral("/movies/scripted.idx"), owner, typeVobSub, 0.6F)
-        , _steps(std::move(steps)) {}
-
-    bool isThreaded() const override { return true; }
-
-    /// Lets the worker read up to so many cues in all, and waits until it did.
-    void allow(std::size_t count) {
-        std::unique_lock lock(_guard);
-        _allowed = count;
-        _changed.notify_all();
-        _changed.wait(lock, [&] { return _appended >= std::min(count, _steps.size()); });
-    }
-
-protected:
-    void _preload() override {
-        {
-            const std::lock_guard lock(_guard);
-            _appended = 0;
-        }
-        for (const Step& step : _steps) {
-            {
-                std::unique_lock lock(_guard);
-                while (_appended >= _allowed && !_abort)
-                    _changed.wait_for(lock, std::chrono::milliseconds(1));
-            }
-            if (_abort)
-                break;
-            auto cue = std::make_shared<QVSubtitle>(QString::number(step.start), step.start, step.end);
-            if (_previous && _previous->end() > cue->start())
-                _previous->setEnd(cue->start());
-            _previous = cue;
-            appendSubtitle(cue);
-            const std::lock_guard lock(_guard);
-            ++_appended;
-            _changed.notify_all();
-        }
-        finishLoading();
-    }
-
-private:
-    std::vector<Step> _steps;
-    std::mutex _guard;
-    std::condition_variable _changed;
-    std::size_t _allowed = 0;
-    std::size_t _appended = 0;
-};
 
 class Track : public SubtitleFiles {
 protected:
@@ -70,9 +12,6 @@ protected:
     static std::string shown(QVSubtitles& track, std::int32_t time) {
         const auto cue = track.subtitleForTime(time);
         return cue ? cue->text().toStdString() : "";
-    }
-    std::shared_ptr<ScriptedTrack> scripted(std::vector<ScriptedTrack::Step> steps) {
-        return QVSubtitles::makeTrack<ScriptedTrack>(owner, std::move(steps));
     }
 
     /// A from 1 to 2 s, B from 2 to 3 s, C from 5 to 6 s.
@@ -180,37 +119,4 @@ TEST_F(Track, a_file_that_vanishes_before_it_is_loaded_leaves_the_track_empty) {
     track->preload();
     EXPECT_TRUE(log.contains("ERROR: QVSubRipSubtitles: Unable to open subtitles file \"film.srt\" for reading."));
     EXPECT_EQ(shown(*track, 700), "");
-}
-
-TEST_F(Track, a_track_being_loaded_shows_what_is_there_already) {
-    const auto track = scripted({{600, 1300}, {1200, 1800}, {3000, 3600}});
-    track->preload();
-    EXPECT_EQ(shown(*track, 700), "");
-    track->allow(1);
-    EXPECT_EQ(shown(*track, 700), "600");
-    EXPECT_EQ(shown(*track, 3100), "");
-    track->allow(3);
-    EXPECT_EQ(shown(*track, 3100), "3000");
-    EXPECT_EQ(shown(*track, 1250), "1200");
-}
-
-TEST_F(Track, unloading_stops_a_worker_and_loading_again_begins_anew) {
-    std::vector<ScriptedTrack::Step> steps;
-    for (std::int32_t number = 0; number < 1000; ++number)
-        steps.push_back({number * 10, number * 10 + 5});
-    const auto track = scripted(std::move(steps));
-    for (int round = 0; round < 20; ++round) {
-        track->preload();
-        track->unload();
-        EXPECT_EQ(track->count(), 0U);
-    }
-    track->preload();
-    track->allow(500);
-    EXPECT_EQ(shown(*track, 4991), "4990");
-    track->unload();
-    EXPECT_EQ(shown(*track, 4991), "");
-    track->preload();
-    track->allow(1000);
-    EXPECT_EQ(shown(*track, 9991), "9990");
-    // The end of the test destroys a track whose worker may run still.
 }

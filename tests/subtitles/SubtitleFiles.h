@@ -2,26 +2,13 @@
 #pragma once
 
 #include "app/settings/SettingsKeys.h"
-#include "subtitles/SubtitleRegistry.h"
+#include "tests/support/FakeSubtitles.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestSettings.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
 #include <vector>
-
-/// A movie of 600 units and 25 pictures a second.
-class PlainOwner final : public SubtitleOwner {
-public:
-    float rate = 25;
-    std::int32_t timeScale() const override { return 600; }
-    float frameRate() override { return rate; }
-    std::int32_t time() const override { return 0; }
-};
 
 /// A cue as tests write it.
 struct ExpectedCue {
@@ -46,11 +33,7 @@ inline std::vector<ExpectedCue> cuesOf(const QVSubtitles& track) {
 class SubtitleFiles : public testing::Test {
 protected:
     QString write(const QString& name, std::string_view bytes) {
-        const QString path = folder.filePath(name);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        return path;
+        return writeFile(folder.filePath(name), {bytes.data(), static_cast<qsizetype>(bytes.size())});
     }
     /// The only track of a file; none when no reader takes it.
     std::shared_ptr<QVSubtitles> open(const QString& path) {

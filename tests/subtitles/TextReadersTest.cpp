@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/subtitles/SubtitleFiles.h"
 
-#include "subtitles/text/LineReader.h"
-#include "subtitles/text/ScanFormat.h"
-
-#include <array>
 #include <sys/stat.h>
 
 namespace {
@@ -29,103 +25,43 @@ protected:
 
 } // namespace
 
-TEST(ScanFormat, numbers_are_read_as_scanf_reads_them) {
-    constexpr std::string_view plain = "%d:%d";
-    const struct {
-        std::string_view line;
-        std::string_view format;
-        std::size_t filled;
-        std::size_t consumed;
-        std::array<std::int32_t, 2> values;
-    } cases[] = {
-        {"12:34", plain, 2, 5, {12, 34}},
-        {" \t12: -34x", plain, 2, 9, {12, -34}},
-        {"+1:\n2", plain, 2, 5, {1, 2}},
-        {"12 :34", plain, 1, 2, {12, 0}},
-        {"12 :34", "%d :%d", 2, 6, {12, 34}},
-        {"12:34", "%d : %d", 2, 5, {12, 34}},
-        {"- 1:2", plain, 0, 1, {0, 0}},
-        {"+-1:2", plain, 0, 1, {0, 0}},
-        {"12", plain, 1, 2, {12, 0}},
-        {"", plain, 0, 0, {0, 0}},
-        {"2147483648:-99999999999999999999", plain, 2, 32, {largest, smallest}},
-        {"7 ", "%d%c", 2, 2, {7, ' '}},
-        {"7\xFF", "%d%c", 2, 2, {7, 255}},
-        {"7", "%d%c", 1, 1, {7, 0}},
-    };
-    for (const auto& c : cases) {
-        std::array<std::int32_t, 2> values{};
-        const Scan scan = scanLine(c.line, c.format, values);
-        EXPECT_EQ(scan.filled, c.filled) << c.line;
-        EXPECT_EQ(scan.consumed, c.consumed) << c.line;
-        EXPECT_EQ(values, c.values) << c.line;
-    }
-}
-
-TEST(LineReader, lines_come_in_pieces_of_999_bytes) {
-    const std::string longLine = std::string(1000, 'a') + "\n";
-    const std::string exact = std::string(998, 'b') + "\nc";
-    const std::string text = longLine + exact;
-    LineReader lines(text);
-    std::vector<std::size_t> sizes;
-    while (const auto piece = lines.next())
-        sizes.push_back(piece->size());
-    EXPECT_EQ(sizes, (std::vector<std::size_t>{999, 2, 999, 1}));
-    EXPECT_TRUE(lines.isAtEnd());
-
-    LineReader withNul(std::string_view("ab\0cd\nef", 8));
-    EXPECT_EQ(withNul.next(), "ab");
-    EXPECT_EQ(withNul.next(), "ef");
-}
-
 TEST_F(TextReaders, subrip_blocks_become_cues) {
-    check(
-        "film.srt",
-        {
-            {"numbers, carriage returns, no blank line at the end",
-             "1\r\n00:00:01,500 --> 00:00:03,250\r\n Hello\r\nWorld \r\n\r\n2\r\n00:00:04,000 --> "
-             "00:00:05,000\r\n<i>Bye</i>",
-             {{900, 1950, "Hello\r\nWorld"}, {2400, 3000, "<i>Bye</i>"}}},
-            {"a later cue cuts the one before it",
-             timing + "A\n\n00:00:02,000 --> 00:00:04,000\nB\n",
-             {{900, 1200, "A"}, {1200, 2400, "B"}}},
-            {"a gap stays", timing + "A\n\n00:00:05,000 --> 00:00:06,000\nB\n", {{900, 1950, "A"}, {3000, 3600, "B"}}},
-            {"blocks without a blank line between",
-             timing + "A\n2\n00:00:05,000 --> 00:00:06,000\nB\n",
-             {{900, 1950, "A\n2\n00:00:05,000 --> 00:00:06,000\nB"}}},
-            {"timing without text", timing + "\n" + timing + "A\n", {{900, 1950, "A"}}},
-            {"only blanks as text", timing + "  \n\n", {{900, 1950, ""}}},
-            {"blanks and signs in the timing", " 0:\t0: 1,+500-->0:0:3,250 X1:2\nA\n", {{900, 1950, "A"}}},
-            {"a full stop is no comma", timing + "A\n\n00:00:05.000 --> 00:00:06.000\nB\n", {{900, 1950, "A"}}},
-            {"the end before the start", "00:00:03,000 --> 00:00:01,000\nA\n", {{1800, 600, "A"}}},
-            {"before the beginning", "-1:00:00,000 --> 00:00:01,000\nA\n", {{-2160000, 600, "A"}}},
-            {"times that do not fit",
-             "99999999999:0:0,0 --> -99999999999:0:0,0\nA\n",
-             {{1288490240, -1288490240, "A"}}},
-            {"a NUL ends its line", timing + std::string("A\0B\nC\n", 6), {{900, 1950, "AC"}}},
-            {"a line that is no UTF-8 is left out",
-             "\xEF\xBB\xBF" + timing + "A\n\xC3\nB\n\xC3\xA9",
-             {{900, 1950, "A\nB\n\xC3\xA9"}}},
-            {"a character cut by the end of a piece goes with both pieces",
-             timing + "A\n" + std::string(998, 'x') + "\xC3\xA9y\nC\n",
-             {{900, 1950, "A\nC"}}},
-            {"white space beyond ASCII is trimmed",
-             timing + "\xC2\xA0\xE3\x80\x80\xC3\xA9t\xC3\xA9\xE2\x80\xA8\xC2\x85\n",
-             {{900, 1950, "\xC3\xA9t\xC3\xA9"}}},
-            {"19 lines in front", std::string(19, '\n') + timing + "A\n", {{900, 1950, "A"}}},
-            {"20 lines in front", std::string(20, '\n') + timing + "A\n", {}},
-            {"empty", "", {}},
-            {"no timing", "Hello\n", {}},
-        });
-}
-
-TEST_F(TextReaders, a_cue_that_is_shown_outlives_its_track) {
-    auto track = load(QStringLiteral("film.srt"), timing + "A\n");
-    const auto cue = track->subtitleForTime(900);
-    track->unload();
-    track.reset();
-    ASSERT_TRUE(cue);
-    EXPECT_EQ(cue->text(), QStringLiteral("A"));
+    check("film.srt",
+          {
+              {"numbers, carriage returns, no blank line at the end",
+               "1\r\n00:00:01,500 --> 00:00:03,250\r\n Hello\r\nWorld \r\n\r\n2\r\n00:00:04,000 --> "
+               "00:00:05,000\r\n<i>Bye</i>",
+               {{900, 1950, "Hello\r\nWorld"}, {2400, 3000, "<i>Bye</i>"}}},
+              {"a later cue cuts the one before it",
+               timing + "A\n\n00:00:02,000 --> 00:00:04,000\nB\n",
+               {{900, 1200, "A"}, {1200, 2400, "B"}}},
+              {"blocks without a blank line between",
+               timing + "A\n2\n00:00:05,000 --> 00:00:06,000\nB\n",
+               {{900, 1950, "A\n2\n00:00:05,000 --> 00:00:06,000\nB"}}},
+              {"timing without text", timing + "\n" + timing + "A\n", {{900, 1950, "A"}}},
+              {"only blanks as text", timing + "  \n\n", {{900, 1950, ""}}},
+              {"blanks and signs in the timing", " 0:\t0: 1,+500-->0:0:3,250 X1:2\nA\n", {{900, 1950, "A"}}},
+              {"a full stop is no comma", timing + "A\n\n00:00:05.000 --> 00:00:06.000\nB\n", {{900, 1950, "A"}}},
+              {"the end before the start", "00:00:03,000 --> 00:00:01,000\nA\n", {{1800, 600, "A"}}},
+              {"before the beginning", "-1:00:00,000 --> 00:00:01,000\nA\n", {{-2160000, 600, "A"}}},
+              {"times that do not fit",
+               "99999999999:0:0,0 --> -99999999999:0:0,0\nA\n",
+               {{1288490240, -1288490240, "A"}}},
+              {"a NUL ends its line", timing + std::string("A\0B\nC\n", 6), {{900, 1950, "AC"}}},
+              {"a line that is no UTF-8 is left out",
+               "\xEF\xBB\xBF" + timing + "A\n\xC3\nB\n\xC3\xA9",
+               {{900, 1950, "A\nB\n\xC3\xA9"}}},
+              {"a character cut by the end of a piece goes with both pieces",
+               timing + "A\n" + std::string(998, 'x') + "\xC3\xA9y\nC\n",
+               {{900, 1950, "A\nC"}}},
+              {"white space beyond ASCII is trimmed",
+               timing + "\xC2\xA0\xE3\x80\x80\xC3\xA9t\xC3\xA9\xE2\x80\xA8\xC2\x85\n",
+               {{900, 1950, "\xC3\xA9t\xC3\xA9"}}},
+              {"19 lines in front", std::string(19, '\n') + timing + "A\n", {{900, 1950, "A"}}},
+              {"20 lines in front", std::string(20, '\n') + timing + "A\n", {}},
+              {"empty", "", {}},
+              {"no timing", "Hello\n", {}},
+          });
 }
 
 TEST_F(TextReaders, a_long_subrip_line_joins_without_a_break) {
@@ -198,10 +134,6 @@ TEST_F(TextReaders, the_registry_offers_a_file_to_the_reader_of_its_extension_an
         const auto track = load(QString::fromUtf8(c.name), c.bytes);
         EXPECT_EQ(track ? track->type() : QVSubtitles::typeNone, c.type) << c.name << ": " << c.bytes.substr(0, 20);
     }
-    EXPECT_EQ(SubtitleRegistry::typeForExtension(QStringLiteral("txt")), QVSubtitles::typeTMPlayer);
-    EXPECT_EQ(SubtitleRegistry::typeForExtension(QStringLiteral("sub")), QVSubtitles::typeMicroDVD);
-    EXPECT_EQ(SubtitleRegistry::typeForExtension(QStringLiteral("SRT")), QVSubtitles::typeNone);
-    EXPECT_EQ(SubtitleRegistry::classForType(4), nullptr);
 }
 
 TEST_F(TextReaders, only_files_are_read) {

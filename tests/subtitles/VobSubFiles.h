@@ -4,7 +4,6 @@
 #include "subtitles/vobsub/QVVobSubPacket.h"
 #include "tools/vobsub/VobSubWriter.h"
 
-#include <QFile>
 #include <QImage>
 #include <QString>
 
@@ -62,10 +61,4 @@ inline QImage expectedImage(const vobsub::Subpicture& subpicture, const VobSubIn
         }
     }
     return image;
-}
-
-inline void writeFile(const QString& path, const vobsub::Bytes& bytes) {
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
 }

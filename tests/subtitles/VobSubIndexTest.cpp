@@ -176,23 +176,6 @@ TEST(VobSubIndex, a_line_that_is_not_understood_spoils_the_index) {
     EXPECT_FALSE(parsed(many).index);
 }
 
-TEST_F(VobSubIndexFiles, each_stream_is_a_track_named_after_its_language) {
-    const QString path =
-        write(QStringLiteral("film.idx"), header + "size: 720x480\nid: en, index: 3\nid: fr, index: 1\n");
-    EXPECT_TRUE(registry.subtitlesWithFilePath(path, owner).empty()) << "without a data file";
-    write(QStringLiteral("film.SUB"), "");
-    const auto tracks = registry.subtitlesWithFilePath(path, owner);
-    ASSERT_EQ(tracks.size(), 2U);
-    EXPECT_EQ(tracks[0]->title(), QStringLiteral("English, film.idx"));
-    EXPECT_EQ(tracks[1]->title(), QStringLiteral("French, film.idx"));
-    EXPECT_EQ(tracks[1]->streamIndex(), 1U);
-    EXPECT_EQ(tracks[1]->type(), SubtitleRegistry::typeForExtension(QStringLiteral("idx")));
-    const auto& track = dynamic_cast<const QVVobSubSubtitles&>(*tracks[0]);
-    EXPECT_EQ(track.aspectRatio(), 1.5F);
-    EXPECT_EQ(track.streamInfo()._index, 3);
-    EXPECT_EQ(track.info(), dynamic_cast<const QVVobSubSubtitles&>(*tracks[1]).info());
-}
-
 TEST_F(VobSubIndexFiles, the_probe_wants_the_header_on_the_first_line) {
     write(QStringLiteral("film.rar"), "");
     const struct {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/Tracing.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/subtitles/SubtitleFiles.h"
 #include "tests/subtitles/VobSubFiles.h"
@@ -93,21 +92,11 @@ TEST_F(VobSubLoading, a_subpicture_that_cannot_be_read_ends_the_track_there) {
     EXPECT_EQ(track->count(), 2U);
 }
 
-TEST_F(VobSubLoading, loading_is_traced_and_what_is_missing_is_said) {
+TEST_F(VobSubLoading, a_data_file_that_has_vanished_is_told_of) {
     vobsub::PairWriter pair;
     pair.addStream("en");
     pair.add(0, 1000, picture(90));
     const auto track = tracks(pair).front();
-    gTracingEnabled = true;
-    {
-        const CapturedLog log;
-        load(*track);
-        track->unload();
-        EXPECT_EQ(log.lines(), QStringList({"QVVobSubSubtitles: Begin parsing subtitles file \"film.idx\" threaded.",
-                                            "QVVobSubSubtitles: End parsing subtitles, 1 entries loaded.",
-                                            "QVVobSubSubtitles: Preload Time: 0.00000"}));
-    }
-    gTracingEnabled = false;
     ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("film.sub"))));
     const CapturedLog log;
     track->preload();
@@ -132,7 +121,7 @@ TEST_F(VobSubLoading, cues_are_looked_up_and_dropped_while_the_worker_loads) {
             const auto time = static_cast<std::int32_t>(before) * 600 - 300;
             const auto cue = track->subtitleForTime(time);
             EXPECT_TRUE(!cue || cue->start() <= time);
-            (void)track->subtitleForTime(300);
+            EXPECT_TRUE(before < 2 || track->subtitleForTime(300)) << "what is there already is not shown";
         }
         track->unload();
         EXPECT_EQ(track->count(), 0U);

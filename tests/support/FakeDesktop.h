@@ -25,7 +25,6 @@ public:
     QStringList openPanelFolders;
     QList<QStringList> openPanelAnswers;
 
-    int beeps = 0;
     /// One of 1440 by 900 to begin with.
     std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, "Main"}};
     /// By the screens' numbers; a screen that is missing cannot be read.
@@ -46,7 +45,7 @@ public:
         openPanelFolders.append(folder);
         return taken(openPanelAnswers, {});
     }
-    void beep() override { ++beeps; }
+    void beep() override {}
     std::vector<platform::Screen> screens() const override { return screenList; }
     float brightness(const platform::Screen& screen) const override {
         return brightnessLevels.value(screen.number, std::numeric_limits<float>::infinity());

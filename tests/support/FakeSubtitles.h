@@ -4,19 +4,43 @@
 #include "subtitles/SubtitleRegistry.h"
 
 #include <QFileInfo>
+#include <QImage>
 
 #include <utility>
 
+/// A movie of 600 units and 25 pictures a second.
+class PlainOwner final : public SubtitleOwner {
+public:
+    float rate = 25;
+    std::int32_t timeScale() const override { return 600; }
+    float frameRate() override { return rate; }
+    std::int32_t time() const override { return 0; }
+};
+
+/// A track of a title and, where they matter, a place.
 class FakeTrack final : public QVSubtitles {
 public:
-    explicit FakeTrack(QString title)
-        : _title(std::move(title)) {}
-    QString path() const override { return QString(); }
-    std::uint32_t streamIndex() const override { return 0; }
+    explicit FakeTrack(QString title, QString path = {}, std::uint32_t stream = 0)
+        : _title(std::move(title))
+        , _path(std::move(path))
+        , _stream(stream) {}
+    QString path() const override { return _path; }
+    std::uint32_t streamIndex() const override { return _stream; }
     QString title() const override { return _title; }
 
 private:
-    QString _title;
+    QString _title, _path;
+    std::uint32_t _stream;
+};
+
+/// A pixel of half opaque red and an empty one.
+class TwoPixels final : public SubtitleImage {
+    QImage expanded() const override {
+        QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
+        image.setPixel(0, 0, qRgba(0x80, 0, 0, 0x80));
+        image.setPixel(1, 0, 0);
+        return image;
+    }
 };
 
 /// Gives each file a track for each word of its name, and text files none. It is the shared one while it lives.
