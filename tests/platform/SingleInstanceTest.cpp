@@ -89,16 +89,6 @@ TEST_F(SingleInstanceTest, a_second_launch_hands_its_files_to_the_first) {
     EXPECT_TRUE(listens(next)) << "the next one follows the first";
 }
 
-TEST_F(SingleInstanceTest, what_a_crash_left_behind_is_in_nobodys_way) {
-    for (const char* suffix : {"", ".lock"}) {
-        QFile left(path + suffix);
-        ASSERT_TRUE(left.open(QIODevice::WriteOnly));
-    }
-    SingleInstance instance(path);
-    ASSERT_TRUE(listens(instance));
-    EXPECT_TRUE(handOver({false, {"/a"}}));
-}
-
 TEST_F(SingleInstanceTest, clients_that_misbehave_keep_nobody_out) {
     SingleInstance instance(path);
     ASSERT_TRUE(listens(instance));

@@ -104,19 +104,6 @@ TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
     EXPECT_EQ(rig.app.opens, 1);
 }
 
-TEST(QVPlaylistController, an_add_during_an_add_is_carried_out_after_it) {
-    PlaylistRig rig;
-    rig.toolkit.whileOpening = [&](const QUrl& opening) {
-        if (opening == url("slow.avi")) {
-            EXPECT_FALSE(rig.add({"b.avi", "c.avi"}, Adding::append));
-            EXPECT_FALSE(rig.add({"d.avi"}, Adding::append));
-        }
-    };
-    EXPECT_TRUE(rig.add({"slow.avi", "a.avi"}));
-    EXPECT_EQ(rig.order(), "slow a b c d");
-    EXPECT_EQ(rig.playlist->index(), 0U);
-}
-
 TEST(QVPlaylistController, a_shuffle_exchanges_each_entry_with_one_of_the_whole_list) {
     const std::vector<long> numbers{2, 0, 7, 2147483647};
     std::size_t drawn = 0;
