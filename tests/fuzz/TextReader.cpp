@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#pragma once
-
+// One of the readers of texts, which the build names, fed with bytes.
 #include "platform/base/UserDefaults.h"
-#include "subtitles/QVSubtitles.h"
-#include "subtitles/text/LineReader.h"
+#include "subtitles/text/QVMicroDVDSubtitles.h"
+#include "subtitles/text/QVSubRipSubtitles.h"
+#include "subtitles/text/QVTMPlayerSubtitles.h"
 #include "subtitles/text/SubtitleText.h"
 #include "tests/support/ManualRunLoop.h"
 
@@ -12,6 +12,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+
+namespace {
 
 /// What a reader needs around it while it is fed with bytes.
 class FuzzRoom final : public SubtitleOwner {
@@ -64,11 +66,11 @@ private:
     std::uint32_t _encoding = 0;
 };
 
-/// Defines a fuzz target for one reader.
-#define LUMARO_FUZZ_READER(Reader)                                                                                     \
-    extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {                                \
-        static FuzzRoom room;                                                                                          \
-        static const auto track = QVSubtitles::makeTrack<FuzzedTrack<Reader>>(room);                                   \
-        track->feed(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));                    \
-        return 0;                                                                                                      \
-    }
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static FuzzRoom room;
+    static const auto track = QVSubtitles::makeTrack<FuzzedTrack<LUMARO_FUZZED_READER>>(room);
+    track->feed(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+    return 0;
+}

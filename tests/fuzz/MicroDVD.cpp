@@ -1,5 +1,0 @@
-// SPDX-License-Identifier: GPL-3.0-or-later
-#include "subtitles/text/QVMicroDVDSubtitles.h"
-#include "tests/fuzz/TextFuzz.h"
-
-LUMARO_FUZZ_READER(QVMicroDVDSubtitles)
