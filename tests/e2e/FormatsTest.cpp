@@ -104,25 +104,14 @@ protected:
 
 TEST_F(Formats, are_inspected_as_they_are_shown) {
     std::vector<Format> wanted = formats();
-    wanted.push_back({"tone.mp3", tone, {}, 0, 0, 2, 0});
-    wanted.push_back(
-        {"cover.mp3",
-         tone + picture(red) + Arguments{"-c:v", "mjpeg", "-frames:v", "1", "-disposition:v", "attached_pic"},
-         {},
-         0,
-         0,
-         2,
-         0});
-    wanted.push_back({"tone.flac", tone + Arguments{"-c:a", "flac"}, {}, 0, 0, 2, 0});
+    const Arguments cover = {"-c:v", "mjpeg", "-frames:v", "1", "-disposition:v", "attached_pic"};
+    wanted.push_back({.name = "tone.mp3", .arguments = tone, .frames = 0});
+    wanted.push_back({.name = "cover.mp3", .arguments = tone + picture(red) + cover, .frames = 0});
+    wanted.push_back({.name = "tone.flac", .arguments = tone + Arguments{"-c:a", "flac"}, .frames = 0});
     // Its units of time do not fit 31 bits.
-    wanted.push_back({"four hours.mp4",
-                      Arguments{"-f", "lavfi", "-i", "color=s=64x36:r=1:d=14400"} + h264 +
-                          Arguments{"-video_track_timescale", "600000"},
-                      {},
-                      64,
-                      36,
-                      14400,
-                      14400});
+    const Arguments hours = Arguments{"-f", "lavfi", "-i", "color=s=64x36:r=1:d=14400"} + h264;
+    wanted.push_back(
+        {"four hours.mp4", hours + Arguments{"-video_track_timescale", "600000"}, {}, 64, 36, 14400, 14400});
     Arguments files;
     for (const Format& format : wanted)
         files.push_back(media().make(format.name, format.arguments).string());

@@ -124,27 +124,6 @@ protected:
         ASSERT_TRUE(colorBecomes(red));
     }
 
-    struct Press {
-        KeySym key;
-        std::vector<KeySym> modifiers;
-        std::string feedback; // empty: nothing is said
-    };
-
-    void pressAll(const std::vector<Press>& presses) {
-        std::vector<std::string> expected = textsOf("QVFeedbackOverlay");
-        for (const Press& press : presses) {
-            probe.tap(press.key, press.modifiers);
-            if (press.feedback.empty())
-                continue;
-            expected.push_back(press.feedback);
-            ASSERT_TRUE(waitUntil([&] { return textsOf("QVFeedbackOverlay").size() >= expected.size(); }))
-                << "nothing was said: " << press.feedback;
-            ASSERT_EQ(textsOf("QVFeedbackOverlay"), expected);
-            EXPECT_TRUE(panelStands(Corner::right)) << press.feedback;
-        }
-        EXPECT_TRUE(panelGoes(Corner::right)) << "the last message stays";
-    }
-
     // Whether the colours of the quarters meet there: blue is the lower left one, all the right is green.
     bool meet(int x, int y) {
         return std::abs(probe.extentOf(green).x - x) <= 2 && std::abs(probe.extentOf(blue).y - y) <= 2;
@@ -181,37 +160,40 @@ TEST_F(Overlays, the_display_walks_through_its_types_and_stands_at_the_top_left)
     ASSERT_TRUE(quitsCleanly());
 }
 
-TEST_F(Overlays, the_time_display_counts_the_seconds) {
-    startPlain({"--set", "QVOSDStateSavedType=1"});
-    ASSERT_TRUE(panelStands(Corner::left));
-    const auto letters = [&] { return probe.picture(look(Corner::left).panel).pixels; };
-    const auto second = logs("QVOSDOverlay: Set Text: Time: 0:00:01/0:01:00");
-    ASSERT_TRUE(second);
-    const auto before = letters();
-    ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Time: 0:00:02/0:01:00"));
-    EXPECT_TRUE(waitUntil([&] { return letters() != before; }, Seconds(0.9))) << "the old second stands";
-    EXPECT_LE(textsOf("QVOSDOverlay").size(), 5u) << "set more often than it changes";
-    ASSERT_TRUE(quitsCleanly());
-}
-
 TEST_F(Overlays, commands_of_a_playing_movie_are_confirmed_at_the_top_right) {
     startPlain({"--set", "QVJumpInterval=3"});
-    pressAll({{XK_m, {}, "Mute: On"},
-              {XK_m, {}, "Mute: Off"},
-              {XK_Up, {}, "Volume: 110%"},
-              {XK_Down, {}, "Volume: 100%"},
-              {XK_Tab, {}, ""}, // there is no other screen
-              {XK_s, {}, "Subtitles: None"},
-              {XK_l, {}, "Loop: One"},
-              {XK_l, {XK_Shift_L}, "Loop: Off"},
-              {XK_Right, {XK_Control_L}, "Jump Forward 3 s"},
-              {XK_Left, {XK_Control_L}, "Jump Backward 3 s"},
-              {XK_Right, {}, "Fast Forward x2"},
-              {XK_Right, {}, "Fast Forward x4"},
-              {XK_Left, {}, "Fast Rewind x2"},
-              {XK_space, {}, "Movie: Play"},
-              {XK_Left, {XK_Alt_L}, "Movie: Beginning"},
-              {XK_space, {}, "Movie: Pause"}});
+    const struct {
+        KeySym key;
+        std::vector<KeySym> modifiers;
+        std::string feedback; // empty: nothing is said
+    } presses[] = {{XK_m, {}, "Mute: On"},
+                   {XK_m, {}, "Mute: Off"},
+                   {XK_Up, {}, "Volume: 110%"},
+                   {XK_Down, {}, "Volume: 100%"},
+                   {XK_Tab, {}, ""}, // there is no other screen
+                   {XK_s, {}, "Subtitles: None"},
+                   {XK_l, {}, "Loop: One"},
+                   {XK_l, {XK_Shift_L}, "Loop: Off"},
+                   {XK_Right, {XK_Control_L}, "Jump Forward 3 s"},
+                   {XK_Left, {XK_Control_L}, "Jump Backward 3 s"},
+                   {XK_Right, {}, "Fast Forward x2"},
+                   {XK_Right, {}, "Fast Forward x4"},
+                   {XK_Left, {}, "Fast Rewind x2"},
+                   {XK_space, {}, "Movie: Play"},
+                   {XK_Left, {XK_Alt_L}, "Movie: Beginning"},
+                   {XK_space, {}, "Movie: Pause"}};
+    std::vector<std::string> expected;
+    for (const auto& press : presses) {
+        probe.tap(press.key, press.modifiers);
+        if (press.feedback.empty())
+            continue;
+        expected.push_back(press.feedback);
+        ASSERT_TRUE(waitUntil([&] { return textsOf("QVFeedbackOverlay").size() >= expected.size(); }))
+            << "nothing was said: " << press.feedback;
+        ASSERT_EQ(textsOf("QVFeedbackOverlay"), expected);
+        EXPECT_TRUE(panelStands(Corner::right)) << press.feedback;
+    }
+    EXPECT_TRUE(panelGoes(Corner::right)) << "the last message stays";
     ASSERT_TRUE(quitsCleanly());
     EXPECT_EQ(textsOf("QVFeedbackOverlay").back(), "Quit");
 }

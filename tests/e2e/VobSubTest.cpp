@@ -4,24 +4,11 @@
 #include "tests/support/RarWriter.h"
 #include "tools/vobsub/VobSubWriter.h"
 
-#include <algorithm>
-#include <iostream>
+#include <cstdlib>
 
 using namespace harness;
 
 namespace {
-
-// Where something blue stands on the screen; width 0 for nowhere.
-struct Box {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-};
-
-std::ostream& operator<<(std::ostream& out, const Box& box) {
-    return out << box.width << "x" << box.height << " at " << box.x << "," << box.y;
-}
 
 class VobSub : public SubtitledMovie {
 protected:
@@ -56,26 +43,19 @@ protected:
         return {bytes.begin(), bytes.end()};
     }
 
-    Box blueBox() {
-        const Picture picture = probe.picture({0, 0, screenWidth, screenHeight});
-        int left = screenWidth, right = -1, top = screenHeight, bottom = -1;
-        for (int y = 0; y < screenHeight; ++y)
-            for (int x = 0; x < screenWidth; ++x) {
-                const std::uint32_t pixel = picture.pixels[static_cast<std::size_t>(y * screenWidth + x)];
-                if ((pixel & 0xFF) < 128 || (pixel >> 16 & 0xFF) > 127 || (pixel >> 8 & 0xFF) > 127)
-                    continue;
-                left = std::min(left, x), right = std::max(right, x);
-                top = std::min(top, y), bottom = std::max(bottom, y);
-            }
-        return right < 0 ? Box() : Box{left, top, right - left + 1, bottom - top + 1};
+    // Where something blue stands on the screen; width 0 for nowhere.
+    Region blueBox() {
+        return probe.picture({0, 0, screenWidth, screenHeight}).extentWhere([](const Color& color) {
+            return color.blue >= 128 && color.red < 128 && color.green < 128;
+        });
     }
     // The rectangle comes to stand where the frame, as large as the screen, has it.
     testing::AssertionResult standsAt(int x, int y, int width, int height) {
         const auto scaled = [](int pixels, int shown, int of) { return pixels * shown / of; };
-        const Box wanted{scaled(x, screenWidth, 720), scaled(y, screenHeight, 480), scaled(width, screenWidth, 720),
-                         scaled(height, screenHeight, 480)};
+        const Region wanted{scaled(x, screenWidth, 720), scaled(y, screenHeight, 480), scaled(width, screenWidth, 720),
+                            scaled(height, screenHeight, 480)};
         constexpr int blurred = 2; // the edges of an enlarged picture
-        Box seen;
+        Region seen;
         const bool stands = waitUntil([&] {
             seen = blueBox();
             const auto near = [](int a, int b) { return std::abs(a - b) <= blurred; };
@@ -139,11 +119,11 @@ TEST_F(VobSub, the_chosen_language_follows_to_the_next_movie_and_the_picture_sca
     ASSERT_TRUE(logs("QVSubtitlesController: Switching to subtitles stream: \"German, film.idx\"", from));
     EXPECT_TRUE(standsAt(300, 240, 60, 60));
     // A smaller picture takes them along.
-    const Box full = blueBox();
+    const Region full = blueBox();
     probe.tap(XK_minus);
     probe.tap(XK_minus);
     EXPECT_TRUE(waitUntil([&] {
-        const Box box = blueBox();
+        const Region box = blueBox();
         return box.width > 0 && box.width < full.width - 2 && box.height < full.height - 2;
     }));
     ASSERT_TRUE(quitsCleanly());
