@@ -184,7 +184,6 @@ TEST_F(VobSubIndexFiles, the_probe_wants_the_header_on_the_first_line) {
     } cases[] = {
         {"# VobSub index file, v7 (do not modify this line!)\n", true},
         {"\xEF\xBB\xBF# VobSub index file, v3\r\n", true},
-        {"# VobSub index file, v8 (do not modify this line!)\n", false},
         {"\n# VobSub index file, v7\n", false},
         {"# VobSub index file\n", false},
     };

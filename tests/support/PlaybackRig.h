@@ -45,11 +45,6 @@ struct PlaybackRig {
         view.setMovie(movie);
         return movie;
     }
-    /// One second as the program lives it: the movie moves on and timers fire.
-    void advance(double seconds) {
-        player().advance(seconds);
-        settings.runLoop.advance(seconds);
-    }
 
     TestSettings settings;
     FakeDesktop desktop;
