@@ -138,3 +138,19 @@ TEST_F(Subtitles, keys_cycle_through_the_tracks_and_off_and_on) {
     EXPECT_TRUE(cueBecomes(apples));
     ASSERT_TRUE(quitsCleanly());
 }
+
+TEST_F(Subtitles, the_setting_for_the_encoding_decides_how_bytes_read) {
+    const std::string times = "1\n00:00:00,000 --> 00:00:09,000\n";
+    const std::string russian = times + "\xCF\xF0\xE8\xE2\xE5\xF2\n"; // in Windows 1251
+    startPaused(movie({{"srt", times + "Привет\n"}}));
+    const std::vector<bool> wanted = cue();
+    ASSERT_FALSE(wanted.empty());
+    ASSERT_TRUE(quitsCleanly());
+    startPaused(movie({{"srt", russian}}), {"--set", "QVSubtitlesDefaultEncoding=11"});
+    EXPECT_TRUE(cueBecomes(wanted));
+    ASSERT_TRUE(quitsCleanly());
+    startPaused(movie({{"srt", russian}}), {"--set", "QVSubtitlesDefaultEncoding=12"});
+    EXPECT_TRUE(waitUntil([&] { return !letters().empty(); }));
+    EXPECT_NE(cue(), wanted);
+    ASSERT_TRUE(quitsCleanly());
+}
