@@ -3,6 +3,7 @@
 
 #include "app/settings/QVUserDefaults.h"
 #include "app/settings/SettingsKeys.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/StringComparison.h"
 
 MovieOrdering MovieOrdering::fromSettings() {
@@ -22,5 +23,5 @@ QString fileNameOfURL(const QUrl& url) {
     QString path = url.path(QUrl::FullyDecoded);
     while (path.size() > 1 && path.endsWith(u'/'))
         path.chop(1);
-    return path.mid(path.lastIndexOf(u'/') + 1);
+    return platform::lastPathComponent(path);
 }

@@ -6,6 +6,7 @@
 #include "app/settings/SettingsKeys.h"
 #include "app/settings/Tracing.h"
 #include "platform/base/NotificationCenter.h"
+#include "platform/base/PathNames.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/movie/MovieToolkit.h"
 #include "platform/window/Window.h"
@@ -105,10 +106,10 @@ int QVMovie::compare(const QVMovie& other) const {
 void QVMovie::fetchSubtitleFiles() {
     trace("%@: Begin fetching subtitles for \"%@\".", className, fileNameOfURL(url()));
     if (url().isLocalFile()) {
-        const QString base = SubtitleDiscovery::baseOfPath(url().toLocalFile());
+        const QString base = platform::pathWithoutExtension(url().toLocalFile());
         const QStringList types = SubtitleRegistry::shared().subtitleUnfilteredFileTypes();
         for (const QString& path : SubtitleDiscovery::filesBeginningWith(base, types)) {
-            trace("%@: Found \"%@\".", className, path.mid(path.lastIndexOf(u'/') + 1));
+            trace("%@: Found \"%@\".", className, platform::lastPathComponent(path));
             addSubtitleFile(path);
         }
     }
@@ -120,7 +121,7 @@ void QVMovie::addSubtitleFile(const QString& path) {
     if (tracks.empty())
         return;
     trace("%@: Added %d subtitles stream(s) from file \"%@\"", className, tracks.size(),
-          path.mid(path.lastIndexOf(u'/') + 1));
+          platform::lastPathComponent(path));
     _subtitles.insert(_subtitles.end(), std::make_move_iterator(tracks.begin()), std::make_move_iterator(tracks.end()));
 }
 

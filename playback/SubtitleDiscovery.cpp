@@ -50,12 +50,6 @@ const Listing& listingOfFolder(const QString& folder, const QStringList& extensi
 
 } // namespace
 
-QString baseOfPath(const QString& path) {
-    const qsizetype name = path.lastIndexOf(u'/') + 1;
-    const qsizetype dot = path.lastIndexOf(u'.');
-    return dot > name ? path.left(dot) : path;
-}
-
 QStringList filesBeginningWith(const QString& base, const QStringList& extensions) {
     const qsizetype slash = base.lastIndexOf(u'/');
     if (extensions.isEmpty() || slash < 0)

@@ -7,9 +7,6 @@
 /// Finds the files that may hold a movie's subtitles. Main thread.
 namespace SubtitleDiscovery {
 
-/// A path without its extension. A leading dot of the file name begins no extension.
-QString baseOfPath(const QString& path);
-
 /// The files beside the movie whose names begin with that of `base` and end in one of the extensions (lower case,
 /// without dots), both without regard to case, ordered by name. Without extensions nothing is looked up. A folder's
 /// listing is kept for a second, so that a thousand movies of one folder are opened with a listing or two.

@@ -4,6 +4,7 @@
 #include "app/settings/QVUserDefaults.h"
 #include "app/settings/SettingsKeys.h"
 #include "app/settings/Tracing.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/RegularFile.h"
 #include "subtitles/CueSearch.h"
 #include "subtitles/text/CueText.h"
@@ -25,10 +26,6 @@ constexpr std::uint32_t noIndex = 0x7FFFFFFF;
 /// What is larger, or has more cues, is no text that somebody wrote, and would stop the player for seconds.
 constexpr qsizetype largestFile = 256 * 1024 * 1024;
 constexpr std::size_t mostCues = 2'000'000;
-
-QString fileName(const QString& path) {
-    return path.mid(path.lastIndexOf(u'/') + 1);
-}
 
 } // namespace
 
@@ -121,15 +118,18 @@ void QVSubtitles::stopWorker() {
 void QVSubtitles::_preload() {
     std::optional<QByteArray> bytes = platform::readRegularFile(_path, largestFile);
     if (!bytes) {
-        logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(), fileName(_path));
+        logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
+                  platform::lastPathComponent(_path));
         reset();
         return;
     }
     const bool cut = bytes->size() == largestFile;
-    trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), fileName(_path), isThreaded() ? " threaded" : "");
+    trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), platform::lastPathComponent(_path),
+          isThreaded() ? " threaded" : "");
     readAll(std::move(*bytes), _encoding);
     if (cut || _subtitles->subtitles.size() >= mostCues)
-        logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(_path));
+        logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(),
+                  platform::lastPathComponent(_path));
 }
 
 void QVSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
@@ -325,7 +325,7 @@ void QVSubtitles::readAgain() {
 }
 
 QString QVSubtitles::title() const {
-    return fileName(path());
+    return platform::lastPathComponent(path());
 }
 
 QString QVSubtitles::description() const {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/SubtitleRegistry.h"
 
+#include "platform/base/PathNames.h"
 #include "subtitles/text/QVMicroDVDSubtitles.h"
 #include "subtitles/text/QVSubRipSubtitles.h"
 #include "subtitles/text/QVTMPlayerSubtitles.h"
@@ -59,12 +60,6 @@ const QHash<QString, const Reader*>& extensionsMap() {
     return map;
 }
 
-QString extensionOf(const QString& path) {
-    const qsizetype name = path.lastIndexOf(u'/') + 1;
-    const qsizetype dot = path.lastIndexOf(u'.');
-    return dot > name ? path.mid(dot + 1) : QString();
-}
-
 SubtitleRegistry* sShared = nullptr;
 
 } // namespace
@@ -86,7 +81,7 @@ Tracks SubtitleRegistry::subtitlesWithFilePath(const QString& path, SubtitleOwne
     const SubtitleText beginning = SubtitleText::beginningOfFile(path);
     if (beginning.bytes.isEmpty())
         return {};
-    const Reader* const own = extensionsMap().value(extensionOf(path));
+    const Reader* const own = extensionsMap().value(platform::pathExtension(path));
     if (own && own->isFormatValid(path, beginning.view()))
         return own->tracks(path, owner);
     for (const Reader& reader : clusterList()) {

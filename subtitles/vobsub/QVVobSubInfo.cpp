@@ -5,6 +5,7 @@
 #include "platform/base/Bundle.h"
 #include "platform/base/LanguageNames.h"
 #include "platform/base/Localization.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/base/RegularFile.h"
 #include "platform/base/TextEncoding.h"
@@ -24,10 +25,6 @@ constexpr qsizetype largestIndex = 64 * 1024 * 1024;
 constexpr double longestToolSeconds = 75;
 /// What the tool says is read in an encoding that has a letter for every byte.
 constexpr std::uint32_t toolEncoding = 30;
-
-QString fileName(const QString& path) {
-    return path.mid(path.lastIndexOf(u'/') + 1);
-}
 
 /// Remembered, since finding a name costs more than reading a stream. Main thread.
 QString languageName(const QString& code) {
@@ -63,12 +60,12 @@ QVVobSubInfo::~QVVobSubInfo() = default;
 std::shared_ptr<const QVVobSubInfo> QVVobSubInfo::infoWithFile(const QString& path) {
     const std::shared_ptr<QVVobSubInfo> info(new QVVobSubInfo());
     const bool isParsed = info->_parseIDXFile(path);
-    info->_subPath = info->_locateSubFile(SubFileSearch::basePath(path));
+    info->_subPath = info->_locateSubFile(platform::pathWithoutExtension(path));
     return isParsed ? info : nullptr;
 }
 
 bool QVVobSubInfo::_parseIDXFile(const QString& path) {
-    trace("%@: Start parsing \"%@\"", className, fileName(path));
+    trace("%@: Start parsing \"%@\"", className, platform::lastPathComponent(path));
     // One byte more, to tell what is too large from what just fits.
     std::optional<QByteArray> bytes = platform::readRegularFile(path, largestIndex + 1);
     if (!bytes || bytes->size() > largestIndex) {
@@ -83,7 +80,8 @@ bool QVVobSubInfo::_parseIDXFile(const QString& path) {
         return false;
     }
     _index = std::move(*result.index);
-    trace("%@: End parsing \"%@\", %d streams found.", className, fileName(path), _index._streams.size());
+    trace("%@: End parsing \"%@\", %d streams found.", className, platform::lastPathComponent(path),
+          _index._streams.size());
     return true;
 }
 
@@ -92,12 +90,12 @@ QString QVVobSubInfo::_locateSubFile(const QString& base) {
     QString found;
     const QString archive = SubFileSearch::fileBeside(base, QStringLiteral("rar"));
     if (!archive.isEmpty()) {
-        trace("%@: Processing \"%@\"", className, fileName(archive));
-        found = _extractSubFile(archive, fileName(base));
+        trace("%@: Processing \"%@\"", className, platform::lastPathComponent(archive));
+        found = _extractSubFile(archive, platform::lastPathComponent(base));
     }
     if (found.isEmpty())
         found = SubFileSearch::fileBeside(base, QStringLiteral("sub"));
-    trace("%@: VobSub data file \"%@\"", className, fileName(found));
+    trace("%@: VobSub data file \"%@\"", className, platform::lastPathComponent(found));
     return found;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 
+#include "platform/base/PathNames.h"
 #include "subtitles/text/LineReader.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/SubFileSearch.h"
@@ -15,7 +16,7 @@ bool QVVobSubSubtitles::isFormatValid(const QString& path, std::string_view text
     const auto line = LineReader(text).next();
     if (!line || !IndexParser::headerVersion(*line))
         return false;
-    const QString base = SubFileSearch::basePath(path);
+    const QString base = platform::pathWithoutExtension(path);
     return !SubFileSearch::fileBeside(base, QStringLiteral("sub")).isEmpty() ||
            !SubFileSearch::fileBeside(base, QStringLiteral("rar")).isEmpty();
 }

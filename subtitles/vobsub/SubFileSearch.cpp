@@ -27,11 +27,6 @@ QStringList dataFiles(const QString& folder, QDirIterator::IteratorFlags flags) 
 
 } // namespace
 
-QString SubFileSearch::basePath(const QString& path) {
-    const qsizetype dot = path.lastIndexOf(u'.');
-    return dot > path.lastIndexOf(u'/') + 1 ? path.left(dot) : path;
-}
-
 QString SubFileSearch::fileBeside(const QString& base, const QString& extension) {
     // Asking for each of the few ways to write it is cheaper than reading a folder of many films.
     const auto ways = 1U << static_cast<unsigned>(extension.size());

@@ -6,9 +6,6 @@
 /// Where the data file of a VobSub index lies. Any thread.
 namespace SubFileSearch {
 
-/// The path without its extension: what the files of one set have in common.
-QString basePath(const QString& path);
-
 /// The file of that base with an extension given in lower case, which may be written in any: lower case is preferred,
 /// then upper case. Empty when there is none.
 QString fileBeside(const QString& base, const QString& extension);

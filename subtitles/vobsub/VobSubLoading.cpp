@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the worker of a VobSub track makes its cues.
 #include "app/settings/Tracing.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/RunLoop.h"
 #include "subtitles/vobsub/DataFile.h"
 #include "subtitles/vobsub/PackReader.h"
@@ -17,10 +18,6 @@ namespace {
 constexpr std::size_t mostMemory = std::size_t{256} * 1024 * 1024;
 /// Of a cue, beside its picture.
 constexpr std::size_t cueMemory = sizeof(QVSubtitle) + 64;
-
-QString fileName(const QString& path) {
-    return path.mid(path.lastIndexOf(u'/') + 1);
-}
 
 /// Milliseconds as far as a cue can say them.
 std::int32_t milliseconds(std::int64_t value) {
@@ -41,12 +38,12 @@ void QVVobSubSubtitles::_preload() {
     const auto file = DataFile::open(_subInfo->subPath());
     if (!file) {
         logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
-                  fileName(_subInfo->subPath()));
+                  platform::lastPathComponent(_subInfo->subPath()));
         trace("%@: Preload Time: %@", className(), QString::asprintf("%6.5f", messageTime() - begin));
         reset();
         return;
     }
-    trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), fileName(path()), " threaded");
+    trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), platform::lastPathComponent(path()), " threaded");
 
     PackReader reader(*file, streamInfo()._index, _abort);
     std::size_t memory = 0;
@@ -60,7 +57,8 @@ void QVVobSubSubtitles::_preload() {
         const auto image = packet->decodeWithInfo(index);
         memory += cueMemory + (image ? image->memory() : 0);
         if (memory > mostMemory) {
-            logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(), fileName(file->path()));
+            logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(),
+                      platform::lastPathComponent(file->path()));
             break;
         }
         auto subtitle = std::make_shared<QVSubtitle>(image, start, end);
