@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CurrentTexts.h"
 
-#include "app/context/QVAppContext.h"
+#include "context/QVAppContext.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"

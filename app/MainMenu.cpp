@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/MainMenu.h"
 
-#include "app/context/CommandTarget.h"
+#include "context/CommandTarget.h"
 #include "control/VolumeSteps.h"
 #include "platform/base/Localization.h"
 #include "playback/QVMovieView.h"

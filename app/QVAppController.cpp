@@ -6,9 +6,6 @@
 #include "app/QVFullScreenWindow.h"
 #include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "control/ModifierFlags.h"
 #include "control/QVMovieController.h"
 #include "overlays/QVFeedbackOverlay.h"
@@ -19,6 +16,9 @@
 #include "platform/movie/MovieToolkit.h"
 #include "platform/window/WindowHost.h"
 #include "playlist/QVPlaylistController.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 #include "subtitles/QVSubtitlesController.h"
 
 #include <QDir>

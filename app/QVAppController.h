@@ -4,12 +4,12 @@
 #include "app/CurrentTexts.h"
 #include "app/MainMenu.h"
 #include "app/SubtitlesOverMovie.h"
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVPreferencesChangedNotification.h"
+#include "context/QVAppContext.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/desktop/Application.h"
 #include "playback/QVMovieView.h"
+#include "settings/QVPreferencesChangedNotification.h"
 
 #include <QStringList>
 

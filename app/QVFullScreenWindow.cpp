@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/QVFullScreenWindow.h"
 
-#include "app/context/CommandTarget.h"
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
+#include "context/CommandTarget.h"
+#include "context/QVAppContext.h"
 #include "platform/desktop/Desktop.h"
 #include "playback/QVMovieView.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/EdgeAreas.h"
-#include "app/context/MainWindow.h"
+#include "context/MainWindow.h"
 #include "overlays/QVParentOverlay.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ScreenBrightness.h"
 
-#include "app/settings/Tracing.h"
 #include "platform/desktop/Desktop.h"
+#include "settings/Tracing.h"
 
 #include <limits>
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/SettingsKeys.h"
 #include "bench/Allocations.h"
 #include "bench/Letters.h"
 #include "bench/SubtitleRoom.h"
@@ -10,6 +9,7 @@
 #include "overlays/QVParentOverlay.h"
 #include "platform/window/PictureLayer.h"
 #include "platform/window/SceneComposer.h"
+#include "settings/SettingsKeys.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/support/TestSettings.h"
 

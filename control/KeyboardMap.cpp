@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/KeyboardMap.h"
 
-#include "app/context/CommandTarget.h"
+#include "context/CommandTarget.h"
 #include "control/VolumeSteps.h"
 #include "playback/QVMovieView.h"
 

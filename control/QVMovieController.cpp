@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/QVMovieController.h"
 
-#include "app/context/MainWindow.h"
-#include "app/context/Notifications.h"
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
+#include "context/MainWindow.h"
+#include "context/Notifications.h"
+#include "context/QVAppContext.h"
 #include "control/FastMotion.h"
 #include "control/ScreenWalk.h"
 #include "control/VolumeSteps.h"
@@ -15,6 +12,9 @@
 #include "platform/desktop/Desktop.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 #include "subtitles/QVSubtitlesController.h"
 
 #include <utility>

@@ -2,14 +2,14 @@
 // The movie controller's keys: what the keyboard map asked for, carried out.
 #include "control/QVMovieController.h"
 
-#include "app/context/QVAppContext.h"
-#include "app/settings/Tracing.h"
+#include "context/QVAppContext.h"
 #include "control/KeyboardMap.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVOSDOverlay.h"
 #include "platform/base/Localization.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"
+#include "settings/Tracing.h"
 
 using Kind = KeyCommand::Kind;
 

@@ -2,8 +2,8 @@
 // The movie controller's menus: the items' actions and states, and the items that follow the playlist and the movie.
 #include "control/QVMovieController.h"
 
-#include "app/context/Notifications.h"
-#include "app/context/QVAppContext.h"
+#include "context/Notifications.h"
+#include "context/QVAppContext.h"
 #include "platform/base/Localization.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"

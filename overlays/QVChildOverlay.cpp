@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVChildOverlay.h"
 
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/Tracing.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/Tracing.h"
 
 QVChildOverlay::QVChildOverlay(platform::Window* parent, const QString& style)
     : QVStyledOverlay(parent ? parent->frame() : QRectF(), style) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/settings/SettingsKeys.h"
 #include "overlays/QVOverlayContentView.h"
 #include "overlays/QVStyledOverlay.h"
+#include "settings/SettingsKeys.h"
 
 /// A styled overlay above a parent: it follows the parent's size, stands inside its frame where the style's alignment
 /// code puts it, and draws a panel behind its content. Main thread.

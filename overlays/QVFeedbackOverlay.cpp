@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVFeedbackOverlay.h"
 
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVUserDefaults.h"
+#include "context/QVAppContext.h"
+#include "settings/QVUserDefaults.h"
 
 namespace {
 std::unique_ptr<QVFeedbackOverlay> sShared;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVOSDOverlay.h"
 
-#include "app/context/QVAppContext.h"
+#include "context/QVAppContext.h"
 #include "overlays/ClockText.h"
 #include "overlays/OSDTexts.h"
 #include "platform/base/Localization.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVStyledOverlay.h"
 
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/Tracing.h"
 #include "overlays/QVFadeCalculator.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/Tracing.h"
 
 #include <algorithm>
 

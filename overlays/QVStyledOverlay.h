@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/context/Notifications.h"
-#include "app/settings/QVOverlayStyleDefaults.h"
-#include "app/settings/QVPreferencesChangedNotification.h"
+#include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/window/Window.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/QVPreferencesChangedNotification.h"
 
 #include <QString>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVTextOverlay.h"
 
-#include "app/settings/ColorText.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/Tracing.h"
 #include "platform/window/Fonts.h"
+#include "settings/ColorText.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/Tracing.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVTextSubView.h"
 
-#include "app/settings/Tracing.h"
 #include "overlays/PictureGeometry.h"
 #include "overlays/SubtitlePlacement.h"
 #include "platform/window/Fonts.h"
+#include "settings/Tracing.h"
 #include "subtitles/QVSubtitle.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/MovieOrdering.h"
 
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
 #include "platform/base/PathNames.h"
 #include "platform/base/StringComparison.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
 
 MovieOrdering MovieOrdering::fromSettings() {
     const platform::UserDefaults& defaults = QVUserDefaults::standardUserDefaults();

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/QVMovie.h"
 
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
+#include "context/QVAppContext.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/PathNames.h"
 #include "platform/desktop/Desktop.h"
@@ -12,6 +9,9 @@
 #include "platform/window/Window.h"
 #include "playback/MovieOrdering.h"
 #include "playback/SubtitleDiscovery.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 #include "subtitles/SubtitleRegistry.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/context/Notifications.h"
+#include "context/Notifications.h"
 #include "platform/movie/Movie.h"
 #include "subtitles/QVSubtitles.h"
 

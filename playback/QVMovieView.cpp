@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/QVMovieView.h"
 
-#include "app/context/CommandTarget.h"
-#include "app/context/Notifications.h"
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
+#include "context/CommandTarget.h"
+#include "context/Notifications.h"
+#include "context/QVAppContext.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Window.h"
 #include "playback/QVMovie.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 
 #include <utility>
 

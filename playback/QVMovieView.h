@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/context/Notifications.h"
-#include "app/settings/QVPreferencesChangedNotification.h"
+#include "context/Notifications.h"
 #include "overlays/PictureGeometry.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MovieView.h"
 #include "playback/MovieSizing.h"
+#include "settings/QVPreferencesChangedNotification.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlist/QVPlaylistController.h"
 
-#include "app/context/CommandTarget.h"
-#include "app/context/Notifications.h"
-#include "app/context/QVAppContext.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
+#include "context/CommandTarget.h"
+#include "context/Notifications.h"
+#include "context/QVAppContext.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunLoop.h"
@@ -15,6 +12,9 @@
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 
 #include <QDir>
 

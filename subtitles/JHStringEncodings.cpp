@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/JHStringEncodings.h"
 
-#include "app/settings/Tracing.h"
 #include "platform/base/TextEncoding.h"
+#include "settings/Tracing.h"
 
 JHStringEncodings& JHStringEncodings::sharedManager() {
     static JHStringEncodings shared;

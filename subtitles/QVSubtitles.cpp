@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitles.h"
 
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "platform/base/PathNames.h"
 #include "platform/base/RegularFile.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 #include "subtitles/CueSearch.h"
 #include "subtitles/text/CueText.h"
 #include "subtitles/text/LineReader.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitlesController.h"
 
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleView.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/context/Notifications.h"
-#include "app/settings/QVPreferencesChangedNotification.h"
+#include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
+#include "settings/QVPreferencesChangedNotification.h"
 #include "subtitles/QVSubtitles.h"
 
 #include <QString>

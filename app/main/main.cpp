@@ -8,9 +8,6 @@
 #include "app/QVAppController.h"
 #include "app/QVFullScreenWindow.h"
 #include "app/panels/HelpPanel.h"
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/base/QtRunLoop.h"
@@ -21,6 +18,9 @@
 #include "platform/desktop/qt/QtDesktop.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
+#include "settings/QVUserDefaults.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 
 #include <QCoreApplication>
 #include <QDir>

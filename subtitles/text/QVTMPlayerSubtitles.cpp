@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/text/QVTMPlayerSubtitles.h"
 
-#include "app/settings/Tracing.h"
+#include "settings/Tracing.h"
 #include "subtitles/text/CueText.h"
 #include "subtitles/text/LineReader.h"
 #include "subtitles/text/ScanFormat.h"

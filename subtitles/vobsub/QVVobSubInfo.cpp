@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/QVVobSubInfo.h"
 
-#include "app/settings/Tracing.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/LanguageNames.h"
 #include "platform/base/Localization.h"
@@ -10,6 +9,7 @@
 #include "platform/base/RegularFile.h"
 #include "platform/base/TextEncoding.h"
 #include "platform/base/ToolProcess.h"
+#include "settings/Tracing.h"
 #include "subtitles/text/SubtitleText.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/SubFileSearch.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/QVVobSubPacket.h"
 
-#include "app/settings/Tracing.h"
+#include "settings/Tracing.h"
 #include "subtitles/vobsub/RunLengthDecoder.h"
 
 #include <QString>

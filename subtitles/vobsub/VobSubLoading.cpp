@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the worker of a VobSub track makes its cues.
-#include "app/settings/Tracing.h"
 #include "platform/base/PathNames.h"
 #include "platform/base/RunLoop.h"
+#include "settings/Tracing.h"
 #include "subtitles/vobsub/DataFile.h"
 #include "subtitles/vobsub/PackReader.h"
 #include "subtitles/vobsub/QVVobSubPacket.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/settings/SettingsKeys.h"
+#include "settings/SettingsKeys.h"
 #include "tests/app/AppRig.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rules that keep the house in order, checked on the text of its sources alone.
+// The rules of the layers, checked on the text of the sources alone.
 #include <QLibraryInfo>
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ Sources sourcesIn(const std::vector<std::string>& folders) {
     const fs::path root = LUMARO_SOURCE_DIR;
     Sources sources;
     for (const std::string& folder : folders) {
-        // A floor without sources has no folder in a fresh checkout.
+        // A layer without sources has no folder in a fresh checkout.
         if (!fs::exists(root / folder))
             continue;
         for (const auto& entry : fs::recursive_directory_iterator(root / folder)) {
@@ -39,9 +39,9 @@ Sources sourcesIn(const std::vector<std::string>& folders) {
     return sources;
 }
 
-const Sources& theHouse() {
-    static const Sources sources =
-        sourcesIn({"platform", "app", "subtitles", "overlays", "playback", "playlist", "control", "prefs"});
+const Sources& productSources() {
+    static const Sources sources = sourcesIn({"platform", "settings", "context", "subtitles", "overlays", "playback",
+                                              "playlist", "control", "prefs", "app"});
     return sources;
 }
 
@@ -54,7 +54,7 @@ struct Include {
 std::vector<Include> includes() {
     static const std::regex pattern(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
     std::vector<Include> found;
-    for (const auto& [file, lines] : theHouse())
+    for (const auto& [file, lines] : productSources())
         for (const std::string& line : lines)
             if (std::smatch match; std::regex_search(line, match, pattern))
                 found.push_back({file, match[2], match[1] == "\""});
@@ -66,25 +66,25 @@ bool isIn(const std::string& file, const std::string& folder) {
 }
 
 // From each to those that it includes.
-using Arrows = std::map<std::string, std::set<std::string>>;
+using Dependencies = std::map<std::string, std::set<std::string>>;
 
 // What includes nothing that is left is taken away, again and again: a circle stays, with what leads to it.
-void expectNoCircle(Arrows arrows) {
-    const auto includesNone = [&arrows](const auto& from) {
-        return std::ranges::none_of(from.second, [&](const std::string& to) { return arrows.contains(to); });
+void expectNoCircle(Dependencies dependencies) {
+    const auto includesNone = [&dependencies](const auto& from) {
+        return std::ranges::none_of(from.second, [&](const std::string& to) { return dependencies.contains(to); });
     };
-    while (std::erase_if(arrows, includesNone) > 0) {
+    while (std::erase_if(dependencies, includesNone) > 0) {
     }
-    for (const auto& [from, targets] : arrows)
+    for (const auto& [from, targets] : dependencies)
         for (const std::string& to : targets)
-            EXPECT_FALSE(arrows.contains(to)) << "on or before a circle: " << from << " -> " << to;
+            EXPECT_FALSE(dependencies.contains(to)) << "on or before a circle: " << from << " -> " << to;
 }
 
-// The folder that a file counts to, and the floor it stands on.
+// The top folder that a file belongs to, and its layer.
 std::pair<std::string, int> placeOf(const std::string& file) {
     static const std::vector<std::pair<std::string, int>> places = {
-        {"platform", 0}, {"app/settings", 1}, {"app/context", 1}, {"subtitles", 2}, {"overlays", 3},
-        {"playback", 4}, {"playlist", 5},     {"control", 6},     {"prefs", 7},     {"app", 8}};
+        {"platform", 0}, {"settings", 1}, {"context", 1}, {"subtitles", 2}, {"overlays", 3},
+        {"playback", 4}, {"playlist", 5}, {"control", 6}, {"prefs", 7},     {"app", 8}};
     return *std::ranges::find_if(places, [&](const auto& place) { return isIn(file, place.first); });
 }
 
@@ -100,32 +100,32 @@ std::string moduleByQtsOwnFolders(const std::string& header) {
 
 } // namespace
 
-TEST(House, there_is_no_circle_of_rooms_and_folders_stand_on_lower_ones) {
-    ASSERT_GT(theHouse().size(), 20u);
-    const auto roomOf = [](const std::string& file) { return file.substr(0, file.rfind('.')); };
+TEST(Architecture, modules_and_folders_form_no_circle_and_include_lower_layers_only) {
+    ASSERT_GT(productSources().size(), 20u);
+    const auto moduleOf = [](const std::string& file) { return file.substr(0, file.rfind('.')); };
     const auto directoryOf = [](const std::string& file) { return file.substr(0, file.rfind('/')); };
-    Arrows rooms, insidePlatform;
+    Dependencies modules, folders;
     for (const auto& [file, target, quoted] : includes()) {
         if (!quoted)
             continue;
-        EXPECT_TRUE(theHouse().contains(target)) << file << ": includes begin at the root: " << target;
-        if (!theHouse().contains(target))
+        EXPECT_TRUE(productSources().contains(target)) << file << ": includes begin at the root: " << target;
+        if (!productSources().contains(target))
             continue;
-        if (roomOf(file) != roomOf(target))
-            rooms[roomOf(file)].insert(roomOf(target));
-        const auto [from, fromFloor] = placeOf(file);
-        const auto [to, toFloor] = placeOf(target);
-        if (from == "platform" && to == "platform" && directoryOf(file) != directoryOf(target))
-            insidePlatform[directoryOf(file)].insert(directoryOf(target));
-        EXPECT_TRUE(from == to || toFloor < fromFloor) << file << " includes " << target << " of a higher floor";
-        EXPECT_TRUE(from != "app/settings" || to == from || isIn(target, "platform/base"))
-            << file << " includes " << target << ", but app/settings stands on platform/base alone";
+        if (moduleOf(file) != moduleOf(target))
+            modules[moduleOf(file)].insert(moduleOf(target));
+        const auto [from, fromLayer] = placeOf(file);
+        const auto [to, toLayer] = placeOf(target);
+        if (directoryOf(file) != directoryOf(target) && !isIn(file, "subtitles"))
+            folders[directoryOf(file)].insert(directoryOf(target));
+        EXPECT_TRUE(from == to || toLayer < fromLayer) << file << " includes " << target << " of a higher layer";
+        EXPECT_TRUE(from != "settings" || to == from || isIn(target, "platform/base"))
+            << file << " includes " << target << ", but settings stands on platform/base alone";
     }
-    expectNoCircle(rooms);
-    expectNoCircle(insidePlatform);
+    expectNoCircle(modules);
+    expectNoCircle(folders);
 }
 
-TEST(House, libraries_stay_in_their_place) {
+TEST(Architecture, libraries_stay_in_their_place) {
     ASSERT_EQ(moduleByQtsOwnFolders("QPushButton"), "QtWidgets") << "Qt's headers are not where Qt says";
     // Beginnings of headers, and the only folder that may name them.
     const std::vector<std::pair<std::string, std::string>> homes = {{"mpv/", "platform/movie/mpv"},
@@ -156,14 +156,14 @@ TEST(House, libraries_stay_in_their_place) {
     }
 }
 
-TEST(House, time_comes_in_from_outside) {
+TEST(Architecture, time_comes_in_from_outside) {
     const std::regex clocks(
         R"(\b(QTimer|QElapsedTimer|QBasicTimer|QDeadlineTimer|QChronoTimer|QTimeLine|QVariantAnimation|QPropertyAnimation|)"
         R"(currentDateTime|currentDateTimeUtc|currentMSecsSinceEpoch|currentSecsSinceEpoch|currentTime|currentDate|)"
         R"(steady_clock|system_clock|high_resolution_clock|sleep_for|sleep_until|msleep|usleep|nanosleep|singleShot|)"
         R"(startTimer|clock_gettime|gettimeofday|timerfd_create|processEvents)\b|(?:^|[^\w.>])(?:std::|::)(?:time|sleep|clock)\s*\()");
     const std::regex textOrComment(R"("(\\.|[^"\\])*"|//.*)");
-    for (const auto& [file, lines] : theHouse()) {
+    for (const auto& [file, lines] : productSources()) {
         for (const std::string& line : lines) {
             EXPECT_TRUE(isIn(file, "platform") ||
                         !std::regex_search(std::regex_replace(line, textOrComment, ""), clocks))
@@ -172,8 +172,8 @@ TEST(House, time_comes_in_from_outside) {
     }
 }
 
-TEST(House, files_stay_small) {
-    for (const Sources& sources : {theHouse(), sourcesIn({"tests", "bench", "tools"})})
+TEST(Architecture, files_stay_small) {
+    for (const Sources& sources : {productSources(), sourcesIn({"tests", "bench", "tools"})})
         for (const auto& [file, lines] : sources)
             EXPECT_LE(lines.size(), 600u) << file;
 }

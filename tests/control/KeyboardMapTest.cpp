@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/KeyboardMap.h"
-#include "app/context/CommandTarget.h"
+#include "context/CommandTarget.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/context/Notifications.h"
+#include "context/Notifications.h"
 #include "overlays/ClockText.h"
 #include "overlays/OSDTexts.h"
 #include "overlays/QVFeedbackOverlay.h"

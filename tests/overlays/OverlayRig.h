@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/settings/QVOverlayStyleDefaults.h"
-#include "app/settings/QVPreferencesChangedNotification.h"
-#include "app/settings/SettingsKeys.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/window/Window.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/QVPreferencesChangedNotification.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/TestSettings.h"
 
 /// Settings whose default style has round figures: a second in, half a second out, two seconds of hold.

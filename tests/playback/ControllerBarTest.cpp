@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/ControllerBar.h"
 
-#include "app/settings/SettingsKeys.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/QVMovieView.h"
 
-#include "app/context/Notifications.h"
-#include "app/settings/SettingsKeys.h"
+#include "context/Notifications.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playlist/QVPlaylistController.h"
 
-#include "app/context/Notifications.h"
-#include "app/settings/SettingsKeys.h"
+#include "context/Notifications.h"
 #include "playlist/Arrangement.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/Log.h"
-#include "app/settings/Tracing.h"
+#include "settings/Tracing.h"
 #include "tests/support/CapturedLog.h"
 
 #include <gtest/gtest.h>

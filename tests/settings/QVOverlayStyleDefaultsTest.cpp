@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/QVOverlayStyleDefaults.h"
-#include "app/settings/SettingsKeys.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/TestSettings.h"
 
 #include <gtest/gtest.h>

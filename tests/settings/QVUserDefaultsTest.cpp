@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/QVUserDefaults.h"
-#include "app/settings/QVOverlayStyleDefaults.h"
-#include "app/settings/SettingsKeys.h"
+#include "settings/QVUserDefaults.h"
 #include "platform/base/Bundle.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/CapturedLog.h"
 #include "tests/support/TestSettings.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/ColorText.h"
 #include "platform/base/Log.h"
 #include "platform/base/PercentEscapes.h"
 #include "platform/base/StringComparison.h"
+#include "settings/ColorText.h"
 
 #include <gtest/gtest.h>
 

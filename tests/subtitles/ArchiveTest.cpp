@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Data files that come out of archives: what is taken, what is refused, and that nothing stays behind.
-#include "app/settings/Tracing.h"
 #include "platform/base/PrivateFolder.h"
+#include "settings/Tracing.h"
 #include "subtitles/vobsub/QVVobSubInfo.h"
 #include "subtitles/vobsub/SubFileSearch.h"
 #include "tests/subtitles/SubtitleFiles.h"

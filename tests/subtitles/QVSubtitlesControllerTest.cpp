@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitlesController.h"
 
-#include "app/settings/SettingsKeys.h"
+#include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleRegistry.h"
 #include "subtitles/SubtitleView.h"

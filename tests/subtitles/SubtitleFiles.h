@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/settings/SettingsKeys.h"
+#include "settings/SettingsKeys.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/Files.h"
 #include "tests/support/TestSettings.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/context/CommandTarget.h"
-#include "app/context/QVAppContext.h"
+#include "context/CommandTarget.h"
+#include "context/QVAppContext.h"
 
 #include <utility>
 

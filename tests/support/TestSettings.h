@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/settings/QVUserDefaults.h"
+#include "settings/QVUserDefaults.h"
 #include "tests/support/ManualRunLoop.h"
 
 /// Settings that lie in memory. The disk is shared with the test, which may look at it, and outlives the storage, so

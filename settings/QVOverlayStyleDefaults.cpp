@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/QVOverlayStyleDefaults.h"
+#include "settings/QVOverlayStyleDefaults.h"
 
-#include "app/settings/ColorText.h"
-#include "app/settings/SettingsKeys.h"
-#include "app/settings/Tracing.h"
 #include "platform/base/PropertyValue.h"
 #include "platform/base/UserDefaults.h"
+#include "settings/ColorText.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 
 namespace value = platform::propertyValue;
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/QVUserDefaults.h"
+#include "settings/QVUserDefaults.h"
 
-#include "app/settings/ColorText.h"
-#include "app/settings/QVOverlayStyleDefaults.h"
-#include "app/settings/SettingsKeys.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PropertyList.h"
 #include "platform/base/PropertyValue.h"
+#include "settings/ColorText.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/SettingsKeys.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/context/QVAppContext.h"
+#include "context/QVAppContext.h"
 
 QVAppContext* gAppController = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/Tracing.h"
+#include "settings/Tracing.h"
 
 #include "platform/base/Log.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/ColorText.h"
+#include "settings/ColorText.h"
 
 #include "platform/base/NumberText.h"
 #include "platform/base/UserDefaults.h"
