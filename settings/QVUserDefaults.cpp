@@ -82,13 +82,11 @@ void migrate(UserDefaults& defaults) {
 
 } // namespace
 
+void QVUserDefaults::prepare(UserDefaults& defaults) {
+    registerShippedDefaults(defaults);
+    migrate(defaults);
+}
+
 UserDefaults& QVUserDefaults::standardUserDefaults() {
-    static int prepared = 0;
-    UserDefaults& defaults = UserDefaults::standard();
-    if (prepared != UserDefaults::installations()) {
-        prepared = UserDefaults::installations();
-        registerShippedDefaults(defaults);
-        migrate(defaults);
-    }
-    return defaults;
+    return UserDefaults::standard();
 }

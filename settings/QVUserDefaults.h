@@ -3,12 +3,14 @@
 
 #include "platform/base/UserDefaults.h"
 
-/// The road to the settings: registration and migration have run before anything is read. Main thread.
+/// The application's settings. Main thread.
 class QVUserDefaults {
 public:
     QVUserDefaults() = delete;
 
-    /// The shared store. The first call after a store was installed registers the resource "UserDefaults" of type
-    /// "plist" and migrates the settings of older builds.
+    /// Registers the resource "UserDefaults" of type "plist" and migrates the settings of older builds: once for each
+    /// store, before anything is read from it.
+    static void prepare(platform::UserDefaults& defaults);
+    /// The process's store; whoever installed it has prepared it.
     static platform::UserDefaults& standardUserDefaults();
 };

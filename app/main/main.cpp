@@ -8,7 +8,9 @@
 #include "app/QVAppController.h"
 #include "app/QVFullScreenWindow.h"
 #include "app/panels/HelpPanel.h"
+#include "context/Environment.h"
 #include "platform/base/Bundle.h"
+#include "platform/base/NotificationCenter.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/base/QtRunLoop.h"
 #include "platform/base/SettingsFile.h"
@@ -104,21 +106,23 @@ public:
     explicit Settings(std::unique_ptr<platform::SettingsStorage> storage)
         : _defaults(std::move(storage)) {
         platform::UserDefaults::setStandard(&_defaults);
+        QVUserDefaults::prepare(_defaults);
     }
     ~Settings() { platform::UserDefaults::setStandard(nullptr); }
 
     bool apply(const CommandLine& line) {
-        platform::UserDefaults& defaults = QVUserDefaults::standardUserDefaults();
         for (const auto& [key, text] : line.settings) {
-            const QVariant known = defaults.objectForKey(key);
+            const QVariant known = _defaults.objectForKey(key);
             if (!known.isValid()) {
                 complain(QStringLiteral("there is no setting '%1'").arg(key));
                 return false;
             }
-            defaults.setOverride(key, settingValue(text, known));
+            _defaults.setOverride(key, settingValue(text, known));
         }
         return true;
     }
+
+    platform::UserDefaults& defaults() { return _defaults; }
 
 private:
     platform::UserDefaults _defaults;
@@ -128,12 +132,15 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
     const QCoreApplication application(count, arguments);
     platform::QtRunLoop loop;
     platform::RunLoop::setMain(&loop);
+    platform::NotificationCenter notifications;
+    platform::NotificationCenter::setDefault(&notifications);
     Settings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
     if (!settings.apply(line))
         return exitUsage;
+    [[maybe_unused]] const Environment environment{loop, notifications, settings.defaults()};
     platform::MpvToolkit toolkit;
     platform::MovieToolkit::setShared(&toolkit);
-    platform::UserDefaults& defaults = QVUserDefaults::standardUserDefaults();
+    platform::UserDefaults& defaults = settings.defaults();
     if (line.encoding != 0)
         defaults.setOverride(kQVSubtitlesDefaultEncoding, static_cast<qint64>(line.encoding));
     if (line.frameRateChoice != 0)
@@ -167,9 +174,12 @@ int play(int& count, char** arguments, const CommandLine& line) {
     platform::Desktop::setShared(&desktop);
     platform::QtRunLoop loop;
     platform::RunLoop::setMain(&loop);
+    platform::NotificationCenter notifications;
+    platform::NotificationCenter::setDefault(&notifications);
     Settings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
     if (!settings.apply(line))
         return exitUsage;
+    [[maybe_unused]] const Environment environment{loop, notifications, settings.defaults()};
 
     platform::SessionBus bus;
     const platform::Backlight backlight(platform::Backlight::systemFolder(),
@@ -216,6 +226,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         status = desktop.run(controller);
     }
     platform::Desktop::setShared(nullptr);
+    platform::NotificationCenter::setDefault(nullptr);
     return status;
 }
 

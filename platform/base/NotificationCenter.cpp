@@ -7,9 +7,19 @@
 
 namespace platform {
 
+namespace {
+
+NotificationCenter* sDefault = nullptr;
+
+} // namespace
+
 NotificationCenter& NotificationCenter::defaultCenter() {
     static NotificationCenter center;
-    return center;
+    return sDefault ? *sDefault : center;
+}
+
+void NotificationCenter::setDefault(NotificationCenter* center) {
+    sDefault = center;
 }
 
 void NotificationCenter::assertMainThread() {

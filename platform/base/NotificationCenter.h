@@ -28,7 +28,14 @@ private:
 /// post on, one that is removed is not called any more.
 class NotificationCenter {
 public:
+    NotificationCenter() = default;
+    NotificationCenter(const NotificationCenter&) = delete;
+    NotificationCenter& operator=(const NotificationCenter&) = delete;
+
+    /// The process's centre: the one that was installed, else one that is always there.
     static NotificationCenter& defaultCenter();
+    /// Installs the centre; null takes it away again.
+    static void setDefault(NotificationCenter* center);
 
     template <class Notification>
     [[nodiscard]] Subscription observe(std::function<void(const Notification&)> observer) {

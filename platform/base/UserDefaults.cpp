@@ -10,7 +10,6 @@ namespace {
 constexpr double kWriteDelay = 1.0;
 
 UserDefaults* sStandard = nullptr;
-int sInstallations = 0;
 
 bool isSame(const QVariant& left, const QVariant& right) {
     return left.metaType() == right.metaType() && left == right;
@@ -33,11 +32,6 @@ UserDefaults& UserDefaults::standard() {
 
 void UserDefaults::setStandard(UserDefaults* defaults) {
     sStandard = defaults;
-    ++sInstallations;
-}
-
-int UserDefaults::installations() {
-    return sInstallations;
 }
 
 void UserDefaults::registerDefaults(const QVariantMap& defaults) {

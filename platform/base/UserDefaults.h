@@ -38,8 +38,6 @@ public:
     /// The process's store. One must have been installed with setStandard before the first call.
     static UserDefaults& standard();
     static void setStandard(UserDefaults* defaults);
-    /// How often a store was installed: whoever prepares the store once sees by it that another one has come.
-    static int installations();
 
     /// Adds to the registered layer; a key registered again takes the new value.
     void registerDefaults(const QVariantMap& defaults);

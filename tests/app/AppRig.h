@@ -10,6 +10,7 @@
 #include "playlist/QVPlaylistController.h"
 #include "tests/support/Files.h"
 #include "tests/support/PlaybackRig.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <algorithm>
 #include <memory>
@@ -65,7 +66,7 @@ public:
     };
 
     QStringList events;
-    TestSettings settings;
+    TestEnvironment settings;
     FakeDesktop desktop;
     ScriptedToolkit toolkit;
     QTemporaryDir folder;

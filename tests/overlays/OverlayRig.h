@@ -6,7 +6,7 @@
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
-#include "tests/support/TestSettings.h"
+#include "tests/support/TestEnvironment.h"
 
 /// Settings whose default style has round figures: a second in, half a second out, two seconds of hold.
 struct OverlayRig {
@@ -37,6 +37,6 @@ struct OverlayRig {
             QVPreferencesChangedNotification{kQVDefaultOverlayStyle, {styleKey}});
     }
 
-    TestSettings settings;
+    TestEnvironment settings;
     platform::Window window{QRectF(0, 0, 1024, 768)};
 };

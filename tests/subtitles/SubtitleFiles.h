@@ -4,7 +4,7 @@
 #include "settings/SettingsKeys.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/Files.h"
-#include "tests/support/TestSettings.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <string>
 #include <string_view>
@@ -55,7 +55,7 @@ protected:
     }
     void chooseEncoding(qint64 number) { settings.defaults().setObject(number, kQVSubtitlesDefaultEncoding); }
 
-    TestSettings settings;
+    TestEnvironment settings;
     QTemporaryDir folder;
     PlainOwner owner;
     SubtitleRegistry registry;

@@ -9,7 +9,7 @@
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/ScriptedToolkit.h"
-#include "tests/support/TestSettings.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <optional>
 
@@ -46,7 +46,7 @@ struct PlaybackRig {
         return movie;
     }
 
-    TestSettings settings;
+    TestEnvironment settings;
     FakeDesktop desktop;
     ScriptedToolkit toolkit;
     FakeApp app;

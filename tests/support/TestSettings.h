@@ -40,7 +40,7 @@ public:
         platform::RunLoop::setMain(&runLoop);
         _defaults = std::make_unique<platform::UserDefaults>(std::make_unique<MemorySettings>(disk));
         platform::UserDefaults::setStandard(_defaults.get());
-        QVUserDefaults::standardUserDefaults();
+        QVUserDefaults::prepare(*_defaults);
     }
     TestSettings(const TestSettings&) = delete;
     TestSettings& operator=(const TestSettings&) = delete;
