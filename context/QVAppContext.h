@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/PointerHiding.h"
+
 namespace platform {
 class Menu;
 class Window;
@@ -14,10 +16,8 @@ class QVSubtitlesController;
 
 /// The application controller as the other components see it: the road to the main objects. Every accessor may answer
 /// null (at launch, at termination, in tests); an operation on a missing object is left out. Main thread.
-class QVAppContext {
+class QVAppContext : public PointerHiding {
 public:
-    virtual ~QVAppContext() = default;
-
     virtual platform::Window* window() = 0;
     /// The same window, for what only the main window does.
     virtual MainWindow* mainWindow() = 0;
@@ -28,8 +28,6 @@ public:
     virtual platform::Menu* playlistMenu() = 0;
     virtual platform::Menu* subtitlesMenu() = 0;
 
-    /// Hides the pointer after the delay of the settings.
-    virtual void scheduleCursorHide() = 0;
     /// Shows the open panel; the files chosen go to the playlist.
     virtual void doOpen() = 0;
     /// The main window became key, or no longer is.

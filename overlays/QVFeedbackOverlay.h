@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/FeedbackDisplay.h"
 #include "overlays/QVTextOverlay.h"
 
 /// Short confirmations of commands, each shown for a while. Main thread.
-class QVFeedbackOverlay final : public QVTextOverlay {
+class QVFeedbackOverlay final : public QVTextOverlay, public FeedbackDisplay {
 public:
     /// The one of the process, made on the first call above the application's main window, if there is one.
     static QVFeedbackOverlay& sharedFeedbackOverlay();
@@ -13,8 +14,8 @@ public:
 
     explicit QVFeedbackOverlay(platform::Window* parent);
 
-    /// Shows a message for a while, unless feedback is switched off (QVDisplayFeedback).
-    void postFeedback(const QString& message);
+    /// The switch is QVDisplayFeedback.
+    void postFeedback(const QString& message) override;
 
 protected:
     const char* logName() const override { return "QVFeedbackOverlay"; }

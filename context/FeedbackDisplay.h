@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QString;
+
+/// Where short confirmations of commands are shown. Main thread.
+class FeedbackDisplay {
+public:
+    virtual ~FeedbackDisplay() = default;
+
+    /// Shows a message for a while, unless feedback is switched off in the settings.
+    virtual void postFeedback(const QString& message) = 0;
+};
