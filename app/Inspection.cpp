@@ -3,9 +3,12 @@
 
 #include "app/CueImages.h"
 #include "app/OpeningFiles.h"
+#include "context/Environment.h"
 #include "platform/base/NumberText.h"
+#include "platform/desktop/UserActivity.h"
 #include "platform/movie/MovieToolkit.h"
 #include "playback/QVMovie.h"
+#include "playback/SubtitleDiscovery.h"
 #include "subtitles/SubtitleRegistry.h"
 
 #include <QJsonArray>
@@ -27,6 +30,11 @@ public:
 
 private:
     std::int32_t _timeScale;
+};
+
+/// Nobody watches what is only looked into.
+class NoUser final : public platform::UserActivity {
+    void setUserActive(bool) override {}
 };
 
 QJsonValue typeName(const QVSubtitles& track) {
@@ -95,9 +103,10 @@ QJsonArray describeCues(const QVSubtitles& track, std::int32_t timeScale, CueIma
 }
 
 /// The tracks of a subtitle file, loaded; none for other files.
-QJsonArray describeSubtitleFile(const QString& path, SubtitleOwner& owner, CueImages& images) {
+QJsonArray describeSubtitleFile(const QString& path, SubtitleRegistry& readers, SubtitleOwner& owner,
+                                CueImages& images) {
     QJsonArray tracks;
-    for (const std::shared_ptr<QVSubtitles>& track : SubtitleRegistry::shared().subtitlesWithFilePath(path, owner)) {
+    for (const std::shared_ptr<QVSubtitles>& track : readers.subtitlesWithFilePath(path, owner)) {
         track->preload();
         track->waitForLoading();
         QJsonObject object = describeTrack(*track, owner.timeScale());
@@ -107,10 +116,6 @@ QJsonArray describeSubtitleFile(const QString& path, SubtitleOwner& owner, CueIm
         track->unload();
     }
     return tracks;
-}
-
-bool hasSubtitleExtension(const QUrl& url) {
-    return isFileOfType(url.toLocalFile(), SubtitleRegistry::shared().subtitleUnfilteredFileTypes());
 }
 
 QJsonObject describeMovie(const QString& path, QVMovie& movie) {
@@ -129,8 +134,13 @@ QJsonObject describeMovie(const QString& path, QVMovie& movie) {
 
 } // namespace
 
-InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit,
-                              InspectedSubtitles subtitles) {
+InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
+                              const QStringList& pathsOrUrls, const InspectedSubtitles& subtitles) {
+    SubtitleRegistry readers;
+    SubtitleDiscovery discovery(environment.loop);
+    NoUser user;
+    const MovieServices services{toolkit, user, readers, discovery};
+    const QStringList subtitleExtensions = readers.subtitleUnfilteredFileTypes();
     InspectionResult result;
     QJsonArray objects;
     NoMovie owner(subtitles.timeScale);
@@ -138,15 +148,15 @@ InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToo
     for (const QString& name : pathsOrUrls) {
         const QUrl url = isURLString(name) ? QUrl(name) : QUrl::fromLocalFile(name);
         const auto addSubtitleFile = [&] {
-            const QJsonArray tracks = describeSubtitleFile(url.toLocalFile(), owner, images);
+            const QJsonArray tracks = describeSubtitleFile(url.toLocalFile(), readers, owner, images);
             if (!tracks.isEmpty())
                 objects.append(QJsonObject{{QStringLiteral("path"), name}, {QStringLiteral("tracks"), tracks}});
             return !tracks.isEmpty();
         };
         // A movie toolkit may take a subtitle file for a movie without pictures: the name decides what is tried first.
-        if (url.isLocalFile() && hasSubtitleExtension(url) && addSubtitleFile())
+        if (url.isLocalFile() && isFileOfType(url.toLocalFile(), subtitleExtensions) && addSubtitleFile())
             continue;
-        if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(url))
+        if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(environment, services, url))
             objects.append(describeMovie(name, *movie));
         else if (!url.isLocalFile() || !addSubtitleFile())
             result.errors.append(

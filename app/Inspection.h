@@ -8,7 +8,9 @@
 
 namespace platform {
 class MovieToolkit;
-}
+} // namespace platform
+
+struct Environment;
 
 /// What stands in for a movie where subtitle files are looked at alone.
 struct InspectedSubtitles {
@@ -27,5 +29,5 @@ struct InspectionResult {
 
 /// Finds out what is in the files: movies, and subtitle files with their cues. Needs no display. Times are in the
 /// movie's units, sizes in square pixels.
-InspectionResult inspectFiles(const QStringList& pathsOrUrls, platform::MovieToolkit& toolkit,
-                              InspectedSubtitles subtitles = {});
+InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
+                              const QStringList& pathsOrUrls, const InspectedSubtitles& subtitles = {});

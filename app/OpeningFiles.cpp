@@ -49,20 +49,16 @@ void addFolder(const QString& folder, const QStringList& types, QSet<QString>& s
 
 } // namespace
 
-QStringList supportedFileTypes() {
-    static const QStringList types = [] {
-        QStringList result;
-        result.reserve(20);
-        const QVariant documents =
-            platform::Bundle::main().objectForInfoDictionaryKey(QStringLiteral("CFBundleDocumentTypes"));
-        for (const QVariant& document : documents.toList()) {
-            const QVariantMap entry = document.toMap();
-            result += entry.value(QStringLiteral("CFBundleTypeExtensions")).toStringList();
-            for (const QString& code : entry.value(QStringLiteral("CFBundleTypeOSTypes")).toStringList())
-                result += QLatin1Char('\'') + code + QLatin1Char('\'');
-        }
-        return result;
-    }();
+QStringList supportedFileTypes(const platform::Bundle& bundle) {
+    QStringList types;
+    types.reserve(20);
+    const QVariant documents = bundle.objectForInfoDictionaryKey(QStringLiteral("CFBundleDocumentTypes"));
+    for (const QVariant& document : documents.toList()) {
+        const QVariantMap entry = document.toMap();
+        types += entry.value(QStringLiteral("CFBundleTypeExtensions")).toStringList();
+        for (const QString& code : entry.value(QStringLiteral("CFBundleTypeOSTypes")).toStringList())
+            types += QLatin1Char('\'') + code + QLatin1Char('\'');
+    }
     return types;
 }
 

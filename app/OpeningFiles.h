@@ -6,10 +6,14 @@
 #include <QStringList>
 #include <QUrl>
 
+namespace platform {
+class Bundle;
+} // namespace platform
+
 /// Turning what the user hands over into the URLs of movies.
 
 /// The file types of the information dictionary's document types: extensions, and type codes between single quotes.
-QStringList supportedFileTypes();
+QStringList supportedFileTypes(const platform::Bundle& bundle);
 
 /// True with no types at all; else when the lowercased extension of the path is among them.
 bool isFileOfType(const QString& path, const QStringList& types);

@@ -1,55 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/QVAppController.h"
 
+#include "app/Activation.h"
+#include "app/FileIntake.h"
 #include "app/LaunchSteps.h"
-#include "app/OpeningFiles.h"
+#include "app/MainMenu.h"
+#include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
 #include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
-#include "control/ModifierFlags.h"
 #include "control/QVMovieController.h"
-#include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVOSDOverlay.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PropertyList.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/movie/MovieToolkit.h"
-#include "platform/window/WindowHost.h"
-#include "playlist/QVPlaylistController.h"
-#include "settings/QVUserDefaults.h"
+#include "playback/QVMovieView.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
-#include "subtitles/QVSubtitlesController.h"
 
-#include <QDir>
-
-#include <algorithm>
 #include <optional>
-#include <utility>
+#include <vector>
 
 namespace {
 
 constexpr const char* className = "QVAppController";
-
-// Above this many seconds the pointer is never hidden.
-constexpr std::int32_t longestCursorDelay = 10;
 
 namespace launchAction {
 constexpr std::int32_t restoreState = 1;
 constexpr std::int32_t openPanel = 2;
 } // namespace launchAction
 
-platform::UserDefaults& defaults() {
-    return QVUserDefaults::standardUserDefaults();
-}
-
-QString infoText(const char* key) {
-    return platform::Bundle::main().objectForInfoDictionaryKey(QString::fromLatin1(key)).toString();
-}
-
 /// The screen that holds the middle of the window, else the main one; none without screens.
-std::optional<platform::Screen> screenOf(const platform::Window& window) {
-    const std::vector<platform::Screen> screens = platform::Desktop::shared().screens();
+std::optional<platform::Screen> screenOf(const platform::Window& window, const platform::Desktop& desktop) {
+    const std::vector<platform::Screen> screens = desktop.screens();
     for (const platform::Screen& screen : screens) {
         if (screen.frame.contains(window.frame().center()))
             return screen;
@@ -57,147 +42,89 @@ std::optional<platform::Screen> screenOf(const platform::Window& window) {
     return screens.empty() ? std::nullopt : std::optional(screens.front());
 }
 
-Adding addingFor(std::uint32_t modifiers) {
-    return modifiers & platform::modifier::option ? Adding::append : Adding::replace;
-}
-
 } // namespace
 
-QVAppController::QVAppController(QVFullScreenWindow& window, QVMovieView& view, MainMenu& menu, LaunchSteps& steps)
-    : _window(window)
-    , _view(view)
-    , _menu(menu)
-    , _steps(steps)
-    , _subtitleScene(window, view) {
-    gTracingEnabled = defaults().boolForKey(kQVEnableTrace);
+QVAppController::QVAppController(const Environment& environment, const Collaborators& collaborators)
+    : _environment(environment)
+    , _with(collaborators) {
+    gTracingEnabled = environment.settings.boolForKey(kQVEnableTrace);
     if (gTracingEnabled) {
         trace("Lumaro %@(v%@)", infoText("CFBundleShortVersionString"), infoText("CFBundleVersion"));
         trace("System Version: %X", QString::number(QVSystemVersion(), 16).toUpper());
         trace("%@: User Defaults:\n%@", className,
-              QString::fromUtf8(platform::propertyList::toXml(defaults().persistentDomain())));
+              QString::fromUtf8(platform::propertyList::toXml(environment.settings.persistentDomain())));
     }
-    _preferencesChanged = platform::NotificationCenter::defaultCenter().observe<QVPreferencesChangedNotification>(
+    _preferencesChanged = environment.notifications.observe<QVPreferencesChangedNotification>(
         [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
-    _view.setDropTarget(this);
-    QVOSDOverlay::setTexts(&_texts);
-    gAppController = this;
 }
 
 QVAppController::~QVAppController() {
     const TraceScope scope("-[QVAppController dealloc]");
-    _preferencesChanged.reset();
-    _view.setDropTarget(nullptr);
-    cleanup();
-    gAppController = nullptr;
+}
+
+QString QVAppController::infoText(const char* key) const {
+    return _with.bundle.objectForInfoDictionaryKey(QString::fromLatin1(key)).toString();
 }
 
 // The main objects
 
 platform::Window* QVAppController::window() {
-    return &_window;
+    return &_with.window;
 }
 
 MainWindow* QVAppController::mainWindow() {
-    return &_window;
-}
-
-QVPlaylistController* QVAppController::playlist() {
-    if (!_playlist && !_cleanedUp)
-        _playlist = std::make_unique<QVPlaylistController>();
-    return _playlist.get();
-}
-
-QVSubtitlesController* QVAppController::subtitles() {
-    if (!_subtitles && !_cleanedUp)
-        _subtitles = std::make_unique<QVSubtitlesController>(&_subtitleScene);
-    return _subtitles.get();
-}
-
-QVMovieController* QVAppController::movieController() {
-    if (!_controller && !_cleanedUp) {
-        _controller = std::make_unique<QVMovieController>();
-        _window.setDelegate(_controller.get());
-    }
-    return _controller.get();
+    return &_with.window;
 }
 
 CommandTarget* QVAppController::controller() {
-    return movieController();
+    return &_with.controller;
+}
+
+platform::Menu* QVAppController::playlistMenu() {
+    return &_with.menu.playlistMenu();
+}
+
+platform::Menu* QVAppController::subtitlesMenu() {
+    return &_with.menu.subtitlesMenu();
 }
 
 // Launch
 
 void QVAppController::applicationWillFinishLaunching() {
     const TraceScope scope("-[QVAppController applicationWillFinishLaunching:]");
-    platform::MovieToolkit::shared().enter();
+    _with.toolkit.enter();
     scheduleCursorHide();
-    _window.makeKeyAndOrderFront();
-    if (_window.firstResponder() != &_view)
-        _window.makeFirstResponder(&_view);
-    subtitles();
-    controller();
+    _with.window.makeKeyAndOrderFront();
+    if (_with.window.firstResponder() != &_with.view)
+        _with.window.makeFirstResponder(&_with.view);
     // The movie menu's check mark follows the view's size code, which is read from QVDefaultMovieSize.
-    if (defaults().boolForKey(kQVVolumeSave))
-        _view.setVolume(defaults().floatForKey(kQVVolumeSavedLevel));
-    if (const auto screen = screenOf(_window)) {
-        _savedBrightness = brightnessOf(*screen);
-        if (defaults().boolForKey(kQVForceScreenBrightness))
-            setBrightnessOf(*screen, defaults().floatForKey(kQVScreenBrightness));
+    if (_environment.settings.boolForKey(kQVVolumeSave))
+        _with.view.setVolume(_environment.settings.floatForKey(kQVVolumeSavedLevel));
+    if (const auto screen = screenOf(_with.window, _with.desktop)) {
+        _savedBrightness = brightnessOf(_with.desktop, *screen);
+        if (_environment.settings.boolForKey(kQVForceScreenBrightness))
+            setBrightnessOf(_with.desktop, *screen, _environment.settings.floatForKey(kQVScreenBrightness));
     }
-    _window.show();
+    _with.window.show();
 }
 
 void QVAppController::applicationDidFinishLaunching() {
-    _launchTimer = platform::RunLoop::main().schedule(_window.fadingInInterval(), false, [this] { finishLaunching(); });
-}
-
-bool QVAppController::openFile(const QString& pathOrUrl) {
-    if (!_is_adding_files)
-        startAddingFiles();
-    _added_files.append(pathOrUrl);
-    return true;
-}
-
-void QVAppController::startAddingFiles() {
-    const TraceScope scope("-[QVAppController startAddingFiles]");
-    _is_adding_files = true;
-    _is_should_replace = addingFor(QVGetModifierFlags()) == Adding::replace;
-    _added_files.reserve(25);
-    // The files of one hand-over arrive one by one; the batch is closed when all have. At launch finishLaunching does
-    // it.
-    if (!_is_launching)
-        _batchTimer = platform::RunLoop::main().schedule(0, false, [this] { finishAddingFiles(); });
-}
-
-void QVAppController::finishAddingFiles() {
-    const TraceScope scope("-[QVAppController finishAddingFiles]");
-    const bool collecting = std::exchange(_is_adding_files, false);
-    const QStringList files = std::exchange(_added_files, {});
-    if (!collecting || files.isEmpty())
-        return;
-    QList<QUrl> urls;
-    for (const QString& file : files) {
-        if (isURLString(file))
-            urls += urlsWithURLStrings({file});
-        else
-            urls += urlsWithPathStrings({file}, supportedFileTypes());
-    }
-    playlist()->addURLs(urls, _is_should_replace ? Adding::replace : Adding::append, Starting::yes);
+    _launchTimer = _environment.loop.schedule(_with.window.fadingInInterval(), false, [this] { finishLaunching(); });
 }
 
 void QVAppController::finishLaunching() {
     const TraceScope scope("-[QVAppController finishLaunching]");
-    _steps.runFirstTimeConfig();
-    _steps.askDonation();
-    if (_steps.shouldCheckLatestVersion()) {
+    _with.steps.runFirstTimeConfig();
+    _with.steps.askDonation();
+    if (_with.steps.shouldCheckLatestVersion()) {
         const TraceScope check("-[QVAppController checkLatestVersion:]");
-        _steps.checkLatestVersion();
+        _with.steps.checkLatestVersion();
     }
-    if (_added_files.isEmpty()) {
+    if (_with.files.isEmpty()) {
         trace("%@: No movie files to open ...", className);
-        switch (defaults().integerForKey(kQVOnLaunchDefaultAction)) {
+        switch (_environment.settings.integerForKey(kQVOnLaunchDefaultAction)) {
         case launchAction::restoreState:
-            _steps.restoreState();
+            _with.steps.restoreState();
             break;
         case launchAction::openPanel:
             doOpen();
@@ -206,224 +133,140 @@ void QVAppController::finishLaunching() {
             break;
         }
     }
-    finishAddingFiles();
-    _is_launching = false;
-    // Files may have arrived while those movies were opened.
-    finishAddingFiles();
+    _with.files.finishLaunching();
     // A display that shows nothing is not made: its fonts would hold up the first picture.
-    if (const std::int32_t type = defaults().integerForKey(kQVOSDStateSavedType);
-        defaults().boolForKey(kQVOSDStateSave) && type != 0)
+    if (const std::int32_t type = _environment.settings.integerForKey(kQVOSDStateSavedType);
+        _environment.settings.boolForKey(kQVOSDStateSave) && type != 0)
         QVOSDOverlay::sharedOSDOverlay().setDisplayType(type);
 }
 
-// Activation
+void QVAppController::applicationDidChangeScreenParameters() {
+    if (const auto screen = screenOf(_with.window, _with.desktop))
+        _with.window.setFrame(screen->frame);
+}
+
+// What others do
+
+bool QVAppController::openFile(const QString& pathOrUrl) {
+    _with.files.openFile(pathOrUrl);
+    return true;
+}
+
+void QVAppController::startAddingFiles() {
+    _with.files.startAddingFiles();
+}
+
+void QVAppController::finishAddingFiles() {
+    _with.files.finishAddingFiles();
+}
+
+bool QVAppController::isLaunching() const {
+    return _with.files.isLaunching();
+}
+
+void QVAppController::doOpen() {
+    _with.files.doOpen();
+}
 
 void QVAppController::applicationWillBecomeActive() {
-    const TraceScope scope("-[QVAppController applicationWillBecomeActive:]");
-    _window.setLevel(defaults().integerForKey(kQVMainWindowLayer));
-    if (std::exchange(_window_hidden, false))
-        _window.show();
+    _with.activation.applicationWillBecomeActive();
 }
 
 void QVAppController::applicationDidBecomeActive() {
-    const TraceScope scope("-[QVAppController applicationDidBecomeActive:]");
-    scheduleCursorHide();
-    _window.orderChildrens();
+    _with.activation.applicationDidBecomeActive();
 }
 
 void QVAppController::applicationWillResignActive() {
-    const TraceScope scope("-[QVAppController applicationWillResignActive:]");
-    lowerWindow();
-    _window.orderChildrens();
-    if (defaults().boolForKey(kQVHideOnDeactivate)) {
-        _window.hide();
-        _window_hidden = true;
-    }
-}
-
-void QVAppController::lowerWindow() {
-    if (_window.level() > platform::windowLevel::normal)
-        _window.setLevel(platform::windowLevel::normal);
+    _with.activation.applicationWillResignActive();
 }
 
 void QVAppController::windowDidBecomeKey(platform::Window& window) {
-    const TraceScope scope("-[QVAppController windowDidBecomeKey:]");
-    if (&window == &_window) {
-        _window.setLevel(defaults().integerForKey(kQVMainWindowLayer));
-        if (std::exchange(_pause_forced, false))
-            _view.restoreMovieState();
-        scheduleCursorHide();
-    }
-    _window.orderChildrens();
+    _with.activation.windowDidBecomeKey(window);
 }
 
 void QVAppController::windowDidResignKey(platform::Window& window) {
-    const TraceScope scope("-[QVAppController windowDidResignKey:]");
-    if (&window == &_window) {
-        showCursor();
-        if (defaults().boolForKey(kQVPauseOnDeactivate)) {
-            _view.saveMovieState();
-            _view.stop();
-            _pause_forced = true;
-        }
-        lowerWindow();
-    }
-    _window.orderChildrens();
+    _with.activation.windowDidResignKey(window);
 }
-
-void QVAppController::applicationDidChangeScreenParameters() {
-    if (const auto screen = screenOf(_window))
-        _window.setFrame(screen->frame);
-}
-
-// The pointer
 
 void QVAppController::hideCursor() {
-    if (_window.host())
-        _window.host()->setPointerHidden(true);
+    _with.pointer.hideCursor();
 }
 
 void QVAppController::showCursor() {
-    if (_window.host())
-        _window.host()->setPointerHidden(false);
+    _with.pointer.showCursor();
 }
 
 void QVAppController::scheduleCursorHide() {
-    const std::int32_t delay = defaults().integerForKey(kQVCursorAutohideDelay);
-    if (delay > longestCursorDelay)
-        return;
-    if (_autohide_cursor_timer) {
-        _autohide_cursor_timer->rearm(delay);
-        return;
-    }
-    _autohide_cursor_timer = platform::RunLoop::main().schedule(delay, false, [this] { autohideCursor(); });
-}
-
-void QVAppController::autohideCursor() {
-    hideCursor();
-    _autohide_cursor_timer.reset();
-}
-
-// Opening
-
-void QVAppController::doOpen() {
-    trace("%@: Launching File Open panel ...", className);
-    QString folder = defaults().stringForKey(kNSNavLastRootDirectory);
-    if (folder.startsWith(QLatin1Char('~')))
-        folder.replace(0, 1, QDir::homePath());
-    const QStringList chosen = platform::Desktop::shared().runOpenPanel(supportedFileTypes(), folder);
-    if (chosen.isEmpty())
-        return;
-    const Adding adding = addingFor(QVGetModifierFlags());
-    playlist()->addURLs(urlsWithPathStrings(chosen, supportedFileTypes()), adding, Starting::yes);
-}
-
-std::uint32_t QVAppController::draggingEntered(const platform::DraggingInfo& info) {
-    using namespace platform;
-    if (!info.offersFileNames && !info.offersURL)
-        return dragOperation::none;
-    if (info.sourceOperationMask & dragOperation::generic)
-        return dragOperation::generic;
-    return info.sourceOperationMask & dragOperation::copy ? dragOperation::copy : dragOperation::none;
-}
-
-std::uint32_t QVAppController::draggingUpdated(const platform::DraggingInfo& info) {
-    return draggingEntered(info);
-}
-
-bool QVAppController::performDragOperation(const platform::DraggingInfo& info) {
-    using namespace platform;
-    // A source limits itself to copying while the Option key is held.
-    const bool append =
-        !(info.sourceOperationMask & dragOperation::generic) && (info.sourceOperationMask & dragOperation::copy);
-    const Adding adding = append ? Adding::append : Adding::replace;
-    if (info.offersFileNames) {
-        if (!info.fileNames.isEmpty())
-            playlist()->addURLs(urlsWithPathStrings(info.fileNames, supportedFileTypes()), adding, Starting::yes);
-    } else if (info.offersURL) {
-        playlist()->addURLs(urlsWithURLStrings(info.urlStrings), adding, Starting::yes);
-    }
-    return true;
+    _with.pointer.scheduleCursorHide();
 }
 
 // Menus
 
 void QVAppController::showHelp() {
     trace("%@: Launching Help panel ...", className);
-    _steps.runHelpPanel();
+    _with.steps.runHelpPanel();
 }
 
 bool QVAppController::validateMenuItem(platform::MenuItem& item) {
-    return !movieController()->handlesMenuAction(item.action) || movieController()->validateMenuItem(item);
+    return !_with.controller.handlesMenuAction(item.action) || _with.controller.validateMenuItem(item);
 }
 
 void QVAppController::performMenuItem(const platform::MenuItem& item) {
-    if (movieController()->handlesMenuAction(item.action))
-        movieController()->performMenuItem(item);
+    if (_with.controller.handlesMenuAction(item.action))
+        _with.controller.performMenuItem(item);
     else if (item.action == QStringLiteral("doOpen"))
         doOpen();
     else if (item.action == QStringLiteral("quit"))
-        controller()->performAction(action::quit, Feedback::yes);
+        _with.controller.performAction(action::quit, Feedback::yes);
     else if (item.action == QStringLiteral("showHelp"))
         showHelp();
     else if (item.action == QStringLiteral("toggleController"))
-        _view.toggleController();
+        _with.view.toggleController();
     else if (item.action == QStringLiteral("cycleDisplays"))
         QVOSDOverlay::sharedOSDOverlay().cycleDisplays(item.tag);
     else if (item.action == QStringLiteral("performAction"))
-        controller()->performAction(item.tag, Feedback::yes);
+        _with.controller.performAction(item.tag, Feedback::yes);
 }
 
 void QVAppController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key == kQVEnableTrace)
-        gTracingEnabled = defaults().boolForKey(kQVEnableTrace);
+        gTracingEnabled = _environment.settings.boolForKey(kQVEnableTrace);
 }
 
 // Termination
 
 platform::ApplicationDelegate::TerminateReply QVAppController::applicationShouldTerminate() {
     const TraceScope scope("-[QVAppController applicationShouldTerminate:]");
-    if (defaults().boolForKey(kQVVolumeSave)) {
-        if (controller()->forceMuted())
-            controller()->setForceMuted(false);
-        defaults().setFloat(_view.volume(), kQVVolumeSavedLevel);
+    if (_environment.settings.boolForKey(kQVVolumeSave)) {
+        if (_with.controller.forceMuted())
+            _with.controller.setForceMuted(false);
+        _environment.settings.setFloat(_with.view.volume(), kQVVolumeSavedLevel);
     }
-    if (defaults().integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
-        _steps.saveState();
-    if (defaults().boolForKey(kQVOSDStateSave))
-        defaults().setInteger(QVOSDOverlay::sharedDisplayType(), kQVOSDStateSavedType);
-    if (_view.isPlaying())
-        _view.stop();
-    _window.setTerminating(true);
-    _window.hide();
-    if (const auto screen = screenOf(_window); screen && _savedBrightness != brightnessOf(*screen))
-        setBrightnessOf(*screen, _savedBrightness);
+    if (_environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
+        _with.steps.saveState();
+    if (_environment.settings.boolForKey(kQVOSDStateSave))
+        _environment.settings.setInteger(QVOSDOverlay::sharedDisplayType(), kQVOSDStateSavedType);
+    if (_with.view.isPlaying())
+        _with.view.stop();
+    _with.window.setTerminating(true);
+    _with.window.hide();
+    if (const auto screen = screenOf(_with.window, _with.desktop);
+        screen && _savedBrightness != brightnessOf(_with.desktop, *screen))
+        setBrightnessOf(_with.desktop, *screen, _savedBrightness);
     return TerminateReply::later;
 }
 
 void QVAppController::applicationWillTerminate() {
     const TraceScope scope("-[QVAppController applicationWillTerminate:]");
-    defaults().synchronize();
-    _autohide_cursor_timer.reset();
+    _environment.settings.synchronize();
+    _with.pointer.cancel();
     showCursor();
     cleanup();
-    platform::MovieToolkit::shared().exit();
+    _with.toolkit.exit();
 }
 
+/// What is left goes with the composition.
 void QVAppController::cleanup() {
-    // From here on nothing is created again, though the view still asks for it.
-    _cleanedUp = true;
-    _autohide_cursor_timer.reset();
     _launchTimer.reset();
-    _batchTimer.reset();
-    _subtitles.reset();
-    _added_files.clear();
-    _playlist.reset();
-    _window.setDelegate(nullptr);
-    _controller.reset();
-    _view.setMovie(nullptr);
-    // They stand above the window, which goes next.
-    QVFeedbackOverlay::destroyShared();
-    QVOSDOverlay::destroyShared();
-    QVOSDOverlay::setTexts(nullptr);
+    _with.view.setMovie(nullptr);
 }

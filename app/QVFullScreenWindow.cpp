@@ -2,20 +2,22 @@
 #include "app/QVFullScreenWindow.h"
 
 #include "context/CommandTarget.h"
-#include "context/QVAppContext.h"
+#include "context/PointerHiding.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
-#include "playback/QVMovieView.h"
-#include "settings/QVUserDefaults.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
+
+#include <utility>
+#include <vector>
 
 namespace {
 
 constexpr const char* className = "QVFullScreenWindow";
 
-QRectF chosenFrame() {
-    const std::vector<platform::Screen> screens = platform::Desktop::shared().screens();
-    const std::int32_t index = QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowScreen);
+QRectF chosenFrame(const platform::UserDefaults& settings, const platform::Desktop& desktop) {
+    const std::vector<platform::Screen> screens = desktop.screens();
+    const std::int32_t index = settings.integerForKey(kQVMainWindowScreen);
     if (index >= 0 && static_cast<std::size_t>(index) < screens.size() &&
         screens[static_cast<std::size_t>(index)].isScreen)
         return screens[static_cast<std::size_t>(index)].frame;
@@ -24,9 +26,11 @@ QRectF chosenFrame() {
 
 } // namespace
 
-QVFullScreenWindow::QVFullScreenWindow()
-    : QVParentOverlay(chosenFrame(), kQVFullscreenOverlayStyle) {
-    setLevel(QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowLayer));
+QVFullScreenWindow::QVFullScreenWindow(const Environment& environment, Collaborators collaborators)
+    : QVParentOverlay(chosenFrame(environment.settings, collaborators.desktop), kQVFullscreenOverlayStyle)
+    , _environment(environment)
+    , _with(std::move(collaborators)) {
+    setLevel(_environment.settings.integerForKey(kQVMainWindowLayer));
     addTrackingRects();
 }
 
@@ -37,7 +41,7 @@ QVFullScreenWindow::~QVFullScreenWindow() {
 void QVFullScreenWindow::postFadeOut() {
     QVParentOverlay::postFadeOut();
     if (_terminating)
-        platform::Desktop::shared().replyToApplicationShouldTerminate(true);
+        _with.desktop.replyToApplicationShouldTerminate(true);
 }
 
 void QVFullScreenWindow::adoptScreen(const platform::Screen& screen) {
@@ -68,45 +72,39 @@ int QVFullScreenWindow::_directionWithTag(int tag) const {
 }
 
 void QVFullScreenWindow::mouseEntered(int trackingTag) {
-    const int direction = _directionWithTag(trackingTag);
-    if (direction && gAppController && gAppController->movieView())
-        gAppController->movieView()->startAutoscroll(direction);
+    if (const int direction = _directionWithTag(trackingTag))
+        _with.startAutoscroll(direction);
 }
 
 void QVFullScreenWindow::mouseExited(int trackingTag) {
-    const int direction = _directionWithTag(trackingTag);
-    if (direction && gAppController && gAppController->movieView())
-        gAppController->movieView()->stopAutoscroll(direction);
+    if (const int direction = _directionWithTag(trackingTag))
+        _with.stopAutoscroll(direction);
 }
 
 void QVFullScreenWindow::mouseMoved(const platform::MouseEvent& event) {
     QVParentOverlay::mouseMoved(event);
-    if (gAppController)
-        gAppController->scheduleCursorHide();
+    _with.pointer.scheduleCursorHide();
 }
 
 void QVFullScreenWindow::mouseUp(const platform::MouseEvent& event) {
     QVParentOverlay::mouseUp(event);
-    if (gAppController)
-        gAppController->scheduleCursorHide();
+    _with.pointer.scheduleCursorHide();
 }
 
 bool QVFullScreenWindow::keyDown(const platform::KeyEvent& event) {
     if (event.charactersIgnoringModifiers == QChar(platform::functionKey::escape)) {
         trace("%@: ESC pressed. Terminating app.", className);
-        if (gAppController && gAppController->controller())
-            gAppController->controller()->performAction(action::quit, Feedback::yes);
+        _with.commands.performAction(action::quit, Feedback::yes);
         return true;
     }
-    trace(
-        "%@: NOT HANDLED! Next Responder: 0x%08X", className,
-        QString::number(reinterpret_cast<quintptr>(gAppController), 16).toUpper().rightJustified(8, QLatin1Char('0')));
+    trace("%@: NOT HANDLED! Next Responder: 0x%08X", className,
+          QString::number(reinterpret_cast<quintptr>(delegate()), 16).toUpper().rightJustified(8, QLatin1Char('0')));
     return false;
 }
 
 bool QVFullScreenWindow::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key != kQVMainWindowLayer)
         return QVParentOverlay::preferencesChanged(notification);
-    setLevel(QVUserDefaults::standardUserDefaults().integerForKey(kQVMainWindowLayer));
+    setLevel(_environment.settings.integerForKey(kQVMainWindowLayer));
     return true;
 }

@@ -2,16 +2,34 @@
 #pragma once
 
 #include "app/EdgeAreas.h"
+#include "context/Environment.h"
 #include "context/MainWindow.h"
 #include "overlays/QVParentOverlay.h"
 
 #include <array>
+#include <functional>
+
+namespace platform {
+class Desktop;
+} // namespace platform
+
+class CommandTarget;
+class PointerHiding;
 
 /// The one main window: borderless, covering a whole screen. Main thread.
 class QVFullScreenWindow final : public QVParentOverlay, public MainWindow {
 public:
+    /// All outlive the window but the picture: it is not panned once it has gone.
+    struct Collaborators {
+        platform::Desktop& desktop;
+        CommandTarget& commands;
+        PointerHiding& pointer;
+        /// The pointer came into an area at the window's edge, and left it.
+        std::function<void(int direction)> startAutoscroll;
+        std::function<void(int direction)> stopAutoscroll;
+    };
     /// On the screen that the settings name, else the main one; not shown yet.
-    QVFullScreenWindow();
+    QVFullScreenWindow(const Environment& environment, Collaborators collaborators);
     ~QVFullScreenWindow() override;
 
     void show() override { QVParentOverlay::show(); }
@@ -37,6 +55,8 @@ protected:
 private:
     int _directionWithTag(int tag) const;
 
+    Environment _environment;
+    Collaborators _with;
     std::array<int, 8> _trackingTags{}; // in the order of the areas; 0 for none
     bool _terminating = false;
 };

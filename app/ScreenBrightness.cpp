@@ -6,11 +6,11 @@
 
 #include <limits>
 
-float brightnessOf(const platform::Screen& screen) {
-    return screen.isScreen ? platform::Desktop::shared().brightness(screen) : std::numeric_limits<float>::infinity();
+float brightnessOf(const platform::Desktop& desktop, const platform::Screen& screen) {
+    return screen.isScreen ? desktop.brightness(screen) : std::numeric_limits<float>::infinity();
 }
 
-void setBrightnessOf(const platform::Screen& screen, float brightness) {
+void setBrightnessOf(platform::Desktop& desktop, const platform::Screen& screen, float brightness) {
     if (!screen.isScreen)
         return;
     // Written so that what is no number is refused, too.
@@ -18,5 +18,5 @@ void setBrightnessOf(const platform::Screen& screen, float brightness) {
         logAlways("%@: ERROR: Attempt to set invalid brightness: %f", "Screen", brightness);
         return;
     }
-    platform::Desktop::shared().setBrightness(screen, brightness);
+    desktop.setBrightness(screen, brightness);
 }

@@ -3,12 +3,11 @@
 
 #include "platform/base/PathNames.h"
 #include "platform/base/StringComparison.h"
-#include "settings/QVUserDefaults.h"
+#include "platform/base/UserDefaults.h"
 #include "settings/SettingsKeys.h"
 
-MovieOrdering MovieOrdering::fromSettings() {
-    const platform::UserDefaults& defaults = QVUserDefaults::standardUserDefaults();
-    return {defaults.boolForKey(kQVSortOnlyFilenames), defaults.boolForKey(kQVSortNumerically)};
+MovieOrdering MovieOrdering::fromSettings(const platform::UserDefaults& settings) {
+    return {settings.boolForKey(kQVSortOnlyFilenames), settings.boolForKey(kQVSortNumerically)};
 }
 
 QString MovieOrdering::key(const QUrl& url) const {

@@ -4,6 +4,10 @@
 #include <QString>
 #include <QUrl>
 
+namespace platform {
+class UserDefaults;
+} // namespace platform
+
 /// How movies are ordered: by their paths or their file names, without regard to case, with numbers by their value or
 /// not.
 struct MovieOrdering {
@@ -11,7 +15,7 @@ struct MovieOrdering {
     bool numerically = false;
 
     /// By QVSortOnlyFilenames and QVSortNumerically as they are now.
-    static MovieOrdering fromSettings();
+    static MovieOrdering fromSettings(const platform::UserDefaults& settings);
 
     /// What of a movie's URL is compared.
     QString key(const QUrl& url) const;

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/QVMovie.h"
 
-#include "context/QVAppContext.h"
+#include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/PathNames.h"
-#include "platform/desktop/Desktop.h"
+#include "platform/base/UserDefaults.h"
+#include "platform/desktop/UserActivity.h"
 #include "platform/movie/MovieToolkit.h"
-#include "platform/window/Window.h"
 #include "playback/MovieOrdering.h"
 #include "playback/SubtitleDiscovery.h"
-#include "settings/QVUserDefaults.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/SubtitleRegistry.h"
@@ -24,34 +23,32 @@ std::int32_t wholeSeconds(std::int32_t time, std::int32_t timeScale) {
     return timeScale > 0 ? static_cast<std::int32_t>(static_cast<double>(time) / timeScale) : 0;
 }
 
-template <class Notification>
-void postAbout(const std::shared_ptr<QVMovie>& movie) {
-    if (movie)
-        platform::NotificationCenter::defaultCenter().post(Notification{movie});
-}
-
 } // namespace
 
-std::shared_ptr<QVMovie> QVMovie::movieWithURL(const QUrl& url) {
-    platform::MovieToolkit& toolkit = platform::MovieToolkit::shared();
+std::shared_ptr<QVMovie> QVMovie::movieWithURL(const Environment& environment, const MovieServices& services,
+                                               const QUrl& url) {
+    platform::MovieToolkit& toolkit = services.toolkit;
     toolkit.clearStickyError();
     std::optional<platform::MovieInfo> info = toolkit.open(url);
     if (const std::int16_t error = toolkit.stickyError(); error != platform::movieError::none)
         logAlways("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code %d\n", error);
     if (!info)
         return nullptr;
-    auto movie = std::make_shared<QVMovie>(*std::move(info), toolkit.player());
-    if (QVUserDefaults::standardUserDefaults().boolForKey(kQVAutoloadSubtitles))
+    auto movie = std::make_shared<QVMovie>(environment, services, *std::move(info));
+    if (environment.settings.boolForKey(kQVAutoloadSubtitles))
         movie->fetchSubtitleFiles();
     return movie;
 }
 
-std::shared_ptr<QVMovie> QVMovie::movieWithFilePath(const QString& path) {
-    return movieWithURL(QUrl::fromLocalFile(path));
+std::shared_ptr<QVMovie> QVMovie::movieWithFilePath(const Environment& environment, const MovieServices& services,
+                                                    const QString& path) {
+    return movieWithURL(environment, services, QUrl::fromLocalFile(path));
 }
 
-QVMovie::QVMovie(platform::MovieInfo info, platform::MoviePlayer& player)
-    : Movie(std::move(info), player) {}
+QVMovie::QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info)
+    : Movie(std::move(info), services.toolkit.player())
+    , _environment(environment)
+    , _services(services) {}
 
 QVMovie::~QVMovie() {
     cancelCallbacks();
@@ -85,21 +82,19 @@ QRectF QVMovie::naturalBounds() const {
     return QRectF(QPointF(0, 0), info().naturalSize);
 }
 
-QRectF QVMovie::naturalFrame() const {
-    const platform::Window* window = gAppController ? gAppController->window() : nullptr;
-    const double height = window ? window->frame().height() : 0;
+QRectF QVMovie::naturalFrame(double windowHeight) const {
     const QRectF bounds = naturalBounds();
-    return bounds.translated(0, height - bounds.height());
+    return bounds.translated(0, windowHeight - bounds.height());
 }
 
 void QVMovie::setTime(std::int32_t time) {
     if (const std::int16_t error = setTimeValue(time); error != platform::movieError::none)
         logAlways("ERROR: %@: SetMovieTimeValue() returned error code: %d", className, error);
-    postAbout<QVMovieInterestingTimeNotification>(weak_from_this().lock());
+    post<QVMovieInterestingTimeNotification>();
 }
 
 int QVMovie::compare(const QVMovie& other) const {
-    const MovieOrdering ordering = MovieOrdering::fromSettings();
+    const MovieOrdering ordering = MovieOrdering::fromSettings(_environment.settings);
     return ordering.compare(ordering.key(url()), ordering.key(other.url()));
 }
 
@@ -107,8 +102,8 @@ void QVMovie::fetchSubtitleFiles() {
     trace("%@: Begin fetching subtitles for \"%@\".", className, fileNameOfURL(url()));
     if (url().isLocalFile()) {
         const QString base = platform::pathWithoutExtension(url().toLocalFile());
-        const QStringList types = SubtitleRegistry::shared().subtitleUnfilteredFileTypes();
-        for (const QString& path : SubtitleDiscovery::filesBeginningWith(base, types)) {
+        const QStringList types = _services.subtitleReaders.subtitleUnfilteredFileTypes();
+        for (const QString& path : _services.subtitleDiscovery.filesBeginningWith(base, types)) {
             trace("%@: Found \"%@\".", className, platform::lastPathComponent(path));
             addSubtitleFile(path);
         }
@@ -117,7 +112,7 @@ void QVMovie::fetchSubtitleFiles() {
 }
 
 void QVMovie::addSubtitleFile(const QString& path) {
-    std::vector<std::shared_ptr<QVSubtitles>> tracks = SubtitleRegistry::shared().subtitlesWithFilePath(path, *this);
+    std::vector<std::shared_ptr<QVSubtitles>> tracks = _services.subtitleReaders.subtitlesWithFilePath(path, *this);
     if (tracks.empty())
         return;
     trace("%@: Added %d subtitles stream(s) from file \"%@\"", className, tracks.size(),
@@ -150,9 +145,16 @@ void QVMovie::_scheduleTimeJumpCallback() {
     callWhenTimeJumps([this] { timeJump(); });
 }
 
+/// Nobody hears of a movie that is being made or has gone.
+template <class Notification>
+void QVMovie::post() {
+    if (std::shared_ptr<QVMovie> self = weak_from_this().lock())
+        _environment.notifications.post(Notification{std::move(self)});
+}
+
 void QVMovie::movieComplete() {
     if (!needsTimeTable())
-        postAbout<QVMovieCompleteNotification>(weak_from_this().lock());
+        post<QVMovieCompleteNotification>();
 }
 
 void QVMovie::interestingTime() {
@@ -160,8 +162,8 @@ void QVMovie::interestingTime() {
     const std::shared_ptr<QVMovie> self = weak_from_this().lock();
     // A jump of a resting movie keeps nobody's screen awake: nothing would let it sleep again.
     if (rate() != 0)
-        platform::Desktop::shared().setUserActive(true);
-    postAbout<QVMovieInterestingTimeNotification>(self);
+        _services.userActivity.setUserActive(true);
+    post<QVMovieInterestingTimeNotification>();
     _scheduleInterestingTimeCallback();
 }
 

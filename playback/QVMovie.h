@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "context/Notifications.h"
+#include "context/Environment.h"
 #include "platform/movie/Movie.h"
+#include "playback/MovieServices.h"
 #include "subtitles/QVSubtitles.h"
 
 #include <QRectF>
@@ -12,18 +13,18 @@
 #include <memory>
 #include <vector>
 
-class QVMovie;
-
 /// One open movie as the player sees it: times, frame count and rate, ordering, and the subtitle tracks found beside
 /// it. Times are counts of units of the movie's time scale. Main thread.
 class QVMovie final : public platform::Movie, public SubtitleOwner, public std::enable_shared_from_this<QVMovie> {
 public:
-    /// Opens a movie through the shared toolkit; none when it cannot be opened. The toolkit's sticky error stays for
-    /// the caller to read. Finds subtitle files when QVAutoloadSubtitles is on.
-    static std::shared_ptr<QVMovie> movieWithURL(const QUrl& url);
-    static std::shared_ptr<QVMovie> movieWithFilePath(const QString& path);
+    /// Opens a movie through the toolkit; none when it cannot be opened. The toolkit's sticky error stays for the
+    /// caller to read. Finds subtitle files when QVAutoloadSubtitles is on.
+    static std::shared_ptr<QVMovie> movieWithURL(const Environment& environment, const MovieServices& services,
+                                                 const QUrl& url);
+    static std::shared_ptr<QVMovie> movieWithFilePath(const Environment& environment, const MovieServices& services,
+                                                      const QString& path);
     /// From what the toolkit found; neither logs nor looks for subtitles.
-    QVMovie(platform::MovieInfo info, platform::MoviePlayer& player);
+    QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info);
     ~QVMovie() override;
 
     std::int32_t time() const override { return platform::Movie::time(); }
@@ -38,15 +39,15 @@ public:
     /// Pictures a second: the count by the whole seconds; infinite or not a number for a movie of less than a second.
     float frameRate() override;
     QRectF naturalBounds() const;
-    /// The natural bounds within the main window, origin bottom left.
-    QRectF naturalFrame() const;
+    /// The natural bounds within a window as high as this, points, origin bottom left.
+    QRectF naturalFrame(double windowHeight) const;
     const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const override { return _subtitles; }
     QString description() const { return url().toString(); }
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
     void setTime(std::int32_t time);
 
-    /// Orders movies for the playlist by their paths, or file names: -1, 0 or 1.
+    /// Orders movies for the playlist as the settings say, by their paths or file names: -1, 0 or 1.
     int compare(const QVMovie& other) const;
 
     void fetchSubtitleFiles();
@@ -63,7 +64,11 @@ private:
     void movieComplete();
     void interestingTime();
     void timeJump();
+    template <class Notification>
+    void post();
 
+    Environment _environment;
+    MovieServices _services;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     std::uint32_t _frameCount = 0;
     float _frameRate = 0;

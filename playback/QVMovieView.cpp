@@ -2,15 +2,15 @@
 #include "playback/QVMovieView.h"
 
 #include "context/CommandTarget.h"
+#include "context/FeedbackDisplay.h"
 #include "context/Notifications.h"
-#include "context/QVAppContext.h"
-#include "overlays/QVFeedbackOverlay.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Window.h"
+#include "playback/DropTarget.h"
 #include "playback/QVMovie.h"
-#include "settings/QVUserDefaults.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
@@ -21,24 +21,17 @@ namespace {
 constexpr const char* className = "QVMovieView";
 constexpr double panInterval = 0.05;
 
-platform::UserDefaults& settings() {
-    return QVUserDefaults::standardUserDefaults();
-}
-
-CommandTarget* movieController() {
-    return gAppController ? gAppController->controller() : nullptr;
-}
-
-void postFeedback(const char* key) {
-    QVFeedbackOverlay::sharedFeedbackOverlay().postFeedback(platform::localizedString(QString::fromUtf8(key)));
-}
-
 } // namespace
 
-QVMovieView::QVMovieView(platform::MoviePlayer& player)
-    : MovieView(player)
-    , _size(settings().integerForKey(kQVDefaultMovieSize)) {
-    auto& center = platform::NotificationCenter::defaultCenter();
+QVMovieView::QVMovieView(const Environment& environment, const Collaborators& collaborators)
+    : MovieView(collaborators.player)
+    , _environment(environment)
+    , _desktop(collaborators.desktop)
+    , _commands(collaborators.commands)
+    , _feedback(collaborators.feedback)
+    , _drops(collaborators.drops)
+    , _size(environment.settings.integerForKey(kQVDefaultMovieSize)) {
+    platform::NotificationCenter& center = environment.notifications;
     _movieChanged = center.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
     _preferencesChanged = center.observe<QVPreferencesChangedNotification>(
@@ -57,8 +50,8 @@ void QVMovieView::setMovie(const std::shared_ptr<QVMovie>& movie) {
     stop();
     if (const auto old = this->movie())
         old->cancelCallbacks();
-    if (CommandTarget* controller = movieController(); controller && controller->forceMuted())
-        controller->setForceMuted(false);
+    if (_commands.forceMuted())
+        _commands.setForceMuted(false);
     const float volume = this->volume();
     setFrame(QRectF());
     showController(true, false);
@@ -87,20 +80,20 @@ void QVMovieView::setMovieSize(std::int32_t code, Recalculation recalculation) {
     const MovieSizing::Plan plan = MovieSizing::planSize(code, old.size(), geometry());
     _size = plan.code;
     if (plan.customScale)
-        settings().setFloat(*plan.customScale, kQVMovieCustomScale);
+        _environment.settings.setFloat(*plan.customScale, kQVMovieCustomScale);
     if (superview())
         superview()->setNeedsDisplayInRect(old.adjusted(-1, -1, 1, 1));
     setFrame(MovieSizing::centred(plan.size, window->frame().size()));
     setNeedsDisplay();
-    settings().setInteger(_size, kQVDefaultMovieSize);
-    platform::NotificationCenter::defaultCenter().post(QVMovieViewSizeChangedNotification{this});
+    _environment.settings.setInteger(_size, kQVDefaultMovieSize);
+    _environment.notifications.post(QVMovieViewSizeChangedNotification{this});
 }
 
 MovieSizing::Geometry QVMovieView::geometry() const {
     const auto shown = movie();
     const platform::Window* window = this->window();
     return {shown ? shown->naturalBounds().size() : QSizeF(0, 0), window ? window->frame().size() : QSizeF(0, 0),
-            isControllerVisible(), settings().floatForKey(kQVMovieCustomScale)};
+            isControllerVisible(), _environment.settings.floatForKey(kQVMovieCustomScale)};
 }
 
 float QVMovieView::magnification() const {
@@ -149,7 +142,7 @@ void QVMovieView::stop() {
 void QVMovieView::playingChanged(bool playing) {
     // That the user watches is said again with each picture.
     if (!playing)
-        platform::Desktop::shared().setUserActive(false);
+        _desktop.setUserActive(false);
 }
 
 void QVMovieView::saveMovieState() {
@@ -169,16 +162,16 @@ void QVMovieView::toggleController() {
     trace("%@: %s movie contoller.", className, show ? "Showing" : "Hiding");
     showController(show, true);
     setMovieSize(_size, Recalculation::forced);
-    settings().setBool(show, kQVControllerVisible);
+    _environment.settings.setBool(show, kQVControllerVisible);
 }
 
 void QVMovieView::showControllerBySetting() {
-    showController(settings().boolForKey(kQVControllerVisible), true);
+    showController(_environment.settings.boolForKey(kQVControllerVisible), true);
 }
 
 void QVMovieView::setVolume(float volume) {
     MovieView::setVolume(volume);
-    platform::NotificationCenter::defaultCenter().post(QVMovieVolumeChangedNotification{this});
+    _environment.notifications.post(QVMovieVolumeChangedNotification{this});
 }
 
 QString QVMovieView::volumeInfoAsString() const {
@@ -209,7 +202,7 @@ void QVMovieView::startAutoscroll(int direction) {
     _direction = direction;
     platform::Window* window = this->window();
     if (window && !_scrollTimer && MovieSizing::canPan(direction, frame(), window->contentView().bounds()))
-        _scrollTimer = platform::RunLoop::main().schedule(panInterval, true, [this] { autoscroll(); });
+        _scrollTimer = _environment.loop.schedule(panInterval, true, [this] { autoscroll(); });
 }
 
 void QVMovieView::stopAutoscroll(int direction) {
@@ -224,7 +217,7 @@ void QVMovieView::autoscroll() {
 }
 
 bool QVMovieView::keyDown(const platform::KeyEvent& event) {
-    if (CommandTarget* controller = movieController(); controller && controller->processKeyboardEvent(event))
+    if (_commands.processKeyboardEvent(event))
         return true;
     const bool taken = handleMovieKey(event);
     const QString characters = event.charactersIgnoringModifiers.toLower();
@@ -234,19 +227,22 @@ bool QVMovieView::keyDown(const platform::KeyEvent& event) {
     if (!isMovieKey)
         return taken;
     if (!movie())
-        platform::Desktop::shared().beep();
+        _desktop.beep();
     else if (character == platform::functionKey::left)
-        postFeedback("Step Backward");
+        confirm("Step Backward");
     else if (character == platform::functionKey::right)
-        postFeedback("Step Forward");
+        confirm("Step Forward");
     else
-        postFeedback(isPlaying() ? "Movie: Play" : "Movie: Pause");
+        confirm(isPlaying() ? "Movie: Play" : "Movie: Pause");
     return true;
 }
 
+void QVMovieView::confirm(const char* key) {
+    _feedback.postFeedback(platform::localizedString(QString::fromUtf8(key)));
+}
+
 bool QVMovieView::keyUp(const platform::KeyEvent& event) {
-    CommandTarget* controller = movieController();
-    return controller && controller->processKeyboardEvent(event);
+    return _commands.processKeyboardEvent(event);
 }
 
 bool QVMovieView::mouseDragged(const platform::MouseEvent& event) {
@@ -259,15 +255,15 @@ bool QVMovieView::mouseDragged(const platform::MouseEvent& event) {
 }
 
 std::uint32_t QVMovieView::draggingEntered(const platform::DraggingInfo& info) {
-    return _dropTarget ? _dropTarget->draggingEntered(info) : platform::dragOperation::none;
+    return _drops.draggingEntered(info);
 }
 
 std::uint32_t QVMovieView::draggingUpdated(const platform::DraggingInfo& info) {
-    return _dropTarget ? _dropTarget->draggingUpdated(info) : platform::dragOperation::none;
+    return _drops.draggingUpdated(info);
 }
 
 bool QVMovieView::performDragOperation(const platform::DraggingInfo& info) {
-    return _dropTarget && _dropTarget->performDragOperation(info);
+    return _drops.performDragOperation(info);
 }
 
 void QVMovieView::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
@@ -281,6 +277,6 @@ void QVMovieView::preferencesChanged(const QVPreferencesChangedNotification& not
         showControllerBySetting();
         setMovieSize(_size, Recalculation::forced);
     } else if (notification.key == kQVDefaultMovieSize) {
-        setMovieSize(settings().integerForKey(kQVDefaultMovieSize), Recalculation::ifChanged);
+        setMovieSize(_environment.settings.integerForKey(kQVDefaultMovieSize), Recalculation::ifChanged);
     }
 }

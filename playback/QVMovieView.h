@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
 #include "context/Notifications.h"
 #include "overlays/PictureGeometry.h"
 #include "platform/base/NotificationCenter.h"
@@ -12,23 +13,28 @@
 #include <cstdint>
 #include <memory>
 
-class QVMovie;
-class QVMovieView;
+namespace platform {
+class Desktop;
+} // namespace platform
 
-/// Takes what is dragged onto the movie (the application controller).
-class DropTarget {
-public:
-    virtual ~DropTarget() = default;
-    virtual std::uint32_t draggingEntered(const platform::DraggingInfo& info) = 0;
-    virtual std::uint32_t draggingUpdated(const platform::DraggingInfo& info) = 0;
-    virtual bool performDragOperation(const platform::DraggingInfo& info) = 0;
-};
+class CommandTarget;
+class DropTarget;
+class FeedbackDisplay;
+class QVMovie;
 
 /// The view that shows the current movie: size codes, magnification, jumps, panning, volume. Frame and sizes are
 /// points. Main thread.
 class QVMovieView final : public platform::MovieView, public PictureGeometry {
 public:
-    explicit QVMovieView(platform::MoviePlayer& player);
+    /// All outlive the view.
+    struct Collaborators {
+        platform::MoviePlayer& player;
+        platform::Desktop& desktop;
+        CommandTarget& commands;
+        FeedbackDisplay& feedback;
+        DropTarget& drops;
+    };
+    QVMovieView(const Environment& environment, const Collaborators& collaborators);
     ~QVMovieView() override;
 
     /// The movie shown, or none.
@@ -71,8 +77,6 @@ public:
     void startAutoscroll(int direction);
     void stopAutoscroll(int direction);
 
-    void setDropTarget(DropTarget* target) { _dropTarget = target; }
-
     bool keyDown(const platform::KeyEvent& event) override;
     bool keyUp(const platform::KeyEvent& event) override;
     bool mouseDragged(const platform::MouseEvent& event) override;
@@ -89,7 +93,13 @@ private:
     void autoscroll();
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
+    void confirm(const char* key);
 
+    Environment _environment;
+    platform::Desktop& _desktop;
+    CommandTarget& _commands;
+    FeedbackDisplay& _feedback;
+    DropTarget& _drops;
     struct {
         bool isPlaying = false;
         float rate = 1.0F;
@@ -97,7 +107,6 @@ private:
     std::int32_t _size;
     std::unique_ptr<platform::Timer> _scrollTimer;
     int _direction = 0;
-    DropTarget* _dropTarget = nullptr;
     platform::Subscription _movieChanged;
     platform::Subscription _preferencesChanged;
 };

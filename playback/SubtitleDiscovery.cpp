@@ -3,32 +3,19 @@
 
 #include "platform/base/RunLoop.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <utility>
-#include <vector>
-
-namespace SubtitleDiscovery {
 
 namespace {
 
-/// The files of one folder that have one of the extensions.
-struct Listing {
-    QString folder;
-    QStringList extensions;
-    double readAt = 0;
-    QDateTime changed; // when it was read
-    /// Name in one case, and name as it is; ordered, so that those that begin alike stand together.
-    std::vector<std::pair<QString, QString>> names;
-};
-
 constexpr double keptSeconds = 1;
 
-Listing readFolder(const QString& folder, const QStringList& extensions) {
-    Listing listing{folder, extensions, platform::RunLoop::main().now(), QFileInfo(folder).lastModified(), {}};
+} // namespace
+
+SubtitleDiscovery::Listing SubtitleDiscovery::readFolder(const QString& folder, const QStringList& extensions) const {
+    Listing listing{folder, extensions, _clock.now(), QFileInfo(folder).lastModified(), {}};
     // Plain files only: opening a pipe would wait for its other end.
     const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
     for (const QString& name : names) {
@@ -39,18 +26,16 @@ Listing readFolder(const QString& folder, const QStringList& extensions) {
     return listing;
 }
 
-const Listing& listingOfFolder(const QString& folder, const QStringList& extensions) {
-    static Listing kept;
-    const double age = platform::RunLoop::main().now() - kept.readAt;
-    if (kept.folder != folder || kept.extensions != extensions || !(age >= 0 && age < keptSeconds) ||
-        kept.changed != QFileInfo(folder).lastModified())
-        kept = readFolder(folder, extensions);
-    return kept;
+const SubtitleDiscovery::Listing& SubtitleDiscovery::listingOfFolder(const QString& folder,
+                                                                     const QStringList& extensions) {
+    const double age = _clock.now() - _kept.readAt;
+    if (_kept.folder != folder || _kept.extensions != extensions || !(age >= 0 && age < keptSeconds) ||
+        _kept.changed != QFileInfo(folder).lastModified())
+        _kept = readFolder(folder, extensions);
+    return _kept;
 }
 
-} // namespace
-
-QStringList filesBeginningWith(const QString& base, const QStringList& extensions) {
+QStringList SubtitleDiscovery::filesBeginningWith(const QString& base, const QStringList& extensions) {
     const qsizetype slash = base.lastIndexOf(u'/');
     if (extensions.isEmpty() || slash < 0)
         return {};
@@ -63,5 +48,3 @@ QStringList filesBeginningWith(const QString& base, const QStringList& extension
         found.append(folder + entry->second);
     return found;
 }
-
-} // namespace SubtitleDiscovery

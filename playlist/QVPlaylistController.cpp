@@ -3,16 +3,16 @@
 
 #include "context/CommandTarget.h"
 #include "context/Notifications.h"
-#include "context/QVAppContext.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunLoop.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/movie/MovieToolkit.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
-#include "settings/QVUserDefaults.h"
+#include "playlist/OpenPanel.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
@@ -25,10 +25,6 @@
 namespace {
 
 constexpr const char* className = "QVPlaylistController";
-
-platform::UserDefaults& settings() {
-    return QVUserDefaults::standardUserDefaults();
-}
 
 QString localized(const char* key) {
     return platform::localizedString(QString::fromUtf8(key));
@@ -51,9 +47,8 @@ QString descriptionOf(const std::vector<std::shared_ptr<QVMovie>>& movies) {
     return lines.join(u'\n');
 }
 
-void sortMovies(std::vector<std::shared_ptr<QVMovie>>& movies) {
+void sortMovies(std::vector<std::shared_ptr<QVMovie>>& movies, const MovieOrdering& ordering) {
     // The keys are made once a movie, not once a comparison.
-    const MovieOrdering ordering = MovieOrdering::fromSettings();
     std::vector<std::pair<QString, std::shared_ptr<QVMovie>>> keyed;
     keyed.reserve(movies.size());
     for (auto& movie : movies) {
@@ -67,12 +62,14 @@ void sortMovies(std::vector<std::shared_ptr<QVMovie>>& movies) {
 
 } // namespace
 
-QVPlaylistController::QVPlaylistController()
-    : _looping(settings().integerForKey(kQVPlaylistDefaultLooping))
-    , _auto_play(settings().boolForKey(kQVPlaylistAutoPlay))
-    , _auto_next(settings().boolForKey(kQVPlaylistAutoNext))
-    , _auto_quit(settings().boolForKey(kQVPlaylistAutoQuit)) {
-    auto& center = platform::NotificationCenter::defaultCenter();
+QVPlaylistController::QVPlaylistController(const Environment& environment, const Collaborators& collaborators)
+    : _environment(environment)
+    , _with(collaborators)
+    , _looping(environment.settings.integerForKey(kQVPlaylistDefaultLooping))
+    , _auto_play(environment.settings.boolForKey(kQVPlaylistAutoPlay))
+    , _auto_next(environment.settings.boolForKey(kQVPlaylistAutoNext))
+    , _auto_quit(environment.settings.boolForKey(kQVPlaylistAutoQuit)) {
+    platform::NotificationCenter& center = environment.notifications;
     _movieComplete = center.observe<QVMovieCompleteNotification>(
         [this](const auto& notification) { movieDidComplete(notification); });
     _preferencesChanged = center.observe<QVPreferencesChangedNotification>(
@@ -88,52 +85,40 @@ bool QVPlaylistController::addURLs(const QList<QUrl>& urls, Adding adding, Start
         _waiting.push_back(request);
         return false;
     }
-    const std::weak_ptr<bool> alive = _alive;
     _is_adding = true;
     const bool added = add(request);
-    while (!alive.expired() && !_waiting.empty()) {
+    while (!_waiting.empty()) {
         const Request next = std::move(_waiting.front());
         _waiting.pop_front();
         add(next);
     }
-    if (!alive.expired())
-        _is_adding = false;
+    _is_adding = false;
     return added;
 }
 
 bool QVPlaylistController::add(const Request& request) {
-    // Quitting while a movie is opened or an alert is up ends the playlist.
-    const std::weak_ptr<bool> alive = _alive;
     std::vector<std::shared_ptr<QVMovie>> movies = openMovies(request);
-    if (alive.expired())
-        return false;
     const bool added = !movies.empty();
     if (added)
         takeIn(std::move(movies), request);
-    if (!alive.expired() && _playlist.empty())
+    if (_playlist.empty())
         offerToOpenOthers(!request.urls.isEmpty());
     return added;
 }
 
 std::vector<std::shared_ptr<QVMovie>> QVPlaylistController::openMovies(const Request& request) {
-    const std::weak_ptr<bool> alive = _alive;
     std::vector<std::shared_ptr<QVMovie>> movies;
     movies.reserve(static_cast<std::size_t>(request.urls.size()));
     QString lastFolder;
     for (const QUrl& url : request.urls) {
         trace("%@: Adding to playlist movie file: %@", className, url.toString());
-        std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(url);
-        if (alive.expired())
-            return {};
-        const bool keep = shouldKeep(movie, url, request.reportsError);
-        if (alive.expired())
-            return {};
-        if (!keep)
+        std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(_environment, _with.movies, url);
+        if (!shouldKeep(movie, url, request.reportsError))
             continue;
         if (url.isLocalFile()) {
             if (const QString folder = abbreviatedFolder(url); folder != lastFolder) {
                 lastFolder = folder;
-                settings().setObject(folder, kNSNavLastRootDirectory);
+                _environment.settings.setObject(folder, kNSNavLastRootDirectory);
             }
         }
         movies.push_back(std::move(movie));
@@ -142,12 +127,12 @@ std::vector<std::shared_ptr<QVMovie>> QVPlaylistController::openMovies(const Req
 }
 
 bool QVPlaylistController::shouldKeep(const std::shared_ptr<QVMovie>& movie, const QUrl& url, bool reportsError) const {
-    const std::int16_t error = platform::MovieToolkit::shared().stickyError();
+    const std::int16_t error = _with.movies.toolkit.stickyError();
     const auto alert = [&](const char* title, const char* details, const QString& button, const QString& other) {
         const QString code = QString::number(error);
-        return platform::Desktop::shared().runAlert(
-            {platform::localizedFormat(QString::fromUtf8(title), {fileNameOfURL(url)}),
-             platform::localizedFormat(QString::fromUtf8(details), {code}), button, QString(), other});
+        return _with.desktop.runAlert({platform::localizedFormat(QString::fromUtf8(title), {fileNameOfURL(url)}),
+                                       platform::localizedFormat(QString::fromUtf8(details), {code}), button, QString(),
+                                       other});
     };
     if (!movie) {
         logAlways("ERROR: %@: QT failed to open movie.", className);
@@ -167,15 +152,12 @@ bool QVPlaylistController::shouldKeep(const std::shared_ptr<QVMovie>& movie, con
 }
 
 void QVPlaylistController::takeIn(std::vector<std::shared_ptr<QVMovie>> movies, const Request& request) {
-    const std::weak_ptr<bool> alive = _alive;
     if (_playlist.empty() || request.adding == Adding::replace) {
         _playlist = std::move(movies);
         _index = NSNotFound;
         rearrange();
         reset();
-        if (alive.expired())
-            return;
-        setLooping(settings().integerForKey(kQVPlaylistDefaultLooping));
+        setLooping(_environment.settings.integerForKey(kQVPlaylistDefaultLooping));
         if (request.starting == Starting::yes && _auto_play)
             play();
     } else {
@@ -183,21 +165,21 @@ void QVPlaylistController::takeIn(std::vector<std::shared_ptr<QVMovie>> movies, 
                          std::make_move_iterator(movies.end()));
         rearrange();
     }
-    platform::NotificationCenter::defaultCenter().post(QVPlaylistChangedNotification{_playlist});
+    _environment.notifications.post(QVPlaylistChangedNotification{_playlist});
 }
 
 void QVPlaylistController::offerToOpenOthers(bool failed) {
     if (failed) {
         trace("%@: No playable movies foung in playlist.\n", className);
-        const int answer = platform::Desktop::shared().runAlert({localized("NoPlayableMoviesInListMessage"),
-                                                                 localized("NoPlayableMoviesInListDetails"),
-                                                                 localized("Open..."), localized("Cancel"), QString()});
+        const int answer = _with.desktop.runAlert({localized("NoPlayableMoviesInListMessage"),
+                                                   localized("NoPlayableMoviesInListDetails"), localized("Open..."),
+                                                   localized("Cancel"), QString()});
         if (answer != 1)
             return;
     }
-    platform::RunLoop::main().perform([] {
-        if (gAppController)
-            gAppController->doOpen();
+    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
+        if (!alive.expired())
+            _with.openPanel.doOpen();
     });
     trace("%@: Launching File Open panel.\n", className);
 }
@@ -233,7 +215,7 @@ QString QVPlaylistController::loopingInfoAsString() const {
 }
 
 void QVPlaylistController::rearrange() {
-    const std::int32_t arrangement = settings().integerForKey(kQVPlaylistDefaultArrangement);
+    const std::int32_t arrangement = _environment.settings.integerForKey(kQVPlaylistDefaultArrangement);
     if (arrangement != Arrangement::shuffled && arrangement != Arrangement::sorted)
         return;
     const bool shuffles = arrangement == Arrangement::shuffled;
@@ -243,7 +225,7 @@ void QVPlaylistController::rearrange() {
     if (shuffles)
         Arrangement::shuffle(_playlist, Arrangement::drawFromSystem);
     else
-        sortMovies(_playlist);
+        sortMovies(_playlist, MovieOrdering::fromSettings(_environment.settings));
     if (current)
         _index = static_cast<std::uint32_t>(std::ranges::find(_playlist, current) - _playlist.begin());
     if (gTracingEnabled)
@@ -261,12 +243,12 @@ void QVPlaylistController::setIndex(std::uint32_t index) {
         return;
     trace("%@: Next movie: %@", className, entry->url().toString(QUrl::FullyEncoded));
     _index = index;
-    platform::NotificationCenter::defaultCenter().post(QVPlaylistMovieChangedNotification{entry});
+    _environment.notifications.post(QVPlaylistMovieChangedNotification{entry});
 }
 
 void QVPlaylistController::play() {
-    if (_index < count() && gAppController && gAppController->movieView())
-        gAppController->movieView()->start();
+    if (_index < count())
+        _with.view.start();
 }
 
 void QVPlaylistController::play(std::uint32_t index) {
@@ -316,7 +298,7 @@ void QVPlaylistController::setLooping(std::int32_t mode) {
     if (mode < looping::off || mode > looping::all || mode == _looping)
         return;
     _looping = mode;
-    platform::NotificationCenter::defaultCenter().post(QVPlaylistLoopingChangedNotification{this});
+    _environment.notifications.post(QVPlaylistLoopingChangedNotification{this});
 }
 
 void QVPlaylistController::toggleLooping(std::int32_t step) {
@@ -349,8 +331,7 @@ void QVPlaylistController::onPlaylistEnd() {
     case Arrangement::EndOfList::quit:
         trace("%@: Playlist finished. Looping is Off. AutoQuit is ON. Terminating app.", className);
         _finished = true;
-        if (CommandTarget* controller = gAppController ? gAppController->controller() : nullptr)
-            controller->performAction(action::quit, Feedback::yes);
+        _with.commands.performAction(action::quit, Feedback::yes);
         break;
     case Arrangement::EndOfList::stay:
         break;
@@ -359,7 +340,7 @@ void QVPlaylistController::onPlaylistEnd() {
 
 void QVPlaylistController::movieDidComplete(const QVMovieCompleteNotification&) {
     trace("%@: Current movie finished.", className);
-    platform::RunLoop::main().perform([this, alive = std::weak_ptr<bool>(_alive)] {
+    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
         if (!alive.expired())
             onMovieEnd();
     });
@@ -370,11 +351,11 @@ void QVPlaylistController::preferencesChanged(const QVPreferencesChangedNotifica
     if (key == kQVPlaylistDefaultArrangement || key == kQVSortNumerically || key == kQVSortOnlyFilenames)
         rearrange();
     else if (key == kQVPlaylistDefaultLooping)
-        setLooping(settings().integerForKey(kQVPlaylistDefaultLooping));
+        setLooping(_environment.settings.integerForKey(kQVPlaylistDefaultLooping));
     else if (key == kQVPlaylistAutoPlay)
-        _auto_play = settings().boolForKey(key);
+        _auto_play = _environment.settings.boolForKey(key);
     else if (key == kQVPlaylistAutoNext)
-        _auto_next = settings().boolForKey(key);
+        _auto_next = _environment.settings.boolForKey(key);
     else if (key == kQVPlaylistAutoQuit)
-        _auto_quit = settings().boolForKey(key);
+        _auto_quit = _environment.settings.boolForKey(key);
 }

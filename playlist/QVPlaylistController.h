@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
 #include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
+#include "playback/MovieServices.h"
 #include "playlist/Arrangement.h"
 #include "settings/QVPreferencesChangedNotification.h"
 
@@ -16,8 +18,14 @@
 #include <memory>
 #include <vector>
 
+namespace platform {
+class Desktop;
+} // namespace platform
+
+class CommandTarget;
+class OpenPanel;
 class QVMovie;
-class QVPlaylistController;
+class QVMovieView;
 
 /// The position that means none.
 inline constexpr std::uint32_t NSNotFound = 0x7FFFFFFF;
@@ -29,7 +37,15 @@ enum class Starting : bool { no, yes };
 /// The ordered list of movies, the position in it, and what happens when a movie and the list end. Main thread.
 class QVPlaylistController {
 public:
-    QVPlaylistController();
+    /// All outlive the playlist.
+    struct Collaborators {
+        MovieServices movies;
+        QVMovieView& view;
+        platform::Desktop& desktop;
+        CommandTarget& commands;
+        OpenPanel& openPanel;
+    };
+    QVPlaylistController(const Environment& environment, const Collaborators& collaborators);
     QVPlaylistController(const QVPlaylistController&) = delete;
     QVPlaylistController& operator=(const QVPlaylistController&) = delete;
     ~QVPlaylistController();
@@ -89,6 +105,8 @@ private:
     void movieDidComplete(const QVMovieCompleteNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
 
+    Environment _environment;
+    Collaborators _with;
     std::vector<std::shared_ptr<QVMovie>> _playlist;
     std::uint32_t _index = NSNotFound;
     bool _finished = false;

@@ -3,10 +3,8 @@
 #include "app/CommandLine.h"
 #include "app/Inspection.h"
 #include "app/LaunchSteps.h"
-#include "app/MainMenu.h"
+#include "app/MainObjects.h"
 #include "app/OpeningFiles.h"
-#include "app/QVAppController.h"
-#include "app/QVFullScreenWindow.h"
 #include "app/panels/HelpPanel.h"
 #include "context/Environment.h"
 #include "platform/base/Bundle.h"
@@ -61,7 +59,7 @@ void pinNumericLocale() {
 QString asHandedOver(const QString& file) {
     if (isURLString(file) || QFileInfo(file).isDir())
         return file;
-    const bool isMovie = QFileInfo::exists(file) && isFileOfType(file, supportedFileTypes());
+    const bool isMovie = QFileInfo::exists(file) && isFileOfType(file, supportedFileTypes(platform::Bundle::main()));
     return isMovie ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
 }
 
@@ -137,7 +135,7 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
     Settings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
     if (!settings.apply(line))
         return exitUsage;
-    [[maybe_unused]] const Environment environment{loop, notifications, settings.defaults()};
+    const Environment environment{loop, notifications, settings.defaults()};
     platform::MpvToolkit toolkit;
     platform::MovieToolkit::setShared(&toolkit);
     platform::UserDefaults& defaults = settings.defaults();
@@ -145,7 +143,7 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         defaults.setOverride(kQVSubtitlesDefaultEncoding, static_cast<qint64>(line.encoding));
     if (line.frameRateChoice != 0)
         defaults.setOverride(kQVSubtitlesDefaultFPS, line.frameRateChoice);
-    const InspectionResult result = inspectFiles(line.files, toolkit, {line.timeScale, line.imagesFolder});
+    const InspectionResult result = inspectFiles(environment, toolkit, line.files, {line.timeScale, line.imagesFolder});
     std::fwrite(result.json.constData(), 1, static_cast<std::size_t>(result.json.size()), stdout);
     for (const QString& error : result.errors)
         complain(error);
@@ -179,7 +177,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
     Settings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
     if (!settings.apply(line))
         return exitUsage;
-    [[maybe_unused]] const Environment environment{loop, notifications, settings.defaults()};
+    const Environment environment{loop, notifications, settings.defaults()};
 
     platform::SessionBus bus;
     const platform::Backlight backlight(platform::Backlight::systemFolder(),
@@ -199,21 +197,17 @@ int play(int& count, char** arguments, const CommandLine& line) {
 
     int status = exitSuccess;
     {
-        QVFullScreenWindow window;
-        QVMovieView view(toolkit->player());
-        window.contentView().addSubview(view);
-        MainMenu menu;
         Steps steps;
-        platform::QtWindowHost host(window, chosenRenderer(line));
-        QVAppController controller(window, view, menu, steps);
-        host.setMainMenu(menu.bar(), controller);
+        MainObjects player(environment, {desktop, *toolkit, platform::Bundle::main()}, steps);
+        platform::QtWindowHost host(player.window(), chosenRenderer(line));
+        host.setMainMenu(player.menu().bar(), player.application());
         desktop.setMainWindow(&host);
         steps.window = &host;
 
         const auto take = [&](const platform::HandOver& message) {
             desktop.setAssumedModifiers(message.append ? platform::modifier::option : 0);
             for (const QString& file : message.files)
-                controller.openFile(file);
+                player.application().openFile(file);
             desktop.setAssumedModifiers(0);
             host.makeKeyAndOrderFront();
         };
@@ -223,7 +217,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         loop.perform([] { platform::PrivateFolder::sweep(); }, sweepDelay);
         if (!files.files.isEmpty())
             take(files);
-        status = desktop.run(controller);
+        status = desktop.run(player.application());
     }
     platform::Desktop::setShared(nullptr);
     platform::NotificationCenter::setDefault(nullptr);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/desktop/UserActivity.h"
+
 #include <QRectF>
 #include <QString>
 #include <QStringList>
@@ -22,13 +24,8 @@ struct Screen {
 };
 
 /// What the desktop around the application offers. Main thread.
-class Desktop {
+class Desktop : public UserActivity {
 public:
-    Desktop() = default;
-    Desktop(const Desktop&) = delete;
-    Desktop& operator=(const Desktop&) = delete;
-    virtual ~Desktop() = default;
-
     /// The process's desktop. One must have been installed with setShared before the first call.
     static Desktop& shared();
     static void setShared(Desktop* desktop);
@@ -62,9 +59,6 @@ public:
 
     /// The modifier keys held now, in the masks of platform::modifier.
     virtual std::uint32_t modifierFlags() const = 0;
-
-    /// The user watches: keeps screen saver and sleep away while `active` is set (once per playback, not per frame).
-    virtual void setUserActive(bool active) = 0;
 
     /// Puts the computer to sleep, as far as the user may.
     virtual void sleep() = 0;

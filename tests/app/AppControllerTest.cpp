@@ -28,26 +28,26 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
     rig.desktop.brightnessLevels[1] = 0.25F;
     rig.steps.checksVersion = true;
     QVOSDOverlay::sharedOSDOverlay().setDisplayType(0);
-    EXPECT_TRUE(rig.app->openFile(rig.file("a.mp4")));
-    rig.app->applicationWillFinishLaunching();
+    EXPECT_TRUE(rig.app.openFile(rig.file("a.mp4")));
+    rig.app.applicationWillFinishLaunching();
     EXPECT_EQ(rig.toolkit.entered, 1);
     EXPECT_TRUE(rig.window.isOrderedIn());
     EXPECT_EQ(rig.window.firstResponder(), &rig.view);
     EXPECT_NE(rig.window.delegate(), nullptr);
     EXPECT_FLOAT_EQ(rig.view.volume(), 0.5F);
     EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.75F);
-    rig.app->applicationDidFinishLaunching();
+    rig.app.applicationDidFinishLaunching();
     EXPECT_TRUE(rig.events.isEmpty());
 
     rig.fade();
     EXPECT_GT(rig.window.alphaValue(), 0.9F);
     EXPECT_EQ(rig.events.join(u' ').toStdString(), "configure donation version open a.mp4");
     EXPECT_TRUE(rig.desktop.openPanelFolders.isEmpty()) << "with a file the launch action does not run";
-    EXPECT_FALSE(rig.app->isLaunching());
+    EXPECT_FALSE(rig.app.isLaunching());
     EXPECT_TRUE(rig.view.isPlaying());
     EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
 
-    rig.app->applicationShouldTerminate();
+    rig.app.applicationShouldTerminate();
     EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.25F) << "the screen gets back the brightness found at launch";
 }
 
@@ -74,11 +74,11 @@ TEST(AppController, files_that_arrive_together_are_one_batch_appended_where_opti
     rig.launch();
     const QString a = rig.file("a.mp4"), b = rig.file("b.mp4");
     const auto handOver = [&](std::uint32_t first, std::uint32_t second) {
-        const Posts<QVPlaylistChangedNotification> adds;
+        const Posts<QVPlaylistChangedNotification> adds(rig.settings.notifications);
         rig.desktop.heldModifiers = first;
-        rig.app->openFile(a);
+        rig.app.openFile(a);
         rig.desktop.heldModifiers = second;
-        rig.app->openFile("http://example.org/4%20x.mp4");
+        rig.app.openFile("http://example.org/4%20x.mp4");
         rig.desktop.heldModifiers = 0;
         EXPECT_EQ(adds.count, 0);
         rig.settings.runLoop.runPending();
@@ -92,11 +92,11 @@ TEST(AppController, files_that_arrive_together_are_one_batch_appended_where_opti
     // The panel asks when it has been answered.
     rig.desktop.openPanelAnswers = {{b}, {a}};
     rig.desktop.heldModifiers = option;
-    rig.app->doOpen();
+    rig.app.doOpen();
     EXPECT_EQ(rig.listed().toStdString(), "a.mp4 4 x.mp4 b.mp4");
     rig.desktop.heldModifiers = 0;
-    rig.app->doOpen();
-    rig.app->doOpen();
+    rig.app.doOpen();
+    rig.app.doOpen();
     EXPECT_EQ(rig.listed().toStdString(), "a.mp4") << "a cancelled panel adds nothing";
 }
 
@@ -109,11 +109,11 @@ TEST(AppController, files_handed_over_while_the_first_ones_are_opened_are_not_lo
             rig.launch();
         rig.desktop.whileAlertIsUp = [&rig] {
             rig.desktop.whileAlertIsUp = nullptr;
-            rig.app->openFile(rig.file("later.mp4"));
+            rig.app.openFile(rig.file("later.mp4"));
             rig.settings.runLoop.runPending();
         };
-        rig.app->openFile(broken);
-        rig.app->openFile(rig.file("good.mp4"));
+        rig.app.openFile(broken);
+        rig.app.openFile(rig.file("good.mp4"));
         if (launching)
             rig.launch();
         rig.settings.runLoop.runPending();
@@ -141,14 +141,14 @@ TEST(AppController, the_pointer_hides_after_the_delay_and_mouse_moves_put_it_off
     rig.window.setKey(true);
     rig.window.setKey(false);
     EXPECT_FALSE(rig.host.pointerHidden) << "the pointer belongs to another window";
-    rig.app->applicationDidBecomeActive();
+    rig.app.applicationDidBecomeActive();
     rig.settings.runLoop.advance(10);
     EXPECT_TRUE(rig.host.pointerHidden);
 
     rig.settings.defaults().setInteger(11, kQVCursorAutohideDelay);
     rig.window.setKey(true);
     rig.window.setKey(false);
-    rig.app->applicationDidBecomeActive();
+    rig.app.applicationDidBecomeActive();
     rig.settings.runLoop.advance(1000);
     EXPECT_FALSE(rig.host.pointerHidden) << "more than ten seconds is never";
 }
@@ -163,7 +163,7 @@ TEST(AppController, losing_the_keyboard_pauses_and_getting_it_back_restores_what
     for (const Case& c :
          {Case{true, true, false, true}, Case{true, false, false, false}, Case{false, true, true, true}}) {
         AppRig rig(quiet({{kQVPauseOnDeactivate, c.pauses}, {kQVMainWindowLayer, 5}}));
-        rig.app->openFile(rig.file("a.mp4"));
+        rig.app.openFile(rig.file("a.mp4"));
         rig.launch();
         rig.window.setKey(true);
         if (c.plays)
@@ -191,12 +191,12 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
         AppRig rig(quiet({{kQVHideOnDeactivate, hides}, {kQVMainWindowLayer, 5}}));
         rig.launch();
         const float shown = rig.window.alphaValue();
-        rig.app->applicationWillResignActive();
+        rig.app.applicationWillResignActive();
         rig.fade();
         EXPECT_EQ(rig.window.level(), platform::windowLevel::normal);
         EXPECT_EQ(rig.window.alphaValue(), hides ? 0.0F : shown);
         EXPECT_TRUE(rig.desktop.terminationReplies.empty());
-        rig.app->applicationWillBecomeActive();
+        rig.app.applicationWillBecomeActive();
         rig.fade();
         EXPECT_EQ(rig.window.level(), 5);
         EXPECT_EQ(rig.window.alphaValue(), shown);
@@ -206,8 +206,6 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
 TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size) {
     const platform::Screen main{QRectF(0, 0, 1440, 900), true, 1, "Main"};
     platform::Screen second{QRectF(1440, 100, 1920, 1080), true, 2, "Second"};
-    FakeDesktop desktop;
-    desktop.screenList = {main, second};
     struct Case {
         int index;
         bool isScreen;
@@ -215,9 +213,8 @@ TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size)
     };
     for (const Case& c : {Case{1, true, second.frame}, Case{1, false, main.frame}, Case{2, true, main.frame},
                           Case{-1, true, main.frame}}) {
-        const TestSettings settings({{kQVMainWindowScreen, c.index}});
-        desktop.screenList[1].isScreen = c.isScreen;
-        EXPECT_EQ(QVFullScreenWindow().frame(), c.frame) << c.index;
+        AppRig rig({{kQVMainWindowScreen, c.index}}, {main, {second.frame, c.isScreen, 2, "Second"}});
+        EXPECT_EQ(rig.window.frame(), c.frame) << c.index;
     }
 
     AppRig rig(quiet());
@@ -226,13 +223,13 @@ TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size)
     rig.window.adoptScreen(second);
     second.frame = QRectF(1440, 0, 2560, 1440);
     rig.desktop.screenList = {main, second};
-    rig.app->applicationDidChangeScreenParameters();
+    rig.app.applicationDidChangeScreenParameters();
     EXPECT_EQ(rig.window.frame(), second.frame);
     rig.desktop.screenList = {main};
-    rig.app->applicationDidChangeScreenParameters();
+    rig.app.applicationDidChangeScreenParameters();
     EXPECT_EQ(rig.window.frame(), main.frame) << "its screen went away";
     rig.desktop.screenList = {};
-    rig.app->applicationDidChangeScreenParameters();
+    rig.app.applicationDidChangeScreenParameters();
     EXPECT_EQ(rig.window.frame(), main.frame);
 }
 
@@ -272,14 +269,14 @@ TEST(AppController, what_is_dragged_in_is_taken_as_its_source_allows) {
 
 TEST(AppController, menu_items_reach_those_who_act_on_them) {
     AppRig rig(quiet());
-    rig.app->openFile(rig.file("a.mp4"));
+    rig.app.openFile(rig.file("a.mp4"));
     rig.launch();
     rig.events.clear();
     const auto choose = [&](const char* action, int tag = 0) {
         platform::Menu menu;
         platform::MenuItem& item = menu.addItem(QString(), action, tag);
-        EXPECT_TRUE(rig.app->validateMenuItem(item)) << action;
-        rig.app->performMenuItem(item);
+        EXPECT_TRUE(rig.app.validateMenuItem(item)) << action;
+        rig.app.performMenuItem(item);
     };
     choose("startStop");
     EXPECT_FALSE(rig.view.isPlaying());
@@ -300,12 +297,12 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
 TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_to_be_kept) {
     for (const bool keeps : {true, false}) {
         AppRig rig({{kQVVolumeSave, keeps}, {kQVOSDStateSave, keeps}, {kQVOnLaunchDefaultAction, keeps ? 1 : 0}});
-        rig.app->openFile(rig.file("a.mp4"));
+        rig.app.openFile(rig.file("a.mp4"));
         rig.launch();
         rig.events.clear();
         rig.view.setVolume(0.25F);
         QVOSDOverlay::sharedOSDOverlay().setDisplayType(4);
-        EXPECT_EQ(rig.app->applicationShouldTerminate(), platform::ApplicationDelegate::TerminateReply::later);
+        EXPECT_EQ(rig.app.applicationShouldTerminate(), platform::ApplicationDelegate::TerminateReply::later);
         EXPECT_FALSE(rig.view.isPlaying());
         EXPECT_EQ(rig.desktop.terminationReplies.empty(), rig.window.fadingOutInterval() >= 0.05)
             << "the process ends when the window has vanished, not before";
@@ -314,13 +311,13 @@ TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_
         EXPECT_EQ(rig.desktop.terminationReplies, std::vector<bool>{true});
         EXPECT_EQ(rig.events, keeps ? QStringList{"save"} : QStringList());
 
-        rig.app->applicationWillTerminate();
+        rig.app.applicationWillTerminate();
         const QVariantMap& kept = rig.settings.disk->domain;
         EXPECT_EQ(kept.value(kQVVolumeSavedLevel).toFloat(), keeps ? 0.25F : 0);
         EXPECT_EQ(kept.value(kQVOSDStateSavedType).toInt(), keeps ? 4 : 0);
         EXPECT_EQ(rig.toolkit.exited, 1);
+        rig.objects.reset();
         EXPECT_EQ(rig.settings.runLoop.pendingCount(), 0U);
-        rig.app.reset();
         EXPECT_EQ(gAppController, nullptr);
     }
 }

@@ -2,35 +2,37 @@
 #pragma once
 
 #include "app/LaunchSteps.h"
-#include "app/MainMenu.h"
-#include "app/QVAppController.h"
-#include "app/QVFullScreenWindow.h"
-#include "control/QVMovieController.h"
+#include "app/MainObjects.h"
 #include "overlays/QVOSDOverlay.h"
-#include "playlist/QVPlaylistController.h"
+#include "platform/base/Bundle.h"
+#include "tests/support/FakeDesktop.h"
 #include "tests/support/Files.h"
-#include "tests/support/PlaybackRig.h"
+#include "tests/support/Posts.h"
+#include "tests/support/RecordingHost.h"
+#include "tests/support/ScriptedToolkit.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
+#include <vector>
 
 /// The whole application but for the window system and the player: real controllers on a scripted toolkit and desktop.
 /// Every step of the launch and every movie opened is noted in `events`, in order.
 class AppRig {
 public:
-    explicit AppRig(const QVariantMap& stored = {})
+    /// Without screens of the test's own there is the one of the fake desktop.
+    explicit AppRig(const QVariantMap& stored = {}, std::vector<platform::Screen> screens = {})
         : settings(stored)
+        , desktop(std::move(screens))
         , steps(events) {
         window.setHost(&host);
-        window.contentView().addSubview(view);
         toolkit.whileOpening = [this](const QUrl& url) { events << QStringLiteral("open ") + url.fileName(); };
-        app = std::make_unique<QVAppController>(window, view, menu, steps);
     }
 
     void launch() {
-        app->applicationWillFinishLaunching();
-        app->applicationDidFinishLaunching();
+        app.applicationWillFinishLaunching();
+        app.applicationDidFinishLaunching();
         fade();
     }
     /// As long as the window takes to appear, or to vanish.
@@ -40,7 +42,7 @@ public:
     /// What the playlist holds, as file names.
     QString listed() {
         QStringList names;
-        for (const QString& address : app->playlist()->arrayWithURLsAsStrings())
+        for (const QString& address : objects->playlist().arrayWithURLsAsStrings())
             names.append(QUrl(address).fileName());
         return names.join(u' ');
     }
@@ -71,9 +73,10 @@ public:
     ScriptedToolkit toolkit;
     QTemporaryDir folder;
     RecordingHost host;
-    QVFullScreenWindow window;
-    QVMovieView view{toolkit.player()};
-    MainMenu menu;
     RecordingSteps steps;
-    std::unique_ptr<QVAppController> app;
+    std::unique_ptr<MainObjects> objects = std::make_unique<MainObjects>(
+        settings.environment, MainObjects::Platform{desktop, toolkit, platform::Bundle::main()}, steps);
+    QVFullScreenWindow& window = objects->window();
+    QVMovieView& view = objects->view();
+    QVAppController& app = objects->application();
 };

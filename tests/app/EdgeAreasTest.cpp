@@ -11,7 +11,7 @@ namespace {
 struct PanningRig : AppRig {
     PanningRig()
         : AppRig({{kQVOnLaunchDefaultAction, 0}}) {
-        app->openFile(file("a.mp4"));
+        app.openFile(file("a.mp4"));
         launch();
         view.setFrame(QRectF(-720, -450, 2880, 1800));
     }

@@ -85,7 +85,7 @@ protected:
     }
 
     RecordingMainWindow mainWindow;
-    QVPlaylistController playlist;
+    QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
     QVSubtitlesController subtitles;
     platform::Menu playlistMenu, subtitlesMenu;
     QVFeedbackOverlay& feedback = QVFeedbackOverlay::sharedFeedbackOverlay();
@@ -320,14 +320,13 @@ TEST_F(MovieController, The_playlist_menu_lists_the_file_names) {
 }
 
 TEST_F(MovieController, The_subtitles_menu_lists_the_tracks_below_its_fixed_items) {
-    const FakeRegistry registry;
     subtitlesMenu.addItem("fixed", "changeSubtitles", -1);
     subtitlesMenu.addSeparator();
-    const auto none = std::make_shared<QVMovie>(ScriptedToolkit::plainMovie(QUrl()), player());
-    const auto two = std::make_shared<QVMovie>(ScriptedToolkit::plainMovie(QUrl()), player());
+    const auto none = open("file:///movies/a.mp4");
+    const auto two = open("file:///movies/a.mp4");
     two->addSubtitleFile("German English");
     for (const auto& movie : {two, two, none, two}) {
-        platform::NotificationCenter::defaultCenter().post(QVPlaylistMovieChangedNotification{movie});
+        post(QVPlaylistMovieChangedNotification{movie});
         EXPECT_EQ(titles(subtitlesMenu), movie == two ? text("Off") + "|-|German|English" : text("None"));
     }
     EXPECT_EQ(subtitlesMenu.itemAt(3).tag, 1);

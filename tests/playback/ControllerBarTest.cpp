@@ -15,7 +15,7 @@ struct BarRig : PlaybackRig {
     BarRig() {
         settings.defaults().setBool(true, kQVControllerVisible);
         settings.defaults().setInteger(movieSize::normal, kQVDefaultMovieSize);
-        platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{kQVDefaultMovieSize});
+        changePreference(kQVDefaultMovieSize);
         show();
     }
     /// A press, drag or release at a point of the bar, y down.
@@ -47,7 +47,7 @@ TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
 
     rig.window.dispatchMouseDown(rig.at(ControllerBar::muteButton(rig.size).center().x()));
     EXPECT_TRUE(rig.view.isMuted());
-    Posts<QVMovieVolumeChangedNotification> volumes;
+    Posts<QVMovieVolumeChangedNotification> volumes(rig.settings.notifications);
     rig.window.dispatchMouseDown(rig.at(ControllerBar::volumeSlider(rig.size).center().x()));
     EXPECT_FALSE(rig.view.isMuted());
     EXPECT_NEAR(rig.view.volume(), 0.5, 0.01);

@@ -2,7 +2,6 @@
 #include "playback/QVMovie.h"
 
 #include "settings/SettingsKeys.h"
-#include "tests/support/FakeSubtitles.h"
 #include "tests/support/Files.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -11,8 +10,8 @@
 TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
     PlaybackRig rig;
     const auto movie = rig.show();
-    Posts<QVMovieInterestingTimeNotification> times;
-    Posts<QVMovieCompleteNotification> ends;
+    Posts<QVMovieInterestingTimeNotification> times(rig.settings.notifications);
+    Posts<QVMovieCompleteNotification> ends(rig.settings.notifications);
     rig.view.start();
     rig.player().advance(1);
     EXPECT_EQ(times.count, 25);
@@ -59,8 +58,8 @@ TEST(QVMovie, movies_are_ordered_by_the_settings) {
     for (const auto& c : cases) {
         rig.settings.defaults().setBool(c.names, kQVSortOnlyFilenames);
         rig.settings.defaults().setBool(c.numbers, kQVSortNumerically);
-        const auto left = QVMovie::movieWithFilePath(c.left);
-        const auto right = QVMovie::movieWithFilePath(c.right);
+        const auto left = QVMovie::movieWithFilePath(rig.settings.environment, rig.movies, c.left);
+        const auto right = QVMovie::movieWithFilePath(rig.settings.environment, rig.movies, c.right);
         EXPECT_EQ(left->compare(*right), c.order) << c.left;
         EXPECT_EQ(right->compare(*left), -c.order) << c.left;
     }
@@ -68,7 +67,6 @@ TEST(QVMovie, movies_are_ordered_by_the_settings) {
 
 TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
     PlaybackRig rig;
-    FakeRegistry registry;
     QTemporaryDir folder;
     for (const char* name : {"Film.avi", "Film.srt", "FILM.SUB", "film.en.srt", "Filmography.txt", "Film.nfo",
                              "Fil.srt", "Other.srt", ".hidden.srt"})
@@ -76,11 +74,14 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath("Film.pipe.srt")).constData(), 0600), 0);
     QDir(folder.path()).mkdir("Film.folder.srt");
 
-    const auto movie = QVMovie::movieWithFilePath(folder.filePath("Film.avi"));
-    registry.offered.sort();
-    EXPECT_EQ(registry.offered, (QStringList{"FILM.SUB", "Film.srt", "Filmography.txt", "film.en.srt"}));
+    const auto open = [&] {
+        return QVMovie::movieWithFilePath(rig.settings.environment, rig.movies, folder.filePath("Film.avi"));
+    };
+    const auto movie = open();
+    rig.readers.offered.sort();
+    EXPECT_EQ(rig.readers.offered, (QStringList{"FILM.SUB", "Film.srt", "Filmography.txt", "film.en.srt"}));
     EXPECT_EQ(movie->subtitles().size(), 3U);
 
     rig.settings.defaults().setBool(false, kQVAutoloadSubtitles);
-    EXPECT_TRUE(QVMovie::movieWithFilePath(folder.filePath("Film.avi"))->subtitles().empty());
+    EXPECT_TRUE(open()->subtitles().empty());
 }

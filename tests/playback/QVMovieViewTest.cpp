@@ -9,14 +9,6 @@
 
 using Recalculation = QVMovieView::Recalculation;
 
-namespace {
-
-void changePreference(const QString& settingsKey) {
-    platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{settingsKey});
-}
-
-} // namespace
-
 TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning) {
     PlaybackRig rig;
     rig.view.setMovieSize(movieSize::fitWidth, Recalculation::ifChanged);
@@ -25,9 +17,9 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     rig.view.start();
     rig.player().advance(5);
     rig.app.isForceMuted = true;
-    Posts<QVMovieVolumeChangedNotification> volumes;
-    const auto second = QVMovie::movieWithURL(QUrl("file:///b.mp4"));
-    platform::NotificationCenter::defaultCenter().post(QVPlaylistMovieChangedNotification{second});
+    Posts<QVMovieVolumeChangedNotification> volumes(rig.settings.notifications);
+    const auto second = rig.open("file:///b.mp4");
+    rig.post(QVPlaylistMovieChangedNotification{second});
     EXPECT_EQ(rig.view.movie(), second);
     EXPECT_FALSE(rig.view.isPlaying());
     EXPECT_FALSE(rig.app.isForceMuted);
@@ -41,7 +33,7 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     rig.view.start();
     rig.player().advance(5);
     const int loads = rig.player().loads;
-    platform::NotificationCenter::defaultCenter().post(QVPlaylistMovieChangedNotification{second});
+    rig.post(QVPlaylistMovieChangedNotification{second});
     EXPECT_EQ(rig.view.time(), 0);
     EXPECT_EQ(rig.player().loads, loads);
 }
@@ -49,7 +41,7 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
 TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
     PlaybackRig rig;
     rig.show();
-    Posts<QVMovieViewSizeChangedNotification> posts;
+    Posts<QVMovieViewSizeChangedNotification> posts(rig.settings.notifications);
     rig.view.setMovieSize(movieSize::normal, Recalculation::ifChanged);
     EXPECT_EQ(rig.view.frame(), QRectF(400, 210, 640, 480));
     rig.view.setMovieSize(movieSize::bigger, Recalculation::ifChanged);
@@ -59,12 +51,12 @@ TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
     EXPECT_EQ(rig.settings.defaults().integerForKey(kQVDefaultMovieSize), movieSize::custom);
     EXPECT_FLOAT_EQ(rig.settings.defaults().floatForKey(kQVMovieCustomScale), 1.2F);
     rig.settings.defaults().setInteger(movieSize::half, kQVDefaultMovieSize);
-    changePreference(kQVDefaultMovieSize);
+    rig.changePreference(kQVDefaultMovieSize);
     EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 240));
     rig.view.toggleController();
     EXPECT_TRUE(rig.settings.defaults().boolForKey(kQVControllerVisible));
     EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 256)) << "the bar below the picture";
     rig.settings.defaults().setBool(false, kQVControllerVisible);
-    changePreference(kQVControllerVisible);
+    rig.changePreference(kQVControllerVisible);
     EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 240));
 }

@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace {
 
 QUrl url(const QString& name) {
@@ -19,54 +17,51 @@ QUrl url(const QString& name) {
 }
 
 struct PlaylistRig : PlaybackRig {
-    explicit PlaylistRig(const QVariantMap& stored = {})
-        : PlaybackRig(stored) {
-        app.playlistObject = playlist.get();
-    }
+    using PlaybackRig::PlaybackRig;
     bool add(const QStringList& names, Adding adding = Adding::replace, Starting starting = Starting::yes) {
         QList<QUrl> urls;
         for (const QString& name : names)
             urls.append(url(name));
-        return playlist->addURLs(urls, adding, starting);
+        return playlist.addURLs(urls, adding, starting);
     }
     QString order() const {
         QStringList names;
-        for (const QString& text : playlist->arrayWithURLsAsStrings())
+        for (const QString& text : playlist.arrayWithURLsAsStrings())
             names.append(QUrl(text).fileName().section(u'.', 0, 0));
         return names.join(u' ');
     }
 
-    std::unique_ptr<QVPlaylistController> playlist = std::make_unique<QVPlaylistController>();
+    QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
 };
 
 } // namespace
 
 TEST(QVPlaylistController, added_movies_are_announced_and_start_to_play) {
     PlaylistRig rig;
-    Posts<QVPlaylistChangedNotification> changes;
-    Posts<QVPlaylistMovieChangedNotification> movies;
+    Posts<QVPlaylistChangedNotification> changes(rig.settings.notifications);
+    Posts<QVPlaylistMovieChangedNotification> movies(rig.settings.notifications);
     EXPECT_TRUE(rig.add({"a #1 100%.avi", "b.avi"}));
     EXPECT_EQ(changes.count, 1);
-    EXPECT_EQ(rig.view.movie(), rig.playlist->movieAtIndex(0));
+    EXPECT_EQ(rig.view.movie(), rig.playlist.movieAtIndex(0));
     EXPECT_TRUE(rig.view.isPlaying());
-    EXPECT_EQ(rig.playlist->currentInfoAsString(), "a #1 100%.avi (1/2)");
+    EXPECT_EQ(rig.playlist.currentInfoAsString(), "a #1 100%.avi (1/2)");
 
-    rig.playlist->playNext();
-    rig.playlist->setLooping(looping::all);
+    rig.playlist.playNext();
+    rig.playlist.setLooping(looping::all);
     rig.add({"c.avi"}, Adding::append);
-    EXPECT_EQ(rig.playlist->index(), 1U);
-    EXPECT_EQ(rig.playlist->looping(), looping::all);
+    EXPECT_EQ(rig.playlist.index(), 1U);
+    EXPECT_EQ(rig.playlist.looping(), looping::all);
     EXPECT_EQ(rig.order(), "a #1 100% b c");
     EXPECT_EQ(movies.count, 2);
-    rig.playlist->play(0);
-    rig.playlist->playPrevious();
-    EXPECT_EQ(rig.playlist->index(), 2U) << "the whole list is looped";
+    rig.playlist.play(0);
+    rig.playlist.playPrevious();
+    EXPECT_EQ(rig.playlist.index(), 2U) << "the whole list is looped";
     rig.add({"d.avi"}, Adding::replace, Starting::no);
     EXPECT_EQ(rig.order(), "d");
-    EXPECT_EQ(rig.playlist->looping(), looping::off) << "a new list begins with the default mode";
+    EXPECT_EQ(rig.playlist.looping(), looping::off) << "a new list begins with the default mode";
     EXPECT_FALSE(rig.view.isPlaying());
     rig.player().advance(5);
-    rig.playlist->playPrevious();
+    rig.playlist.playPrevious();
     EXPECT_EQ(rig.view.time(), 0) << "the first entry begins anew";
     EXPECT_TRUE(rig.view.isPlaying());
 }
@@ -87,13 +82,13 @@ TEST(QVPlaylistController, files_that_fail_are_reported_and_the_rest_plays) {
     EXPECT_TRUE(rig.desktop.alerts[2].message.contains("-2008"));
     EXPECT_FALSE(rig.desktop.alerts[2].otherButton.isEmpty());
     rig.desktop.alerts.clear();
-    rig.playlist->setReportsError(false);
+    rig.playlist.setReportsError(false);
     EXPECT_TRUE(rig.add(names));
     EXPECT_TRUE(rig.desktop.alerts.empty());
     EXPECT_EQ(rig.order(), "kept dropped odd good");
     rig.add({"broken.avi"});
     EXPECT_TRUE(rig.desktop.alerts.empty()) << "a list that is there stays";
-    EXPECT_EQ(rig.playlist->count(), 4U);
+    EXPECT_EQ(rig.playlist.count(), 4U);
 }
 
 TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
@@ -118,22 +113,22 @@ TEST(QVPlaylistController, the_current_movie_stays_current_when_the_list_is_arra
     rig.settings.defaults().setInteger(Arrangement::sorted, kQVPlaylistDefaultArrangement);
     rig.add({"Ep10.avi", "ep9.avi", "Ep1.avi"});
     EXPECT_EQ(rig.order(), "Ep1 ep9 Ep10");
-    EXPECT_EQ(rig.playlist->index(), 0U) << "a new list starts at its first entry";
-    rig.playlist->play(2);
-    const auto current = rig.playlist->movie();
+    EXPECT_EQ(rig.playlist.index(), 0U) << "a new list starts at its first entry";
+    rig.playlist.play(2);
+    const auto current = rig.playlist.movie();
     rig.settings.defaults().setBool(false, kQVSortNumerically);
-    platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{kQVSortNumerically});
+    rig.changePreference(kQVSortNumerically);
     EXPECT_EQ(rig.order(), "Ep1 Ep10 ep9");
-    EXPECT_EQ(rig.playlist->index(), 1U);
+    EXPECT_EQ(rig.playlist.index(), 1U);
 
     rig.settings.defaults().setInteger(Arrangement::shuffled, kQVPlaylistDefaultArrangement);
     QStringList many;
     for (int i = 0; i < 50; ++i)
         many.append(QStringLiteral("%1.avi").arg(i));
     rig.add(many, Adding::append);
-    EXPECT_EQ(rig.playlist->count(), 53U);
+    EXPECT_EQ(rig.playlist.count(), 53U);
     EXPECT_FALSE(rig.order().startsWith("Ep1 Ep10 ep9 0 1 2"));
-    EXPECT_EQ(rig.playlist->movie(), current);
+    EXPECT_EQ(rig.playlist.movie(), current);
     EXPECT_EQ(rig.view.movie(), current);
 }
 
@@ -155,41 +150,41 @@ TEST(QVPlaylistController, the_end_of_a_movie_is_acted_on_a_pass_later) {
         SCOPED_TRACE(testing::Message() << c.mode << c.next << c.quit << " at " << c.start);
         PlaylistRig rig({{kQVPlaylistDefaultLooping, c.mode}, {kQVPlaylistAutoQuit, c.quit}});
         rig.settings.defaults().setBool(c.next, kQVPlaylistAutoNext);
-        platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{kQVPlaylistAutoNext});
+        rig.changePreference(kQVPlaylistAutoNext);
         rig.add({"a.avi", "b.avi"});
-        rig.playlist->play(c.start);
+        rig.playlist.play(c.start);
         rig.player().reachEnd();
         EXPECT_FALSE(rig.view.isPlaying());
         rig.settings.runLoop.runPending();
-        EXPECT_EQ(rig.playlist->index(), c.then);
+        EXPECT_EQ(rig.playlist.index(), c.then);
         EXPECT_EQ(rig.view.isPlaying(), c.plays);
         EXPECT_EQ(rig.view.time(), c.plays ? 0 : 36000);
-        EXPECT_EQ(rig.playlist->isFinished(), c.quits);
+        EXPECT_EQ(rig.playlist.isFinished(), c.quits);
         EXPECT_EQ(rig.app.actions, c.quits ? 1 : 0);
     }
 }
 
 TEST(QVPlaylistController, looping_modes_go_round_and_are_announced_once) {
     PlaylistRig rig;
-    Posts<QVPlaylistLoopingChangedNotification> posts;
+    Posts<QVPlaylistLoopingChangedNotification> posts(rig.settings.notifications);
     QStringList texts;
     for (int i = 0; i < 3; ++i) {
-        rig.playlist->toggleLooping(1);
-        texts.append(rig.playlist->loopingInfoAsString());
+        rig.playlist.toggleLooping(1);
+        texts.append(rig.playlist.loopingInfoAsString());
     }
     EXPECT_EQ(texts, (QStringList{"Loop: One", "Loop: All", "Loop: Off"}));
-    rig.playlist->toggleLooping(-1);
-    EXPECT_EQ(rig.playlist->looping(), looping::all);
+    rig.playlist.toggleLooping(-1);
+    EXPECT_EQ(rig.playlist.looping(), looping::all);
     EXPECT_EQ(posts.count, 4);
     rig.settings.defaults().setInteger(looping::one, kQVPlaylistDefaultLooping);
-    platform::NotificationCenter::defaultCenter().post(QVPreferencesChangedNotification{kQVPlaylistDefaultLooping});
-    EXPECT_EQ(rig.playlist->looping(), looping::one);
+    rig.changePreference(kQVPlaylistDefaultLooping);
+    EXPECT_EQ(rig.playlist.looping(), looping::one);
 }
 
 TEST(QVPlaylistController, the_folder_of_the_last_movie_is_where_the_next_open_panel_starts) {
     PlaylistRig rig;
     const auto folderAfter = [&](const QList<QUrl>& list) {
-        rig.playlist->addURLs(list, Adding::append, Starting::no);
+        rig.playlist.addURLs(list, Adding::append, Starting::no);
         return rig.settings.defaults().stringForKey(kNSNavLastRootDirectory);
     };
     EXPECT_EQ(folderAfter({url("a.avi"), QUrl::fromLocalFile(QDir::homePath() + "/Films/b.avi")}), "~/Films");

@@ -110,7 +110,8 @@ private:
 class SubtitlesController : public testing::Test {
 protected:
     std::shared_ptr<QVMovie> movie(const QStringList& tracks) {
-        auto made = QVMovie::movieWithURL(QUrl(QStringLiteral("file:///movies/a.mp4")));
+        auto made = QVMovie::movieWithURL(rig.settings.environment, {rig.toolkit, rig.desktop, registry, rig.discovery},
+                                          QUrl(QStringLiteral("file:///movies/a.mp4")));
         for (const QString& track : tracks)
             made->addSubtitleFile(track);
         return made;
@@ -121,12 +122,12 @@ protected:
         return made;
     }
     template <class Notification>
-    static void post(const Notification& notification) {
-        platform::NotificationCenter::defaultCenter().post(notification);
+    void post(const Notification& notification) {
+        rig.post(notification);
     }
     void change(const QString& key, int value) {
         rig.settings.defaults().setInteger(value, key);
-        post(QVPreferencesChangedNotification{key, {}});
+        rig.changePreference(key);
     }
     QString info() const { return controller.currentInfoAsString().section(u' ', 1); }
     bool displayStored() { return rig.settings.defaults().boolForKey(kQVDisplaySubtitles); }

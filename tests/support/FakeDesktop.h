@@ -7,12 +7,18 @@
 
 #include <functional>
 #include <limits>
+#include <utility>
 #include <vector>
 
 /// A desktop that records what it is asked and answers as the test says. It is the shared one while it lives.
 class FakeDesktop final : public platform::Desktop {
 public:
-    FakeDesktop() { setShared(this); }
+    /// One screen of 1440 by 900 to begin with, unless others are given.
+    explicit FakeDesktop(std::vector<platform::Screen> screens = {}) {
+        if (!screens.empty())
+            screenList = std::move(screens);
+        setShared(this);
+    }
     ~FakeDesktop() override { setShared(nullptr); }
 
     /// The alerts shown, in order; each takes the next of the answers, 1 when there is none left.
@@ -25,7 +31,6 @@ public:
     QStringList openPanelFolders;
     QList<QStringList> openPanelAnswers;
 
-    /// One of 1440 by 900 to begin with.
     std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, "Main"}};
     /// By the screens' numbers; a screen that is missing cannot be read.
     QHash<std::uint32_t, float> brightnessLevels;

@@ -1,31 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/FeedbackDisplay.h"
+#include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/window/Window.h"
+#include "playback/DropTarget.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
+#include "playback/SubtitleDiscovery.h"
 #include "tests/support/FakeApp.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeSubtitles.h"
+#include "tests/support/Posts.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/ScriptedToolkit.h"
 #include "tests/support/TestEnvironment.h"
 
-#include <optional>
+/// Takes nothing that is dragged in.
+class NoDrops final : public DropTarget {
+    std::uint32_t draggingEntered(const platform::DraggingInfo&) override { return platform::dragOperation::none; }
+    std::uint32_t draggingUpdated(const platform::DraggingInfo&) override { return platform::dragOperation::none; }
+    bool performDragOperation(const platform::DraggingInfo&) override { return false; }
+};
 
-/// How often a notification was posted, and the last one.
-template <class Notification>
-class Posts {
+/// Keeps the confirmation posted last.
+class RecordedFeedback final : public FeedbackDisplay {
 public:
-    int count = 0;
-    std::optional<Notification> last;
-
-private:
-    platform::Subscription _subscription =
-        platform::NotificationCenter::defaultCenter().observe<Notification>([this](const Notification& posted) {
-            ++count;
-            last = posted;
-        });
+    QString last;
+    void postFeedback(const QString& message) override { last = message; }
 };
 
 /// A movie view in a window of 1440 by 900 points, on a scripted toolkit, with everything that it asks for at hand.
@@ -39,18 +42,32 @@ struct PlaybackRig {
     }
 
     ScriptedPlayer& player() { return toolkit.scriptedPlayer; }
-    /// Opens the plain movie of an address and shows it.
+    /// Opens the plain movie of an address.
+    std::shared_ptr<QVMovie> open(const QString& address) {
+        return QVMovie::movieWithURL(settings.environment, movies, QUrl(address));
+    }
+    /// Opens it and shows it.
     std::shared_ptr<QVMovie> show(const QString& address = QStringLiteral("file:///movies/a.mp4")) {
-        auto movie = QVMovie::movieWithURL(QUrl(address));
+        auto movie = open(address);
         view.setMovie(movie);
         return movie;
     }
+    template <class Notification>
+    void post(const Notification& notification) {
+        settings.notifications.post(notification);
+    }
+    void changePreference(const QString& settingsKey) { post(QVPreferencesChangedNotification{settingsKey, {}}); }
 
     TestEnvironment settings;
     FakeDesktop desktop;
     ScriptedToolkit toolkit;
+    FakeRegistry readers;
+    SubtitleDiscovery discovery{settings.runLoop};
+    MovieServices movies{toolkit, desktop, readers, discovery};
     FakeApp app;
+    RecordedFeedback confirmations;
+    NoDrops drops;
     RecordingHost host;
     platform::Window window{QRectF(0, 0, 1440, 900)};
-    QVMovieView view{toolkit.player()};
+    QVMovieView view{settings.environment, {toolkit.player(), desktop, app, confirmations, drops}};
 };

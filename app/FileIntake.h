@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "context/Environment.h"
+#include "platform/base/RunLoop.h"
+#include "playback/DropTarget.h"
+#include "playlist/OpenPanel.h"
+#include "playlist/QVPlaylistController.h"
+
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+namespace platform {
+class Desktop;
+} // namespace platform
+
+/// Takes what the user hands over, and gives it to the playlist as URLs: files opened with the application, which come
+/// one by one and are collected in a batch, those chosen in the open panel, and those dragged in. Main thread.
+class FileIntake final : public OpenPanel, public DropTarget {
+public:
+    /// Takes movies that are to be added and played.
+    using Sink = std::function<void(const QList<QUrl>& urls, Adding adding)>;
+
+    /// `types` are the file types that are taken (supportedFileTypes).
+    FileIntake(const Environment& environment, platform::Desktop& desktop, QStringList types, Sink sink);
+
+    /// Adds a path or URL to the batch, and opens one when there is none.
+    void openFile(const QString& pathOrUrl);
+    /// A batch is closed a pass of the run loop after it was opened; during the launch, by finishLaunching().
+    void startAddingFiles();
+    void finishAddingFiles();
+    bool isEmpty() const { return _added_files.isEmpty(); }
+    /// The movies of the launch are opened here.
+    void finishLaunching();
+    bool isLaunching() const { return _is_launching; }
+
+    void doOpen() override;
+
+    std::uint32_t draggingEntered(const platform::DraggingInfo& info) override;
+    std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
+    bool performDragOperation(const platform::DraggingInfo& info) override;
+
+private:
+    Environment _environment;
+    platform::Desktop& _desktop;
+    QStringList _types;
+    Sink _sink;
+    bool _is_adding_files = false;
+    bool _is_should_replace = true;
+    bool _is_launching = true;
+    QStringList _added_files;
+    std::unique_ptr<platform::Timer> _batchTimer;
+};

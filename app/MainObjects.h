@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/Activation.h"
+#include "app/CommandRelay.h"
+#include "app/CurrentTexts.h"
+#include "app/FileIntake.h"
+#include "app/MainMenu.h"
+#include "app/PointerAutohide.h"
+#include "app/QVAppController.h"
+#include "app/QVFullScreenWindow.h"
+#include "app/SubtitlesOverMovie.h"
+#include "context/Environment.h"
+#include "context/FeedbackDisplay.h"
+#include "control/QVMovieController.h"
+#include "playback/MovieServices.h"
+#include "playback/QVMovieView.h"
+#include "playback/SubtitleDiscovery.h"
+#include "playlist/QVPlaylistController.h"
+#include "subtitles/QVSubtitlesController.h"
+#include "subtitles/SubtitleRegistry.h"
+
+/// The player's main objects, made and joined: what each needs is handed to it here. Each is made after those that it
+/// asks, and goes before them; where two ask each other, the lower one asks through an interface that is joined here.
+/// Main thread.
+class MainObjects {
+public:
+    /// What the player stands on; all outlive it.
+    struct Platform {
+        platform::Desktop& desktop;
+        platform::MovieToolkit& toolkit;
+        const platform::Bundle& bundle;
+    };
+    MainObjects(const Environment& environment, const Platform& platform, LaunchSteps& steps);
+    MainObjects(const MainObjects&) = delete;
+    MainObjects& operator=(const MainObjects&) = delete;
+    ~MainObjects();
+
+    QVFullScreenWindow& window() { return _window; }
+    QVMovieView& view() { return _view; }
+    MainMenu& menu() { return _menu; }
+    QVPlaylistController& playlist() { return _playlist; }
+    QVAppController& application() { return _application; }
+
+private:
+    /// While it lives the application controller is gAppController.
+    class Publication {
+    public:
+        explicit Publication(QVAppController& application) { gAppController = &application; }
+        Publication(const Publication&) = delete;
+        Publication& operator=(const Publication&) = delete;
+        ~Publication() { gAppController = nullptr; }
+    };
+
+    CommandRelay _commands;
+    PointerAutohide _pointer;
+    FileIntake _files;
+    QVFullScreenWindow _window;
+    std::unique_ptr<FeedbackDisplay> _feedback;
+    SubtitleRegistry _subtitleReaders;
+    SubtitleDiscovery _subtitleDiscovery;
+    QVMovieView _view;
+    QVPlaylistController _playlist;
+    SubtitlesOverMovie _subtitleScene;
+    QVSubtitlesController _subtitles;
+    CurrentTexts _texts;
+    MainMenu _menu;
+    Activation _activation;
+    QVAppController _application;
+    Publication _publication{_application};
+    QVMovieController _controller;
+};
