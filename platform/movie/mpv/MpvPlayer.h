@@ -4,11 +4,12 @@
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MoviePlayer.h"
 #include "platform/movie/mpv/MpvPicture.h"
-#include "platform/movie/mpv/SeekPlanner.h"
+#include "platform/movie/mpv/PlayerState.h"
 
 #include <QObject>
 #include <QUrl>
 
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -29,7 +30,8 @@ struct PreparedPicture {
 };
 
 /// The player on libmpv. What is asked of it is kept as the wanted state, answered at once, and carried out
-/// asynchronously, so that it never waits for the core and can be asked before the core stands. Main thread.
+/// asynchronously, so that it never waits for the core and can be asked before the core stands. What follows from what
+/// is PlayerState's to say: here events become its events, and its effects commands and timers. Main thread.
 class MpvPlayer final : public QObject, public MoviePlayer {
 public:
     MpvPlayer();
@@ -44,18 +46,18 @@ public:
     void setObserver(Observer* observer) override { _observer = observer; }
     void load(Movie* movie) override;
     Movie* loaded() const override { return _movie; }
-    void play() override;
-    void pause() override;
-    bool isPlaying() const override { return _rate != 0; }
-    float rate() const override { return _rate; }
-    void setRate(float rate) override;
-    std::int32_t time() const override { return _time; }
-    void seek(std::int32_t time, JumpReport report) override;
-    void step(int direction) override;
-    float volume() const override { return _volume; }
-    void setVolume(float volume) override;
-    bool isMuted() const override { return _muted; }
-    void setMuted(bool muted) override;
+    void play() override { apply(playerEvent::Play{}); }
+    void pause() override { setRate(0); }
+    bool isPlaying() const override { return _state.rate != 0; }
+    float rate() const override { return _state.rate; }
+    void setRate(float rate) override { apply(playerEvent::SetRate{rate, RunLoop::main().now()}); }
+    std::int32_t time() const override { return _state.time; }
+    void seek(std::int32_t time, JumpReport report) override { apply(playerEvent::Seek{time, report}); }
+    void step(int direction) override { apply(playerEvent::Step{direction}); }
+    float volume() const override { return _state.volume; }
+    void setVolume(float volume) override { apply(playerEvent::SetVolume{volume}); }
+    bool isMuted() const override { return _state.muted; }
+    void setMuted(bool muted) override { apply(playerEvent::SetMuted{muted}); }
     PictureLayer* pictureLayer() override { return &_picture; }
 
     /// Hands the core over, which is made on another thread; null when there will be none. Any thread, once.
@@ -67,30 +69,35 @@ private:
     void takePreparedPicture();
     void handleEvents();
     void handle(const mpv_event& event);
-    void fileFailed(int error);
-    /// A movie that cannot be played is at its end as soon as it is to play.
-    void endFailed();
-    void playbackRestarted();
-    void timeChanged(double seconds);
-    void endChanged(bool atEnd);
-    void seekDone();
-    void reachedEnd();
     void picturesDue();
+
+    void apply(const PlayerEvent& event);
+
+    void carryOut(const playerEffect::LoadFile& effect);
+    void carryOut(const playerEffect::StopFile&) { command({"stop"}); }
+    void carryOut(const playerEffect::SendSeek& effect);
+    void carryOut(const playerEffect::SendSteps& effect);
+    void carryOut(const playerEffect::SetPaused& effect) { setFlag("pause", effect.paused); }
+    void carryOut(const playerEffect::SetSpeed& effect) { setNumber("speed", effect.speed); }
+    void carryOut(const playerEffect::SetVolume& effect) { setNumber("volume", effect.volume); }
+    void carryOut(const playerEffect::SetMuted& effect) { setFlag("mute", effect.muted); }
+    void carryOut(const playerEffect::ArmTimer& effect);
+    void carryOut(const playerEffect::CancelTimer& effect) { timer(effect.timer).reset(); }
+    void carryOut(const playerEffect::CancelTimers&) { _timers = {}; }
+    void carryOut(const playerEffect::UseCorePicture&) { _picture.corePictureReady(); }
+
+    void tell(const playerReport::PictureChanged&);
+    void tell(const playerReport::PictureDue&);
+    void tell(const playerReport::StateChanged&);
+    void tell(const playerReport::ShowedFrame& report);
+    void tell(const playerReport::Jumped&);
+    void tell(const playerReport::ReachedEnd&);
+    void tell(const playerReport::Failed& report);
 
     void command(std::initializer_list<const char*> words);
     void setFlag(const char* property, bool value);
     void setNumber(const char* property, double value);
-    void sendLoad();
-    void send(const SeekPlanner::Seek& seek);
-    void sendSteps();
-    /// Brings the core's pause and speed to what is wanted.
-    void applyMotion();
-    bool isScrubbing() const { return _scrubTimer != nullptr; }
-    void startScrubbing();
-    void scrub();
-    void showTime(std::int32_t time);
-    std::int32_t toUnits(double seconds) const;
-    double toSeconds(std::int32_t units) const;
+    std::unique_ptr<Timer>& timer(PlayerTimer which) { return _timers[static_cast<std::size_t>(which)]; }
 
     std::unique_ptr<MpvCore> _delivered;
     std::unique_ptr<MpvCore> _core;
@@ -100,34 +107,9 @@ private:
     std::unique_ptr<Timer> _firstPictureWait;
     Observer* _observer = nullptr;
     Movie* _movie = nullptr;
-
-    // Wanted.
-    float _rate = 0;
-    float _volume = 1.0F;
-    bool _muted = false;
-    std::int32_t _time = 0;
-
-    // Where the core is.
-    std::int64_t _entriesSent = 0; // loads sent: the core numbers its entries alike
-    std::int64_t _entryStarted = 0;
-    bool _fileLoaded = false; // and its first picture shown
-    bool _corePaused = true;
-    double _coreSpeed = 1.0;
-    SeekPlanner _seeks;
-    bool _seekInFlight = false;
-    bool _pictureSinceSeek = false;
-    std::unique_ptr<Timer> _keyframeTimer;
-    std::unique_ptr<Timer> _failureTimer;
-    bool _failed = false;
-    bool _atEnd = false;
-    int _stepsWaiting = 0; // for the seek under way
-    bool _jumpToReport = false;
-    bool _holdsTime = false; // time() is what was asked for, until pictures move on from there
-
-    // Rates that the core cannot play are shown as a run of keyframes on a clock of our own.
-    std::unique_ptr<Timer> _scrubTimer;
-    double _scrubLast = 0;
-    double _scrubPosition = 0;
+    PlayerState _state;
+    std::uint64_t _loads = 0;
+    std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 
     std::atomic<bool> _eventsPosted{false};
     std::atomic<bool> _picturesPosted{false};

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-std::optional<SeekPlanner::Seek> SeekPlanner::request(double seconds, Precision precision, bool hasPictures) {
-    const Request wanted{seconds, precision, hasPictures};
+std::optional<SeekPlanner::Seek> SeekPlanner::request(double seconds, Precision precision) {
+    const Request wanted{seconds, precision};
     if (!_busy)
         return begin(wanted);
     _waiting = wanted;
@@ -18,8 +18,8 @@ std::optional<SeekPlanner::Seek> SeekPlanner::begin(const Request& request) {
     _refine.reset();
     if (request.precision == Precision::keyframeOnly)
         return Seek{request.seconds, Kind::keyframe};
-    // The beginning is a keyframe, and sound has none.
-    if (!request.hasPictures || request.seconds <= 0)
+    // The beginning is a keyframe.
+    if (request.precision == Precision::exact || request.seconds <= 0)
         return Seek{request.seconds, Kind::exact};
     _refine = request.seconds;
     return Seek{request.seconds, Kind::keyframe};
@@ -33,10 +33,6 @@ std::optional<SeekPlanner::Seek> SeekPlanner::done() {
         return std::nullopt;
     _busy = true;
     return Seek{*std::exchange(_refine, std::nullopt), Kind::exact};
-}
-
-void SeekPlanner::reset() {
-    *this = SeekPlanner();
 }
 
 } // namespace platform

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/movie/MoviePlayer.h"
+#include "platform/movie/mpv/SeekPlanner.h"
+
+#include <array>
+#include <cassert>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <variant>
+
+namespace platform {
+
+/// What the player has to know of the movie that it plays; times in the movie's units.
+struct LoadedMovie {
+    std::int32_t duration = 0; ///< 0 when it is not known.
+    std::int32_t timeScale = 600;
+    enum class Content { sound, pictures } content = Content::pictures;
+    friend bool operator==(const LoadedMovie&, const LoadedMovie&) = default;
+};
+
+/// The timers that the player asks for. The scrubbing one repeats.
+enum class PlayerTimer { keyframe, failure, scrub };
+inline constexpr std::size_t playerTimerCount = 3;
+
+/// What happens to the player. Times in seconds are the core's, `now` is the run loop's.
+namespace playerEvent {
+
+struct CoreReady {};
+struct CoreDropped {};
+
+/// A movie is loaded in place of the one before, at a time of its own; none unloads.
+struct Load {
+    std::optional<LoadedMovie> movie;
+    std::int32_t time = 0;
+};
+struct Play {};
+struct SetRate {
+    float rate;
+    double now;
+};
+struct Seek {
+    std::int32_t time;
+    MoviePlayer::JumpReport report;
+};
+/// One picture forward (+1) or back (-1).
+struct Step {
+    int direction;
+};
+struct SetVolume {
+    float volume;
+};
+struct SetMuted {
+    bool muted;
+};
+struct TimerFired {
+    PlayerTimer timer;
+    double now;
+};
+
+// The core numbers what it loads from 1.
+struct FileStarted {
+    std::int64_t entry;
+};
+struct FileFailed {
+    std::int64_t entry;
+    int error;
+};
+/// Pictures come again, after a load or a seek.
+struct PlaybackRestarted {};
+struct TimeChanged {
+    double seconds;
+};
+/// The core stands at the movie's end, or does not any more.
+struct EndChanged {
+    bool atEnd;
+};
+/// A picture is to be taken from the core.
+struct PictureDue {};
+
+} // namespace playerEvent
+
+using PlayerEvent = std::variant<playerEvent::CoreReady, playerEvent::CoreDropped, playerEvent::Load, playerEvent::Play,
+                                 playerEvent::SetRate, playerEvent::Seek, playerEvent::Step, playerEvent::SetVolume,
+                                 playerEvent::SetMuted, playerEvent::TimerFired, playerEvent::FileStarted,
+                                 playerEvent::FileFailed, playerEvent::PlaybackRestarted, playerEvent::TimeChanged,
+                                 playerEvent::EndChanged, playerEvent::PictureDue>;
+
+/// What is to be done: commands to the core, which stands when one is asked for, and timers.
+namespace playerEffect {
+
+/// Loads the movie so that it starts at that many seconds.
+struct LoadFile {
+    double start;
+};
+struct StopFile {};
+struct SendSeek {
+    SeekPlanner::Seek seek;
+};
+/// That many pictures forward, or back where it is negative.
+struct SendSteps {
+    int count;
+};
+struct SetPaused {
+    bool paused;
+};
+struct SetSpeed {
+    double speed;
+};
+/// In hundredths, on the core's scale.
+struct SetVolume {
+    double volume;
+};
+struct SetMuted {
+    bool muted;
+};
+/// The timer fires that many seconds from now, whether it was armed or not.
+struct ArmTimer {
+    PlayerTimer timer;
+    double seconds;
+};
+struct CancelTimer {
+    PlayerTimer timer;
+};
+struct CancelTimers {};
+/// The pictures of the core are the movie's from here on.
+struct UseCorePicture {};
+
+} // namespace playerEffect
+
+using PlayerEffect = std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::SendSeek,
+                                  playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed,
+                                  playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::ArmTimer,
+                                  playerEffect::CancelTimer, playerEffect::CancelTimers, playerEffect::UseCorePicture>;
+
+/// What the observer and the movie are told.
+namespace playerReport {
+
+struct PictureChanged {};
+struct PictureDue {};
+struct StateChanged {};
+struct ShowedFrame {
+    std::int32_t time;
+};
+struct Jumped {};
+struct ReachedEnd {};
+struct Failed {
+    int error;
+};
+
+} // namespace playerReport
+
+using PlayerReport =
+    std::variant<playerReport::PictureChanged, playerReport::PictureDue, playerReport::StateChanged,
+                 playerReport::ShowedFrame, playerReport::Jumped, playerReport::ReachedEnd, playerReport::Failed>;
+
+/// A list that lies within itself: an event for each picture allocates nothing.
+template <class Item>
+class ShortList {
+public:
+    void push(const Item& item) {
+        assert(_count < _items.size());
+        _items[_count++] = item;
+    }
+    const Item* begin() const { return _items.data(); }
+    const Item* end() const { return _items.data() + _count; }
+
+private:
+    std::array<Item, 12> _items; // more than any event leads to
+    std::size_t _count = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,368 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/PlayerState.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+using namespace playerEffect;
+using namespace playerReport;
+using File = PlayerState::File;
+using JumpReport = MoviePlayer::JumpReport;
+using Precision = SeekPlanner::Precision;
+using SeekStage = PlayerState::SeekStage;
+using TimeSource = PlayerState::TimeSource;
+
+constexpr float fastestPlayed = 4.0F;
+constexpr double scrubInterval = 1.0 / 12;
+// How long the picture of a keyframe may take to reach the screen before the exact picture is asked for anyway.
+constexpr double keyframeTimeout = 0.1;
+// A movie that fails at once counts as ended after a moment: a list of nothing else must not spin.
+constexpr double failureDelay = 0.25;
+constexpr float maximumVolume = 3.0F;
+
+/// One transition under way.
+class Transition {
+public:
+    explicit Transition(const PlayerState& state)
+        : _result{state, {}, {}} {}
+    PlayerTransition result() && { return std::move(_result); }
+
+    // Loading
+
+    void operator()(const playerEvent::CoreReady&) {
+        _s.core = PlayerState::Core();
+        sendVolume();
+        effect(playerEffect::SetMuted{_s.muted});
+        if (_s.movie)
+            sendLoad();
+    }
+
+    void operator()(const playerEvent::CoreDropped&) {
+        _s.core.reset();
+        effect(CancelTimers{});
+    }
+
+    void operator()(const playerEvent::Load& load) {
+        PlayerState fresh;
+        fresh.movie = load.movie;
+        fresh.time = load.time;
+        fresh.volume = _s.volume;
+        fresh.muted = _s.muted;
+        fresh.core = _s.core;
+        fresh.seeks.hold();
+        _s = fresh;
+        effect(CancelTimers{});
+        if (_s.core && _s.movie)
+            sendLoad();
+        else if (_s.core)
+            effect(StopFile{});
+        report(PictureChanged{});
+    }
+
+    void operator()(const playerEvent::FileStarted& started) {
+        if (_s.core)
+            _s.core->entryStarted = started.entry;
+    }
+
+    void operator()(const playerEvent::FileFailed& failed) {
+        if (!_s.core || !_s.movie || failed.entry != _s.core->entriesSent)
+            return;
+        _s.file = File::failed;
+        report(Failed{failed.error});
+        endIfFailed();
+    }
+
+    // Motion
+
+    void operator()(const playerEvent::Play&) {
+        if (!_s.movie)
+            return;
+        if (_s.atEnd || (_s.movie->duration > 0 && _s.time >= _s.movie->duration))
+            seek(0, JumpReport::reported);
+        setRate(1.0F, 0);
+    }
+
+    void operator()(const playerEvent::SetRate& asked) { setRate(asked.rate, asked.now); }
+
+    void operator()(const playerEvent::Seek& asked) { seek(asked.time, asked.report); }
+
+    void operator()(const playerEvent::Step& asked) {
+        if (!hasPictures())
+            return;
+        setRate(0, 0);
+        // Sent while the core seeks, a step would play on to the end.
+        _s.stepsWaiting += asked.direction > 0 ? 1 : -1;
+        if (!_s.seeks.isBusy())
+            sendSteps();
+    }
+
+    void operator()(const playerEvent::TimerFired& fired) {
+        switch (fired.timer) {
+        case PlayerTimer::keyframe:
+            seekDone();
+            break;
+        case PlayerTimer::failure:
+            if (_s.rate > 0)
+                reachEnd();
+            break;
+        case PlayerTimer::scrub:
+            scrub(fired.now);
+            break;
+        }
+    }
+
+    // What the core reports
+
+    void operator()(const playerEvent::PlaybackRestarted&) {
+        if (!isOfMovie())
+            return;
+        if (_s.file == File::loading) {
+            _s.file = File::shown;
+            effect(UseCorePicture{});
+            report(PictureChanged{});
+        }
+        // The keyframe's picture has to be taken from the core before the next seek drops it.
+        if (hasPictures() && (_s.seekStage == SeekStage::sent || _s.seekStage == SeekStage::restarted)) {
+            _s.seekStage = SeekStage::restarted;
+            effect(ArmTimer{PlayerTimer::keyframe, keyframeTimeout});
+            return;
+        }
+        if (_s.seekStage == SeekStage::pictured)
+            effect(CancelTimer{PlayerTimer::keyframe});
+        seekDone();
+    }
+
+    void operator()(const playerEvent::PictureDue&) {
+        report(playerReport::PictureDue{});
+        // The next seek waits until the picture was taken.
+        if (_s.seekStage == SeekStage::restarted)
+            effect(ArmTimer{PlayerTimer::keyframe, 0});
+        if (_s.seekStage != SeekStage::none)
+            _s.seekStage = SeekStage::pictured;
+    }
+
+    void operator()(const playerEvent::TimeChanged& changed) {
+        if (!isOfMovie() || _s.file != File::shown || _s.seeks.isBusy() || _s.scrub ||
+            _s.timeSource == TimeSource::asked)
+            return;
+        std::int32_t time = toUnits(changed.seconds);
+        if (_s.movie->duration > 0)
+            time = std::min(time, _s.movie->duration);
+        if (std::exchange(_s.timeSource, TimeSource::core) == TimeSource::step) {
+            _s.time = time;
+            report(StateChanged{});
+            report(Jumped{});
+        } else {
+            showTime(time);
+        }
+    }
+
+    void operator()(const playerEvent::EndChanged& changed) {
+        if (!isOfMovie())
+            return;
+        _s.atEnd = changed.atEnd;
+        if (!changed.atEnd)
+            return;
+        _s.core->paused = true; // the core pauses itself there
+        if (_s.rate > 0 && !_s.seeks.isBusy() && !_s.scrub)
+            reachEnd();
+    }
+
+    // The rest
+
+    void operator()(const playerEvent::SetVolume& asked) {
+        if (std::isnan(asked.volume))
+            return;
+        _s.volume = std::clamp(asked.volume, 0.0F, maximumVolume);
+        if (_s.core)
+            sendVolume();
+        report(StateChanged{});
+    }
+
+    void operator()(const playerEvent::SetMuted& asked) {
+        _s.muted = asked.muted;
+        if (_s.core)
+            effect(playerEffect::SetMuted{_s.muted});
+        report(StateChanged{});
+    }
+
+private:
+    void effect(const PlayerEffect& wanted) { _result.effects.push(wanted); }
+    void report(const PlayerReport& told) { _result.reports.push(told); }
+
+    bool hasPictures() const { return _s.movie && _s.movie->content == LoadedMovie::Content::pictures; }
+    /// Whether what the core says is about the movie loaded last.
+    bool isOfMovie() const { return _s.core && _s.movie && _s.core->entryStarted == _s.core->entriesSent; }
+
+    std::int32_t toUnits(double seconds) const {
+        constexpr double largest = std::numeric_limits<std::int32_t>::max();
+        return static_cast<std::int32_t>(std::clamp(std::round(seconds * _s.movie->timeScale), 0.0, largest));
+    }
+    double toSeconds(std::int32_t units) const { return static_cast<double>(units) / _s.movie->timeScale; }
+
+    void sendVolume() {
+        // The core's volume is the cube root of the linear one, in hundredths.
+        effect(playerEffect::SetVolume{100.0 * std::cbrt(static_cast<double>(_s.volume))});
+    }
+
+    void sendLoad() {
+        applyMotion();
+        ++_s.core->entriesSent;
+        effect(LoadFile{toSeconds(_s.time)});
+    }
+
+    /// Brings the core's pause and speed to what is wanted.
+    void applyMotion() {
+        if (!_s.core)
+            return;
+        // Paused while it seeks, so that nothing is heard of the keyframe's place.
+        const bool paused = _s.rate == 0 || _s.scrub || _s.seekStage != SeekStage::none;
+        const double speed = _s.rate > 0 && !_s.scrub ? static_cast<double>(_s.rate) : 1.0;
+        if (std::exchange(_s.core->speed, speed) != speed)
+            effect(SetSpeed{speed});
+        if (std::exchange(_s.core->paused, paused) != paused)
+            effect(SetPaused{paused});
+    }
+
+    void setRate(float rate, double now) {
+        if (!_s.movie || std::isnan(rate) || rate == _s.rate)
+            return;
+        const bool isThere = (rate < 0 && _s.time <= 0) || (rate > 0 && _s.atEnd && !_s.seeks.isBusy());
+        _s.rate = isThere ? 0 : rate;
+        const bool scrubs = _s.rate < 0 || _s.rate > fastestPlayed;
+        if (scrubs && !_s.scrub) {
+            _s.scrub = {now, toSeconds(_s.time)};
+            effect(ArmTimer{PlayerTimer::scrub, scrubInterval});
+        } else if (!scrubs && _s.scrub) {
+            endScrubbing();
+            seek(_s.time, JumpReport::silent);
+        }
+        if (_s.rate != 0) {
+            _s.stepsWaiting = 0;
+            _s.timeSource = scrubs ? TimeSource::asked : TimeSource::core;
+        }
+        applyMotion();
+        endIfFailed();
+        report(StateChanged{});
+    }
+
+    void endScrubbing() {
+        if (std::exchange(_s.scrub, std::nullopt))
+            effect(CancelTimer{PlayerTimer::scrub});
+    }
+
+    void scrub(double now) {
+        if (!_s.scrub)
+            return;
+        const double position =
+            _s.scrub->position + static_cast<double>(_s.rate) * (now - std::exchange(_s.scrub->last, now));
+        if (_s.rate < 0 && position <= 0) {
+            _s.rate = 0;
+            endScrubbing();
+            seek(0, JumpReport::silent);
+            showTime(0);
+        } else if (_s.rate > 0 && position >= toSeconds(_s.movie->duration)) {
+            _s.rate = 0;
+            endScrubbing();
+            seek(_s.movie->duration, JumpReport::silent);
+            reachEnd();
+        } else {
+            _s.scrub->position = position;
+            request(position, Precision::keyframeOnly);
+            showTime(toUnits(position));
+        }
+    }
+
+    void seek(std::int32_t time, JumpReport jumpReport) {
+        if (!_s.movie)
+            return;
+        const std::int32_t end = _s.movie->duration > 0 ? _s.movie->duration : std::numeric_limits<std::int32_t>::max();
+        _s.time = std::clamp(time, 0, end);
+        _s.timeSource = TimeSource::asked;
+        _s.stepsWaiting = 0;
+        if (_s.scrub)
+            _s.scrub->position = toSeconds(_s.time);
+        request(toSeconds(_s.time), hasPictures() ? Precision::keyframeThenExact : Precision::exact);
+        if (jumpReport == JumpReport::reported)
+            report(Jumped{});
+        report(StateChanged{});
+    }
+
+    void request(double seconds, Precision precision) {
+        if (const auto next = _s.seeks.request(seconds, precision))
+            send(*next);
+    }
+
+    void send(const SeekPlanner::Seek& seek) {
+        _s.atEnd = false;
+        _s.seekStage = SeekStage::sent;
+        applyMotion();
+        effect(SendSeek{seek});
+    }
+
+    void seekDone() {
+        if (const auto next = _s.seeks.done()) {
+            send(*next);
+            return;
+        }
+        _s.seekStage = SeekStage::none;
+        if (_s.rate != 0 && !_s.scrub)
+            _s.timeSource = TimeSource::core;
+        if (_s.atEnd && _s.rate > 0) {
+            reachEnd();
+            return;
+        }
+        applyMotion();
+        if (_s.rate == 0)
+            sendSteps();
+    }
+
+    void sendSteps() {
+        if (_s.stepsWaiting == 0)
+            return;
+        _s.timeSource = TimeSource::step;
+        effect(SendSteps{std::exchange(_s.stepsWaiting, 0)});
+    }
+
+    void showTime(std::int32_t time) {
+        _s.time = time;
+        report(StateChanged{});
+        report(ShowedFrame{time});
+    }
+
+    /// A movie that cannot be played is at its end as soon as it is to play.
+    void endIfFailed() {
+        if (_s.file == File::failed && _s.rate > 0)
+            effect(ArmTimer{PlayerTimer::failure, failureDelay});
+    }
+
+    void reachEnd() {
+        _s.rate = 0;
+        _s.timeSource = TimeSource::asked;
+        endScrubbing();
+        applyMotion();
+        if (_s.movie->duration > 0)
+            _s.time = _s.movie->duration;
+        report(StateChanged{});
+        report(ReachedEnd{});
+    }
+
+    PlayerTransition _result;
+    PlayerState& _s = _result.state;
+};
+
+} // namespace
+
+PlayerTransition transition(const PlayerState& state, const PlayerEvent& event) {
+    Transition made(state);
+    std::visit(made, event);
+    return std::move(made).result();
+}
+
+} // namespace platform

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/LoadOptions.h"
+
+#include "platform/movie/Movie.h"
+
+#include <gtest/gtest.h>
+
+TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
+    const struct {
+        double start;
+        int quarterTurns;
+        QSizeF size;
+        const char* options;
+    } cases[] = {
+        {0, 0, {1920, 1080}, ""},
+        {0, 0, {1920, 1088}, ""},
+        {2.5, 0, {640, 360}, "start=2.500000"},
+        {0, 1, {360, 640}, "video-rotate=no,vf=%23%lavfi=[transpose=clock]"},
+        {0, 2, {640, 360}, "video-rotate=no,vf=%19%lavfi=[hflip,vflip]"},
+        {0, 3, {360, 640}, "video-rotate=no,vf=%24%lavfi=[transpose=cclock]"},
+        {0, 0, {1920, 1089}, "vd-lavc-threads=0"},
+        {0.04, 1, {2160, 3840}, "start=0.040000,video-rotate=no,vf=%23%lavfi=[transpose=clock],vd-lavc-threads=0"},
+    };
+    for (const auto& c : cases) {
+        platform::MovieInfo movie;
+        movie.quarterTurns = c.quarterTurns;
+        movie.naturalSize = c.size;
+        EXPECT_EQ(platform::loadOptions(movie, c.start).toStdString(), c.options);
+    }
+}
