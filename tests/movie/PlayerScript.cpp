@@ -2,6 +2,7 @@
 #include "tests/movie/PlayerScript.h"
 
 #include <sstream>
+#include <utility>
 
 using namespace platform;
 
