@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "control/Commands.h"
 #include "platform/window/Menu.h"
 
-/// The menu bar as a model. An item's action is one of the movie controller's (QVMovieController::handlesMenuAction),
-/// or one of these, which are the application's: doOpen, quit, showHelp, toggleController, cycleDisplays (tag:
-/// direction), performAction (tag: action code). Main thread.
+#include <array>
+
+/// The menu bar as a model, made from the table of commands: a menu for each section, an item for each command that has
+/// a place in it. The items' actions and tags are those that QVMovieController takes. Main thread.
 class MainMenu {
 public:
     MainMenu();
@@ -13,20 +15,13 @@ public:
     /// The menus of the bar, each a submenu.
     platform::Menu& bar() { return _bar; }
     /// Filled from the playlist, and from the movie's subtitle tracks, by the movie controller.
-    platform::Menu& playlistMenu() { return *_playlistMenu; }
-    platform::Menu& subtitlesMenu() { return *_subtitlesMenu; }
+    platform::Menu& playlistMenu() { return menu(Section::playlist); }
+    platform::Menu& subtitlesMenu() { return menu(Section::subtitles); }
 
 private:
-    platform::Menu& addMenu(const char* title);
-    void addFileMenu();
-    void addMovieMenu();
-    void addPlaybackMenu();
-    void addVolumeMenu();
-    void addSubtitlesMenu();
-    void addWindowMenu();
-    void addHelpMenu();
+    platform::Menu& menu(Section section) { return *_menus[static_cast<std::size_t>(section)]; }
+    void addItem(const Command& command);
 
     platform::Menu _bar;
-    platform::Menu* _playlistMenu = nullptr;
-    platform::Menu* _subtitlesMenu = nullptr;
+    std::array<platform::Menu*, sections.size()> _menus{};
 };

@@ -68,5 +68,5 @@ private:
     Activation _activation;
     QVAppController _application;
     Publication _publication{_application};
-    QVMovieController _controller;
+    QVMovieController _controller{_application};
 };

@@ -207,25 +207,16 @@ void QVAppController::showHelp() {
     _with.steps.runHelpPanel();
 }
 
+void QVAppController::cycleDisplays(std::int32_t direction) {
+    QVOSDOverlay::sharedOSDOverlay().cycleDisplays(direction);
+}
+
 bool QVAppController::validateMenuItem(platform::MenuItem& item) {
-    return !_with.controller.handlesMenuAction(item.action) || _with.controller.validateMenuItem(item);
+    return _with.controller.validateMenuItem(item);
 }
 
 void QVAppController::performMenuItem(const platform::MenuItem& item) {
-    if (_with.controller.handlesMenuAction(item.action))
-        _with.controller.performMenuItem(item);
-    else if (item.action == QStringLiteral("doOpen"))
-        doOpen();
-    else if (item.action == QStringLiteral("quit"))
-        _with.controller.performAction(action::quit, Feedback::yes);
-    else if (item.action == QStringLiteral("showHelp"))
-        showHelp();
-    else if (item.action == QStringLiteral("toggleController"))
-        _with.view.toggleController();
-    else if (item.action == QStringLiteral("cycleDisplays"))
-        QVOSDOverlay::sharedOSDOverlay().cycleDisplays(item.tag);
-    else if (item.action == QStringLiteral("performAction"))
-        _with.controller.performAction(item.tag, Feedback::yes);
+    _with.controller.performMenuItem(item);
 }
 
 void QVAppController::preferencesChanged(const QVPreferencesChangedNotification& notification) {

@@ -3,6 +3,7 @@
 
 #include "context/Environment.h"
 #include "context/QVAppContext.h"
+#include "control/ApplicationServices.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/desktop/Application.h"
@@ -27,7 +28,10 @@ class QVMovieController;
 
 /// The application's delegate: launch, menus, changes of the screens, termination. What is handed over, activation and
 /// the hiding of the pointer have objects of their own, to which it passes on what it is told. Main thread.
-class QVAppController final : public QVAppContext, public platform::ApplicationDelegate, public platform::MenuTarget {
+class QVAppController final : public QVAppContext,
+                              public platform::ApplicationDelegate,
+                              public platform::MenuTarget,
+                              public ApplicationServices {
 public:
     /// All outlive the controller.
     struct Collaborators {
@@ -81,7 +85,8 @@ public:
     void showCursor();
     void scheduleCursorHide() override;
     void doOpen() override;
-    void showHelp();
+    void showHelp() override;
+    void cycleDisplays(std::int32_t direction) override;
 
     bool validateMenuItem(platform::MenuItem& item) override;
     void performMenuItem(const platform::MenuItem& item) override;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "context/CommandTarget.h"
+#include "control/KeyboardMap.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/window/Menu.h"
@@ -10,19 +11,20 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
+#include <string_view>
 #include <vector>
 
+class ApplicationServices;
 class QVMovieView;
-struct KeyCommand;
 struct QVPlaylistChangedNotification;
 struct QVPlaylistMovieChangedNotification;
 
-/// The one place where commands become effects: action codes, keys, menu items. It is the main window's delegate. Main
-/// thread.
+/// The one place where commands become effects: action codes, keys, menu items. It is the main window's delegate. What
+/// the commands are says their table (control/CommandTable.cpp). Main thread.
 class QVMovieController final : public CommandTarget, public platform::MenuTarget, public platform::WindowDelegate {
 public:
-    QVMovieController();
+    /// The application outlives the controller.
+    explicit QVMovieController(ApplicationServices& application);
     QVMovieController(const QVMovieController&) = delete;
     QVMovieController& operator=(const QVMovieController&) = delete;
     ~QVMovieController() override;
@@ -36,9 +38,7 @@ public:
     void startRepeatingAction(std::int32_t action, double interval, Feedback feedback);
     void stopRepeatingAction();
 
-    /// Whether a menu item's action is one of the movie controller's: changeSize, changeVolume, changeLooping,
-    /// playPrevNext, jump, beginningEnd, fastForwardRewind, startStop, changeMovie, changeSubtitles.
-    bool handlesMenuAction(const QString& action) const;
+    /// The items' actions are the names of the commands' operations. Items of other actions are enabled and do nothing.
     bool validateMenuItem(platform::MenuItem& item) override;
     void performMenuItem(const platform::MenuItem& item) override;
 
@@ -48,50 +48,64 @@ public:
     bool windowShouldClose(platform::Window& window) override;
 
 private:
-    // Commands. Directions are +1 and -1; others do nothing.
-    void _startStop(Feedback feedback);
-    void _fastForward(Feedback feedback);
-    void _fastRewind(Feedback feedback);
-    void muteForFastMotion();
-    void _setVolumeCtrl(std::int32_t control, Feedback feedback);
-    void _jump(std::int32_t direction, Feedback feedback);
-    void _cycleSubtitles(std::int32_t direction, Feedback feedback);
-    void _switchScreen(std::int32_t direction, Feedback feedback);
-    void _quit(Feedback feedback);
-    void _sleep(Feedback feedback);
-    // These always confirm.
-    void _step(std::int32_t direction);
-    void _beginEnd(std::int32_t direction);
-    void _prevNext(std::int32_t direction);
+    friend struct CommandTable;
 
-    bool carryOut(const KeyCommand& command);
-    void toggleController();
-    void cycleDisplays(std::int32_t direction);
-    void toggleLooping(std::int32_t direction);
+    // Operations, as the table of commands names them. Directions are +1 and -1; others do nothing. Some confirm
+    // whatever the feedback says.
+    void startStop(std::int32_t, Feedback feedback);
+    void normalSpeed(std::int32_t, Feedback feedback);
+    void fastForward(std::int32_t, Feedback feedback);
+    void fastRewind(std::int32_t, Feedback feedback);
+    void fastForwardRewind(std::int32_t direction, Feedback feedback);
+    void step(std::int32_t direction, Feedback feedback);
+    void jump(std::int32_t direction, Feedback feedback);
+    void beginningEnd(std::int32_t direction, Feedback feedback);
+    void playPrevNext(std::int32_t direction, Feedback feedback);
+    void changeLooping(std::int32_t mode, Feedback feedback);
+    void toggleLooping(std::int32_t direction, Feedback feedback);
+    void changeVolume(std::int32_t control, Feedback feedback);
+    void changeSize(std::int32_t code, Feedback feedback);
+    void toggleController(std::int32_t, Feedback feedback);
+    void cycleDisplays(std::int32_t direction, Feedback feedback);
+    void changeMovie(std::int32_t position, Feedback feedback);
+    void changeSubtitles(std::int32_t position, Feedback feedback);
+    void cycleSubtitles(std::int32_t direction, Feedback feedback);
+    void switchScreen(std::int32_t direction, Feedback feedback);
+    void doOpen(std::int32_t, Feedback feedback);
+    void showHelp(std::int32_t, Feedback feedback);
+    void quit(std::int32_t, Feedback feedback);
+    void sleep(std::int32_t, Feedback feedback);
+
+    // What their menu items say, and whether they are enabled.
+    bool validateSize(platform::MenuItem& item) const;
+    bool validateLooping(platform::MenuItem& item) const;
+    bool validatePrevNext(platform::MenuItem& item) const;
+    bool validateMotion(platform::MenuItem& item) const;
+    bool validateStartStop(platform::MenuItem& item) const;
+    bool validateMovie(platform::MenuItem& item) const;
+    bool validateSubtitles(platform::MenuItem& item) const;
+
+    void perform(const Command& command, std::int32_t argument, Feedback feedback);
     void restorePlayback();
-
-    void changeSize(std::int32_t tag);
-    void changeLooping(std::int32_t tag);
-    void fastForwardRewind(std::int32_t tag);
-    void changeMovie(std::int32_t tag);
-    void changeSubtitles(std::int32_t tag);
-
+    void muteForFastMotion();
     void repeatingActionTimer();
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
     void playlistChanged(const QVPlaylistChangedNotification& notification);
 
     bool isMoviePlaying() const;
+    /// Shows the localized text of the key as a confirmation.
+    void post(std::string_view key);
     /// Calls `work` later, unless the controller is gone by then.
     void performLater(double delay, std::function<void()> work);
 
+    ApplicationServices& _application;
     QVMovieView* _movieView;
     bool _forceMuted = false;
     std::unique_ptr<platform::Timer> _repeatingActionTimer;
-    std::int32_t _repeatingAction = -1;
+    std::int32_t _repeatingAction = noAction;
     Feedback _repeatingActionFeedback = Feedback::no;
-    /// When the arrow keys last doubled the speed, monotonic seconds.
-    std::optional<double> _lastRewind;
-    std::optional<double> _lastForward;
+    KeyboardMap _keyboardMap{commands()};
+    PacedTimes _pacedTimes;
     std::vector<std::unique_ptr<platform::Timer>> _delayedWork;
     platform::Subscription _movieChanged;
     platform::Subscription _playlistChanged;

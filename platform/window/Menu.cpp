@@ -2,18 +2,8 @@
 #include "platform/window/Menu.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace platform {
-
-Menu::Menu(QString title)
-    : _title(std::move(title)) {}
-
-MenuItem* Menu::itemWithTag(int tag) {
-    const auto found = std::ranges::find_if(
-        _items, [tag](const auto& item) { return !item->separator && !item->submenu && item->tag == tag; });
-    return found == _items.end() ? nullptr : found->get();
-}
 
 MenuItem& Menu::addItem(const QString& title, const QString& action, int tag) {
     MenuItem& item = *_items.emplace_back(std::make_unique<MenuItem>());
@@ -29,7 +19,7 @@ void Menu::addSeparator() {
 
 Menu& Menu::addSubmenu(const QString& title) {
     MenuItem& item = addItem(title, QString(), 0);
-    item.submenu = std::make_unique<Menu>(title);
+    item.submenu = std::make_unique<Menu>();
     return *item.submenu;
 }
 

@@ -18,7 +18,6 @@ struct MenuItem {
     QString action;
     int tag = 0;
     bool separator = false;
-    bool enabled = true;
     bool state = false; // the check mark
     /// The shortcut as Qt's portable text ("Ctrl+O"); empty for none. It acts while no menu is open, too.
     QString shortcut;
@@ -31,14 +30,9 @@ struct MenuItem {
 /// when it opens. Main thread.
 class Menu {
 public:
-    explicit Menu(QString title = QString());
-
-    const QString& title() const { return _title; }
     int count() const { return static_cast<int>(_items.size()); }
     MenuItem& itemAt(int index) { return *_items[static_cast<std::size_t>(index)]; }
     const MenuItem& itemAt(int index) const { return *_items[static_cast<std::size_t>(index)]; }
-    /// The first item with the tag, or null.
-    MenuItem* itemWithTag(int tag);
 
     MenuItem& addItem(const QString& title, const QString& action, int tag);
     void addSeparator();
@@ -50,7 +44,6 @@ public:
     void removeAllItemsBut(int count);
 
 private:
-    QString _title;
     std::vector<std::unique_ptr<MenuItem>> _items;
 };
 

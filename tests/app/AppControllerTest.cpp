@@ -285,7 +285,7 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     QVOSDOverlay::sharedOSDOverlay().setDisplayType(2);
     choose("cycleDisplays", 1);
     EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
-    choose("performAction", action::playPause);
+    choose("startStop");
     EXPECT_TRUE(rig.view.isPlaying());
     choose("quit");
     rig.settings.runLoop.advance(5);

@@ -2,6 +2,7 @@
 #include "control/QVMovieController.h"
 #include "context/MainWindow.h"
 #include "context/Notifications.h"
+#include "control/ApplicationServices.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "platform/base/Localization.h"
 #include "playlist/QVPlaylistController.h"
@@ -32,6 +33,23 @@ protected:
         void removeTrackingRects() override { calls << "remove"; }
     };
 
+    class RecordingServices final : public ApplicationServices {
+    public:
+        QStringList calls;
+        void doOpen() override { calls << "open"; }
+        void showHelp() override { calls << "help"; }
+        void cycleDisplays(std::int32_t direction) override { calls << QString("display %1").arg(direction); }
+        void windowDidBecomeKey(platform::Window&) override { calls << "became key"; }
+        void windowDidResignKey(platform::Window&) override { calls << "resigned key"; }
+    };
+    class RecordingSubtitles final : public QVSubtitlesController {
+    public:
+        QStringList calls;
+        void setCurrenWithIndex(std::int32_t index) override { calls << QString("track %1").arg(index); }
+        void cycleSubtitles(int direction) override { calls << QString("cycle %1").arg(direction); }
+        QString currentInfoAsString() const override { return "Subtitles: these"; }
+    };
+
     MovieController()
         : PlaybackRig({{kQVControllerVisible, false},
                        {kQVDefaultMovieSize, movieSize::normal},
@@ -43,7 +61,7 @@ protected:
         app.subtitlesObject = &subtitles;
         app.playlistMenuObject = &playlistMenu;
         app.subtitlesMenuObject = &subtitlesMenu;
-        controller = std::make_unique<QVMovieController>();
+        controller = std::make_unique<QVMovieController>(services);
         app.controllerObject = controller.get();
         feedback.postFeedback(QString());
     }
@@ -85,14 +103,183 @@ protected:
     }
 
     RecordingMainWindow mainWindow;
+    RecordingServices services;
     QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
-    QVSubtitlesController subtitles;
+    RecordingSubtitles subtitles;
     platform::Menu playlistMenu, subtitlesMenu;
     QVFeedbackOverlay& feedback = QVFeedbackOverlay::sharedFeedbackOverlay();
     std::unique_ptr<QVMovieController> controller;
 };
 
 } // namespace
+
+TEST_F(MovieController, Codes_act_and_confirm_as_asked_and_other_codes_do_nothing) {
+    addMovies(1);
+    const std::string volume = "Volume: ";
+    const struct {
+        std::int32_t code;
+        const char* does;
+        std::string confirms;
+        bool always = false; // whatever the feedback says
+    } cases[] = {
+        {0, "rate 1", text("Movie: Play")},
+        {1, "rate -2 muted", text("Fast Rewind x%d", {"2"})},
+        {2, "rate 2 muted", text("Fast Forward x%d", {"2"})},
+        {3, "step -1", text("Step Backward"), true},
+        {4, "step 1", text("Step Forward"), true},
+        {5, "time 6000", text("Jump Backward %d s", {"10"})},
+        {6, "time 18000", text("Jump Forward %d s", {"10"})},
+        {19, "volume 110", text("Volume: %@", {text("%d%%", {"110"}).c_str()})},
+        {20, "volume 90", text("Volume: %@", {text("%d%%", {"90"}).c_str()})},
+        {24, "cycle 1", "Subtitles: these"},
+        {25, "cycle -1", "Subtitles: these"},
+        {29, "hide", text("Screen: Next")},
+        {30, "hide", text("Screen: Previous")},
+        {31, "sleep", text("Sleep")},
+        {32, "quit", text("Quit")},
+    };
+    desktop.screenList.push_back({QRectF(1440, 0, 1024, 768), true, 2, "Beamer"});
+    const auto doneBy = [this](std::int32_t code, Feedback wanted) {
+        player().steps.clear();
+        subtitles.calls.clear();
+        mainWindow.calls.clear();
+        desktop.sleeps = desktop.terminations = 0;
+        controller->setForceMuted(false);
+        view.setRate(0);
+        view.setTime(12000);
+        view.setVolume(1);
+        feedback.postFeedback(QString());
+        controller->performAction(code, wanted);
+        QStringList done = subtitles.calls;
+        if (view.rate() != 0)
+            done << QString("rate %1").arg(view.rate());
+        if (view.isMuted())
+            done << "muted";
+        if (!player().steps.empty())
+            done << QString("step %1").arg(player().steps.front());
+        else if (view.time() != 12000)
+            done << QString("time %1").arg(view.time());
+        if (view.volume() != 1)
+            done << QString("volume %1").arg(qRound(view.volume() * 100));
+        view.setRate(0);
+        settings.runLoop.advance(feedback.fadingInInterval() + feedback.fadingDelayInterval() + 0.11);
+        done << mainWindow.calls;
+        done << QStringList(desktop.sleeps, "sleep") << QStringList(desktop.terminations, "quit");
+        settings.runLoop.advance(1);
+        return done.join(u' ').toStdString();
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(doneBy(c.code, Feedback::yes), c.does) << c.code;
+        EXPECT_EQ(posted(), c.confirms) << c.code;
+        EXPECT_EQ(doneBy(c.code, Feedback::no), c.does) << c.code;
+        EXPECT_EQ(posted(), c.always ? c.confirms : "") << c.code;
+    }
+    for (const std::int32_t code : {-1, 7, 18, 21, 22, 23, 26, 28, 33}) {
+        EXPECT_EQ(doneBy(code, Feedback::yes), "") << code;
+        EXPECT_EQ(posted(), "") << code;
+    }
+}
+
+TEST_F(MovieController, Keys_size_the_picture_and_say_so_and_menu_items_do_it_silently) {
+    addMovies(1);
+    const struct {
+        char16_t character;
+        std::int32_t code, size; // asked for, and then held by the view
+        const char* says;
+    } cases[] = {
+        {u'0', 0, 0, "Size: Half"},    {u'1', 1, 1, "Size: Normal"},    {u'2', 2, 2, "Size: Double"},
+        {u'3', 3, 3, "Size: Full"},    {u'4', 4, 4, "Size: Fit Width"}, {u'5', 5, 5, "Size: Fit Height"},
+        {u'+', -2, 6, "Size: Bigger"}, {u'-', -3, 6, "Size: Smaller"},
+    };
+    for (const auto& c : cases) {
+        const auto sizedBy = [&](auto&& act) {
+            view.setMovieSize(c.size == 1 ? movieSize::half : movieSize::normal, QVMovieView::Recalculation::ifChanged);
+            const double before = view.frame().width();
+            feedback.postFeedback(QString());
+            act();
+            EXPECT_EQ(view.movieSize(), c.size) << c.says;
+            EXPECT_EQ(view.frame().width() > before, c.code != 0 && c.code != -3) << c.says;
+        };
+        sizedBy([&] { EXPECT_TRUE(press(c.character)); });
+        EXPECT_EQ(posted(), text(c.says));
+        sizedBy([&] { perform("changeSize", c.code); });
+        EXPECT_EQ(posted(), "") << c.says;
+    }
+}
+
+TEST_F(MovieController, Keys_walk_through_looping_displays_and_subtitles_in_both_directions) {
+    EXPECT_TRUE(press(u'l'));
+    EXPECT_EQ(playlist.looping(), looping::one);
+    EXPECT_EQ(posted(), playlist.loopingInfoAsString().toStdString());
+    EXPECT_TRUE(press(u'l', held::shift));
+    EXPECT_EQ(playlist.looping(), looping::off);
+    EXPECT_EQ(posted(), playlist.loopingInfoAsString().toStdString());
+    EXPECT_TRUE(press(u'd') && press(u'd', held::shift));
+    EXPECT_EQ(services.calls, (QStringList{"display 1", "display -1"}));
+    EXPECT_TRUE(press(u's') && press(u's', held::shift));
+    EXPECT_EQ(subtitles.calls, (QStringList{"cycle 1", "cycle -1"}));
+    EXPECT_EQ(posted(), "Subtitles: these");
+}
+
+TEST_F(MovieController, The_controller_bar_is_confirmed_by_key_but_not_in_the_menu) {
+    addMovies(1);
+    EXPECT_TRUE(press(u'c'));
+    EXPECT_TRUE(view.isControllerVisible());
+    EXPECT_EQ(posted(), text("Controller: On"));
+    EXPECT_TRUE(press(u'c'));
+    EXPECT_FALSE(view.isControllerVisible());
+    EXPECT_EQ(posted(), text("Controller: Off"));
+    perform("toggleController", 0);
+    EXPECT_TRUE(view.isControllerVisible());
+    EXPECT_EQ(posted(), text("Controller: Off")) << "nothing new";
+}
+
+TEST_F(MovieController, The_space_bar_only_brings_fast_motion_back_to_normal_speed) {
+    addMovies(1);
+    EXPECT_FALSE(press(key::space));
+    view.start();
+    EXPECT_FALSE(press(key::space));
+    controller->performAction(action::fastForward, Feedback::yes);
+    EXPECT_TRUE(press(key::space, 0, true));
+    EXPECT_EQ(view.rate(), 2.0F);
+    EXPECT_TRUE(press(key::space));
+    EXPECT_EQ(view.rate(), 1.0F);
+    EXPECT_FALSE(view.isMuted());
+    EXPECT_EQ(posted(), text("Movie: Play"));
+}
+
+TEST_F(MovieController, Keys_with_modifiers_jump_and_go_to_the_ends_of_the_movie) {
+    addMovies(1);
+    view.setTime(12000);
+    const struct {
+        char16_t character;
+        std::uint32_t modifiers;
+        std::int32_t time;
+        std::string says;
+    } cases[] = {
+        {key::left, held::control, 6000, text("Jump Backward %d s", {"10"})},
+        {key::right, held::control, 12000, text("Jump Forward %d s", {"10"})},
+        {key::right, held::option, view.movie()->duration(), text("Movie: End")},
+        {key::left, held::option, 0, text("Movie: Beginning")},
+    };
+    for (const auto& c : cases) {
+        EXPECT_TRUE(press(c.character, c.modifiers));
+        EXPECT_EQ(view.time(), c.time) << c.says;
+        EXPECT_EQ(posted(), c.says);
+    }
+    view.setVolume(1);
+    EXPECT_TRUE(press(key::up, held::option) && press(key::down, held::option));
+    EXPECT_EQ(view.volume(), 1.0F) << "consumed without effect";
+}
+
+TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
+    perform("doOpen", 0);
+    perform("showHelp", 0);
+    perform("cycleDisplays", -1);
+    controller->windowDidBecomeKey(window);
+    controller->windowDidResignKey(window);
+    EXPECT_EQ(services.calls, (QStringList{"open", "help", "display -1", "became key", "resigned key"}));
+}
 
 TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_sound_back) {
     addMovies(2);
@@ -301,8 +488,12 @@ TEST_F(MovieController, Items_carry_their_tag_to_what_they_act_on) {
     EXPECT_EQ(playlist.looping(), looping::all);
     perform("changeSize", movieSize::half);
     EXPECT_EQ(view.movieSize(), movieSize::half);
+    EXPECT_EQ(posted(), text("Previous: %@", {playlist.currentInfoAsString()}));
     perform("jump", 1);
     EXPECT_EQ(view.time(), 10 * 600);
+    EXPECT_EQ(posted(), text("Jump Forward %d s", {"10"}));
+    perform("changeSubtitles", 3);
+    EXPECT_EQ(subtitles.calls, QStringList{"track 3"});
     perform("beginningEnd", 1);
     EXPECT_EQ(view.time(), view.movie()->duration());
     perform("beginningEnd", -1);

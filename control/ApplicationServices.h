@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+namespace platform {
+class Window;
+} // namespace platform
+
+/// What commands and the main window's delegate ask of the application. Main thread.
+class ApplicationServices {
+public:
+    virtual ~ApplicationServices() = default;
+
+    /// Shows the open panel; the files chosen go to the playlist.
+    virtual void doOpen() = 0;
+    /// Shows the help panel until it is closed.
+    virtual void showHelp() = 0;
+    /// Moves the on-screen display to its next (+1) or previous (-1) type, around.
+    virtual void cycleDisplays(std::int32_t direction) = 0;
+    /// The main window became key, or no longer is.
+    virtual void windowDidBecomeKey(platform::Window& window) = 0;
+    virtual void windowDidResignKey(platform::Window& window) = 0;
+};
