@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The composition of the player: the platform's real objects, and the player's own on top of them.
+#include "app/CommandLine.h"
+#include "app/LaunchSteps.h"
+#include "app/MainObjects.h"
+#include "app/OpeningFiles.h"
+#include "app/main/Modes.h"
+#include "app/main/RunSettings.h"
+#include "app/panels/HelpPanel.h"
+#include "context/Environment.h"
+#include "platform/base/Bundle.h"
+#include "platform/base/NotificationCenter.h"
+#include "platform/base/PrivateFolder.h"
+#include "platform/base/QtRunLoop.h"
+#include "platform/base/SettingsFile.h"
+#include "platform/desktop/linux/Backlight.h"
+#include "platform/desktop/linux/SessionBus.h"
+#include "platform/desktop/linux/SingleInstance.h"
+#include "platform/desktop/qt/QtDesktop.h"
+#include "platform/movie/mpv/MpvToolkit.h"
+#include "platform/window/qt/QtWindowHost.h"
+#include "settings/Tracing.h"
+
+#include <QFileInfo>
+
+#include <optional>
+
+namespace {
+
+/// A file named on the command line is taken at its word: what is missing or of an unknown type is tried, and reported
+/// by the playlist. Only folders are searched for movies by their types.
+QString asHandedOver(const QString& file) {
+    if (isURLString(file) || QFileInfo(file).isDir())
+        return file;
+    const bool isMovie = QFileInfo::exists(file) && isFileOfType(file, supportedFileTypes(platform::Bundle::main()));
+    return isMovie ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
+}
+
+QUrl firstMovie(const QStringList& files) {
+    return !files.isEmpty() && !isURLString(files.first()) && QFileInfo(files.first()).isFile()
+               ? QUrl::fromLocalFile(files.first())
+               : QUrl();
+}
+
+platform::Renderer chosenRenderer(const CommandLine& line) {
+    if (line.software)
+        return platform::Renderer::software;
+    // For drivers that the automatic choice gets wrong.
+    return qgetenv("LUMARO_RENDERER") == "opengl" ? platform::Renderer::openGL : platform::Renderer::automatic;
+}
+
+class Steps final : public LaunchSteps {
+public:
+    QWindow* window = nullptr;
+    void runHelpPanel() override { ::runHelpPanel(window); }
+};
+
+/// Both outlive the services.
+platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const platform::Backlight& backlight) {
+    const auto brightness = [&backlight](const QString& screen) {
+        int error = 0;
+        const float value = backlight.brightness(screen, error);
+        if (error != 0)
+            logAlways("%@: ERROR: Retrieving brightness for current screen: %d", "Screen", error);
+        return value;
+    };
+    return {[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }, brightness,
+            [&backlight](const QString& screen, float value) { backlight.setBrightness(screen, value); }};
+}
+
+} // namespace
+
+int play(int& count, char** arguments, const CommandLine& line) {
+    platform::SingleInstance instance(platform::SingleInstance::defaultSocketPath());
+    // Opening the first movie takes as long as starting the application: it begins first.
+    std::optional<platform::MpvToolkit> toolkit;
+    if (!instance.isTaken()) {
+        toolkit.emplace();
+        toolkit->prepare(firstMovie(line.files));
+    }
+    platform::HandOver files{line.append, {}};
+    for (const QString& file : line.files)
+        files.files.append(asHandedOver(file));
+    if (!toolkit) {
+        if (instance.handOver(files))
+            return exitSuccess;
+        toolkit.emplace();
+    }
+    platform::MovieToolkit::setShared(&*toolkit);
+
+    platform::QtDesktop desktop(count, arguments, QStringLiteral("Lumaro"));
+    platform::Desktop::setShared(&desktop);
+    platform::QtRunLoop loop;
+    platform::RunLoop::setMain(&loop);
+    platform::NotificationCenter notifications;
+    platform::NotificationCenter::setDefault(&notifications);
+    RunSettings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
+    if (!settings.apply(line))
+        return exitUsage;
+    const Environment environment{loop, notifications, settings.defaults()};
+
+    platform::SessionBus bus;
+    const platform::Backlight backlight(platform::Backlight::systemFolder(),
+                                        [&bus](const QString& light, unsigned level) {
+                                            bus.setBacklight(light, level);
+                                            return true;
+                                        });
+    desktop.setServices(desktopServices(bus, backlight));
+
+    int status = exitSuccess;
+    {
+        Steps steps;
+        MainObjects player(environment, {desktop, *toolkit, platform::Bundle::main()}, steps);
+        platform::QtWindowHost host(player.window(), chosenRenderer(line));
+        host.setMainMenu(player.menu().bar(), player.application());
+        desktop.setMainWindow(&host);
+        steps.window = &host;
+
+        const auto take = [&](const platform::HandOver& message) {
+            desktop.setAssumedModifiers(message.append ? platform::modifier::option : 0);
+            for (const QString& file : message.files)
+                player.application().openFile(file);
+            desktop.setAssumedModifiers(0);
+            host.makeKeyAndOrderFront();
+        };
+        instance.listen(take);
+        // After the first picture: nobody waits for it.
+        constexpr double sweepDelay = 5;
+        loop.perform([] { platform::PrivateFolder::sweep(); }, sweepDelay);
+        if (!files.files.isEmpty())
+            take(files);
+        status = desktop.run(player.application());
+    }
+    platform::Desktop::setShared(nullptr);
+    platform::NotificationCenter::setDefault(nullptr);
+    return status;
+}
