@@ -38,7 +38,7 @@ void FileIntake::openFile(const QString& pathOrUrl) {
 void FileIntake::startAddingFiles() {
     const TraceScope scope("-[QVAppController startAddingFiles]");
     _is_adding_files = true;
-    _is_should_replace = addingFor(QVGetModifierFlags()) == Adding::replace;
+    _is_should_replace = addingFor(QVGetModifierFlags(_desktop)) == Adding::replace;
     _added_files.reserve(25);
     // The files of one hand-over arrive one by one; the batch is closed when all have. At launch finishLaunching does
     // it.
@@ -77,7 +77,7 @@ void FileIntake::doOpen() {
     const QStringList chosen = _desktop.runOpenPanel(_types, folder);
     if (chosen.isEmpty())
         return;
-    const Adding adding = addingFor(QVGetModifierFlags());
+    const Adding adding = addingFor(QVGetModifierFlags(_desktop));
     _sink(urlsWithPathStrings(chosen, _types), adding);
 }
 

@@ -16,6 +16,7 @@ class SharedFeedback final : public FeedbackDisplay {
     void postFeedback(const QString& message) override {
         QVFeedbackOverlay::sharedFeedbackOverlay().postFeedback(message);
     }
+    double readingTime() const override { return QVFeedbackOverlay::sharedFeedbackOverlay().readingTime(); }
 };
 
 } // namespace
@@ -44,7 +45,9 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _texts(_view, _playlist, _subtitles)
     , _activation(environment, _window, _view, _pointer)
     , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _playlist,
-                                 _subtitles, _controller, _menu, _pointer, _files, _activation}) {
+                                 _subtitles, _controller, _menu, _pointer, _files, _activation})
+    , _controller(environment, {_window, _window, _view, _playlist, _subtitles, *_feedback, _pointer, platform.desktop,
+                                _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
     QVOSDOverlay::setTexts(&_texts);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);

@@ -41,6 +41,7 @@ public:
     MainMenu& menu() { return _menu; }
     QVPlaylistController& playlist() { return _playlist; }
     QVAppController& application() { return _application; }
+    QVMovieController& controller() { return _controller; }
 
 private:
     /// While it lives the application controller is gAppController.
@@ -68,5 +69,5 @@ private:
     Activation _activation;
     QVAppController _application;
     Publication _publication{_application};
-    QVMovieController _controller{_application};
+    QVMovieController _controller;
 };

@@ -200,8 +200,6 @@ void QVAppController::scheduleCursorHide() {
     _with.pointer.scheduleCursorHide();
 }
 
-// Menus
-
 void QVAppController::showHelp() {
     trace("%@: Launching Help panel ...", className);
     _with.steps.runHelpPanel();
@@ -209,14 +207,6 @@ void QVAppController::showHelp() {
 
 void QVAppController::cycleDisplays(std::int32_t direction) {
     QVOSDOverlay::sharedOSDOverlay().cycleDisplays(direction);
-}
-
-bool QVAppController::validateMenuItem(platform::MenuItem& item) {
-    return _with.controller.validateMenuItem(item);
-}
-
-void QVAppController::performMenuItem(const platform::MenuItem& item) {
-    _with.controller.performMenuItem(item);
 }
 
 void QVAppController::preferencesChanged(const QVPreferencesChangedNotification& notification) {

@@ -7,7 +7,6 @@
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/desktop/Application.h"
-#include "platform/window/Menu.h"
 #include "settings/QVPreferencesChangedNotification.h"
 
 #include <memory>
@@ -26,12 +25,9 @@ class PointerAutohide;
 class QVFullScreenWindow;
 class QVMovieController;
 
-/// The application's delegate: launch, menus, changes of the screens, termination. What is handed over, activation and
+/// The application's delegate: launch, changes of the screens, termination. What is handed over, activation and
 /// the hiding of the pointer have objects of their own, to which it passes on what it is told. Main thread.
-class QVAppController final : public QVAppContext,
-                              public platform::ApplicationDelegate,
-                              public platform::MenuTarget,
-                              public ApplicationServices {
+class QVAppController final : public QVAppContext, public platform::ApplicationDelegate, public ApplicationServices {
 public:
     /// All outlive the controller.
     struct Collaborators {
@@ -87,9 +83,6 @@ public:
     void doOpen() override;
     void showHelp() override;
     void cycleDisplays(std::int32_t direction) override;
-
-    bool validateMenuItem(platform::MenuItem& item) override;
-    void performMenuItem(const platform::MenuItem& item) override;
 
 private:
     void cleanup();

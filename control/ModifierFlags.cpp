@@ -4,7 +4,7 @@
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Events.h"
 
-std::uint32_t QVGetModifierFlags() {
+std::uint32_t QVGetModifierFlags(const platform::Desktop& desktop) {
     using namespace platform::modifier;
-    return platform::Desktop::shared().modifierFlags() & (capsLock | shift | control | option | command);
+    return desktop.modifierFlags() & (capsLock | shift | control | option | command);
 }

@@ -3,6 +3,10 @@
 
 #include <cstdint>
 
+namespace platform {
+class Desktop;
+} // namespace platform
+
 /// The modifier keys held at this moment (masks of platform::modifier), whatever events said: tells adding to the list
 /// (Option held) from replacing it. Main thread.
-std::uint32_t QVGetModifierFlags();
+std::uint32_t QVGetModifierFlags(const platform::Desktop& desktop);

@@ -2,11 +2,10 @@
 // How commands reach the movie controller: by code, by key, repeated, and what it does as the window's delegate.
 #include "control/QVMovieController.h"
 
+#include "context/FeedbackDisplay.h"
 #include "context/MainWindow.h"
 #include "context/Notifications.h"
-#include "context/QVAppContext.h"
 #include "control/ApplicationServices.h"
-#include "overlays/QVFeedbackOverlay.h"
 #include "platform/base/Localization.h"
 #include "playback/QVMovieView.h"
 #include "settings/Tracing.h"
@@ -22,13 +21,12 @@ constexpr double repeatInterval = 0.2;
 
 } // namespace
 
-QVMovieController::QVMovieController(ApplicationServices& application)
-    : _application(application)
-    , _movieView(gAppController ? gAppController->movieView() : nullptr) {
-    auto& center = platform::NotificationCenter::defaultCenter();
-    _movieChanged = center.observe<QVPlaylistMovieChangedNotification>(
+QVMovieController::QVMovieController(const Environment& environment, const Collaborators& collaborators)
+    : _environment(environment)
+    , _with(collaborators) {
+    _movieChanged = _environment.notifications.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
-    _playlistChanged = center.observe<QVPlaylistChangedNotification>(
+    _playlistChanged = _environment.notifications.observe<QVPlaylistChangedNotification>(
         [this](const auto& notification) { playlistChanged(notification); });
 }
 
@@ -53,11 +51,9 @@ bool QVMovieController::processKeyboardEvent(const platform::KeyEvent& event) {
         trace("%@: Key: 0x%04X, Char: \"%@\", Mods: %d, Repeat: %d", "QVMovieController",
               QString::number(event.keyCode, 16).toUpper().rightJustified(4, u'0'),
               event.charactersIgnoringModifiers.toLower(), event.modifierFlags, event.isRepeat);
-    const double now = platform::RunLoop::main().now();
-    const KeyMeaning meaning = _keyboardMap.meaning(event, {.isPlaying = isMoviePlaying(),
-                                                            .rate = _movieView ? _movieView->rate() : 0.0F,
-                                                            .now = now,
-                                                            .paced = _pacedTimes});
+    const double now = _environment.loop.now();
+    const KeyMeaning meaning = _keyboardMap.meaning(
+        event, {.isPlaying = _with.view.isPlaying(), .rate = _with.view.rate(), .now = now, .paced = _pacedTimes});
     switch (meaning.kind) {
     case Kind::passOn:
         return false;
@@ -83,7 +79,7 @@ bool QVMovieController::processKeyboardEvent(const platform::KeyEvent& event) {
 void QVMovieController::startRepeatingAction(std::int32_t action, double interval, Feedback feedback) {
     _repeatingAction = action;
     _repeatingActionFeedback = feedback;
-    _repeatingActionTimer = platform::RunLoop::main().schedule(interval, true, [this] { repeatingActionTimer(); });
+    _repeatingActionTimer = _environment.loop.schedule(interval, true, [this] { repeatingActionTimer(); });
     repeatingActionTimer();
 }
 
@@ -98,41 +94,37 @@ void QVMovieController::repeatingActionTimer() {
 void QVMovieController::setForceMuted(bool muted) {
     if (muted == _forceMuted)
         return;
-    if (_movieView)
-        _movieView->setMuted(muted);
+    _with.view.setMuted(muted);
     _forceMuted = muted;
 }
 
-bool QVMovieController::isMoviePlaying() const {
-    return _movieView && _movieView->isPlaying();
+void QVMovieController::post(std::string_view key) {
+    _with.feedback.postFeedback(platform::localizedString(QString::fromUtf8(key)));
 }
 
-void QVMovieController::post(std::string_view key) {
-    QVFeedbackOverlay::sharedFeedbackOverlay().postFeedback(platform::localizedString(QString::fromUtf8(key)));
+void QVMovieController::post(std::string_view format, const QString& argument) {
+    _with.feedback.postFeedback(platform::localizedFormat(QString::fromUtf8(format), {argument}));
 }
 
 void QVMovieController::performLater(double delay, std::function<void()> work) {
     std::erase_if(_delayedWork, [](const auto& timer) { return !timer->isValid(); });
-    _delayedWork.push_back(platform::RunLoop::main().schedule(delay, false, std::move(work)));
+    _delayedWork.push_back(_environment.loop.schedule(delay, false, std::move(work)));
 }
 
 void QVMovieController::windowDidBecomeKey(platform::Window& window) {
-    _application.windowDidBecomeKey(window);
+    _with.application.windowDidBecomeKey(window);
 }
 
 void QVMovieController::windowDidResignKey(platform::Window& window) {
-    _application.windowDidResignKey(window);
+    _with.application.windowDidResignKey(window);
 }
 
 void QVMovieController::windowDidResize(platform::Window& window) {
-    if (!gAppController || gAppController->window() != &window)
+    if (&window != &_with.window)
         return;
-    if (MainWindow* mainWindow = gAppController->mainWindow()) {
-        mainWindow->removeTrackingRects();
-        mainWindow->addTrackingRects();
-    }
-    if (_movieView)
-        _movieView->setMovieSize(_movieView->movieSize(), QVMovieView::Recalculation::forced);
+    _with.mainWindow.removeTrackingRects();
+    _with.mainWindow.addTrackingRects();
+    _with.view.setMovieSize(_with.view.movieSize(), QVMovieView::Recalculation::forced);
 }
 
 bool QVMovieController::windowShouldClose(platform::Window&) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "context/CommandTarget.h"
+#include "context/Environment.h"
 #include "control/KeyboardMap.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
@@ -14,8 +15,17 @@
 #include <string_view>
 #include <vector>
 
+namespace platform {
+class Desktop;
+} // namespace platform
+
 class ApplicationServices;
+class FeedbackDisplay;
+class MainWindow;
+class PointerHiding;
 class QVMovieView;
+class QVPlaylistController;
+class QVSubtitlesController;
 struct QVPlaylistChangedNotification;
 struct QVPlaylistMovieChangedNotification;
 
@@ -23,8 +33,23 @@ struct QVPlaylistMovieChangedNotification;
 /// the commands are says their table (control/CommandTable.cpp). Main thread.
 class QVMovieController final : public CommandTarget, public platform::MenuTarget, public platform::WindowDelegate {
 public:
-    /// The application outlives the controller.
-    explicit QVMovieController(ApplicationServices& application);
+    /// All outlive the controller.
+    struct Collaborators {
+        platform::Window& window;
+        /// The same window, for what only the main window does.
+        MainWindow& mainWindow;
+        QVMovieView& view;
+        QVPlaylistController& playlist;
+        QVSubtitlesController& subtitles;
+        FeedbackDisplay& feedback;
+        PointerHiding& pointer;
+        platform::Desktop& desktop;
+        ApplicationServices& application;
+        /// The menus that are filled from the playlist, and from the movie's subtitle tracks.
+        platform::Menu& playlistMenu;
+        platform::Menu& subtitlesMenu;
+    };
+    QVMovieController(const Environment& environment, const Collaborators& collaborators);
     QVMovieController(const QVMovieController&) = delete;
     QVMovieController& operator=(const QVMovieController&) = delete;
     ~QVMovieController() override;
@@ -92,14 +117,14 @@ private:
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
     void playlistChanged(const QVPlaylistChangedNotification& notification);
 
-    bool isMoviePlaying() const;
-    /// Shows the localized text of the key as a confirmation.
+    /// Shows the localized text of the key as a confirmation; the format's argument filled in.
     void post(std::string_view key);
+    void post(std::string_view format, const QString& argument);
     /// Calls `work` later, unless the controller is gone by then.
     void performLater(double delay, std::function<void()> work);
 
-    ApplicationServices& _application;
-    QVMovieView* _movieView;
+    Environment _environment;
+    Collaborators _with;
     bool _forceMuted = false;
     std::unique_ptr<platform::Timer> _repeatingActionTimer;
     std::int32_t _repeatingAction = noAction;

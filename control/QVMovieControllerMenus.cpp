@@ -3,7 +3,6 @@
 #include "control/QVMovieController.h"
 
 #include "context/Notifications.h"
-#include "context/QVAppContext.h"
 #include "platform/base/Localization.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
@@ -15,14 +14,6 @@ using platform::localizedString;
 using platform::MenuItem;
 
 namespace {
-
-QVPlaylistController* currentPlaylist() {
-    return gAppController ? gAppController->playlist() : nullptr;
-}
-
-QVSubtitlesController* currentSubtitles() {
-    return gAppController ? gAppController->subtitles() : nullptr;
-}
 
 /// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator while tracks follow.
 constexpr int fixedSubtitlesItems = 2;
@@ -45,82 +36,75 @@ void QVMovieController::performMenuItem(const MenuItem& item) {
 }
 
 bool QVMovieController::validateSize(MenuItem& item) const {
-    item.state = _movieView && item.tag == _movieView->movieSize();
+    item.state = item.tag == _with.view.movieSize();
     return true;
 }
 
 bool QVMovieController::validateLooping(MenuItem& item) const {
-    const QVPlaylistController* playlist = currentPlaylist();
-    item.state = playlist && item.tag == playlist->looping();
+    item.state = item.tag == _with.playlist.looping();
     return true;
 }
 
 bool QVMovieController::validatePrevNext(MenuItem& item) const {
-    const QVPlaylistController* playlist = currentPlaylist();
     if (item.tag == 1)
-        return playlist && playlist->willPlayNext();
+        return _with.playlist.willPlayNext();
     if (item.tag == -1)
-        return playlist && playlist->willPlayPrevious();
+        return _with.playlist.willPlayPrevious();
     return true;
 }
 
 bool QVMovieController::validateMotion(MenuItem& item) const {
     if (item.tag == 1)
         item.title =
-            localizedString(isMoviePlaying() ? QStringLiteral("Fast Forward") : QStringLiteral("Step Forward"));
+            localizedString(_with.view.isPlaying() ? QStringLiteral("Fast Forward") : QStringLiteral("Step Forward"));
     else if (item.tag == -1)
-        item.title = localizedString(isMoviePlaying() ? QStringLiteral("Rewind") : QStringLiteral("Step Backward"));
+        item.title =
+            localizedString(_with.view.isPlaying() ? QStringLiteral("Rewind") : QStringLiteral("Step Backward"));
     return true;
 }
 
 bool QVMovieController::validateStartStop(MenuItem& item) const {
-    item.title = localizedString(isMoviePlaying() && _movieView->rate() == 1.0F ? QStringLiteral("Pause")
-                                                                                : QStringLiteral("Play"));
+    item.title = localizedString(_with.view.isPlaying() && _with.view.rate() == 1.0F ? QStringLiteral("Pause")
+                                                                                     : QStringLiteral("Play"));
     return true;
 }
 
 bool QVMovieController::validateMovie(MenuItem& item) const {
-    const QVPlaylistController* playlist = currentPlaylist();
-    item.state = playlist && static_cast<std::uint32_t>(item.tag) == playlist->index();
+    item.state = static_cast<std::uint32_t>(item.tag) == _with.playlist.index();
     return true;
 }
 
 bool QVMovieController::validateSubtitles(MenuItem& item) const {
-    const QVSubtitlesController* subtitles = currentSubtitles();
-    const bool hasTracks = subtitles && subtitles->count() > 0;
-    item.state = hasTracks && static_cast<std::uint32_t>(item.tag) == subtitles->index();
+    const bool hasTracks = _with.subtitles.count() > 0;
+    item.state = hasTracks && static_cast<std::uint32_t>(item.tag) == _with.subtitles.index();
     return hasTracks;
 }
 
 void QVMovieController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
-    platform::Menu* menu = gAppController ? gAppController->subtitlesMenu() : nullptr;
-    if (!menu)
-        return;
-    menu->removeAllItemsBut(fixedSubtitlesItems);
-    const auto setFirstTitle = [menu](const QString& key) {
-        if (menu->count() > 0)
-            menu->itemAt(0).title = localizedString(key);
+    platform::Menu& menu = _with.subtitlesMenu;
+    menu.removeAllItemsBut(fixedSubtitlesItems);
+    const auto setFirstTitle = [&menu](const QString& key) {
+        if (menu.count() > 0)
+            menu.itemAt(0).title = localizedString(key);
     };
     if (notification.movie && !notification.movie->subtitles().empty()) {
         setFirstTitle(QStringLiteral("Off"));
-        if (menu->count() < fixedSubtitlesItems)
-            menu->addSeparator();
+        if (menu.count() < fixedSubtitlesItems)
+            menu.addSeparator();
         int index = 0;
         for (const auto& track : notification.movie->subtitles())
-            menu->addItem(track->title(), QStringLiteral("changeSubtitles"), index++);
+            menu.addItem(track->title(), QStringLiteral("changeSubtitles"), index++);
     } else {
         setFirstTitle(QStringLiteral("None"));
-        if (menu->count() >= fixedSubtitlesItems)
-            menu->removeItemAt(1);
+        if (menu.count() >= fixedSubtitlesItems)
+            menu.removeItemAt(1);
     }
 }
 
 void QVMovieController::playlistChanged(const QVPlaylistChangedNotification& notification) {
-    platform::Menu* menu = gAppController ? gAppController->playlistMenu() : nullptr;
-    if (!menu)
-        return;
-    menu->removeAllItems();
+    platform::Menu& menu = _with.playlistMenu;
+    menu.removeAllItems();
     int index = 0;
     for (const auto& movie : notification.movies)
-        menu->addItem(fileNameOfURL(movie->url()), QStringLiteral("changeMovie"), index++);
+        menu.addItem(fileNameOfURL(movie->url()), QStringLiteral("changeMovie"), index++);
 }

@@ -16,6 +16,7 @@ public:
 
     /// The switch is QVDisplayFeedback.
     void postFeedback(const QString& message) override;
+    double readingTime() const override { return fadingInInterval() + fadingDelayInterval(); }
 
 protected:
     const char* logName() const override { return "QVFeedbackOverlay"; }

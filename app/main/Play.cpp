@@ -112,7 +112,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         Steps steps;
         MainObjects player(environment, {desktop, *toolkit, platform::Bundle::main()}, steps);
         platform::QtWindowHost host(player.window(), chosenRenderer(line));
-        host.setMainMenu(player.menu().bar(), player.application());
+        host.setMainMenu(player.menu().bar(), player.controller());
         desktop.setMainWindow(&host);
         steps.window = &host;
 

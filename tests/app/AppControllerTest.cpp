@@ -275,8 +275,8 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     const auto choose = [&](const char* action, int tag = 0) {
         platform::Menu menu;
         platform::MenuItem& item = menu.addItem(QString(), action, tag);
-        EXPECT_TRUE(rig.app.validateMenuItem(item)) << action;
-        rig.app.performMenuItem(item);
+        EXPECT_TRUE(rig.objects->controller().validateMenuItem(item)) << action;
+        rig.objects->controller().performMenuItem(item);
     };
     choose("startStop");
     EXPECT_FALSE(rig.view.isPlaying());

@@ -118,3 +118,15 @@ TEST(Commands, the_table_of_keys_in_the_readme_is_the_one_that_the_commands_make
     EXPECT_EQ(shown.join(u'\n').toStdString(), made.join(u'\n').toStdString());
     platform::setLocalizationLanguages({});
 }
+
+TEST(Commands, every_text_of_a_command_is_translated) {
+    platform::setLocalizationLanguages({"de"});
+    std::set<std::string_view> texts;
+    for (const Command& command : commands())
+        texts.insert({sectionTitle(command.section), command.menu.title, command.help, command.confirmation});
+    texts.erase("");
+    texts.erase("Playlist"); // the same in German
+    for (const std::string_view text : texts)
+        EXPECT_NE(platform::localizedString(QString::fromUtf8(text)).toStdString(), text);
+    platform::setLocalizationLanguages({});
+}

@@ -3,11 +3,11 @@
 #include "context/MainWindow.h"
 #include "context/Notifications.h"
 #include "control/ApplicationServices.h"
-#include "overlays/QVFeedbackOverlay.h"
 #include "platform/base/Localization.h"
 #include "playlist/QVPlaylistController.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitlesController.h"
+#include "subtitles/SubtitleView.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -42,8 +42,16 @@ protected:
         void windowDidBecomeKey(platform::Window&) override { calls << "became key"; }
         void windowDidResignKey(platform::Window&) override { calls << "resigned key"; }
     };
+    /// The movie's tracks, without anything that shows them.
+    class NoViews final : public SubtitleScene {
+        std::unique_ptr<SubtitleView> createTextView() override { return nullptr; }
+        std::unique_ptr<ImageSubtitleView> createImageView() override { return nullptr; }
+        std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override { return movie; }
+        std::shared_ptr<SubtitleOwner> shownMovie() override { return nullptr; }
+    };
     class RecordingSubtitles final : public QVSubtitlesController {
     public:
+        using QVSubtitlesController::QVSubtitlesController;
         QStringList calls;
         void setCurrenWithIndex(std::int32_t index) override { calls << QString("track %1").arg(index); }
         void cycleSubtitles(int direction) override { calls << QString("cycle %1").arg(direction); }
@@ -56,14 +64,7 @@ protected:
                        {kQVJumpInterval, 10},
                        {kQVPlaylistAutoPlay, false},
                        {kQVPlaylistDefaultArrangement, 0}}) {
-        app.mainWindowObject = &mainWindow;
-        app.playlistObject = &playlist;
-        app.subtitlesObject = &subtitles;
-        app.playlistMenuObject = &playlistMenu;
-        app.subtitlesMenuObject = &subtitlesMenu;
-        controller = std::make_unique<QVMovieController>(services);
-        app.controllerObject = controller.get();
-        feedback.postFeedback(QString());
+        app.controllerObject = &controller;
     }
     ~MovieController() override { app.controllerObject = nullptr; }
 
@@ -73,7 +74,7 @@ protected:
             urls << QUrl::fromLocalFile(QString("/movies/movie %1.mp4").arg(number));
         playlist.addURLs(urls, Adding::append, Starting::no);
     }
-    std::string posted() const { return feedback.text().toStdString(); }
+    std::string posted() const { return confirmations.last.toStdString(); }
     static std::string text(const char* words, const QStringList& arguments = {}) {
         return platform::localizedFormat(words, arguments).toStdString();
     }
@@ -82,7 +83,7 @@ protected:
         event.charactersIgnoringModifiers = QChar(character);
         event.modifierFlags = modifiers;
         event.isRepeat = repeat;
-        return controller->processKeyboardEvent(event);
+        return controller.processKeyboardEvent(event);
     }
     static platform::MenuItem item(const char* action, int tag) {
         platform::MenuItem made;
@@ -93,7 +94,7 @@ protected:
     }
     void perform(const char* action, int tag) {
         platform::MenuItem chosen = item(action, tag);
-        controller->performMenuItem(chosen);
+        controller.performMenuItem(chosen);
     }
     static std::string titles(const platform::Menu& menu) {
         QStringList list;
@@ -105,10 +106,12 @@ protected:
     RecordingMainWindow mainWindow;
     RecordingServices services;
     QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
-    RecordingSubtitles subtitles;
+    NoViews scene;
+    RecordingSubtitles subtitles{&scene};
     platform::Menu playlistMenu, subtitlesMenu;
-    QVFeedbackOverlay& feedback = QVFeedbackOverlay::sharedFeedbackOverlay();
-    std::unique_ptr<QVMovieController> controller;
+    QVMovieController controller{settings.environment,
+                                 {window, mainWindow, view, playlist, subtitles, confirmations, app, desktop, services,
+                                  playlistMenu, subtitlesMenu}};
 };
 
 } // namespace
@@ -144,12 +147,12 @@ TEST_F(MovieController, Codes_act_and_confirm_as_asked_and_other_codes_do_nothin
         subtitles.calls.clear();
         mainWindow.calls.clear();
         desktop.sleeps = desktop.terminations = 0;
-        controller->setForceMuted(false);
+        controller.setForceMuted(false);
         view.setRate(0);
         view.setTime(12000);
         view.setVolume(1);
-        feedback.postFeedback(QString());
-        controller->performAction(code, wanted);
+        confirmations.last.clear();
+        controller.performAction(code, wanted);
         QStringList done = subtitles.calls;
         if (view.rate() != 0)
             done << QString("rate %1").arg(view.rate());
@@ -162,7 +165,7 @@ TEST_F(MovieController, Codes_act_and_confirm_as_asked_and_other_codes_do_nothin
         if (view.volume() != 1)
             done << QString("volume %1").arg(qRound(view.volume() * 100));
         view.setRate(0);
-        settings.runLoop.advance(feedback.fadingInInterval() + feedback.fadingDelayInterval() + 0.11);
+        settings.runLoop.advance(confirmations.readingTime() + 0.11);
         done << mainWindow.calls;
         done << QStringList(desktop.sleeps, "sleep") << QStringList(desktop.terminations, "quit");
         settings.runLoop.advance(1);
@@ -195,7 +198,7 @@ TEST_F(MovieController, Keys_size_the_picture_and_say_so_and_menu_items_do_it_si
         const auto sizedBy = [&](auto&& act) {
             view.setMovieSize(c.size == 1 ? movieSize::half : movieSize::normal, QVMovieView::Recalculation::ifChanged);
             const double before = view.frame().width();
-            feedback.postFeedback(QString());
+            confirmations.last.clear();
             act();
             EXPECT_EQ(view.movieSize(), c.size) << c.says;
             EXPECT_EQ(view.frame().width() > before, c.code != 0 && c.code != -3) << c.says;
@@ -239,7 +242,7 @@ TEST_F(MovieController, The_space_bar_only_brings_fast_motion_back_to_normal_spe
     EXPECT_FALSE(press(key::space));
     view.start();
     EXPECT_FALSE(press(key::space));
-    controller->performAction(action::fastForward, Feedback::yes);
+    controller.performAction(action::fastForward, Feedback::yes);
     EXPECT_TRUE(press(key::space, 0, true));
     EXPECT_EQ(view.rate(), 2.0F);
     EXPECT_TRUE(press(key::space));
@@ -276,45 +279,45 @@ TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
     perform("doOpen", 0);
     perform("showHelp", 0);
     perform("cycleDisplays", -1);
-    controller->windowDidBecomeKey(window);
-    controller->windowDidResignKey(window);
+    controller.windowDidBecomeKey(window);
+    controller.windowDidResignKey(window);
     EXPECT_EQ(services.calls, (QStringList{"open", "help", "display -1", "became key", "resigned key"}));
 }
 
 TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_sound_back) {
     addMovies(2);
     view.start();
-    controller->performAction(action::fastForward, Feedback::yes);
-    controller->performAction(action::fastForward, Feedback::yes);
+    controller.performAction(action::fastForward, Feedback::yes);
+    controller.performAction(action::fastForward, Feedback::yes);
     EXPECT_EQ(view.rate(), 4.0F);
     EXPECT_TRUE(view.isMuted());
     EXPECT_EQ(posted(), text("Fast Forward x%d", {"4"}));
-    controller->performAction(action::playPause, Feedback::yes);
+    controller.performAction(action::playPause, Feedback::yes);
     EXPECT_EQ(view.rate(), 1.0F);
     EXPECT_FALSE(view.isMuted());
     EXPECT_EQ(posted(), text("Movie: Play"));
-    controller->performAction(action::playPause, Feedback::yes);
+    controller.performAction(action::playPause, Feedback::yes);
     EXPECT_FALSE(view.isPlaying());
     EXPECT_EQ(app.cursorHides, 1);
 
     view.start();
-    controller->performAction(action::fastForward, Feedback::no);
+    controller.performAction(action::fastForward, Feedback::no);
     playlist.playNext();
-    EXPECT_FALSE(controller->forceMuted() || view.isMuted()) << "a new movie is heard";
+    EXPECT_FALSE(controller.forceMuted() || view.isMuted()) << "a new movie is heard";
     view.start();
     view.setMuted(true);
-    controller->performAction(action::fastRewind, Feedback::no);
+    controller.performAction(action::fastRewind, Feedback::no);
     EXPECT_EQ(view.rate(), -2.0F);
-    controller->performAction(action::playPause, Feedback::no);
+    controller.performAction(action::playPause, Feedback::no);
     EXPECT_TRUE(view.isMuted()) << "it was off before";
 }
 
 TEST_F(MovieController, Fast_rewind_starts_a_stopped_movie_backwards_except_at_its_beginning) {
     addMovies(1);
-    controller->performAction(action::fastRewind, Feedback::yes);
+    controller.performAction(action::fastRewind, Feedback::yes);
     EXPECT_EQ(view.rate(), 0.0F);
     view.setTime(6000);
-    controller->performAction(action::fastRewind, Feedback::yes);
+    controller.performAction(action::fastRewind, Feedback::yes);
     EXPECT_EQ(view.rate(), -2.0F);
     EXPECT_EQ(posted(), text("Fast Rewind x%d", {"2"}));
 }
@@ -353,7 +356,7 @@ TEST_F(MovieController, A_held_key_repeats_its_action_at_once_and_then_in_its_in
     EXPECT_FLOAT_EQ(view.volume(), 1.1F);
     platform::KeyEvent release;
     release.type = platform::KeyEvent::Type::up;
-    EXPECT_TRUE(controller->processKeyboardEvent(release));
+    EXPECT_TRUE(controller.processKeyboardEvent(release));
     settings.runLoop.advance(5);
     EXPECT_FLOAT_EQ(view.volume(), 1.1F);
 }
@@ -394,7 +397,7 @@ TEST_F(MovieController, Held_movie_keys_go_back_through_the_list_but_one_movie_f
 }
 
 TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_has_faded) {
-    controller->performAction(action::previousScreen, Feedback::yes);
+    controller.performAction(action::previousScreen, Feedback::yes);
     settings.runLoop.advance(5);
     EXPECT_TRUE(mainWindow.calls.isEmpty()) << "there is no other screen";
     EXPECT_EQ(posted(), "");
@@ -403,7 +406,7 @@ TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_h
     EXPECT_TRUE(press(key::tab));
     EXPECT_EQ(posted(), text("Screen: Next"));
     EXPECT_EQ(settings.defaults().integerForKey(kQVMainWindowScreen), 2);
-    settings.runLoop.advance(feedback.fadingInInterval() + feedback.fadingDelayInterval() + 0.11);
+    settings.runLoop.advance(confirmations.readingTime() + 0.11);
     EXPECT_EQ(mainWindow.calls, QStringList{"hide"});
     EXPECT_EQ(mainWindow.adopted.number, 0U);
     settings.runLoop.advance(0.5);
@@ -411,10 +414,10 @@ TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_h
 }
 
 TEST_F(MovieController, Sleep_waits_for_its_confirmation_and_closing_the_window_quits) {
-    controller->performAction(action::sleep, Feedback::no);
+    controller.performAction(action::sleep, Feedback::no);
     EXPECT_EQ(desktop.sleeps, 0);
-    EXPECT_FALSE(controller->windowShouldClose(window));
-    settings.runLoop.advance(feedback.fadingInInterval() + feedback.fadingDelayInterval());
+    EXPECT_FALSE(controller.windowShouldClose(window));
+    settings.runLoop.advance(confirmations.readingTime());
     EXPECT_EQ(desktop.sleeps, 1);
     EXPECT_EQ(desktop.terminations, 1);
 }
@@ -422,7 +425,7 @@ TEST_F(MovieController, Sleep_waits_for_its_confirmation_and_closing_the_window_
 TEST_F(MovieController, A_resized_main_window_gets_new_edge_areas_and_a_new_picture_size) {
     addMovies(1);
     view.setMovieSize(movieSize::fitWidth, QVMovieView::Recalculation::ifChanged);
-    window.setDelegate(controller.get());
+    window.setDelegate(&controller);
     window.setFrame(QRectF(0, 0, 720, 900));
     EXPECT_EQ(mainWindow.calls, (QStringList{"remove", "add"}));
     EXPECT_EQ(view.frame().width(), 720);
@@ -438,25 +441,40 @@ TEST_F(MovieController, Exactly_the_item_of_the_present_size_looping_and_movie_i
          {std::pair{"changeSize", movieSize::fitWidth}, {"changeLooping", looping::one}, {"changeMovie", 1}}) {
         for (int tag = -3; tag <= 6; ++tag) {
             platform::MenuItem validated = item(action, tag);
-            EXPECT_TRUE(controller->validateMenuItem(validated));
+            EXPECT_TRUE(controller.validateMenuItem(validated));
             EXPECT_EQ(validated.state, tag == checked) << action << tag;
         }
     }
     const auto isEnabled = [this](const char* action, int tag) {
         platform::MenuItem validated = item(action, tag);
-        return controller->validateMenuItem(validated);
+        return controller.validateMenuItem(validated);
     };
     EXPECT_TRUE(isEnabled("playPrevNext", -1) && isEnabled("playPrevNext", 1));
     playlist.setIndex(2);
     EXPECT_FALSE(isEnabled("playPrevNext", 1)) << "nothing follows the last movie";
-    EXPECT_FALSE(isEnabled("changeSubtitles", -1) || isEnabled("changeSubtitles", 0)) << "no tracks";
+    EXPECT_TRUE(isEnabled("playPrevNext", -1));
+    playlist.setIndex(0);
+    EXPECT_FALSE(isEnabled("playPrevNext", -1)) << "nothing precedes the first";
+    EXPECT_TRUE(isEnabled("playPrevNext", 1) && isEnabled("playPrevNext", 0));
+    platform::MenuItem none = item("changeSubtitles", -1);
+    EXPECT_FALSE(controller.validateMenuItem(none) || none.state) << "no tracks";
+    const auto movie = open("file:///movies/a.mp4");
+    movie->addSubtitleFile("German English");
+    post(QVPlaylistMovieChangedNotification{movie});
+    for (const int tag : {-1, 0, 1, 2}) {
+        platform::MenuItem track = item("changeSubtitles", tag);
+        EXPECT_TRUE(controller.validateMenuItem(track));
+        EXPECT_EQ(track.state, track.tag == static_cast<int>(subtitles.index())) << tag;
+    }
+    EXPECT_EQ(subtitles.index(), 0U);
+    EXPECT_TRUE(isEnabled("jump", 1) && isEnabled("noSuchAction", 0));
 }
 
 TEST_F(MovieController, Play_and_motion_items_are_named_after_what_they_would_do) {
     addMovies(1);
     const auto title = [this](const char* action, int tag) {
         platform::MenuItem validated = item(action, tag);
-        controller->validateMenuItem(validated);
+        controller.validateMenuItem(validated);
         return validated.title.toStdString();
     };
     const struct {

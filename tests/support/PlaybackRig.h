@@ -29,6 +29,7 @@ class RecordedFeedback final : public FeedbackDisplay {
 public:
     QString last;
     void postFeedback(const QString& message) override { last = message; }
+    double readingTime() const override { return 1.5; }
 };
 
 /// A movie view in a window of 1440 by 900 points, on a scripted toolkit, with everything that it asks for at hand.
