@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QRectF>
+#include "platform/base/Rect.h"
+
 #include <QSizeF>
 
 #include <array>
@@ -9,7 +10,7 @@
 /// An area at the window's edge that pans the picture towards it while the pointer is in it. Content coordinates
 /// (origin bottom left), points; the direction in the bits of panDirection.
 struct EdgeArea {
-    QRectF rect;
+    platform::Rect rect;
     int direction;
 };
 

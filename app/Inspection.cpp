@@ -80,7 +80,7 @@ void describeContent(const QVSubtitle& cue, const QString& image, QJsonObject& o
         object.insert(QStringLiteral("text"), cue.text());
         return;
     }
-    const QRectF rect = cue.rect();
+    const platform::Rect rect = cue.rect();
     object.insert(QStringLiteral("rect"), QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()});
     object.insert(QStringLiteral("forced"), cue.forced());
     if (!image.isEmpty())

@@ -15,13 +15,13 @@ namespace {
 
 constexpr const char* className = "QVFullScreenWindow";
 
-QRectF chosenFrame(const platform::UserDefaults& settings, const platform::Desktop& desktop) {
+platform::Rect chosenFrame(const platform::UserDefaults& settings, const platform::Desktop& desktop) {
     const std::vector<platform::Screen> screens = desktop.screens();
     const std::int32_t index = settings.integerForKey(kQVMainWindowScreen);
     if (index >= 0 && static_cast<std::size_t>(index) < screens.size() &&
         screens[static_cast<std::size_t>(index)].isScreen)
         return screens[static_cast<std::size_t>(index)].frame;
-    return screens.empty() ? QRectF(0, 0, 1280, 720) : screens.front().frame;
+    return screens.empty() ? platform::Rect(0, 0, 1280, 720) : screens.front().frame;
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "overlays/QVParentOverlay.h"
 #include "platform/window/PictureLayer.h"
 #include "platform/window/SceneComposer.h"
+#include "platform/window/SceneGeometry.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/support/TestSettings.h"
@@ -26,7 +27,7 @@ namespace {
 /// A screen of the benchmark's height with its main window on it, as many pixels as points.
 struct Scene {
     explicit Scene(std::int64_t height)
-        : root(QRectF(0, 0, static_cast<double>(height) * 16 / 9, static_cast<double>(height)),
+        : root(platform::Rect(0, 0, static_cast<double>(height) * 16 / 9, static_cast<double>(height)),
                kQVFullscreenOverlayStyle)
         , target(root.frame().size().toSize(), QImage::Format_RGB32) {
         root.orderFront();
@@ -42,8 +43,7 @@ struct Scene {
     }
     /// The part of the target that the overlay covers.
     QRegion place(const QVChildOverlay& overlay) const {
-        const QRectF frame = overlay.frame();
-        return QRectF(frame.x(), root.frame().height() - frame.bottom(), frame.width(), frame.height()).toAlignedRect();
+        return platform::sceneGeometry::toCoveringPixels(overlay.frame(), root.frame().size(), 1);
     }
     void compose(const QRegion& region) { benchmark::DoNotOptimize(composer.compose(target, region, 1)); }
 
@@ -90,16 +90,16 @@ BENCHMARK(tenThousandCharactersFromTextToComposed)
 /// A movie view that fills the scene.
 class WholeScreen final : public PictureGeometry {
 public:
-    explicit WholeScreen(const QRectF& screen)
+    explicit WholeScreen(const platform::Rect& screen)
         : _screen(screen) {}
-    QRectF pictureFrame() const override { return _screen; }
+    platform::Rect pictureFrame() const override { return _screen; }
     QSizeF sizeForFitScreen(std::int32_t) const override { return _screen.size(); }
     float aspectRatio() const override { return 16.0F / 9.0F; }
     bool isControllerBarVisible() const override { return false; }
     unsigned getControllerHeight() const override { return 0; }
 
 private:
-    QRectF _screen;
+    platform::Rect _screen;
 };
 
 /// Subpictures of 720 by 100 out of a data file, one after the other.
@@ -121,7 +121,7 @@ void aNewBitmapCueFromRunLengthsToComposed(benchmark::State& state) {
     tracks[0]->preload();
     tracks[0]->waitForLoading();
     const auto cues = tracks[0]->cues();
-    const WholeScreen picture(QRectF(QPointF(0, 0), scene.root.frame().size()));
+    const WholeScreen picture(platform::Rect(QPointF(0, 0), scene.root.frame().size()));
     QVImageSubView overlay(&scene.root, &picture);
     overlay.currentSubtitlesChanged(QVSubtitlesChangedNotification{tracks[0]});
     overlay.setSubtitle(cues[0]);
@@ -142,8 +142,8 @@ BENCHMARK(aNewBitmapCueFromRunLengthsToComposed)
 class Movie : public platform::View, public platform::PictureLayer {
 public:
     platform::PictureLayer* pictureLayer() override { return this; }
-    QRectF pictureRect() const override { return bounds(); }
-    QRectF drawnRect() const override { return QRectF(); }
+    platform::Rect pictureRect() const override { return bounds(); }
+    platform::Rect drawnRect() const override { return platform::Rect(); }
     bool renderPixels(const QRect&, const QRect&, unsigned char*, std::size_t) override { return true; }
     bool beginGL(platform::GLContext&) override { return false; }
     void endGL() override {}

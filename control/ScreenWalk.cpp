@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/ScreenWalk.h"
 
-std::size_t screenHolding(const std::vector<platform::Screen>& screens, const QRectF& window) {
+std::size_t screenHolding(const std::vector<platform::Screen>& screens, const platform::Rect& window) {
     std::size_t holding = 0;
     double largest = 0;
     for (std::size_t index = 0; index < screens.size(); ++index) {
-        const QRectF shared = screens[index].frame.intersected(window);
+        const platform::Rect shared = screens[index].frame.intersected(window);
         const double area = shared.width() * shared.height();
         if (area > largest) {
             largest = area;

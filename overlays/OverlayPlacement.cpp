@@ -24,11 +24,8 @@ double OverlayPlacement::backgroundMargin(const Panel& panel) {
     return (panel.backgroundRounded ? width(panel.radius) * 0.5 : 0) + (panel.frameOn ? width(panel.frameWidth) : 0);
 }
 
-QRectF OverlayPlacement::grown(const QRectF& rect, double margin) {
-    return {rect.x() - margin, rect.y() - margin, rect.width() + 2 * margin, rect.height() + 2 * margin};
-}
-
-double OverlayPlacement::horizontalOrigin(std::uint32_t alignment, const QRectF& parent, double width, double padding) {
+double OverlayPlacement::horizontalOrigin(std::uint32_t alignment, const platform::Rect& parent, double width,
+                                          double padding) {
     switch (alignment & horizontalMask) {
     case 0:
         return parent.x() + (parent.width() - width) * 0.5;
@@ -41,7 +38,8 @@ double OverlayPlacement::horizontalOrigin(std::uint32_t alignment, const QRectF&
     }
 }
 
-double OverlayPlacement::verticalOrigin(std::uint32_t alignment, const QRectF& parent, double height, double padding) {
+double OverlayPlacement::verticalOrigin(std::uint32_t alignment, const platform::Rect& parent, double height,
+                                        double padding) {
     switch (alignment & verticalMask) {
     case 0x00:
         return parent.y() + (parent.height() - height) * 0.5;
@@ -54,8 +52,8 @@ double OverlayPlacement::verticalOrigin(std::uint32_t alignment, const QRectF& p
     }
 }
 
-QRectF OverlayPlacement::placedInParent(const QRectF& rect, std::uint32_t alignment, const QRectF& parent,
-                                        double padding) {
+platform::Rect OverlayPlacement::placedInParent(const platform::Rect& rect, std::uint32_t alignment,
+                                                const platform::Rect& parent, double padding) {
     return {horizontalOrigin(alignment, parent, rect.width(), padding),
             verticalOrigin(alignment, parent, rect.height(), padding), rect.width(), rect.height()};
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QRectF>
+#include "platform/base/Rect.h"
 
 #include <cstdint>
 
@@ -27,14 +27,12 @@ struct Panel {
 /// How far the panel reaches beyond the content on every side.
 double backgroundMargin(const Panel& panel);
 
-/// The rectangle with the margin around it.
-QRectF grown(const QRectF& rect, double margin);
-
 /// The x of a window `width` wide inside the parent's frame, `padding` away from its edge.
-double horizontalOrigin(std::uint32_t alignment, const QRectF& parent, double width, double padding);
-double verticalOrigin(std::uint32_t alignment, const QRectF& parent, double height, double padding);
+double horizontalOrigin(std::uint32_t alignment, const platform::Rect& parent, double width, double padding);
+double verticalOrigin(std::uint32_t alignment, const platform::Rect& parent, double height, double padding);
 
 /// The rectangle moved to where the alignment code puts it in the parent's frame.
-QRectF placedInParent(const QRectF& rect, std::uint32_t alignment, const QRectF& parent, double padding);
+platform::Rect placedInParent(const platform::Rect& rect, std::uint32_t alignment, const platform::Rect& parent,
+                              double padding);
 
 } // namespace OverlayPlacement

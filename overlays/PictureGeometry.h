@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QRectF>
+#include "platform/base/Rect.h"
 
 #include <cstdint>
 
@@ -12,7 +12,7 @@ public:
 
     /// The movie view's frame, in the coordinates of its window; the bar below the picture, when it shows, belongs to
     /// it. Empty without a movie.
-    virtual QRectF pictureFrame() const = 0;
+    virtual platform::Rect pictureFrame() const = 0;
     /// The size at which a size code would show the movie; empty without one.
     virtual QSizeF sizeForFitScreen(std::int32_t mode) const = 0;
     /// Width by height; 0 without a movie.

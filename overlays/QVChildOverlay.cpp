@@ -5,7 +5,7 @@
 #include "settings/Tracing.h"
 
 QVChildOverlay::QVChildOverlay(platform::Window* parent, const QString& style)
-    : QVStyledOverlay(parent ? parent->frame() : QRectF(), style) {
+    : QVStyledOverlay(parent ? parent->frame() : platform::Rect(), style) {
     contentView().addSubview(_content);
     _content.setFrame(contentView().bounds());
 
@@ -88,14 +88,14 @@ QSizeF QVChildOverlay::contentSize() const {
     return _content.bounds().size();
 }
 
-QRectF QVChildOverlay::adjustForBackgroundStyle(const QRectF& rect) const {
-    return OverlayPlacement::grown(rect, OverlayPlacement::backgroundMargin(_content.panel()));
+platform::Rect QVChildOverlay::adjustForBackgroundStyle(const platform::Rect& rect) const {
+    return rect.grown(OverlayPlacement::backgroundMargin(_content.panel()));
 }
 
-void QVChildOverlay::adoptNewOverlayFrame(const QRectF&) {}
+void QVChildOverlay::adoptNewOverlayFrame(const platform::Rect&) {}
 
 void QVChildOverlay::contentSizeChanged() {
-    QRectF rect = adjustForBackgroundStyle(QRectF(QPointF(0, 0), contentSize()));
+    platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (parentWindow() && (_alignStyle & OverlayPlacement::referenceMask) == OverlayPlacement::insideParent) {
         rect =
             OverlayPlacement::placedInParent(rect, _alignStyle, parentWindow()->frame(), static_cast<double>(_padding));
@@ -103,7 +103,7 @@ void QVChildOverlay::contentSizeChanged() {
     applyNewOverlayFrame(rect, "%@: Overlay Frame After Recalc: x:%d y:%d w:%d h:%d");
 }
 
-void QVChildOverlay::applyNewOverlayFrame(const QRectF& frame, const char* message) {
+void QVChildOverlay::applyNewOverlayFrame(const platform::Rect& frame, const char* message) {
     adoptNewOverlayFrame(frame);
     trace(message, logName(), static_cast<qint64>(frame.x()), static_cast<qint64>(frame.y()),
           static_cast<qint64>(frame.width()), static_cast<qint64>(frame.height()));
@@ -111,7 +111,7 @@ void QVChildOverlay::applyNewOverlayFrame(const QRectF& frame, const char* messa
     contentView().setNeedsDisplay();
 }
 
-void QVChildOverlay::setFrame(const QRectF& frame) {
+void QVChildOverlay::setFrame(const platform::Rect& frame) {
     QVStyledOverlay::setFrame(frame);
     _content.setFrame(contentView().bounds());
 }

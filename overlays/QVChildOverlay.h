@@ -41,22 +41,22 @@ public:
     /// The size of what is to be shown, without the panel's margin. Each kind of overlay answers for itself.
     virtual QSizeF contentSize() const;
     /// The rectangle with the panel's margin around it.
-    QRectF adjustForBackgroundStyle(const QRectF& rect) const;
+    platform::Rect adjustForBackgroundStyle(const platform::Rect& rect) const;
     /// Computes and applies the frame.
     virtual void contentSizeChanged();
     virtual void parentSizeChanged() { contentSizeChanged(); }
 
-    void setFrame(const QRectF& frame) override;
+    void setFrame(const platform::Rect& frame) override;
     bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
 
 protected:
     const char* logName() const override { return "QVChildOverlay"; }
 
     /// Told the new frame before it is applied: the place to lay the content out in it.
-    virtual void adoptNewOverlayFrame(const QRectF& frame);
+    virtual void adoptNewOverlayFrame(const platform::Rect& frame);
     /// Applies a frame that was computed: adoptNewOverlayFrame(), the frame itself, redisplay. `message` is the line
     /// for the log, filled with the class and the whole points of the frame.
-    void applyNewOverlayFrame(const QRectF& frame, const char* message);
+    void applyNewOverlayFrame(const platform::Rect& frame, const char* message);
 
     /// The panel, above which subclasses put their views.
     QVOverlayContentView& overlayContentView() { return _content; }

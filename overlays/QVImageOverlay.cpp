@@ -37,13 +37,14 @@ void QVImageOverlay::setScale(float scaleX, float scaleY) {
 void QVImageOverlay::sizeToFit() {
     if (_view.image().isNull())
         return;
-    _view.setFrame(QRectF(_view.frame().topLeft(),
-                          QSizeF(scaled(_imageSize.width(), _scaleX), scaled(_imageSize.height(), _scaleY))));
+    _view.setFrame(platform::Rect(_view.frame().origin(),
+                                  QSizeF(scaled(_imageSize.width(), _scaleX), scaled(_imageSize.height(), _scaleY))));
     contentSizeChanged();
 }
 
-void QVImageOverlay::adoptNewOverlayFrame(const QRectF& frame) {
+void QVImageOverlay::adoptNewOverlayFrame(const platform::Rect& frame) {
     const QSizeF view = _view.bounds().size();
-    _view.setFrame(QRectF(QPointF((frame.width() - view.width()) * 0.5, (frame.height() - view.height()) * 0.5), view));
+    _view.setFrame(
+        platform::Rect(QPointF((frame.width() - view.width()) * 0.5, (frame.height() - view.height()) * 0.5), view));
     _view.setNeedsDisplay();
 }

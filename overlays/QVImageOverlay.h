@@ -25,7 +25,7 @@ public:
 
 protected:
     const char* logName() const override { return "QVImageOverlay"; }
-    void adoptNewOverlayFrame(const QRectF& frame) override;
+    void adoptNewOverlayFrame(const platform::Rect& frame) override;
 
 private:
     platform::ImageView _view;

@@ -73,9 +73,9 @@ void QVImageSubView::_recalculateScale() {
 }
 
 void QVImageSubView::contentSizeChanged() {
-    QRectF rect(QPointF(0, 0), contentSize());
+    platform::Rect rect(QPointF(0, 0), contentSize());
     if (_subtitle && _picture && parentWindow()) {
-        const QRectF view = _picture->pictureFrame().translated(parentWindow()->frame().topLeft());
+        const platform::Rect view = _picture->pictureFrame().translated(parentWindow()->frame().origin());
         rect = SubtitlePlacement::bitmapFrame(_subtitle->rect(), {scaleX(), scaleY()}, view, _aspect);
     }
     applyNewOverlayFrame(adjustForBackgroundStyle(rect), "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");

@@ -17,18 +17,18 @@ void QVOverlayContentView::setFrameColor(const QColor& color) {
     setNeedsDisplay();
 }
 
-void QVOverlayContentView::draw(QPainter& painter, const QRectF&) {
+void QVOverlayContentView::draw(QPainter& painter, const platform::Rect&) {
     painter.save();
     // The painter's clip is the part that is drawn again.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(bounds(), Qt::transparent);
+    painter.fillRect(paintedBounds(), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     if (_panel.backgroundOn) {
         const double most = std::min(bounds().width(), bounds().height());
         const double line = _panel.frameOn && _panel.frameWidth > 0.0F
                                 ? std::min(static_cast<double>(_panel.frameWidth), std::max(most, 0.0))
                                 : 0.0;
-        const QRectF rect = bounds().adjusted(line * 0.5, line * 0.5, -line * 0.5, -line * 0.5);
+        const QRectF rect = paintedBounds().adjusted(line * 0.5, line * 0.5, -line * 0.5, -line * 0.5);
         const QPainterPath path = roundedRectangle(rect, _panel.backgroundRounded ? _panel.radius : 0.0F);
         painter.setRenderHint(QPainter::Antialiasing);
         if (_backgroundColor.isValid())

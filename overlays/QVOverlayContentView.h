@@ -31,7 +31,7 @@ public:
 
     const OverlayPlacement::Panel& panel() const { return _panel; }
 
-    void draw(QPainter& painter, const QRectF& dirty) override;
+    void draw(QPainter& painter, const platform::Rect& dirty) override;
 
 private:
     template <class Value>

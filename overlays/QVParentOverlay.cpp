@@ -19,7 +19,7 @@ std::vector<QVStyledOverlay*> overlaysAbove(const platform::Window& parent) {
 
 } // namespace
 
-QVParentOverlay::QVParentOverlay(const QRectF& contentRect, const QString& style)
+QVParentOverlay::QVParentOverlay(const platform::Rect& contentRect, const QString& style)
     : QVStyledOverlay(contentRect, style) {
     _hiddenChldrens.reserve(kInitialCapacity);
 }

@@ -9,7 +9,7 @@
 /// visible. Main thread.
 class QVParentOverlay : public QVStyledOverlay {
 public:
-    QVParentOverlay(const QRectF& contentRect, const QString& style);
+    QVParentOverlay(const platform::Rect& contentRect, const QString& style);
 
     void show() override;
     void hide() override;

@@ -40,7 +40,7 @@ bool isWindowVisible(const platform::Window& window) {
 
 } // namespace
 
-QVStyledOverlay::QVStyledOverlay(const QRectF& contentRect, const QString& style)
+QVStyledOverlay::QVStyledOverlay(const platform::Rect& contentRect, const QString& style)
     : platform::Window(contentRect)
     , _style(style) {
     const auto defaults = styleDefaults();

@@ -24,7 +24,7 @@ public:
     enum class FadingState { idle = 0, fadingIn = 1, fadingOut = 2, delaying = 3 };
 
     /// `contentRect` is in screen coordinates, `style` a style selector key. The overlay starts hidden.
-    QVStyledOverlay(const QRectF& contentRect, const QString& style);
+    QVStyledOverlay(const platform::Rect& contentRect, const QString& style);
     ~QVStyledOverlay() override;
 
     /// The selector key.

@@ -124,14 +124,15 @@ void QVTextOverlay::sizeToFit() {
     const double room = kRoomBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
     _view.setContainerSize(QSizeF(_containerWidth, height - room));
     _view.sizeToFit();
-    const QRectF fitted = _view.frame();
-    _view.setFrame(QRectF(fitted.topLeft(), QSizeF(fitted.width(), fitted.height() + room)));
+    const platform::Rect fitted = _view.frame();
+    _view.setFrame(platform::Rect(fitted.origin(), QSizeF(fitted.width(), fitted.height() + room)));
     contentSizeChanged();
 }
 
-void QVTextOverlay::adoptNewOverlayFrame(const QRectF& frame) {
+void QVTextOverlay::adoptNewOverlayFrame(const platform::Rect& frame) {
     const QSizeF view = _view.bounds().size();
-    _view.setFrame(QRectF(QPointF((frame.width() - view.width()) * 0.5, (frame.height() - view.height()) * 0.5), view));
+    _view.setFrame(
+        platform::Rect(QPointF((frame.width() - view.width()) * 0.5, (frame.height() - view.height()) * 0.5), view));
     _view.setNeedsDisplay();
 }
 

@@ -52,7 +52,7 @@ public:
 
 protected:
     const char* logName() const override { return "QVTextOverlay"; }
-    void adoptNewOverlayFrame(const QRectF& frame) override;
+    void adoptNewOverlayFrame(const platform::Rect& frame) override;
 
     const QVTextView& textView() const { return _view; }
 

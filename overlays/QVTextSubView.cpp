@@ -62,7 +62,7 @@ void QVTextSubView::recalculateFontSize() {
 }
 
 void QVTextSubView::contentSizeChanged() {
-    QRectF rect = adjustForBackgroundStyle(QRectF(QPointF(0, 0), contentSize()));
+    platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (parentWindow()) {
         SubtitlePlacement::Ground ground{parentWindow()->frame(), static_cast<double>(padding()), {}, {}};
         if (_picture) {

@@ -20,7 +20,7 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
     return {std::max(smallest, static_cast<float>(ratio * static_cast<double>(largest))), ratio};
 }
 
-QRectF placed(const QRectF& rect, std::uint32_t alignment, const Ground& ground) {
+platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground) {
     const double floor = ground.parent.y();
     const double pictureBottom = floor + (ground.picture ? ground.picture->y() : 0);
     double y = floor;
@@ -57,7 +57,8 @@ FrameScale frameScale(const QSizeF& frame, double viewWidth, float aspect) {
     return {scale(viewWidth, frame.width()), scale(viewWidth / static_cast<double>(aspect), frame.height())};
 }
 
-QRectF bitmapFrame(const QRectF& rect, const FrameScale& scale, const QRectF& view, float aspect) {
+platform::Rect bitmapFrame(const platform::Rect& rect, const FrameScale& scale, const platform::Rect& view,
+                           float aspect) {
     const double bottom = view.y() - (view.width() / static_cast<double>(aspect) - view.height()) * 0.5;
     const auto x = static_cast<double>(scale.x);
     const auto y = static_cast<double>(scale.y);

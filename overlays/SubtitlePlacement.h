@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QRectF>
+#include "platform/base/Rect.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,10 +19,10 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
 
 /// What a subtitle stands on.
 struct Ground {
-    QRectF parent; // on the screen
+    platform::Rect parent; // on the screen
     double padding = 0;
     /// The movie view within the parent, or nothing without one.
-    std::optional<QRectF> picture;
+    std::optional<platform::Rect> picture;
     /// Of the controller bar, or nothing while it is hidden.
     std::optional<double> bar;
 };
@@ -30,7 +30,7 @@ struct Ground {
 /// The rectangle moved to where an alignment code puts it. The horizontal field is that of every overlay; the vertical
 /// one knows below the picture (0x00), on its bottom edge (0x10) and above the parent's bottom edge (0x20). Nothing
 /// stands below the parent's bottom edge; what would comes to stand on the bar, if that shows.
-QRectF placed(const QRectF& rect, std::uint32_t alignment, const Ground& ground);
+platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground);
 
 /// Width by height of the frame that the bitmaps of a movie stand on: that of a wide or of a narrow television,
 /// whichever the movie's own is nearer to.
@@ -46,6 +46,7 @@ FrameScale frameScale(const QSizeF& frame, double viewWidth, float aspect);
 
 /// Where a bitmap stands on the screen. `rect` is its place in its frame, y upwards; the frame is centred on the movie
 /// view, whose place on the screen is `view`, from top to bottom.
-QRectF bitmapFrame(const QRectF& rect, const FrameScale& scale, const QRectF& view, float aspect);
+platform::Rect bitmapFrame(const platform::Rect& rect, const FrameScale& scale, const platform::Rect& view,
+                           float aspect);
 
 } // namespace SubtitlePlacement

@@ -81,8 +81,8 @@ Plan planSize(std::int32_t code, const QSizeF& current, const Geometry& geometry
     }
 }
 
-QRectF centred(const QSizeF& size, const QSizeF& window) {
-    return QRectF(QPointF((window.width() - size.width()) / 2, (window.height() - size.height()) / 2), size);
+platform::Rect centred(const QSizeF& size, const QSizeF& window) {
+    return platform::Rect(QPointF((window.width() - size.width()) / 2, (window.height() - size.height()) / 2), size);
 }
 
 std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double seconds, std::int32_t timeScale,
@@ -92,8 +92,7 @@ std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double second
     return static_cast<std::int32_t>(std::clamp(target, 0.0, end));
 }
 
-std::optional<QPointF> scrollOffset(const QRectF& view, const QRectF& bounds, double dx, double dy) {
-    // The rectangles' top() is their lower edge: y grows upwards.
+std::optional<QPointF> scrollOffset(const platform::Rect& view, const platform::Rect& bounds, double dx, double dy) {
     QPointF offset(0, 0);
     bool moved = false;
     const auto move = [&moved](double& along, double wanted, double hidden, double sign) {
@@ -103,21 +102,21 @@ std::optional<QPointF> scrollOffset(const QRectF& view, const QRectF& bounds, do
         }
     };
     if (dx > 0)
-        move(offset.rx(), dx, bounds.left() - view.left(), 1);
+        move(offset.rx(), dx, bounds.minX() - view.minX(), 1);
     else if (dx < 0)
-        move(offset.rx(), -dx, view.right() - bounds.right(), -1);
+        move(offset.rx(), -dx, view.maxX() - bounds.maxX(), -1);
     if (dy < 0)
-        move(offset.ry(), -dy, bounds.top() - view.top(), 1);
+        move(offset.ry(), -dy, bounds.minY() - view.minY(), 1);
     else if (dy > 0)
-        move(offset.ry(), dy, view.bottom() - bounds.bottom(), -1);
+        move(offset.ry(), dy, view.maxY() - bounds.maxY(), -1);
     return moved ? std::optional(offset) : std::nullopt;
 }
 
-bool canPan(int direction, const QRectF& view, const QRectF& bounds) {
-    return ((direction & panDirection::left) && view.left() < bounds.left()) ||
-           ((direction & panDirection::top) && view.bottom() > bounds.bottom()) ||
-           ((direction & panDirection::right) && view.right() > bounds.right()) ||
-           ((direction & panDirection::bottom) && view.top() < bounds.top());
+bool canPan(int direction, const platform::Rect& view, const platform::Rect& bounds) {
+    return ((direction & panDirection::left) && view.minX() < bounds.minX()) ||
+           ((direction & panDirection::top) && view.maxY() > bounds.maxY()) ||
+           ((direction & panDirection::right) && view.maxX() > bounds.maxX()) ||
+           ((direction & panDirection::bottom) && view.minY() < bounds.minY());
 }
 
 QPointF panStep(int direction, float magnification) {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/Rect.h"
+
 #include <QPointF>
-#include <QRectF>
 #include <QSizeF>
 
 #include <cstdint>
@@ -62,7 +63,7 @@ struct Plan {
 Plan planSize(std::int32_t code, const QSizeF& current, const Geometry& geometry);
 
 /// A view of the size in the middle of a window.
-QRectF centred(const QSizeF& size, const QSizeF& window);
+platform::Rect centred(const QSizeF& size, const QSizeF& window);
 
 /// Time values; `duration` 0 when it is not known.
 std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double seconds, std::int32_t timeScale,
@@ -70,9 +71,9 @@ std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double second
 
 /// How far the view may move by pointer deltas (dy grows downwards) before a gap opens between its edges and those of
 /// `bounds`; none when it cannot move. The rectangles have their origin bottom left; so has the answer.
-std::optional<QPointF> scrollOffset(const QRectF& view, const QRectF& bounds, double dx, double dy);
+std::optional<QPointF> scrollOffset(const platform::Rect& view, const platform::Rect& bounds, double dx, double dy);
 /// Whether one of the edges hides a part of the view.
-bool canPan(int direction, const QRectF& view, const QRectF& bounds);
+bool canPan(int direction, const platform::Rect& view, const platform::Rect& bounds);
 /// One step of panning towards the edges, in pointer deltas.
 QPointF panStep(int direction, float magnification);
 

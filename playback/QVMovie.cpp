@@ -78,13 +78,13 @@ float QVMovie::frameRate() {
     return _frameRate;
 }
 
-QRectF QVMovie::naturalBounds() const {
-    return QRectF(QPointF(0, 0), info().naturalSize);
+platform::Rect QVMovie::naturalBounds() const {
+    return platform::Rect(QPointF(0, 0), info().naturalSize);
 }
 
-QRectF QVMovie::naturalFrame(double windowHeight) const {
-    const QRectF bounds = naturalBounds();
-    return bounds.translated(0, windowHeight - bounds.height());
+platform::Rect QVMovie::naturalFrame(double windowHeight) const {
+    const platform::Rect bounds = naturalBounds();
+    return bounds.translated(QPointF(0, windowHeight - bounds.height()));
 }
 
 void QVMovie::setTime(std::int32_t time) {

@@ -6,7 +6,6 @@
 #include "playback/MovieServices.h"
 #include "subtitles/QVSubtitles.h"
 
-#include <QRectF>
 #include <QUrl>
 
 #include <cstdint>
@@ -38,9 +37,9 @@ public:
     std::uint32_t frameCount();
     /// Pictures a second: the count by the whole seconds; infinite or not a number for a movie of less than a second.
     float frameRate() override;
-    QRectF naturalBounds() const;
+    platform::Rect naturalBounds() const;
     /// The natural bounds within a window as high as this, points, origin bottom left.
-    QRectF naturalFrame(double windowHeight) const;
+    platform::Rect naturalFrame(double windowHeight) const;
     const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const override { return _subtitles; }
     QString description() const { return url().toString(); }
 

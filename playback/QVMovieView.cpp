@@ -53,7 +53,7 @@ void QVMovieView::setMovie(const std::shared_ptr<QVMovie>& movie) {
     if (_commands.forceMuted())
         _commands.setForceMuted(false);
     const float volume = this->volume();
-    setFrame(QRectF());
+    setFrame(platform::Rect());
     showController(true, false);
     setMovieObject(movie);
     if (movie)
@@ -76,13 +76,13 @@ void QVMovieView::setMovieSize(std::int32_t code, Recalculation recalculation) {
             _size = movieSize::custom;
         return;
     }
-    const QRectF old = frame();
+    const platform::Rect old = frame();
     const MovieSizing::Plan plan = MovieSizing::planSize(code, old.size(), geometry());
     _size = plan.code;
     if (plan.customScale)
         _environment.settings.setFloat(*plan.customScale, kQVMovieCustomScale);
     if (superview())
-        superview()->setNeedsDisplayInRect(old.adjusted(-1, -1, 1, 1));
+        superview()->setNeedsDisplayInRect(old.grown(1));
     setFrame(MovieSizing::centred(plan.size, window->frame().size()));
     setNeedsDisplay();
     _environment.settings.setInteger(_size, kQVDefaultMovieSize);

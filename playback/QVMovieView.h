@@ -63,7 +63,7 @@ public:
     void saveMovieState();
     void restoreMovieState();
 
-    QRectF pictureFrame() const override { return frame(); }
+    platform::Rect pictureFrame() const override { return frame(); }
     bool isControllerBarVisible() const override { return isControllerVisible(); }
     unsigned getControllerHeight() const override { return 16; }
     void toggleController();

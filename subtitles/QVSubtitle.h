@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/Rect.h"
+
 #include <QImage>
-#include <QRectF>
 #include <QSizeF>
 #include <QString>
 
@@ -64,9 +65,9 @@ public:
     const std::shared_ptr<SubtitleImage>& image() const { return _image; }
     void setImage(std::shared_ptr<SubtitleImage> image) { _image = std::move(image); }
     /// Where a picture stands, in the coordinates of the subtitle stream's frame; all zero for texts.
-    QRectF rect() const { return {_x, _y, _width, _height}; }
+    platform::Rect rect() const { return {_x, _y, _width, _height}; }
     /// Gives the picture the rectangle's size as well.
-    void setRect(const QRectF& rect) {
+    void setRect(const platform::Rect& rect) {
         _x = static_cast<float>(rect.x());
         _y = static_cast<float>(rect.y());
         _width = static_cast<float>(rect.width());

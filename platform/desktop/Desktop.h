@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/Rect.h"
 #include "platform/desktop/UserActivity.h"
 
-#include <QRectF>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -16,7 +16,7 @@ namespace platform {
 /// A screen: its frame in screen coordinates (origin bottom left of the main screen, y up, points), and whether it is
 /// one.
 struct Screen {
-    QRectF frame;
+    Rect frame;
     bool isScreen = true;
     std::uint32_t number = 0;
     QString name;

@@ -102,11 +102,9 @@ void MovieView::showController(bool visible, bool adjustingSize) {
     _controllerVisible = visible;
     if (adjustingSize) {
         // The bar hangs below the picture, which keeps its place.
-        QRectF frame = this->frame();
-        const double height = std::max(frame.height() + (visible ? controllerBarHeight : -controllerBarHeight), 0.0);
-        frame.moveTop(frame.top() + frame.height() - height);
-        frame.setHeight(height);
-        setFrame(frame);
+        const Rect old = frame();
+        const double height = std::max(old.height() + (visible ? controllerBarHeight : -controllerBarHeight), 0.0);
+        setFrame(Rect(old.x(), old.maxY() - height, old.width(), height));
     }
     setNeedsDisplay();
 }
@@ -138,8 +136,8 @@ bool MovieView::handleMovieKey(const KeyEvent& event) {
     }
 }
 
-void MovieView::draw(QPainter& painter, const QRectF& dirty) {
-    const QRectF bar = controllerRect();
+void MovieView::draw(QPainter& painter, const Rect& dirty) {
+    const Rect bar = controllerRect();
     if (!_controllerVisible || bar.isEmpty() || !dirty.intersects(bar))
         return;
     _shownState = ControllerBar::shownState(controllerState(), bar.size());
@@ -149,28 +147,26 @@ void MovieView::draw(QPainter& painter, const QRectF& dirty) {
     painter.restore();
 }
 
-QRectF MovieView::drawnRect() const {
-    return _controllerVisible ? controllerRect() : QRectF();
+Rect MovieView::drawnRect() const {
+    return _controllerVisible ? controllerRect() : Rect();
 }
 
 PictureLayer* MovieView::pictureLayer() {
     return _player.pictureLayer(); // also without a movie: the host prepares it before there is one
 }
 
-QRectF MovieView::pictureRect() const {
-    QRectF picture = bounds();
-    if (_controllerVisible)
-        picture.setTop(std::min(controllerBarHeight, picture.height()));
-    return picture;
+Rect MovieView::pictureRect() const {
+    const double bar = _controllerVisible ? controllerRect().height() : 0;
+    return Rect(0, bar, bounds().width(), bounds().height() - bar);
 }
 
 bool MovieView::mouseDown(const MouseEvent& event) {
     const QPointF point = convertFromWindow(event.locationInWindow);
-    const QRectF bar = controllerRect();
+    const Rect bar = controllerRect();
     if (!_controllerVisible || event.button != MouseButton::left || !bar.contains(point))
         return false;
     _tracking = true;
-    performController(_bar.press(QPointF(point.x(), bar.bottom() - point.y()), bar.size()));
+    performController(_bar.press(QPointF(point.x(), bar.maxY() - point.y()), bar.size()));
     return true;
 }
 
@@ -178,8 +174,8 @@ bool MovieView::mouseDragged(const MouseEvent& event) {
     if (!_tracking)
         return false;
     const QPointF point = convertFromWindow(event.locationInWindow);
-    const QRectF bar = controllerRect();
-    performController(_bar.drag(QPointF(point.x(), bar.bottom() - point.y()), bar.size()));
+    const Rect bar = controllerRect();
+    performController(_bar.drag(QPointF(point.x(), bar.maxY() - point.y()), bar.size()));
     return true;
 }
 
@@ -206,7 +202,7 @@ void MovieView::playerStateChanged() {
     }
     if (!_controllerVisible)
         return;
-    const QRectF bar = controllerRect();
+    const Rect bar = controllerRect();
     const ControllerBar::State state = ControllerBar::shownState(controllerState(), bar.size());
     if (state == _shownState)
         return;
@@ -214,8 +210,8 @@ void MovieView::playerStateChanged() {
     setNeedsDisplayInRect(bar);
 }
 
-QRectF MovieView::controllerRect() const {
-    return QRectF(0, 0, bounds().width(), std::min(controllerBarHeight, bounds().height()));
+Rect MovieView::controllerRect() const {
+    return Rect(0, 0, bounds().width(), std::min(controllerBarHeight, bounds().height()));
 }
 
 void MovieView::performController(const ControllerBar::Command& command) {

@@ -53,10 +53,10 @@ public:
     /// Space plays or pauses, the arrows step one picture. True when the key was one of these and there is a movie.
     bool handleMovieKey(const KeyEvent& event);
 
-    void draw(QPainter& painter, const QRectF& dirty) override;
-    QRectF drawnRect() const override;
+    void draw(QPainter& painter, const Rect& dirty) override;
+    Rect drawnRect() const override;
     PictureLayer* pictureLayer() override;
-    QRectF pictureRect() const override;
+    Rect pictureRect() const override;
     bool mouseDown(const MouseEvent& event) override;
     bool mouseDragged(const MouseEvent& event) override;
     bool mouseUp(const MouseEvent& event) override;
@@ -72,7 +72,7 @@ private:
     void playerPictureChanged() override;
     void playerPictureDue() override;
     void playerStateChanged() override;
-    QRectF controllerRect() const;
+    Rect controllerRect() const;
     void performController(const ControllerBar::Command& command);
     ControllerBar::State controllerState() const;
 

@@ -15,7 +15,7 @@ void ImageView::setImage(const QImage& image) {
     setNeedsDisplay();
 }
 
-void ImageView::draw(QPainter& painter, const QRectF&) {
+void ImageView::draw(QPainter& painter, const Rect&) {
     if (_image.isNull() || bounds().isEmpty())
         return;
     const QTransform toDevice = painter.deviceTransform();
@@ -26,9 +26,10 @@ void ImageView::draw(QPainter& painter, const QRectF&) {
     // Neighbours are enough to enlarge an image; a smaller one must take in every pixel.
     if (shrinks && pixels.width() >= 1 && pixels.height() >= 1 && pixels.width() <= kLargestWhole &&
         pixels.height() <= kLargestWhole)
-        painter.drawImage(bounds(), _image.scaled(pixels.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        painter.drawImage(paintedBounds(),
+                          _image.scaled(pixels.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     else
-        painter.drawImage(bounds(), _image);
+        painter.drawImage(paintedBounds(), _image);
     painter.restore();
 }
 

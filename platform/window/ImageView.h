@@ -14,7 +14,7 @@ public:
     const QImage& image() const { return _image; }
     void setImage(const QImage& image);
 
-    void draw(QPainter& painter, const QRectF& dirty) override;
+    void draw(QPainter& painter, const Rect& dirty) override;
 
 private:
     QImage _image;

@@ -83,7 +83,7 @@ void SceneComposer::drawOver(QPainter& painter, const QRegion& marked, double pi
 
 bool SceneComposer::anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const {
     return std::any_of(view.subviews().begin(), view.subviews().end(), [&](const View* child) {
-        const QRectF drawn = child->drawnRect();
+        const Rect drawn = child->drawnRect();
         return (!drawn.isEmpty() && dirty.intersects(sceneGeometry::toCoveringPixels(
                                         child->convertToWindow(drawn), _root.frame().size(), pixelRatio))) ||
                anyViewDraws(*child, dirty, pixelRatio);
@@ -94,15 +94,15 @@ void SceneComposer::drawViews(QPainter& painter, const Window& window, const Vie
                               double pixelRatio) {
     const QSizeF content = window.frame().size();
     for (View* child : view.subviews()) {
-        const QRectF drawn = child->drawnRect();
+        const Rect drawn = child->drawnRect();
         const QRegion clip =
             dirty.intersected(sceneGeometry::toCoveringPixels(child->convertToWindow(drawn), content, pixelRatio));
         if (!drawn.isEmpty() && !clip.isEmpty()) {
-            const QRectF place = child->convertToWindow(child->bounds());
+            const Rect place = child->convertToWindow(child->bounds());
             painter.save();
             painter.setClipRegion(clip);
             painter.scale(pixelRatio, pixelRatio);
-            painter.translate(place.left(), content.height() - place.bottom());
+            painter.translate(sceneGeometry::toPainter(place, content).topLeft());
             child->draw(painter, child->bounds());
             painter.restore();
         }
@@ -115,7 +115,7 @@ void SceneComposer::updateChildren(double pixelRatio) {
     for (const Window* window : _root.childWindows()) {
         if (!window->isOrderedIn() || window->alphaValue() <= 0)
             continue;
-        const QRect whole = sceneGeometry::toPixels(window->frame().translated(-_root.frame().topLeft()),
+        const QRect whole = sceneGeometry::toPixels(window->frame().translated(-_root.frame().origin()),
                                                     _root.frame().size(), pixelRatio);
         // What lies outside the root is never seen: no picture is made of it, however large a child is.
         const QRect place =

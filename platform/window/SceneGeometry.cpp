@@ -12,24 +12,32 @@ QRect fromEdges(double left, double top, double right, double bottom) {
 }
 } // namespace
 
-QRect toPixels(const QRectF& rect, const QSizeF& contentSize, double pixelRatio) {
-    return fromEdges(
-        std::round(rect.left() * pixelRatio), std::round((contentSize.height() - rect.bottom()) * pixelRatio),
-        std::round(rect.right() * pixelRatio), std::round((contentSize.height() - rect.top()) * pixelRatio));
+QRectF toPainter(const Rect& rect, const QSizeF& contentSize) {
+    return {QPointF(rect.x(), contentSize.height() - rect.maxY()), rect.size()};
 }
 
-QRect toCoveringPixels(const QRectF& rect, const QSizeF& contentSize, double pixelRatio) {
-    return fromEdges(std::floor(rect.left() * pixelRatio),
-                     std::floor((contentSize.height() - rect.bottom()) * pixelRatio),
-                     std::ceil(rect.right() * pixelRatio), std::ceil((contentSize.height() - rect.top()) * pixelRatio));
+QRect toPixels(const Rect& rect, const QSizeF& contentSize, double pixelRatio) {
+    const QRectF flipped = toPainter(rect, contentSize);
+    return fromEdges(std::round(flipped.left() * pixelRatio), std::round(flipped.top() * pixelRatio),
+                     std::round(flipped.right() * pixelRatio), std::round(flipped.bottom() * pixelRatio));
+}
+
+QRect toCoveringPixels(const Rect& rect, const QSizeF& contentSize, double pixelRatio) {
+    const QRectF flipped = toPainter(rect, contentSize);
+    return fromEdges(std::floor(flipped.left() * pixelRatio), std::floor(flipped.top() * pixelRatio),
+                     std::ceil(flipped.right() * pixelRatio), std::ceil(flipped.bottom() * pixelRatio));
 }
 
 QPointF flipped(QPointF point, const QSizeF& contentSize) {
     return {point.x(), contentSize.height() - point.y()};
 }
 
-QRectF flippedOnDesktop(const QRectF& rect, double mainScreenHeight) {
-    return QRectF(QPointF(rect.x(), mainScreenHeight - rect.y() - rect.height()), rect.size());
+Rect fromWindowSystem(const QRectF& rect, double mainScreenHeight) {
+    return {QPointF(rect.x(), mainScreenHeight - rect.y() - rect.height()), rect.size()};
+}
+
+QRectF toWindowSystem(const Rect& rect, double mainScreenHeight) {
+    return toPainter(rect, QSizeF(0, mainScreenHeight));
 }
 
 } // namespace platform::sceneGeometry

@@ -76,7 +76,7 @@ const TextLayout& TextView::layout() {
 
 void TextView::sizeToFit() {
     const QSizeF lines = layout().size();
-    setFrame(QRectF(frame().topLeft(), QSizeF(lines.width() + 2 * kLinePadding, lines.height())));
+    setFrame(Rect(frame().origin(), QSizeF(lines.width() + 2 * kLinePadding, lines.height())));
 }
 
 QImage TextView::painted(double pixelRatio) {
@@ -96,7 +96,7 @@ QImage TextView::painted(double pixelRatio) {
     return picture;
 }
 
-void TextView::draw(QPainter& painter, const QRectF&) {
+void TextView::draw(QPainter& painter, const Rect&) {
     const QTransform toDevice = painter.deviceTransform();
     const double ratio = toDevice.m11();
     if (!(ratio > 0) || ratio > kLargestRatio || !toDevice.isInvertible() || _text.isEmpty())

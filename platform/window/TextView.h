@@ -36,7 +36,7 @@ public:
     /// Makes the view as large as its text, in whole points, where it stands.
     void sizeToFit();
 
-    void draw(QPainter& painter, const QRectF& dirty) override;
+    void draw(QPainter& painter, const Rect& dirty) override;
 
 private:
     const TextLayout& layout();

@@ -13,10 +13,10 @@ View::~View() {
         child->_superview = nullptr;
 }
 
-void View::setFrame(const QRectF& frame) {
+void View::setFrame(const Rect& frame) {
     if (frame == _frame)
         return;
-    const QRectF old = _frame;
+    const Rect old = _frame;
     _frame = frame;
     if (_superview) {
         _superview->setNeedsDisplayInRect(old);
@@ -60,16 +60,16 @@ Window* View::window() const {
     return root()._window;
 }
 
-QRectF View::convertToWindow(const QRectF& rect) const {
-    QRectF converted = rect;
+Rect View::convertToWindow(const Rect& rect) const {
+    Rect converted = rect;
     for (const View* view = this; view; view = view->_superview)
-        converted.translate(view->_frame.topLeft());
+        converted = converted.translated(view->_frame.origin());
     return converted;
 }
 
 QPointF View::convertFromWindow(QPointF point) const {
     for (const View* view = this; view; view = view->_superview)
-        point -= view->_frame.topLeft();
+        point -= view->_frame.origin();
     return point;
 }
 
@@ -77,13 +77,17 @@ void View::setNeedsDisplay() {
     setNeedsDisplayInRect(bounds());
 }
 
-void View::setNeedsDisplayInRect(const QRectF& rect) {
+void View::setNeedsDisplayInRect(const Rect& rect) {
     ViewOwner* owner = root()._owner;
     if (owner && !rect.isEmpty())
         owner->displayNeeded(convertToWindow(rect));
 }
 
-void View::draw(QPainter&, const QRectF&) {}
+QRectF View::paintedBounds() const {
+    return {QPointF(0, 0), _frame.size()};
+}
+
+void View::draw(QPainter&, const Rect&) {}
 
 bool View::keyDown(const KeyEvent&) {
     return false;
@@ -120,11 +124,9 @@ bool View::performDragOperation(const DraggingInfo&) {
 void View::concludeDragOperation(const DraggingInfo&) {}
 
 View* View::hitTest(QPointF point) {
-    // Half open, so that views side by side share no point.
-    if (point.x() < _frame.left() || point.x() >= _frame.right() || point.y() < _frame.top() ||
-        point.y() >= _frame.bottom())
+    if (!_frame.contains(point))
         return nullptr;
-    const QPointF inside = point - _frame.topLeft();
+    const QPointF inside = point - _frame.origin();
     for (auto view = _subviews.rbegin(); view != _subviews.rend(); ++view) {
         if (View* hit = (*view)->hitTest(inside))
             return hit;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/Rect.h"
 #include "platform/window/Events.h"
 
 #include <QRectF>
@@ -19,7 +20,7 @@ class Window;
 class ViewOwner {
 public:
     /// Marks a part of the content for redisplay (content coordinates).
-    virtual void displayNeeded(const QRectF& rect) = 0;
+    virtual void displayNeeded(const Rect& rect) = 0;
     /// The view leaves the window: it gets no more of its keys and drags.
     virtual void forgetView(const View& view) = 0;
 
@@ -37,11 +38,11 @@ public:
     View& operator=(const View&) = delete;
     virtual ~View();
 
-    QRectF frame() const { return _frame; }
+    Rect frame() const { return _frame; }
     /// Moves and resizes the view and marks the old and the new area for redisplay.
-    virtual void setFrame(const QRectF& frame);
+    virtual void setFrame(const Rect& frame);
     /// The view's own rectangle: its frame's size at the origin.
-    QRectF bounds() const { return QRectF(QPointF(0, 0), _frame.size()); }
+    Rect bounds() const { return {QPointF(0, 0), _frame.size()}; }
 
     View* superview() const { return _superview; }
     const std::vector<View*>& subviews() const { return _subviews; }
@@ -52,21 +53,24 @@ public:
     Window* window() const;
 
     /// The rectangle (in this view's coordinates) in the window's content coordinates.
-    QRectF convertToWindow(const QRectF& rect) const;
+    Rect convertToWindow(const Rect& rect) const;
     QPointF convertFromWindow(QPointF point) const;
 
     /// Marks the view, or a part of it in its own coordinates, for redisplay.
     void setNeedsDisplay();
-    void setNeedsDisplayInRect(const QRectF& rect);
+    void setNeedsDisplayInRect(const Rect& rect);
+
+    /// The bounds as a painter of draw() takes them: the origin is the top left corner there.
+    QRectF paintedBounds() const;
 
     /// Draws the part `dirty` (own coordinates). The painter's origin is the view's top left corner with y growing
     /// downwards, as Qt draws; its clip is set. Called only where something is marked for redisplay.
-    virtual void draw(QPainter& painter, const QRectF& dirty);
+    virtual void draw(QPainter& painter, const Rect& dirty);
     /// The part (own coordinates) that draw() draws into: nothing outside it is asked for.
-    virtual QRectF drawnRect() const { return bounds(); }
+    virtual Rect drawnRect() const { return bounds(); }
     /// The picture that the host puts into pictureRect() (own coordinates) before draw(), or null.
     virtual PictureLayer* pictureLayer() { return nullptr; }
-    virtual QRectF pictureRect() const { return QRectF(); }
+    virtual Rect pictureRect() const { return Rect(); }
 
     /// Events answer true when taken; the others go on to the superview and then to the window.
     virtual bool keyDown(const KeyEvent& event);
@@ -86,7 +90,7 @@ private:
     friend class Window;
     const View& root() const;
 
-    QRectF _frame;
+    Rect _frame;
     View* _superview = nullptr;
     Window* _window = nullptr; // of a content view only, as its owner
     ViewOwner* _owner = nullptr;

@@ -36,11 +36,11 @@ bool WindowDelegate::windowShouldClose(Window&) {
     return true;
 }
 
-Window::Window(const QRectF& frame)
+Window::Window(const Rect& frame)
     : _frame(frame) {
     _contentView._window = this;
     _contentView._owner = this;
-    _contentView._frame = QRectF(QPointF(0, 0), frame.size());
+    _contentView._frame = Rect(QPointF(0, 0), frame.size());
 }
 
 Window::~Window() {
@@ -52,24 +52,24 @@ Window::~Window() {
     _contentView._owner = nullptr;
 }
 
-void Window::setFrame(const QRectF& frame) {
+void Window::setFrame(const Rect& frame) {
     if (frame == _frame)
         return;
-    const QRectF old = std::exchange(_frame, frame);
+    const Rect old = std::exchange(_frame, frame);
     const bool resized = old.size() != frame.size();
     if (_parent && _orderedIn && _alpha > 0) {
-        _parent->compose(old.translated(-_parent->_frame.topLeft()));
-        _parent->compose(frame.translated(-_parent->_frame.topLeft()));
+        _parent->compose(old.translated(-_parent->_frame.origin()));
+        _parent->compose(frame.translated(-_parent->_frame.origin()));
     }
     // Children keep their place above their parent.
-    const QPointF moved = frame.topLeft() - old.topLeft();
+    const QPointF moved = frame.origin() - old.origin();
     if (!moved.isNull()) {
         const std::vector<Window*> children = _children;
         for (Window* child : children)
             child->setFrame(child->frame().translated(moved));
     }
     if (resized)
-        _contentView.setFrame(QRectF(QPointF(0, 0), frame.size()));
+        _contentView.setFrame(Rect(QPointF(0, 0), frame.size()));
     if (_host)
         _host->frameChanged();
     if (resized) {
@@ -158,7 +158,7 @@ void Window::removeChildWindow(Window& child) {
     child._parent = nullptr;
 }
 
-int Window::addTrackingRect(const QRectF& rect) {
+int Window::addTrackingRect(const Rect& rect) {
     _trackingAreas.push_back({++_lastTrackingTag, rect, false});
     return _lastTrackingTag;
 }
@@ -215,21 +215,21 @@ void Window::setKey(bool key) {
         _delegate->windowDidResignKey(*this);
 }
 
-void Window::displayNeeded(const QRectF& rect) {
+void Window::displayNeeded(const Rect& rect) {
     if (rect.intersected(_contentView.bounds()).isEmpty())
         return;
     ++_contentRevision;
     compose(rect);
 }
 
-void Window::compose(const QRectF& rect) {
-    const QRectF visible = rect.intersected(_contentView.bounds());
+void Window::compose(const Rect& rect) {
+    const Rect visible = rect.intersected(_contentView.bounds());
     if (visible.isEmpty())
         return;
     if (_host)
         _host->displayNeeded(visible);
     else if (_parent && _orderedIn && _alpha > 0)
-        _parent->compose(visible.translated(_frame.topLeft() - _parent->_frame.topLeft()));
+        _parent->compose(visible.translated(_frame.origin() - _parent->_frame.origin()));
 }
 
 void Window::composeWhole() {
@@ -254,10 +254,7 @@ void Window::mouseExited(int) {}
 
 void Window::trackPointer(QPointF location, bool insideWindow) {
     // Areas may be added and removed by what they report: the changes are noted first and each area is looked up again.
-    const auto isIn = [&](const TrackingArea& area) {
-        return insideWindow && location.x() >= area.rect.left() && location.x() < area.rect.right() &&
-               location.y() >= area.rect.top() && location.y() < area.rect.bottom();
-    };
+    const auto isIn = [&](const TrackingArea& area) { return insideWindow && area.rect.contains(location); };
     const auto report = [&](bool entering) {
         std::vector<int> changed;
         for (const TrackingArea& area : _trackingAreas) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/Rect.h"
 #include "platform/window/View.h"
 
 #include <QColor>
-#include <QRectF>
 
 #include <cstdint>
 #include <memory>
@@ -41,14 +41,14 @@ public:
 /// their parent, move with it and are composed into its host's picture. Main thread.
 class Window : public ViewOwner {
 public:
-    explicit Window(const QRectF& frame);
+    explicit Window(const Rect& frame);
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
     virtual ~Window();
 
-    QRectF frame() const { return _frame; }
+    Rect frame() const { return _frame; }
     /// Also resizes the content view, posts WindowDidResizeNotification and tells the delegate, if the size changed.
-    virtual void setFrame(const QRectF& frame);
+    virtual void setFrame(const Rect& frame);
 
     float alphaValue() const { return _alpha; }
     /// Opacity of the whole window, 0 to 1 (clamped; not a number counts as 0).
@@ -84,7 +84,7 @@ public:
 
     /// Adds an area of the content view (its coordinates) that reports the pointer's coming and going; answers its tag,
     /// never 0. The pointer counts as outside at first.
-    int addTrackingRect(const QRectF& rect);
+    int addTrackingRect(const Rect& rect);
     void removeTrackingRect(int tag);
 
     /// Called by the host. Keys go to the first responder, then to the window; the pointer's position feeds the
@@ -97,7 +97,7 @@ public:
     void dispatchMouseLeft();
     void setKey(bool key);
 
-    void displayNeeded(const QRectF& rect) override;
+    void displayNeeded(const Rect& rect) override;
     /// Counts the changes of what the content draws: a host that kept a picture of it can tell whether it still holds.
     /// Moving or fading a window does not change its content.
     std::uint64_t contentRevision() const { return _contentRevision; }
@@ -115,17 +115,17 @@ protected:
 private:
     void forgetView(const View& view) override;
     /// Has a part of the window (content coordinates) put onto the screen anew, its content unchanged.
-    void compose(const QRectF& rect);
+    void compose(const Rect& rect);
     void composeWhole();
 
     struct TrackingArea {
         int tag;
-        QRectF rect;
+        Rect rect;
         bool inside;
     };
     void trackPointer(QPointF location, bool insideWindow);
 
-    QRectF _frame;
+    Rect _frame;
     std::uint64_t _contentRevision = 0;
     float _alpha = 1.0F;
     QColor _backgroundColor;

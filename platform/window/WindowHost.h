@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QRectF>
+#include "platform/base/Rect.h"
 
 namespace platform {
 
@@ -22,10 +22,10 @@ public:
     virtual void levelChanged() = 0;
     virtual void orderedChanged() = 0;
     /// `rect` is in the root's content coordinates, points.
-    virtual void displayNeeded(const QRectF& rect) = 0;
+    virtual void displayNeeded(const Rect& rect) = 0;
     /// The same, and paints before it returns, with whatever else was marked: for what comes from the event loop anyway
     /// and would only wait for its next pass.
-    virtual void displayNow(const QRectF& rect) { displayNeeded(rect); }
+    virtual void displayNow(const Rect& rect) { displayNeeded(rect); }
     virtual void makeKeyAndOrderFront() = 0;
     /// Hides the pointer until the mouse next moves, or shows it again.
     virtual void setPointerHidden(bool hidden) = 0;

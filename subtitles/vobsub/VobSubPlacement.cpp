@@ -17,7 +17,7 @@ float aligned(std::int32_t alignment, float length) {
 
 } // namespace
 
-QRectF VobSubPlacement::place(const SubpictureControl::Rect& rect, const VobSubIndex& index) {
+platform::Rect VobSubPlacement::place(const SubpictureControl::Rect& rect, const VobSubIndex& index) {
     float x = static_cast<float>(rect.left) * index._scaleX;
     float y = static_cast<float>(rect.top) * index._scaleY;
     const float width = static_cast<float>(rect.width()) * index._scaleX;

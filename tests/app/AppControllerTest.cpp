@@ -204,12 +204,12 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
 }
 
 TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size) {
-    const platform::Screen main{QRectF(0, 0, 1440, 900), true, 1, "Main"};
-    platform::Screen second{QRectF(1440, 100, 1920, 1080), true, 2, "Second"};
+    const platform::Screen main{platform::Rect(0, 0, 1440, 900), true, 1, "Main"};
+    platform::Screen second{platform::Rect(1440, 100, 1920, 1080), true, 2, "Second"};
     struct Case {
         int index;
         bool isScreen;
-        QRectF frame;
+        platform::Rect frame;
     };
     for (const Case& c : {Case{1, true, second.frame}, Case{1, false, main.frame}, Case{2, true, main.frame},
                           Case{-1, true, main.frame}}) {
@@ -221,7 +221,7 @@ TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size)
     rig.launch();
     rig.desktop.screenList = {main, second};
     rig.window.adoptScreen(second);
-    second.frame = QRectF(1440, 0, 2560, 1440);
+    second.frame = platform::Rect(1440, 0, 2560, 1440);
     rig.desktop.screenList = {main, second};
     rig.app.applicationDidChangeScreenParameters();
     EXPECT_EQ(rig.window.frame(), second.frame);

@@ -13,13 +13,13 @@ struct PanningRig : AppRig {
         : AppRig({{kQVOnLaunchDefaultAction, 0}}) {
         app.openFile(file("a.mp4"));
         launch();
-        view.setFrame(QRectF(-720, -450, 2880, 1800));
+        view.setFrame(platform::Rect(-720, -450, 2880, 1800));
     }
     /// Where the picture went during the next steps of panning: signs of x and y.
     std::pair<int, int> panned() {
-        const QPointF before = view.frame().topLeft();
+        const QPointF before = view.frame().origin();
         settings.runLoop.advance(0.2);
-        const QPointF moved = view.frame().topLeft() - before;
+        const QPointF moved = view.frame().origin() - before;
         return {(moved.x() > 0) - (moved.x() < 0), (moved.y() > 0) - (moved.y() < 0)};
     }
     void moveTo(double x, double y) {

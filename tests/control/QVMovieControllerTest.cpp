@@ -141,7 +141,7 @@ TEST_F(MovieController, Codes_act_and_confirm_as_asked_and_other_codes_do_nothin
         {31, "sleep", text("Sleep")},
         {32, "quit", text("Quit")},
     };
-    desktop.screenList.push_back({QRectF(1440, 0, 1024, 768), true, 2, "Beamer"});
+    desktop.screenList.push_back({platform::Rect(1440, 0, 1024, 768), true, 2, "Beamer"});
     const auto doneBy = [this](std::int32_t code, Feedback wanted) {
         player().steps.clear();
         subtitles.calls.clear();
@@ -401,8 +401,8 @@ TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_h
     settings.runLoop.advance(5);
     EXPECT_TRUE(mainWindow.calls.isEmpty()) << "there is no other screen";
     EXPECT_EQ(posted(), "");
-    desktop.screenList.push_back({QRectF(1440, 0, 800, 600), false, 2, "Tablet"});
-    desktop.screenList.push_back({QRectF(2240, 0, 1024, 768), true, 3, "Beamer"});
+    desktop.screenList.push_back({platform::Rect(1440, 0, 800, 600), false, 2, "Tablet"});
+    desktop.screenList.push_back({platform::Rect(2240, 0, 1024, 768), true, 3, "Beamer"});
     EXPECT_TRUE(press(key::tab));
     EXPECT_EQ(posted(), text("Screen: Next"));
     EXPECT_EQ(settings.defaults().integerForKey(kQVMainWindowScreen), 2);
@@ -426,7 +426,7 @@ TEST_F(MovieController, A_resized_main_window_gets_new_edge_areas_and_a_new_pict
     addMovies(1);
     view.setMovieSize(movieSize::fitWidth, QVMovieView::Recalculation::ifChanged);
     window.setDelegate(&controller);
-    window.setFrame(QRectF(0, 0, 720, 900));
+    window.setFrame(platform::Rect(0, 0, 720, 900));
     EXPECT_EQ(mainWindow.calls, (QStringList{"remove", "add"}));
     EXPECT_EQ(view.frame().width(), 720);
     window.setDelegate(nullptr);

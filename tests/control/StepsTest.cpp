@@ -42,7 +42,7 @@ TEST(ScreenWalk, The_walk_takes_the_first_real_screen_around_the_list) {
     for (const auto& c : cases) {
         std::vector<platform::Screen> screens;
         for (const char* kind = c.kinds; *kind; ++kind)
-            screens.push_back({QRectF(), *kind == 'S', 0, QString()});
+            screens.push_back({platform::Rect(), *kind == 'S', 0, QString()});
         EXPECT_EQ(nextScreen(screens, c.start, 1), c.next) << c.kinds << c.start;
         EXPECT_EQ(nextScreen(screens, c.start, -1), c.previous) << c.kinds << c.start;
     }

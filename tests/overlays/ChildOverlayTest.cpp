@@ -23,7 +23,7 @@ public:
 } // namespace
 
 TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
-    const QRectF parent(100, 50, 1024, 768);
+    const platform::Rect parent(100, 50, 1024, 768);
     const struct {
         std::uint32_t code;
         QPointF origin;
@@ -32,8 +32,8 @@ TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
         {0x112, {904, 748}}, {0x120, {512, 70}},  {0x121, {120, 70}},  {0x122, {904, 70}},  {0x133, {100, 50}},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(OverlayPlacement::placedInParent(QRectF(-7, -7, 200, 50), c.code, parent, 20),
-                  QRectF(c.origin, QSizeF(200, 50)))
+        EXPECT_EQ(OverlayPlacement::placedInParent(platform::Rect(-7, -7, 200, 50), c.code, parent, 20),
+                  platform::Rect(c.origin, QSizeF(200, 50)))
             << std::hex << c.code;
     }
 }
@@ -41,15 +41,15 @@ TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
 TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
     OverlayRig rig;
     Box box(&rig.window);
-    EXPECT_EQ(box.frame(), QRectF(20, 20, 114, 34));
+    EXPECT_EQ(box.frame(), platform::Rect(20, 20, 114, 34));
     EXPECT_TRUE(box.isOrderedIn());
     box.setAlignmentStyle(0x112);
-    EXPECT_EQ(box.frame(), QRectF(1024 - 114 - 20, 768 - 34 - 20, 114, 34));
-    rig.window.setFrame(QRectF(50, 0, 640, 480));
-    EXPECT_EQ(box.frame(), QRectF(50 + 640 - 114 - 20, 480 - 34 - 20, 114, 34));
-    EXPECT_EQ(box.overlayContentView().frame(), QRectF(0, 0, 114, 34));
+    EXPECT_EQ(box.frame(), platform::Rect(1024 - 114 - 20, 768 - 34 - 20, 114, 34));
+    rig.window.setFrame(platform::Rect(50, 0, 640, 480));
+    EXPECT_EQ(box.frame(), platform::Rect(50 + 640 - 114 - 20, 480 - 34 - 20, 114, 34));
+    EXPECT_EQ(box.overlayContentView().frame(), platform::Rect(0, 0, 114, 34));
     box.setAlignmentStyle(0x021);
-    EXPECT_EQ(box.frame(), QRectF(-7, -7, 114, 34)) << "placed by others";
+    EXPECT_EQ(box.frame(), platform::Rect(-7, -7, 114, 34)) << "placed by others";
 }
 
 TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
@@ -62,14 +62,14 @@ TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     box.setBackgroundRounded(false);
     EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
     box.setPadding(5);
-    EXPECT_EQ(box.frame().topLeft(), QPointF(5, 5));
+    EXPECT_EQ(box.frame().origin(), QPointF(5, 5));
     rig.change(kAlignment, 0x101);
-    EXPECT_EQ(box.frame(), QRectF(5, (768 - 20) / 2.0, 100, 20));
+    EXPECT_EQ(box.frame(), platform::Rect(5, (768 - 20) / 2.0, 100, 20));
 }
 
 TEST(QVOverlayContentView, draws_the_panel_and_the_line_around_it) {
     QVOverlayContentView view;
-    view.setFrame(QRectF(0, 0, 40, 20));
+    view.setFrame(platform::Rect(0, 0, 40, 20));
     view.setBackgroundColor(Qt::blue);
     view.setFrameWidth(4);
     view.setFrameOn(true);

@@ -21,7 +21,7 @@ public:
 TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
     OverlayRig rig;
     TextOverlay overlay(&rig.window);
-    EXPECT_EQ(overlay.frame().topLeft(), QPointF(20, 20)) << "an empty text is an empty panel";
+    EXPECT_EQ(overlay.frame().origin(), QPointF(20, 20)) << "an empty text is an empty panel";
     overlay.setTextFontSize(20);
     overlay.setText("Some words");
     const QSizeF content = overlay.contentSize();
@@ -30,8 +30,8 @@ TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
     plain.setText(overlay.text());
     plain.sizeToFit();
     EXPECT_EQ(content, plain.bounds().size() + QSizeF(0, 2.5)) << "an eighth of the size more below";
-    EXPECT_EQ(overlay.frame(), QRectF(QPointF(20, 20), content + QSizeF(14, 14)));
-    EXPECT_EQ(overlay.textView().frame().topLeft(), QPointF(7, 7));
+    EXPECT_EQ(overlay.frame(), platform::Rect(QPointF(20, 20), content + QSizeF(14, 14)));
+    EXPECT_EQ(overlay.textView().frame().origin(), QPointF(7, 7));
 
     overlay.setText(QString(300, u'x'));
     EXPECT_LE(overlay.contentSize().width(), 1024);
@@ -94,7 +94,7 @@ TEST(ImageView, fills_itself_with_its_image_and_loses_no_pixel_when_it_shrinks) 
             stripes.setPixelColor(x, y, x % 8 == 3 ? Qt::white : Qt::black);
     platform::ImageView view;
     view.setImage(stripes);
-    view.setFrame(QRectF(0, 0, 8, 128));
+    view.setFrame(platform::Rect(0, 0, 8, 128));
     QImage image(8, 128, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -13,7 +13,7 @@ using State = QVStyledOverlay::FadingState;
 class Overlay : public QVParentOverlay {
 public:
     Overlay()
-        : QVParentOverlay(QRectF(0, 0, 100, 50), kQVDefaultOverlayStyle) {
+        : QVParentOverlay(platform::Rect(0, 0, 100, 50), kQVDefaultOverlayStyle) {
         orderFront();
     }
 };

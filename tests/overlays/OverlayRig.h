@@ -38,5 +38,5 @@ struct OverlayRig {
     }
 
     TestEnvironment settings;
-    platform::Window window{QRectF(0, 0, 1024, 768)};
+    platform::Window window{platform::Rect(0, 0, 1024, 768)};
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-std::shared_ptr<QVSubtitle> cueAt(const QRectF& rect) {
+std::shared_ptr<QVSubtitle> cueAt(const platform::Rect& rect) {
     auto cue = std::make_shared<QVSubtitle>(std::make_shared<TwoPixels>(), 0, 100);
     cue->setRect(rect);
     return cue;
@@ -45,7 +45,7 @@ protected:
     QVImageSubView view{&rig.window, &picture, kQVDefaultOverlayStyle};
 };
 
-void expectFrame(const QVImageSubView& view, const QRectF& expected) {
+void expectFrame(const QVImageSubView& view, const platform::Rect& expected) {
     EXPECT_NEAR(view.frame().x(), expected.x(), 0.01);
     EXPECT_NEAR(view.frame().y(), expected.y(), 0.01);
     EXPECT_NEAR(view.frame().width(), expected.width(), 0.01);
@@ -60,7 +60,7 @@ TEST_F(ImageSubView, a_cue_stands_where_its_frame_lies_over_the_picture) {
     view.setSubtitle(cueAt({60, 20, 600, 50}));
     expectFrame(view, {192, 24, 640, 60});
     // The window may stand anywhere, and the picture changes its size.
-    rig.window.setFrame(QRectF(1000, 500, 1024, 768));
+    rig.window.setFrame(platform::Rect(1000, 500, 1024, 768));
     picture.frame = {256, 100, 384, 288};
     view.movieViewSizeChanged({});
     expectFrame(view, {1288, 612, 320, 30});

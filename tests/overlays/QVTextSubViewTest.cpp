@@ -20,7 +20,7 @@ protected:
         rig.change(kAlignment, 0x110); // centred, on the picture's bottom edge
         view.setTextFontSizeMin(20);
     }
-    void resizePicture(const QRectF& frame) {
+    void resizePicture(const platform::Rect& frame) {
         picture.frame = frame;
         platform::NotificationCenter::defaultCenter().post(QVMovieViewSizeChangedNotification{nullptr});
     }

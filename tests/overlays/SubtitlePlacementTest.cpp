@@ -6,12 +6,12 @@
 using namespace SubtitlePlacement;
 
 TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
-    const QRectF parent(100, 50, 1000, 800);
-    const QRectF small(200, 150, 600, 500), filling(0, 0, 1000, 800), beyond(-500, -400, 2000, 1600);
+    const platform::Rect parent(100, 50, 1000, 800);
+    const platform::Rect small(200, 150, 600, 500), filling(0, 0, 1000, 800), beyond(-500, -400, 2000, 1600);
     const struct {
         const char* name;
         std::uint32_t alignment;
-        std::optional<QRectF> picture;
+        std::optional<platform::Rect> picture;
         std::optional<double> bar;
         double y;
     } cases[] = {
@@ -29,9 +29,9 @@ TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
         {"on nothing", 0x110, {}, {}, 50},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(placed(QRectF(-3, -3, 400, 40), c.alignment, {parent, 24, c.picture, c.bar}),
-                  QRectF(400, c.y, 400, 40))
+        EXPECT_EQ(placed(platform::Rect(-3, -3, 400, 40), c.alignment, {parent, 24, c.picture, c.bar}),
+                  platform::Rect(400, c.y, 400, 40))
             << c.name;
-    EXPECT_EQ(placed(QRectF(0, 0, 400, 40), 0x121, {parent, 24, small, {}}).x(), 124);
-    EXPECT_EQ(placed(QRectF(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x121, {parent, 24, small, {}}).x(), 124);
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
 }

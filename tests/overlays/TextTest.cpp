@@ -112,7 +112,7 @@ TEST(TextView, the_shadow_falls_where_its_offset_points_in_its_colour) {
     view.setTextColor(Qt::white);
     view.setText("I");
     view.sizeToFit();
-    view.setFrame(QRectF(0, 0, 100, 100));
+    view.setFrame(platform::Rect(0, 0, 100, 100));
     const QRect ink = inkOf(drawn(view));
     const auto shadowRed = [](const QColor& color) { return color.red() > 200 && color.blue() < 50; };
     view.setShadow(Shadow{QSizeF(20, -10), 0, Qt::red});

@@ -22,7 +22,7 @@ struct BarRig : PlaybackRig {
     platform::MouseEvent at(double x) const {
         platform::MouseEvent event;
         event.button = platform::MouseButton::left;
-        event.locationInWindow = QPointF(view.frame().left() + x, view.frame().top() + 8);
+        event.locationInWindow = QPointF(view.frame().minX() + x, view.frame().minY() + 8);
         return event;
     }
     const QSizeF size{640, 16};

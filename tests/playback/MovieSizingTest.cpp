@@ -86,9 +86,9 @@ TEST(MovieSizing, a_jump_stops_at_the_ends_and_does_not_overflow) {
 }
 
 TEST(MovieSizing, the_picture_follows_the_pointer_until_an_edge_would_open_a_gap) {
-    const QRectF tall(0, -90, 1440, 1080), wide(-100, 0, 1640, 900), small(400, 200, 640, 480);
+    const platform::Rect tall(0, -90, 1440, 1080), wide(-100, 0, 1640, 900), small(400, 200, 640, 480);
     const struct {
-        QRectF view;
+        platform::Rect view;
         double dx, dy;
         std::optional<QPointF> offset;
     } cases[] = {
@@ -96,5 +96,5 @@ TEST(MovieSizing, the_picture_follows_the_pointer_until_an_edge_would_open_a_gap
         {wide, 150, 0, QPointF(100, 0)}, {wide, -40, 9, QPointF(-40, 0)}, {small, 10, 10, {}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(scrollOffset(c.view, QRectF(0, 0, 1440, 900), c.dx, c.dy), c.offset) << c.dx << ", " << c.dy;
+        EXPECT_EQ(scrollOffset(c.view, platform::Rect(0, 0, 1440, 900), c.dx, c.dy), c.offset) << c.dx << ", " << c.dy;
 }

@@ -26,7 +26,7 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     EXPECT_FLOAT_EQ(rig.view.volume(), 0.3F);
     EXPECT_EQ(volumes.count, 1);
     EXPECT_EQ(rig.view.movieSize(), movieSize::fitWidth);
-    EXPECT_EQ(rig.view.frame(), QRectF(0, -90, 1440, 1080));
+    EXPECT_EQ(rig.view.frame(), platform::Rect(0, -90, 1440, 1080));
     EXPECT_EQ(rig.view.time(), 0);
 
     // The same movie again begins anew without being loaded anew.
@@ -43,7 +43,7 @@ TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
     rig.show();
     Posts<QVMovieViewSizeChangedNotification> posts(rig.settings.notifications);
     rig.view.setMovieSize(movieSize::normal, Recalculation::ifChanged);
-    EXPECT_EQ(rig.view.frame(), QRectF(400, 210, 640, 480));
+    EXPECT_EQ(rig.view.frame(), platform::Rect(400, 210, 640, 480));
     rig.view.setMovieSize(movieSize::bigger, Recalculation::ifChanged);
     rig.view.setMovieSize(movieSize::bigger, Recalculation::ifChanged);
     EXPECT_EQ(posts.count, 3);

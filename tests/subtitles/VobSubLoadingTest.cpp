@@ -57,7 +57,7 @@ TEST_F(VobSubLoading, cues_have_times_places_and_pictures) {
         EXPECT_EQ(cues[i]->start(), expected[i].start) << i;
         EXPECT_EQ(cues[i]->end(), expected[i].end) << i;
         EXPECT_EQ(cues[i]->forced(), expected[i].forced) << i;
-        EXPECT_EQ(cues[i]->rect(), QRectF(300, 50, 120, 30)) << i;
+        EXPECT_EQ(cues[i]->rect(), platform::Rect(300, 50, 120, 30)) << i;
         EXPECT_EQ(cues[i]->image()->size, QSizeF(120, 30)) << i;
         EXPECT_EQ(cues[i]->image()->expanded(), expectedImage(picture(90), plainIndex())) << i;
     }

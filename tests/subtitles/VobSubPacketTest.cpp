@@ -171,7 +171,7 @@ TEST(VobSubPacket, a_picture_is_placed_as_the_index_says) {
     struct Case {
         const char* name;
         VobSubIndex index;
-        QRectF rect;
+        platform::Rect rect;
     };
     VobSubIndex plain = plainIndex();
     VobSubIndex scaled = plain;

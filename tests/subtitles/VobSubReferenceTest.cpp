@@ -78,7 +78,7 @@ protected:
         Frames frames;
         for (const auto& cue : track.cues()) {
             QImage& frame = frames.emplace(cue->start() / 3 * 5, emptyFrame(pair)).first->second; // 600 a second
-            const QRectF rect = cue->rect();
+            const platform::Rect rect = cue->rect();
             QPainter painter(&frame);
             painter.setCompositionMode(QPainter::CompositionMode_Source);
             painter.drawImage(QPointF(rect.x(), pair.height - rect.y() - rect.height()), cue->image()->expanded());

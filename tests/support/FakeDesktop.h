@@ -31,7 +31,7 @@ public:
     QStringList openPanelFolders;
     QList<QStringList> openPanelAnswers;
 
-    std::vector<platform::Screen> screenList = {{QRectF(0, 0, 1440, 900), true, 1, "Main"}};
+    std::vector<platform::Screen> screenList = {{platform::Rect(0, 0, 1440, 900), true, 1, "Main"}};
     /// By the screens' numbers; a screen that is missing cannot be read.
     QHash<std::uint32_t, float> brightnessLevels;
     std::uint32_t heldModifiers = 0;

@@ -69,6 +69,6 @@ struct PlaybackRig {
     RecordedFeedback confirmations;
     NoDrops drops;
     RecordingHost host;
-    platform::Window window{QRectF(0, 0, 1440, 900)};
+    platform::Window window{platform::Rect(0, 0, 1440, 900)};
     QVMovieView view{settings.environment, {toolkit.player(), desktop, app, confirmations, drops}};
 };

@@ -164,7 +164,7 @@ std::vector<Screen> QtDesktop::screens() const {
         return result;
     std::uint32_t number = 0;
     const auto add = [&](const QScreen* screen) {
-        result.push_back({sceneGeometry::flippedOnDesktop(screen->geometry(), main->geometry().height()), true,
+        result.push_back({sceneGeometry::fromWindowSystem(screen->geometry(), main->geometry().height()), true,
                           ++number, screen->name()});
     };
     add(main);

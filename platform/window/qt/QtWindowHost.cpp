@@ -136,7 +136,7 @@ void QtWindowHost::placeOnScreen() {
     const QScreen* main = QGuiApplication::primaryScreen();
     if (!main)
         return;
-    const QRect frame = sceneGeometry::flippedOnDesktop(_root.frame(), main->geometry().height()).toRect();
+    const QRect frame = sceneGeometry::toWindowSystem(_root.frame(), main->geometry().height()).toRect();
     for (QScreen* candidate : QGuiApplication::screens()) {
         if (candidate->geometry() != frame)
             continue;
@@ -195,7 +195,7 @@ void QtWindowHost::setPointerHidden(bool hidden) {
     setCursor(hidden ? Qt::BlankCursor : Qt::ArrowCursor);
 }
 
-bool QtWindowHost::markDirty(const QRectF& rect) {
+bool QtWindowHost::markDirty(const Rect& rect) {
     const QRect pixels = sceneGeometry::toCoveringPixels(rect, _root.frame().size(), devicePixelRatio())
                              .intersected(QRect(QPoint(0, 0), pixelSize()));
     if (pixels.isEmpty())
@@ -208,12 +208,12 @@ bool QtWindowHost::markDirty(const QRectF& rect) {
     return true;
 }
 
-void QtWindowHost::displayNeeded(const QRectF& rect) {
+void QtWindowHost::displayNeeded(const Rect& rect) {
     if (markDirty(rect))
         schedulePaint();
 }
 
-void QtWindowHost::displayNow(const QRectF& rect) {
+void QtWindowHost::displayNow(const Rect& rect) {
     if (markDirty(rect))
         paint();
 }
@@ -356,7 +356,7 @@ void QtWindowHost::resizeEvent(QResizeEvent*) {
         return;
     // The window manager has the last word on the size; the model follows it.
     _followingWindowSystem = true;
-    _root.setFrame(sceneGeometry::flippedOnDesktop(geometry(), main->geometry().height()));
+    _root.setFrame(sceneGeometry::fromWindowSystem(geometry(), main->geometry().height()));
     _followingWindowSystem = false;
     displayNeeded(_root.contentView().bounds());
 }

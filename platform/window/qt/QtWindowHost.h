@@ -45,8 +45,8 @@ public:
     void alphaChanged() override;
     void levelChanged() override;
     void orderedChanged() override;
-    void displayNeeded(const QRectF& rect) override;
-    void displayNow(const QRectF& rect) override;
+    void displayNeeded(const Rect& rect) override;
+    void displayNow(const Rect& rect) override;
     void makeKeyAndOrderFront() override;
     void setPointerHidden(bool hidden) override;
     double pixelRatio() const override { return devicePixelRatio(); }
@@ -68,7 +68,7 @@ private:
     bool chooseOpenGL(Renderer renderer);
     void placeOnScreen();
     QSize pixelSize() const;
-    bool markDirty(const QRectF& rect);
+    bool markDirty(const Rect& rect);
     void schedulePaint();
     void paint();
     void paintSoftware(const QRegion& dirty);
