@@ -2,7 +2,6 @@
 #include "platform/window/SceneComposer.h"
 
 #include "platform/window/PictureLayer.h"
-#include "platform/window/PixelBlending.h"
 #include "platform/window/SceneGeometry.h"
 #include "platform/window/View.h"
 #include "platform/window/Window.h"
@@ -45,26 +44,33 @@ QRegion SceneComposer::compose(QImage& target, const QRegion& marked, double pix
         if (layer.renderPixels(picture, visible, target.bits(), static_cast<std::size_t>(target.bytesPerLine())))
             pictures += visible;
     });
+    updateChildren(pixelRatio);
+    // Nothing to paint but pictures: while a movie plays without overlays, no painter is made.
     const QRegion background = dirty - pictures;
     const bool viewsDraw = anyViewDraws(_root.contentView(), dirty, pixelRatio);
-    if (!background.isEmpty() || viewsDraw) {
-        QPainter painter(&target);
-        painter.scale(1 / target.devicePixelRatio(), 1 / target.devicePixelRatio()); // pixels from here on
-        const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
-        for (const QRect& rect : background)
-            painter.fillRect(rect, color);
-        if (viewsDraw)
-            drawViews(painter, _root, _root.contentView(), dirty, pixelRatio);
-    }
-    updateChildren(pixelRatio);
+    const bool dims = _paintsAlpha && _root.alphaValue() < 1;
+    if (background.isEmpty() && !viewsDraw && !dims && !anyChildIn(dirty))
+        return dirty;
+    // The target's memory without its pixel ratio: the painter's coordinates are pixels.
+    QImage pixels(target.bits(), target.width(), target.height(), target.bytesPerLine(), target.format());
+    QPainter painter(&pixels);
+    const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
+    for (const QRect& rect : background)
+        painter.fillRect(rect, color);
+    if (viewsDraw)
+        drawViews(painter, _root, _root.contentView(), dirty, pixelRatio);
     for (const Child& child : _children) {
-        const unsigned opacity = pixelBlending::opacity256(child.window->alphaValue());
-        for (const QRect& rect : dirty)
-            pixelBlending::blend(target, child.picture, child.place.topLeft(), rect, opacity);
+        painter.setOpacity(static_cast<double>(child.window->alphaValue()));
+        for (const QRect& rect : dirty) {
+            const QRect part = rect.intersected(child.place);
+            if (!part.isEmpty())
+                painter.drawImage(part.topLeft(), child.picture, part.translated(-child.place.topLeft()));
+        }
     }
-    if (_paintsAlpha && _root.alphaValue() < 1) {
+    painter.setOpacity(1);
+    if (dims) {
         for (const QRect& rect : dirty)
-            pixelBlending::dim(target, rect, pixelBlending::opacity256(_root.alphaValue()));
+            painter.fillRect(rect, QColor::fromRgbF(0, 0, 0, 1.0F - _root.alphaValue()));
     }
     return dirty;
 }
@@ -79,6 +85,10 @@ void SceneComposer::drawOver(QPainter& painter, const QRegion& marked, double pi
     painter.setOpacity(1);
     if (_paintsAlpha && _root.alphaValue() < 1)
         painter.fillRect(marked.boundingRect(), QColor::fromRgbF(0, 0, 0, 1.0F - _root.alphaValue()));
+}
+
+bool SceneComposer::anyChildIn(const QRegion& dirty) const {
+    return std::ranges::any_of(_children, [&](const Child& child) { return dirty.intersects(child.place); });
 }
 
 bool SceneComposer::anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const {
@@ -146,7 +156,6 @@ void SceneComposer::updateChildren(double pixelRatio) {
 }
 
 void SceneComposer::drawChild(Child& child, double pixelRatio) {
-    ++_childDrawings;
     child.revision = child.window->contentRevision();
     child.pixelRatio = pixelRatio;
     if (child.picture.size() != child.place.size())

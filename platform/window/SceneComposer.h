@@ -33,8 +33,6 @@ public:
 
     /// Whether the root's alpha is painted: where the window system does not fade windows, the content is darkened.
     void setPaintsAlpha(bool paints) { _paintsAlpha = paints; }
-    /// How many pictures of children were drawn (measurements and tests).
-    unsigned long childDrawings() const { return _childDrawings; }
 
 private:
     struct Child {
@@ -48,6 +46,7 @@ private:
 
     void visitPictures(const View& view, double pixelRatio,
                        const std::function<void(PictureLayer&, const QRect&)>& visit);
+    bool anyChildIn(const QRegion& dirty) const;
     bool anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const;
     void drawViews(QPainter& painter, const Window& window, const View& view, const QRegion& dirty, double pixelRatio);
     void updateChildren(double pixelRatio);
@@ -56,7 +55,6 @@ private:
     Window& _root;
     std::vector<Child> _children; // the shown ones, from the back to the front
     bool _paintsAlpha = false;
-    unsigned long _childDrawings = 0;
 };
 
 } // namespace platform

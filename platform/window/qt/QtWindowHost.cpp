@@ -245,7 +245,6 @@ void QtWindowHost::schedulePaint() {
 void QtWindowHost::paint() {
     if (!isExposed() || _dirty.isEmpty())
         return;
-    ++_paintCount;
     const QRegion dirty = std::exchange(_dirty, QRegion());
     if (_openGL)
         paintOpenGL();

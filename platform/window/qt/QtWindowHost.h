@@ -37,8 +37,6 @@ public:
     /// any time.
     void setMainMenu(Menu& menu, MenuTarget& target);
 
-    /// How many times the window was painted (measurements).
-    unsigned long paintCount() const { return _paintCount; }
     bool usesOpenGL() const { return _openGL != nullptr; }
 
     void frameChanged() override;
@@ -89,7 +87,6 @@ private:
     bool _followingWindowSystem = false;
     bool _pointerHidden = false;
     QPointF _lastPointer;
-    unsigned long _paintCount = 0;
 };
 
 } // namespace platform
