@@ -40,7 +40,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                               platform.desktop,
                               _commands,
                               _files})
-    , _subtitleScene(_window, _view)
+    , _subtitleScene(environment, _window, _view)
     , _subtitles(&_subtitleScene)
     , _texts(_view, _playlist, _subtitles)
     , _activation(environment, _window, _view, _pointer)

@@ -27,7 +27,7 @@ platform::Rect chosenFrame(const platform::UserDefaults& settings, const platfor
 } // namespace
 
 QVFullScreenWindow::QVFullScreenWindow(const Environment& environment, Collaborators collaborators)
-    : QVParentOverlay(chosenFrame(environment.settings, collaborators.desktop), kQVFullscreenOverlayStyle)
+    : QVParentOverlay(environment, chosenFrame(environment.settings, collaborators.desktop), kQVFullscreenOverlayStyle)
     , _environment(environment)
     , _with(std::move(collaborators)) {
     setLevel(_environment.settings.integerForKey(kQVMainWindowLayer));

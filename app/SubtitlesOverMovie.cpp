@@ -7,11 +7,11 @@
 #include "playback/QVMovieView.h"
 
 std::unique_ptr<SubtitleView> SubtitlesOverMovie::createTextView() {
-    return std::make_unique<QVTextSubView>(&_window, &_view);
+    return std::make_unique<QVTextSubView>(_environment, _window, _view);
 }
 
 std::unique_ptr<ImageSubtitleView> SubtitlesOverMovie::createImageView() {
-    return std::make_unique<QVImageSubView>(&_window, &_view);
+    return std::make_unique<QVImageSubView>(_environment, _window, _view);
 }
 
 std::shared_ptr<SubtitleOwner> SubtitlesOverMovie::ownerOf(const std::shared_ptr<QVMovie>& movie) {

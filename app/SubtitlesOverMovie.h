@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
 #include "subtitles/SubtitleView.h"
 
 class QVMovieView;
@@ -12,8 +13,9 @@ class Window;
 /// Where subtitles are shown: above the main window, on the movie in its view. Both outlive it. Main thread.
 class SubtitlesOverMovie final : public SubtitleScene {
 public:
-    SubtitlesOverMovie(platform::Window& window, QVMovieView& view)
-        : _window(window)
+    SubtitlesOverMovie(const Environment& environment, platform::Window& window, QVMovieView& view)
+        : _environment(environment)
+        , _window(window)
         , _view(view) {}
 
     std::unique_ptr<SubtitleView> createTextView() override;
@@ -22,6 +24,7 @@ public:
     std::shared_ptr<SubtitleOwner> shownMovie() override;
 
 private:
+    Environment _environment;
     platform::Window& _window;
     QVMovieView& _view;
 };

@@ -2,6 +2,7 @@
 #include "bench/Allocations.h"
 #include "bench/Letters.h"
 #include "bench/SubtitleRoom.h"
+#include "overlays/OSDTexts.h"
 #include "overlays/PictureGeometry.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVImageSubView.h"
@@ -12,7 +13,7 @@
 #include "platform/window/SceneGeometry.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
-#include "tests/support/TestSettings.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -27,7 +28,8 @@ namespace {
 /// A screen of the benchmark's height with its main window on it, as many pixels as points.
 struct Scene {
     explicit Scene(std::int64_t height)
-        : root(platform::Rect(0, 0, static_cast<double>(height) * 16 / 9, static_cast<double>(height)),
+        : root(settings.environment,
+               platform::Rect(0, 0, static_cast<double>(height) * 16 / 9, static_cast<double>(height)),
                kQVFullscreenOverlayStyle)
         , target(root.frame().size().toSize(), QImage::Format_RGB32) {
         root.orderFront();
@@ -47,7 +49,7 @@ struct Scene {
     }
     void compose(const QRegion& region) { benchmark::DoNotOptimize(composer.compose(target, region, 1)); }
 
-    TestSettings settings;
+    TestEnvironment settings;
     QVParentOverlay root;
     platform::SceneComposer composer{root};
     QImage target;
@@ -60,7 +62,7 @@ QString subtitle(int number) {
 
 void aNewSubtitleFromTextToComposed(benchmark::State& state) {
     Scene scene(state.range(0));
-    QVTextOverlay overlay(&scene.root, kQVSubtitlesOverlayStyle);
+    QVTextOverlay overlay(scene.settings.environment, scene.root, kQVSubtitlesOverlayStyle);
     overlay.setTextFontSize(static_cast<float>(state.range(0)) / 24);
     scene.show(overlay, subtitle(0));
     int number = 0;
@@ -73,7 +75,7 @@ BENCHMARK(aNewSubtitleFromTextToComposed)->ArgName("height")->Arg(1080)->Arg(216
 
 void tenThousandCharactersFromTextToComposed(benchmark::State& state) {
     Scene scene(state.range(0));
-    QVTextOverlay overlay(&scene.root, kQVSubtitlesOverlayStyle);
+    QVTextOverlay overlay(scene.settings.environment, scene.root, kQVSubtitlesOverlayStyle);
     scene.show(overlay, subtitle(0));
     int number = 0;
     for ([[maybe_unused]] const auto step : state) {
@@ -122,7 +124,7 @@ void aNewBitmapCueFromRunLengthsToComposed(benchmark::State& state) {
     tracks[0]->waitForLoading();
     const auto cues = tracks[0]->cues();
     const WholeScreen picture(platform::Rect(QPointF(0, 0), scene.root.frame().size()));
-    QVImageSubView overlay(&scene.root, &picture);
+    QVImageSubView overlay(scene.settings.environment, scene.root, picture);
     overlay.currentSubtitlesChanged(QVSubtitlesChangedNotification{tracks[0]});
     overlay.setSubtitle(cues[0]);
     scene.settings.runLoop.advance(5);
@@ -151,6 +153,16 @@ public:
     void skip() override {}
 };
 
+/// Of nothing: the display is given its text.
+class Texts final : public OSDTexts {
+    std::int32_t timeInSeconds() const override { return 0; }
+    std::int32_t durationInSeconds() const override { return 0; }
+    QString currentMovieInfo() const override { return {}; }
+    QString currentSubtitlesInfo() const override { return {}; }
+    QString loopingInfo() const override { return {}; }
+    QString volumeInfo() const override { return {}; }
+};
+
 /// A movie that fills the screen, under a subtitle of two lines, a message and the time.
 struct MovieScene : Scene {
     explicit MovieScene(std::int64_t height)
@@ -168,9 +180,10 @@ struct MovieScene : Scene {
     }
 
     Movie movie;
-    QVTextOverlay subtitles{&root, kQVSubtitlesOverlayStyle};
-    QVFeedbackOverlay feedback{&root};
-    QVOSDOverlay osd{&root};
+    const Texts texts;
+    QVTextOverlay subtitles{settings.environment, root, kQVSubtitlesOverlayStyle};
+    QVFeedbackOverlay feedback{settings.environment, root};
+    QVOSDOverlay osd{settings.environment, root, texts};
     const std::array<QVTextOverlay*, 3> overlays{&subtitles, &feedback, &osd};
 };
 

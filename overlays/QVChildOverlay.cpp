@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVChildOverlay.h"
 
-#include "settings/QVUserDefaults.h"
+#include "platform/base/UserDefaults.h"
 #include "settings/Tracing.h"
 
-QVChildOverlay::QVChildOverlay(platform::Window* parent, const QString& style)
-    : QVStyledOverlay(parent ? parent->frame() : platform::Rect(), style) {
+QVChildOverlay::QVChildOverlay(const Environment& environment, platform::Window& parent, const QString& style)
+    : QVStyledOverlay(environment, parent.frame(), style) {
     contentView().addSubview(_content);
     _content.setFrame(contentView().bounds());
 
@@ -18,25 +18,15 @@ QVChildOverlay::QVChildOverlay(platform::Window* parent, const QString& style)
     _content.setFrameOn(styleValue(defaults, &QVOverlayStyleDefaults::frameOn));
     _content.setFrameWidth(styleValue(defaults, &QVOverlayStyleDefaults::frameWidth));
     _alignStyle = static_cast<std::uint32_t>(styleValue(defaults, &QVOverlayStyleDefaults::alignment));
-    _padding = QVUserDefaults::standardUserDefaults().floatForKey(kQVOverlayDefaultPadding);
+    _padding = environment.settings.floatForKey(kQVOverlayDefaultPadding);
 
-    _onParentResize = platform::NotificationCenter::defaultCenter().observe<platform::WindowDidResizeNotification>(
+    _onParentResize = environment.notifications.observe<platform::WindowDidResizeNotification>(
         [this](const platform::WindowDidResizeNotification& notification) {
             if (notification.window == parentWindow())
                 parentSizeChanged();
         });
-    setParentWindow(parent);
-    if (parent)
-        orderFront();
-}
-
-void QVChildOverlay::setParentWindow(platform::Window* parent) {
-    if (parent == parentWindow())
-        return;
-    if (parent)
-        parent->addChildWindow(*this);
-    else
-        parentWindow()->removeChildWindow(*this);
+    parent.addChildWindow(*this);
+    orderFront();
 }
 
 void QVChildOverlay::setBackgroundOn(bool flag) {

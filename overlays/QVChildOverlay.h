@@ -9,11 +9,9 @@
 /// code puts it, and draws a panel behind its content. Main thread.
 class QVChildOverlay : public QVStyledOverlay {
 public:
-    /// Attached to the parent and ordered in, hidden. Without a parent it begins with an empty frame.
-    explicit QVChildOverlay(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle);
-
-    /// Attaches the overlay to another window, or to none; it keeps its place until its next layout.
-    void setParentWindow(platform::Window* parent);
+    /// Attached to the parent and ordered in, hidden. An overlay whose parent is gone keeps its place.
+    QVChildOverlay(const Environment& environment, platform::Window& parent,
+                   const QString& style = kQVDefaultOverlayStyle);
 
     // The panel. What changes its margin lays the overlay out again.
     bool backgroundOn() const { return _content.backgroundOn(); }

@@ -3,10 +3,11 @@
 
 #include "platform/base/RunLoop.h"
 
-QVFadeCalculator::QVFadeCalculator(double interval, double startValue, int direction)
-    : _multiplier(direction / interval)
-    , _addition(startValue - direction * platform::RunLoop::main().now() / interval) {}
+QVFadeCalculator::QVFadeCalculator(const platform::RunLoop& loop, double interval, double startValue, int direction)
+    : _loop(&loop)
+    , _multiplier(direction / interval)
+    , _addition(startValue - direction * loop.now() / interval) {}
 
 double QVFadeCalculator::valueNow() const {
-    return _multiplier * platform::RunLoop::main().now() + _addition;
+    return _multiplier * _loop->now() + _addition;
 }

@@ -10,7 +10,10 @@ std::unique_ptr<QVFeedbackOverlay> sShared;
 
 QVFeedbackOverlay& QVFeedbackOverlay::sharedFeedbackOverlay() {
     if (!sShared)
-        sShared = std::make_unique<QVFeedbackOverlay>(gAppController ? gAppController->window() : nullptr);
+        sShared = std::make_unique<QVFeedbackOverlay>(Environment{platform::RunLoop::main(),
+                                                                  platform::NotificationCenter::defaultCenter(),
+                                                                  QVUserDefaults::standardUserDefaults()},
+                                                      *gAppController->window());
     return *sShared;
 }
 
@@ -18,13 +21,13 @@ void QVFeedbackOverlay::destroyShared() {
     sShared.reset();
 }
 
-QVFeedbackOverlay::QVFeedbackOverlay(platform::Window* parent)
-    : QVTextOverlay(parent, kQVFeedbackOverlayStyle) {
+QVFeedbackOverlay::QVFeedbackOverlay(const Environment& environment, platform::Window& parent)
+    : QVTextOverlay(environment, parent, kQVFeedbackOverlayStyle) {
     orderFront();
 }
 
 void QVFeedbackOverlay::postFeedback(const QString& message) {
-    if (!QVUserDefaults::standardUserDefaults().boolForKey(kQVDisplayFeedback))
+    if (!environment().settings.boolForKey(kQVDisplayFeedback))
         return;
     setText(message);
     autopop();

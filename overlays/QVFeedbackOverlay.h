@@ -12,7 +12,7 @@ public:
     /// Ends the shared overlay, at termination; the next call would make another.
     static void destroyShared();
 
-    explicit QVFeedbackOverlay(platform::Window* parent);
+    QVFeedbackOverlay(const Environment& environment, platform::Window& parent);
 
     /// The switch is QVDisplayFeedback.
     void postFeedback(const QString& message) override;

@@ -14,8 +14,8 @@ double scaled(double unscaled, float factor) {
 
 } // namespace
 
-QVImageOverlay::QVImageOverlay(platform::Window* parent, const QString& style)
-    : QVChildOverlay(parent, style) {
+QVImageOverlay::QVImageOverlay(const Environment& environment, platform::Window& parent, const QString& style)
+    : QVChildOverlay(environment, parent, style) {
     overlayContentView().addSubview(_view);
     _view.setFrame(frame());
 }

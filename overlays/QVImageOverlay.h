@@ -7,7 +7,8 @@
 /// A child overlay as large as its one image, scaled by a factor for each axis. Main thread.
 class QVImageOverlay : public QVChildOverlay {
 public:
-    explicit QVImageOverlay(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle);
+    QVImageOverlay(const Environment& environment, platform::Window& parent,
+                   const QString& style = kQVDefaultOverlayStyle);
 
     const QImage& image() const { return _view.image(); }
     /// A null image is none: the overlay keeps its size.

@@ -6,8 +6,9 @@
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 
-QVImageSubView::QVImageSubView(platform::Window* parent, const PictureGeometry* picture, const QString& style)
-    : QVImageOverlay(parent, style)
+QVImageSubView::QVImageSubView(const Environment& environment, platform::Window& parent, const PictureGeometry& picture,
+                               const QString& style)
+    : QVImageOverlay(environment, parent, style)
     , _picture(picture) {
     contentSizeChanged();
 }
@@ -59,23 +60,22 @@ void QVImageSubView::movieViewSizeChanged(const QVMovieViewSizeChangedNotificati
 }
 
 void QVImageSubView::_recalculateAspect() {
-    const bool known = _picture && !_info.expired();
-    _aspect = known ? SubtitlePlacement::frameAspect(_picture->aspectRatio()) : 1.0F;
+    _aspect = _info.expired() ? 1.0F : SubtitlePlacement::frameAspect(_picture.aspectRatio());
     _recalculateScale();
 }
 
 void QVImageSubView::_recalculateScale() {
     const auto info = _info.lock();
-    if (!_picture || !info)
+    if (!info)
         return;
-    const auto [x, y] = SubtitlePlacement::frameScale(info->index()._size, _picture->pictureFrame().width(), _aspect);
+    const auto [x, y] = SubtitlePlacement::frameScale(info->index()._size, _picture.pictureFrame().width(), _aspect);
     setScale(x, y);
 }
 
 void QVImageSubView::contentSizeChanged() {
     platform::Rect rect(QPointF(0, 0), contentSize());
-    if (_subtitle && _picture && parentWindow()) {
-        const platform::Rect view = _picture->pictureFrame().translated(parentWindow()->frame().origin());
+    if (_subtitle && parentWindow()) {
+        const platform::Rect view = _picture.pictureFrame().translated(parentWindow()->frame().origin());
         rect = SubtitlePlacement::bitmapFrame(_subtitle->rect(), {scaleX(), scaleY()}, view, _aspect);
     }
     applyNewOverlayFrame(adjustForBackgroundStyle(rect), "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");

@@ -10,8 +10,8 @@ class QVVobSubInfo;
 /// Shows the cues of a bitmap track where they stand in their frame, which lies over the picture. Main thread.
 class QVImageSubView final : public QVImageOverlay, public ImageSubtitleView {
 public:
-    /// Hidden and without a cue. The picture may be null (no movie view), else it outlives the view.
-    QVImageSubView(platform::Window* parent, const PictureGeometry* picture,
+    /// Hidden and without a cue. The picture outlives the view.
+    QVImageSubView(const Environment& environment, platform::Window& parent, const PictureGeometry& picture,
                    const QString& style = kQVVobSubOverlayStyle);
 
     void setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) override;
@@ -42,7 +42,7 @@ private:
 
     std::shared_ptr<QVSubtitle> _subtitle;
     float _aspect = 1.0F;
-    const PictureGeometry* _picture;
+    const PictureGeometry& _picture;
     /// Of the current track; gone with it, together with what was taken out of an archive.
     std::weak_ptr<const QVVobSubInfo> _info;
 };

@@ -5,6 +5,7 @@
 #include "overlays/ClockText.h"
 #include "overlays/OSDTexts.h"
 #include "platform/base/Localization.h"
+#include "settings/QVUserDefaults.h"
 
 namespace {
 
@@ -13,32 +14,24 @@ enum DisplayType { nothing, playingTime, currentMovie, subtitleTrack, loopingMod
 std::unique_ptr<QVOSDOverlay> sShared;
 const OSDTexts* sTexts = nullptr;
 
-QString textOfType(int type) {
-    if (!sTexts)
-        return {};
-    switch (type) {
-    case playingTime:
-        return platform::localizedFormat(QStringLiteral("Time: %@/%@"),
-                                         {stringWithTimeIntervalInSeconds(sTexts->timeInSeconds()),
-                                          stringWithTimeIntervalInSeconds(sTexts->durationInSeconds())});
-    case currentMovie:
-        return platform::localizedFormat(QStringLiteral("Movie: %@"), {sTexts->currentMovieInfo()});
-    case subtitleTrack:
-        return sTexts->currentSubtitlesInfo();
-    case loopingMode:
-        return sTexts->loopingInfo();
-    case volume:
-        return sTexts->volumeInfo();
-    default:
-        return {};
-    }
-}
+class NoTexts final : public OSDTexts {
+    std::int32_t timeInSeconds() const override { return 0; }
+    std::int32_t durationInSeconds() const override { return 0; }
+    QString currentMovieInfo() const override { return {}; }
+    QString currentSubtitlesInfo() const override { return {}; }
+    QString loopingInfo() const override { return {}; }
+    QString volumeInfo() const override { return {}; }
+};
+const NoTexts sNoTexts;
 
 } // namespace
 
 QVOSDOverlay& QVOSDOverlay::sharedOSDOverlay() {
     if (!sShared)
-        sShared = std::make_unique<QVOSDOverlay>(gAppController ? gAppController->window() : nullptr);
+        sShared = std::make_unique<QVOSDOverlay>(Environment{platform::RunLoop::main(),
+                                                             platform::NotificationCenter::defaultCenter(),
+                                                             QVUserDefaults::standardUserDefaults()},
+                                                 *gAppController->window(), sTexts ? *sTexts : sNoTexts);
     return *sShared;
 }
 
@@ -54,10 +47,11 @@ void QVOSDOverlay::setTexts(const OSDTexts* texts) {
     sTexts = texts;
 }
 
-QVOSDOverlay::QVOSDOverlay(platform::Window* parent)
-    : QVTextOverlay(parent, kQVOSDOverlayStyle) {
+QVOSDOverlay::QVOSDOverlay(const Environment& environment, platform::Window& parent, const OSDTexts& texts)
+    : QVTextOverlay(environment, parent, kQVOSDOverlayStyle)
+    , _texts(texts) {
     orderFront();
-    auto& center = platform::NotificationCenter::defaultCenter();
+    platform::NotificationCenter& center = environment.notifications;
     _onMovieTime = center.observe<QVMovieInterestingTimeNotification>(
         [this](const QVMovieInterestingTimeNotification&) { updateDisplayOfType(playingTime); });
     _onSubtitles = center.observe<QVSubtitlesChangedNotification>(
@@ -66,6 +60,25 @@ QVOSDOverlay::QVOSDOverlay(platform::Window* parent)
         [this](const QVMovieVolumeChangedNotification&) { updateDisplayOfType(volume); });
     _onLooping = center.observe<QVPlaylistLoopingChangedNotification>(
         [this](const QVPlaylistLoopingChangedNotification&) { updateDisplayOfType(loopingMode); });
+}
+
+QString QVOSDOverlay::textOfType(int type) const {
+    switch (type) {
+    case playingTime:
+        return platform::localizedFormat(QStringLiteral("Time: %@/%@"),
+                                         {stringWithTimeIntervalInSeconds(_texts.timeInSeconds()),
+                                          stringWithTimeIntervalInSeconds(_texts.durationInSeconds())});
+    case currentMovie:
+        return platform::localizedFormat(QStringLiteral("Movie: %@"), {_texts.currentMovieInfo()});
+    case subtitleTrack:
+        return _texts.currentSubtitlesInfo();
+    case loopingMode:
+        return _texts.loopingInfo();
+    case volume:
+        return _texts.volumeInfo();
+    default:
+        return {};
+    }
 }
 
 void QVOSDOverlay::setDisplayType(int type) {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "overlays/OnScreenDisplay.h"
 #include "overlays/QVTextOverlay.h"
 
 class OSDTexts;
 
-/// The on-screen display: 0 nothing, 1 time, 2 movie, 3 subtitles, 4 looping, 5 volume. It follows what it shows and
-/// stays until it is switched off. Main thread.
-class QVOSDOverlay final : public QVTextOverlay {
+/// The on-screen display. It follows what it shows and stays until it is switched off. Main thread.
+class QVOSDOverlay final : public QVTextOverlay, public OnScreenDisplay {
 public:
     /// The one of the process, made on the first call above the application's main window, if there is one.
     static QVOSDOverlay& sharedOSDOverlay();
@@ -18,13 +18,12 @@ public:
     /// Who knows what is shown; null for nobody, and then texts are empty. The texts must outlive their use.
     static void setTexts(const OSDTexts* texts);
 
-    explicit QVOSDOverlay(platform::Window* parent);
+    /// The texts outlive the overlay.
+    QVOSDOverlay(const Environment& environment, platform::Window& parent, const OSDTexts& texts);
 
-    int displayType() const { return _type; }
-    /// The type that is shown already is not shown anew.
-    void setDisplayType(int type);
-    /// Moves to the next (+1) or previous (-1) type, around.
-    void cycleDisplays(int step);
+    int displayType() const override { return _type; }
+    void setDisplayType(int type) override;
+    void cycleDisplays(int step) override;
     /// Shows the text of the type, or hides; a type that there is not changes nothing.
     void updateDisplay();
 
@@ -37,6 +36,9 @@ protected:
 private:
     void updateDisplayOfType(int type);
 
+    QString textOfType(int type) const;
+
+    const OSDTexts& _texts;
     int _type = 0;
     platform::Subscription _onMovieTime;
     platform::Subscription _onSubtitles;

@@ -19,8 +19,9 @@ std::vector<QVStyledOverlay*> overlaysAbove(const platform::Window& parent) {
 
 } // namespace
 
-QVParentOverlay::QVParentOverlay(const platform::Rect& contentRect, const QString& style)
-    : QVStyledOverlay(contentRect, style) {
+QVParentOverlay::QVParentOverlay(const Environment& environment, const platform::Rect& contentRect,
+                                 const QString& style)
+    : QVStyledOverlay(environment, contentRect, style) {
     _hiddenChldrens.reserve(kInitialCapacity);
 }
 

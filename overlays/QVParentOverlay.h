@@ -9,7 +9,7 @@
 /// visible. Main thread.
 class QVParentOverlay : public QVStyledOverlay {
 public:
-    QVParentOverlay(const platform::Rect& contentRect, const QString& style);
+    QVParentOverlay(const Environment& environment, const platform::Rect& contentRect, const QString& style);
 
     void show() override;
     void hide() override;

@@ -2,7 +2,6 @@
 #include "overlays/QVStyledOverlay.h"
 
 #include "overlays/QVFadeCalculator.h"
-#include "settings/QVUserDefaults.h"
 #include "settings/Tracing.h"
 
 #include <algorithm>
@@ -40,8 +39,10 @@ bool isWindowVisible(const platform::Window& window) {
 
 } // namespace
 
-QVStyledOverlay::QVStyledOverlay(const platform::Rect& contentRect, const QString& style)
+QVStyledOverlay::QVStyledOverlay(const Environment& environment, const platform::Rect& contentRect,
+                                 const QString& style)
     : platform::Window(contentRect)
+    , _environment(environment)
     , _style(style) {
     const auto defaults = styleDefaults();
     Window::setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
@@ -52,7 +53,7 @@ QVStyledOverlay::QVStyledOverlay(const platform::Rect& contentRect, const QStrin
     _minAlpha = styleValue(defaults, &QVOverlayStyleDefaults::minAlpha);
     setAlphaValue(_minAlpha);
 
-    auto& center = platform::NotificationCenter::defaultCenter();
+    platform::NotificationCenter& center = _environment.notifications;
     _onPreferences = center.observe<QVPreferencesChangedNotification>(
         [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
     _onMovieViewSize = center.observe<QVMovieViewSizeChangedNotification>(
@@ -64,7 +65,7 @@ QVStyledOverlay::QVStyledOverlay(const platform::Rect& contentRect, const QStrin
 QVStyledOverlay::~QVStyledOverlay() = default;
 
 std::optional<QVOverlayStyleDefaults> QVStyledOverlay::styleDefaults() const {
-    return QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(QVUserDefaults::standardUserDefaults(), _style);
+    return QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(_environment.settings, _style);
 }
 
 void QVStyledOverlay::show() {
@@ -79,8 +80,9 @@ void QVStyledOverlay::show() {
         return;
     }
     trace("%@: Start Fading IN, interval: %f", logName(), QString::number(_fadingInInterval, 'f', 6));
-    const auto calculator = QVFadeCalculator::fadeInCalculator(_fadingInInterval, static_cast<double>(alphaValue()));
-    setFadeTimer(platform::RunLoop::main().schedule(kFadingStep, true, [this, calculator] { doFadeIn(calculator); }));
+    const auto calculator =
+        QVFadeCalculator::fadeInCalculator(_environment.loop, _fadingInInterval, static_cast<double>(alphaValue()));
+    setFadeTimer(_environment.loop.schedule(kFadingStep, true, [this, calculator] { doFadeIn(calculator); }));
 }
 
 void QVStyledOverlay::hide() {
@@ -94,8 +96,9 @@ void QVStyledOverlay::hide() {
         return;
     }
     trace("%@: Start Fading OUT, interval: %f", logName(), QString::number(interval, 'f', 6));
-    const auto calculator = QVFadeCalculator::fadeOutCalculator(interval, static_cast<double>(alphaValue()));
-    setFadeTimer(platform::RunLoop::main().schedule(kFadingStep, true, [this, calculator] { doFadeOut(calculator); }));
+    const auto calculator =
+        QVFadeCalculator::fadeOutCalculator(_environment.loop, interval, static_cast<double>(alphaValue()));
+    setFadeTimer(_environment.loop.schedule(kFadingStep, true, [this, calculator] { doFadeOut(calculator); }));
 }
 
 void QVStyledOverlay::doFadeIn(const QVFadeCalculator& calculator) {
@@ -151,7 +154,7 @@ void QVStyledOverlay::delay() {
     }
     _fadingState = FadingState::delaying;
     trace("%@: Start Fading DELAY, interval: %f", logName(), QString::number(_fadingDelayInterval, 'f', 6));
-    setFadeTimer(platform::RunLoop::main().schedule(hold, false, [this] { postDelay(); }));
+    setFadeTimer(_environment.loop.schedule(hold, false, [this] { postDelay(); }));
 }
 
 void QVStyledOverlay::postDelay() {

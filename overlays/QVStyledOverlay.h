@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
 #include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
@@ -24,7 +25,7 @@ public:
     enum class FadingState { idle = 0, fadingIn = 1, fadingOut = 2, delaying = 3 };
 
     /// `contentRect` is in screen coordinates, `style` a style selector key. The overlay starts hidden.
-    QVStyledOverlay(const platform::Rect& contentRect, const QString& style);
+    QVStyledOverlay(const Environment& environment, const platform::Rect& contentRect, const QString& style);
     ~QVStyledOverlay() override;
 
     /// The selector key.
@@ -72,6 +73,7 @@ protected:
     virtual void postFadeIn();
     virtual void postFadeOut();
 
+    const Environment& environment() const { return _environment; }
     /// The style as it stands in the settings now, or nothing when it is not registered.
     std::optional<QVOverlayStyleDefaults> styleDefaults() const;
 
@@ -81,6 +83,7 @@ private:
     void doFadeOut(const QVFadeCalculator& calculator);
     void setFadeTimer(std::unique_ptr<platform::Timer> timer) { _fadingTimer = std::move(timer); }
 
+    Environment _environment;
     QString _style;
     std::unique_ptr<platform::Timer> _fadingTimer; // the one fade or hold that runs
     FadingState _fadingState = FadingState::idle;

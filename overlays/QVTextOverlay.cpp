@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVTextOverlay.h"
 
+#include "platform/base/UserDefaults.h"
 #include "platform/window/Fonts.h"
 #include "settings/ColorText.h"
-#include "settings/QVUserDefaults.h"
 #include "settings/Tracing.h"
 
 #include <algorithm>
@@ -13,19 +13,15 @@ namespace {
 /// Room under the last line, as a share of the font's size.
 constexpr double kRoomBelow = 0.125;
 
-float smallestFontSize() {
-    return static_cast<float>(QVUserDefaults::standardUserDefaults().integerForKey(kQVOverlayTextFontSizeMin));
-}
-
 QString wholePoints(float size) {
     return QString::number(static_cast<double>(size), 'f', 0);
 }
 
 } // namespace
 
-QVTextOverlay::QVTextOverlay(platform::Window* parent, const QString& style)
-    : QVChildOverlay(parent, style)
-    , _containerWidth(parent ? parent->frame().width() : static_cast<double>(QVLargeNumberForText)) {
+QVTextOverlay::QVTextOverlay(const Environment& environment, platform::Window& parent, const QString& style)
+    : QVChildOverlay(environment, parent, style)
+    , _containerWidth(parent.frame().width()) {
     overlayContentView().addSubview(_view);
     const auto defaults = styleDefaults();
     _base_font_size = static_cast<float>(styleValue(defaults, &QVOverlayStyleDefaults::textFontSize));
@@ -37,6 +33,11 @@ QVTextOverlay::QVTextOverlay(platform::Window* parent, const QString& style)
     setFrameColor(color);
     setShadowOn(styleValue(defaults, &QVOverlayStyleDefaults::shadowOn));
     sizeToFit();
+}
+
+/// Of every text overlay, whatever its style.
+float QVTextOverlay::smallestFontSize() const {
+    return static_cast<float>(environment().settings.integerForKey(kQVOverlayTextFontSizeMin));
 }
 
 void QVTextOverlay::setText(const QString& text) {

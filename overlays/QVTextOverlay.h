@@ -16,7 +16,8 @@ inline constexpr float QVLargeNumberForText = 1e7F;
 /// A child overlay as large as its one text, which is centred and wraps at the parent's width. Main thread.
 class QVTextOverlay : public QVChildOverlay {
 public:
-    explicit QVTextOverlay(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle);
+    QVTextOverlay(const Environment& environment, platform::Window& parent,
+                  const QString& style = kQVDefaultOverlayStyle);
 
     const QString& text() const { return _view.text(); }
     /// A null text is the empty one. The text that is shown already costs nothing.
@@ -57,6 +58,7 @@ protected:
     const QVTextView& textView() const { return _view; }
 
 private:
+    float smallestFontSize() const;
     bool changeStyle(const QString& key, const std::optional<QVOverlayStyleDefaults>& style);
     template <class Change>
     void changeShadow(Change change);

@@ -18,8 +18,9 @@ QString twoDigits(double value) {
 
 } // namespace
 
-QVTextSubView::QVTextSubView(platform::Window* parent, const PictureGeometry* picture, const QString& style)
-    : QVTextOverlay(parent, style)
+QVTextSubView::QVTextSubView(const Environment& environment, platform::Window& parent, const PictureGeometry& picture,
+                             const QString& style)
+    : QVTextOverlay(environment, parent, style)
     , _picture(picture) {
     recalculateFontSize();
 }
@@ -52,8 +53,8 @@ void QVTextSubView::postFadeOut() {
 }
 
 void QVTextSubView::recalculateFontSize() {
-    const double width = _picture ? _picture->pictureFrame().width() : 0;
-    const double fit = _picture ? _picture->sizeForFitScreen(kFitScreen).width() : 0;
+    const double width = _picture.pictureFrame().width();
+    const double fit = _picture.sizeForFitScreen(kFitScreen).width();
     const auto [size, ratio] = SubtitlePlacement::textSize(width, fit, textFontSizeMin(), textFontSize());
     setTextFont(platform::convertedFont(textFont(), size));
     trace("%@: Changed current subtitle size to: %.2g, (min: %.2g, max: %.2g ratio: %.2g)\n", logName(),
@@ -64,12 +65,10 @@ void QVTextSubView::recalculateFontSize() {
 void QVTextSubView::contentSizeChanged() {
     platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (parentWindow()) {
-        SubtitlePlacement::Ground ground{parentWindow()->frame(), static_cast<double>(padding()), {}, {}};
-        if (_picture) {
-            ground.picture = _picture->pictureFrame();
-            if (_picture->isControllerBarVisible())
-                ground.bar = _picture->getControllerHeight();
-        }
+        SubtitlePlacement::Ground ground{
+            parentWindow()->frame(), static_cast<double>(padding()), _picture.pictureFrame(), {}};
+        if (_picture.isControllerBarVisible())
+            ground.bar = _picture.getControllerHeight();
         rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground);
     }
     applyNewOverlayFrame(rect, "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");

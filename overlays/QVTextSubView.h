@@ -9,8 +9,8 @@ class PictureGeometry;
 /// Shows the cues of a text track: on the picture, scaled with it, clear of the controller bar. Main thread.
 class QVTextSubView final : public QVTextOverlay, public SubtitleView {
 public:
-    /// Hidden and without a cue. The picture may be null (no movie view), else it outlives the view.
-    QVTextSubView(platform::Window* parent, const PictureGeometry* picture,
+    /// Hidden and without a cue. The picture outlives the view.
+    QVTextSubView(const Environment& environment, platform::Window& parent, const PictureGeometry& picture,
                   const QString& style = kQVSubtitlesOverlayStyle);
 
     void setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) override;
@@ -32,5 +32,5 @@ private:
     bool hasText() const;
 
     std::shared_ptr<QVSubtitle> _subtitle;
-    const PictureGeometry* _picture;
+    const PictureGeometry& _picture;
 };

@@ -22,16 +22,14 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
 
 platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground) {
     const double floor = ground.parent.y();
-    const double pictureBottom = floor + (ground.picture ? ground.picture->y() : 0);
+    const double pictureBottom = floor + ground.picture.y();
     double y = floor;
     switch (alignment & OverlayPlacement::verticalMask) {
     case 0x00:
-        if (ground.picture)
-            y = pictureBottom - rect.height();
+        y = pictureBottom - rect.height();
         break;
     case 0x10:
-        if (ground.picture)
-            y = pictureBottom + ground.bar.value_or(0);
+        y = pictureBottom + ground.bar.value_or(0);
         break;
     case 0x20:
         y = OverlayPlacement::verticalOrigin(alignment, ground.parent, rect.height(), ground.padding);

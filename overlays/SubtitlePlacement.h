@@ -21,8 +21,8 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
 struct Ground {
     platform::Rect parent; // on the screen
     double padding = 0;
-    /// The movie view within the parent, or nothing without one.
-    std::optional<platform::Rect> picture;
+    /// The movie view within the parent.
+    platform::Rect picture;
     /// Of the controller bar, or nothing while it is hidden.
     std::optional<double> bar;
 };

@@ -12,8 +12,8 @@ namespace {
 
 class Box : public QVChildOverlay {
 public:
-    explicit Box(platform::Window* parent, const QString& style = kQVDefaultOverlayStyle)
-        : QVChildOverlay(parent, style) {
+    Box(const Environment& environment, platform::Window& parent)
+        : QVChildOverlay(environment, parent) {
         contentSizeChanged();
     }
     QSizeF contentSize() const override { return {100, 20}; }
@@ -40,7 +40,7 @@ TEST(OverlayPlacement, the_alignment_code_says_where_a_window_stands) {
 
 TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
     OverlayRig rig;
-    Box box(&rig.window);
+    Box box(rig.settings.environment, rig.window);
     EXPECT_EQ(box.frame(), platform::Rect(20, 20, 114, 34));
     EXPECT_TRUE(box.isOrderedIn());
     box.setAlignmentStyle(0x112);
@@ -54,7 +54,7 @@ TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
 
 TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     OverlayRig rig;
-    Box box(&rig.window);
+    Box box(rig.settings.environment, rig.window);
     box.setFrameOn(false);
     EXPECT_EQ(box.frame().size(), QSizeF(110, 30));
     box.setRadius(20);

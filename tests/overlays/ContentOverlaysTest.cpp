@@ -20,7 +20,7 @@ public:
 
 TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
     OverlayRig rig;
-    TextOverlay overlay(&rig.window);
+    TextOverlay overlay(rig.settings.environment, rig.window);
     EXPECT_EQ(overlay.frame().origin(), QPointF(20, 20)) << "an empty text is an empty panel";
     overlay.setTextFontSize(20);
     overlay.setText("Some words");
@@ -42,7 +42,7 @@ TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
 
 TEST(QVTextOverlay, size_and_smallest_size_push_each_other) {
     OverlayRig rig;
-    TextOverlay overlay(&rig.window);
+    TextOverlay overlay(rig.settings.environment, rig.window);
     overlay.setTextFontSize(24);
     EXPECT_EQ(overlay.textFontSizeMin(), 12);
     overlay.setTextFontSize(10);
@@ -54,7 +54,7 @@ TEST(QVTextOverlay, size_and_smallest_size_push_each_other) {
 
 TEST(QVTextOverlay, the_shadow_keeps_its_values_until_it_is_switched_off) {
     OverlayRig rig;
-    TextOverlay overlay(&rig.window);
+    TextOverlay overlay(rig.settings.environment, rig.window);
     rig.change(kShadowOffset, "3 -4");
     rig.change(kShadowRadius, 5.0);
     rig.change(kShadowColor, "1 0 0 1");
@@ -72,7 +72,7 @@ TEST(QVTextOverlay, the_shadow_keeps_its_values_until_it_is_switched_off) {
 
 TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {
     OverlayRig rig;
-    TextOverlay overlay(&rig.window);
+    TextOverlay overlay(rig.settings.environment, rig.window);
     overlay.setText("text");
     rig.change(kTextColor, "0 0 1 1");
     rig.change(kTextFontSize, 50);

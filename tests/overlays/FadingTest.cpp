@@ -12,8 +12,8 @@ using State = QVStyledOverlay::FadingState;
 
 class Overlay : public QVParentOverlay {
 public:
-    Overlay()
-        : QVParentOverlay(platform::Rect(0, 0, 100, 50), kQVDefaultOverlayStyle) {
+    explicit Overlay(const Environment& environment)
+        : QVParentOverlay(environment, platform::Rect(0, 0, 100, 50), kQVDefaultOverlayStyle) {
         orderFront();
     }
 };
@@ -25,7 +25,7 @@ protected:
     std::size_t timers() { return rig.settings.runLoop.pendingCount(); }
 
     OverlayRig rig;
-    Overlay overlay;
+    Overlay overlay{rig.settings.environment};
 };
 
 } // namespace
@@ -108,7 +108,7 @@ TEST_F(Fading, popping_up_shows_holds_and_hides) {
 }
 
 TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
-    Overlay seen, unseen;
+    Overlay seen(rig.settings.environment), unseen(rig.settings.environment);
     for (Overlay* child : {&seen, &unseen})
         overlay.addChildWindow(*child);
     seen.show();
@@ -116,7 +116,7 @@ TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
     overlay.show();
     seen.show();
     {
-        Overlay gone;
+        Overlay gone(rig.settings.environment);
         overlay.addChildWindow(gone);
         gone.show();
         advance(2);

@@ -23,19 +23,16 @@ public:
 
 class OSD : public testing::Test {
 protected:
-    OSD() { QVOSDOverlay::setTexts(&texts); }
-    ~OSD() override { QVOSDOverlay::setTexts(nullptr); }
-
     template <class Notification>
     int refreshesOf(const Notification& notification) {
         const int before = texts.asked;
-        platform::NotificationCenter::defaultCenter().post(notification);
+        rig.settings.notifications.post(notification);
         return texts.asked - before;
     }
 
     OverlayRig rig;
     CountingTexts texts;
-    QVOSDOverlay osd{&rig.window};
+    QVOSDOverlay osd{rig.settings.environment, rig.window, texts};
 };
 
 } // namespace
@@ -66,7 +63,7 @@ TEST(ClockText, hours_are_neither_padded_nor_limited) {
 
 TEST(QVFeedbackOverlay, a_message_is_held_in_full_after_the_last_one) {
     OverlayRig rig;
-    QVFeedbackOverlay feedback(&rig.window);
+    QVFeedbackOverlay feedback(rig.settings.environment, rig.window);
     feedback.setFadingInInterval(0.2);
     feedback.setFadingDelayInterval(2);
     feedback.setFadingOutInterval(0.5);

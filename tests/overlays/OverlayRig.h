@@ -33,8 +33,7 @@ struct OverlayRig {
     void change(const QString& styleKey, const QVariant& value) {
         QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(settings.defaults(), kQVDefaultOverlayStyle)
             ->setObject(value, styleKey);
-        platform::NotificationCenter::defaultCenter().post(
-            QVPreferencesChangedNotification{kQVDefaultOverlayStyle, {styleKey}});
+        settings.notifications.post(QVPreferencesChangedNotification{kQVDefaultOverlayStyle, {styleKey}});
     }
 
     TestEnvironment settings;

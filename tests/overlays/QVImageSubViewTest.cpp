@@ -42,7 +42,7 @@ protected:
     QTemporaryDir folder;
     PlainOwner owner;
     std::shared_ptr<QVSubtitles> current;
-    QVImageSubView view{&rig.window, &picture, kQVDefaultOverlayStyle};
+    QVImageSubView view{rig.settings.environment, rig.window, picture, kQVDefaultOverlayStyle};
 };
 
 void expectFrame(const QVImageSubView& view, const platform::Rect& expected) {

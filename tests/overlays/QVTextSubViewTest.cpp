@@ -22,13 +22,13 @@ protected:
     }
     void resizePicture(const platform::Rect& frame) {
         picture.frame = frame;
-        platform::NotificationCenter::defaultCenter().post(QVMovieViewSizeChangedNotification{nullptr});
+        rig.settings.notifications.post(QVMovieViewSizeChangedNotification{nullptr});
     }
     float letters() const { return platform::pointSizeOf(view.textFont()); }
 
     OverlayRig rig;
     FakePicture picture;
-    QVTextSubView view{&rig.window, &picture, kQVDefaultOverlayStyle};
+    QVTextSubView view{rig.settings.environment, rig.window, picture, kQVDefaultOverlayStyle};
 };
 
 } // namespace
