@@ -9,7 +9,7 @@
 #include "platform/movie/MovieToolkit.h"
 #include "playback/QVMovie.h"
 #include "playback/SubtitleDiscovery.h"
-#include "subtitles/SubtitleRegistry.h"
+#include "subtitles/formats/SubtitleFormats.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -62,13 +62,13 @@ QJsonObject describeTrack(const QVSubtitles& track, std::int32_t timeScale) {
             {QStringLiteral("frameRate"), platform::shortestText(rate).toDouble()}};
 }
 
-QJsonArray describeTracks(const QVMovie& movie) {
+QJsonArray describeTracks(const QVMovie& movie, const platform::UserDefaults& settings) {
     QJsonArray tracks;
     for (const std::shared_ptr<QVSubtitles>& track : movie.subtitles()) {
         QJsonObject object = describeTrack(*track, movie.timeScale());
         object.insert(QStringLiteral("path"), track->path());
         // It is not loaded: this is what it would be read with.
-        object.insert(QStringLiteral("encoding"), static_cast<qint64>(QVSubtitles::defaultEncoding()));
+        object.insert(QStringLiteral("encoding"), static_cast<qint64>(QVSubtitles::defaultEncoding(settings)));
         tracks.append(object);
     }
     return tracks;
@@ -118,7 +118,7 @@ QJsonArray describeSubtitleFile(const QString& path, SubtitleRegistry& readers, 
     return tracks;
 }
 
-QJsonObject describeMovie(const QString& path, QVMovie& movie) {
+QJsonObject describeMovie(const QString& path, QVMovie& movie, const platform::UserDefaults& settings) {
     const QSizeF size = movie.naturalBounds().size();
     const float rate = movie.frameRate();
     return {{QStringLiteral("path"), path},
@@ -129,14 +129,14 @@ QJsonObject describeMovie(const QString& path, QVMovie& movie) {
             // JSON has no infinity: a movie of less than a second has no rate of whole seconds.
             {QStringLiteral("frameRate"), std::isfinite(rate) ? QJsonValue(static_cast<double>(rate)) : QJsonValue()},
             {QStringLiteral("naturalBounds"), QJsonArray{0, 0, size.width(), size.height()}},
-            {QStringLiteral("subtitles"), describeTracks(movie)}};
+            {QStringLiteral("subtitles"), describeTracks(movie, settings)}};
 }
 
 } // namespace
 
 InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
                               const QStringList& pathsOrUrls, const InspectedSubtitles& subtitles) {
-    SubtitleRegistry readers;
+    SubtitleRegistry readers(subtitleReaders(environment));
     SubtitleDiscovery discovery(environment.loop);
     NoUser user;
     const MovieServices services{toolkit, user, readers, discovery};
@@ -157,7 +157,7 @@ InspectionResult inspectFiles(const Environment& environment, platform::MovieToo
         if (url.isLocalFile() && isFileOfType(url.toLocalFile(), subtitleExtensions) && addSubtitleFile())
             continue;
         if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(environment, services, url))
-            objects.append(describeMovie(name, *movie));
+            objects.append(describeMovie(name, *movie, environment.settings));
         else if (!url.isLocalFile() || !addSubtitleFile())
             result.errors.append(
                 QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(toolkit.stickyError()));

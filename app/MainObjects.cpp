@@ -8,6 +8,7 @@
 #include "platform/desktop/Desktop.h"
 #include "platform/movie/MovieToolkit.h"
 #include "platform/window/WindowHost.h"
+#include "subtitles/formats/SubtitleFormats.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },
                [this](int direction) { _view.stopAutoscroll(direction); }})
     , _feedback(std::make_unique<SharedFeedback>())
+    , _subtitleReaders(subtitleReaders(environment))
     , _subtitleDiscovery(environment.loop)
     , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, *_feedback, _files})
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
@@ -41,7 +43,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                               _commands,
                               _files})
     , _subtitleScene(environment, _window, _view)
-    , _subtitles(&_subtitleScene)
+    , _subtitles(environment, _subtitleScene)
     , _texts(_view, _playlist, _subtitles)
     , _activation(environment, _window, _view, _pointer)
     , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _playlist,

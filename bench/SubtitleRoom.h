@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
+#include "platform/base/NotificationCenter.h"
 #include "platform/base/QtRunLoop.h"
 #include "platform/base/UserDefaults.h"
 #include "subtitles/SubtitleOwner.h"
@@ -15,7 +17,7 @@ public:
     std::int32_t time() const override { return 0; }
 };
 
-/// Settings that are the shipped ones and are not kept.
+/// The environment of the benchmarks while it lives; its settings are not kept.
 class Settings {
 public:
     Settings() {
@@ -23,12 +25,17 @@ public:
             QVariantMap load() override { return {}; }
             bool store(const QVariantMap&) override { return true; }
         };
+        sThis = this;
         platform::RunLoop::setMain(&_loop);
         _defaults = std::make_unique<platform::UserDefaults>(std::make_unique<Nowhere>());
         platform::UserDefaults::setStandard(_defaults.get());
     }
 
+    static Environment environment() { return {sThis->_loop, sThis->_notifications, *sThis->_defaults}; }
+
 private:
+    inline static Settings* sThis = nullptr;
     platform::QtRunLoop _loop;
+    platform::NotificationCenter _notifications;
     std::unique_ptr<platform::UserDefaults> _defaults;
 };

@@ -115,9 +115,10 @@ void aNewBitmapCueFromRunLengthsToComposed(benchmark::State& state) {
         pair.add(0, number * 4000, lettersLike(number));
     Scene scene(state.range(0));
     NoMovie owner;
-    const auto tracks = pair.write(base.toStdString())
-                            ? QVVobSubSubtitles::subtitlesWithFilePath(base + QStringLiteral(".idx"), owner)
-                            : std::vector<std::shared_ptr<QVSubtitles>>();
+    const auto tracks =
+        pair.write(base.toStdString())
+            ? QVVobSubSubtitles::subtitlesWithFilePath(scene.settings.environment, base + QStringLiteral(".idx"), owner)
+            : std::vector<std::shared_ptr<QVSubtitles>>();
     if (tracks.empty())
         return state.SkipWithError("no track");
     tracks[0]->preload();

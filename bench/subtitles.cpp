@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A file of 100,000 cues: loading it, and finding cues in it.
 #include "bench/SubtitleRoom.h"
-#include "subtitles/SubtitleRegistry.h"
+#include "subtitles/formats/SubtitleFormats.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -40,7 +40,8 @@ public:
         size = text.size();
     }
     std::shared_ptr<QVSubtitles> open() {
-        const auto tracks = SubtitleRegistry::shared().subtitlesWithFilePath(path, owner);
+        SubtitleRegistry registry(subtitleReaders(Settings::environment()));
+        const auto tracks = registry.subtitlesWithFilePath(path, owner);
         return tracks.empty() ? nullptr : tracks.front();
     }
 

@@ -75,7 +75,8 @@ public:
         size = pair.data().bytes().size();
     }
     std::shared_ptr<QVSubtitles> open() {
-        return QVVobSubSubtitles::subtitlesWithFilePath(base + QStringLiteral(".idx"), owner).front();
+        return QVVobSubSubtitles::subtitlesWithFilePath(Settings::environment(), base + QStringLiteral(".idx"), owner)
+            .front();
     }
 
     QTemporaryDir folder;

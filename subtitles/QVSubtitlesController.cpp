@@ -3,12 +3,11 @@
 
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
-#include "settings/QVUserDefaults.h"
+#include "platform/base/UserDefaults.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleView.h"
-#include "subtitles/vobsub/QVVobSubSubtitles.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,18 +16,13 @@ namespace {
 
 constexpr const char* className = "QVSubtitlesController";
 
-platform::UserDefaults& defaults() {
-    return QVUserDefaults::standardUserDefaults();
-}
-
 } // namespace
 
-QVSubtitlesController::QVSubtitlesController(SubtitleScene* scene)
-    : _scene(scene)
-    , _subtitlesOn(defaults().boolForKey(kQVDisplaySubtitles)) {
-    if (!_scene)
-        return;
-    auto& center = platform::NotificationCenter::defaultCenter();
+QVSubtitlesController::QVSubtitlesController(const Environment& environment, SubtitleScene& scene)
+    : _environment(environment)
+    , _scene(scene)
+    , _subtitlesOn(environment.settings.boolForKey(kQVDisplaySubtitles)) {
+    platform::NotificationCenter& center = environment.notifications;
     _onMovie = center.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
     _onTime = center.observe<QVMovieInterestingTimeNotification>(
@@ -37,7 +31,10 @@ QVSubtitlesController::QVSubtitlesController(SubtitleScene* scene)
         [this](const auto& notification) { preferencesChanged(notification); });
 }
 
-QVSubtitlesController::~QVSubtitlesController() = default;
+QVSubtitlesController::~QVSubtitlesController() {
+    if (_current)
+        _current->setLoadingObserver(nullptr);
+}
 
 // Selecting
 
@@ -66,6 +63,8 @@ void QVSubtitlesController::setSavedPath(const QString& path, std::uint32_t inde
 }
 
 void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track) {
+    if (_current)
+        _current->setLoadingObserver(nullptr);
     _current = track;
     const auto found = std::ranges::find(_subtitles, track);
     _index = track && found != _subtitles.end() ? static_cast<std::uint32_t>(found - _subtitles.begin()) : none;
@@ -75,27 +74,15 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
             keepLoaded(track);
         _preferredType = track->type();
         _preferredIndex = track->streamIndex();
+        // A cue that a worker reads after it was looked for would not be seen while no picture is due: while the movie
+        // stands.
+        track->setLoadingObserver([this] { showCueOfNow(); });
         track->preload();
         adoptAppearance(*track);
         _setView(viewFor(*track));
     }
     showCueOfNow();
-    followLoading();
     announce();
-}
-
-/// A cue that a worker reads after it was looked for would not be seen while no picture is due: while the movie stands.
-void QVSubtitlesController::followLoading() {
-    _loadingTimer.reset();
-    if (!_current || !_current->isLoading())
-        return;
-    constexpr double interval = 0.05;
-    _loadingTimer = platform::RunLoop::main().schedule(interval, true, [this] {
-        const bool done = !_current || !_current->isLoading();
-        showCueOfNow();
-        if (done)
-            _loadingTimer.reset();
-    });
 }
 
 /// Images are large: those of one track at a time are kept.
@@ -114,9 +101,9 @@ SubtitleView* QVSubtitlesController::viewFor(const QVSubtitles& track) const {
 
 void QVSubtitlesController::createView(const QVSubtitles& track) {
     if (track.isImageBased())
-        _imageView = _scene->createImageView();
+        _imageView = _scene.createImageView();
     else
-        _textView = _scene->createTextView();
+        _textView = _scene.createTextView();
     SubtitleView* const view = viewFor(track);
     if (view)
         view->orderFront();
@@ -126,13 +113,12 @@ void QVSubtitlesController::createView(const QVSubtitles& track) {
 
 /// An index says how its images come and go, in place of the view's style.
 void QVSubtitlesController::adoptAppearance(const QVSubtitles& track) {
-    const auto* const images = dynamic_cast<const QVVobSubSubtitles*>(&track);
-    if (!images || !_imageView)
+    const std::optional<ImageAppearance> appearance = track.appearance();
+    if (!appearance || !_imageView)
         return;
-    const VobSubIndex& index = images->info()->index();
-    _imageView->setMaxAlpha(index._alpha);
-    _imageView->setFadingInInterval(index._fadeIn);
-    _imageView->setFadingOutInterval(index._fadeOut);
+    _imageView->setMaxAlpha(appearance->alpha);
+    _imageView->setFadingInInterval(appearance->fadeIn);
+    _imageView->setFadingOutInterval(appearance->fadeOut);
 }
 
 void QVSubtitlesController::_setView(SubtitleView* view) {
@@ -149,8 +135,8 @@ void QVSubtitlesController::_setView(SubtitleView* view) {
 
 void QVSubtitlesController::showCueOfNow() {
     std::shared_ptr<QVSubtitle> cue;
-    if (_current && _subtitlesOn && _scene) {
-        const std::shared_ptr<SubtitleOwner> movie = _scene->shownMovie();
+    if (_current && _subtitlesOn) {
+        const std::shared_ptr<SubtitleOwner> movie = _scene.shownMovie();
         cue = _current->subtitleForTime(movie ? movie->time() : 0);
     }
     give(cue);
@@ -211,13 +197,13 @@ bool QVSubtitlesController::switchDisplay(bool flag) {
     } else if (_view) {
         _view->hide();
     }
-    defaults().setBool(flag, kQVDisplaySubtitles);
+    _environment.settings.setBool(flag, kQVDisplaySubtitles);
     announce();
     return true;
 }
 
 void QVSubtitlesController::announce() {
-    platform::NotificationCenter::defaultCenter().post(QVSubtitlesChangedNotification{_current});
+    _environment.notifications.post(QVSubtitlesChangedNotification{_current});
 }
 
 QString QVSubtitlesController::currentInfoAsString() const {
@@ -236,7 +222,7 @@ QString QVSubtitlesController::currentInfoAsString() const {
 
 void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
     // The old movie stays until none of its tracks is in use.
-    const auto old = std::exchange(_movie, _scene->ownerOf(notification.movie));
+    const auto old = std::exchange(_movie, _scene.ownerOf(notification.movie));
     _subtitles = _movie ? _movie->subtitles() : std::vector<std::shared_ptr<QVSubtitles>>();
     setCurrent(_subtitlesOn ? preferredSubtitles() : nullptr);
 }
@@ -244,22 +230,22 @@ void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNoti
 void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNotification& notification) {
     if (!_current || !_subtitlesOn)
         return;
-    if (const std::shared_ptr<SubtitleOwner> movie = _scene->ownerOf(notification.movie); movie && movie == _movie)
+    if (const std::shared_ptr<SubtitleOwner> movie = _scene.ownerOf(notification.movie); movie && movie == _movie)
         give(_current->subtitleForTime(movie->time()));
 }
 
 void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key == kQVDisplaySubtitles) {
-        setDisplaySubtitles(defaults().boolForKey(kQVDisplaySubtitles));
+        setDisplaySubtitles(_environment.settings.boolForKey(kQVDisplaySubtitles));
     } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
-        _current->setEncoding(QVSubtitles::defaultEncoding());
+        _current->setEncoding(QVSubtitles::defaultEncoding(_environment.settings));
         if (_subtitlesOn) {
             // The cue is the same object with another text: it is taken away, and shown anew.
             give(nullptr);
             showCueOfNow();
         }
     } else if (notification.key == kQVSubtitlesDefaultFPS && _current && _current->isFrameBased()) {
-        _current->setFrameRate(defaults().integerForKey(kQVSubtitlesDefaultFPS));
+        _current->setFrameRate(_environment.settings.integerForKey(kQVSubtitlesDefaultFPS));
         if (_subtitlesOn)
             showCueOfNow();
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
 #include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
-#include "platform/base/RunLoop.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "subtitles/QVSubtitles.h"
 
@@ -21,8 +21,8 @@ class SubtitleView;
 /// view that suits the track with the cue of each picture, and acts at once on the settings that change. Main thread.
 class QVSubtitlesController {
 public:
-    /// The scene outlives the controller; without one (null) nothing is followed or shown.
-    explicit QVSubtitlesController(SubtitleScene* scene = nullptr);
+    /// The scene outlives the controller.
+    QVSubtitlesController(const Environment& environment, SubtitleScene& scene);
     QVSubtitlesController(const QVSubtitlesController&) = delete;
     QVSubtitlesController& operator=(const QVSubtitlesController&) = delete;
     virtual ~QVSubtitlesController();
@@ -67,11 +67,11 @@ private:
     void _setView(SubtitleView* view);
     bool switchDisplay(bool flag);
     void showCueOfNow();
-    void followLoading();
     void give(const std::shared_ptr<QVSubtitle>& cue);
     void announce();
 
-    SubtitleScene* _scene;
+    Environment _environment;
+    SubtitleScene& _scene;
     /// The tracks ask the movie that they belong to: it stays as long as they do.
     std::shared_ptr<SubtitleOwner> _movie;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
@@ -88,7 +88,6 @@ private:
     std::uint32_t _savedIndex = 0;
     std::int32_t _preferredType = -1;
     std::uint32_t _preferredIndex = 0;
-    std::unique_ptr<platform::Timer> _loadingTimer;
     platform::Subscription _onMovie;
     platform::Subscription _onTime;
     platform::Subscription _onPreferences;

@@ -3,29 +3,44 @@
 
 #include "subtitles/QVSubtitles.h"
 
+#include <QHash>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
-/// Knows the subtitle readers: which files may hold subtitles, and the tracks of one file. Main thread.
+/// A kind of subtitle file.
+struct SubtitleReader {
+    using Tracks = std::vector<std::shared_ptr<QVSubtitles>>;
+
+    /// In lower case, without dots.
+    QStringList extensions;
+    /// Whether a file that begins with this text is of the kind.
+    std::function<bool(const QString& path, std::string_view beginning)> isFormatValid;
+    /// The tracks of such a file; none when it cannot be read after all.
+    std::function<Tracks(const QString& path, SubtitleOwner& owner)> tracks;
+};
+
+/// Which files may hold subtitles, and the tracks of one file. Main thread.
 class SubtitleRegistry {
 public:
-    virtual ~SubtitleRegistry() = default;
-
-    /// The process's registry.
-    static SubtitleRegistry& shared();
-    /// Takes another registry's place (tests); null goes back.
-    static void setShared(SubtitleRegistry* registry);
+    /// The readers in the order in which they are offered a file of an unknown kind. An extension that several claim
+    /// belongs to the last of them.
+    explicit SubtitleRegistry(std::vector<SubtitleReader> readers);
+    SubtitleRegistry(const SubtitleRegistry&) = delete;
+    SubtitleRegistry& operator=(const SubtitleRegistry&) = delete;
+    virtual ~SubtitleRegistry();
 
     /// Lower-case extensions without dots, in no order.
     virtual QStringList subtitleUnfilteredFileTypes() const;
     /// The tracks of a file, none when no reader takes it: the reader of its extension (in lower case only) is asked
-    /// first, then all in the order of their types. The owner outlives the tracks.
+    /// first, then all in their order. The owner outlives the tracks.
     virtual std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path, SubtitleOwner& owner);
 
-    /// The type that an extension belongs to, as it stands, or -1.
-    static std::int32_t typeForExtension(const QString& extension);
-    /// The reader's name, or null for a type that no reader has.
-    static const char* classForType(std::int32_t type);
+private:
+    std::vector<SubtitleReader> _clusterList;
+    /// Positions in the list.
+    QHash<QString, std::size_t> _extensionsMap;
 };

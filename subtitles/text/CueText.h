@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "subtitles/text/LineReader.h"
+#include "subtitles/input/LineReader.h"
 
 #include <QString>
 

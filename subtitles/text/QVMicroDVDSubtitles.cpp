@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/text/QVMicroDVDSubtitles.h"
 
+#include "subtitles/CueTiming.h"
+#include "subtitles/input/LineReader.h"
+#include "subtitles/input/ScanFormat.h"
+#include "subtitles/input/SubtitleText.h"
+#include "subtitles/input/TimeOfDay.h"
 #include "subtitles/text/CueText.h"
-#include "subtitles/text/LineReader.h"
-#include "subtitles/text/ScanFormat.h"
-#include "subtitles/text/SubtitleText.h"
-#include "subtitles/text/TimeOfDay.h"
 
 #include <array>
 
@@ -33,8 +34,9 @@ std::optional<Frames> scanFrames(std::string_view line) {
 
 } // namespace
 
-QVMicroDVDSubtitles::QVMicroDVDSubtitles(const QString& path, SubtitleOwner& owner)
-    : QVSubtitles(path, owner, typeMicroDVD, static_cast<float>(owner.timeScale())) {}
+QVMicroDVDSubtitles::QVMicroDVDSubtitles(const platform::UserDefaults& settings, const QString& path,
+                                         SubtitleOwner& owner)
+    : TextSubtitles(settings, path, owner, typeMicroDVD, static_cast<float>(owner.timeScale())) {}
 
 bool QVMicroDVDSubtitles::isFormatValid(std::string_view text) {
     LineReader lines(text);
@@ -73,7 +75,7 @@ std::shared_ptr<QVSubtitle> QVMicroDVDSubtitles::readSubtitle(LineReader& lines)
     }
     const float rate = actualFrameRate(frameRateChoice());
     const auto time = [&](std::int32_t frame) {
-        return ajustToMovieTimeScale(truncated(static_cast<float>(frame) / rate));
+        return ajustToMovieTimeScale(CueTiming::truncated(static_cast<float>(frame) / rate));
     };
     auto subtitle = makeSubtitle(pending, time(frames->start), time(frames->end));
     if (_previous && (_endTimeUndefined || _previous->end() > subtitle->start()))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "subtitles/QVSubtitles.h"
+#include "subtitles/text/TextSubtitles.h"
 
 #include <QStringList>
 
@@ -9,16 +9,15 @@
 
 /// Subtitles a line each, timed in frames: "{start}{end}text|next line". Without an end a cue lasts until the next one
 /// starts.
-class QVMicroDVDSubtitles : public QVSubtitles {
+class QVMicroDVDSubtitles : public TextSubtitles {
 public:
     /// Any file is read, for as many cues as it has: the registry asks isFormatValid first.
-    QVMicroDVDSubtitles(const QString& path, SubtitleOwner& owner);
+    QVMicroDVDSubtitles(const platform::UserDefaults& settings, const QString& path, SubtitleOwner& owner);
 
     /// Whether a file that begins with this text is of this kind.
     static bool isFormatValid(std::string_view text);
     static QStringList extensionsList();
 
-    bool isTextBased() const override { return true; }
     bool isFrameBased() const override { return true; }
 
 protected:

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/text/QVSubRipSubtitles.h"
 
-#include "subtitles/text/LineReader.h"
-#include "subtitles/text/ScanFormat.h"
-#include "subtitles/text/SubtitleText.h"
-#include "subtitles/text/TimeOfDay.h"
+#include "subtitles/input/LineReader.h"
+#include "subtitles/input/ScanFormat.h"
+#include "subtitles/input/SubtitleText.h"
+#include "subtitles/input/TimeOfDay.h"
 
 #include <array>
 
@@ -18,8 +18,8 @@ bool isTimingLine(std::string_view line, Numbers& numbers) {
 
 } // namespace
 
-QVSubRipSubtitles::QVSubRipSubtitles(const QString& path, SubtitleOwner& owner)
-    : QVSubtitles(path, owner, typeSubRip, static_cast<float>(owner.timeScale()) / 1000.0F) {}
+QVSubRipSubtitles::QVSubRipSubtitles(const platform::UserDefaults& settings, const QString& path, SubtitleOwner& owner)
+    : TextSubtitles(settings, path, owner, typeSubRip, static_cast<float>(owner.timeScale()) / 1000.0F) {}
 
 bool QVSubRipSubtitles::isFormatValid(std::string_view text) {
     LineReader lines(text);

@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "subtitles/QVSubtitles.h"
+#include "subtitles/text/TextSubtitles.h"
 
 #include <QStringList>
 
 #include <string_view>
 
 /// Subtitles in blocks: a number, "hours:minutes:seconds,milliseconds --> ..." and lines of text up to a blank one.
-class QVSubRipSubtitles : public QVSubtitles {
+class QVSubRipSubtitles : public TextSubtitles {
 public:
     /// Any file is read, for as many cues as it has: the registry asks isFormatValid first.
-    QVSubRipSubtitles(const QString& path, SubtitleOwner& owner);
+    QVSubRipSubtitles(const platform::UserDefaults& settings, const QString& path, SubtitleOwner& owner);
 
     /// Whether a file that begins with this text is of this kind.
     static bool isFormatValid(std::string_view text);
     static QStringList extensionsList();
-
-    bool isTextBased() const override { return true; }
 
 protected:
     std::shared_ptr<QVSubtitle> readSubtitle(LineReader& lines) override;

@@ -2,11 +2,11 @@
 #include "subtitles/text/QVTMPlayerSubtitles.h"
 
 #include "settings/Tracing.h"
+#include "subtitles/input/LineReader.h"
+#include "subtitles/input/ScanFormat.h"
+#include "subtitles/input/SubtitleText.h"
+#include "subtitles/input/TimeOfDay.h"
 #include "subtitles/text/CueText.h"
-#include "subtitles/text/LineReader.h"
-#include "subtitles/text/ScanFormat.h"
-#include "subtitles/text/SubtitleText.h"
-#include "subtitles/text/TimeOfDay.h"
 
 #include <array>
 #include <optional>
@@ -34,8 +34,9 @@ std::optional<LineStart> scanStart(std::string_view line) {
 
 } // namespace
 
-QVTMPlayerSubtitles::QVTMPlayerSubtitles(const QString& path, SubtitleOwner& owner)
-    : QVSubtitles(path, owner, typeTMPlayer, static_cast<float>(owner.timeScale()) / 1000.0F) {}
+QVTMPlayerSubtitles::QVTMPlayerSubtitles(const platform::UserDefaults& settings, const QString& path,
+                                         SubtitleOwner& owner)
+    : TextSubtitles(settings, path, owner, typeTMPlayer, static_cast<float>(owner.timeScale()) / 1000.0F) {}
 
 bool QVTMPlayerSubtitles::isFormatValid(std::string_view text) {
     LineReader lines(text);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "subtitles/QVSubtitles.h"
+#include "subtitles/text/TextSubtitles.h"
 
 #include <QStringList>
 
@@ -9,16 +9,14 @@
 
 /// Subtitles a line each, timed in seconds: "hours:minutes:seconds:text|next line", or "...,1=text" and "...,2=text"
 /// for the lines of a cue. A cue lasts until the next one starts, the last one three seconds.
-class QVTMPlayerSubtitles : public QVSubtitles {
+class QVTMPlayerSubtitles : public TextSubtitles {
 public:
     /// Any file is read, for as many cues as it has: the registry asks isFormatValid first.
-    QVTMPlayerSubtitles(const QString& path, SubtitleOwner& owner);
+    QVTMPlayerSubtitles(const platform::UserDefaults& settings, const QString& path, SubtitleOwner& owner);
 
     /// Whether a file that begins with this text is of this kind.
     static bool isFormatValid(std::string_view text);
     static QStringList extensionsList();
-
-    bool isTextBased() const override { return true; }
 
 protected:
     std::shared_ptr<QVSubtitle> readSubtitle(LineReader& lines) override;

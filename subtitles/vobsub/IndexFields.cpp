@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/IndexFields.h"
 
-#include "subtitles/text/TimeOfDay.h"
+#include "subtitles/input/TimeOfDay.h"
 
 #include <algorithm>
 #include <limits>

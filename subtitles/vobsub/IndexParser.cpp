@@ -2,9 +2,9 @@
 #include "subtitles/vobsub/IndexParser.h"
 
 #include "platform/base/TextEncoding.h"
-#include "subtitles/text/LineReader.h"
-#include "subtitles/text/ScanFormat.h"
-#include "subtitles/text/TimeOfDay.h"
+#include "subtitles/input/LineReader.h"
+#include "subtitles/input/ScanFormat.h"
+#include "subtitles/input/TimeOfDay.h"
 #include "subtitles/vobsub/IndexFields.h"
 
 #include <algorithm>

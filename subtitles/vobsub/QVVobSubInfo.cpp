@@ -10,7 +10,7 @@
 #include "platform/base/TextEncoding.h"
 #include "platform/base/ToolProcess.h"
 #include "settings/Tracing.h"
-#include "subtitles/text/SubtitleText.h"
+#include "subtitles/input/SubtitleText.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/SubFileSearch.h"
 

@@ -2,15 +2,28 @@
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 
 #include "platform/base/PathNames.h"
-#include "subtitles/text/LineReader.h"
+#include "subtitles/input/LineReader.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/SubFileSearch.h"
 
-QVVobSubSubtitles::QVVobSubSubtitles(const QString& path, SubtitleOwner& owner,
+QVVobSubSubtitles::QVVobSubSubtitles(const Environment& environment, const QString& path, SubtitleOwner& owner,
                                      std::shared_ptr<const QVVobSubInfo> info, std::uint32_t idx)
-    : QVSubtitles(path, owner, typeVobSub, static_cast<float>(owner.timeScale()) / 1000.0F)
+    : QVSubtitles(environment.settings, path, owner, typeVobSub, static_cast<float>(owner.timeScale()) / 1000.0F,
+                  Loading::onWorker)
+    , _loop(environment.loop)
     , _subInfo(std::move(info))
-    , _idx(idx) {}
+    , _idx(idx)
+    , _worker(environment.loop) {}
+
+QVVobSubSubtitles::~QVVobSubSubtitles() {
+    // Before any part of the track goes.
+    _worker.stop();
+}
+
+void QVVobSubSubtitles::unload() {
+    _worker.stop();
+    QVSubtitles::unload();
+}
 
 bool QVVobSubSubtitles::isFormatValid(const QString& path, std::string_view text) {
     const auto line = LineReader(text).next();
@@ -25,14 +38,19 @@ QStringList QVVobSubSubtitles::extensionsList() {
     return {QStringLiteral("idx")};
 }
 
-std::vector<std::shared_ptr<QVSubtitles>> QVVobSubSubtitles::subtitlesWithFilePath(const QString& path,
-                                                                                   SubtitleOwner& owner) {
+std::vector<std::shared_ptr<QVSubtitles>>
+QVVobSubSubtitles::subtitlesWithFilePath(const Environment& environment, const QString& path, SubtitleOwner& owner) {
     std::vector<std::shared_ptr<QVSubtitles>> tracks;
     const auto info = QVVobSubInfo::infoWithFile(path);
     const std::size_t count = info ? info->streams().size() : 0;
     for (std::uint32_t idx = 0; idx < count; ++idx)
-        tracks.push_back(makeTrack<QVVobSubSubtitles>(path, owner, info, idx));
+        tracks.push_back(std::make_shared<QVVobSubSubtitles>(environment, path, owner, info, idx));
     return tracks;
+}
+
+std::optional<ImageAppearance> QVVobSubSubtitles::appearance() const {
+    const VobSubIndex& index = _subInfo->index();
+    return ImageAppearance{index._alpha, index._fadeIn, index._fadeOut};
 }
 
 float QVVobSubSubtitles::aspectRatio() const {

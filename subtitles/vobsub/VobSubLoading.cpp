@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 
 namespace {
 
@@ -25,14 +26,22 @@ std::int32_t milliseconds(std::int64_t value) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
-/// For messages only: the clock is asked when somebody reads them.
-double messageTime() {
-    return gTracingEnabled ? platform::RunLoop::main().now() : 0;
-}
-
 } // namespace
 
 void QVVobSubSubtitles::_preload() {
+    _worker.start([this] {
+        try {
+            load();
+        } catch (const std::bad_alloc&) {
+            logMemoryFull();
+            finishLoading();
+        }
+    });
+}
+
+void QVVobSubSubtitles::load() {
+    // For messages only: the clock is asked when somebody reads them.
+    const auto messageTime = [this] { return gTracingEnabled ? _loop.now() : 0; };
     const double begin = messageTime();
     const VobSubIndex& index = _subInfo->index();
     const auto file = DataFile::open(_subInfo->subPath());
@@ -45,12 +54,14 @@ void QVVobSubSubtitles::_preload() {
     }
     trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), platform::lastPathComponent(path()), " threaded");
 
-    PackReader reader(*file, streamInfo()._index, _abort);
+    const std::atomic<bool>& isAborted = _worker.isAborted();
+    PackReader reader(*file, streamInfo()._index, isAborted);
     std::size_t memory = 0;
+    std::shared_ptr<QVSubtitle> previous;
     bool previousHasNoStop = false;
     for (const QVVobSubPos& pos : streamInfo()._subPos) {
         auto packet = QVVobSubPacket::packetWithFile(reader, pos);
-        if (!packet || _abort)
+        if (!packet || isAborted)
             break;
         const std::int32_t start = ajustToMovieTimeScale(milliseconds(pos._timestamp));
         const std::int32_t end = ajustToMovieTimeScale(milliseconds(pos._timestamp + packet->displayTime()));
@@ -62,14 +73,15 @@ void QVVobSubSubtitles::_preload() {
             break;
         }
         auto subtitle = std::make_shared<QVSubtitle>(image, start, end);
-        if (_previous && (previousHasNoStop || _previous->end() > start))
-            _previous->setEnd(start);
+        if (previous && (previousHasNoStop || previous->end() > start))
+            previous->setEnd(start);
         previousHasNoStop = packet->displayTime() == 0;
         subtitle->setRect(VobSubPlacement::place(packet->rect(), index));
         subtitle->setForced(packet->forced());
-        _previous = subtitle;
+        previous = subtitle;
         appendSubtitle(std::move(subtitle));
-        if (_abort)
+        _worker.report();
+        if (isAborted)
             break;
     }
     finishLoading();

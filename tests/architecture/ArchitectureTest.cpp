@@ -115,7 +115,7 @@ TEST(Architecture, modules_and_folders_form_no_circle_and_include_lower_layers_o
             modules[moduleOf(file)].insert(moduleOf(target));
         const auto [from, fromLayer] = placeOf(file);
         const auto [to, toLayer] = placeOf(target);
-        if (directoryOf(file) != directoryOf(target) && !isIn(file, "subtitles"))
+        if (directoryOf(file) != directoryOf(target))
             folders[directoryOf(file)].insert(directoryOf(target));
         EXPECT_TRUE(from == to || toLayer < fromLayer) << file << " includes " << target << " of a higher layer";
         EXPECT_TRUE(from != "settings" || to == from || isIn(target, "platform/base"))

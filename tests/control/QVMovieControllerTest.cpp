@@ -107,7 +107,7 @@ protected:
     RecordingServices services;
     QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
     NoViews scene;
-    RecordingSubtitles subtitles{&scene};
+    RecordingSubtitles subtitles{settings.environment, scene};
     platform::Menu playlistMenu, subtitlesMenu;
     QVMovieController controller{settings.environment,
                                  {window, mainWindow, view, playlist, subtitles, confirmations, app, desktop, services,

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/TextEncoding.h"
+#include "subtitles/input/SubtitleText.h"
 #include "subtitles/text/QVMicroDVDSubtitles.h"
 #include "subtitles/text/QVSubRipSubtitles.h"
 #include "subtitles/text/QVTMPlayerSubtitles.h"
-#include "subtitles/text/SubtitleText.h"
 
 #include <cstdlib>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One of the readers of texts, which the build names, fed with bytes.
 #include "platform/base/UserDefaults.h"
+#include "subtitles/input/SubtitleText.h"
 #include "subtitles/text/QVMicroDVDSubtitles.h"
 #include "subtitles/text/QVSubRipSubtitles.h"
 #include "subtitles/text/QVTMPlayerSubtitles.h"
-#include "subtitles/text/SubtitleText.h"
 #include "tests/support/ManualRunLoop.h"
 
 #include <QByteArray>
@@ -22,6 +22,7 @@ public:
         platform::RunLoop::setMain(&_loop);
         platform::UserDefaults::setStandard(&_defaults);
     }
+    const platform::UserDefaults& settings() const { return _defaults; }
     std::int32_t timeScale() const override { return 90000; }
     float frameRate() override { return 23.976F; }
     std::int32_t time() const override { return 0; }
@@ -39,8 +40,8 @@ private:
 template <class Reader>
 class FuzzedTrack final : public Reader {
 public:
-    explicit FuzzedTrack(SubtitleOwner& owner)
-        : Reader(QString(), owner) {}
+    FuzzedTrack(const platform::UserDefaults& settings, SubtitleOwner& owner)
+        : Reader(settings, QString(), owner) {}
 
     /// The first byte chooses the encoding, the rest is the file.
     void feed(QByteArray bytes) {
@@ -70,7 +71,7 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static FuzzRoom room;
-    static const auto track = QVSubtitles::makeTrack<FuzzedTrack<LUMARO_FUZZED_READER>>(room);
+    static const auto track = std::make_shared<FuzzedTrack<LUMARO_FUZZED_READER>>(room.settings(), room);
     track->feed(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
     return 0;
 }

@@ -28,8 +28,8 @@ protected:
         writeFile(folder.filePath("film.sub"));
         const QByteArray index = QByteArray("# VobSub index file, v7 (do not modify this line!)\nsize: ") + size +
                                  "\nscale: 100%, 100%\nid: en, index: 0\n";
-        const auto tracks =
-            QVVobSubSubtitles::subtitlesWithFilePath(writeFile(folder.filePath("film.idx"), index), owner);
+        const auto tracks = QVVobSubSubtitles::subtitlesWithFilePath(
+            rig.settings.environment, writeFile(folder.filePath("film.idx"), index), owner);
         return tracks.empty() ? nullptr : tracks.front();
     }
     void select(const std::shared_ptr<QVSubtitles>& selected) {

@@ -19,32 +19,23 @@ constexpr std::int32_t second = 600; // units of the scripted movies
 /// Its file's name, "type-stream title", says what it is. Its cue "A" stands from 1 to 2 s, "B" from 3 to 4 s.
 class Track final : public QVSubtitles {
 public:
-    Track(const QString& path, SubtitleOwner& owner, Type type, std::uint32_t stream)
-        : QVSubtitles(path, owner, type, 1.0F)
-        , _stream(stream) {
-        for (const auto& [text, from] : {std::pair{u'A', 1}, {u'B', 3}})
-            _cues.push_back(std::make_shared<QVSubtitle>(QString(text), from * second, (from + 1) * second));
-    }
-    bool loaded = false;
+    Track(const platform::UserDefaults& settings, const QString& path, SubtitleOwner& owner, Type type,
+          std::uint32_t stream)
+        : QVSubtitles(settings, path, owner, type, 1.0F, Loading::atOnce)
+        , _stream(stream) {}
     bool loading = false; // its cues come later, while the movie stands
+    std::function<void()> observer;
 
-    void preload() override { loaded = !loading; }
+    void readCues() {
+        for (const auto& [text, from] : {std::pair{u'A', 1}, {u'B', 3}})
+            appendSubtitle(std::make_shared<QVSubtitle>(QString(text), from * second, (from + 1) * second));
+        finishLoading();
+    }
     bool isLoading() const override { return loading; }
-    void unload() override { loaded = false; }
-    std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time) override {
-        const auto due = [&](const auto& cue) { return cue->start() <= time && time <= cue->end(); };
-        const auto found = std::ranges::find_if(_cues, due);
-        return loaded && found != _cues.end() ? *found : nullptr;
-    }
+    void setLoadingObserver(std::function<void()> told) override { observer = std::move(told); }
     void setEncoding(std::uint32_t encoding) override {
-        for (const auto& cue : _cues)
+        for (const auto& cue : cues())
             cue->setText(cue->text() + QString::number(encoding));
-    }
-    void setFrameRate(std::int32_t choice) override {
-        for (const auto& cue : _cues) {
-            cue->setStart(cue->start() * choice);
-            cue->setEnd(cue->end() * choice);
-        }
     }
     QString title() const override { return path().section(u' ', 1); }
     bool isTextBased() const override { return type() != typeVobSub; }
@@ -52,22 +43,33 @@ public:
     bool isFrameBased() const override { return type() == typeMicroDVD; }
     std::uint32_t streamIndex() const override { return _stream; }
 
+protected:
+    void _preload() override {
+        if (!loading)
+            readCues();
+    }
+    const char* className() const override { return "Track"; }
+
 private:
     std::uint32_t _stream;
-    std::vector<std::shared_ptr<QVSubtitle>> _cues;
 };
 
 class Registry final : public SubtitleRegistry {
 public:
-    Registry() { setShared(this); }
-    ~Registry() override { setShared(nullptr); }
+    explicit Registry(const Environment& environment)
+        : SubtitleRegistry({})
+        , _environment(environment) {}
     std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path,
                                                                     SubtitleOwner& owner) override {
         if (path.endsWith(QStringLiteral(".idx")))
-            return QVVobSubSubtitles::subtitlesWithFilePath(path, owner);
+            return QVVobSubSubtitles::subtitlesWithFilePath(_environment, path, owner);
         const auto type = static_cast<QVSubtitles::Type>(path.at(0).digitValue());
-        return {QVSubtitles::makeTrack<Track>(path, owner, type, static_cast<std::uint32_t>(path.at(2).digitValue()))};
+        const auto stream = static_cast<std::uint32_t>(path.at(2).digitValue());
+        return {std::make_shared<Track>(_environment.settings, path, owner, type, stream)};
     }
+
+private:
+    Environment _environment;
 };
 
 /// Writes down what it is told.
@@ -134,9 +136,9 @@ protected:
     static QStringList taken(QStringList& told) { return std::exchange(told, {}); }
 
     PlaybackRig rig;
-    Registry registry;
+    Registry registry{rig.settings.environment};
     Scene scene{rig.view};
-    QVSubtitlesController controller{&scene};
+    QVSubtitlesController controller{rig.settings.environment, scene};
     const QStringList three{QStringLiteral("0-0 one"), QStringLiteral("1-0 two"), QStringLiteral("3-0 three")};
 };
 
@@ -205,7 +207,7 @@ TEST_F(SubtitlesController, a_movie_that_comes_while_display_is_off_is_shown_wit
     play({QStringLiteral("0-0 x"), QStringLiteral("1-0 y")});
     controller.setCurrenWithIndex(1);
     ASSERT_TRUE(controller.current());
-    EXPECT_TRUE(std::static_pointer_cast<Track>(controller.current())->loaded);
+    EXPECT_GT(controller.current()->count(), 0U);
 }
 
 TEST_F(SubtitlesController, without_tracks_nothing_can_be_switched) {
@@ -234,17 +236,17 @@ TEST_F(SubtitlesController, changed_settings_act_on_the_cue_that_is_shown) {
     EXPECT_TRUE(taken(scene.text).isEmpty()) << "a track that is not timed in frames was timed anew";
     controller.setCurrenWithIndex(1);
     taken(scene.text);
-    change(kQVSubtitlesDefaultFPS, 3); // the cue stands from 3 to 6 s now
+    change(kQVSubtitlesDefaultFPS, 1); // the cue stands a little later now, that of 1 s from 1.04 to 2.08 s
     EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("nothing")});
     change(kQVDisplaySubtitles, 0);
     EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("hide")});
     change(kQVSubtitlesDefaultEncoding, 4);
     EXPECT_TRUE(taken(scene.text).isEmpty()) << "shown while display is off";
     shown->setTime(2 * second);
-    change(kQVSubtitlesDefaultFPS, 1);
+    change(kQVSubtitlesDefaultFPS, 3);
     change(kQVDisplaySubtitles, 1);
     EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("show")});
-    shown->setTime(3 * second);
+    shown->setTime(second);
     EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("A4")});
 }
 
@@ -253,7 +255,7 @@ TEST_F(SubtitlesController, one_image_track_is_kept_loaded_and_texts_and_images_
     const auto loaded = [&] {
         QString all;
         for (const auto& track : shown->subtitles())
-            all += std::static_pointer_cast<Track>(track)->loaded ? u'+' : u'-';
+            all += track->count() > 0 ? u'+' : u'-';
         return all;
     };
     shown->setTime(second);
@@ -290,16 +292,12 @@ TEST_F(SubtitlesController, a_standing_movie_shows_the_cue_that_a_worker_reads_a
     const auto track = std::static_pointer_cast<Track>(shown->subtitles().front());
     track->loading = true;
     rig.view.setMovie(shown);
-    rig.settings.runLoop.advance(1);
-    const std::size_t pending = rig.settings.runLoop.pendingCount();
     post(QVPlaylistMovieChangedNotification{shown});
     shown->setTime(second);
-    rig.settings.runLoop.advance(1);
     EXPECT_EQ(taken(scene.image), QStringList());
-    track->loaded = true;
-    rig.settings.runLoop.advance(0.1);
+    track->readCues();
+    track->observer();
     EXPECT_EQ(taken(scene.image), (QStringList{QStringLiteral("front"), QStringLiteral("A")}));
-    track->loading = false;
-    rig.settings.runLoop.advance(0.1);
-    EXPECT_EQ(rig.settings.runLoop.pendingCount(), pending) << "it still looks for cues";
+    post(QVPlaylistMovieChangedNotification{movie({})});
+    EXPECT_FALSE(track->observer) << "a track that is not shown any more is still followed";
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "settings/SettingsKeys.h"
+#include "subtitles/formats/SubtitleFormats.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/Files.h"
 #include "tests/support/TestEnvironment.h"
@@ -58,5 +59,5 @@ protected:
     TestEnvironment settings;
     QTemporaryDir folder;
     PlainOwner owner;
-    SubtitleRegistry registry;
+    SubtitleRegistry registry{subtitleReaders(settings.environment)};
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "subtitles/text/SubtitleText.h"
+#include "subtitles/input/SubtitleText.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/subtitles/SubtitleFiles.h"

@@ -20,7 +20,8 @@ protected:
     /// The tracks of a pair.
     std::vector<std::shared_ptr<QVSubtitles>> tracks(const vobsub::PairWriter& pair) {
         EXPECT_TRUE(pair.write(folder.filePath(QStringLiteral("film")).toStdString()));
-        return QVVobSubSubtitles::subtitlesWithFilePath(folder.filePath(QStringLiteral("film.idx")), owner);
+        return QVVobSubSubtitles::subtitlesWithFilePath(settings.environment,
+                                                        folder.filePath(QStringLiteral("film.idx")), owner);
     }
     static void load(QVSubtitles& track) {
         track.preload();
@@ -137,4 +138,31 @@ TEST_F(VobSubLoading, cues_are_looked_up_and_dropped_while_the_worker_loads) {
         for (int lookups = 0; lookups < 200 * i; ++lookups)
             (void)other->subtitleForTime(lookups);
     }
+}
+
+TEST_F(VobSubLoading, the_main_thread_is_told_of_the_cues_once_it_gets_to_it) {
+    vobsub::PairWriter pair;
+    pair.addStream("en");
+    for (int i = 0; i < 50; ++i)
+        pair.add(0, 1000 * i, picture(90));
+    auto track = tracks(pair).front();
+    int told = 0;
+    track->setLoadingObserver([&] {
+        ++told;
+        EXPECT_FALSE(track->isLoading());
+        EXPECT_EQ(track->count(), 50U);
+    });
+    load(*track);
+    EXPECT_EQ(told, 0) << "told on the worker's thread";
+    settings.runLoop.runPending();
+    EXPECT_EQ(told, 1) << "not once for all that was read meanwhile";
+    track->unload();
+    load(*track);
+    settings.runLoop.runPending();
+    EXPECT_EQ(told, 2);
+    track->unload();
+    load(*track);
+    track.reset();
+    settings.runLoop.runPending();
+    EXPECT_EQ(told, 2) << "of a track that is gone";
 }

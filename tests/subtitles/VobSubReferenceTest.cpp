@@ -126,7 +126,7 @@ TEST_F(VobSubReference, pictures_equal_those_of_libavcodec) {
 
     ASSERT_TRUE(pair.write(folder.filePath(QStringLiteral("film")).toStdString()));
     const QString path = folder.filePath(QStringLiteral("film.idx"));
-    const auto tracks = QVVobSubSubtitles::subtitlesWithFilePath(path, owner);
+    const auto tracks = QVVobSubSubtitles::subtitlesWithFilePath(settings.environment, path, owner);
     ASSERT_EQ(tracks.size(), 2U);
     for (const int stream : {0, 1}) {
         const Frames own = ownFrames(*tracks[static_cast<std::size_t>(stream)], counts[stream], pair);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "subtitles/SubtitleRegistry.h"
+#include "tests/support/TestSettings.h"
 
 #include <QFileInfo>
 #include <QImage>
@@ -17,19 +18,31 @@ public:
     std::int32_t time() const override { return 0; }
 };
 
-/// A track of a title and, where they matter, a place.
-class FakeTrack final : public QVSubtitles {
+/// What a track needs around it.
+struct FakeTrackParts {
+    platform::UserDefaults settings{std::make_unique<MemorySettings>()};
+    PlainOwner owner;
+};
+
+/// A track without cues, of a title and, where they matter, a place.
+class FakeTrack final : private FakeTrackParts, public QVSubtitles {
 public:
-    explicit FakeTrack(QString title, QString path = {}, std::uint32_t stream = 0)
-        : _title(std::move(title))
-        , _path(std::move(path))
+    explicit FakeTrack(QString title, const QString& path = {}, std::uint32_t stream = 0)
+        : QVSubtitles(FakeTrackParts::settings, path, FakeTrackParts::owner, typeNone, 1.0F, Loading::atOnce)
+        , _title(std::move(title))
         , _stream(stream) {}
-    QString path() const override { return _path; }
     std::uint32_t streamIndex() const override { return _stream; }
     QString title() const override { return _title; }
+    void setEncoding(std::uint32_t) override {}
+    bool isTextBased() const override { return true; }
+    bool isImageBased() const override { return false; }
+
+protected:
+    void _preload() override { finishLoading(); }
+    const char* className() const override { return "FakeTrack"; }
 
 private:
-    QString _title, _path;
+    QString _title;
     std::uint32_t _stream;
 };
 
@@ -43,11 +56,11 @@ class TwoPixels final : public SubtitleImage {
     }
 };
 
-/// Gives each file a track for each word of its name, and text files none. It is the shared one while it lives.
+/// Gives each file a track for each word of its name, and text files none.
 class FakeRegistry final : public SubtitleRegistry {
 public:
-    FakeRegistry() { setShared(this); }
-    ~FakeRegistry() override { setShared(nullptr); }
+    FakeRegistry()
+        : SubtitleRegistry({}) {}
     /// The names of the files it was asked for.
     QStringList offered;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "subtitles/text/SubtitleText.h"
+#include "subtitles/input/SubtitleText.h"
 
 #include "platform/base/RegularFile.h"
 #include "platform/base/TextEncoding.h"
-#include "subtitles/text/LineReader.h"
+#include "subtitles/input/LineReader.h"
 
 #include <QStringDecoder>
 

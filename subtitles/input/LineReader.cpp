@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "subtitles/text/LineReader.h"
+#include "subtitles/input/LineReader.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "subtitles/text/ScanFormat.h"
+#include "subtitles/input/ScanFormat.h"
 
 #include <algorithm>
 #include <limits>

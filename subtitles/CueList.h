@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "subtitles/CueCursor.h"
+#include "subtitles/QVSubtitle.h"
+
+#include <memory>
+#include <vector>
+
+/// The cues of a loaded track in the file's order, and beside them their times, which a search walks over. Not locked:
+/// a track that a worker fills guards it.
+class CueList {
+public:
+    /// With memory for a short file; throws std::bad_alloc.
+    CueList();
+
+    /// Reading this cue may have changed the end of the one before it, and of no other.
+    void append(std::shared_ptr<QVSubtitle> subtitle);
+    /// Multiplies all times: those of another frame rate.
+    void scaleTimes(float ratio);
+
+    std::size_t count() const { return _subtitles.size(); }
+    const std::vector<std::shared_ptr<QVSubtitle>>& subtitles() const { return _subtitles; }
+    CueTimes times() const { return {_starts, _ends}; }
+
+private:
+    std::vector<std::shared_ptr<QVSubtitle>> _subtitles;
+    std::vector<std::int32_t> _starts;
+    std::vector<std::int32_t> _ends;
+};

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/formats/SubtitleFormats.h"
+
+#include "subtitles/text/QVMicroDVDSubtitles.h"
+#include "subtitles/text/QVSubRipSubtitles.h"
+#include "subtitles/text/QVTMPlayerSubtitles.h"
+#include "subtitles/vobsub/QVVobSubSubtitles.h"
+
+namespace {
+
+template <class Track>
+SubtitleReader textReader(const platform::UserDefaults& settings) {
+    return {Track::extensionsList(),
+            [](const QString&, std::string_view beginning) { return Track::isFormatValid(beginning); },
+            [&settings](const QString& path, SubtitleOwner& owner) -> SubtitleReader::Tracks {
+                return {std::make_shared<Track>(settings, path, owner)};
+            }};
+}
+
+SubtitleReader vobSubReader(const Environment& environment) {
+    return {QVVobSubSubtitles::extensionsList(), &QVVobSubSubtitles::isFormatValid,
+            [environment](const QString& path, SubtitleOwner& owner) {
+                return QVVobSubSubtitles::subtitlesWithFilePath(environment, path, owner);
+            }};
+}
+
+} // namespace
+
+std::vector<SubtitleReader> subtitleReaders(const Environment& environment) {
+    return {textReader<QVSubRipSubtitles>(environment.settings), textReader<QVMicroDVDSubtitles>(environment.settings),
+            vobSubReader(environment), textReader<QVTMPlayerSubtitles>(environment.settings)};
+}

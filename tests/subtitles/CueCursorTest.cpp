@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/CueCursor.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+namespace {
+
+// A cue from 10 to 20, one from 20 to 30, a gap, one from 50 to 60.
+constexpr std::int32_t starts[] = {10, 20, 50};
+constexpr std::int32_t ends[] = {20, 30, 60};
+constexpr CueTimes times{starts, ends};
+
+} // namespace
+
+TEST(CueCursor, a_search_ends_on_the_same_cue_wherever_it_begins) {
+    const struct {
+        std::int32_t time;
+        std::size_t index;
+    } cases[] = {{-5, 0}, {0, 0},  {10, 0}, {19, 0}, {21, 1}, {29, 1},
+                 {30, 1}, {31, 2}, {49, 2}, {50, 2}, {60, 2}, {99, 2}};
+    for (std::size_t from = 0; from < 3; ++from) {
+        for (const auto& [time, index] : cases) {
+            CueCursor cursor;
+            cursor.place(times, from);
+            cursor.search(times, time);
+            EXPECT_EQ(cursor.index(), index) << time << " from " << from;
+        }
+    }
+}
+
+TEST(CueCursor, a_search_is_left_out_only_where_it_would_not_move) {
+    for (std::size_t from = 0; from < 3; ++from) {
+        for (std::int32_t time = -1; time <= 70; ++time) {
+            CueCursor cursor;
+            cursor.place(times, from);
+            if (!cursor.staysFor(time, starts[from], ends[from]))
+                continue;
+            cursor.search(times, time);
+            EXPECT_EQ(cursor.index(), from) << time;
+        }
+    }
+    CueCursor playing;
+    playing.place(times, 1);
+    EXPECT_TRUE(playing.staysFor(25, 20, 30));
+    EXPECT_TRUE(playing.staysFor(30, 20, 30));
+    EXPECT_FALSE(playing.staysFor(31, 20, 30));
+    playing.place(times, 2);
+    EXPECT_TRUE(playing.staysFor(40, 50, 60)) << "in a gap the cursor stays on the later cue";
+    EXPECT_FALSE(playing.staysFor(30, 50, 60)) << "the last moment of the cue before the gap";
+}
