@@ -78,6 +78,10 @@ void QtRunLoop::perform(std::function<void()> work, double delay) {
     QTimer::singleShot(toMilliseconds(delay), Qt::PreciseTimer, QCoreApplication::instance(), std::move(work));
 }
 
+void QtRunLoop::post(std::function<void()> work) {
+    QMetaObject::invokeMethod(&_receiver, std::move(work), Qt::QueuedConnection);
+}
+
 std::unique_ptr<Timer> QtRunLoop::schedule(double interval, bool repeats, std::function<void()> work) {
     return std::make_unique<QtTimer>(interval, repeats, std::move(work));
 }

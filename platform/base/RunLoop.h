@@ -26,8 +26,8 @@ public:
     virtual void fire() = 0;
 };
 
-/// The main thread's run loop: the one source of time above the platform layer. Every call but now() is for the main
-/// thread.
+/// The main thread's run loop: the one source of time above the platform layer. Every call but now() and post() is for
+/// the main thread.
 class RunLoop {
 public:
     RunLoop() = default;
@@ -46,6 +46,11 @@ public:
     virtual QDateTime date() const = 0;
     /// Calls `work` once, `delay` seconds from now, never from inside this call, also while a modal panel is up.
     virtual void perform(std::function<void()> work, double delay = 0) = 0;
+    /// Calls `work` once on the main thread, as soon as the loop gets to it, never from inside this call; works posted
+    /// by one thread run in the order of their posting. Any thread: this is how another thread says that it is done.
+    /// A thread that posts must have ended before the loop goes; what has not run by then never does. `work` should
+    /// hold no owner of what it calls (a weak pointer does), for it is destroyed on whichever thread drops it.
+    virtual void post(std::function<void()> work) = 0;
     /// Calls `work` every `interval` seconds, or once. Timers run on under modal panels. A late repeating timer skips
     /// the firings that it missed. The callback may destroy or re-arm its own timer.
     [[nodiscard]] virtual std::unique_ptr<Timer> schedule(double interval, bool repeats,

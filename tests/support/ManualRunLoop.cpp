@@ -2,7 +2,9 @@
 #include "tests/support/ManualRunLoop.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
+#include <utility>
 
 struct ManualRunLoop::Work {
     ManualRunLoop* loop;
@@ -65,6 +67,35 @@ void ManualRunLoop::perform(std::function<void()> work, double delay) {
     add({this, std::move(work), delay, false});
 }
 
+void ManualRunLoop::post(std::function<void()> work) {
+    {
+        const std::scoped_lock lock(_postedMutex);
+        _posted.push_back(std::move(work));
+    }
+    _postedSomething.notify_all();
+}
+
+void ManualRunLoop::takePosted() {
+    std::vector<std::function<void()>> posted;
+    {
+        const std::scoped_lock lock(_postedMutex);
+        posted.swap(_posted);
+    }
+    for (auto& work : posted)
+        perform(std::move(work), 0);
+}
+
+bool ManualRunLoop::runPosted(double timeout) {
+    {
+        std::unique_lock lock(_postedMutex);
+        if (!_postedSomething.wait_for(lock, std::chrono::duration<double>(timeout),
+                                       [this] { return !_posted.empty(); }))
+            return false;
+    }
+    runPending();
+    return true;
+}
+
 std::unique_ptr<platform::Timer> ManualRunLoop::schedule(double interval, bool repeats, std::function<void()> work) {
     return std::make_unique<ManualTimer>(
         add({this, std::move(work), repeats ? std::max(interval, 1e-4) : interval, repeats}));
@@ -81,13 +112,14 @@ void ManualRunLoop::advance(double seconds) {
         const std::shared_ptr<Work> work = *std::ranges::min_element(_waiting, isSooner);
         if (work->due > reached)
             break;
-        _now = std::max(_now, work->due);
+        _now = std::max(_now.load(), work->due);
         work->run();
     }
-    _now = std::max(_now, until);
+    _now = std::max(_now.load(), until);
 }
 
 std::size_t ManualRunLoop::pendingCount() {
+    takePosted();
     std::erase_if(_waiting, [](const auto& work) { return !work->valid; });
     return _waiting.size();
 }

@@ -3,11 +3,14 @@
 
 #include "platform/base/RunLoop.h"
 
+#include <atomic>
+#include <condition_variable>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <vector>
 
-/// A run loop whose time stands still until the test moves it.
+/// A run loop whose time stands still until the test moves it. The thread that moves it is its main thread.
 class ManualRunLoop final : public platform::RunLoop {
 public:
     ~ManualRunLoop() override;
@@ -15,6 +18,7 @@ public:
     double now() const override { return _now; }
     QDateTime date() const override;
     void perform(std::function<void()> work, double delay) override;
+    void post(std::function<void()> work) override;
     [[nodiscard]] std::unique_ptr<platform::Timer> schedule(double interval, bool repeats,
                                                             std::function<void()> work) override;
 
@@ -23,7 +27,10 @@ public:
     void advance(double seconds);
     /// Runs what is due now.
     void runPending() { advance(0); }
-    /// How many timers and performs still wait.
+    /// Waits in real time until another thread has posted something, and runs what is due then; false when nothing came
+    /// for that many seconds. Time itself stands still meanwhile.
+    bool runPosted(double timeout = 30);
+    /// How many timers, performs and posted works still wait.
     std::size_t pendingCount();
 
 private:
@@ -31,7 +38,12 @@ private:
     class ManualTimer;
     std::shared_ptr<Work> add(Work work);
 
+    void takePosted();
+
+    std::mutex _postedMutex;
+    std::condition_variable _postedSomething;
+    std::vector<std::function<void()>> _posted;
     std::vector<std::shared_ptr<Work>> _waiting;
-    double _now = 0;
+    std::atomic<double> _now = 0;
     std::uint64_t _scheduled = 0;
 };
