@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/MovieSizing.h"
 
+#include "platform/movie/ControllerBar.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -9,7 +11,7 @@ namespace MovieSizing {
 
 namespace {
 
-constexpr float controllerHeight = 16;
+constexpr auto controllerHeight = static_cast<float>(platform::ControllerBar::height);
 constexpr float magnificationStep = 0.1F;
 /// Compared in double precision with the magnification.
 constexpr double smallestToShrink = 0.19;

@@ -65,7 +65,7 @@ public:
 
     platform::Rect pictureFrame() const override { return frame(); }
     bool isControllerBarVisible() const override { return isControllerVisible(); }
-    unsigned getControllerHeight() const override { return 16; }
+    unsigned getControllerHeight() const override { return static_cast<unsigned>(platform::ControllerBar::height); }
     void toggleController();
     void setVolume(float volume) override;
     QString volumeInfoAsString() const;

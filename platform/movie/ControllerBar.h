@@ -14,6 +14,9 @@ namespace platform {
 /// origin top left of the bar, y down, points.
 class ControllerBar {
 public:
+    /// Its height, points.
+    static constexpr double height = 16;
+
     struct State {
         bool playing = false;
         bool muted = false;

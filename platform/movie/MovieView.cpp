@@ -103,16 +103,10 @@ void MovieView::showController(bool visible, bool adjustingSize) {
     if (adjustingSize) {
         // The bar hangs below the picture, which keeps its place.
         const Rect old = frame();
-        const double height = std::max(old.height() + (visible ? controllerBarHeight : -controllerBarHeight), 0.0);
+        const double height = std::max(old.height() + (visible ? ControllerBar::height : -ControllerBar::height), 0.0);
         setFrame(Rect(old.x(), old.maxY() - height, old.width(), height));
     }
     setNeedsDisplay();
-}
-
-QSizeF MovieView::platformSizeForMagnification(float m) const {
-    const QSizeF natural = _movie ? _movie->info().naturalSize : QSizeF(0, 0);
-    return QSizeF(static_cast<float>(natural.width()) * m,
-                  static_cast<float>(natural.height()) * m + static_cast<float>(controllerBarHeight));
 }
 
 bool MovieView::handleMovieKey(const KeyEvent& event) {
@@ -211,7 +205,7 @@ void MovieView::playerStateChanged() {
 }
 
 Rect MovieView::controllerRect() const {
-    return Rect(0, 0, bounds().width(), std::min(controllerBarHeight, bounds().height()));
+    return Rect(0, 0, bounds().width(), std::min(ControllerBar::height, bounds().height()));
 }
 
 void MovieView::performController(const ControllerBar::Command& command) {

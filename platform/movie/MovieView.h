@@ -5,21 +5,16 @@
 #include "platform/movie/MoviePlayer.h"
 #include "platform/window/View.h"
 
-#include <QSizeF>
-
 #include <memory>
 
 namespace platform {
 
 class Movie;
 
-/// The view that shows the player's movie, with an optional controller bar of 16 points below the picture. The playing
+/// The view that shows the player's movie, with an optional controller bar below the picture. The playing
 /// commands act on the player; without a movie they do nothing. Main thread.
 class MovieView : public View, private MoviePlayer::Observer {
 public:
-    /// The height of the controller bar, points.
-    static constexpr double controllerBarHeight = 16.0;
-
     explicit MovieView(MoviePlayer& player);
     ~MovieView() override;
 
@@ -45,10 +40,6 @@ public:
     bool isControllerVisible() const { return _controllerVisible; }
     /// With adjustingSize the view's height grows or shrinks by the bar's, the picture keeping its size.
     void showController(bool visible, bool adjustingSize);
-
-    /// The natural size times m, with the bar's 16 points added whether it is shown or not. A movie without a picture
-    /// has the size (0, 16).
-    QSizeF platformSizeForMagnification(float m) const;
 
     /// Space plays or pauses, the arrows step one picture. True when the key was one of these and there is a movie.
     bool handleMovieKey(const KeyEvent& event);

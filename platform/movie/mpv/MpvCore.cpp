@@ -3,12 +3,11 @@
 
 #include "platform/base/Log.h"
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/window/GraphicsDevice.h"
 #include "platform/window/PictureLayer.h"
 
 #include <QString>
 
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 namespace platform {
@@ -66,17 +65,6 @@ constexpr Option options[] = {
     {"hr-seek-framedrop", "yes"},
     {"audio-client-name", "Lumaro"},
 };
-
-bool hasGraphicsDevice() {
-    std::error_code ignored;
-    if (std::filesystem::exists("/dev/nvidiactl", ignored))
-        return true;
-    for (const auto& entry : std::filesystem::directory_iterator("/dev/dri", ignored)) {
-        if (entry.path().filename().string().starts_with("renderD"))
-            return true;
-    }
-    return false;
-}
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/qt/QtWindowHost.h"
 
+#include "platform/window/GraphicsDevice.h"
 #include "platform/window/PictureLayer.h"
 #include "platform/window/SceneGeometry.h"
 #include "platform/window/Window.h"
@@ -9,7 +10,6 @@
 
 #include <QBackingStore>
 #include <QCoreApplication>
-#include <QDir>
 #include <QDropEvent>
 #include <QExposeEvent>
 #include <QGuiApplication>
@@ -37,14 +37,6 @@ constexpr QEvent::Type paintEventType = static_cast<QEvent::Type>(QEvent::User +
 bool isSoftwareRenderer(const QByteArray& name) {
     const QByteArray lower = name.toLower();
     return lower.isEmpty() || lower.contains("llvmpipe") || lower.contains("softpipe") || lower.contains("swrast");
-}
-
-/// Asking OpenGL who it is takes a tenth of a second where there is no hardware, so that is looked for first.
-bool hasGraphicsDevice() {
-    return !QDir(QStringLiteral("/dev/dri"))
-                .entryList({QStringLiteral("renderD*")}, QDir::System | QDir::Files)
-                .isEmpty() ||
-           QFile::exists(QStringLiteral("/dev/nvidiactl"));
 }
 
 /// Opacity of a window does something only where a compositing manager runs.
