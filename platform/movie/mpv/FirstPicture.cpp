@@ -3,6 +3,7 @@
 
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
+#include "platform/movie/mpv/VideoStream.h"
 
 namespace platform {
 
@@ -23,9 +24,8 @@ int isCancelled(void* flag) {
 }
 
 bool isPlain(const AVStream* stream, const AVFrame* frame) {
-    return !AvLibrary::get()->av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr) &&
-           frame->color_trc != AVCOL_TRC_SMPTE2084 && frame->color_trc != AVCOL_TRC_ARIB_STD_B67 &&
-           !frame->hw_frames_ctx;
+    return !displayMatrixOf(stream) && frame->color_trc != AVCOL_TRC_SMPTE2084 &&
+           frame->color_trc != AVCOL_TRC_ARIB_STD_B67 && !frame->hw_frames_ctx;
 }
 
 bool isFull(const AVFrame* frame) {
@@ -58,12 +58,7 @@ std::shared_ptr<const FirstPicture> FirstPicture::decode(const QUrl& url, const 
         return nullptr;
     const std::unique_ptr<AVFormatContext, Freed> input(context);
 
-    const AVStream* video = nullptr;
-    for (unsigned i = 0; i < input->nb_streams && !video; ++i) {
-        const AVStream* stream = input->streams[i];
-        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC))
-            video = stream;
-    }
+    const AVStream* video = firstVideoStream(input.get());
     const AVCodec* codec = video ? av->avcodec_find_decoder(video->codecpar->codec_id) : nullptr;
     const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
     if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)

@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/MovieProbe.h"
 
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/VideoStream.h"
 
 #include <QFile>
 
@@ -71,18 +72,6 @@ std::int16_t checkFile(const QUrl& url) {
     return movieError::none;
 }
 
-bool isPicture(const AVStream* stream) {
-    return stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC);
-}
-
-const AVStream* firstPictureStream(const AVFormatContext* input) {
-    for (unsigned i = 0; i < input->nb_streams; ++i) {
-        if (isPicture(input->streams[i]))
-            return input->streams[i];
-    }
-    return nullptr;
-}
-
 const AVStream* firstSoundStream(const AVFormatContext* input) {
     for (unsigned i = 0; i < input->nb_streams; ++i) {
         if (input->streams[i]->codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
@@ -116,7 +105,7 @@ bool isComplete(const AVFormatContext* input) {
         if (stream->codecpar->codec_id == AV_CODEC_ID_NONE && stream->codecpar->codec_type <= AVMEDIA_TYPE_AUDIO)
             return false;
     }
-    const AVStream* video = firstPictureStream(input);
+    const AVStream* video = firstVideoStream(input);
     if (!video)
         return firstSoundStream(input) != nullptr;
     return video->codecpar->width > 0 && video->codecpar->height > 0 &&
@@ -124,11 +113,10 @@ bool isComplete(const AVFormatContext* input) {
 }
 
 int quarterTurnsOf(const AVStream* video) {
-    const AvLibrary& av = *AvLibrary::get();
-    const std::uint8_t* matrix = av.av_stream_get_side_data(video, AV_PKT_DATA_DISPLAYMATRIX, nullptr);
+    const std::int32_t* matrix = displayMatrixOf(video);
     if (!matrix)
         return 0;
-    const double angle = av.av_display_rotation_get(reinterpret_cast<const std::int32_t*>(matrix)); // anticlockwise
+    const double angle = AvLibrary::get()->av_display_rotation_get(matrix); // anticlockwise
     return std::isnan(angle) ? 0 : static_cast<int>((4 - std::lround(angle / 90.0) % 4) % 4);
 }
 
@@ -222,7 +210,7 @@ ProbeResult probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
             return {std::nullopt, deadline.timedOut ? movieError::timedOut : errorOf(found)};
     }
 
-    const AVStream* video = firstPictureStream(input.get());
+    const AVStream* video = firstVideoStream(input.get());
     const AVStream* audio = firstSoundStream(input.get());
     const bool seen = video && video->codecpar->width > 0 && av->avcodec_find_decoder(video->codecpar->codec_id);
     const bool heard = audio && av->avcodec_find_decoder(audio->codecpar->codec_id);

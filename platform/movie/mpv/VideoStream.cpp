@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/VideoStream.h"
+
+#include "platform/movie/mpv/Libraries.h"
+
+namespace platform {
+
+const AVStream* firstVideoStream(const AVFormatContext* input) {
+    for (unsigned i = 0; i < input->nb_streams; ++i) {
+        const AVStream* stream = input->streams[i];
+        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC))
+            return stream;
+    }
+    return nullptr;
+}
+
+const std::int32_t* displayMatrixOf(const AVStream* video) {
+    const std::uint8_t* matrix = AvLibrary::get()->av_stream_get_side_data(video, AV_PKT_DATA_DISPLAYMATRIX, nullptr);
+    return reinterpret_cast<const std::int32_t*>(matrix);
+}
+
+} // namespace platform

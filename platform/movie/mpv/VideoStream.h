@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+struct AVFormatContext;
+struct AVStream;
+
+namespace platform {
+
+/// The stream that is played as the movie's picture: the first of video that is not a cover. Null when there is none.
+const AVStream* firstVideoStream(const AVFormatContext* input);
+
+/// The matrix of nine numbers by which its pictures are to be turned; null where they stand as they are. The libraries
+/// are loaded.
+const std::int32_t* displayMatrixOf(const AVStream* video);
+
+} // namespace platform
