@@ -70,3 +70,42 @@ TEST(Movie, without_pictures_every_quarter_of_a_second_passes) {
     sound.player.advance(1.02);
     EXPECT_EQ(sound.passed, (std::vector<std::int32_t>{150, 300, 450, 600}));
 }
+
+TEST(Movie, a_resting_movie_keeps_the_time_it_is_moved_to_within_its_length) {
+    const struct {
+        std::int32_t duration, asked, kept;
+    } cases[] = {{36000, 500, 500}, {36000, 36000, 36000}, {36000, 36001, 36000},
+                 {36000, -5, 0},    {0, 90000, 90000},     {0, -5, 0}};
+    for (const auto& c : cases) {
+        MovieInfo info = plain();
+        info.duration = c.duration;
+        ScriptedPlayer player;
+        Movie movie(info, player);
+        EXPECT_EQ(movie.time(), 0);
+        movie.setTimeValue(c.asked);
+        EXPECT_EQ(movie.time(), c.kept);
+        EXPECT_EQ(movie.rate(), 0);
+        player.load(&movie);
+        EXPECT_EQ(player.time(), c.kept) << "there it is loaded";
+        player.load(nullptr);
+    }
+}
+
+TEST(Movie, one_that_gives_way_to_another_keeps_the_time_at_which_it_was_left) {
+    Loaded left;
+    left.player.play();
+    left.player.advance(2);
+    EXPECT_EQ(left.movie->time(), 1200);
+    Movie other(plain(), left.player);
+    left.player.load(&other);
+    left.player.play();
+    left.player.advance(1);
+    EXPECT_EQ(left.movie->time(), 1200);
+    EXPECT_EQ(left.movie->rate(), 0);
+    left.movie->setTimeValue(2400);
+    EXPECT_EQ(other.time(), 600) << "the one that rests is moved alone";
+    left.player.load(left.movie.get());
+    EXPECT_EQ(left.player.time(), 2400);
+    EXPECT_EQ(other.time(), 600);
+    left.player.load(nullptr);
+}

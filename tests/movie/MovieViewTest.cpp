@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/MovieView.h"
+
+#include "platform/movie/Movie.h"
+#include "platform/window/Window.h"
+#include "tests/support/RecordingHost.h"
+#include "tests/support/ScriptedToolkit.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <utility>
+#include <vector>
+
+using platform::ControllerBar;
+using platform::Movie;
+using platform::MovieView;
+
+namespace {
+
+struct ViewRig {
+    ViewRig() {
+        window.setHost(&host);
+        window.contentView().addSubview(view);
+        view.setFrame(platform::Rect(0, 0, 640, 496));
+        view.setMovieObject(std::make_shared<Movie>(ScriptedToolkit::plainMovie(QUrl("file:///a.mp4")), player));
+        view.start();
+        view.stop();
+        host.areas.clear();
+    }
+    /// What was to be drawn again since it was asked for last.
+    std::vector<platform::Rect> drawnAgain() { return std::exchange(host.areas, {}); }
+
+    ScriptedPlayer player;
+    RecordingHost host;
+    platform::Window window{platform::Rect(0, 0, 640, 496)};
+    MovieView view{player};
+    const std::vector<platform::Rect> bar{platform::Rect(0, 0, 640, 16)};
+    const std::vector<platform::Rect> nothing;
+};
+
+} // namespace
+
+TEST(MovieView, the_controller_bar_is_drawn_again_when_its_knob_moves_by_half_a_point) {
+    ViewRig rig;
+    rig.view.start();
+    EXPECT_EQ(rig.drawnAgain(), rig.bar) << "its button shows that it plays";
+    // The knob's middle stays within the slider by half its width of 8.
+    const double halfPoints = (ControllerBar::timeSlider(QSizeF(640, 16)).width() - 8) * 2;
+    long shown = 0;
+    for (int picture = 1; picture <= 100; ++picture) {
+        rig.player.advance(0.04);
+        const long now = std::lround(rig.player.time() * halfPoints / 36000);
+        EXPECT_EQ(rig.drawnAgain(), std::exchange(shown, now) == now ? rig.nothing : rig.bar) << picture;
+    }
+    EXPECT_GT(shown, 20) << "the movie moved on";
+}
+
+TEST(MovieView, the_controller_bar_is_drawn_again_for_what_it_shows_only) {
+    ViewRig rig;
+    rig.view.setVolume(0.5F);
+    EXPECT_EQ(rig.drawnAgain(), rig.bar);
+    rig.view.setVolume(0.501F);
+    EXPECT_EQ(rig.drawnAgain(), rig.nothing) << "less than a pixel";
+    rig.view.setMuted(true);
+    EXPECT_EQ(rig.drawnAgain(), rig.bar);
+    rig.view.setVolume(1);
+    rig.drawnAgain();
+    rig.view.setVolume(2);
+    EXPECT_EQ(rig.drawnAgain(), rig.nothing) << "louder shows as full";
+
+    rig.view.showController(false, false);
+    rig.drawnAgain();
+    rig.view.setMuted(false);
+    EXPECT_EQ(rig.drawnAgain(), rig.nothing) << "hidden";
+}
