@@ -90,13 +90,11 @@ protected:
         });
     }
 
-    // Red on the left and blue on the right, to be turned anticlockwise (what ffmpeg writes for these degrees).
+    // Red on the left and blue on the right, to be turned anticlockwise.
     std::string rotated(int degrees) {
         const std::string upright = media().make(
             "upright.mp4", picture(red) + Arguments{"-vf", "drawbox=x=160:w=160:h=180:color=blue:t=fill"} + h264);
-        const std::string turn = std::to_string(degrees);
-        return media().make("rotated" + turn + ".mov",
-                            {"-i", upright, "-c", "copy", "-metadata:s:v", "rotate=" + turn});
+        return media().makeTurned("rotated" + std::to_string(degrees) + ".mov", upright, degrees / 90);
     }
 };
 

@@ -43,9 +43,8 @@ TEST(FirstPicture, is_the_one_that_the_player_shows_first) {
 
 TEST(FirstPicture, is_left_to_the_player_where_it_is_not_simple) {
     const std::atomic<bool> cancelled{false};
-    const auto rotated =
-        media().make("turned.mp4", {"-i", pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}),
-                                    "-c", "copy", "-metadata:s:v:0", "rotate=90"});
+    const auto rotated = media().makeTurned(
+        "turned.mp4", pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}), 1);
     EXPECT_FALSE(platform::FirstPicture::decode(urlOf(rotated), cancelled));
     const auto sound = media().make("sound.mp3", {"-f", "lavfi", "-i", "sine=d=1"});
     EXPECT_FALSE(platform::FirstPicture::decode(urlOf(sound), cancelled));

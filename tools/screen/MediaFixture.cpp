@@ -8,7 +8,9 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <stdexcept>
 
 namespace harness {
@@ -97,6 +99,29 @@ std::filesystem::path MediaFixture::makeNumbered(const std::string& fileName, co
                      {"-vf", filter, "-g", std::to_string(movie.keyframeInterval), "-sc_threshold", "0"});
     arguments.insert(arguments.end(), movie.encoder.begin(), movie.encoder.end());
     return make(fileName, arguments);
+}
+
+std::filesystem::path MediaFixture::makeTurned(const std::string& fileName, const std::filesystem::path& upright,
+                                               int quarterTurns) const {
+    std::ifstream input(upright, std::ios::binary);
+    std::string content{std::istreambuf_iterator<char>(input), {}};
+    // A track's header: type, 40 bytes of facts, then its matrix, whose numbers have 16 bits behind the point.
+    const std::size_t header = content.find("tkhd");
+    if (header == std::string::npos || header + 80 > content.size())
+        throw std::runtime_error(upright.string() + " has no track to turn");
+    constexpr int turns[4][4] = {{1, 0, 0, 1}, {0, -1, 1, 0}, {-1, 0, 0, -1}, {0, 1, -1, 0}};
+    constexpr std::size_t places[4] = {0, 4, 12, 16};
+    for (int i = 0; i < 4; ++i) {
+        const int value = turns[quarterTurns][i];
+        content.replace(header + 44 + places[i], 4, {value < 0 ? '\xff' : '\0', value < 0 ? '\xff' : '\0', '\0', '\0'});
+        if (value > 0)
+            content[header + 44 + places[i] + 1] = '\1';
+    }
+    const std::filesystem::path file = upright.parent_path() / fileName;
+    const std::filesystem::path unfinished = file.string() + std::to_string(::getpid());
+    std::ofstream(unfinished, std::ios::binary) << content;
+    std::filesystem::rename(unfinished, file);
+    return file;
 }
 
 std::filesystem::path MediaFixture::makeColored(const std::string& fileName, const std::vector<Color>& colors,

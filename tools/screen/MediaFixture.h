@@ -33,6 +33,11 @@ public:
     };
     std::filesystem::path makeNumbered(const std::string& fileName, const Numbered& movie) const;
 
+    // The same movie, whose pictures are in its first track, to be turned anticlockwise that often. Written into the
+    // copy: what ffmpeg's programs take for it differs between their versions.
+    std::filesystem::path makeTurned(const std::string& fileName, const std::filesystem::path& upright,
+                                     int quarterTurns) const;
+
     // A movie of one colour after another, each for so many seconds.
     std::filesystem::path makeColored(const std::string& fileName, const std::vector<Color>& colors, double secondsEach,
                                       int width, int height, int framesPerSecond,
