@@ -81,9 +81,7 @@ public:
     // Motion
 
     void operator()(const playerEvent::Play&) {
-        if (!_s.movie)
-            return;
-        if (_s.atEnd || (_s.movie->duration > 0 && _s.time >= _s.movie->duration))
+        if (_s.movie && (_s.atEnd || (_s.movie->duration > 0 && _s.time >= _s.movie->duration)))
             seek(0, JumpReport::reported);
         setRate(1.0F, 0);
     }
