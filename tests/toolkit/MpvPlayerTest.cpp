@@ -3,9 +3,11 @@
 
 #include "tests/toolkit/ToolkitRig.h"
 
+#include <QPoint>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
 
 using JumpReport = platform::MoviePlayer::JumpReport;
 
@@ -177,6 +179,25 @@ TEST(MpvPlayer, the_movie_loaded_last_is_the_one_that_plays) {
     EXPECT_FALSE(rig.screen.number()) << "no movie, no picture";
     rig.player().play();
     EXPECT_FALSE(rig.player().isPlaying());
+}
+
+TEST(MpvPlayer, a_turned_movie_stands_upright) {
+    const std::filesystem::path upright = media().make(
+        "halves.mp4", {"-f", "lavfi", "-i", "color=c=0xC80000:s=384x216:r=25:d=1", "-vf",
+                       "drawbox=x=192:w=192:h=216:color=blue:t=fill", "-c:v", "libx264", "-pix_fmt", "yuv420p"});
+    // Where what was at the left stands after each quarter turn anticlockwise, and what was at the right.
+    const struct {
+        QPoint red, blue;
+    } turns[] = {{{96, 108}, {288, 108}}, {{192, 162}, {192, 54}}, {{288, 108}, {96, 108}}, {{192, 54}, {192, 162}}};
+    for (int turn = 0; turn < 4; ++turn) {
+        ToolkitRig rig;
+        const auto movie = rig.open(urlOf(media().makeTurned("turned" + std::to_string(turn) + ".mp4", upright, turn)));
+        ASSERT_TRUE(movie);
+        rig.player().load(movie.get());
+        const auto& [red, blue] = turns[turn];
+        EXPECT_TRUE(rig.waitFor([&] { return rig.screen.at(red.x(), red.y()).isNear({200, 0, 0}); })) << turn;
+        EXPECT_TRUE(rig.screen.at(blue.x(), blue.y()).isNear({0, 0, 255})) << turn;
+    }
 }
 
 TEST(MpvPlayer, a_movie_that_cannot_be_played_ends_whenever_it_is_started) {

@@ -8,6 +8,7 @@
 #include <dlfcn.h>
 
 #include <initializer_list>
+#include <string>
 #include <vector>
 
 namespace platform {
@@ -72,13 +73,26 @@ const AvLibrary* AvLibrary::get() {
     return loaded;
 }
 
+const std::uint8_t* AvLibrary::sideDataOf(const AVStream& stream, AVPacketSideDataType kind) const {
+#if LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 0)
+    const AVCodecParameters& parameters = *stream.codecpar;
+    const AVPacketSideData* data =
+        av_packet_side_data_get(parameters.coded_side_data, parameters.nb_coded_side_data, kind);
+    return data ? data->data : nullptr;
+#else
+    return av_stream_get_side_data(&stream, kind, nullptr);
+#endif
+}
+
 const MpvLibrary* MpvLibrary::get() {
     static const MpvLibrary* const loaded = []() -> const MpvLibrary* {
         static MpvLibrary library;
         // Loading a library resolves its names among all that it depends on. Done level by level these searches are
-        // short; in one go they take half as long again. It does not matter whether these two are there.
-        for (const char* dependency : {"libavfilter.so.8", "libavdevice.so.59"})
-            dlopen(dependency, RTLD_LAZY | RTLD_LOCAL);
+        // short; in one go they take half as long again. It does not matter whether these two are there. FFmpeg raises
+        // the numbers of its libraries together: libavdevice has libavcodec's, libavfilter's is 49 behind libavutil's.
+        for (const std::string& dependency : {"libavfilter.so." + std::to_string(LIBAVUTIL_VERSION_MAJOR - 49),
+                                              "libavdevice.so." + std::to_string(LIBAVCODEC_VERSION_MAJOR)})
+            dlopen(dependency.c_str(), RTLD_LAZY | RTLD_LOCAL);
         SharedLibraries files{"libmpv.so.2"};
         static_assert(MPV_CLIENT_API_VERSION >> 16 == 2);
 #define X(name) files.resolve(library.name, #name);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/mpv/MpvDialect.h"
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
@@ -12,12 +14,21 @@ extern "C" {
 #include <mpv/render.h>
 #include <mpv/render_gl.h>
 
+#include <cstdint>
+
 namespace platform {
 
 // The libraries are loaded at run time instead of being linked: resolving the more than two hundred libraries behind
 // libmpv takes as long as everything else at the start together, and on a thread of its own it costs the start nothing.
 // They are loaded in the order in which they are needed: the readers first, so that a movie is open, and its first
 // picture decoded, while the player is still being loaded.
+
+// The side data of a stream stands with its codec's parameters since FFmpeg 6.1.
+#if LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 0)
+#define LUMARO_AV_SIDE_DATA_FUNCTION(X) X(av_packet_side_data_get)
+#else
+#define LUMARO_AV_SIDE_DATA_FUNCTION(X) X(av_stream_get_side_data)
+#endif
 
 #define LUMARO_AV_FUNCTIONS(X)                                                                                         \
     X(avformat_alloc_context)                                                                                          \
@@ -26,7 +37,7 @@ namespace platform {
     X(avformat_close_input)                                                                                            \
     X(avformat_free_context)                                                                                           \
     X(av_guess_sample_aspect_ratio)                                                                                    \
-    X(av_stream_get_side_data)                                                                                         \
+    LUMARO_AV_SIDE_DATA_FUNCTION(X)                                                                                    \
     X(av_read_frame)                                                                                                   \
     X(avcodec_find_decoder)                                                                                            \
     X(avcodec_alloc_context3)                                                                                          \
@@ -52,6 +63,7 @@ namespace platform {
     X(sws_setColorspaceDetails)
 
 #define LUMARO_MPV_FUNCTIONS(X)                                                                                        \
+    X(mpv_client_api_version)                                                                                          \
     X(mpv_create)                                                                                                      \
     X(mpv_initialize)                                                                                                  \
     X(mpv_terminate_destroy)                                                                                           \
@@ -75,6 +87,9 @@ struct AvLibrary {
 #define X(name) decltype(&::name) name = nullptr;
     LUMARO_AV_FUNCTIONS(X)
 #undef X
+    /// The data of a kind that the container holds of a stream; null when it holds none.
+    const std::uint8_t* sideDataOf(const AVStream& stream, AVPacketSideDataType kind) const;
+
     /// The loaded library, or null when it cannot be loaded (a message was logged). Blocks while it is being loaded.
     /// Any thread.
     static const AvLibrary* get();
@@ -85,6 +100,11 @@ struct MpvLibrary {
 #define X(name) decltype(&::name) name = nullptr;
     LUMARO_MPV_FUNCTIONS(X)
 #undef X
+    /// How this version of the library is spoken to.
+    MpvDialect dialect() const {
+        return mpvDialect(mpv_client_api_version());
+    }
+
     static const MpvLibrary* get();
 };
 

@@ -61,7 +61,6 @@ constexpr Option options[] = {
     {"demuxer-max-bytes", "32MiB"},
     {"demuxer-max-back-bytes", "8MiB"},
     {"keepaspect", "no"},
-    {"background", "#000000"},
     {"hr-seek-framedrop", "yes"},
     {"audio-client-name", "Lumaro"},
 };
@@ -76,12 +75,15 @@ std::unique_ptr<MpvCore> MpvCore::create() {
         return nullptr;
     }
     std::unique_ptr<MpvCore> core(new MpvCore(handle));
-    for (const Option& option : options) {
+    const auto set = [&](const Option& option) {
         if (const int error = mpv->mpv_set_option_string(handle, option.name, option.value); error < 0) {
             Log::write(QStringLiteral("ERROR: MpvCore: Option %1: %2")
                            .arg(QString::fromUtf8(option.name), QString::fromUtf8(mpv->mpv_error_string(error))));
         }
-    }
+    };
+    for (const Option& option : options)
+        set(option);
+    set({mpv->dialect().backgroundOption, "#000000"});
     // Without a graphics device there is no decoder in hardware to look for, which takes a while and loads the drivers.
     mpv->mpv_set_option_string(handle, "hwdec", hasGraphicsDevice() ? "auto-safe" : "no");
     if (const int error = mpv->mpv_initialize(handle); error < 0) {

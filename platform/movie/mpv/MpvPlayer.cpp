@@ -223,8 +223,10 @@ void MpvPlayer::carryOut(const playerEffect::LoadFile& effect) {
     const QByteArray options = loadOptions(_movie->info(), effect.start);
     if (options.isEmpty())
         command({"loadfile", address.constData(), "replace"});
-    else
+    else if (MpvLibrary::get()->dialect().loadArguments == MpvDialect::LoadArguments::flags)
         command({"loadfile", address.constData(), "replace", options.constData()});
+    else
+        command({"loadfile", address.constData(), "replace", "-1", options.constData()});
 }
 
 void MpvPlayer::carryOut(const playerEffect::SendSeek& effect) {

@@ -15,8 +15,7 @@ const AVStream* firstVideoStream(const AVFormatContext* input) {
 }
 
 const std::int32_t* displayMatrixOf(const AVStream* video) {
-    const std::uint8_t* matrix = AvLibrary::get()->av_stream_get_side_data(video, AV_PKT_DATA_DISPLAYMATRIX, nullptr);
-    return reinterpret_cast<const std::int32_t*>(matrix);
+    return reinterpret_cast<const std::int32_t*>(AvLibrary::get()->sideDataOf(*video, AV_PKT_DATA_DISPLAYMATRIX));
 }
 
 } // namespace platform

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/MpvDialect.h"
+
+#include <mpv/client.h>
+
+namespace platform {
+
+MpvDialect mpvDialect(unsigned long version) {
+    // 2.3 came with mpv 0.38, in which "background" says what kind of one there is.
+    if (version >= MPV_MAKE_VERSION(2, 3))
+        return {"background-color", MpvDialect::LoadArguments::flagsAndIndex};
+    return {"background", MpvDialect::LoadArguments::flags};
+}
+
+} // namespace platform

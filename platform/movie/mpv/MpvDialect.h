@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace platform {
+
+/// What differs between the versions of libmpv that are loaded at run time.
+struct MpvDialect {
+    /// The option that takes the colour behind the picture.
+    const char* backgroundOption;
+    /// What the loadfile command takes before the options of a file: nothing, or the place in the list as well.
+    enum class LoadArguments { flags, flagsAndIndex } loadArguments;
+};
+
+/// That of a library whose mpv_client_api_version() is `version`.
+MpvDialect mpvDialect(unsigned long version);
+
+} // namespace platform

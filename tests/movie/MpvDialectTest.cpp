@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/MpvDialect.h"
+
+#include <gtest/gtest.h>
+
+using platform::MpvDialect;
+
+TEST(MpvDialect, changed_with_version_2_3_of_the_interface) {
+    const struct {
+        unsigned long major, minor;
+        const char* background;
+        MpvDialect::LoadArguments loadArguments;
+    } cases[] = {
+        {2, 0, "background", MpvDialect::LoadArguments::flags}, // mpv 0.35
+        {2, 2, "background", MpvDialect::LoadArguments::flags},
+        {2, 3, "background-color", MpvDialect::LoadArguments::flagsAndIndex},
+        {2, 5, "background-color", MpvDialect::LoadArguments::flagsAndIndex}, // mpv 0.40
+    };
+    for (const auto& c : cases) {
+        const MpvDialect dialect = platform::mpvDialect(c.major << 16 | c.minor);
+        EXPECT_STREQ(dialect.backgroundOption, c.background) << c.minor;
+        EXPECT_EQ(dialect.loadArguments, c.loadArguments) << c.minor;
+    }
+}
