@@ -10,17 +10,17 @@
 #include "platform/window/WindowHost.h"
 #include "subtitles/formats/SubtitleFormats.h"
 
-namespace {
+MainObjects::Publication::Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display) {
+    gAppController = &application;
+    QVFeedbackOverlay::setShared([&feedback]() -> QVFeedbackOverlay& { return feedback.overlay(); });
+    QVOSDOverlay::setShared([&display]() -> QVOSDOverlay& { return display.overlay(); });
+}
 
-/// The overlay is made for the first text.
-class SharedFeedback final : public FeedbackDisplay {
-    void postFeedback(const QString& message) override {
-        QVFeedbackOverlay::sharedFeedbackOverlay().postFeedback(message);
-    }
-    double readingTime() const override { return QVFeedbackOverlay::sharedFeedbackOverlay().readingTime(); }
-};
-
-} // namespace
+MainObjects::Publication::~Publication() {
+    QVOSDOverlay::setShared(nullptr);
+    QVFeedbackOverlay::setShared(nullptr);
+    gAppController = nullptr;
+}
 
 MainObjects::MainObjects(const Environment& environment, const Platform& platform, LaunchSteps& steps)
     : _pointer(environment,
@@ -33,10 +33,10 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _window(environment,
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },
                [this](int direction) { _view.stopAutoscroll(direction); }})
-    , _feedback(std::make_unique<SharedFeedback>())
+    , _feedback(environment, _window)
     , _subtitleReaders(subtitleReaders(environment))
     , _subtitleDiscovery(environment.loop)
-    , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, *_feedback, _files})
+    , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _files})
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
                               _view,
                               platform.desktop,
@@ -45,12 +45,12 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _subtitleScene(environment, _window, _view)
     , _subtitles(environment, _subtitleScene)
     , _texts(_view, _playlist, _subtitles)
+    , _display(environment, _window, _texts)
     , _activation(environment, _window, _view, _pointer)
     , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _playlist,
-                                 _subtitles, _controller, _menu, _pointer, _files, _activation})
-    , _controller(environment, {_window, _window, _view, _playlist, _subtitles, *_feedback, _pointer, platform.desktop,
+                                 _subtitles, _commands, _display, _menu, _pointer, _files, _activation})
+    , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
-    QVOSDOverlay::setTexts(&_texts);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);
     _commands.setTarget(&_controller);
@@ -59,7 +59,4 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
 MainObjects::~MainObjects() {
     _commands.setTarget(nullptr);
     _window.setDelegate(nullptr);
-    QVFeedbackOverlay::destroyShared();
-    QVOSDOverlay::destroyShared();
-    QVOSDOverlay::setTexts(nullptr);
 }

@@ -11,8 +11,8 @@
 #include "app/QVFullScreenWindow.h"
 #include "app/SubtitlesOverMovie.h"
 #include "context/Environment.h"
-#include "context/FeedbackDisplay.h"
 #include "control/QVMovieController.h"
+#include "overlays/OverlaysOnDemand.h"
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
 #include "playback/SubtitleDiscovery.h"
@@ -40,24 +40,25 @@ public:
     QVMovieView& view() { return _view; }
     MainMenu& menu() { return _menu; }
     QVPlaylistController& playlist() { return _playlist; }
+    OnScreenDisplay& display() { return _display; }
     QVAppController& application() { return _application; }
     QVMovieController& controller() { return _controller; }
 
 private:
-    /// While it lives the application controller is gAppController.
+    /// What the process-wide accessors answer while it lives.
     class Publication {
     public:
-        explicit Publication(QVAppController& application) { gAppController = &application; }
+        Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display);
         Publication(const Publication&) = delete;
         Publication& operator=(const Publication&) = delete;
-        ~Publication() { gAppController = nullptr; }
+        ~Publication();
     };
 
     CommandRelay _commands;
     PointerAutohide _pointer;
     FileIntake _files;
     QVFullScreenWindow _window;
-    std::unique_ptr<FeedbackDisplay> _feedback;
+    FeedbackOnDemand _feedback;
     SubtitleRegistry _subtitleReaders;
     SubtitleDiscovery _subtitleDiscovery;
     QVMovieView _view;
@@ -65,9 +66,10 @@ private:
     SubtitlesOverMovie _subtitleScene;
     QVSubtitlesController _subtitles;
     CurrentTexts _texts;
+    OSDOnDemand _display;
     MainMenu _menu;
     Activation _activation;
     QVAppController _application;
-    Publication _publication{_application};
     QVMovieController _controller;
+    Publication _publication{_application, _feedback, _display};
 };

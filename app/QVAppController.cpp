@@ -9,8 +9,8 @@
 #include "app/QVFullScreenWindow.h"
 #include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
-#include "control/QVMovieController.h"
-#include "overlays/QVOSDOverlay.h"
+#include "context/CommandTarget.h"
+#include "overlays/OnScreenDisplay.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PropertyList.h"
 #include "platform/base/UserDefaults.h"
@@ -44,6 +44,8 @@ std::optional<platform::Screen> screenOf(const platform::Window& window, const p
 
 } // namespace
 
+QVAppController* gAppController = nullptr;
+
 QVAppController::QVAppController(const Environment& environment, const Collaborators& collaborators)
     : _environment(environment)
     , _with(collaborators) {
@@ -66,26 +68,12 @@ QString QVAppController::infoText(const char* key) const {
     return _with.bundle.objectForInfoDictionaryKey(QString::fromLatin1(key)).toString();
 }
 
-// The main objects
-
-platform::Window* QVAppController::window() {
-    return &_with.window;
+platform::Menu& QVAppController::playlistMenu() const {
+    return _with.menu.playlistMenu();
 }
 
-MainWindow* QVAppController::mainWindow() {
-    return &_with.window;
-}
-
-CommandTarget* QVAppController::controller() {
-    return &_with.controller;
-}
-
-platform::Menu* QVAppController::playlistMenu() {
-    return &_with.menu.playlistMenu();
-}
-
-platform::Menu* QVAppController::subtitlesMenu() {
-    return &_with.menu.subtitlesMenu();
+platform::Menu& QVAppController::subtitlesMenu() const {
+    return _with.menu.subtitlesMenu();
 }
 
 // Launch
@@ -137,7 +125,7 @@ void QVAppController::finishLaunching() {
     // A display that shows nothing is not made: its fonts would hold up the first picture.
     if (const std::int32_t type = _environment.settings.integerForKey(kQVOSDStateSavedType);
         _environment.settings.boolForKey(kQVOSDStateSave) && type != 0)
-        QVOSDOverlay::sharedOSDOverlay().setDisplayType(type);
+        _with.display.setDisplayType(type);
 }
 
 void QVAppController::applicationDidChangeScreenParameters() {
@@ -206,7 +194,7 @@ void QVAppController::showHelp() {
 }
 
 void QVAppController::cycleDisplays(std::int32_t direction) {
-    QVOSDOverlay::sharedOSDOverlay().cycleDisplays(direction);
+    _with.display.cycleDisplays(direction);
 }
 
 void QVAppController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
@@ -226,7 +214,7 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
     if (_environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
         _with.steps.saveState();
     if (_environment.settings.boolForKey(kQVOSDStateSave))
-        _environment.settings.setInteger(QVOSDOverlay::sharedDisplayType(), kQVOSDStateSavedType);
+        _environment.settings.setInteger(_with.display.displayType(), kQVOSDStateSavedType);
     if (_with.view.isPlaying())
         _with.view.stop();
     _with.window.setTerminating(true);

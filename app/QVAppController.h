@@ -2,7 +2,6 @@
 #pragma once
 
 #include "context/Environment.h"
-#include "context/QVAppContext.h"
 #include "control/ApplicationServices.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
@@ -14,20 +13,25 @@
 namespace platform {
 class Bundle;
 class Desktop;
+class Menu;
 class MovieToolkit;
 } // namespace platform
 
 class Activation;
+class CommandTarget;
 class FileIntake;
 class LaunchSteps;
 class MainMenu;
+class OnScreenDisplay;
 class PointerAutohide;
 class QVFullScreenWindow;
-class QVMovieController;
+class QVMovieView;
+class QVPlaylistController;
+class QVSubtitlesController;
 
 /// The application's delegate: launch, changes of the screens, termination. What is handed over, activation and
 /// the hiding of the pointer have objects of their own, to which it passes on what it is told. Main thread.
-class QVAppController final : public QVAppContext, public platform::ApplicationDelegate, public ApplicationServices {
+class QVAppController final : public platform::ApplicationDelegate, public ApplicationServices {
 public:
     /// All outlive the controller.
     struct Collaborators {
@@ -39,7 +43,8 @@ public:
         QVMovieView& view;
         QVPlaylistController& playlist;
         QVSubtitlesController& subtitles;
-        QVMovieController& controller;
+        CommandTarget& controller;
+        OnScreenDisplay& display;
         MainMenu& menu;
         PointerAutohide& pointer;
         FileIntake& files;
@@ -50,14 +55,13 @@ public:
     QVAppController& operator=(const QVAppController&) = delete;
     ~QVAppController() override;
 
-    platform::Window* window() override;
-    MainWindow* mainWindow() override;
-    QVMovieView* movieView() override { return &_with.view; }
-    QVPlaylistController* playlist() override { return &_with.playlist; }
-    QVSubtitlesController* subtitles() override { return &_with.subtitles; }
-    CommandTarget* controller() override;
-    platform::Menu* playlistMenu() override;
-    platform::Menu* subtitlesMenu() override;
+    QVFullScreenWindow& window() const { return _with.window; }
+    QVMovieView& movieView() const { return _with.view; }
+    QVPlaylistController& playlist() const { return _with.playlist; }
+    QVSubtitlesController& subtitles() const { return _with.subtitles; }
+    CommandTarget& controller() const { return _with.controller; }
+    platform::Menu& playlistMenu() const;
+    platform::Menu& subtitlesMenu() const;
 
     void applicationWillFinishLaunching() override;
     void applicationDidFinishLaunching() override;
@@ -79,7 +83,7 @@ public:
     bool isLaunching() const;
     void hideCursor();
     void showCursor();
-    void scheduleCursorHide() override;
+    void scheduleCursorHide();
     void doOpen() override;
     void showHelp() override;
     void cycleDisplays(std::int32_t direction) override;
@@ -95,3 +99,7 @@ private:
     float _savedBrightness = 1.0F;
     platform::Subscription _preferencesChanged;
 };
+
+/// The application controller, as the composition publishes it; null outside its life. Components are handed what they
+/// ask instead.
+extern QVAppController* gAppController;

@@ -10,7 +10,7 @@ FeedbackOnDemand::FeedbackOnDemand(const Environment& environment, platform::Win
 
 FeedbackOnDemand::~FeedbackOnDemand() = default;
 
-QVFeedbackOverlay& FeedbackOnDemand::overlay() {
+QVFeedbackOverlay& FeedbackOnDemand::overlay() const {
     if (!_overlay)
         _overlay = std::make_unique<QVFeedbackOverlay>(_environment, _parent);
     return *_overlay;
@@ -18,6 +18,10 @@ QVFeedbackOverlay& FeedbackOnDemand::overlay() {
 
 void FeedbackOnDemand::postFeedback(const QString& message) {
     overlay().postFeedback(message);
+}
+
+double FeedbackOnDemand::readingTime() const {
+    return overlay().readingTime();
 }
 
 OSDOnDemand::OSDOnDemand(const Environment& environment, platform::Window& parent, const OSDTexts& texts)

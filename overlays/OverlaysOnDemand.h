@@ -25,13 +25,14 @@ public:
     ~FeedbackOnDemand() override;
 
     void postFeedback(const QString& message) override;
+    double readingTime() const override;
     /// Makes the overlay where there is none yet.
-    QVFeedbackOverlay& overlay();
+    QVFeedbackOverlay& overlay() const;
 
 private:
     Environment _environment;
     platform::Window& _parent;
-    std::unique_ptr<QVFeedbackOverlay> _overlay;
+    mutable std::unique_ptr<QVFeedbackOverlay> _overlay; // made by whoever asks first
 };
 
 /// The on-screen display above a window. The window and the texts outlive this object. Main thread.

@@ -1,24 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVFeedbackOverlay.h"
 
-#include "context/QVAppContext.h"
-#include "settings/QVUserDefaults.h"
+#include "platform/base/UserDefaults.h"
+#include "settings/SettingsKeys.h"
+
+#include <utility>
 
 namespace {
-std::unique_ptr<QVFeedbackOverlay> sShared;
+std::function<QVFeedbackOverlay&()> sShared;
 } // namespace
 
 QVFeedbackOverlay& QVFeedbackOverlay::sharedFeedbackOverlay() {
-    if (!sShared)
-        sShared = std::make_unique<QVFeedbackOverlay>(Environment{platform::RunLoop::main(),
-                                                                  platform::NotificationCenter::defaultCenter(),
-                                                                  QVUserDefaults::standardUserDefaults()},
-                                                      *gAppController->window());
-    return *sShared;
+    return sShared();
 }
 
-void QVFeedbackOverlay::destroyShared() {
-    sShared.reset();
+void QVFeedbackOverlay::setShared(std::function<QVFeedbackOverlay&()> overlay) {
+    sShared = std::move(overlay);
 }
 
 QVFeedbackOverlay::QVFeedbackOverlay(const Environment& environment, platform::Window& parent)

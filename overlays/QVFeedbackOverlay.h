@@ -4,13 +4,15 @@
 #include "context/FeedbackDisplay.h"
 #include "overlays/QVTextOverlay.h"
 
+#include <functional>
+
 /// Short confirmations of commands, each shown for a while. Main thread.
 class QVFeedbackOverlay final : public QVTextOverlay, public FeedbackDisplay {
 public:
-    /// The one of the process, made on the first call above the application's main window, if there is one.
+    /// The one of the process, as the composition gives it. Components are handed theirs.
     static QVFeedbackOverlay& sharedFeedbackOverlay();
-    /// Ends the shared overlay, at termination; the next call would make another.
-    static void destroyShared();
+    /// By the composition; null before its overlay goes.
+    static void setShared(std::function<QVFeedbackOverlay&()> overlay);
 
     QVFeedbackOverlay(const Environment& environment, platform::Window& parent);
 

@@ -1,50 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVOSDOverlay.h"
 
-#include "context/QVAppContext.h"
 #include "overlays/ClockText.h"
 #include "overlays/OSDTexts.h"
 #include "platform/base/Localization.h"
-#include "settings/QVUserDefaults.h"
+
+#include <utility>
 
 namespace {
 
 enum DisplayType { nothing, playingTime, currentMovie, subtitleTrack, loopingMode, volume };
 
-std::unique_ptr<QVOSDOverlay> sShared;
-const OSDTexts* sTexts = nullptr;
-
-class NoTexts final : public OSDTexts {
-    std::int32_t timeInSeconds() const override { return 0; }
-    std::int32_t durationInSeconds() const override { return 0; }
-    QString currentMovieInfo() const override { return {}; }
-    QString currentSubtitlesInfo() const override { return {}; }
-    QString loopingInfo() const override { return {}; }
-    QString volumeInfo() const override { return {}; }
-};
-const NoTexts sNoTexts;
+std::function<QVOSDOverlay&()> sShared;
 
 } // namespace
 
 QVOSDOverlay& QVOSDOverlay::sharedOSDOverlay() {
-    if (!sShared)
-        sShared = std::make_unique<QVOSDOverlay>(Environment{platform::RunLoop::main(),
-                                                             platform::NotificationCenter::defaultCenter(),
-                                                             QVUserDefaults::standardUserDefaults()},
-                                                 *gAppController->window(), sTexts ? *sTexts : sNoTexts);
-    return *sShared;
+    return sShared();
 }
 
-int QVOSDOverlay::sharedDisplayType() {
-    return sShared ? sShared->displayType() : 0;
-}
-
-void QVOSDOverlay::destroyShared() {
-    sShared.reset();
-}
-
-void QVOSDOverlay::setTexts(const OSDTexts* texts) {
-    sTexts = texts;
+void QVOSDOverlay::setShared(std::function<QVOSDOverlay&()> overlay) {
+    sShared = std::move(overlay);
 }
 
 QVOSDOverlay::QVOSDOverlay(const Environment& environment, platform::Window& parent, const OSDTexts& texts)

@@ -4,19 +4,17 @@
 #include "overlays/OnScreenDisplay.h"
 #include "overlays/QVTextOverlay.h"
 
+#include <functional>
+
 class OSDTexts;
 
 /// The on-screen display. It follows what it shows and stays until it is switched off. Main thread.
 class QVOSDOverlay final : public QVTextOverlay, public OnScreenDisplay {
 public:
-    /// The one of the process, made on the first call above the application's main window, if there is one.
+    /// The one of the process, as the composition gives it. Components are handed theirs.
     static QVOSDOverlay& sharedOSDOverlay();
-    /// What the shared overlay shows, 0 when there is none; makes none.
-    static int sharedDisplayType();
-    /// Ends the shared overlay, at termination; the next call would make another.
-    static void destroyShared();
-    /// Who knows what is shown; null for nobody, and then texts are empty. The texts must outlive their use.
-    static void setTexts(const OSDTexts* texts);
+    /// By the composition; null before its overlay goes.
+    static void setShared(std::function<QVOSDOverlay&()> overlay);
 
     /// The texts outlive the overlay.
     QVOSDOverlay(const Environment& environment, platform::Window& parent, const OSDTexts& texts);

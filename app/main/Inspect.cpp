@@ -27,7 +27,6 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         return exitUsage;
     const Environment environment{loop, notifications, settings.defaults()};
     platform::MpvToolkit toolkit;
-    platform::MovieToolkit::setShared(&toolkit);
     platform::UserDefaults& defaults = settings.defaults();
     if (line.encoding != 0)
         defaults.setOverride(kQVSubtitlesDefaultEncoding, static_cast<qint64>(line.encoding));

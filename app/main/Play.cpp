@@ -86,10 +86,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
             return exitSuccess;
         toolkit.emplace();
     }
-    platform::MovieToolkit::setShared(&*toolkit);
 
     platform::QtDesktop desktop(count, arguments, QStringLiteral("Lumaro"));
-    platform::Desktop::setShared(&desktop);
     platform::QtRunLoop loop;
     platform::RunLoop::setMain(&loop);
     platform::NotificationCenter notifications;
@@ -131,7 +129,6 @@ int play(int& count, char** arguments, const CommandLine& line) {
             take(files);
         status = desktop.run(player.application());
     }
-    platform::Desktop::setShared(nullptr);
     platform::NotificationCenter::setDefault(nullptr);
     return status;
 }

@@ -26,10 +26,6 @@ struct Screen {
 /// What the desktop around the application offers. Main thread.
 class Desktop : public UserActivity {
 public:
-    /// The process's desktop. One must have been installed with setShared before the first call.
-    static Desktop& shared();
-    static void setShared(Desktop* desktop);
-
     struct Alert {
         QString title;
         QString message;

@@ -20,10 +20,6 @@ public:
     MovieToolkit& operator=(const MovieToolkit&) = delete;
     virtual ~MovieToolkit() = default;
 
-    /// The process's toolkit. One must have been installed with setShared before the first call.
-    static MovieToolkit& shared();
-    static void setShared(MovieToolkit* toolkit);
-
     /// Starts and ends the toolkit; the player exists in between.
     virtual void enter() = 0;
     virtual void exit() = 0;

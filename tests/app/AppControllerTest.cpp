@@ -27,7 +27,6 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
                 {kQVOSDStateSavedType, 3}});
     rig.desktop.brightnessLevels[1] = 0.25F;
     rig.steps.checksVersion = true;
-    QVOSDOverlay::sharedOSDOverlay().setDisplayType(0);
     EXPECT_TRUE(rig.app.openFile(rig.file("a.mp4")));
     rig.app.applicationWillFinishLaunching();
     EXPECT_EQ(rig.toolkit.entered, 1);
@@ -45,7 +44,7 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
     EXPECT_TRUE(rig.desktop.openPanelFolders.isEmpty()) << "with a file the launch action does not run";
     EXPECT_FALSE(rig.app.isLaunching());
     EXPECT_TRUE(rig.view.isPlaying());
-    EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
+    EXPECT_EQ(rig.objects->display().displayType(), 3);
 
     rig.app.applicationShouldTerminate();
     EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.25F) << "the screen gets back the brightness found at launch";
@@ -282,9 +281,9 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     EXPECT_FALSE(rig.view.isPlaying());
     choose("showHelp");
     EXPECT_EQ(rig.events, QStringList{"help"});
-    QVOSDOverlay::sharedOSDOverlay().setDisplayType(2);
+    rig.objects->display().setDisplayType(2);
     choose("cycleDisplays", 1);
-    EXPECT_EQ(QVOSDOverlay::sharedOSDOverlay().displayType(), 3);
+    EXPECT_EQ(rig.objects->display().displayType(), 3);
     choose("startStop");
     EXPECT_TRUE(rig.view.isPlaying());
     choose("quit");
@@ -301,7 +300,7 @@ TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_
         rig.launch();
         rig.events.clear();
         rig.view.setVolume(0.25F);
-        QVOSDOverlay::sharedOSDOverlay().setDisplayType(4);
+        rig.objects->display().setDisplayType(4);
         EXPECT_EQ(rig.app.applicationShouldTerminate(), platform::ApplicationDelegate::TerminateReply::later);
         EXPECT_FALSE(rig.view.isPlaying());
         EXPECT_EQ(rig.desktop.terminationReplies.empty(), rig.window.fadingOutInterval() >= 0.05)

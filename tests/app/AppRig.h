@@ -3,7 +3,7 @@
 
 #include "app/LaunchSteps.h"
 #include "app/MainObjects.h"
-#include "overlays/QVOSDOverlay.h"
+#include "overlays/OnScreenDisplay.h"
 #include "platform/base/Bundle.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/Files.h"

@@ -64,9 +64,9 @@ protected:
                        {kQVJumpInterval, 10},
                        {kQVPlaylistAutoPlay, false},
                        {kQVPlaylistDefaultArrangement, 0}}) {
-        app.controllerObject = &controller;
+        commands.target = &controller;
     }
-    ~MovieController() override { app.controllerObject = nullptr; }
+    ~MovieController() override { commands.target = nullptr; }
 
     void addMovies(int count) {
         QList<QUrl> urls;
@@ -105,13 +105,14 @@ protected:
 
     RecordingMainWindow mainWindow;
     RecordingServices services;
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
+    RecordingPointer pointer;
+    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel}};
     NoViews scene;
     RecordingSubtitles subtitles{settings.environment, scene};
     platform::Menu playlistMenu, subtitlesMenu;
     QVMovieController controller{settings.environment,
-                                 {window, mainWindow, view, playlist, subtitles, confirmations, app, desktop, services,
-                                  playlistMenu, subtitlesMenu}};
+                                 {window, mainWindow, view, playlist, subtitles, confirmations, pointer, desktop,
+                                  services, playlistMenu, subtitlesMenu}};
 };
 
 } // namespace
@@ -298,7 +299,7 @@ TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_so
     EXPECT_EQ(posted(), text("Movie: Play"));
     controller.performAction(action::playPause, Feedback::yes);
     EXPECT_FALSE(view.isPlaying());
-    EXPECT_EQ(app.cursorHides, 1);
+    EXPECT_EQ(pointer.cursorHides, 1);
 
     view.start();
     controller.performAction(action::fastForward, Feedback::no);

@@ -16,13 +16,13 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     rig.view.setVolume(0.3F);
     rig.view.start();
     rig.player().advance(5);
-    rig.app.isForceMuted = true;
+    rig.commands.isForceMuted = true;
     Posts<QVMovieVolumeChangedNotification> volumes(rig.settings.notifications);
     const auto second = rig.open("file:///b.mp4");
     rig.post(QVPlaylistMovieChangedNotification{second});
     EXPECT_EQ(rig.view.movie(), second);
     EXPECT_FALSE(rig.view.isPlaying());
-    EXPECT_FALSE(rig.app.isForceMuted);
+    EXPECT_FALSE(rig.commands.isForceMuted);
     EXPECT_FLOAT_EQ(rig.view.volume(), 0.3F);
     EXPECT_EQ(volumes.count, 1);
     EXPECT_EQ(rig.view.movieSize(), movieSize::fitWidth);

@@ -31,7 +31,7 @@ struct PlaylistRig : PlaybackRig {
         return names.join(u' ');
     }
 
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, app, app}};
+    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel}};
 };
 
 } // namespace
@@ -94,9 +94,9 @@ TEST(QVPlaylistController, files_that_fail_are_reported_and_the_rest_plays) {
 TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
     PlaylistRig rig;
     EXPECT_FALSE(rig.add({}));
-    EXPECT_EQ(rig.app.opens, 0) << "not before the call has returned";
+    EXPECT_EQ(rig.openPanel.opens, 0) << "not before the call has returned";
     rig.settings.runLoop.runPending();
-    EXPECT_EQ(rig.app.opens, 1);
+    EXPECT_EQ(rig.openPanel.opens, 1);
 }
 
 TEST(QVPlaylistController, a_shuffle_exchanges_each_entry_with_one_of_the_whole_list) {
@@ -160,7 +160,7 @@ TEST(QVPlaylistController, the_end_of_a_movie_is_acted_on_a_pass_later) {
         EXPECT_EQ(rig.view.isPlaying(), c.plays);
         EXPECT_EQ(rig.view.time(), c.plays ? 0 : 36000);
         EXPECT_EQ(rig.playlist.isFinished(), c.quits);
-        EXPECT_EQ(rig.app.actions, c.quits ? 1 : 0);
+        EXPECT_EQ(rig.commands.actions, std::vector<std::int32_t>(c.quits ? 1 : 0, action::quit));
     }
 }
 

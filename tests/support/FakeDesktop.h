@@ -10,16 +10,14 @@
 #include <utility>
 #include <vector>
 
-/// A desktop that records what it is asked and answers as the test says. It is the shared one while it lives.
+/// A desktop that records what it is asked and answers as the test says.
 class FakeDesktop final : public platform::Desktop {
 public:
     /// One screen of 1440 by 900 to begin with, unless others are given.
     explicit FakeDesktop(std::vector<platform::Screen> screens = {}) {
         if (!screens.empty())
             screenList = std::move(screens);
-        setShared(this);
     }
-    ~FakeDesktop() override { setShared(nullptr); }
 
     /// The alerts shown, in order; each takes the next of the answers, 1 when there is none left.
     std::vector<Alert> alerts;

@@ -9,10 +9,10 @@
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playback/SubtitleDiscovery.h"
-#include "tests/support/FakeApp.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/Posts.h"
+#include "tests/support/RecordingCommands.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/ScriptedToolkit.h"
 #include "tests/support/TestEnvironment.h"
@@ -38,8 +38,6 @@ struct PlaybackRig {
         : settings(stored) {
         window.setHost(&host);
         window.contentView().addSubview(view);
-        app.windowObject = &window;
-        app.movieViewObject = &view;
     }
 
     ScriptedPlayer& player() { return toolkit.scriptedPlayer; }
@@ -65,10 +63,11 @@ struct PlaybackRig {
     FakeRegistry readers;
     SubtitleDiscovery discovery{settings.runLoop};
     MovieServices movies{toolkit, desktop, readers, discovery};
-    FakeApp app;
+    RecordingCommands commands;
+    RecordingOpenPanel openPanel;
     RecordedFeedback confirmations;
     NoDrops drops;
     RecordingHost host;
     platform::Window window{platform::Rect(0, 0, 1440, 900)};
-    QVMovieView view{settings.environment, {toolkit.player(), desktop, app, confirmations, drops}};
+    QVMovieView view{settings.environment, {toolkit.player(), desktop, commands, confirmations, drops}};
 };

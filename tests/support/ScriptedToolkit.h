@@ -54,12 +54,9 @@ private:
     bool _muted = false;
 };
 
-/// A toolkit whose errors the test scripts; every URL opens as plainMovie(). It is the shared one while it lives.
+/// A toolkit whose errors the test scripts; every URL opens as plainMovie().
 class ScriptedToolkit final : public platform::MovieToolkit {
 public:
-    ScriptedToolkit() { setShared(this); }
-    ~ScriptedToolkit() override { setShared(nullptr); }
-
     /// One minute at 25 pictures a second, 640 by 480, 600 units a second.
     static platform::MovieInfo plainMovie(const QUrl& url);
 

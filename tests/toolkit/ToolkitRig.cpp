@@ -73,7 +73,6 @@ double RenderedPicture::differenceTo(const RenderedPicture& other) const {
 
 ToolkitRig::ToolkitRig() {
     platform::RunLoop::setMain(&loop);
-    platform::MovieToolkit::setShared(&toolkit);
     player().setObserver(this);
     toolkit.enter();
 }
@@ -81,7 +80,6 @@ ToolkitRig::ToolkitRig() {
 ToolkitRig::~ToolkitRig() {
     player().setObserver(nullptr);
     toolkit.exit();
-    platform::MovieToolkit::setShared(nullptr);
     platform::RunLoop::setMain(nullptr);
     for (const QString& line : log.lines()) {
         if (line.startsWith("ERROR: ") && (expectedError.isEmpty() || !line.contains(expectedError)))

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "overlays/QVFeedbackOverlay.h"
-#include "overlays/QVOSDOverlay.h"
-
 #include <QGuiApplication>
 
 #include <gtest/gtest.h>
@@ -18,11 +15,7 @@ public:
             qputenv("QT_QPA_PLATFORM", "offscreen");
         _application = std::make_unique<QGuiApplication>(_argumentCount, _arguments);
     }
-    void TearDown() override {
-        QVOSDOverlay::destroyShared();
-        QVFeedbackOverlay::destroyShared();
-        _application.reset();
-    }
+    void TearDown() override { _application.reset(); }
 
 private:
     int _argumentCount = 1;
