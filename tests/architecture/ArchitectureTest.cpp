@@ -45,6 +45,11 @@ const Sources& productSources() {
     return sources;
 }
 
+std::string withoutTextsAndComments(const std::string& line) {
+    static const std::regex textOrComment(R"("(\\.|[^"\\])*"|//.*)");
+    return std::regex_replace(line, textOrComment, "");
+}
+
 struct Include {
     std::string file;
     std::string target;
@@ -162,11 +167,38 @@ TEST(Architecture, time_comes_in_from_outside) {
         R"(currentDateTime|currentDateTimeUtc|currentMSecsSinceEpoch|currentSecsSinceEpoch|currentTime|currentDate|)"
         R"(steady_clock|system_clock|high_resolution_clock|sleep_for|sleep_until|msleep|usleep|nanosleep|singleShot|)"
         R"(startTimer|clock_gettime|gettimeofday|timerfd_create|processEvents)\b|(?:^|[^\w.>])(?:std::|::)(?:time|sleep|clock)\s*\()");
-    const std::regex textOrComment(R"("(\\.|[^"\\])*"|//.*)");
     for (const auto& [file, lines] : productSources()) {
         for (const std::string& line : lines) {
-            EXPECT_TRUE(isIn(file, "platform") ||
-                        !std::regex_search(std::regex_replace(line, textOrComment, ""), clocks))
+            EXPECT_TRUE(isIn(file, "platform") || !std::regex_search(withoutTextsAndComments(line), clocks))
+                << file << ": " << line;
+        }
+    }
+}
+
+TEST(Architecture, collaborators_are_handed_in) {
+    // What answers an object of the whole process.
+    const std::regex accessors(R"(\b(RunLoop::main|defaultCenter|UserDefaults::standard|standardUserDefaults|)"
+                               R"(Bundle::main|\w+::shared|shared[A-Z]\w*(?=\s*\()|gAppController)\b)");
+    // The composition alone asks for it, in app/main. Others: the modules that an accessor stands in or is filled by.
+    // The bundle may be asked where a file of the program's own lies, which is no collaborator.
+    const std::map<std::string, std::set<std::string>> homes = {
+        {"UserDefaults::standard", {"settings/QVUserDefaults"}},
+        {"standardUserDefaults", {"settings/QVUserDefaults"}},
+        {"Bundle::main", {"settings/QVUserDefaults", "subtitles/vobsub/QVVobSubInfo"}},
+        {"sharedManager", {"subtitles/JHStringEncodings"}},
+        {"sharedOSDOverlay", {"overlays/QVOSDOverlay"}},
+        {"sharedFeedbackOverlay", {"overlays/QVFeedbackOverlay"}},
+        {"gAppController", {"app/QVAppController", "app/MainObjects"}}};
+    for (const auto& [file, lines] : productSources()) {
+        if (isIn(file, "platform") || isIn(file, "app/main"))
+            continue;
+        for (const std::string& line : lines) {
+            const std::string code = withoutTextsAndComments(line);
+            std::smatch found;
+            if (!std::regex_search(code, found, accessors))
+                continue;
+            const auto home = homes.find(found.str(1));
+            EXPECT_TRUE(home != homes.end() && home->second.contains(file.substr(0, file.rfind('.'))))
                 << file << ": " << line;
         }
     }
