@@ -93,7 +93,7 @@ QVariant dateOf(plist_t node) {
     // What the library answers for a moment outside its range.
     if (seconds == std::numeric_limits<std::int32_t>::min())
         return {};
-    return QDateTime::fromSecsSinceEpoch(kReferenceDate + seconds, Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(kReferenceDate + seconds).toUTC();
 }
 
 /// An invalid value for what has no place among the values: no node, a kind of archive reference.
@@ -229,7 +229,10 @@ std::optional<QVariant> parse(const QByteArray& bytes) {
         return std::nullopt;
     const PlainNumbers plainNumbers;
     plist_t root = nullptr;
-    plist_from_memory(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &root);
+    // Each form by its own reader: plist_from_memory has other arguments in each release, and reads further forms, which
+    // nobody has looked through for their limits.
+    const auto read = isBinaryPropertyList(bytes) ? &plist_from_bin : &plist_from_xml;
+    read(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &root);
     const Node node(root);
     if (!node)
         return std::nullopt;

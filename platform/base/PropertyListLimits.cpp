@@ -161,10 +161,14 @@ private:
 
 } // namespace
 
+bool isBinaryPropertyList(QByteArrayView bytes) {
+    return bytes.startsWith("bplist");
+}
+
 bool isPropertyListWithinLimits(QByteArrayView bytes) {
     if (bytes.size() > kMostBytes)
         return false;
-    return bytes.startsWith("bplist") ? BinaryWalk(bytes).isWithinLimits() : XmlWalk(bytes).isWithinLimits();
+    return isBinaryPropertyList(bytes) ? BinaryWalk(bytes).isWithinLimits() : XmlWalk(bytes).isWithinLimits();
 }
 
 } // namespace platform

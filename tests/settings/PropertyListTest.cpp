@@ -16,7 +16,7 @@ QVariantMap sample() {
             {"least", std::numeric_limits<qlonglong>::min()},
             {"double", 0.1 + 0.2},
             {"huge", 1e300},
-            {"date", QDateTime::fromSecsSinceEpoch(1'700'000'000, Qt::UTC)},
+            {"date", QDateTime::fromSecsSinceEpoch(1'700'000'000).toUTC()},
             {"data", QByteArray("\0\1\xff", 3)},
             {"empty", QString("")},
             {"blanks", QString("  a  ")},

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/ManualRunLoop.h"
 
+#include <QTimeZone>
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -55,7 +57,7 @@ ManualRunLoop::~ManualRunLoop() {
 }
 
 QDateTime ManualRunLoop::date() const {
-    return QDateTime(QDate(2026, 1, 1), QTime(12, 0), Qt::UTC).addMSecs(std::llround(_now * 1000));
+    return QDateTime(QDate(2026, 1, 1), QTime(12, 0), QTimeZone::utc()).addMSecs(std::llround(_now * 1000));
 }
 
 std::shared_ptr<ManualRunLoop::Work> ManualRunLoop::add(Work work) {
