@@ -3,10 +3,11 @@
 
 #include "platform/base/Bundle.h"
 #include "platform/base/Log.h"
-#include "platform/base/PropertyList.h"
 
 #include <QLocale>
+#include <QTranslator>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -14,85 +15,81 @@ namespace platform {
 
 namespace {
 
-using Table = QHash<QString, QString>;
+using Translation = std::unique_ptr<QTranslator>;
 
-struct Tables {
+struct Translations {
     QStringList chosen;
-    std::optional<std::vector<Table>> read;
+    std::optional<std::vector<Translation>> read;
 };
 
-Tables& tables() {
-    static Tables kept;
+Translations& translations() {
+    static Translations kept;
     return kept;
 }
 
-std::optional<Table> readTable(const QString& language) {
+/// None when there is no translation into that language, or it is damaged.
+Translation readTranslation(const QString& language) {
     const QString path =
-        Bundle::main().pathForResource(QStringLiteral("strings/") + language, QStringLiteral("strings.plist"));
+        Bundle::main().pathForResource(QStringLiteral("translations/lumaro_") + language, QStringLiteral("qm"));
     if (path.isEmpty())
-        return std::nullopt;
-    const auto dictionary = propertyList::readDictionary(path);
-    if (!dictionary) {
+        return nullptr;
+    auto translation = std::make_unique<QTranslator>();
+    if (!translation->load(path)) {
         Log::write(QStringLiteral("WARNING: The texts in %1 can't be read.").arg(path));
-        return std::nullopt;
+        return nullptr;
     }
-    Table table;
-    for (auto entry = dictionary->constBegin(); entry != dictionary->constEnd(); ++entry) {
-        const QString text = entry->toString();
-        if (!text.isEmpty())
-            table.insert(entry.key(), text);
-    }
-    return table;
+    return translation;
 }
 
-/// The tables to look in, in order: "pt-BR" tries that table, then "pt"; English is always the last.
-std::vector<Table> readTables(const QStringList& languages) {
+/// The translations to look in, in order: "pt-BR" tries that one, then "pt"; English is always the last.
+std::vector<Translation> readTranslations(const QStringList& languages) {
     QStringList names;
     for (const QString& language : languages) {
         QString name = language;
-        name.replace(u'_', u'-');
+        name.replace(u'-', u'_');
         names.append(name);
-        names.append(name.section(u'-', 0, 0));
+        names.append(name.section(u'_', 0, 0));
     }
     const QString english = QStringLiteral("en");
     names.append(english);
     names.removeDuplicates();
-    // The English table has every text, so nothing after it is ever asked.
+    // English has every text, so nothing after it is ever asked.
     names = names.mid(0, names.indexOf(english) + 1);
 
-    std::vector<Table> found;
+    std::vector<Translation> found;
     for (const QString& name : names) {
-        if (auto table = readTable(name))
-            found.push_back(std::move(*table));
+        if (auto translation = readTranslation(name))
+            found.push_back(std::move(translation));
     }
     return found;
 }
 
 } // namespace
 
-QString localizedString(const QString& key) {
-    Tables& kept = tables();
+QString localizedString(const QString& key, int count) {
+    Translations& kept = translations();
     if (!kept.read)
-        kept.read = readTables(localizationLanguages());
-    for (const Table& table : *kept.read) {
-        const auto found = table.constFind(key);
-        if (found != table.constEnd())
-            return *found;
+        kept.read = readTranslations(localizationLanguages());
+    const QByteArray identifier = key.toUtf8();
+    for (const Translation& translation : *kept.read) {
+        const QString text = translation->translate(nullptr, identifier.constData(), nullptr, count);
+        if (!text.isEmpty())
+            return text;
     }
     return key;
 }
 
-QString localizedFormat(const QString& format, const QStringList& arguments) {
-    return formatted(localizedString(format), arguments);
+QString localizedFormat(const QString& format, const QStringList& arguments, int count) {
+    return formatted(localizedString(format, count), arguments);
 }
 
 QStringList localizationLanguages() {
-    const QStringList& chosen = tables().chosen;
+    const QStringList& chosen = translations().chosen;
     return chosen.isEmpty() ? QLocale::system().uiLanguages() : chosen;
 }
 
 void setLocalizationLanguages(const QStringList& languages) {
-    tables() = {languages, std::nullopt};
+    translations() = {languages, std::nullopt};
 }
 
 } // namespace platform

@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QHash>
 #include <QString>
 #include <QStringList>
 
 namespace platform {
 
-/// The application's string tables: resources/strings/LANGUAGE.strings.plist, a dictionary from key to text. The
-/// user's languages are tried in order, then English; a key that no table holds is its own text. Main thread.
-QString localizedString(const QString& key);
+/// The application's texts: resources/translations/lumaro_LANGUAGE.ts, as lrelease compiles it, its messages found by
+/// their identifiers. The user's languages are tried in order, then English; a key that no translation holds is its own
+/// text. `count` chooses the form of a message that has several ("1 movie", "2 movies"). Main thread.
+QString localizedString(const QString& key, int count = -1);
 
 /// localizedString of the format, its "%@" and "%d" filled in order with the arguments.
-QString localizedFormat(const QString& format, const QStringList& arguments);
+QString localizedFormat(const QString& format, const QStringList& arguments, int count = -1);
 
 /// The user's languages ("de", "pt-BR"), the preferred one first.
 QStringList localizationLanguages();
 
-/// Forgets the tables read so far, and takes these languages ("de", "pt-BR") in place of the user's; an empty list
-/// goes back to the user's.
+/// Forgets the translations read so far, and takes these languages ("de", "pt-BR") in place of the user's; an empty
+/// list goes back to the user's.
 void setLocalizationLanguages(const QStringList& languages);
 
 } // namespace platform

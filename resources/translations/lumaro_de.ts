@@ -1,0 +1,845 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>Alerts</name>
+    <message id="QTUnableToOpenFileError">
+        <source>“%@” can’t be opened.</source>
+        <translation>„%@“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message id="QTUnableToOpenFileDetails">
+        <source>The file is missing, damaged, or of a kind that Lumaro doesn’t know (error %d).</source>
+        <translation>Die Datei fehlt, ist beschädigt oder von einer Art, die Lumaro nicht kennt (Fehler %d).</translation>
+    </message>
+    <message id="QTUnableToPlayFileError">
+        <source>“%@” may not play as it should.</source>
+        <translation>„%@“ lässt sich vielleicht nicht richtig abspielen.</translation>
+    </message>
+    <message id="QTUnableToPlayFileDetails">
+        <source>Parts of the movie can’t be decoded (error %d). Choose Continue to try it anyway.</source>
+        <translation>Teile des Films können nicht dekodiert werden (Fehler %d). Mit „Fortfahren“ wird es trotzdem versucht.</translation>
+    </message>
+    <message id="NoPlayableMoviesInListMessage">
+        <source>There is nothing to play.</source>
+        <translation>Es gibt nichts abzuspielen.</translation>
+    </message>
+    <message id="NoPlayableMoviesInListDetails">
+        <source>None of the files that were given is a movie that Lumaro can play. You can choose others.</source>
+        <translation>Keine der angegebenen Dateien ist ein Film, den Lumaro abspielen kann. Sie können andere auswählen.</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="Continue">
+        <source>Continue</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message id="Open...">
+        <source>Open...</source>
+        <translation>Öffnen …</translation>
+    </message>
+    <message id="Open">
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message id="ConfigureCheckForNewVersionMessage">
+        <source>Look for new versions?</source>
+        <translation>Nach neuen Versionen suchen?</translation>
+    </message>
+    <message id="ConfigureCheckForNewVersionDetails">
+        <source>Lumaro can look from time to time whether a newer version exists. Nothing about you or your movies is sent. You can change this in the preferences.</source>
+        <translation>Lumaro kann ab und zu nachsehen, ob es eine neuere Version gibt. Nichts über Sie oder Ihre Filme wird gesendet. In den Einstellungen können Sie das ändern.</translation>
+    </message>
+    <message id="CheckNewVersionFailedMessage">
+        <source>Looking for a new version failed.</source>
+        <translation>Die Suche nach einer neuen Version ist fehlgeschlagen.</translation>
+    </message>
+    <message id="CheckNewVersionFailedDetails">
+        <source>None of the sites could be reached. Check the connection to the internet, or try again later.</source>
+        <translation>Kein Server war erreichbar. Prüfen Sie die Internetverbindung oder versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message id="YouHaveLatestVersionMessage">
+        <source>Lumaro is up to date.</source>
+        <translation>Lumaro ist auf dem neuesten Stand.</translation>
+    </message>
+    <message id="YouHaveLatestVersionDetails">
+        <source>You have the latest version.</source>
+        <translation>Sie haben die neueste Version.</translation>
+    </message>
+    <message id="NewVersionAvailableMessage">
+        <source>A newer version of Lumaro is available.</source>
+        <translation>Eine neuere Version von Lumaro ist verfügbar.</translation>
+    </message>
+    <message id="NewVersionAvailableDetails">
+        <source>%@ version %@ can be downloaded now.</source>
+        <translation>%@-Version %@ kann jetzt geladen werden.</translation>
+    </message>
+    <message id="Download Now...">
+        <source>Download Now...</source>
+        <translation>Jetzt laden …</translation>
+    </message>
+    <message id="Skip Version">
+        <source>Skip Version</source>
+        <translation>Diese Version überspringen</translation>
+    </message>
+    <message id="Later">
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message id="AskDonationMessage">
+        <source>Do you enjoy Lumaro?</source>
+        <translation>Gefällt Ihnen Lumaro?</translation>
+    </message>
+    <message id="AskDonationDetails">
+        <source>Lumaro is free. A donation helps to keep it alive.</source>
+        <translation>Lumaro ist kostenlos. Eine Spende hilft, es am Leben zu halten.</translation>
+    </message>
+    <message id="Donate...">
+        <source>Donate...</source>
+        <translation>Spenden …</translation>
+    </message>
+</context>
+<context>
+    <name>Version check</name>
+    <message id="Up to date">
+        <source>Up to date</source>
+        <translation>Auf dem neuesten Stand</translation>
+    </message>
+    <message id="Newer %@ version %@ available">
+        <source>Newer %@ version %@ available</source>
+        <translation>Neuere %@-Version %@ verfügbar</translation>
+    </message>
+    <message id="Failed to reach all mirror sites">
+        <source>Failed to reach all mirror sites</source>
+        <translation>Kein Server erreichbar</translation>
+    </message>
+    <message id="Release">
+        <source>Release</source>
+        <translation>Release</translation>
+    </message>
+    <message id="Beta">
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message id="Checking now...">
+        <source>Checking now...</source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message id="Unknown">
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message id="Never">
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+</context>
+<context>
+    <name>Feedback and on-screen display</name>
+    <message id="Movie: Play">
+        <source>Movie: Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message id="Movie: Pause">
+        <source>Movie: Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="Movie: Beginning">
+        <source>Movie: Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+    <message id="Movie: End">
+        <source>Movie: End</source>
+        <translation>Ende</translation>
+    </message>
+    <message id="Fast Forward x%d">
+        <source>Fast Forward x%d</source>
+        <translation>Vorspulen ×%d</translation>
+    </message>
+    <message id="Fast Rewind x%d">
+        <source>Fast Rewind x%d</source>
+        <translation>Zurückspulen ×%d</translation>
+    </message>
+    <message id="Jump Forward %d s">
+        <source>Jump Forward %d s</source>
+        <translation>%d s vor</translation>
+    </message>
+    <message id="Jump Backward %d s">
+        <source>Jump Backward %d s</source>
+        <translation>%d s zurück</translation>
+    </message>
+    <message id="Step Forward">
+        <source>Step Forward</source>
+        <translation>Bild vor</translation>
+    </message>
+    <message id="Step Backward">
+        <source>Step Backward</source>
+        <translation>Bild zurück</translation>
+    </message>
+    <message id="Next: %@">
+        <source>Next: %@</source>
+        <translation>Nächster: %@</translation>
+    </message>
+    <message id="Previous: %@">
+        <source>Previous: %@</source>
+        <translation>Voriger: %@</translation>
+    </message>
+    <message id="Screen: Next">
+        <source>Screen: Next</source>
+        <translation>Nächster Bildschirm</translation>
+    </message>
+    <message id="Screen: Previous">
+        <source>Screen: Previous</source>
+        <translation>Voriger Bildschirm</translation>
+    </message>
+    <message id="Quit">
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="Sleep">
+        <source>Sleep</source>
+        <translation>Ruhezustand</translation>
+    </message>
+    <message id="Size: Half">
+        <source>Size: Half</source>
+        <translation>Halbe Größe</translation>
+    </message>
+    <message id="Size: Normal">
+        <source>Size: Normal</source>
+        <translation>Normale Größe</translation>
+    </message>
+    <message id="Size: Double">
+        <source>Size: Double</source>
+        <translation>Doppelte Größe</translation>
+    </message>
+    <message id="Size: Full">
+        <source>Size: Full</source>
+        <translation>Volle Größe</translation>
+    </message>
+    <message id="Size: Fit Width">
+        <source>Size: Fit Width</source>
+        <translation>Volle Breite</translation>
+    </message>
+    <message id="Size: Fit Height">
+        <source>Size: Fit Height</source>
+        <translation>Volle Höhe</translation>
+    </message>
+    <message id="Size: Bigger">
+        <source>Size: Bigger</source>
+        <translation>Größer</translation>
+    </message>
+    <message id="Size: Smaller">
+        <source>Size: Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message id="Controller: On">
+        <source>Controller: On</source>
+        <translation>Steuerleiste: ein</translation>
+    </message>
+    <message id="Controller: Off">
+        <source>Controller: Off</source>
+        <translation>Steuerleiste: aus</translation>
+    </message>
+    <message id="Volume: %@">
+        <source>Volume: %@</source>
+        <translation>Lautstärke: %@</translation>
+    </message>
+    <message id="Mute: %@">
+        <source>Mute: %@</source>
+        <translation>Stumm: %@</translation>
+    </message>
+    <message id="Muted">
+        <source>Muted</source>
+        <translation>Stumm</translation>
+    </message>
+    <message id="On">
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message id="Off">
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message id="%d%%">
+        <source>%d%%</source>
+        <translation>%d %%</translation>
+    </message>
+    <message id="Time: %@/%@">
+        <source>Time: %@/%@</source>
+        <translation>Zeit: %@ / %@</translation>
+    </message>
+    <message id="Movie: %@">
+        <source>Movie: %@</source>
+        <translation>Film: %@</translation>
+    </message>
+    <message id="Loop: %@">
+        <source>Loop: %@</source>
+        <translation>Wiederholen: %@</translation>
+    </message>
+    <message id="One">
+        <source>One</source>
+        <translation>Einen</translation>
+    </message>
+    <message id="All">
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message id="None">
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message id="Subtitles: %@">
+        <source>Subtitles: %@</source>
+        <translation>Untertitel: %@</translation>
+    </message>
+    <message id="Style">
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message id="Automatic">
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message id="File">
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message id="Movie">
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+    <message id="Playback">
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message id="Volume">
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message id="Playlist">
+        <source>Playlist</source>
+        <translation>Playlist</translation>
+    </message>
+    <message id="Subtitles">
+        <source>Subtitles</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message id="Window">
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message id="Help">
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="Open URL...">
+        <source>Open URL...</source>
+        <translation>URL öffnen …</translation>
+    </message>
+    <message id="Open URLs...">
+        <source>Open URLs...</source>
+        <translation>URLs öffnen …</translation>
+    </message>
+    <message id="Preferences...">
+        <source>Preferences...</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message id="About Lumaro">
+        <source>About Lumaro</source>
+        <translation>Über Lumaro</translation>
+    </message>
+    <message id="Check for New Version...">
+        <source>Check for New Version...</source>
+        <translation>Nach neuer Version suchen …</translation>
+    </message>
+    <message id="Half Size">
+        <source>Half Size</source>
+        <translation>Halbe Größe</translation>
+    </message>
+    <message id="Normal Size">
+        <source>Normal Size</source>
+        <translation>Normale Größe</translation>
+    </message>
+    <message id="Double Size">
+        <source>Double Size</source>
+        <translation>Doppelte Größe</translation>
+    </message>
+    <message id="Full Size">
+        <source>Full Size</source>
+        <translation>Volle Größe</translation>
+    </message>
+    <message id="Fit Screen">
+        <source>Fit Screen</source>
+        <translation>Bildschirmfüllend</translation>
+    </message>
+    <message id="Fit Width">
+        <source>Fit Width</source>
+        <translation>Volle Breite</translation>
+    </message>
+    <message id="Fit Height">
+        <source>Fit Height</source>
+        <translation>Volle Höhe</translation>
+    </message>
+    <message id="Bigger">
+        <source>Bigger</source>
+        <translation>Größer</translation>
+    </message>
+    <message id="Smaller">
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message id="Show Controller">
+        <source>Show Controller</source>
+        <translation>Steuerleiste zeigen</translation>
+    </message>
+    <message id="Hide Controller">
+        <source>Hide Controller</source>
+        <translation>Steuerleiste verbergen</translation>
+    </message>
+    <message id="Next Display">
+        <source>Next Display</source>
+        <translation>Nächste Anzeige</translation>
+    </message>
+    <message id="Previous Display">
+        <source>Previous Display</source>
+        <translation>Vorige Anzeige</translation>
+    </message>
+    <message id="Play">
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message id="Pause">
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="Fast Forward">
+        <source>Fast Forward</source>
+        <translation>Vorspulen</translation>
+    </message>
+    <message id="Rewind">
+        <source>Rewind</source>
+        <translation>Zurückspulen</translation>
+    </message>
+    <message id="Jump Forward">
+        <source>Jump Forward</source>
+        <translation>Vorspringen</translation>
+    </message>
+    <message id="Jump Backward">
+        <source>Jump Backward</source>
+        <translation>Zurückspringen</translation>
+    </message>
+    <message id="Beginning">
+        <source>Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+    <message id="End">
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message id="Next Movie">
+        <source>Next Movie</source>
+        <translation>Nächster Film</translation>
+    </message>
+    <message id="Previous Movie">
+        <source>Previous Movie</source>
+        <translation>Voriger Film</translation>
+    </message>
+    <message id="Looping Off">
+        <source>Looping Off</source>
+        <translation>Nicht wiederholen</translation>
+    </message>
+    <message id="Loop Off">
+        <source>Loop Off</source>
+        <translation>Nicht wiederholen</translation>
+    </message>
+    <message id="Loop One">
+        <source>Loop One</source>
+        <translation>Einen wiederholen</translation>
+    </message>
+    <message id="Loop All">
+        <source>Loop All</source>
+        <translation>Alle wiederholen</translation>
+    </message>
+    <message id="Volume Up">
+        <source>Volume Up</source>
+        <translation>Lauter</translation>
+    </message>
+    <message id="Volume Down">
+        <source>Volume Down</source>
+        <translation>Leiser</translation>
+    </message>
+    <message id="Normal Volume">
+        <source>Normal Volume</source>
+        <translation>Normale Lautstärke</translation>
+    </message>
+    <message id="Silent">
+        <source>Silent</source>
+        <translation>Lautlos</translation>
+    </message>
+    <message id="Mute">
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message id="Next Screen">
+        <source>Next Screen</source>
+        <translation>Nächster Bildschirm</translation>
+    </message>
+    <message id="Previous Screen">
+        <source>Previous Screen</source>
+        <translation>Voriger Bildschirm</translation>
+    </message>
+    <message id="Lumaro Help">
+        <source>Lumaro Help</source>
+        <translation>Lumaro-Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message id="Open movies">
+        <source>Open movies</source>
+        <translation>Filme öffnen</translation>
+    </message>
+    <message id="Half, normal and double size">
+        <source>Half, normal and double size</source>
+        <translation>Halbe, normale und doppelte Größe</translation>
+    </message>
+    <message id="Fit to the screen, to its width, to its height">
+        <source>Fit to the screen, to its width, to its height</source>
+        <translation>An den Bildschirm, seine Breite, seine Höhe anpassen</translation>
+    </message>
+    <message id="Bigger and smaller">
+        <source>Bigger and smaller</source>
+        <translation>Größer und kleiner</translation>
+    </message>
+    <message id="Controller bar">
+        <source>Controller bar</source>
+        <translation>Steuerleiste</translation>
+    </message>
+    <message id="On-screen display: time, movie, subtitles, looping, volume">
+        <source>On-screen display: time, movie, subtitles, looping, volume</source>
+        <translation>Anzeige im Bild: Zeit, Film, Untertitel, Wiederholen, Lautstärke</translation>
+    </message>
+    <message id="Play, pause, back to normal speed">
+        <source>Play, pause, back to normal speed</source>
+        <translation>Wiedergabe, Pause, zurück zur normalen Geschwindigkeit</translation>
+    </message>
+    <message id="Forward and back: one frame while paused, faster and faster while playing">
+        <source>Forward and back: one frame while paused, faster and faster while playing</source>
+        <translation>Vor und zurück: bildweise in der Pause, immer schneller bei der Wiedergabe</translation>
+    </message>
+    <message id="Jump forward and back">
+        <source>Jump forward and back</source>
+        <translation>Vor- und zurückspringen</translation>
+    </message>
+    <message id="Beginning and end of the movie">
+        <source>Beginning and end of the movie</source>
+        <translation>Anfang und Ende des Films</translation>
+    </message>
+    <message id="Next and previous movie">
+        <source>Next and previous movie</source>
+        <translation>Nächster und voriger Film</translation>
+    </message>
+    <message id="Looping: off, one, all">
+        <source>Looping: off, one, all</source>
+        <translation>Wiederholen: aus, einen, alle</translation>
+    </message>
+    <message id="Louder and softer">
+        <source>Louder and softer</source>
+        <translation>Lauter und leiser</translation>
+    </message>
+    <message id="Next and previous subtitles">
+        <source>Next and previous subtitles</source>
+        <translation>Nächste und vorige Untertitel</translation>
+    </message>
+    <message id="Next and previous screen">
+        <source>Next and previous screen</source>
+        <translation>Nächster und voriger Bildschirm</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message id="More Encodings">
+        <source>More Encodings</source>
+        <translation>Weitere Kodierungen</translation>
+    </message>
+    <message id="%d sec.">
+        <source>%d sec.</source>
+        <translation>%d Sek.</translation>
+    </message>
+</context>
+<context>
+    <name>Text encodings</name>
+    <message id="Western (ASCII)">
+        <source>Western (ASCII)</source>
+        <translation>Westeuropäisch (ASCII)</translation>
+    </message>
+    <message id="Western (ISO Latin 1)">
+        <source>Western (ISO Latin 1)</source>
+        <translation>Westeuropäisch (ISO Latin 1)</translation>
+    </message>
+    <message id="Western (ISO Latin 9)">
+        <source>Western (ISO Latin 9)</source>
+        <translation>Westeuropäisch (ISO Latin 9)</translation>
+    </message>
+    <message id="Western (Windows Latin 1)">
+        <source>Western (Windows Latin 1)</source>
+        <translation>Westeuropäisch (Windows Latin 1)</translation>
+    </message>
+    <message id="Western (Mac OS Roman)">
+        <source>Western (Mac OS Roman)</source>
+        <translation>Westeuropäisch (Mac OS Roman)</translation>
+    </message>
+    <message id="Western (DOS Latin 1)">
+        <source>Western (DOS Latin 1)</source>
+        <translation>Westeuropäisch (DOS Latin 1)</translation>
+    </message>
+    <message id="Latin-US (DOS)">
+        <source>Latin-US (DOS)</source>
+        <translation>US-Lateinisch (DOS)</translation>
+    </message>
+    <message id="Central European (ISO Latin 2)">
+        <source>Central European (ISO Latin 2)</source>
+        <translation>Mitteleuropäisch (ISO Latin 2)</translation>
+    </message>
+    <message id="Central European (Windows Latin 2)">
+        <source>Central European (Windows Latin 2)</source>
+        <translation>Mitteleuropäisch (Windows Latin 2)</translation>
+    </message>
+    <message id="Central European (Mac OS)">
+        <source>Central European (Mac OS)</source>
+        <translation>Mitteleuropäisch (Mac OS)</translation>
+    </message>
+    <message id="Central European (DOS Latin 2)">
+        <source>Central European (DOS Latin 2)</source>
+        <translation>Mitteleuropäisch (DOS Latin 2)</translation>
+    </message>
+    <message id="Western (ISO Latin 3)">
+        <source>Western (ISO Latin 3)</source>
+        <translation>Westeuropäisch (ISO Latin 3)</translation>
+    </message>
+    <message id="Central European (ISO Latin 4)">
+        <source>Central European (ISO Latin 4)</source>
+        <translation>Mitteleuropäisch (ISO Latin 4)</translation>
+    </message>
+    <message id="Nordic (ISO Latin 6)">
+        <source>Nordic (ISO Latin 6)</source>
+        <translation>Nordisch (ISO Latin 6)</translation>
+    </message>
+    <message id="Icelandic (DOS)">
+        <source>Icelandic (DOS)</source>
+        <translation>Isländisch (DOS)</translation>
+    </message>
+    <message id="Nordic (DOS)">
+        <source>Nordic (DOS)</source>
+        <translation>Nordisch (DOS)</translation>
+    </message>
+    <message id="Baltic (ISO Latin 7)">
+        <source>Baltic (ISO Latin 7)</source>
+        <translation>Baltisch (ISO Latin 7)</translation>
+    </message>
+    <message id="Baltic (Windows)">
+        <source>Baltic (Windows)</source>
+        <translation>Baltisch (Windows)</translation>
+    </message>
+    <message id="Baltic (DOS)">
+        <source>Baltic (DOS)</source>
+        <translation>Baltisch (DOS)</translation>
+    </message>
+    <message id="Celtic (ISO Latin 8)">
+        <source>Celtic (ISO Latin 8)</source>
+        <translation>Keltisch (ISO Latin 8)</translation>
+    </message>
+    <message id="Cyrillic (ISO 8859-5)">
+        <source>Cyrillic (ISO 8859-5)</source>
+        <translation>Kyrillisch (ISO 8859-5)</translation>
+    </message>
+    <message id="Cyrillic (Windows)">
+        <source>Cyrillic (Windows)</source>
+        <translation>Kyrillisch (Windows)</translation>
+    </message>
+    <message id="Cyrillic (KOI8-R)">
+        <source>Cyrillic (KOI8-R)</source>
+        <translation>Kyrillisch (KOI8-R)</translation>
+    </message>
+    <message id="Ukrainian (KOI8-U)">
+        <source>Ukrainian (KOI8-U)</source>
+        <translation>Ukrainisch (KOI8-U)</translation>
+    </message>
+    <message id="Cyrillic (Mac OS)">
+        <source>Cyrillic (Mac OS)</source>
+        <translation>Kyrillisch (Mac OS)</translation>
+    </message>
+    <message id="Cyrillic (DOS)">
+        <source>Cyrillic (DOS)</source>
+        <translation>Kyrillisch (DOS)</translation>
+    </message>
+    <message id="Russian (DOS)">
+        <source>Russian (DOS)</source>
+        <translation>Russisch (DOS)</translation>
+    </message>
+    <message id="Greek (ISO 8859-7)">
+        <source>Greek (ISO 8859-7)</source>
+        <translation>Griechisch (ISO 8859-7)</translation>
+    </message>
+    <message id="Greek (Windows)">
+        <source>Greek (Windows)</source>
+        <translation>Griechisch (Windows)</translation>
+    </message>
+    <message id="Greek (Mac OS)">
+        <source>Greek (Mac OS)</source>
+        <translation>Griechisch (Mac OS)</translation>
+    </message>
+    <message id="Greek (DOS)">
+        <source>Greek (DOS)</source>
+        <translation>Griechisch (DOS)</translation>
+    </message>
+    <message id="Greek (DOS Greek 2)">
+        <source>Greek (DOS Greek 2)</source>
+        <translation>Griechisch (DOS Griechisch 2)</translation>
+    </message>
+    <message id="Turkish (ISO Latin 5)">
+        <source>Turkish (ISO Latin 5)</source>
+        <translation>Türkisch (ISO Latin 5)</translation>
+    </message>
+    <message id="Turkish (Windows Latin 5)">
+        <source>Turkish (Windows Latin 5)</source>
+        <translation>Türkisch (Windows Latin 5)</translation>
+    </message>
+    <message id="Turkish (Mac OS)">
+        <source>Turkish (Mac OS)</source>
+        <translation>Türkisch (Mac OS)</translation>
+    </message>
+    <message id="Turkish (DOS)">
+        <source>Turkish (DOS)</source>
+        <translation>Türkisch (DOS)</translation>
+    </message>
+    <message id="Hebrew (ISO 8859-8)">
+        <source>Hebrew (ISO 8859-8)</source>
+        <translation>Hebräisch (ISO 8859-8)</translation>
+    </message>
+    <message id="Hebrew (Windows)">
+        <source>Hebrew (Windows)</source>
+        <translation>Hebräisch (Windows)</translation>
+    </message>
+    <message id="Hebrew (DOS)">
+        <source>Hebrew (DOS)</source>
+        <translation>Hebräisch (DOS)</translation>
+    </message>
+    <message id="Arabic (ISO 8859-6)">
+        <source>Arabic (ISO 8859-6)</source>
+        <translation>Arabisch (ISO 8859-6)</translation>
+    </message>
+    <message id="Arabic (Windows)">
+        <source>Arabic (Windows)</source>
+        <translation>Arabisch (Windows)</translation>
+    </message>
+    <message id="Arabic (DOS)">
+        <source>Arabic (DOS)</source>
+        <translation>Arabisch (DOS)</translation>
+    </message>
+    <message id="Portuguese (DOS)">
+        <source>Portuguese (DOS)</source>
+        <translation>Portugiesisch (DOS)</translation>
+    </message>
+    <message id="Canadian French (DOS)">
+        <source>Canadian French (DOS)</source>
+        <translation>Kanadisches Französisch (DOS)</translation>
+    </message>
+    <message id="Thai (ISO 8859-11)">
+        <source>Thai (ISO 8859-11)</source>
+        <translation>Thailändisch (ISO 8859-11)</translation>
+    </message>
+    <message id="Thai (Windows, DOS)">
+        <source>Thai (Windows, DOS)</source>
+        <translation>Thailändisch (Windows, DOS)</translation>
+    </message>
+    <message id="Vietnamese (Windows)">
+        <source>Vietnamese (Windows)</source>
+        <translation>Vietnamesisch (Windows)</translation>
+    </message>
+    <message id="Japanese (Shift JIS)">
+        <source>Japanese (Shift JIS)</source>
+        <translation>Japanisch (Shift JIS)</translation>
+    </message>
+    <message id="Japanese (Windows, DOS)">
+        <source>Japanese (Windows, DOS)</source>
+        <translation>Japanisch (Windows, DOS)</translation>
+    </message>
+    <message id="Japanese (EUC)">
+        <source>Japanese (EUC)</source>
+        <translation>Japanisch (EUC)</translation>
+    </message>
+    <message id="Japanese (ISO 2022-JP)">
+        <source>Japanese (ISO 2022-JP)</source>
+        <translation>Japanisch (ISO 2022-JP)</translation>
+    </message>
+    <message id="Japanese (ISO 2022-JP-2)">
+        <source>Japanese (ISO 2022-JP-2)</source>
+        <translation>Japanisch (ISO 2022-JP-2)</translation>
+    </message>
+    <message id="Japanese (ISO 2022-JP-1)">
+        <source>Japanese (ISO 2022-JP-1)</source>
+        <translation>Japanisch (ISO 2022-JP-1)</translation>
+    </message>
+    <message id="Chinese (GB 18030)">
+        <source>Chinese (GB 18030)</source>
+        <translation>Chinesisch (GB 18030)</translation>
+    </message>
+    <message id="Simplified Chinese (GBK)">
+        <source>Simplified Chinese (GBK)</source>
+        <translation>Vereinfachtes Chinesisch (GBK)</translation>
+    </message>
+    <message id="Simplified Chinese (Windows, DOS)">
+        <source>Simplified Chinese (Windows, DOS)</source>
+        <translation>Vereinfachtes Chinesisch (Windows, DOS)</translation>
+    </message>
+    <message id="Simplified Chinese (GB 2312)">
+        <source>Simplified Chinese (GB 2312)</source>
+        <translation>Vereinfachtes Chinesisch (GB 2312)</translation>
+    </message>
+    <message id="Simplified Chinese (HZ GB 2312)">
+        <source>Simplified Chinese (HZ GB 2312)</source>
+        <translation>Vereinfachtes Chinesisch (HZ GB 2312)</translation>
+    </message>
+    <message id="Chinese (ISO 2022-CN)">
+        <source>Chinese (ISO 2022-CN)</source>
+        <translation>Chinesisch (ISO 2022-CN)</translation>
+    </message>
+    <message id="Traditional Chinese (Big 5)">
+        <source>Traditional Chinese (Big 5)</source>
+        <translation>Traditionelles Chinesisch (Big 5)</translation>
+    </message>
+    <message id="Traditional Chinese (Big 5 HKSCS)">
+        <source>Traditional Chinese (Big 5 HKSCS)</source>
+        <translation>Traditionelles Chinesisch (Big 5 HKSCS)</translation>
+    </message>
+    <message id="Traditional Chinese (Windows, DOS)">
+        <source>Traditional Chinese (Windows, DOS)</source>
+        <translation>Traditionelles Chinesisch (Windows, DOS)</translation>
+    </message>
+    <message id="Traditional Chinese (EUC)">
+        <source>Traditional Chinese (EUC)</source>
+        <translation>Traditionelles Chinesisch (EUC)</translation>
+    </message>
+    <message id="Korean (EUC)">
+        <source>Korean (EUC)</source>
+        <translation>Koreanisch (EUC)</translation>
+    </message>
+    <message id="Korean (Windows, DOS)">
+        <source>Korean (Windows, DOS)</source>
+        <translation>Koreanisch (Windows, DOS)</translation>
+    </message>
+    <message id="Korean (ISO 2022-KR)">
+        <source>Korean (ISO 2022-KR)</source>
+        <translation>Koreanisch (ISO 2022-KR)</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,845 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>Alerts</name>
+    <message id="QTUnableToOpenFileError">
+        <source>“%@” can’t be opened.</source>
+        <translation>“%@” can’t be opened.</translation>
+    </message>
+    <message id="QTUnableToOpenFileDetails">
+        <source>The file is missing, damaged, or of a kind that Lumaro doesn’t know (error %d).</source>
+        <translation>The file is missing, damaged, or of a kind that Lumaro doesn’t know (error %d).</translation>
+    </message>
+    <message id="QTUnableToPlayFileError">
+        <source>“%@” may not play as it should.</source>
+        <translation>“%@” may not play as it should.</translation>
+    </message>
+    <message id="QTUnableToPlayFileDetails">
+        <source>Parts of the movie can’t be decoded (error %d). Choose Continue to try it anyway.</source>
+        <translation>Parts of the movie can’t be decoded (error %d). Choose Continue to try it anyway.</translation>
+    </message>
+    <message id="NoPlayableMoviesInListMessage">
+        <source>There is nothing to play.</source>
+        <translation>There is nothing to play.</translation>
+    </message>
+    <message id="NoPlayableMoviesInListDetails">
+        <source>None of the files that were given is a movie that Lumaro can play. You can choose others.</source>
+        <translation>None of the files that were given is a movie that Lumaro can play. You can choose others.</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="Continue">
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="Open...">
+        <source>Open...</source>
+        <translation>Open...</translation>
+    </message>
+    <message id="Open">
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message id="ConfigureCheckForNewVersionMessage">
+        <source>Look for new versions?</source>
+        <translation>Look for new versions?</translation>
+    </message>
+    <message id="ConfigureCheckForNewVersionDetails">
+        <source>Lumaro can look from time to time whether a newer version exists. Nothing about you or your movies is sent. You can change this in the preferences.</source>
+        <translation>Lumaro can look from time to time whether a newer version exists. Nothing about you or your movies is sent. You can change this in the preferences.</translation>
+    </message>
+    <message id="CheckNewVersionFailedMessage">
+        <source>Looking for a new version failed.</source>
+        <translation>Looking for a new version failed.</translation>
+    </message>
+    <message id="CheckNewVersionFailedDetails">
+        <source>None of the sites could be reached. Check the connection to the internet, or try again later.</source>
+        <translation>None of the sites could be reached. Check the connection to the internet, or try again later.</translation>
+    </message>
+    <message id="YouHaveLatestVersionMessage">
+        <source>Lumaro is up to date.</source>
+        <translation>Lumaro is up to date.</translation>
+    </message>
+    <message id="YouHaveLatestVersionDetails">
+        <source>You have the latest version.</source>
+        <translation>You have the latest version.</translation>
+    </message>
+    <message id="NewVersionAvailableMessage">
+        <source>A newer version of Lumaro is available.</source>
+        <translation>A newer version of Lumaro is available.</translation>
+    </message>
+    <message id="NewVersionAvailableDetails">
+        <source>%@ version %@ can be downloaded now.</source>
+        <translation>%@ version %@ can be downloaded now.</translation>
+    </message>
+    <message id="Download Now...">
+        <source>Download Now...</source>
+        <translation>Download Now...</translation>
+    </message>
+    <message id="Skip Version">
+        <source>Skip Version</source>
+        <translation>Skip Version</translation>
+    </message>
+    <message id="Later">
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message id="AskDonationMessage">
+        <source>Do you enjoy Lumaro?</source>
+        <translation>Do you enjoy Lumaro?</translation>
+    </message>
+    <message id="AskDonationDetails">
+        <source>Lumaro is free. A donation helps to keep it alive.</source>
+        <translation>Lumaro is free. A donation helps to keep it alive.</translation>
+    </message>
+    <message id="Donate...">
+        <source>Donate...</source>
+        <translation>Donate...</translation>
+    </message>
+</context>
+<context>
+    <name>Version check</name>
+    <message id="Up to date">
+        <source>Up to date</source>
+        <translation>Up to date</translation>
+    </message>
+    <message id="Newer %@ version %@ available">
+        <source>Newer %@ version %@ available</source>
+        <translation>Newer %@ version %@ available</translation>
+    </message>
+    <message id="Failed to reach all mirror sites">
+        <source>Failed to reach all mirror sites</source>
+        <translation>Failed to reach all mirror sites</translation>
+    </message>
+    <message id="Release">
+        <source>Release</source>
+        <translation>Release</translation>
+    </message>
+    <message id="Beta">
+        <source>Beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message id="Checking now...">
+        <source>Checking now...</source>
+        <translation>Checking now...</translation>
+    </message>
+    <message id="Unknown">
+        <source>Unknown</source>
+        <translation>Unknown</translation>
+    </message>
+    <message id="Never">
+        <source>Never</source>
+        <translation>Never</translation>
+    </message>
+</context>
+<context>
+    <name>Feedback and on-screen display</name>
+    <message id="Movie: Play">
+        <source>Movie: Play</source>
+        <translation>Movie: Play</translation>
+    </message>
+    <message id="Movie: Pause">
+        <source>Movie: Pause</source>
+        <translation>Movie: Pause</translation>
+    </message>
+    <message id="Movie: Beginning">
+        <source>Movie: Beginning</source>
+        <translation>Movie: Beginning</translation>
+    </message>
+    <message id="Movie: End">
+        <source>Movie: End</source>
+        <translation>Movie: End</translation>
+    </message>
+    <message id="Fast Forward x%d">
+        <source>Fast Forward x%d</source>
+        <translation>Fast Forward x%d</translation>
+    </message>
+    <message id="Fast Rewind x%d">
+        <source>Fast Rewind x%d</source>
+        <translation>Fast Rewind x%d</translation>
+    </message>
+    <message id="Jump Forward %d s">
+        <source>Jump Forward %d s</source>
+        <translation>Jump Forward %d s</translation>
+    </message>
+    <message id="Jump Backward %d s">
+        <source>Jump Backward %d s</source>
+        <translation>Jump Backward %d s</translation>
+    </message>
+    <message id="Step Forward">
+        <source>Step Forward</source>
+        <translation>Step Forward</translation>
+    </message>
+    <message id="Step Backward">
+        <source>Step Backward</source>
+        <translation>Step Backward</translation>
+    </message>
+    <message id="Next: %@">
+        <source>Next: %@</source>
+        <translation>Next: %@</translation>
+    </message>
+    <message id="Previous: %@">
+        <source>Previous: %@</source>
+        <translation>Previous: %@</translation>
+    </message>
+    <message id="Screen: Next">
+        <source>Screen: Next</source>
+        <translation>Screen: Next</translation>
+    </message>
+    <message id="Screen: Previous">
+        <source>Screen: Previous</source>
+        <translation>Screen: Previous</translation>
+    </message>
+    <message id="Quit">
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message id="Sleep">
+        <source>Sleep</source>
+        <translation>Sleep</translation>
+    </message>
+    <message id="Size: Half">
+        <source>Size: Half</source>
+        <translation>Size: Half</translation>
+    </message>
+    <message id="Size: Normal">
+        <source>Size: Normal</source>
+        <translation>Size: Normal</translation>
+    </message>
+    <message id="Size: Double">
+        <source>Size: Double</source>
+        <translation>Size: Double</translation>
+    </message>
+    <message id="Size: Full">
+        <source>Size: Full</source>
+        <translation>Size: Full</translation>
+    </message>
+    <message id="Size: Fit Width">
+        <source>Size: Fit Width</source>
+        <translation>Size: Fit Width</translation>
+    </message>
+    <message id="Size: Fit Height">
+        <source>Size: Fit Height</source>
+        <translation>Size: Fit Height</translation>
+    </message>
+    <message id="Size: Bigger">
+        <source>Size: Bigger</source>
+        <translation>Size: Bigger</translation>
+    </message>
+    <message id="Size: Smaller">
+        <source>Size: Smaller</source>
+        <translation>Size: Smaller</translation>
+    </message>
+    <message id="Controller: On">
+        <source>Controller: On</source>
+        <translation>Controller: On</translation>
+    </message>
+    <message id="Controller: Off">
+        <source>Controller: Off</source>
+        <translation>Controller: Off</translation>
+    </message>
+    <message id="Volume: %@">
+        <source>Volume: %@</source>
+        <translation>Volume: %@</translation>
+    </message>
+    <message id="Mute: %@">
+        <source>Mute: %@</source>
+        <translation>Mute: %@</translation>
+    </message>
+    <message id="Muted">
+        <source>Muted</source>
+        <translation>Muted</translation>
+    </message>
+    <message id="On">
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message id="Off">
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message id="%d%%">
+        <source>%d%%</source>
+        <translation>%d%%</translation>
+    </message>
+    <message id="Time: %@/%@">
+        <source>Time: %@/%@</source>
+        <translation>Time: %@/%@</translation>
+    </message>
+    <message id="Movie: %@">
+        <source>Movie: %@</source>
+        <translation>Movie: %@</translation>
+    </message>
+    <message id="Loop: %@">
+        <source>Loop: %@</source>
+        <translation>Loop: %@</translation>
+    </message>
+    <message id="One">
+        <source>One</source>
+        <translation>One</translation>
+    </message>
+    <message id="All">
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message id="None">
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message id="Subtitles: %@">
+        <source>Subtitles: %@</source>
+        <translation>Subtitles: %@</translation>
+    </message>
+    <message id="Style">
+        <source>Style</source>
+        <translation>Style</translation>
+    </message>
+    <message id="Automatic">
+        <source>Automatic</source>
+        <translation>Automatic</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message id="File">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="Movie">
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message id="Playback">
+        <source>Playback</source>
+        <translation>Playback</translation>
+    </message>
+    <message id="Volume">
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message id="Playlist">
+        <source>Playlist</source>
+        <translation>Playlist</translation>
+    </message>
+    <message id="Subtitles">
+        <source>Subtitles</source>
+        <translation>Subtitles</translation>
+    </message>
+    <message id="Window">
+        <source>Window</source>
+        <translation>Window</translation>
+    </message>
+    <message id="Help">
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message id="Open URL...">
+        <source>Open URL...</source>
+        <translation>Open URL...</translation>
+    </message>
+    <message id="Open URLs...">
+        <source>Open URLs...</source>
+        <translation>Open URLs...</translation>
+    </message>
+    <message id="Preferences...">
+        <source>Preferences...</source>
+        <translation>Preferences...</translation>
+    </message>
+    <message id="About Lumaro">
+        <source>About Lumaro</source>
+        <translation>About Lumaro</translation>
+    </message>
+    <message id="Check for New Version...">
+        <source>Check for New Version...</source>
+        <translation>Check for New Version...</translation>
+    </message>
+    <message id="Half Size">
+        <source>Half Size</source>
+        <translation>Half Size</translation>
+    </message>
+    <message id="Normal Size">
+        <source>Normal Size</source>
+        <translation>Normal Size</translation>
+    </message>
+    <message id="Double Size">
+        <source>Double Size</source>
+        <translation>Double Size</translation>
+    </message>
+    <message id="Full Size">
+        <source>Full Size</source>
+        <translation>Full Size</translation>
+    </message>
+    <message id="Fit Screen">
+        <source>Fit Screen</source>
+        <translation>Fit Screen</translation>
+    </message>
+    <message id="Fit Width">
+        <source>Fit Width</source>
+        <translation>Fit Width</translation>
+    </message>
+    <message id="Fit Height">
+        <source>Fit Height</source>
+        <translation>Fit Height</translation>
+    </message>
+    <message id="Bigger">
+        <source>Bigger</source>
+        <translation>Bigger</translation>
+    </message>
+    <message id="Smaller">
+        <source>Smaller</source>
+        <translation>Smaller</translation>
+    </message>
+    <message id="Show Controller">
+        <source>Show Controller</source>
+        <translation>Show Controller</translation>
+    </message>
+    <message id="Hide Controller">
+        <source>Hide Controller</source>
+        <translation>Hide Controller</translation>
+    </message>
+    <message id="Next Display">
+        <source>Next Display</source>
+        <translation>Next Display</translation>
+    </message>
+    <message id="Previous Display">
+        <source>Previous Display</source>
+        <translation>Previous Display</translation>
+    </message>
+    <message id="Play">
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message id="Pause">
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="Fast Forward">
+        <source>Fast Forward</source>
+        <translation>Fast Forward</translation>
+    </message>
+    <message id="Rewind">
+        <source>Rewind</source>
+        <translation>Rewind</translation>
+    </message>
+    <message id="Jump Forward">
+        <source>Jump Forward</source>
+        <translation>Jump Forward</translation>
+    </message>
+    <message id="Jump Backward">
+        <source>Jump Backward</source>
+        <translation>Jump Backward</translation>
+    </message>
+    <message id="Beginning">
+        <source>Beginning</source>
+        <translation>Beginning</translation>
+    </message>
+    <message id="End">
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message id="Next Movie">
+        <source>Next Movie</source>
+        <translation>Next Movie</translation>
+    </message>
+    <message id="Previous Movie">
+        <source>Previous Movie</source>
+        <translation>Previous Movie</translation>
+    </message>
+    <message id="Looping Off">
+        <source>Looping Off</source>
+        <translation>Looping Off</translation>
+    </message>
+    <message id="Loop Off">
+        <source>Loop Off</source>
+        <translation>Loop Off</translation>
+    </message>
+    <message id="Loop One">
+        <source>Loop One</source>
+        <translation>Loop One</translation>
+    </message>
+    <message id="Loop All">
+        <source>Loop All</source>
+        <translation>Loop All</translation>
+    </message>
+    <message id="Volume Up">
+        <source>Volume Up</source>
+        <translation>Volume Up</translation>
+    </message>
+    <message id="Volume Down">
+        <source>Volume Down</source>
+        <translation>Volume Down</translation>
+    </message>
+    <message id="Normal Volume">
+        <source>Normal Volume</source>
+        <translation>Normal Volume</translation>
+    </message>
+    <message id="Silent">
+        <source>Silent</source>
+        <translation>Silent</translation>
+    </message>
+    <message id="Mute">
+        <source>Mute</source>
+        <translation>Mute</translation>
+    </message>
+    <message id="Next Screen">
+        <source>Next Screen</source>
+        <translation>Next Screen</translation>
+    </message>
+    <message id="Previous Screen">
+        <source>Previous Screen</source>
+        <translation>Previous Screen</translation>
+    </message>
+    <message id="Lumaro Help">
+        <source>Lumaro Help</source>
+        <translation>Lumaro Help</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message id="Open movies">
+        <source>Open movies</source>
+        <translation>Open movies</translation>
+    </message>
+    <message id="Half, normal and double size">
+        <source>Half, normal and double size</source>
+        <translation>Half, normal and double size</translation>
+    </message>
+    <message id="Fit to the screen, to its width, to its height">
+        <source>Fit to the screen, to its width, to its height</source>
+        <translation>Fit to the screen, to its width, to its height</translation>
+    </message>
+    <message id="Bigger and smaller">
+        <source>Bigger and smaller</source>
+        <translation>Bigger and smaller</translation>
+    </message>
+    <message id="Controller bar">
+        <source>Controller bar</source>
+        <translation>Controller bar</translation>
+    </message>
+    <message id="On-screen display: time, movie, subtitles, looping, volume">
+        <source>On-screen display: time, movie, subtitles, looping, volume</source>
+        <translation>On-screen display: time, movie, subtitles, looping, volume</translation>
+    </message>
+    <message id="Play, pause, back to normal speed">
+        <source>Play, pause, back to normal speed</source>
+        <translation>Play, pause, back to normal speed</translation>
+    </message>
+    <message id="Forward and back: one frame while paused, faster and faster while playing">
+        <source>Forward and back: one frame while paused, faster and faster while playing</source>
+        <translation>Forward and back: one frame while paused, faster and faster while playing</translation>
+    </message>
+    <message id="Jump forward and back">
+        <source>Jump forward and back</source>
+        <translation>Jump forward and back</translation>
+    </message>
+    <message id="Beginning and end of the movie">
+        <source>Beginning and end of the movie</source>
+        <translation>Beginning and end of the movie</translation>
+    </message>
+    <message id="Next and previous movie">
+        <source>Next and previous movie</source>
+        <translation>Next and previous movie</translation>
+    </message>
+    <message id="Looping: off, one, all">
+        <source>Looping: off, one, all</source>
+        <translation>Looping: off, one, all</translation>
+    </message>
+    <message id="Louder and softer">
+        <source>Louder and softer</source>
+        <translation>Louder and softer</translation>
+    </message>
+    <message id="Next and previous subtitles">
+        <source>Next and previous subtitles</source>
+        <translation>Next and previous subtitles</translation>
+    </message>
+    <message id="Next and previous screen">
+        <source>Next and previous screen</source>
+        <translation>Next and previous screen</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message id="More Encodings">
+        <source>More Encodings</source>
+        <translation>More Encodings</translation>
+    </message>
+    <message id="%d sec.">
+        <source>%d sec.</source>
+        <translation>%d sec.</translation>
+    </message>
+</context>
+<context>
+    <name>Text encodings</name>
+    <message id="Western (ASCII)">
+        <source>Western (ASCII)</source>
+        <translation>Western (ASCII)</translation>
+    </message>
+    <message id="Western (ISO Latin 1)">
+        <source>Western (ISO Latin 1)</source>
+        <translation>Western (ISO Latin 1)</translation>
+    </message>
+    <message id="Western (ISO Latin 9)">
+        <source>Western (ISO Latin 9)</source>
+        <translation>Western (ISO Latin 9)</translation>
+    </message>
+    <message id="Western (Windows Latin 1)">
+        <source>Western (Windows Latin 1)</source>
+        <translation>Western (Windows Latin 1)</translation>
+    </message>
+    <message id="Western (Mac OS Roman)">
+        <source>Western (Mac OS Roman)</source>
+        <translation>Western (Mac OS Roman)</translation>
+    </message>
+    <message id="Western (DOS Latin 1)">
+        <source>Western (DOS Latin 1)</source>
+        <translation>Western (DOS Latin 1)</translation>
+    </message>
+    <message id="Latin-US (DOS)">
+        <source>Latin-US (DOS)</source>
+        <translation>Latin-US (DOS)</translation>
+    </message>
+    <message id="Central European (ISO Latin 2)">
+        <source>Central European (ISO Latin 2)</source>
+        <translation>Central European (ISO Latin 2)</translation>
+    </message>
+    <message id="Central European (Windows Latin 2)">
+        <source>Central European (Windows Latin 2)</source>
+        <translation>Central European (Windows Latin 2)</translation>
+    </message>
+    <message id="Central European (Mac OS)">
+        <source>Central European (Mac OS)</source>
+        <translation>Central European (Mac OS)</translation>
+    </message>
+    <message id="Central European (DOS Latin 2)">
+        <source>Central European (DOS Latin 2)</source>
+        <translation>Central European (DOS Latin 2)</translation>
+    </message>
+    <message id="Western (ISO Latin 3)">
+        <source>Western (ISO Latin 3)</source>
+        <translation>Western (ISO Latin 3)</translation>
+    </message>
+    <message id="Central European (ISO Latin 4)">
+        <source>Central European (ISO Latin 4)</source>
+        <translation>Central European (ISO Latin 4)</translation>
+    </message>
+    <message id="Nordic (ISO Latin 6)">
+        <source>Nordic (ISO Latin 6)</source>
+        <translation>Nordic (ISO Latin 6)</translation>
+    </message>
+    <message id="Icelandic (DOS)">
+        <source>Icelandic (DOS)</source>
+        <translation>Icelandic (DOS)</translation>
+    </message>
+    <message id="Nordic (DOS)">
+        <source>Nordic (DOS)</source>
+        <translation>Nordic (DOS)</translation>
+    </message>
+    <message id="Baltic (ISO Latin 7)">
+        <source>Baltic (ISO Latin 7)</source>
+        <translation>Baltic (ISO Latin 7)</translation>
+    </message>
+    <message id="Baltic (Windows)">
+        <source>Baltic (Windows)</source>
+        <translation>Baltic (Windows)</translation>
+    </message>
+    <message id="Baltic (DOS)">
+        <source>Baltic (DOS)</source>
+        <translation>Baltic (DOS)</translation>
+    </message>
+    <message id="Celtic (ISO Latin 8)">
+        <source>Celtic (ISO Latin 8)</source>
+        <translation>Celtic (ISO Latin 8)</translation>
+    </message>
+    <message id="Cyrillic (ISO 8859-5)">
+        <source>Cyrillic (ISO 8859-5)</source>
+        <translation>Cyrillic (ISO 8859-5)</translation>
+    </message>
+    <message id="Cyrillic (Windows)">
+        <source>Cyrillic (Windows)</source>
+        <translation>Cyrillic (Windows)</translation>
+    </message>
+    <message id="Cyrillic (KOI8-R)">
+        <source>Cyrillic (KOI8-R)</source>
+        <translation>Cyrillic (KOI8-R)</translation>
+    </message>
+    <message id="Ukrainian (KOI8-U)">
+        <source>Ukrainian (KOI8-U)</source>
+        <translation>Ukrainian (KOI8-U)</translation>
+    </message>
+    <message id="Cyrillic (Mac OS)">
+        <source>Cyrillic (Mac OS)</source>
+        <translation>Cyrillic (Mac OS)</translation>
+    </message>
+    <message id="Cyrillic (DOS)">
+        <source>Cyrillic (DOS)</source>
+        <translation>Cyrillic (DOS)</translation>
+    </message>
+    <message id="Russian (DOS)">
+        <source>Russian (DOS)</source>
+        <translation>Russian (DOS)</translation>
+    </message>
+    <message id="Greek (ISO 8859-7)">
+        <source>Greek (ISO 8859-7)</source>
+        <translation>Greek (ISO 8859-7)</translation>
+    </message>
+    <message id="Greek (Windows)">
+        <source>Greek (Windows)</source>
+        <translation>Greek (Windows)</translation>
+    </message>
+    <message id="Greek (Mac OS)">
+        <source>Greek (Mac OS)</source>
+        <translation>Greek (Mac OS)</translation>
+    </message>
+    <message id="Greek (DOS)">
+        <source>Greek (DOS)</source>
+        <translation>Greek (DOS)</translation>
+    </message>
+    <message id="Greek (DOS Greek 2)">
+        <source>Greek (DOS Greek 2)</source>
+        <translation>Greek (DOS Greek 2)</translation>
+    </message>
+    <message id="Turkish (ISO Latin 5)">
+        <source>Turkish (ISO Latin 5)</source>
+        <translation>Turkish (ISO Latin 5)</translation>
+    </message>
+    <message id="Turkish (Windows Latin 5)">
+        <source>Turkish (Windows Latin 5)</source>
+        <translation>Turkish (Windows Latin 5)</translation>
+    </message>
+    <message id="Turkish (Mac OS)">
+        <source>Turkish (Mac OS)</source>
+        <translation>Turkish (Mac OS)</translation>
+    </message>
+    <message id="Turkish (DOS)">
+        <source>Turkish (DOS)</source>
+        <translation>Turkish (DOS)</translation>
+    </message>
+    <message id="Hebrew (ISO 8859-8)">
+        <source>Hebrew (ISO 8859-8)</source>
+        <translation>Hebrew (ISO 8859-8)</translation>
+    </message>
+    <message id="Hebrew (Windows)">
+        <source>Hebrew (Windows)</source>
+        <translation>Hebrew (Windows)</translation>
+    </message>
+    <message id="Hebrew (DOS)">
+        <source>Hebrew (DOS)</source>
+        <translation>Hebrew (DOS)</translation>
+    </message>
+    <message id="Arabic (ISO 8859-6)">
+        <source>Arabic (ISO 8859-6)</source>
+        <translation>Arabic (ISO 8859-6)</translation>
+    </message>
+    <message id="Arabic (Windows)">
+        <source>Arabic (Windows)</source>
+        <translation>Arabic (Windows)</translation>
+    </message>
+    <message id="Arabic (DOS)">
+        <source>Arabic (DOS)</source>
+        <translation>Arabic (DOS)</translation>
+    </message>
+    <message id="Portuguese (DOS)">
+        <source>Portuguese (DOS)</source>
+        <translation>Portuguese (DOS)</translation>
+    </message>
+    <message id="Canadian French (DOS)">
+        <source>Canadian French (DOS)</source>
+        <translation>Canadian French (DOS)</translation>
+    </message>
+    <message id="Thai (ISO 8859-11)">
+        <source>Thai (ISO 8859-11)</source>
+        <translation>Thai (ISO 8859-11)</translation>
+    </message>
+    <message id="Thai (Windows, DOS)">
+        <source>Thai (Windows, DOS)</source>
+        <translation>Thai (Windows, DOS)</translation>
+    </message>
+    <message id="Vietnamese (Windows)">
+        <source>Vietnamese (Windows)</source>
+        <translation>Vietnamese (Windows)</translation>
+    </message>
+    <message id="Japanese (Shift JIS)">
+        <source>Japanese (Shift JIS)</source>
+        <translation>Japanese (Shift JIS)</translation>
+    </message>
+    <message id="Japanese (Windows, DOS)">
+        <source>Japanese (Windows, DOS)</source>
+        <translation>Japanese (Windows, DOS)</translation>
+    </message>
+    <message id="Japanese (EUC)">
+        <source>Japanese (EUC)</source>
+        <translation>Japanese (EUC)</translation>
+    </message>
+    <message id="Japanese (ISO 2022-JP)">
+        <source>Japanese (ISO 2022-JP)</source>
+        <translation>Japanese (ISO 2022-JP)</translation>
+    </message>
+    <message id="Japanese (ISO 2022-JP-2)">
+        <source>Japanese (ISO 2022-JP-2)</source>
+        <translation>Japanese (ISO 2022-JP-2)</translation>
+    </message>
+    <message id="Japanese (ISO 2022-JP-1)">
+        <source>Japanese (ISO 2022-JP-1)</source>
+        <translation>Japanese (ISO 2022-JP-1)</translation>
+    </message>
+    <message id="Chinese (GB 18030)">
+        <source>Chinese (GB 18030)</source>
+        <translation>Chinese (GB 18030)</translation>
+    </message>
+    <message id="Simplified Chinese (GBK)">
+        <source>Simplified Chinese (GBK)</source>
+        <translation>Simplified Chinese (GBK)</translation>
+    </message>
+    <message id="Simplified Chinese (Windows, DOS)">
+        <source>Simplified Chinese (Windows, DOS)</source>
+        <translation>Simplified Chinese (Windows, DOS)</translation>
+    </message>
+    <message id="Simplified Chinese (GB 2312)">
+        <source>Simplified Chinese (GB 2312)</source>
+        <translation>Simplified Chinese (GB 2312)</translation>
+    </message>
+    <message id="Simplified Chinese (HZ GB 2312)">
+        <source>Simplified Chinese (HZ GB 2312)</source>
+        <translation>Simplified Chinese (HZ GB 2312)</translation>
+    </message>
+    <message id="Chinese (ISO 2022-CN)">
+        <source>Chinese (ISO 2022-CN)</source>
+        <translation>Chinese (ISO 2022-CN)</translation>
+    </message>
+    <message id="Traditional Chinese (Big 5)">
+        <source>Traditional Chinese (Big 5)</source>
+        <translation>Traditional Chinese (Big 5)</translation>
+    </message>
+    <message id="Traditional Chinese (Big 5 HKSCS)">
+        <source>Traditional Chinese (Big 5 HKSCS)</source>
+        <translation>Traditional Chinese (Big 5 HKSCS)</translation>
+    </message>
+    <message id="Traditional Chinese (Windows, DOS)">
+        <source>Traditional Chinese (Windows, DOS)</source>
+        <translation>Traditional Chinese (Windows, DOS)</translation>
+    </message>
+    <message id="Traditional Chinese (EUC)">
+        <source>Traditional Chinese (EUC)</source>
+        <translation>Traditional Chinese (EUC)</translation>
+    </message>
+    <message id="Korean (EUC)">
+        <source>Korean (EUC)</source>
+        <translation>Korean (EUC)</translation>
+    </message>
+    <message id="Korean (Windows, DOS)">
+        <source>Korean (Windows, DOS)</source>
+        <translation>Korean (Windows, DOS)</translation>
+    </message>
+    <message id="Korean (ISO 2022-KR)">
+        <source>Korean (ISO 2022-KR)</source>
+        <translation>Korean (ISO 2022-KR)</translation>
+    </message>
+</context>
+</TS>
