@@ -2,140 +2,181 @@
 #include "platform/base/PropertyList.h"
 
 #include "platform/base/NumberText.h"
-#include "platform/base/PropertyListLimits.h"
+#include "platform/base/RegularFile.h"
 
 #include <QDateTime>
-#include <QFile>
+#include <QXmlStreamReader>
 
 #include <cmath>
-#include <cstdlib>
-#include <limits>
-#include <locale.h>
-#include <memory>
-#include <plist/plist.h>
 
 namespace platform::propertyList {
 
 namespace {
 
-// Dates of property lists count from the first moment of 2001.
-constexpr qint64 kReferenceDate = 978'307'200;
+constexpr qsizetype kMaximumBytes = 16 * 1024 * 1024;
+constexpr int kMaximumDepth = 64;
+constexpr int kMaximumValues = 1'000'000;
 
-struct FreeNode {
-    void operator()(void* node) const { plist_free(node); }
-};
-struct FreeMemory {
-    void operator()(void* memory) const { std::free(memory); }
-};
-using Node = std::unique_ptr<void, FreeNode>;
+// XML has no place for control characters, but names of files do, and they are written as they are. While such a text
+// is read, these 32 code points, which are no characters and are kept free for such uses, stand in for them.
+constexpr char16_t kStandIns = 0xFDD0;
 
-/// While it lives, this thread reads numbers with a point. The library's reader follows the locale.
-class PlainNumbers {
+bool isControl(QChar character) {
+    return character < u' ' && character != u'\t' && character != u'\n' && character != u'\r';
+}
+
+QString readable(const QByteArray& bytes) {
+    QString text = QString::fromUtf8(bytes);
+    for (QChar& character : text) {
+        if (isControl(character))
+            character = QChar(static_cast<char16_t>(kStandIns + character.unicode()));
+        else if (character >= QChar(0xFFFE))
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+QString withControls(QString text) {
+    for (QChar& character : text) {
+        if (character >= QChar(kStandIns) && character < QChar(kStandIns + 0x20))
+            character = QChar(static_cast<char16_t>(character.unicode() - kStandIns));
+    }
+    return text;
+}
+
+/// Reads the XML form. What is no property list, or too large a one, ends the reading with an error.
+class XmlReader {
 public:
-    PlainNumbers()
-        : _locale(::newlocale(LC_NUMERIC_MASK, "C", nullptr))
-        , _before(_locale ? ::uselocale(_locale) : nullptr) {}
-    PlainNumbers(const PlainNumbers&) = delete;
-    PlainNumbers& operator=(const PlainNumbers&) = delete;
-    ~PlainNumbers() {
-        if (!_locale)
-            return;
-        ::uselocale(_before);
-        ::freelocale(_locale);
+    explicit XmlReader(const QByteArray& bytes)
+        : _xml(readable(bytes)) {}
+
+    std::optional<QVariant> document() {
+        if (!next() || _xml.name() != u"plist" || !next())
+            return std::nullopt;
+        QVariant root = value(0);
+        if (next())
+            refuse(); // a second root
+        while (!_xml.atEnd() && !_xml.hasError())
+            refuseDeclarations(_xml.readNext());
+        return _xml.hasError() || !root.isValid() ? std::nullopt : std::optional(std::move(root));
     }
 
 private:
-    locale_t _locale;
-    locale_t _before;
+    void refuse() {
+        if (!_xml.hasError())
+            _xml.raiseError();
+    }
+
+    /// Entities could make a short document a long one.
+    void refuseDeclarations(QXmlStreamReader::TokenType token) {
+        if (token == QXmlStreamReader::DTD && !_xml.entityDeclarations().isEmpty())
+            refuse();
+    }
+
+    /// Goes to the next element of the one that is open; false at its end, or at an error.
+    bool next() {
+        for (;;) {
+            const QXmlStreamReader::TokenType token = _xml.readNext();
+            refuseDeclarations(token);
+            if (_xml.hasError() || token == QXmlStreamReader::EndElement || token == QXmlStreamReader::EndDocument)
+                return false;
+            if (token == QXmlStreamReader::StartElement)
+                return true;
+            if (token == QXmlStreamReader::Characters && !_xml.isWhitespace())
+                refuse(); // a text outside a value
+        }
+    }
+
+    /// Never null: an empty text is a value too.
+    QString text() {
+        const QString text = _xml.readElementText();
+        return text.isEmpty() ? QLatin1String("") : withControls(text);
+    }
+
+    /// The value whose element begins here; an invalid one at an error, and for a date that is none.
+    QVariant value(int depth) {
+        if (depth > kMaximumDepth || ++_values > kMaximumValues) {
+            refuse();
+            return {};
+        }
+        const QStringView kind = _xml.name();
+        if (kind == u"dict")
+            return dictionary(depth);
+        if (kind == u"array")
+            return array(depth);
+        if (kind == u"string")
+            return text();
+        if (kind == u"true" || kind == u"false") {
+            const bool flag = kind == u"true";
+            text();
+            return flag;
+        }
+        if (kind == u"integer")
+            return integer(text().trimmed());
+        if (kind == u"real")
+            return real(text().toUtf8());
+        if (kind == u"date") {
+            const QDateTime date = QDateTime::fromString(text().trimmed(), Qt::ISODate);
+            return date.isValid() ? QVariant(date.toUTC()) : QVariant();
+        }
+        if (kind == u"data")
+            return data(text().toLatin1());
+        refuse();
+        return {};
+    }
+
+    QVariant dictionary(int depth) {
+        QVariantMap dictionary;
+        while (next()) {
+            if (_xml.name() != u"key") {
+                refuse();
+                break;
+            }
+            const QString key = text();
+            if (!next()) {
+                refuse(); // a key without a value
+                break;
+            }
+            const QVariant element = value(depth + 1);
+            if (element.isValid())
+                dictionary.insert(key, element);
+        }
+        return dictionary;
+    }
+
+    QVariant array(int depth) {
+        QVariantList array;
+        while (next()) {
+            const QVariant element = value(depth + 1);
+            if (element.isValid())
+                array.append(element);
+        }
+        return array;
+    }
+
+    /// What is written by hand may be no number: that is 0.
+    static qlonglong integer(const QString& text) {
+        bool isSigned = false;
+        const int base = text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive) ? 16 : 10;
+        const qlonglong number = text.toLongLong(&isSigned, base);
+        return isSigned ? number : static_cast<qlonglong>(text.toULongLong(nullptr, base));
+    }
+
+    static QByteArray data(const QByteArray& text) {
+        const QByteArray bytes = QByteArray::fromBase64(text);
+        return bytes.isNull() ? QByteArray("") : bytes;
+    }
+
+    static double real(const QByteArray& text) {
+        QByteArrayView rest(text);
+        return takeNumber(rest).value_or(0);
+    }
+
+    QXmlStreamReader _xml;
+    int _values = 0;
 };
 
-QVariant valueOf(plist_t node);
-
-QVariantMap dictionaryOf(plist_t node) {
-    QVariantMap dictionary;
-    plist_dict_iter iteratorMemory = nullptr;
-    plist_dict_new_iter(node, &iteratorMemory);
-    const std::unique_ptr<void, FreeMemory> iterator(iteratorMemory);
-    for (;;) {
-        char* keyMemory = nullptr;
-        plist_t child = nullptr;
-        plist_dict_next_item(node, iteratorMemory, &keyMemory, &child);
-        const std::unique_ptr<char, FreeMemory> key(keyMemory);
-        if (!child)
-            return dictionary;
-        const QVariant value = valueOf(child);
-        if (key && value.isValid())
-            dictionary.insert(QString::fromUtf8(key.get()), value);
-    }
-}
-
-QVariantList arrayOf(plist_t node) {
-    QVariantList array;
-    const std::uint32_t count = plist_array_get_size(node);
-    array.reserve(static_cast<qsizetype>(count));
-    plist_array_iter iteratorMemory = nullptr;
-    plist_array_new_iter(node, &iteratorMemory);
-    const std::unique_ptr<void, FreeMemory> iterator(iteratorMemory);
-    for (std::uint32_t index = 0; index < count; ++index) {
-        plist_t child = nullptr;
-        plist_array_next_item(node, iteratorMemory, &child);
-        const QVariant value = child ? valueOf(child) : QVariant();
-        if (value.isValid())
-            array.append(value);
-    }
-    return array;
-}
-
-QVariant dateOf(plist_t node) {
-    std::int32_t seconds = 0;
-    std::int32_t microseconds = 0;
-    plist_get_date_val(node, &seconds, &microseconds);
-    // What the library answers for a moment outside its range.
-    if (seconds == std::numeric_limits<std::int32_t>::min())
-        return {};
-    return QDateTime::fromSecsSinceEpoch(kReferenceDate + seconds).toUTC();
-}
-
-/// An invalid value for what has no place among the values: no node, a kind of archive reference.
-QVariant valueOf(plist_t node) {
-    switch (plist_get_node_type(node)) {
-    case PLIST_DICT:
-        return dictionaryOf(node);
-    case PLIST_ARRAY:
-        return arrayOf(node);
-    case PLIST_DATE:
-        return dateOf(node);
-    case PLIST_BOOLEAN: {
-        std::uint8_t flag = 0;
-        plist_get_bool_val(node, &flag);
-        return flag != 0;
-    }
-    case PLIST_UINT: {
-        std::uint64_t number = 0;
-        plist_get_uint_val(node, &number);
-        return static_cast<qlonglong>(number);
-    }
-    case PLIST_REAL: {
-        double number = 0;
-        plist_get_real_val(node, &number);
-        return number;
-    }
-    case PLIST_STRING: {
-        std::uint64_t length = 0;
-        const char* text = plist_get_string_ptr(node, &length);
-        return text ? QString::fromUtf8(text, static_cast<qsizetype>(length)) : QStringLiteral("");
-    }
-    case PLIST_DATA: {
-        std::uint64_t length = 0;
-        const char* data = plist_get_data_ptr(node, &length);
-        return data ? QByteArray(data, static_cast<qsizetype>(length)) : QByteArray("");
-    }
-    default:
-        return {};
-    }
-}
-
-/// Writes the XML form. The library's own writer rounds numbers.
+/// Writes the form that Apple's tools write.
 class XmlWriter {
 public:
     QByteArray document(const QVariantMap& dictionary) {
@@ -155,9 +196,10 @@ private:
 
     static QByteArray escaped(const QString& text) {
         QByteArray bytes = text.toUtf8();
-        // It would end the text for its readers.
+        // It would end the text for other readers.
         bytes.replace('\0', QByteArray());
-        bytes.replace('&', "&amp;").replace('<', "&lt;").replace('>', "&gt;");
+        // Readers of XML take a carriage return for a part of the end of a line.
+        bytes.replace('&', "&amp;").replace('<', "&lt;").replace('>', "&gt;").replace('\r', "&#13;");
         return bytes;
     }
 
@@ -225,26 +267,12 @@ private:
 } // namespace
 
 std::optional<QVariant> parse(const QByteArray& bytes) {
-    if (bytes.isEmpty() || !isPropertyListWithinLimits(bytes))
-        return std::nullopt;
-    const PlainNumbers plainNumbers;
-    plist_t root = nullptr;
-    // Each form by its own reader: plist_from_memory has other arguments in each release, and reads further forms, which
-    // nobody has looked through for their limits.
-    const auto read = isBinaryPropertyList(bytes) ? &plist_from_bin : &plist_from_xml;
-    read(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &root);
-    const Node node(root);
-    if (!node)
-        return std::nullopt;
-    const QVariant value = valueOf(node.get());
-    return value.isValid() ? std::optional(value) : std::nullopt;
+    return bytes.size() > kMaximumBytes ? std::nullopt : XmlReader(bytes).document();
 }
 
 std::optional<QVariantMap> readDictionary(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const auto root = parse(file.readAll());
+    const auto bytes = readRegularFile(path, kMaximumBytes + 1);
+    const auto root = bytes ? parse(*bytes) : std::nullopt;
     return root && root->typeId() == QMetaType::QVariantMap ? std::optional(root->toMap()) : std::nullopt;
 }
 

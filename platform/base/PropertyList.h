@@ -8,14 +8,13 @@
 
 namespace platform {
 
-/// Property lists (Apple's XML and binary forms, read and written through libplist), as Qt's values:
-/// dictionary = QVariantMap, array = QVariantList, string = QString, boolean = bool, integer = qlonglong,
-/// real = double, date = QDateTime (UTC), data = QByteArray. Dates hold whole
-/// seconds and are read between 1933 and 2069. A double written and read back is the same double.
+/// Property lists in Apple's XML form, as Qt's values: dictionary = QVariantMap, array = QVariantList, string =
+/// QString, boolean = bool, integer = qlonglong, real = double, date = QDateTime (UTC, whole seconds), data =
+/// QByteArray. A double written and read back is the same double. Any thread.
 namespace propertyList {
 
-/// Reads either form; nothing when the bytes are no property list, or one of more than 16 MiB, 64 levels or a million
-/// values.
+/// Nothing when the bytes are no property list, or one of more than 16 MiB, 64 levels below its root or a million
+/// values, or one with declarations of entities. The binary form is none.
 std::optional<QVariant> parse(const QByteArray& bytes);
 
 /// Reads a file whose root is a dictionary; nothing when it is missing, unreadable, damaged or of another root.

@@ -138,7 +138,6 @@ TEST(Architecture, libraries_stay_in_their_place) {
                                                                     {"libavcodec/", "platform/movie/mpv"},
                                                                     {"libavutil/", "platform/movie/mpv"},
                                                                     {"libsw", "platform/movie/mpv"},
-                                                                    {"plist/", "platform/base"},
                                                                     {"unicode/", "platform/base"},
                                                                     {"libevdev", "platform/desktop/linux"},
                                                                     {"libudev", "platform/desktop/linux"},
