@@ -11,40 +11,41 @@
 
 namespace platform {
 
-namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(const QString& path)
-        : number(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number >= 0)
-            ::close(number);
-    }
-    const int number;
-};
-
-} // namespace
-
-std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit) {
-    const Descriptor file(path);
+OpenedFile openRegularFile(const QString& path) {
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return {-1, 0, errno};
     struct stat facts {};
-    if (file.number < 0 || ::fstat(file.number, &facts) != 0 || !S_ISREG(facts.st_mode))
-        return std::nullopt;
-    QByteArray bytes(std::min<qsizetype>(limit, facts.st_size), Qt::Uninitialized);
+    int error = ::fstat(descriptor, &facts) != 0 ? errno : 0;
+    if (error == 0 && !S_ISREG(facts.st_mode))
+        error = S_ISDIR(facts.st_mode) ? EISDIR : EINVAL;
+    if (error == 0)
+        return {descriptor, facts.st_size, 0};
+    ::close(descriptor);
+    return {-1, 0, error};
+}
+
+std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit, int* error) {
+    const OpenedFile file = openRegularFile(path);
+    int code = file.error;
+    QByteArray bytes(std::min<qsizetype>(limit, file.size), Qt::Uninitialized);
     qsizetype filled = 0;
-    while (filled < bytes.size()) {
+    while (code == 0 && filled < bytes.size()) {
         const ssize_t count =
-            ::read(file.number, bytes.data() + filled, static_cast<std::size_t>(bytes.size() - filled));
-        if (count < 0 && errno == EINTR)
-            continue;
+            ::read(file.descriptor, bytes.data() + filled, static_cast<std::size_t>(bytes.size() - filled));
         if (count < 0)
-            return std::nullopt;
-        if (count == 0)
+            code = errno == EINTR ? 0 : errno;
+        else if (count == 0)
             break;
-        filled += count;
+        else
+            filled += count;
+    }
+    if (file.descriptor >= 0)
+        ::close(file.descriptor);
+    if (code != 0) {
+        if (error)
+            *error = code;
+        return std::nullopt;
     }
     bytes.truncate(filled);
     return bytes;

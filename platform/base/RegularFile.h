@@ -4,12 +4,27 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 namespace platform {
 
+/// A regular file that was opened, or why it was not.
+struct OpenedFile {
+    /// To be closed by whoever asked; -1 when it could not be opened.
+    int descriptor = -1;
+    /// In bytes, when it was opened.
+    std::int64_t size = 0;
+    /// The system's code: EISDIR for a folder, EINVAL for what else is no file; 0 when it was opened.
+    int error = 0;
+};
+
+/// Opens a file for reading. Pipes and devices are refused and never waited for. Any thread.
+OpenedFile openRegularFile(const QString& path);
+
 /// The beginning of a file, at most so many bytes, read once in one go. None when it cannot be opened or read, or is no
-/// regular file: pipes and devices are never waited for. A file that shrinks meanwhile gives what is left. Any thread.
-std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit);
+/// regular file; `error`, where given, then says why, as OpenedFile::error does. A file that shrinks meanwhile gives
+/// what is left. Any thread.
+std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit, int* error = nullptr);
 
 } // namespace platform

@@ -6,7 +6,8 @@
 namespace platform {
 
 /// Settings in one XML property list. It is written whole to a temporary file beside it, synced, and renamed over it,
-/// so that a crash at any moment leaves the old or the new settings, never a mixture. A damaged file is renamed aside
+/// so that a crash at any moment leaves the old or the new settings, never a mixture. Symbolic links and the
+/// permissions of a file that stands there are kept; a new one is for its owner alone. A damaged file is renamed aside
 /// ("NAME.damaged-YYYYMMDD-HHMMSS") and reported in the log, never overwritten.
 class SettingsFile final : public SettingsStorage {
 public:

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/DataFile.h"
 
-#include <QFile>
+#include "platform/base/RegularFile.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <limits>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -18,15 +16,8 @@ constexpr std::int64_t lookedAtBefore = 32;
 } // namespace
 
 std::unique_ptr<DataFile> DataFile::open(const QString& path) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (descriptor < 0)
-        return nullptr;
-    struct stat facts {};
-    if (::fstat(descriptor, &facts) != 0 || !S_ISREG(facts.st_mode)) {
-        ::close(descriptor);
-        return nullptr;
-    }
-    return std::unique_ptr<DataFile>(new DataFile(path, descriptor, facts.st_size));
+    const platform::OpenedFile file = platform::openRegularFile(path);
+    return file.error == 0 ? std::unique_ptr<DataFile>(new DataFile(path, file.descriptor, file.size)) : nullptr;
 }
 
 DataFile::DataFile(QString path, int descriptor, std::int64_t size)

@@ -4,6 +4,7 @@
 #include "tests/support/Files.h"
 
 #include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -113,14 +114,45 @@ TEST_F(SettingsFileTest, killed_at_any_moment_it_reads_back_whole) {
         ASSERT_EQ(read["first"], read["last"]) << round;
     }
     EXPECT_FALSE(log.contains("ERROR"));
+}
 
-    // What the killed runs left is cleared away once it is old.
-    const QString left = path + ".new-abcdef";
-    ASSERT_TRUE(QFile::copy(path, left));
-    QFile file(left);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    file.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime);
-    file.close();
-    SettingsFile(path).load();
-    EXPECT_FALSE(QFile::exists(left));
+TEST_F(SettingsFileTest, a_disk_that_is_full_leaves_the_old_settings_and_nothing_else) {
+    ASSERT_TRUE(SettingsFile(path).store(settings));
+    const QByteArray before = contents(path);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit full{1000, 1000};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const bool stored = SettingsFile(path).store({{"filling", QString(50'000, 'x')}});
+        ::_exit(stored || log.count("ERROR: SettingsFile: Can't write the settings to ") != 1 ? 1 : 0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(contents(path), before);
+    EXPECT_EQ(names(), QStringList{"settings.plist"});
+}
+
+TEST_F(SettingsFileTest, a_new_file_is_for_its_owner_alone) {
+    const mode_t before = ::umask(0);
+    const QString fresh = folder.filePath("new/folders/settings.plist");
+    EXPECT_TRUE(SettingsFile(fresh).store(settings));
+    ::umask(before);
+    struct stat info {};
+    ASSERT_EQ(::stat(QFile::encodeName(fresh).constData(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777U, 0600U);
+}
+
+TEST_F(SettingsFileTest, one_that_is_too_large_is_neither_read_nor_replaced) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    constexpr qint64 tooLarge = 16 * 1024 * 1024 + 1;
+    ASSERT_TRUE(file.resize(tooLarge)); // takes no space
+    SettingsFile settingsFile(path);
+    EXPECT_TRUE(settingsFile.load().isEmpty());
+    EXPECT_EQ(log.count("ERROR: "), 1);
+    EXPECT_FALSE(settingsFile.store(settings));
+    EXPECT_EQ(file.size(), tooLarge);
+    EXPECT_EQ(names(), QStringList{"settings.plist"});
 }
