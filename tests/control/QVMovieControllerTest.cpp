@@ -415,10 +415,13 @@ TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_h
 }
 
 TEST_F(MovieController, Sleep_waits_for_its_confirmation_and_closing_the_window_quits) {
+    const double reading = confirmations.readingTime();
+    ASSERT_GT(reading, 0.5);
     controller.performAction(action::sleep, Feedback::no);
-    EXPECT_EQ(desktop.sleeps, 0);
     EXPECT_FALSE(controller.windowShouldClose(window));
-    settings.runLoop.advance(confirmations.readingTime());
+    settings.runLoop.advance(reading - 0.01);
+    EXPECT_EQ(desktop.sleeps, 0) << "its confirmation is still being read";
+    settings.runLoop.advance(0.02);
     EXPECT_EQ(desktop.sleeps, 1);
     EXPECT_EQ(desktop.terminations, 1);
 }

@@ -9,10 +9,15 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <fcntl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <functional>
 #include <future>
@@ -87,6 +92,72 @@ TEST_F(SingleInstanceTest, a_second_launch_hands_its_files_to_the_first) {
     }
     SingleInstance next(path);
     EXPECT_TRUE(listens(next)) << "the next one follows the first";
+}
+
+TEST_F(SingleInstanceTest, what_a_killed_player_left_is_taken_over_and_is_for_this_user_alone) {
+    int ends[2];
+    ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+    const mode_t mask = ::umask(0);
+    const pid_t player = ::fork();
+    if (player == 0) {
+        SingleInstance killed(path);
+        const char listening = killed.listen([](const HandOver&) {}) ? 'y' : 'n';
+        [[maybe_unused]] const ssize_t written = ::write(ends[1], &listening, 1);
+        for (;;)
+            ::pause();
+    }
+    ::umask(mask);
+    char listening = 0;
+    ASSERT_EQ(::read(ends[0], &listening, 1), 1);
+    ASSERT_EQ(listening, 'y');
+    EXPECT_TRUE(SingleInstance(path).isTaken());
+    for (const QString& file : {path, QString(path + ".lock")}) {
+        struct stat facts {};
+        ASSERT_EQ(::lstat(QFile::encodeName(file).constData(), &facts), 0);
+        EXPECT_EQ(facts.st_mode & 0777U, 0600U) << file.toStdString();
+    }
+    ::kill(player, SIGKILL);
+    ::waitpid(player, nullptr, 0);
+    ::close(ends[0]);
+    ::close(ends[1]);
+
+    ASSERT_TRUE(QFile::exists(path)) << "a killed player leaves its socket";
+    EXPECT_FALSE(SingleInstance(path).isTaken());
+    EXPECT_FALSE(SingleInstance(path).handOver({false, {"/a"}}));
+    SingleInstance next(path);
+    ASSERT_TRUE(listens(next));
+    EXPECT_TRUE(handOver({true, {"/b"}}));
+    EXPECT_EQ(received, (std::vector<HandOver>{{true, {"/b"}}}));
+}
+
+TEST_F(SingleInstanceTest, clients_and_their_messages_are_limited) {
+    SingleInstance instance(path);
+    ASSERT_TRUE(listens(instance));
+    const auto isOpen = [](int socket) {
+        char answer = 0;
+        return ::recv(socket, &answer, 1, MSG_DONTWAIT) < 0 && errno == EAGAIN;
+    };
+    constexpr std::size_t maximumClients = 32;
+    std::vector<int> sockets;
+    const auto connectOne = [&](const QByteArray& bytes) {
+        sockets.push_back(connected(bytes));
+        QCoreApplication::processEvents(); // the listener's queue is short
+        QCoreApplication::processEvents(); // a client is read after it was accepted
+    };
+    while (sockets.size() < maximumClients)
+        connectOne("\0");
+    EXPECT_TRUE(std::all_of(sockets.begin(), sockets.end(), isOpen));
+    connectOne("\0");
+    EXPECT_TRUE(waitFor([&] { return !isOpen(sockets[0]); })) << "the oldest one goes";
+    EXPECT_TRUE(std::all_of(sockets.begin() + 1, sockets.end(), isOpen));
+
+    connectOne(QByteArray::fromHex("0080000061"));
+    connectOne(QByteArray::fromHex("0080000161"));
+    EXPECT_TRUE(waitFor([&] { return !isOpen(sockets.back()); })) << "more than 8 MiB is refused before it comes";
+    EXPECT_TRUE(isOpen(sockets[sockets.size() - 2])) << "8 MiB are waited for";
+    for (const int socket : sockets)
+        ::close(socket);
+    EXPECT_TRUE(received.empty());
 }
 
 TEST_F(SingleInstanceTest, clients_that_misbehave_keep_nobody_out) {

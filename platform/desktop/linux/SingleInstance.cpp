@@ -27,8 +27,9 @@ namespace platform {
 namespace {
 
 constexpr char acknowledgement = 'k';
-constexpr quint32 largestMessage = 8U << 20;
-constexpr std::size_t mostClients = 32;
+constexpr mode_t forThisUser = 0600;
+constexpr quint32 maximumMessage = 8U << 20;
+constexpr std::size_t maximumClients = 32;
 
 std::optional<sockaddr_un> addressOf(const QString& path) {
     sockaddr_un address{};
@@ -44,9 +45,9 @@ int connectTo(const sockaddr_un& address) {
     const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     if (socket < 0)
         return -1;
-    const timeval patience{3, 0};
-    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
-    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof(patience));
+    const timeval timeout{3, 0};
+    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
+    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof(timeout));
     if (::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0)
         return socket;
     ::close(socket);
@@ -169,13 +170,13 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> receive) {
     if (!address)
         return false;
     // Whoever holds the lock is the running player; a socket left behind by a crash is then nobody's.
-    _lock = ::open(QFile::encodeName(lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    _lock = ::open(QFile::encodeName(lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, forThisUser);
     if (_lock < 0 || !takeLock(_lock))
         return false;
     ::unlink(address->sun_path);
     _socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     if (_socket < 0 || ::bind(_socket, reinterpret_cast<const sockaddr*>(&*address), sizeof(*address)) != 0 ||
-        ::chmod(address->sun_path, 0600) != 0 || ::listen(_socket, 8) != 0) {
+        ::chmod(address->sun_path, forThisUser) != 0 || ::listen(_socket, 8) != 0) {
         Log::write(QStringLiteral("WARNING: SingleInstance: Can't listen at %1: %2")
                        .arg(_path, QString::fromLocal8Bit(std::strerror(errno))));
         return false;
@@ -191,7 +192,7 @@ void SingleInstance::acceptClient() {
     if (socket < 0)
         return;
     // A caller that never says anything must not keep others out.
-    if (_clients.size() >= mostClients)
+    if (_clients.size() >= maximumClients)
         _clients.erase(_clients.begin());
     auto client = std::make_unique<Client>();
     client->socket = socket;
@@ -211,7 +212,7 @@ void SingleInstance::readClient(Client& client) {
         client.received.append(buffer, count);
     const quint32 size = client.received.size() >= 4 ? qFromBigEndian<quint32>(client.received.constData()) : 0;
     const bool complete = client.received.size() >= 4 && client.received.size() - 4 >= static_cast<qsizetype>(size);
-    if (count > 0 && size <= largestMessage && !complete)
+    if (count > 0 && size <= maximumMessage && !complete)
         return;
     std::optional<HandOver> message;
     if (complete) {

@@ -21,7 +21,8 @@ struct HandOver {
     friend bool operator==(const HandOver&, const HandOver&) = default;
 };
 
-/// One running player for each user and display: a socket in the user's runtime folder. Main thread.
+/// One running player for each user and display: a socket in the user's runtime folder, for this user alone, and a lock
+/// beside it that ends with the process, so that a socket that a crash left is nobody's. Main thread.
 class SingleInstance {
 public:
     /// The socket's place; empty when there is no folder that only the user can write to.
