@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/linux/Backlight.h"
 
+#include "platform/base/RegularFile.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -16,13 +18,12 @@ namespace platform {
 namespace {
 
 std::optional<unsigned> readNumber(const QString& path, int& error) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.error() == QFileDevice::PermissionsError ? EACCES : EIO;
+    constexpr qsizetype maximumDigits = 32;
+    const auto text = readRegularFile(path, maximumDigits, &error);
+    if (!text)
         return std::nullopt;
-    }
     bool isNumber = false;
-    const unsigned number = QString::fromLatin1(file.readAll()).trimmed().toUInt(&isNumber);
+    const unsigned number = text->trimmed().toUInt(&isNumber);
     if (!isNumber) {
         error = EINVAL;
         return std::nullopt;

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop/linux/SessionBus.h"
+#include "tests/support/CapturedLog.h"
+#include "tests/support/Files.h"
+#include "tests/support/ManualRunLoop.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVirtualObject>
+#include <QDeadlineTimer>
+#include <QProcess>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <sys/prctl.h>
+
+using platform::SessionBus;
+
+namespace {
+
+const QString saver("org.freedesktop.ScreenSaver");
+const QString portal("org.freedesktop.portal.Desktop");
+const QString loginManager("org.freedesktop.login1");
+
+/// Plays every service at once, and keeps what was asked of it as a text.
+class FakeServices final : public QDBusVirtualObject {
+public:
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override {
+        QStringList arguments;
+        for (const QVariant& argument : call.arguments())
+            arguments.append(argument.toString());
+        calls.append(call.path() + ' ' + call.interface() + '.' + call.member() + '(' + arguments.join('|') + ')');
+        if (repliesLate)
+            unanswered = call;
+        else
+            answer(call, bus);
+        return true;
+    }
+    void answer(const QDBusMessage& call, const QDBusConnection& bus) {
+        if (call.member() == "Suspend")
+            bus.send(call.createErrorReply(QDBusError::AccessDenied, "not now"));
+        else if (call.interface() == saver && call.member() == "Inhibit")
+            bus.send(call.createReply(7U));
+        else if (call.member() == "Inhibit")
+            bus.send(call.createReply(QVariant::fromValue(QDBusObjectPath("/request/1"))));
+        else
+            bus.send(call.createReply());
+    }
+
+    QStringList calls;
+    bool repliesLate = false;
+    std::optional<QDBusMessage> unanswered;
+};
+
+/// A message bus of the test's own, which knows no service but the fake ones, as both the session's and the system's.
+class SessionBusTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        application = std::make_unique<QCoreApplication>(argumentCount, arguments);
+        daemon = std::make_unique<QProcess>();
+        const QTemporaryDir folder;
+        const QString configuration = writeFile(
+            folder.filePath("bus.conf"), "<busconfig><type>custom</type><listen>unix:tmpdir=/tmp</listen>"
+                                         "<auth>EXTERNAL</auth><policy context=\"default\"><allow own=\"*\"/>"
+                                         "<allow eavesdrop=\"true\"/>"
+                                         "<allow send_destination=\"*\" eavesdrop=\"true\"/></policy></busconfig>");
+        daemon->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        daemon->start("dbus-daemon", {"--config-file=" + configuration, "--nofork", "--print-address"});
+        while (!daemon->canReadLine() && daemon->waitForReadyRead()) {
+        }
+        const QByteArray address = daemon->readLine().trimmed();
+        ASSERT_FALSE(address.isEmpty()) << "dbus-daemon doesn't run";
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
+    }
+    static void TearDownTestSuite() {
+        QDBusConnection::disconnectFromBus("services");
+        QDBusConnection::disconnectFromBus("qt_default_session_bus");
+        QDBusConnection::disconnectFromBus("qt_default_system_bus");
+        daemon->kill();
+        daemon->waitForFinished();
+        daemon.reset();
+        application.reset();
+    }
+
+    SessionBusTest() {
+        platform::RunLoop::setMain(&runLoop);
+        EXPECT_TRUE(servicesBus.isConnected()) << servicesBus.lastError().message().toStdString();
+        EXPECT_TRUE(servicesBus.registerVirtualObject("/", &services, QDBusConnection::SubPath));
+    }
+    ~SessionBusTest() override {
+        bus.reset();
+        servicesBus.unregisterObject("/", QDBusConnection::UnregisterTree);
+        for (const QString& service : offered)
+            servicesBus.unregisterService(service);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        platform::RunLoop::setMain(nullptr);
+    }
+    void offer(const QString& service) {
+        ASSERT_TRUE(servicesBus.registerService(service));
+        offered.append(service);
+    }
+    static bool waitFor(const std::function<bool()>& done) {
+        const QDeadlineTimer deadline(10000);
+        while (!done() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        return done();
+    }
+    bool waitForCalls(qsizetype count) {
+        return waitFor([&] { return services.calls.size() >= count; });
+    }
+    /// Whatever was asked before has come by now: messages of one sender stay in order.
+    void expectNoFurtherCall() {
+        const QStringList before = services.calls;
+        bus->setBacklight("fence", 0);
+        ASSERT_TRUE(waitForCalls(before.size() + 1));
+        EXPECT_EQ(services.calls.mid(0, before.size()), before);
+        EXPECT_TRUE(services.calls.takeLast().contains("SetBrightness"));
+    }
+
+    static inline std::unique_ptr<QProcess> daemon;
+    // Connections live as long as the application they were made in.
+    static inline std::unique_ptr<QCoreApplication> application;
+    static inline int argumentCount = 1;
+    static inline char name[5] = "test";
+    static inline char* arguments[2] = {name, nullptr};
+    ManualRunLoop runLoop;
+    CapturedLog log;
+    FakeServices services;
+    QStringList offered;
+    QDBusConnection servicesBus =
+        QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), "services");
+    std::unique_ptr<SessionBus> bus = std::make_unique<SessionBus>();
+    const QString inhibit = "/org/freedesktop/ScreenSaver org.freedesktop.ScreenSaver.Inhibit(Lumaro|Playing a movie)";
+    const QString release = "/org/freedesktop/ScreenSaver org.freedesktop.ScreenSaver.UnInhibit(7)";
+};
+
+} // namespace
+
+TEST_F(SessionBusTest, the_screen_saver_is_kept_away_while_asked_and_a_short_pause_asks_nothing) {
+    offer(saver);
+    offer(loginManager);
+    bus->setInhibited(true);
+    runLoop.advance(0.9);
+    expectNoFurtherCall();
+    runLoop.advance(0.2);
+    ASSERT_TRUE(waitForCalls(1));
+    EXPECT_EQ(services.calls, QStringList{inhibit});
+
+    bus->setInhibited(false);
+    runLoop.advance(0.5);
+    bus->setInhibited(true);
+    runLoop.advance(2);
+    expectNoFurtherCall();
+    EXPECT_EQ(services.calls, QStringList{inhibit});
+
+    bus->setInhibited(false);
+    runLoop.advance(1.1);
+    ASSERT_TRUE(waitForCalls(2));
+    EXPECT_EQ(services.calls.last(), release);
+
+    bus->setInhibited(true);
+    runLoop.advance(1.1);
+    ASSERT_TRUE(waitForCalls(3));
+    bus->suspend(); // its answer comes after the one that is waited for
+    ASSERT_TRUE(waitFor([&] { return log.contains("ERROR: SessionBus: Can't suspend"); }));
+    bus.reset();
+    ASSERT_TRUE(waitForCalls(5)) << "who goes lets the screen saver come again";
+    EXPECT_EQ(services.calls.last(), release);
+}
+
+TEST_F(SessionBusTest, an_answer_that_comes_when_nobody_wants_it_any_more_is_given_back) {
+    offer(saver);
+    services.repliesLate = true;
+    bus->setInhibited(true);
+    runLoop.advance(1.1);
+    ASSERT_TRUE(waitForCalls(1));
+    bus->setInhibited(false);
+    runLoop.advance(1.1);
+    services.repliesLate = false;
+    services.answer(*services.unanswered, servicesBus);
+    ASSERT_TRUE(waitForCalls(2));
+    EXPECT_EQ(services.calls, (QStringList{inhibit, release}));
+}
+
+TEST_F(SessionBusTest, a_session_without_a_screen_saver_is_asked_through_the_portal) {
+    offer(portal);
+    bus->setInhibited(true);
+    runLoop.advance(1.1);
+    ASSERT_TRUE(waitForCalls(1));
+    EXPECT_EQ(services.calls.last(), "/org/freedesktop/portal/desktop org.freedesktop.portal.Inhibit.Inhibit(|12|)");
+    bus->setInhibited(false);
+    // Its answer is on its way.
+    ASSERT_TRUE(waitFor([&] {
+        runLoop.advance(1.1);
+        return services.calls.size() > 1;
+    }));
+    EXPECT_EQ(services.calls.last(), "/request/1 org.freedesktop.portal.Request.Close()");
+}
+
+TEST_F(SessionBusTest, a_session_without_either_is_left_alone) {
+    offer(loginManager);
+    bus->setInhibited(true);
+    runLoop.advance(1.1);
+    expectNoFurtherCall();
+    bus->setInhibited(false);
+    runLoop.advance(1.1);
+    expectNoFurtherCall();
+    EXPECT_TRUE(services.calls.isEmpty());
+}
+
+TEST_F(SessionBusTest, the_login_manager_suspends_and_sets_the_light) {
+    offer(loginManager);
+    bus->setBacklight("intel_backlight", 300);
+    bus->suspend();
+    ASSERT_TRUE(waitForCalls(2));
+    EXPECT_EQ(services.calls,
+              (QStringList{"/org/freedesktop/login1/session/auto "
+                           "org.freedesktop.login1.Session.SetBrightness(backlight|intel_backlight|300)",
+                           "/org/freedesktop/login1 org.freedesktop.login1.Manager.Suspend(true)"}));
+    ASSERT_TRUE(waitFor([&] { return log.count("ERROR: SessionBus") > 0; }));
+    EXPECT_TRUE(log.contains("ERROR: SessionBus: Can't suspend: not now"));
+}
