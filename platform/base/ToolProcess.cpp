@@ -59,8 +59,8 @@ TextList environmentWith(const QStringList& changes) {
     return result;
 }
 
-void limit(decltype(RLIMIT_AS) resource, std::uint64_t most) {
-    const rlimit value{most, most};
+void limit(decltype(RLIMIT_AS) resource, std::uint64_t maximum) {
+    const rlimit value{maximum, maximum};
     ::setrlimit(resource, &value);
 }
 
@@ -115,21 +115,21 @@ bool canBeFound(const std::string& program) {
 /// A running program and the end of the pipe that it writes to.
 class Running {
 public:
-    Running(pid_t process, int pipe)
+    Running(pid_t process, int pipe, const ToolRequest& request)
         : _process(process)
-        , _pipe(pipe) {}
+        , _pipe(pipe)
+        , _request(request) {}
 
     /// Hands over what there is to read, waiting for it a little.
-    void read(const std::function<void(const QByteArray&)>& output) {
+    void read() {
         constexpr int tick = 50;
         constexpr int tickWithoutPipe = 5;
         pollfd state{_pipe, POLLIN, 0};
-        if (::poll(&state, 1, _pipe < 0 ? tickWithoutPipe : tick) <= 0)
-            return;
-        drain(output, 1);
+        if (::poll(&state, 1, _pipe < 0 ? tickWithoutPipe : tick) > 0)
+            drain(1);
     }
     /// At most so many pieces: what the program started may go on writing.
-    void drain(const std::function<void(const QByteArray&)>& output, int pieces) {
+    void drain(int pieces) {
         std::array<char, 65536> piece{};
         while (_pipe >= 0 && pieces-- > 0) {
             const ssize_t count = ::read(_pipe, piece.data(), piece.size());
@@ -137,10 +137,11 @@ public:
                 return;
             if (count <= 0)
                 closePipe();
-            else if (output)
-                output(QByteArray(piece.data(), count));
+            else
+                handOver(QByteArray(piece.data(), count));
         }
     }
+    bool saidTooMuch() const { return _request.maximumOutput && _said > *_request.maximumOutput; }
     void closePipe() {
         if (_pipe >= 0)
             ::close(_pipe);
@@ -160,23 +161,34 @@ public:
     void kill() const { ::kill(-_process, SIGKILL); }
 
 private:
+    void handOver(QByteArray piece) {
+        const qsizetype before = _said;
+        _said += piece.size();
+        if (saidTooMuch())
+            piece.truncate(std::max<qsizetype>(*_request.maximumOutput - before, 0));
+        if (_request.output && !piece.isEmpty())
+            _request.output(piece);
+    }
+
     pid_t _process;
     int _pipe;
+    const ToolRequest& _request;
+    qsizetype _said = 0;
 };
 
 int waitFor(Running& running, const ToolRequest& request) {
     using Clock = std::chrono::steady_clock;
-    const auto deadline = Clock::now() + std::chrono::duration<double>(request.longestSeconds);
+    const auto deadline = Clock::now() + std::chrono::duration<double>(request.timeout);
     for (;;) {
-        running.read(request.output);
+        running.read();
         if (running.hasEnded()) {
             running.kill(); // what it left running
             constexpr int piecesInAPipe = 16;
-            running.drain(request.output, piecesInAPipe);
+            running.drain(piecesInAPipe);
             running.closePipe();
             return running.status();
         }
-        if (Clock::now() > deadline || (request.mayGoOn && !request.mayGoOn()))
+        if (Clock::now() > deadline || running.saidTooMuch() || (request.mayGoOn && !request.mayGoOn()))
             running.kill();
     }
 }
@@ -211,7 +223,7 @@ std::optional<int> runTool(const ToolRequest& request) {
         return std::nullopt;
     }
     ::setpgid(process, process); // whichever of the two comes first
-    Running running(process, ends[0]);
+    Running running(process, ends[0], request);
     return waitFor(running, request);
 }
 

@@ -16,8 +16,8 @@ struct ToolRequest {
     /// A path, or a name to be looked up in the folders of PATH.
     QString program;
     QStringList arguments;
-    /// After this long the program and what it has started are killed.
-    double longestSeconds = 60;
+    /// In seconds: after this long the program and what it has started are killed.
+    double timeout = 60;
     /// Where it runs, when given.
     QString folder;
     /// "NAME=value", over the variables it would have otherwise.
@@ -29,6 +29,8 @@ struct ToolRequest {
     bool dropsErrors = false;
     /// Called with each piece of its output while it runs.
     std::function<void(const QByteArray&)> output;
+    /// When it says more than so many bytes, it is killed; `output` gets no more than these.
+    std::optional<qsizetype> maximumOutput;
     /// Asked some twenty times a second: the program is killed when the answer is no.
     std::function<bool()> mayGoOn;
 };

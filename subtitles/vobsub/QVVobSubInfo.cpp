@@ -117,7 +117,7 @@ QString QVVobSubInfo::_extractSubFile(const QString& archive, const QString& bas
                              QStringLiteral("-cl"),
                              archive,
                              temporary};
-        request.longestSeconds = longestToolSeconds;
+        request.timeout = longestToolSeconds;
         request.output = _processOutput;
         trace("%@: Launching UNRAR:", className);
         status = platform::runTool(request);

@@ -14,7 +14,7 @@ platform::ToolRequest shell(const char* script) {
     platform::ToolRequest request;
     request.program = QString("sh");
     request.arguments = {QString("-c"), script};
-    request.longestSeconds = 20;
+    request.timeout = 20;
     return request;
 }
 
@@ -23,7 +23,7 @@ platform::ToolRequest shell(const char* script) {
 TEST(ToolProcess, limits_end_the_program_and_what_it_started) {
     const QTemporaryDir folder;
     auto slow = shell("sleep 1000 & echo $!; sleep 1000");
-    slow.longestSeconds = 0.2;
+    slow.timeout = 0.2;
     pid_t child = 0;
     slow.output = [&](const QByteArray& piece) { child = piece.trimmed().toInt(); };
     EXPECT_EQ(platform::runTool(slow), 128 + SIGKILL);
@@ -44,4 +44,43 @@ TEST(ToolProcess, limits_end_the_program_and_what_it_started) {
     auto eater = shell("head -c 400000000 /dev/zero | tail -c 400000000 > /dev/null");
     eater.memory = 100'000'000;
     EXPECT_EQ(platform::runTool(eater), 1);
+
+    auto talker = shell("yes");
+    talker.maximumOutput = 100'000;
+    qsizetype said = 0;
+    talker.output = [&](const QByteArray& piece) { said += piece.size(); };
+    EXPECT_EQ(platform::runTool(talker), 128 + SIGKILL);
+    EXPECT_EQ(said, 100'000);
+    auto terse = shell("printf 12345");
+    terse.maximumOutput = 5;
+    EXPECT_EQ(platform::runTool(terse), 0);
+}
+
+TEST(ToolProcess, how_it_ended_is_said_and_what_cannot_be_started_is_nothing) {
+    const struct {
+        const char* script;
+        int status;
+    } cases[] = {{"exit 3", 3}, {"kill -TERM $$", 128 + SIGTERM}, {"test -z \"$(cat)\"", 0}};
+    for (const auto& [script, status] : cases)
+        EXPECT_EQ(platform::runTool(shell(script)), status) << script;
+
+    auto missing = shell("");
+    for (const char* program : {"", "no such program", "/etc/passwd"}) {
+        missing.program = program;
+        EXPECT_EQ(platform::runTool(missing), std::nullopt) << program;
+    }
+
+    const QTemporaryDir folder;
+    auto teller = shell("echo \"$LUMARO_TEST\"; pwd; echo complaint >&2");
+    teller.environment = {QString("LUMARO_TEST=a b")};
+    teller.folder = folder.path();
+    QByteArray told;
+    teller.output = [&](const QByteArray& piece) { told += piece; };
+    teller.dropsErrors = true;
+    EXPECT_EQ(platform::runTool(teller), 0);
+    EXPECT_EQ(told, "a b\n" + QFile::encodeName(folder.path()) + '\n');
+    told.clear();
+    teller.dropsErrors = false;
+    EXPECT_EQ(platform::runTool(teller), 0);
+    EXPECT_TRUE(told.endsWith("complaint\n"));
 }

@@ -72,17 +72,14 @@ QString linkArchive(const QString& archive, const QString& room) {
 }
 
 ArchiveListing listingOf(const QString& archive, const QString& room) {
-    constexpr qsizetype longestListing = 64 * 1024 * 1024;
+    constexpr qsizetype maximumListing = 64 * 1024 * 1024;
     QByteArray json;
     auto request = limited(QStringLiteral("lsar"),
                            {QStringLiteral("-json-ascii"), QStringLiteral("-no-recursion"), archive}, room);
-    request.longestSeconds = limits::secondsToList;
+    request.timeout = limits::secondsToList;
     request.dropsErrors = true;
-    request.output = [&](const QByteArray& piece) {
-        if (json.size() <= longestListing)
-            json.append(piece);
-    };
-    request.mayGoOn = [&] { return json.size() <= longestListing; };
+    request.output = [&](const QByteArray& piece) { json.append(piece); };
+    request.maximumOutput = maximumListing;
     const auto status = platform::runTool(request);
     ArchiveListing listing;
     if (!status)
@@ -105,7 +102,7 @@ QString extract(const QString& archive, const ArchiveListing& listing, const QSt
                             QStringLiteral("-indexes"), QStringLiteral("-output-directory"), folder, archive} +
                     listing.indexes,
                 room);
-    request.longestSeconds = limits::secondsToExtract;
+    request.timeout = limits::secondsToExtract;
     request.dropsErrors = true;
     const auto fits = [&] {
         const FolderContents contents = contentsOf(native(folder));
