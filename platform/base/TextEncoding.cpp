@@ -16,6 +16,7 @@ namespace platform {
 
 namespace {
 
+using textEncoding::gb18030;
 using textEncoding::utf16;
 using textEncoding::utf16BigEndian;
 using textEncoding::utf8;
@@ -97,6 +98,20 @@ std::string tellingLines(std::string_view bytes, char escape) {
             lines.append(line.substr(0, detectorsSample - lines.size())).push_back('\n');
     }
     return lines;
+}
+
+/// GB 18030 has no character of the one byte 0x80. ICU refuses it up to release 72 and takes it for a euro sign in 76,
+/// and then guesses Chinese where there is none.
+bool hasSingleEuro(std::string_view bytes) {
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(bytes[at]);
+        if (byte == 0x80)
+            return true;
+        // Of four bytes, the third and fourth are like the first and second.
+        if (byte > 0x80)
+            ++at;
+    }
+    return false;
 }
 
 /// The number for a name of the detector. What it calls ISO is in practice the Windows encoding that contains it.
@@ -243,7 +258,7 @@ bool TextDecoder::append(std::string_view bytes, QString& text) {
         u_strFromUTF8(target, room, &length, bytes.data(), size, &error);
     else
         length = ucnv_toUChars(_converter->handle.get(), target, room, bytes.data(), size, &error);
-    const bool decoded = U_SUCCESS(error);
+    const bool decoded = U_SUCCESS(error) && !(_encoding == gb18030 && hasSingleEuro(bytes));
     text.resize(decoded ? before + length : before);
     return decoded;
 }

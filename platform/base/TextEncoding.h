@@ -21,6 +21,7 @@ inline constexpr std::uint32_t utf16 = 10;
 inline constexpr std::uint32_t utf16BigEndian = 0x90000100;
 inline constexpr std::uint32_t utf16LittleEndian = 0x94000100;
 inline constexpr std::uint32_t windows1252 = 12;
+inline constexpr std::uint32_t gb18030 = 0x80000632;
 } // namespace textEncoding
 
 /// The numbers of the encodings that text can be decoded with here; not "automatic". Any thread.
