@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/ScriptedToolkit.h"
 
+#include "platform/base/RunLoop.h"
 #include "platform/movie/Movie.h"
 
 #include <algorithm>
@@ -109,12 +110,32 @@ platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
     return info;
 }
 
+platform::OpenedMovie ScriptedToolkit::answerOf(const QUrl& url) const {
+    const auto script = scripts.constFind(url);
+    if (script == scripts.cend())
+        return {plainMovie(url), platform::movieError::none};
+    return {script->opens ? std::optional(plainMovie(url)) : std::nullopt, script->error};
+}
+
 std::optional<platform::MovieInfo> ScriptedToolkit::open(const QUrl& url) {
     if (whileOpening)
         whileOpening(url);
-    const auto script = scripts.constFind(url);
-    if (script == scripts.cend())
-        return plainMovie(url);
-    _stickyError = script->error;
-    return script->opens ? std::optional(plainMovie(url)) : std::nullopt;
+    platform::OpenedMovie opened = answerOf(url);
+    if (opened.error != platform::movieError::none)
+        _stickyError = opened.error;
+    return std::move(opened.info);
+}
+
+std::unique_ptr<platform::MovieOpening>
+ScriptedToolkit::openAsync(const QUrl& url, std::function<void(platform::OpenedMovie)> completion) {
+    struct Opening final : platform::MovieOpening {
+        std::shared_ptr<std::function<void(platform::OpenedMovie)>> completion;
+    };
+    auto opening = std::make_unique<Opening>();
+    opening->completion = std::make_shared<std::function<void(platform::OpenedMovie)>>(std::move(completion));
+    platform::RunLoop::main().post([weak = std::weak_ptr(opening->completion), opened = answerOf(url)] {
+        if (const auto call = weak.lock())
+            (*call)(opened);
+    });
+    return opening;
 }

@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 /// A player without pictures: the test moves the time of the movie loaded in it.
@@ -75,10 +76,13 @@ public:
     void enter() override { ++entered; }
     void exit() override { ++exited; }
     std::optional<platform::MovieInfo> open(const QUrl& url) override;
+    std::unique_ptr<platform::MovieOpening> openAsync(const QUrl& url,
+                                                      std::function<void(platform::OpenedMovie)> completion) override;
     std::int16_t stickyError() const override { return _stickyError; }
     void clearStickyError() override { _stickyError = 0; }
     platform::MoviePlayer& player() override { return scriptedPlayer; }
 
 private:
+    platform::OpenedMovie answerOf(const QUrl& url) const;
     std::int16_t _stickyError = 0;
 };

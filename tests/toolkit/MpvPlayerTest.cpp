@@ -7,7 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <memory>
 #include <string>
+#include <thread>
 
 using JumpReport = platform::MoviePlayer::JumpReport;
 
@@ -197,6 +200,37 @@ TEST(MpvPlayer, a_turned_movie_stands_upright) {
         const auto& [red, blue] = turns[turn];
         EXPECT_TRUE(rig.waitFor([&] { return rig.screen.at(red.x(), red.y()).isNear({200, 0, 0}); })) << turn;
         EXPECT_TRUE(rig.screen.at(blue.x(), blue.y()).isNear({0, 0, 255})) << turn;
+    }
+}
+
+TEST(MpvPlayer, shows_the_picture_decoded_ahead_of_the_movie_at_its_beginning_while_there_is_no_core) {
+    for (const int number : {0, 90}) {
+        ToolkitRig rig;
+        const QUrl url = numberedMovie();
+        const auto info = rig.toolkit.open(url);
+        ASSERT_TRUE(info);
+        platform::MpvPlayer player;
+        platform::Movie movie(*info, player);
+        movie.setTimeValue(number * picture);
+        const auto ahead = std::make_shared<platform::Delivery<std::shared_ptr<const platform::FirstPicture>>>();
+        player.setPreparedPicture({url, ahead});
+        player.load(&movie);
+        const auto shows = [&] {
+            const QRect whole(QPoint(0, 0), rig.screen.size());
+            return player.pictureLayer()->renderPixels(whole, whole, rig.screen.pixels(), rig.screen.stride());
+        };
+        EXPECT_FALSE(shows());
+        bool isDone = false;
+        std::jthread decoder([&] {
+            const std::atomic<bool> cancelled{false};
+            ahead->deliver(platform::FirstPicture::decode(url, cancelled));
+            rig.loop.post([&] { isDone = true; });
+        });
+        EXPECT_TRUE(rig.waitFor([&] { return isDone; }));
+        EXPECT_EQ(shows(), number == 0);
+        if (number == 0) {
+            EXPECT_EQ(rig.screen.number(), 0);
+        }
     }
 }
 

@@ -179,7 +179,7 @@ QByteArray addressOf(const QUrl& url) {
     return url.isLocalFile() ? "file:" + QFile::encodeName(url.toLocalFile()) : url.toEncoded();
 }
 
-ProbeResult probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled) {
+OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled) {
     const AvLibrary* av = AvLibrary::get();
     if (!av)
         return {std::nullopt, movieError::noMediaHandler};

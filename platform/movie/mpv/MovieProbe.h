@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/movie/Movie.h"
+#include "platform/movie/MovieToolkit.h"
 
 #include <QUrl>
 
 #include <atomic>
-#include <cstdint>
-#include <optional>
 
 namespace platform {
-
-/// What opening a movie gave.
-struct ProbeResult {
-    std::optional<MovieInfo> info;
-    std::int16_t error = 0;
-};
 
 /// Opens a movie with libavformat, reads its facts and closes it again. Only the header is read where that says
 /// everything; else the streams are looked into. Any thread; blocks, at most about `timeout` seconds, or until
 /// `cancelled` is set.
-ProbeResult probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled);
+OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled);
 
 /// Whether opening the URL may have to wait for a network.
 bool isNetworkURL(const QUrl& url);

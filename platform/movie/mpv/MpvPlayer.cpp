@@ -12,7 +12,6 @@
 #include <QEvent>
 #include <QFile>
 
-#include <chrono>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -31,8 +30,6 @@ constexpr QEvent::Type coreDeliveredEvent = static_cast<QEvent::Type>(QEvent::Us
 constexpr std::uint64_t timeProperty = 1;
 constexpr std::uint64_t endProperty = 2;
 
-// The first picture is worth asking for often: nothing else holds up the start then.
-constexpr double preparedPollInterval = 0.001;
 // How long the core is kept back for it at most.
 constexpr double firstPictureTimeout = 0.15;
 
@@ -47,7 +44,8 @@ MpvPlayer::~MpvPlayer() {
 void MpvPlayer::dropCore() {
     if (_movie)
         load(nullptr);
-    _preparedPoll.reset();
+    if (_prepared.picture)
+        _prepared.picture->abandon();
     _firstPictureWait.reset();
     _picture.setFirstShown(nullptr);
     _picture.setCore(nullptr);
@@ -123,7 +121,7 @@ void MpvPlayer::load(Movie* movie) {
     ++_loads;
     _picture.begin(movie ? movie->info().naturalSize : QSizeF());
     apply(playerEvent::Load{facts, start});
-    takePreparedPicture();
+    showPreparedPicture();
 }
 
 void MpvPlayer::apply(const PlayerEvent& event) {
@@ -139,21 +137,27 @@ void MpvPlayer::apply(const PlayerEvent& event) {
     }
 }
 
-void MpvPlayer::takePreparedPicture() {
-    if (!_prepared.picture.valid() || !_movie || _movie->url() != _prepared.url || time() != 0 ||
-        _picture.hasCorePicture()) {
-        _preparedPoll.reset();
+void MpvPlayer::setPreparedPicture(PreparedPicture prepared) {
+    _prepared = std::move(prepared);
+    if (!_prepared.picture)
         return;
-    }
-    if (_prepared.picture.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
-        _preparedPoll = RunLoop::main().schedule(preparedPollInterval, false, [this] { takePreparedPicture(); });
+    _prepared.picture->receive([this](std::shared_ptr<const FirstPicture> first) {
+        _preparedPicture = std::move(first);
+        if (_preparedPicture) {
+            showPreparedPicture();
+            return;
+        }
+        // There is nothing to wait for.
+        _prepared.url.clear();
+        if (_firstPictureWait)
+            _firstPictureWait->rearm(0);
+    });
+}
+
+void MpvPlayer::showPreparedPicture() {
+    if (!_preparedPicture || !_movie || _movie->url() != _prepared.url || time() != 0 || _picture.hasCorePicture())
         return;
-    }
-    _preparedPoll.reset();
-    auto first = _prepared.picture.get();
-    if (!first && _firstPictureWait)
-        _firstPictureWait->rearm(0);
-    _picture.setFirst(std::move(first));
+    _picture.setFirst(std::exchange(_preparedPicture, nullptr));
     if (_observer)
         _observer->playerPictureChanged();
 }

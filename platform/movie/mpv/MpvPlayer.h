@@ -3,6 +3,7 @@
 
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MoviePlayer.h"
+#include "platform/movie/mpv/Delivery.h"
 #include "platform/movie/mpv/MpvPicture.h"
 #include "platform/movie/mpv/PlayerState.h"
 
@@ -13,7 +14,6 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <future>
 #include <memory>
 #include <utility>
 
@@ -23,10 +23,10 @@ namespace platform {
 
 class MpvCore;
 
-/// A first picture that is being decoded ahead, of the movie at the URL.
+/// A first picture that is being decoded ahead, of the movie at the URL; null where none comes.
 struct PreparedPicture {
     QUrl url;
-    std::future<std::shared_ptr<const FirstPicture>> picture;
+    std::shared_ptr<Delivery<std::shared_ptr<const FirstPicture>>> picture;
 };
 
 /// The player on libmpv. What is asked of it is kept as the wanted state, answered at once, and carried out
@@ -37,7 +37,8 @@ public:
     MpvPlayer();
     ~MpvPlayer() override;
 
-    void setPreparedPicture(PreparedPicture prepared) { _prepared = std::move(prepared); }
+    /// Shows it with the movie at its URL, once it is there.
+    void setPreparedPicture(PreparedPicture prepared);
     /// Calls `work` once the prepared picture was shown, or soon, when there is none to wait for.
     void whenFirstPictureIsDone(std::function<void()> work);
     /// Unloads the movie and ends the core.
@@ -66,7 +67,7 @@ public:
 private:
     bool event(QEvent* event) override;
     void adoptCore();
-    void takePreparedPicture();
+    void showPreparedPicture();
     void handleEvents();
     void handle(const mpv_event& event);
     void picturesDue();
@@ -103,7 +104,7 @@ private:
     std::unique_ptr<MpvCore> _core;
     MpvPicture _picture;
     PreparedPicture _prepared;
-    std::unique_ptr<Timer> _preparedPoll;
+    std::shared_ptr<const FirstPicture> _preparedPicture; // come, and not shown yet
     std::unique_ptr<Timer> _firstPictureWait;
     Observer* _observer = nullptr;
     Movie* _movie = nullptr;

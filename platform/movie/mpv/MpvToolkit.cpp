@@ -2,13 +2,11 @@
 #include "platform/movie/mpv/MpvToolkit.h"
 
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
-#include <QTimer>
 
-#include <chrono>
 #include <clocale>
 #include <utility>
 
@@ -28,16 +26,15 @@ MpvToolkit::~MpvToolkit() {
 }
 
 void MpvToolkit::prepare(const QUrl& url) {
-    std::promise<ProbeResult> probed;
-    std::promise<std::shared_ptr<const FirstPicture>> decoded;
+    std::promise<OpenedMovie> probed;
     _prepared = probed.get_future();
     _preparedUrl = url.isLocalFile() ? url : QUrl();
-    _firstPicture = {_preparedUrl, decoded.get_future()};
+    _firstPicture = {_preparedUrl, std::make_shared<Delivery<std::shared_ptr<const FirstPicture>>>()};
     _preparer =
-        std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = std::move(decoded)]() mutable {
+        std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = _firstPicture.picture]() mutable {
             AvLibrary::get();
-            probed.set_value(url.isEmpty() ? ProbeResult{} : probeMovie(url, localTimeout, _cancelled));
-            decoded.set_value(url.isEmpty() ? nullptr : FirstPicture::decode(url, _cancelled));
+            probed.set_value(url.isEmpty() ? OpenedMovie{} : probeMovie(url, localTimeout, _cancelled));
+            decoded->deliver(url.isEmpty() ? nullptr : FirstPicture::decode(url, _cancelled));
         });
 }
 
@@ -57,6 +54,7 @@ void MpvToolkit::enter() {
 
 void MpvToolkit::exit() {
     _cancelled = true;
+    _opener.cancelAll();
     if (_preparer.joinable())
         _preparer.join();
     if (_coreMaker.joinable())
@@ -69,32 +67,39 @@ MoviePlayer& MpvToolkit::player() {
 }
 
 std::optional<MovieInfo> MpvToolkit::open(const QUrl& url) {
-    ProbeResult result;
+    OpenedMovie opened;
     if (_prepared.valid() && !url.isEmpty() && url == _preparedUrl)
-        result = _prepared.get();
+        opened = _prepared.get();
     else if (isNetworkURL(url))
-        result = probeWhileRunning(url);
+        opened = openWhileRunning(url);
     else
-        result = probeMovie(url, localTimeout, _cancelled);
-    if (result.error != movieError::none)
-        _stickyError = result.error;
-    return std::move(result.info);
+        opened = probeMovie(url, localTimeout, _cancelled);
+    if (opened.error != movieError::none)
+        _stickyError = opened.error;
+    return std::move(opened.info);
 }
 
-ProbeResult MpvToolkit::probeWhileRunning(const QUrl& url) {
-    auto answer = std::async(std::launch::async, [this, url] { return probeMovie(url, networkTimeout, _cancelled); });
+std::unique_ptr<MovieOpening> MpvToolkit::openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) {
+    const double timeout = isNetworkURL(url) ? networkTimeout : localTimeout;
+    return _opener.open(
+        [url, timeout](const std::atomic<bool>& cancelled) { return probeMovie(url, timeout, cancelled); },
+        std::move(completion));
+}
+
+OpenedMovie MpvToolkit::openWhileRunning(const QUrl& url) {
     QEventLoop loop;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
-            loop.quit();
+    // Where the application ends meanwhile, the loop does so without an answer, and nothing is opened any more.
+    OpenedMovie answer{std::nullopt, movieError::timedOut};
+    bool answered = false;
+    const auto opening = openAsync(url, [&](OpenedMovie opened) {
+        answer = std::move(opened);
+        answered = true;
+        loop.quit();
     });
-    poll.start(5);
     loop.exec();
-    // The application ends while the address has not answered: the probe gives up at once.
-    if (answer.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+    if (!answered)
         _cancelled = true;
-    return answer.get();
+    return answer;
 }
 
 } // namespace platform

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "platform/movie/MovieToolkit.h"
-#include "platform/movie/mpv/MovieProbe.h"
+#include "platform/movie/mpv/MovieOpener.h"
 #include "platform/movie/mpv/MpvPlayer.h"
 
 #include <atomic>
+#include <functional>
 #include <future>
 #include <memory>
+#include <optional>
 #include <thread>
 
 namespace platform {
@@ -27,20 +29,22 @@ public:
     void enter() override;
     void exit() override;
     std::optional<MovieInfo> open(const QUrl& url) override;
+    std::unique_ptr<MovieOpening> openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) override;
     std::int16_t stickyError() const override { return _stickyError; }
     void clearStickyError() override { _stickyError = movieError::none; }
     MoviePlayer& player() override;
 
 private:
-    ProbeResult probeWhileRunning(const QUrl& url);
+    OpenedMovie openWhileRunning(const QUrl& url);
 
     std::atomic<bool> _cancelled{false};
     bool _entered = false;
     QUrl _preparedUrl;
-    std::future<ProbeResult> _prepared;
+    std::future<OpenedMovie> _prepared;
     PreparedPicture _firstPicture;
     std::thread _preparer;
     std::thread _coreMaker;
+    MovieOpener _opener;
     MpvPlayer _player;
     std::int16_t _stickyError = movieError::none;
 };
