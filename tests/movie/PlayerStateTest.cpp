@@ -387,6 +387,7 @@ TEST(PlayerState, an_end_during_a_seek_counts_once_that_is_done) {
     EXPECT_FALSE(player.state().atEnd) << "the seek led away from it";
     EXPECT_EQ(player(EndChanged{true}), "");
     EXPECT_EQ(player(SetRate{2, 0}), "speed 2 | state") << "may be asked for meanwhile";
+    EXPECT_EQ(player(TimeChanged{9.8}), "") << "still on the way";
     player(PictureDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, speed 1 | state, end");
 

@@ -146,8 +146,8 @@ public:
     }
 
     void operator()(const playerEvent::TimeChanged& changed) {
-        if (!isOfMovie() || _s.file != File::shown || _s.seeks.isBusy() || _s.scrub ||
-            _s.timeSource == TimeSource::asked)
+        // While it loads the seeks are held, and while it scrubs the time is the one asked for.
+        if (!isOfMovie() || _s.seeks.isBusy() || _s.timeSource == TimeSource::asked)
             return;
         std::int32_t time = toUnits(changed.seconds);
         if (_s.movie->duration > 0)
