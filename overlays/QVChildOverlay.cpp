@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVChildOverlay.h"
 
+#include "overlays/StyleTable.h"
 #include "platform/base/UserDefaults.h"
 #include "settings/Tracing.h"
 
@@ -10,14 +11,14 @@ QVChildOverlay::QVChildOverlay(const Environment& environment, platform::Window&
     _content.setFrame(contentView().bounds());
 
     // Straight into the panel: the content to lay out is made by the subclass, after this.
-    const auto defaults = styleDefaults();
+    const OverlayStyle values = styleValues();
     _content.setBackgroundColor(backgroundColor());
-    _content.setBackgroundOn(styleValue(defaults, &QVOverlayStyleDefaults::backgroundOn));
-    _content.setBackgroundRounded(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRounded));
-    _content.setRadius(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRadius));
-    _content.setFrameOn(styleValue(defaults, &QVOverlayStyleDefaults::frameOn));
-    _content.setFrameWidth(styleValue(defaults, &QVOverlayStyleDefaults::frameWidth));
-    _alignStyle = static_cast<std::uint32_t>(styleValue(defaults, &QVOverlayStyleDefaults::alignment));
+    _content.setBackgroundOn(values.backgroundOn);
+    _content.setBackgroundRounded(values.backgroundRounded);
+    _content.setRadius(values.backgroundRadius);
+    _content.setFrameOn(values.frameOn);
+    _content.setFrameWidth(values.frameWidth);
+    _alignStyle = static_cast<std::uint32_t>(values.alignment);
     _padding = environment.settings.floatForKey(kQVOverlayDefaultPadding);
 
     _onParentResize = environment.notifications.observe<platform::WindowDidResizeNotification>(
@@ -106,28 +107,15 @@ void QVChildOverlay::setFrame(const platform::Rect& frame) {
     _content.setFrame(contentView().bounds());
 }
 
-bool QVChildOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
-    bool handledAll = notification.key == style();
-    if (handledAll) {
-        const auto defaults = styleDefaults();
-        for (const QString& key : notification.styleKeys) {
-            if (key == kBackgroundOn) {
-                setBackgroundOn(styleValue(defaults, &QVOverlayStyleDefaults::backgroundOn));
-            } else if (key == kBackgroundRounded) {
-                setBackgroundRounded(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRounded));
-            } else if (key == kBackgroundRadius) {
-                setRadius(styleValue(defaults, &QVOverlayStyleDefaults::backgroundRadius));
-            } else if (key == kFrameOn) {
-                setFrameOn(styleValue(defaults, &QVOverlayStyleDefaults::frameOn));
-            } else if (key == kFrameWidth) {
-                setFrameWidth(styleValue(defaults, &QVOverlayStyleDefaults::frameWidth));
-            } else if (key == kAlignment) {
-                _alignStyle = static_cast<std::uint32_t>(styleValue(defaults, &QVOverlayStyleDefaults::alignment));
-                contentSizeChanged();
-            } else {
-                handledAll = false;
-            }
-        }
-    }
-    return handledAll || QVStyledOverlay::preferencesChanged(notification);
+bool QVChildOverlay::takeStyle(const QString& key, const OverlayStyle& style) {
+    using Overlay = QVChildOverlay;
+    static const StyleTable<Overlay> table{
+        {&OverlayStyle::backgroundOn, &Overlay::setBackgroundOn},
+        {&OverlayStyle::backgroundRounded, &Overlay::setBackgroundRounded},
+        {&OverlayStyle::backgroundRadius, &Overlay::setRadius},
+        {&OverlayStyle::frameOn, &Overlay::setFrameOn},
+        {&OverlayStyle::frameWidth, &Overlay::setFrameWidth},
+        {&OverlayStyle::alignment, &Overlay::setAlignmentStyle},
+    };
+    return table.take(*this, key, style) || QVStyledOverlay::takeStyle(key, style);
 }

@@ -45,10 +45,10 @@ public:
     virtual void parentSizeChanged() { contentSizeChanged(); }
 
     void setFrame(const platform::Rect& frame) override;
-    bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
 
 protected:
     const char* logName() const override { return "QVChildOverlay"; }
+    bool takeStyle(const QString& key, const OverlayStyle& style) override;
 
     /// Told the new frame before it is applied: the place to lay the content out in it.
     virtual void adoptNewOverlayFrame(const platform::Rect& frame);

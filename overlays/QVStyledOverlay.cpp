@@ -2,9 +2,9 @@
 #include "overlays/QVStyledOverlay.h"
 
 #include "overlays/QVFadeCalculator.h"
+#include "overlays/StyleTable.h"
+#include "settings/QVOverlayStyleDefaults.h"
 #include "settings/Tracing.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -14,11 +14,6 @@ constexpr double kFadingStep = 0.05;
 /// Seconds that a style may ask for.
 constexpr double kLongestInterval = 60;
 
-/// A limit as the window can show it. Written so that a value that is no number falls to 0.
-float shown(float alpha) {
-    return alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
-}
-
 /// Written so that an interval that is no number counts as none.
 bool takesTime(double interval) {
     return interval >= kFadingStep;
@@ -26,9 +21,7 @@ bool takesTime(double interval) {
 
 /// A fade or a hold of the style in seconds. Launching and quitting wait for fades: one that nobody would wait for, or
 /// that is no number, counts as none.
-double styleInterval(const std::optional<QVOverlayStyleDefaults>& style,
-                     double (QVOverlayStyleDefaults::*getter)() const) {
-    const double interval = styleValue(style, getter);
+double fadeOfStyle(double interval) {
     return interval <= kLongestInterval ? interval : 0;
 }
 
@@ -44,13 +37,13 @@ QVStyledOverlay::QVStyledOverlay(const Environment& environment, const platform:
     : platform::Window(contentRect)
     , _environment(environment)
     , _style(style) {
-    const auto defaults = styleDefaults();
-    Window::setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
-    _fadingInInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingInInterval);
-    _fadingOutInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
-    _fadingDelayInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
-    _maxAlpha = styleValue(defaults, &QVOverlayStyleDefaults::maxAlpha);
-    _minAlpha = styleValue(defaults, &QVOverlayStyleDefaults::minAlpha);
+    const OverlayStyle values = styleValues();
+    Window::setBackgroundColor(values.backgroundColor.value_or(QColor()));
+    _fadingInInterval = fadeOfStyle(values.fadingInInterval);
+    _fadingOutInterval = fadeOfStyle(values.fadingOutInterval);
+    _fadingDelayInterval = fadeOfStyle(values.fadingDelayInterval);
+    _maxAlpha = values.maxAlpha;
+    _minAlpha = values.minAlpha;
     setAlphaValue(_minAlpha);
 
     platform::NotificationCenter& center = _environment.notifications;
@@ -64,8 +57,9 @@ QVStyledOverlay::QVStyledOverlay(const Environment& environment, const platform:
 
 QVStyledOverlay::~QVStyledOverlay() = default;
 
-std::optional<QVOverlayStyleDefaults> QVStyledOverlay::styleDefaults() const {
-    return QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(_environment.settings, _style);
+OverlayStyle QVStyledOverlay::styleValues() const {
+    const auto defaults = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(_environment.settings, _style);
+    return defaults ? defaults->values() : OverlayStyle();
 }
 
 void QVStyledOverlay::show() {
@@ -74,7 +68,7 @@ void QVStyledOverlay::show() {
     if (_fadingState == FadingState::fadingIn)
         return;
     _fadingState = FadingState::fadingIn;
-    if (!takesTime(_fadingInInterval) || alphaValue() >= shown(_maxAlpha)) {
+    if (!takesTime(_fadingInInterval) || alphaValue() >= shownAlpha(_maxAlpha)) {
         setAlphaValue(_maxAlpha);
         postFadeIn();
         return;
@@ -90,7 +84,7 @@ void QVStyledOverlay::hide() {
         return;
     _fadingState = FadingState::fadingOut;
     const double interval = fadingOutInterval();
-    if (!takesTime(interval) || alphaValue() <= shown(_minAlpha)) {
+    if (!takesTime(interval) || alphaValue() <= shownAlpha(_minAlpha)) {
         setAlphaValue(_minAlpha);
         postFadeOut();
         return;
@@ -102,16 +96,16 @@ void QVStyledOverlay::hide() {
 }
 
 void QVStyledOverlay::doFadeIn(const QVFadeCalculator& calculator) {
-    if (alphaValue() < shown(_maxAlpha))
+    if (alphaValue() < shownAlpha(_maxAlpha))
         setAlphaValue(static_cast<float>(calculator.valueNow()));
-    if (alphaValue() >= shown(_maxAlpha))
+    if (alphaValue() >= shownAlpha(_maxAlpha))
         postFadeIn();
 }
 
 void QVStyledOverlay::doFadeOut(const QVFadeCalculator& calculator) {
-    if (alphaValue() > shown(_minAlpha))
+    if (alphaValue() > shownAlpha(_minAlpha))
         setAlphaValue(static_cast<float>(calculator.valueNow()));
-    if (alphaValue() <= shown(_minAlpha))
+    if (alphaValue() <= shownAlpha(_minAlpha))
         postFadeOut();
 }
 
@@ -185,33 +179,43 @@ void QVStyledOverlay::setMinAlpha(float alpha) {
 bool QVStyledOverlay::isVisible() const {
     if (!isOrderedIn() || _fadingState == FadingState::fadingOut)
         return false;
-    return alphaValue() > shown(_minAlpha) || _fadingState == FadingState::fadingIn;
+    return alphaValue() > shownAlpha(_minAlpha) || _fadingState == FadingState::fadingIn;
 }
 
 bool QVStyledOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key != _style)
         return false;
-    const auto defaults = styleDefaults();
+    const OverlayStyle values = styleValues();
     bool handledAll = true;
-    for (const QString& key : notification.styleKeys) {
-        if (key == kBackgroundColor) {
-            setBackgroundColor(styleValue(defaults, &QVOverlayStyleDefaults::backgroundColor).value_or(QColor()));
-            contentView().setNeedsDisplay();
-        } else if (key == kFadingInInterval) {
-            _fadingInInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingInInterval);
-        } else if (key == kFadingOutInterval) {
-            _fadingOutInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingOutInterval);
-        } else if (key == kFadingDelayInterval) {
-            _fadingDelayInterval = styleInterval(defaults, &QVOverlayStyleDefaults::fadingDelayInterval);
-        } else if (key == kMinAlpha) {
-            setMinAlpha(styleValue(defaults, &QVOverlayStyleDefaults::minAlpha));
-        } else if (key == kMaxAlpha) {
-            setMaxAlpha(styleValue(defaults, &QVOverlayStyleDefaults::maxAlpha));
-        } else {
-            handledAll = false;
-        }
-    }
+    for (const QString& key : notification.styleKeys)
+        handledAll = takeStyle(key, values) && handledAll;
     return handledAll;
+}
+
+bool QVStyledOverlay::takeStyle(const QString& key, const OverlayStyle& style) {
+    using Overlay = QVStyledOverlay;
+    static const StyleTable<Overlay> table{
+        {&OverlayStyle::backgroundColor,
+         [](Overlay& overlay, const OverlayStyle& values) {
+             overlay.setBackgroundColor(values.backgroundColor.value_or(QColor()));
+             overlay.contentView().setNeedsDisplay();
+         }},
+        {&OverlayStyle::fadingInInterval,
+         [](Overlay& overlay, const OverlayStyle& values) {
+             overlay._fadingInInterval = fadeOfStyle(values.fadingInInterval);
+         }},
+        {&OverlayStyle::fadingOutInterval,
+         [](Overlay& overlay, const OverlayStyle& values) {
+             overlay._fadingOutInterval = fadeOfStyle(values.fadingOutInterval);
+         }},
+        {&OverlayStyle::fadingDelayInterval,
+         [](Overlay& overlay, const OverlayStyle& values) {
+             overlay._fadingDelayInterval = fadeOfStyle(values.fadingDelayInterval);
+         }},
+        {&OverlayStyle::minAlpha, &Overlay::setMinAlpha},
+        {&OverlayStyle::maxAlpha, &Overlay::setMaxAlpha},
+    };
+    return table.take(*this, key, style);
 }
 
 void QVStyledOverlay::movieViewSizeChanged(const QVMovieViewSizeChangedNotification&) {}

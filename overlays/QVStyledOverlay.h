@@ -6,14 +6,12 @@
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/window/Window.h"
-#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/OverlayStyle.h"
 #include "settings/QVPreferencesChangedNotification.h"
 
 #include <QString>
 
 #include <memory>
-#include <optional>
-#include <type_traits>
 
 class QVFadeCalculator;
 
@@ -40,7 +38,6 @@ public:
     /// Starts the hold, or starts it again.
     void delay();
     FadingState fadingState() const { return _fadingState; }
-    bool isAutopop() const { return _autopop; }
 
     /// Seconds; a fade that runs keeps the interval with which it began.
     double fadingInInterval() const { return _fadingInInterval; }
@@ -74,8 +71,11 @@ protected:
     virtual void postFadeOut();
 
     const Environment& environment() const { return _environment; }
-    /// The style as it stands in the settings now, or nothing when it is not registered.
-    std::optional<QVOverlayStyleDefaults> styleDefaults() const;
+    /// The style as it stands in the settings now; all zero when it is not registered.
+    OverlayStyle styleValues() const;
+    /// Takes one value over from the style. False for a key that is of no concern. Who extends it hands on what it
+    /// does not know.
+    virtual bool takeStyle(const QString& key, const OverlayStyle& style);
 
 private:
     void postDelay();
@@ -97,14 +97,3 @@ private:
     platform::Subscription _onMovieViewSize;
     platform::Subscription _onCurrentMovie;
 };
-
-/// What a getter of the style answers; the zero value for a missing style.
-template <class Value>
-Value styleValue(const std::optional<QVOverlayStyleDefaults>& style, Value (QVOverlayStyleDefaults::*getter)() const) {
-    if (style)
-        return ((*style).*getter)();
-    if constexpr (std::is_same_v<Value, QSizeF>)
-        return QSizeF(0, 0); // a QSizeF of its own accord is no size at all
-    else
-        return Value();
-}

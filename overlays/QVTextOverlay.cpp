@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "overlays/QVTextOverlay.h"
 
+#include "overlays/StyleTable.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/window/Fonts.h"
 #include "settings/ColorText.h"
@@ -23,15 +24,14 @@ QVTextOverlay::QVTextOverlay(const Environment& environment, platform::Window& p
     : QVChildOverlay(environment, parent, style)
     , _containerWidth(parent.frame().width()) {
     overlayContentView().addSubview(_view);
-    const auto defaults = styleDefaults();
-    _base_font_size = static_cast<float>(styleValue(defaults, &QVOverlayStyleDefaults::textFontSize));
+    const OverlayStyle values = styleValues();
+    _base_font_size = static_cast<float>(values.textFontSize);
     _min_font_size = std::min(smallestFontSize(), _base_font_size);
-    _view.setFont(
-        platform::fontWithFamilyName(styleValue(defaults, &QVOverlayStyleDefaults::textFontName), _base_font_size));
-    const QColor color = styleValue(defaults, &QVOverlayStyleDefaults::textColor).value_or(QColor());
+    _view.setFont(platform::fontWithFamilyName(values.textFontName, _base_font_size));
+    const QColor color = values.textColor.value_or(QColor());
     _view.setTextColor(color);
     setFrameColor(color);
-    setShadowOn(styleValue(defaults, &QVOverlayStyleDefaults::shadowOn));
+    setShadowOn(values.shadowOn);
     sizeToFit();
 }
 
@@ -85,10 +85,8 @@ void QVTextOverlay::setTextColor(const QColor& color) {
 
 void QVTextOverlay::setShadowOn(bool flag) {
     if (flag && !_view.shadow()) {
-        const auto defaults = styleDefaults();
-        _view.setShadow(QVShadow{styleValue(defaults, &QVOverlayStyleDefaults::shadowOffset),
-                                 styleValue(defaults, &QVOverlayStyleDefaults::shadowBlurRadius),
-                                 styleValue(defaults, &QVOverlayStyleDefaults::shadowColor).value_or(QColor())});
+        const OverlayStyle values = styleValues();
+        _view.setShadow(QVShadow{values.shadowOffset, values.shadowBlurRadius, values.shadowColor.value_or(QColor())});
     } else if (!flag) {
         _view.setShadow(std::nullopt);
     }
@@ -137,24 +135,18 @@ void QVTextOverlay::adoptNewOverlayFrame(const platform::Rect& frame) {
     _view.setNeedsDisplay();
 }
 
-bool QVTextOverlay::changeStyle(const QString& key, const std::optional<QVOverlayStyleDefaults>& style) {
-    if (key == kTextColor)
-        setTextColor(styleValue(style, &QVOverlayStyleDefaults::textColor).value_or(QColor()));
-    else if (key == kTextFontName)
-        setTextFontName(styleValue(style, &QVOverlayStyleDefaults::textFontName));
-    else if (key == kTextFontSize)
-        setTextFontSize(static_cast<float>(styleValue(style, &QVOverlayStyleDefaults::textFontSize)));
-    else if (key == kShadowOn)
-        setShadowOn(styleValue(style, &QVOverlayStyleDefaults::shadowOn));
-    else if (key == kShadowColor)
-        setShadowColor(styleValue(style, &QVOverlayStyleDefaults::shadowColor).value_or(QColor()));
-    else if (key == kShadowRadius)
-        setShadowBlurRadius(styleValue(style, &QVOverlayStyleDefaults::shadowBlurRadius));
-    else if (key == kShadowOffset)
-        setShadowOffset(styleValue(style, &QVOverlayStyleDefaults::shadowOffset));
-    else
-        return false;
-    return true;
+bool QVTextOverlay::takeStyle(const QString& key, const OverlayStyle& style) {
+    using Overlay = QVTextOverlay;
+    static const StyleTable<Overlay> table{
+        {&OverlayStyle::textColor, &Overlay::setTextColor},
+        {&OverlayStyle::textFontName, &Overlay::setTextFontName},
+        {&OverlayStyle::textFontSize, &Overlay::setTextFontSize},
+        {&OverlayStyle::shadowOn, &Overlay::setShadowOn},
+        {&OverlayStyle::shadowColor, &Overlay::setShadowColor},
+        {&OverlayStyle::shadowBlurRadius, &Overlay::setShadowBlurRadius},
+        {&OverlayStyle::shadowOffset, &Overlay::setShadowOffset},
+    };
+    return table.take(*this, key, style) || QVChildOverlay::takeStyle(key, style);
 }
 
 bool QVTextOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
@@ -162,11 +154,5 @@ bool QVTextOverlay::preferencesChanged(const QVPreferencesChangedNotification& n
         setTextFontSizeMin(smallestFontSize());
         return false;
     }
-    bool handledAll = notification.key == style();
-    if (handledAll) {
-        const auto defaults = styleDefaults();
-        for (const QString& key : notification.styleKeys)
-            handledAll = changeStyle(key, defaults) && handledAll;
-    }
-    return handledAll || QVChildOverlay::preferencesChanged(notification);
+    return QVChildOverlay::preferencesChanged(notification);
 }

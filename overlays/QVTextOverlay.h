@@ -6,6 +6,8 @@
 
 #include <QFont>
 
+#include <optional>
+
 /// The platform's own objects serve as they are.
 using QVTextView = platform::TextView;
 using QVShadow = platform::Shadow;
@@ -53,13 +55,13 @@ public:
 
 protected:
     const char* logName() const override { return "QVTextOverlay"; }
+    bool takeStyle(const QString& key, const OverlayStyle& style) override;
     void adoptNewOverlayFrame(const platform::Rect& frame) override;
 
     const QVTextView& textView() const { return _view; }
 
 private:
     float smallestFontSize() const;
-    bool changeStyle(const QString& key, const std::optional<QVOverlayStyleDefaults>& style);
     template <class Change>
     void changeShadow(Change change);
 

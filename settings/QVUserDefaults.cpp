@@ -43,12 +43,12 @@ void migrateSubtitlesStyle(UserDefaults& defaults) {
 
     if (const QString color = defaults.stringForKey(kQVSubtitlesColor); !color.isNull()) {
         if (style)
-            style->setTextColor(JHColorFromString(color));
+            style->set(&OverlayStyle::textColor, JHColorFromString(color));
         defaults.removeObjectForKey(kQVSubtitlesColor);
     }
     if (const QString fontName = defaults.stringForKey(kQVSubtitlesFontName); !fontName.isNull()) {
         if (style)
-            style->setTextFontName(fontName);
+            style->set(&OverlayStyle::textFontName, fontName);
         defaults.removeObjectForKey(kQVSubtitlesFontName);
     }
     if (const QVariant smallest = defaults.objectForKey(kQVSubtitlesSizeMin); smallest.isValid()) {
@@ -57,7 +57,7 @@ void migrateSubtitlesStyle(UserDefaults& defaults) {
     }
     if (defaults.objectForKey(kQVSubtitlesSizeMax).isValid()) {
         if (style)
-            style->setTextFontSize(defaults.integerForKey(kQVSubtitlesSizeMax));
+            style->set(&OverlayStyle::textFontSize, defaults.integerForKey(kQVSubtitlesSizeMax));
         defaults.removeObjectForKey(kQVSubtitlesSizeMax);
     }
 }

@@ -79,9 +79,13 @@ void Window::setFrame(const Rect& frame) {
     }
 }
 
+float Window::shownAlpha(float alpha) {
+    // Written so that what is no number falls to 0.
+    return alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
+}
+
 void Window::setAlphaValue(float alpha) {
-    // Written so that a value that is no number falls to 0.
-    const float clamped = alpha > 0.0F ? std::min(alpha, 1.0F) : 0.0F;
+    const float clamped = shownAlpha(alpha);
     if (clamped == _alpha)
         return;
     // Composed anew from its cached picture: the content is the same. A window that vanishes is still seen before.

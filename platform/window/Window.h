@@ -53,6 +53,8 @@ public:
     float alphaValue() const { return _alpha; }
     /// Opacity of the whole window, 0 to 1 (clamped; not a number counts as 0).
     void setAlphaValue(float alpha);
+    /// An opacity as a window can have it: what lies outside 0 to 1 is clamped, what is no number is 0.
+    static float shownAlpha(float alpha);
     QColor backgroundColor() const { return _backgroundColor; }
     virtual void setBackgroundColor(const QColor& color);
     int level() const { return _level; }

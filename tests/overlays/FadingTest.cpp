@@ -104,7 +104,9 @@ TEST_F(Fading, popping_up_shows_holds_and_hides) {
     EXPECT_EQ(overlay.fadingState(), State::fadingIn);
     advance(4);
     EXPECT_EQ(overlay.fadingState(), State::idle);
-    EXPECT_FALSE(overlay.isAutopop());
+    overlay.show();
+    advance(10);
+    EXPECT_EQ(overlay.alphaValue(), 1) << "what is shown stays, though it popped up before";
 }
 
 TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {

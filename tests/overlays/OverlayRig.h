@@ -13,18 +13,18 @@ struct OverlayRig {
     OverlayRig() {
         window.orderFront();
         auto style = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(settings.defaults(), kQVDefaultOverlayStyle);
-        style->setFadingInInterval(1);
-        style->setFadingOutInterval(0.5);
-        style->setFadingDelayInterval(2);
-        style->setMinAlpha(0);
-        style->setMaxAlpha(1);
-        style->setAlignment(0x121);
-        style->setBackgroundOn(true);
-        style->setBackgroundRounded(true);
-        style->setBackgroundRadius(10);
-        style->setFrameOn(true);
-        style->setFrameWidth(2);
-        style->setShadowOn(false);
+        style->set(&OverlayStyle::fadingInInterval, 1);
+        style->set(&OverlayStyle::fadingOutInterval, 0.5);
+        style->set(&OverlayStyle::fadingDelayInterval, 2);
+        style->set(&OverlayStyle::minAlpha, 0);
+        style->set(&OverlayStyle::maxAlpha, 1);
+        style->set(&OverlayStyle::alignment, 0x121);
+        style->set(&OverlayStyle::backgroundOn, true);
+        style->set(&OverlayStyle::backgroundRounded, true);
+        style->set(&OverlayStyle::backgroundRadius, 10);
+        style->set(&OverlayStyle::frameOn, true);
+        style->set(&OverlayStyle::frameWidth, 2);
+        style->set(&OverlayStyle::shadowOn, false);
         settings.defaults().setInteger(12, kQVOverlayTextFontSizeMin);
         settings.defaults().setFloat(20, kQVOverlayDefaultPadding);
     }

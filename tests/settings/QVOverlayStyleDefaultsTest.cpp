@@ -28,18 +28,38 @@ protected:
 
 TEST_F(QVOverlayStyleDefaultsTest, a_change_covers_its_own_value_alone) {
     auto plain = style(kQVDefaultOverlayStyle);
-    plain->setTextFontSize(25);
+    plain->set(&OverlayStyle::textFontSize, 25);
     EXPECT_EQ(settings.defaults().persistentDomain()[kQVOverlayStyles].toMap(),
               (QVariantMap{{"Plain", QVariantMap{{kTextFontSize, 25}}}}));
-    EXPECT_EQ(style(kQVOSDOverlayStyle)->textFontSize(), 30);
-    plain->setFadingInInterval(0.3);
-    EXPECT_EQ(plain->fadingInInterval(), static_cast<double>(0.3F)) << "read in single precision";
-    plain->setShadowOffset({2, -2});
-    plain->setTextColor(std::nullopt);
-    EXPECT_EQ(plain->textFontSize(), 25);
-    EXPECT_EQ(plain->shadowOffset(), QSizeF(2, -2));
-    EXPECT_EQ(plain->textColor(), QColor(0, 0, 255)) << "no colour is no change";
+    EXPECT_EQ(style(kQVOSDOverlayStyle)->values().textFontSize, 30);
+    plain->set(&OverlayStyle::textColor, std::nullopt);
+    EXPECT_EQ(plain->values().textFontSize, 25);
+    EXPECT_EQ(plain->values().textColor, QColor(0, 0, 255)) << "no colour is no change";
     EXPECT_EQ(style("missing")->key(), "Plain");
     settings.defaults().setObject("Gone", kQVOSDOverlayStyle);
     EXPECT_FALSE(style(kQVOSDOverlayStyle));
+}
+
+TEST_F(QVOverlayStyleDefaultsTest, each_value_is_stored_in_its_own_form_under_its_own_key) {
+    auto plain = style(kQVDefaultOverlayStyle);
+    plain->set(&OverlayStyle::textColor, QColor(Qt::red));
+    plain->set(&OverlayStyle::textFontName, "Serif");
+    plain->set(&OverlayStyle::shadowOffset, {2, -2});
+    plain->set(&OverlayStyle::shadowBlurRadius, 1.5F);
+    plain->set(&OverlayStyle::frameOn, true);
+    plain->set(&OverlayStyle::fadingInInterval, 0.3);
+    EXPECT_EQ(settings.defaults().persistentDomain()[kQVOverlayStyles].toMap()["Plain"].toMap(),
+              (QVariantMap{{"TextColor", "1 0 0 1"},
+                           {"TextFontName", "Serif"},
+                           {"ShadowOffset", "2 -2"},
+                           {"ShadowRadius", 1.5F},
+                           {"FrameOn", true},
+                           {"FadingInInterval", 0.3F}}));
+    const OverlayStyle values = plain->values();
+    EXPECT_EQ(values.textColor, QColor(Qt::red));
+    EXPECT_EQ(values.textFontName, "Serif");
+    EXPECT_EQ(values.shadowOffset, QSizeF(2, -2));
+    EXPECT_EQ(values.fadingInInterval, static_cast<double>(0.3F)) << "kept in single precision";
+    EXPECT_EQ(values.shadowColor, std::nullopt) << "in neither style";
+    EXPECT_EQ(values.maxAlpha, 0);
 }

@@ -43,9 +43,10 @@ TEST(QVUserDefaults, each_migration_step_runs_for_the_builds_before_it) {
             EXPECT_NE(defaults.hasStoredValue(key), third) << key.toStdString();
         const auto style = Styles::overlayStyleDefaultsWithKey(settings.defaults(), kQVSubtitlesOverlayStyle);
         ASSERT_TRUE(style);
-        EXPECT_EQ(style->textColor() == QColor(255, 0, 0), third);
-        EXPECT_EQ(style->textFontName() == "Serif", third);
-        EXPECT_EQ(style->textFontSize() == 41, third);
+        const OverlayStyle values = style->values();
+        EXPECT_EQ(values.textColor == QColor(255, 0, 0), third);
+        EXPECT_EQ(values.textFontName == "Serif", third);
+        EXPECT_EQ(values.textFontSize == 41, third);
         EXPECT_EQ(defaults.integerForKey(kQVOverlayTextFontSizeMin) == 17, third);
         EXPECT_NE(defaults.hasStoredValue(kLegacyVersionMirrorsKey), fourth);
         EXPECT_EQ(defaults.integerForKey(kQVLastVersionSeen), last);
@@ -65,13 +66,11 @@ TEST(QVUserDefaults, the_shipped_values_keep_to_their_ranges_and_every_style_is_
                                     kQVSubtitlesOverlayStyle, kQVVobSubOverlayStyle, kQVFullscreenOverlayStyle}) {
         const auto style = Styles::overlayStyleDefaultsWithKey(defaults, selector);
         ASSERT_TRUE(style) << selector.toStdString();
-        for (const QString& key :
-             {kTextColor, kTextFontName, kTextFontSize, kShadowOn, kShadowColor, kShadowRadius, kShadowOffset,
-              kBackgroundOn, kBackgroundColor, kBackgroundRounded, kBackgroundRadius, kFrameOn, kFrameWidth, kAlignment,
-              kFadingInInterval, kFadingOutInterval, kFadingDelayInterval, kMinAlpha, kMaxAlpha})
+        for (const auto& [key, field] : OverlayStyle::entries())
             EXPECT_TRUE(style->objectForKey(key).isValid()) << selector.toStdString() << " " << key.toStdString();
-        EXPECT_TRUE(style->textColor() && style->shadowColor() && style->backgroundColor());
-        EXPECT_GT(style->maxAlpha(), style->minAlpha());
+        const OverlayStyle values = style->values();
+        EXPECT_TRUE(values.textColor && values.shadowColor && values.backgroundColor);
+        EXPECT_GT(values.maxAlpha, values.minAlpha);
     }
     EXPECT_TRUE(log.lines().isEmpty());
 }
