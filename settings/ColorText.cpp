@@ -2,7 +2,6 @@
 #include "settings/ColorText.h"
 
 #include "platform/base/NumberText.h"
-#include "platform/base/UserDefaults.h"
 
 #include <QByteArray>
 
@@ -79,21 +78,4 @@ QSizeF JHSizeFromString(const QString& text) {
 QString JHStringFromSize(const QSizeF& size) {
     return QString::fromLatin1(platform::generalText(size.width(), kSignificantDigits) + ' ' +
                                platform::generalText(size.height(), kSignificantDigits));
-}
-
-std::optional<QColor> colorForKey(const platform::UserDefaults& defaults, const QString& key) {
-    return JHColorFromString(defaults.stringForKey(key));
-}
-
-void setColor(platform::UserDefaults& defaults, const std::optional<QColor>& color, const QString& key) {
-    const QString text = JHStringFromColor(color);
-    defaults.setObject(text.isNull() ? QVariant() : QVariant(text), key);
-}
-
-QSizeF sizeForKey(const platform::UserDefaults& defaults, const QString& key) {
-    return JHSizeFromString(defaults.stringForKey(key));
-}
-
-void setSize(platform::UserDefaults& defaults, const QSizeF& size, const QString& key) {
-    defaults.setObject(JHStringFromSize(size), key);
 }

@@ -7,10 +7,6 @@
 
 #include <optional>
 
-namespace platform {
-class UserDefaults;
-}
-
 /// The text forms of colours ("%g %g %g %g": red, green, blue, alpha, each 0 to 1) and sizes ("%g %g": width, height in
 /// points).
 
@@ -21,8 +17,3 @@ std::optional<QColor> JHColorFromString(const QString& text);
 QString JHStringFromColor(const std::optional<QColor>& color);
 QSizeF JHSizeFromString(const QString& text);
 QString JHStringFromSize(const QSizeF& size);
-
-std::optional<QColor> colorForKey(const platform::UserDefaults& defaults, const QString& key);
-void setColor(platform::UserDefaults& defaults, const std::optional<QColor>& color, const QString& key);
-QSizeF sizeForKey(const platform::UserDefaults& defaults, const QString& key);
-void setSize(platform::UserDefaults& defaults, const QSizeF& size, const QString& key);

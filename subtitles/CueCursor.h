@@ -16,12 +16,10 @@ struct CueTimes {
 /// first, after the last on the last.
 class CueCursor {
 public:
-    /// A cursor that was not placed, or was cleared, must not be asked for anything else.
-    bool isPlaced() const { return _index != noIndex; }
-    std::size_t index() const { return _index; }
-    /// On one of the cues.
+    /// Puts the cursor on one of the cues; before that, and after clear(), it must not be asked for anything.
     void place(const CueTimes& times, std::size_t index);
     void clear();
+    std::size_t index() const { return _index; }
 
     /// Whether the cue at the cursor, with this start and end, is still the one to look at. The cheap question before
     /// a search; it needs none of the other cues.

@@ -44,9 +44,7 @@ public:
     void toggleSubtitles() { setDisplaySubtitles(!_subtitlesOn); }
     bool isSubtitlesOn() const { return _subtitlesOn; }
 
-    bool isSubtitlesPresent() const { return !_subtitles.empty(); }
     std::uint32_t count() const { return static_cast<std::uint32_t>(_subtitles.size()); }
-    std::uint32_t subtitlesCount() const { return count(); }
     /// The position of the current track, or all bits set for none.
     std::uint32_t index() const { return _index; }
     /// Goes on to the next track (1) or back (-1), with "off" after the last; nothing without tracks.

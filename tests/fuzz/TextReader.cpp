@@ -5,7 +5,6 @@
 #include "subtitles/text/QVMicroDVDSubtitles.h"
 #include "subtitles/text/QVSubRipSubtitles.h"
 #include "subtitles/text/QVTMPlayerSubtitles.h"
-#include "tests/support/ManualRunLoop.h"
 
 #include <QByteArray>
 
@@ -18,10 +17,6 @@ namespace {
 /// What a reader needs around it while it is fed with bytes.
 class FuzzRoom final : public SubtitleOwner {
 public:
-    FuzzRoom() {
-        platform::RunLoop::setMain(&_loop);
-        platform::UserDefaults::setStandard(&_defaults);
-    }
     const platform::UserDefaults& settings() const { return _defaults; }
     std::int32_t timeScale() const override { return 90000; }
     float frameRate() override { return 23.976F; }
@@ -32,7 +27,6 @@ private:
         QVariantMap load() override { return {}; }
         bool store(const QVariantMap&) override { return true; }
     };
-    ManualRunLoop _loop;
     platform::UserDefaults _defaults{std::make_unique<Nowhere>()};
 };
 
