@@ -28,9 +28,8 @@ platform::Rect chosenFrame(const platform::UserDefaults& settings, const platfor
 
 QVFullScreenWindow::QVFullScreenWindow(const Environment& environment, Collaborators collaborators)
     : QVParentOverlay(environment, chosenFrame(environment.settings, collaborators.desktop), kQVFullscreenOverlayStyle)
-    , _environment(environment)
     , _with(std::move(collaborators)) {
-    setLevel(_environment.settings.integerForKey(kQVMainWindowLayer));
+    setLevel(environment.settings.integerForKey(kQVMainWindowLayer));
     addTrackingRects();
 }
 
@@ -105,6 +104,6 @@ bool QVFullScreenWindow::keyDown(const platform::KeyEvent& event) {
 bool QVFullScreenWindow::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key != kQVMainWindowLayer)
         return QVParentOverlay::preferencesChanged(notification);
-    setLevel(_environment.settings.integerForKey(kQVMainWindowLayer));
+    setLevel(environment().settings.integerForKey(kQVMainWindowLayer));
     return true;
 }

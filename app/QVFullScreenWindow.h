@@ -55,7 +55,6 @@ protected:
 private:
     int _directionWithTag(int tag) const;
 
-    Environment _environment;
     Collaborators _with;
     std::array<int, 8> _trackingTags{}; // in the order of the areas; 0 for none
     bool _terminating = false;

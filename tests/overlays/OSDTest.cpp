@@ -2,6 +2,7 @@
 #include "context/Notifications.h"
 #include "overlays/ClockText.h"
 #include "overlays/OSDTexts.h"
+#include "overlays/OverlaysOnDemand.h"
 #include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVOSDOverlay.h"
 #include "tests/overlays/OverlayRig.h"
@@ -53,6 +54,20 @@ TEST_F(OSD, refreshes_only_on_what_its_display_shows) {
         osd.setDisplayType(c.type);
         EXPECT_EQ(texts.asked, asked) << c.type;
     }
+}
+
+TEST_F(OSD, is_made_when_there_is_something_to_show) {
+    OSDOnDemand display(rig.settings.environment, rig.window, texts);
+    const std::size_t before = rig.window.childWindows().size();
+    display.setDisplayType(0);
+    EXPECT_EQ(display.displayType(), 0);
+    EXPECT_EQ(rig.window.childWindows().size(), before) << "its fonts hold up the first picture";
+    display.cycleDisplays(-1);
+    EXPECT_EQ(display.displayType(), 5);
+    EXPECT_EQ(display.overlay().text(), "Volume: 50%");
+    display.setDisplayType(0);
+    EXPECT_EQ(display.displayType(), 0);
+    EXPECT_EQ(rig.window.childWindows().size(), before + 1);
 }
 
 TEST(ClockText, hours_are_neither_padded_nor_limited) {
