@@ -287,7 +287,8 @@ TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
 
 TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_sound_back) {
     addMovies(2);
-    view.start();
+    controller.performAction(action::playPause, Feedback::no);
+    EXPECT_EQ(pointer.cursorHides, 1);
     controller.performAction(action::fastForward, Feedback::yes);
     controller.performAction(action::fastForward, Feedback::yes);
     EXPECT_EQ(view.rate(), 4.0F);
@@ -299,7 +300,7 @@ TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_so
     EXPECT_EQ(posted(), text("Movie: Play"));
     controller.performAction(action::playPause, Feedback::yes);
     EXPECT_FALSE(view.isPlaying());
-    EXPECT_EQ(pointer.cursorHides, 1);
+    EXPECT_EQ(pointer.cursorHides, 2) << "hidden when it plays on, not when it pauses";
 
     view.start();
     controller.performAction(action::fastForward, Feedback::no);
@@ -407,23 +408,29 @@ TEST_F(MovieController, Changing_screens_hides_the_window_and_moves_it_when_it_h
     EXPECT_TRUE(press(key::tab));
     EXPECT_EQ(posted(), text("Screen: Next"));
     EXPECT_EQ(settings.defaults().integerForKey(kQVMainWindowScreen), 2);
-    settings.runLoop.advance(confirmations.readingTime() + 0.11);
+    settings.runLoop.advance(confirmations.readingTime() + 0.09);
+    EXPECT_TRUE(mainWindow.calls.isEmpty()) << "the confirmation is being read";
+    settings.runLoop.advance(0.02);
     EXPECT_EQ(mainWindow.calls, QStringList{"hide"});
+    settings.runLoop.advance(0.45);
     EXPECT_EQ(mainWindow.adopted.number, 0U);
     settings.runLoop.advance(0.5);
     EXPECT_EQ(mainWindow.adopted.number, 3U);
 }
 
-TEST_F(MovieController, Sleep_waits_for_its_confirmation_and_closing_the_window_quits) {
+TEST_F(MovieController, Sleep_and_quit_wait_until_their_confirmation_is_read_and_closing_the_window_quits_at_once) {
     const double reading = confirmations.readingTime();
-    ASSERT_GT(reading, 0.5);
     controller.performAction(action::sleep, Feedback::no);
-    EXPECT_FALSE(controller.windowShouldClose(window));
+    controller.performAction(action::quit, Feedback::yes);
     settings.runLoop.advance(reading - 0.01);
-    EXPECT_EQ(desktop.sleeps, 0) << "its confirmation is still being read";
+    EXPECT_EQ(desktop.sleeps, 0);
+    EXPECT_EQ(desktop.terminations, 0);
     settings.runLoop.advance(0.02);
     EXPECT_EQ(desktop.sleeps, 1);
     EXPECT_EQ(desktop.terminations, 1);
+    EXPECT_FALSE(controller.windowShouldClose(window));
+    settings.runLoop.runPending();
+    EXPECT_EQ(desktop.terminations, 2);
 }
 
 TEST_F(MovieController, A_resized_main_window_gets_new_edge_areas_and_a_new_picture_size) {
