@@ -185,6 +185,14 @@ TEST(PlayerState, a_seek_shows_the_keyframe_first_and_holds_the_time_asked_for) 
     EXPECT_EQ(player(Seek{0, silent}), "seek 0 exact | state");
     moveTo(player, 700);
     EXPECT_EQ(player.time(), 700);
+
+    // Also where it had played before.
+    player(Play{});
+    player(TimeChanged{7.04});
+    player(SetRate{0, 0});
+    moveTo(player, 200);
+    EXPECT_EQ(player(TimeChanged{1.96}), "");
+    EXPECT_EQ(player.time(), 200);
 }
 
 TEST(PlayerState, a_seek_keeps_within_the_movie) {
@@ -398,6 +406,15 @@ TEST(PlayerState, an_end_during_a_seek_counts_once_that_is_done) {
     EXPECT_EQ(paused(SetRate{-1, 0}), "arm scrub 0.0833333 | state") << "backwards there is more";
     moveTo(paused, 990);
     EXPECT_EQ(paused(EndChanged{true}), "");
+
+    for (const bool plays : {false, true}) {
+        PlayerScript exact = PlayerScript::showing();
+        exact(Seek{0, silent});
+        exact(EndChanged{true});
+        exact(SetRate{plays ? 1.0F : 0.0F, 0});
+        exact(PictureDue{});
+        EXPECT_EQ(exact(PlaybackRestarted{}), plays ? "cancel keyframe | state, end" : "cancel keyframe");
+    }
 }
 
 TEST(PlayerState, a_movie_that_fails_ends_after_a_moment_each_time_it_is_started) {
@@ -415,6 +432,10 @@ TEST(PlayerState, a_movie_that_fails_ends_after_a_moment_each_time_it_is_started
     EXPECT_EQ(player(SetRate{0, 0}), "pause | state");
     EXPECT_EQ(player(failureTimeout), "") << "not while it is paused";
     EXPECT_EQ(player(SetRate{-1, 0}), "| state");
+    moveTo(player, 0);
+    EXPECT_EQ(player(SetRate{8, 0}), "arm scrub 0.0833333, arm failure 0.25 | state");
+    EXPECT_EQ(player(failureTimeout), "cancel scrub | state, end");
+    EXPECT_FALSE(player.state().scrub);
 
     player(Load{tenSeconds, 0});
     player(Play{});
