@@ -21,10 +21,10 @@ constexpr unsigned kFixedOne = 1U << 16; // of the fixed-point reciprocals
 
 /// One byte of coverage a pixel.
 struct Coverage {
-    Coverage(int width_, int height_)
-        : width(width_)
-        , height(height_)
-        , bytes(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_)) {}
+    Coverage(int columns, int rows)
+        : width(columns)
+        , height(rows)
+        , bytes(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows)) {}
 
     std::uint8_t* row(int y) { return bytes.data() + static_cast<std::ptrdiff_t>(y) * width; }
     const std::uint8_t* row(int y) const { return bytes.data() + static_cast<std::ptrdiff_t>(y) * width; }
