@@ -15,10 +15,10 @@ CueImages::CueImages(const QString& folder)
 
 /// The name of the subtitle file, made different from those of others in other folders.
 QString CueImages::prefixFor(const QString& path) {
-    constexpr qsizetype longestName = 60; // there is a limit to names of files, in bytes
+    constexpr qsizetype maximumNameLength = 60; // there is a limit to names of files, in bytes
     QString& prefix = _prefixes[path];
     if (prefix.isEmpty()) {
-        const QString name = QFileInfo(path).completeBaseName().left(longestName);
+        const QString name = QFileInfo(path).completeBaseName().left(maximumNameLength);
         prefix = name;
         for (int number = 2; _taken.contains(prefix); ++number)
             prefix = QStringLiteral("%1-%2").arg(name).arg(number);

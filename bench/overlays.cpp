@@ -8,9 +8,9 @@
 #include "overlays/QVImageSubView.h"
 #include "overlays/QVOSDOverlay.h"
 #include "overlays/QVParentOverlay.h"
-#include "platform/window/PictureLayer.h"
 #include "platform/window/SceneComposer.h"
 #include "platform/window/SceneGeometry.h"
+#include "platform/window/VideoLayer.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/support/TestEnvironment.h"
@@ -142,9 +142,9 @@ BENCHMARK(aNewBitmapCueFromRunLengthsToComposed)
     ->Unit(benchmark::kMicrosecond);
 
 /// A movie that takes no time: what is measured is what stands over it.
-class Movie : public platform::View, public platform::PictureLayer {
+class Movie : public platform::View, public platform::VideoLayer {
 public:
-    platform::PictureLayer* pictureLayer() override { return this; }
+    platform::VideoLayer* videoLayer() override { return this; }
     platform::Rect pictureRect() const override { return bounds(); }
     platform::Rect drawnRect() const override { return platform::Rect(); }
     bool renderPixels(const QRect&, const QRect&, unsigned char*, std::size_t) override { return true; }
@@ -199,7 +199,7 @@ void composingAFrameUnderThreeOverlays(benchmark::State& state) {
     for ([[maybe_unused]] const auto step : state)
         scene.composeFrame();
     state.counters["allocations"] =
-        benchmark::Counter(static_cast<double>(allocationsSoFar() - before), benchmark::Counter::kAvgIterations);
+        benchmark::Counter(static_cast<double>(allocationsSoFar() - before), benchmark::Counter::averagingPasses);
 }
 BENCHMARK(composingAFrameUnderThreeOverlays)
     ->ArgNames({"height", "shown"})

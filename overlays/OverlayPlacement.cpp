@@ -6,10 +6,10 @@
 
 namespace {
 
-constexpr double kFarthest = 1e6;
+constexpr double farthestCoordinate = 1e6;
 
 double usable(double points) {
-    return std::isfinite(points) ? std::clamp(points, -kFarthest, kFarthest) : 0;
+    return std::isfinite(points) ? std::clamp(points, -farthestCoordinate, farthestCoordinate) : 0;
 }
 
 double width(float points) {

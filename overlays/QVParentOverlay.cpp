@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::size_t kInitialCapacity = 10;
+constexpr std::size_t initialCapacity = 10;
 
 std::vector<QVStyledOverlay*> overlaysAbove(const platform::Window& parent) {
     std::vector<QVStyledOverlay*> overlays;
@@ -22,7 +22,7 @@ std::vector<QVStyledOverlay*> overlaysAbove(const platform::Window& parent) {
 QVParentOverlay::QVParentOverlay(const Environment& environment, const platform::Rect& contentRect,
                                  const QString& style)
     : QVStyledOverlay(environment, contentRect, style) {
-    _hiddenChldrens.reserve(kInitialCapacity);
+    _hiddenChldrens.reserve(initialCapacity);
 }
 
 void QVParentOverlay::hide() {

@@ -9,20 +9,20 @@
 namespace {
 
 /// Seconds between the steps of a fade; shorter fades are none.
-constexpr double kFadingStep = 0.05;
+constexpr double fadingStep = 0.05;
 
 /// Seconds that a style may ask for.
-constexpr double kLongestInterval = 60;
+constexpr double maximumInterval = 60;
 
 /// Written so that an interval that is no number counts as none.
 bool takesTime(double interval) {
-    return interval >= kFadingStep;
+    return interval >= fadingStep;
 }
 
 /// A fade or a hold of the style in seconds. Launching and quitting wait for fades: one that nobody would wait for, or
 /// that is no number, counts as none.
 double fadeOfStyle(double interval) {
-    return interval <= kLongestInterval ? interval : 0;
+    return interval <= maximumInterval ? interval : 0;
 }
 
 bool isWindowVisible(const platform::Window& window) {
@@ -76,7 +76,7 @@ void QVStyledOverlay::show() {
     trace("%@: Start Fading IN, interval: %f", logName(), QString::number(_fadingInInterval, 'f', 6));
     const auto calculator =
         QVFadeCalculator::fadeInCalculator(_environment.loop, _fadingInInterval, static_cast<double>(alphaValue()));
-    setFadeTimer(_environment.loop.schedule(kFadingStep, true, [this, calculator] { doFadeIn(calculator); }));
+    setFadeTimer(_environment.loop.schedule(fadingStep, true, [this, calculator] { doFadeIn(calculator); }));
 }
 
 void QVStyledOverlay::hide() {
@@ -92,7 +92,7 @@ void QVStyledOverlay::hide() {
     trace("%@: Start Fading OUT, interval: %f", logName(), QString::number(interval, 'f', 6));
     const auto calculator =
         QVFadeCalculator::fadeOutCalculator(_environment.loop, interval, static_cast<double>(alphaValue()));
-    setFadeTimer(_environment.loop.schedule(kFadingStep, true, [this, calculator] { doFadeOut(calculator); }));
+    setFadeTimer(_environment.loop.schedule(fadingStep, true, [this, calculator] { doFadeOut(calculator); }));
 }
 
 void QVStyledOverlay::doFadeIn(const QVFadeCalculator& calculator) {

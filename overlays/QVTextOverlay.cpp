@@ -12,7 +12,7 @@
 namespace {
 
 /// Room under the last line, as a share of the font's size.
-constexpr double kRoomBelow = 0.125;
+constexpr double spaceBelow = 0.125;
 
 QString wholePoints(float size) {
     return QString::number(static_cast<double>(size), 'f', 0);
@@ -120,7 +120,7 @@ void QVTextOverlay::recalculateFontSize() {
 
 void QVTextOverlay::sizeToFit() {
     const double height = parentWindow() ? parentWindow()->frame().height() : static_cast<double>(QVLargeNumberForText);
-    const double room = kRoomBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
+    const double room = spaceBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
     _view.setContainerSize(QSizeF(_containerWidth, height - room));
     _view.sizeToFit();
     const platform::Rect fitted = _view.frame();

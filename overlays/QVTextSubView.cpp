@@ -10,7 +10,7 @@
 namespace {
 
 /// The size code of a movie as large as the screen shows it whole.
-constexpr std::int32_t kFitScreen = 3;
+constexpr std::int32_t fitScreenSize = 3;
 
 QString twoDigits(double value) {
     return QString::number(value, 'g', 2);
@@ -54,7 +54,7 @@ void QVTextSubView::postFadeOut() {
 
 void QVTextSubView::recalculateFontSize() {
     const double width = _picture.pictureFrame().width();
-    const double fit = _picture.sizeForFitScreen(kFitScreen).width();
+    const double fit = _picture.sizeForFitScreen(fitScreenSize).width();
     const auto [size, ratio] = SubtitlePlacement::textSize(width, fit, textFontSizeMin(), textFontSize());
     setTextFont(platform::convertedFont(textFont(), size));
     trace("%@: Changed current subtitle size to: %.2g, (min: %.2g, max: %.2g ratio: %.2g)\n", logName(),

@@ -9,7 +9,7 @@ namespace {
 
 constexpr float kQVAspect4x3 = 1.3333334F;
 constexpr float kQVAspect16x9 = 1.7777778F;
-constexpr float kWideFrom = 1.5F;
+constexpr float wideFrom = 1.5F;
 
 } // namespace
 
@@ -45,7 +45,7 @@ platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const
 
 float frameAspect(float movieAspect) {
     // Written so that what is no number counts as wide.
-    return movieAspect < kWideFrom ? kQVAspect4x3 : kQVAspect16x9;
+    return movieAspect < wideFrom ? kQVAspect4x3 : kQVAspect16x9;
 }
 
 FrameScale frameScale(const QSizeF& frame, double viewWidth, float aspect) {

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kSignificantDigits = 6;
+constexpr int significantDigits = 6;
 
 float clampedComponent(double value) {
     return static_cast<float>(std::clamp(value, 0.0, 1.0));
@@ -23,7 +23,7 @@ quint16 heldComponent(float component) {
 /// The shortest text that reads back as the same component: a colour holds 16 bits of each, in which 0.5 is 0.500008.
 QByteArray componentText(float component) {
     QByteArray text;
-    for (int digits = 1; digits <= kSignificantDigits; ++digits) {
+    for (int digits = 1; digits <= significantDigits; ++digits) {
         text = platform::generalText(static_cast<double>(component), digits);
         QByteArrayView rest(text);
         if (heldComponent(clampedComponent(platform::takeNumber(rest).value_or(0))) == heldComponent(component))
@@ -76,6 +76,6 @@ QSizeF JHSizeFromString(const QString& text) {
 }
 
 QString JHStringFromSize(const QSizeF& size) {
-    return QString::fromLatin1(platform::generalText(size.width(), kSignificantDigits) + ' ' +
-                               platform::generalText(size.height(), kSignificantDigits));
+    return QString::fromLatin1(platform::generalText(size.width(), significantDigits) + ' ' +
+                               platform::generalText(size.height(), significantDigits));
 }

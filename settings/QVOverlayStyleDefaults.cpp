@@ -10,7 +10,7 @@ namespace value = platform::propertyValue;
 
 namespace {
 
-constexpr const char* kClassName = "QVOverlayStyleDefaults";
+constexpr const char* className = "QVOverlayStyleDefaults";
 
 } // namespace
 
@@ -18,11 +18,11 @@ std::optional<QVOverlayStyleDefaults>
 QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(platform::UserDefaults& defaults, const QString& selectorKey) {
     QString name = defaults.stringForKey(selectorKey);
     if (name.isNull()) {
-        trace("WARNING: %@: No default settings found for key: %@.", kClassName, selectorKey);
+        trace("WARNING: %@: No default settings found for key: %@.", className, selectorKey);
         name = defaults.stringForKey(kQVDefaultOverlayStyle);
     }
     if (!defaults.dictionaryForKey(kQVOverlayDefaultStyles).contains(name)) {
-        logAlways("ERROR: %@: No defaults found for key: %@.", kClassName, name);
+        logAlways("ERROR: %@: No defaults found for key: %@.", className, name);
         return std::nullopt;
     }
     return QVOverlayStyleDefaults(defaults, name);

@@ -18,8 +18,8 @@ constexpr std::int32_t kBuildWithLaunchActionAndArrangement = 23;
 constexpr std::int32_t kBuildWithSubtitlesStyle = 25;
 constexpr std::int32_t kBuildWithNewMirrorList = 38;
 
-constexpr std::int32_t kShowOpenPanel = 2;
-constexpr std::int32_t kOrderOfAdding = 0;
+constexpr std::int32_t showOpenPanel = 2;
+constexpr std::int32_t orderOfAdding = 0;
 
 void registerShippedDefaults(UserDefaults& defaults) {
     const QString path =
@@ -71,8 +71,8 @@ void migrate(UserDefaults& defaults) {
     if (last < kBuildWithoutFirstTimeFlag)
         defaults.removeObjectForKey(kQVRunFirstTimeConfig);
     if (last < kBuildWithLaunchActionAndArrangement) {
-        migrateSwitch(defaults, kQVOpenSavedPlaylist, kShowOpenPanel, kQVOnLaunchDefaultAction);
-        migrateSwitch(defaults, kQVSortPlaylist, kOrderOfAdding, kQVPlaylistDefaultArrangement);
+        migrateSwitch(defaults, kQVOpenSavedPlaylist, showOpenPanel, kQVOnLaunchDefaultAction);
+        migrateSwitch(defaults, kQVSortPlaylist, orderOfAdding, kQVPlaylistDefaultArrangement);
     }
     if (last < kBuildWithSubtitlesStyle)
         migrateSubtitlesStyle(defaults);

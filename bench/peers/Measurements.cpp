@@ -150,7 +150,7 @@ std::vector<const Player*> Measurements::turnOf(int round) const {
 std::unique_ptr<ChildProcess> Measurements::startPlaying(const Player& player, const std::string& movie,
                                                          const std::vector<std::string>& options) {
     auto process = player.start(_server.display(), {movie}, options);
-    if (!waitUntil([this] { return showsMovie(_probe); }, harness::patience, lookEvery))
+    if (!waitUntil([this] { return showsMovie(_probe); }, harness::defaultTimeout, lookEvery))
         throw std::runtime_error(player.name() + " shows no movie: " + process->errorOutput());
     return process;
 }

@@ -20,9 +20,9 @@ namespace platform {
 
 namespace {
 
-constexpr const char* kJournalSocket = "/run/systemd/journal/socket";
+constexpr const char* journalSocket = "/run/systemd/journal/socket";
 // How long a reader of standard error that has fallen behind is waited for. It is waited for once.
-constexpr int kPatienceMilliseconds = 200;
+constexpr int timeoutMilliseconds = 200;
 
 std::mutex sMutex;
 Log::Sink sSink;
@@ -33,7 +33,7 @@ void writeToStandardError(const QByteArray& line) {
     qsizetype done = 0;
     while (done < bytes.size()) {
         pollfd state{STDERR_FILENO, POLLOUT, 0};
-        const int ready = ::poll(&state, 1, sReaderIsStuck ? 0 : kPatienceMilliseconds);
+        const int ready = ::poll(&state, 1, sReaderIsStuck ? 0 : timeoutMilliseconds);
         // Writing to a pipe that nobody reads would end the process.
         if (ready < 0 && errno == EINTR)
             continue;
@@ -64,7 +64,7 @@ bool standardErrorIsTheJournal() {
 }
 
 int openJournal() {
-    if (::isatty(STDERR_FILENO) || ::access(kJournalSocket, W_OK) != 0 || standardErrorIsTheJournal())
+    if (::isatty(STDERR_FILENO) || ::access(journalSocket, W_OK) != 0 || standardErrorIsTheJournal())
         return -1;
     return ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
 }
@@ -93,7 +93,7 @@ void writeToJournal(const QByteArray& line) {
     appendField(datagram, "SYSLOG_IDENTIFIER", "lumaro");
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, kJournalSocket, sizeof(address.sun_path) - 1);
+    std::strncpy(address.sun_path, journalSocket, sizeof(address.sun_path) - 1);
     ::sendto(journal, datagram.constData(), static_cast<std::size_t>(datagram.size()), MSG_DONTWAIT | MSG_NOSIGNAL,
              reinterpret_cast<const sockaddr*>(&address), sizeof(address));
 }

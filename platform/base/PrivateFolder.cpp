@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kPrefix = "lumaro-private-";
+constexpr const char* prefix = "lumaro-private-";
 
 std::string folderFor(const QString& parent) {
     return QFile::encodeName(QDir(parent.isEmpty() ? QDir::tempPath() : parent).absolutePath()).toStdString();
@@ -76,7 +76,7 @@ PrivateFolder::PrivateFolder(QString path, int lock)
     , _lock(lock) {}
 
 std::unique_ptr<PrivateFolder> PrivateFolder::make(const QString& parent) {
-    const std::string pattern = folderFor(parent) + '/' + kPrefix + "XXXXXX";
+    const std::string pattern = folderFor(parent) + '/' + prefix + "XXXXXX";
     // A sweep that comes between making and locking removes the folder: then another one is made.
     for (int attempt = 0; attempt < 10; ++attempt) {
         std::string path = pattern;
@@ -105,7 +105,7 @@ PrivateFolder::~PrivateFolder() {
 void PrivateFolder::sweep(const QString& parent) {
     std::error_code error;
     for (fs::directory_iterator entry(folderFor(parent), error), end; !error && entry != end; entry.increment(error)) {
-        if (entry->path().filename().native().starts_with(kPrefix))
+        if (entry->path().filename().native().starts_with(prefix))
             removeAbandoned(entry->path());
     }
 }

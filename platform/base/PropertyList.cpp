@@ -13,13 +13,13 @@ namespace platform::propertyList {
 
 namespace {
 
-constexpr qsizetype kMaximumBytes = 16 * 1024 * 1024;
-constexpr int kMaximumDepth = 64;
-constexpr int kMaximumValues = 1'000'000;
+constexpr qsizetype maximumBytes = 16 * 1024 * 1024;
+constexpr int maximumDepth = 64;
+constexpr int maximumValues = 1'000'000;
 
 // XML has no place for control characters, but names of files do, and they are written as they are. While such a text
 // is read, these 32 code points, which are no characters and are kept free for such uses, stand in for them.
-constexpr char16_t kStandIns = 0xFDD0;
+constexpr char16_t standIns = 0xFDD0;
 
 bool isControl(QChar character) {
     return character < u' ' && character != u'\t' && character != u'\n' && character != u'\r';
@@ -29,7 +29,7 @@ QString readable(const QByteArray& bytes) {
     QString text = QString::fromUtf8(bytes);
     for (QChar& character : text) {
         if (isControl(character))
-            character = QChar(static_cast<char16_t>(kStandIns + character.unicode()));
+            character = QChar(static_cast<char16_t>(standIns + character.unicode()));
         else if (character >= QChar(0xFFFE))
             character = QChar::ReplacementCharacter;
     }
@@ -38,8 +38,8 @@ QString readable(const QByteArray& bytes) {
 
 QString withControls(QString text) {
     for (QChar& character : text) {
-        if (character >= QChar(kStandIns) && character < QChar(kStandIns + 0x20))
-            character = QChar(static_cast<char16_t>(character.unicode() - kStandIns));
+        if (character >= QChar(standIns) && character < QChar(standIns + 0x20))
+            character = QChar(static_cast<char16_t>(character.unicode() - standIns));
     }
     return text;
 }
@@ -95,7 +95,7 @@ private:
 
     /// The value whose element begins here; an invalid one at an error, and for a date that is none.
     QVariant value(int depth) {
-        if (depth > kMaximumDepth || ++_values > kMaximumValues) {
+        if (depth > maximumDepth || ++_values > maximumValues) {
             refuse();
             return {};
         }
@@ -267,11 +267,11 @@ private:
 } // namespace
 
 std::optional<QVariant> parse(const QByteArray& bytes) {
-    return bytes.size() > kMaximumBytes ? std::nullopt : XmlReader(bytes).document();
+    return bytes.size() > maximumBytes ? std::nullopt : XmlReader(bytes).document();
 }
 
 std::optional<QVariantMap> readDictionary(const QString& path) {
-    const auto bytes = readRegularFile(path, kMaximumBytes + 1);
+    const auto bytes = readRegularFile(path, maximumBytes + 1);
     const auto root = bytes ? parse(*bytes) : std::nullopt;
     return root && root->typeId() == QMetaType::QVariantMap ? std::optional(root->toMap()) : std::nullopt;
 }

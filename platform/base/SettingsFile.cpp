@@ -19,8 +19,8 @@ namespace platform {
 
 namespace {
 
-constexpr qsizetype kMaximumBytes = 16 * 1024 * 1024;
-constexpr int kMaximumLinks = 40;
+constexpr qsizetype maximumBytes = 16 * 1024 * 1024;
+constexpr int maximumLinks = 40;
 
 void logError(const QString& what, const QString& path, const QString& why) {
     Log::write(QStringLiteral("ERROR: SettingsFile: %1 %2: %3.").arg(what, path, why));
@@ -29,7 +29,7 @@ void logError(const QString& what, const QString& path, const QString& why) {
 /// The file behind the symbolic links, so that a rename replaces it and not the link. It need not exist.
 QString behindLinks(const QString& path) {
     QString target = path;
-    for (int links = 0; links < kMaximumLinks && QFileInfo(target).isSymLink(); ++links)
+    for (int links = 0; links < maximumLinks && QFileInfo(target).isSymLink(); ++links)
         target = QFileInfo(target).symLinkTarget();
     return target;
 }
@@ -68,8 +68,8 @@ QString SettingsFile::defaultPath() {
 QVariantMap SettingsFile::load() {
     _writable = true;
     int error = 0;
-    auto bytes = readRegularFile(_path, kMaximumBytes + 1, &error);
-    if (bytes && bytes->size() > kMaximumBytes) {
+    auto bytes = readRegularFile(_path, maximumBytes + 1, &error);
+    if (bytes && bytes->size() > maximumBytes) {
         bytes.reset();
         error = EFBIG;
     }

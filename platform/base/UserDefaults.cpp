@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 
-constexpr double kWriteDelay = 1.0;
+constexpr double writeDelay = 1.0;
 
 UserDefaults* sStandard = nullptr;
 
@@ -128,7 +128,7 @@ void UserDefaults::scheduleWrite() {
     _changed = true;
     // Not moved by later changes: what changes all the time is written all the same.
     if (!_writeTimer || !_writeTimer->isValid())
-        _writeTimer = RunLoop::main().schedule(kWriteDelay, false, [this] { synchronize(); });
+        _writeTimer = RunLoop::main().schedule(writeDelay, false, [this] { synchronize(); });
 }
 
 } // namespace platform

@@ -7,7 +7,7 @@
 namespace platform {
 
 class Movie;
-class PictureLayer;
+class VideoLayer;
 
 /// The process's one player: it plays the movie loaded in it. Times are in the loaded movie's time scale. Main thread;
 /// what it reports comes on the main thread too.
@@ -18,14 +18,14 @@ public:
     MoviePlayer& operator=(const MoviePlayer&) = delete;
     virtual ~MoviePlayer() = default;
 
-    /// Who shows the picture and the controls.
+    /// Who shows the frame and the controls.
     class Observer {
     public:
         virtual ~Observer() = default;
-        /// A new picture is ready to be rendered.
-        virtual void playerPictureChanged() = 0;
+        /// A new frame is ready to be rendered.
+        virtual void playerFrameChanged() = 0;
         /// The same while playing: now is the moment to show it.
-        virtual void playerPictureDue() { playerPictureChanged(); }
+        virtual void playerFrameDue() { playerFrameChanged(); }
         /// Time, playing or volume changed as a control bar shows them.
         virtual void playerStateChanged() = 0;
     };
@@ -48,9 +48,9 @@ public:
     virtual std::int32_t time() const = 0;
     /// Whether the player reports a time jump to the movie when it has moved.
     enum class JumpReport { silent, reported };
-    /// Moves to a time within the movie: the keyframe before it is shown at once, then the exact picture.
+    /// Moves to a time within the movie: the keyframe before it is shown at once, then the exact frame.
     virtual void seek(std::int32_t time, JumpReport report) = 0;
-    /// One picture forward (+1) or back (-1); pauses. Reports a time jump.
+    /// One frame forward (+1) or back (-1); pauses. Reports a time jump.
     virtual void step(int direction) = 0;
 
     /// Linear, 1.0 is full; kept within 0 to 3.
@@ -59,7 +59,7 @@ public:
     virtual bool isMuted() const = 0;
     virtual void setMuted(bool muted) = 0;
 
-    virtual PictureLayer* pictureLayer() = 0;
+    virtual VideoLayer* videoLayer() = 0;
 };
 
 } // namespace platform

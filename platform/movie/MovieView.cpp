@@ -145,8 +145,8 @@ Rect MovieView::drawnRect() const {
     return _controllerVisible ? controllerRect() : Rect();
 }
 
-PictureLayer* MovieView::pictureLayer() {
-    return _player.pictureLayer(); // also without a movie: the host prepares it before there is one
+VideoLayer* MovieView::videoLayer() {
+    return _player.videoLayer(); // also without a movie: the host prepares it before there is one
 }
 
 Rect MovieView::pictureRect() const {
@@ -178,12 +178,12 @@ bool MovieView::mouseUp(const MouseEvent&) {
     return std::exchange(_tracking, false);
 }
 
-void MovieView::playerPictureDue() {
+void MovieView::playerFrameDue() {
     if (Window* shownIn = window(); shownIn && shownIn->host())
         shownIn->host()->displayNow(convertToWindow(pictureRect()));
 }
 
-void MovieView::playerPictureChanged() {
+void MovieView::playerFrameChanged() {
     setNeedsDisplayInRect(pictureRect());
 }
 

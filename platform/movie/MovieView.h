@@ -46,7 +46,7 @@ public:
 
     void draw(QPainter& painter, const Rect& dirty) override;
     Rect drawnRect() const override;
-    PictureLayer* pictureLayer() override;
+    VideoLayer* videoLayer() override;
     Rect pictureRect() const override;
     bool mouseDown(const MouseEvent& event) override;
     bool mouseDragged(const MouseEvent& event) override;
@@ -60,8 +60,8 @@ protected:
     virtual void playingChanged(bool playing);
 
 private:
-    void playerPictureChanged() override;
-    void playerPictureDue() override;
+    void playerFrameChanged() override;
+    void playerFrameDue() override;
     void playerStateChanged() override;
     Rect controllerRect() const;
     void performController(const ControllerBar::Command& command);

@@ -10,7 +10,7 @@
 namespace platform {
 
 namespace {
-constexpr float kLargestSize = 1024;
+constexpr float maximumPointSize = 1024;
 } // namespace
 
 QFont fontWithFamilyName(const QString& family, float pointSize) {
@@ -25,7 +25,7 @@ QFont fontWithFamilyName(const QString& family, float pointSize) {
 QFont convertedFont(const QFont& font, float pointSize) {
     QFont converted = font;
     // Written so that a size that is no number falls to the smallest.
-    const float size = pointSize >= 1.0F ? std::min(pointSize, kLargestSize) : 1.0F;
+    const float size = pointSize >= 1.0F ? std::min(pointSize, maximumPointSize) : 1.0F;
     converted.setPixelSize(static_cast<int>(std::lround(size)));
     return converted;
 }

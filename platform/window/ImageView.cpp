@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 /// Pixels a side up to which a shrunken image is made whole; beyond, only its visible part is drawn.
-constexpr double kLargestWhole = 4096;
+constexpr double maximumWholeSide = 4096;
 } // namespace
 
 void ImageView::setImage(const QImage& image) {
@@ -24,8 +24,8 @@ void ImageView::draw(QPainter& painter, const Rect&) {
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     // Neighbours are enough to enlarge an image; a smaller one must take in every pixel.
-    if (shrinks && pixels.width() >= 1 && pixels.height() >= 1 && pixels.width() <= kLargestWhole &&
-        pixels.height() <= kLargestWhole)
+    if (shrinks && pixels.width() >= 1 && pixels.height() >= 1 && pixels.width() <= maximumWholeSide &&
+        pixels.height() <= maximumWholeSide)
         painter.drawImage(paintedBounds(),
                           _image.scaled(pixels.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     else

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/SceneComposer.h"
 
-#include "platform/window/PictureLayer.h"
 #include "platform/window/SceneGeometry.h"
+#include "platform/window/VideoLayer.h"
 #include "platform/window/View.h"
 #include "platform/window/Window.h"
 
@@ -16,18 +16,18 @@ namespace platform {
 SceneComposer::SceneComposer(Window& root)
     : _root(root) {}
 
-void SceneComposer::forEachPicture(double pixelRatio, const std::function<void(PictureLayer&, const QRect&)>& visit) {
-    visitPictures(_root.contentView(), pixelRatio, visit);
+void SceneComposer::forEachVideoLayer(double pixelRatio, const std::function<void(VideoLayer&, const QRect&)>& visit) {
+    visitVideoLayers(_root.contentView(), pixelRatio, visit);
 }
 
-void SceneComposer::visitPictures(const View& view, double pixelRatio,
-                                  const std::function<void(PictureLayer&, const QRect&)>& visit) {
+void SceneComposer::visitVideoLayers(const View& view, double pixelRatio,
+                                     const std::function<void(VideoLayer&, const QRect&)>& visit) {
     for (View* child : view.subviews()) {
-        if (PictureLayer* layer = child->pictureLayer()) {
+        if (VideoLayer* layer = child->videoLayer()) {
             visit(*layer, sceneGeometry::toPixels(child->convertToWindow(child->pictureRect()), _root.frame().size(),
                                                   pixelRatio));
         }
-        visitPictures(*child, pixelRatio, visit);
+        visitVideoLayers(*child, pixelRatio, visit);
     }
 }
 
@@ -36,7 +36,7 @@ QRegion SceneComposer::compose(QImage& target, const QRegion& marked, double pix
     QRegion dirty = marked.intersected(whole);
     // A picture is always rendered whole: what lies over any part of it is painted anew, too.
     QRegion pictures;
-    forEachPicture(pixelRatio, [&](PictureLayer& layer, const QRect& picture) {
+    forEachVideoLayer(pixelRatio, [&](VideoLayer& layer, const QRect& picture) {
         const QRect visible = picture.intersected(whole);
         if (visible.isEmpty() || !dirty.intersects(visible))
             return;

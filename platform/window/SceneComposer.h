@@ -12,7 +12,7 @@ class QPainter;
 
 namespace platform {
 
-class PictureLayer;
+class VideoLayer;
 class View;
 class Window;
 
@@ -29,7 +29,7 @@ public:
     /// The same without the root's background and the pictures, for a host that renders those itself.
     void drawOver(QPainter& painter, const QRegion& marked, double pixelRatio);
 
-    void forEachPicture(double pixelRatio, const std::function<void(PictureLayer&, const QRect&)>& visit);
+    void forEachVideoLayer(double pixelRatio, const std::function<void(VideoLayer&, const QRect&)>& visit);
 
     /// Whether the root's alpha is painted: where the window system does not fade windows, the content is darkened.
     void setPaintsAlpha(bool paints) { _paintsAlpha = paints; }
@@ -44,8 +44,8 @@ private:
         QPoint origin; // where the child's top left corner stands
     };
 
-    void visitPictures(const View& view, double pixelRatio,
-                       const std::function<void(PictureLayer&, const QRect&)>& visit);
+    void visitVideoLayers(const View& view, double pixelRatio,
+                          const std::function<void(VideoLayer&, const QRect&)>& visit);
     bool anyChildIn(const QRegion& dirty) const;
     bool anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const;
     void drawViews(QPainter& painter, const Window& window, const View& view, const QRegion& dirty, double pixelRatio);

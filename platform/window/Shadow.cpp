@@ -12,12 +12,12 @@ namespace platform {
 
 namespace {
 
-constexpr double kLargestBlur = 256;     // pixels
-constexpr double kFarthest = 16384;      // pixels
-constexpr int kManyPixels = 1'000'000;   // from here on the blur works on half the resolution
-constexpr unsigned kStrength = 2;        // of a blurred shadow over a mere spread of the ink
-constexpr int kPasses = 3;               // boxes, which together come close to a bell curve
-constexpr unsigned kFixedOne = 1U << 16; // of the fixed-point reciprocals
+constexpr double maximumBlur = 256;          // pixels
+constexpr double farthestCoordinate = 16384; // pixels
+constexpr int manyPixels = 1'000'000;        // from here on the blur works on half the resolution
+constexpr unsigned strength = 2;             // of a blurred shadow over a mere spread of the ink
+constexpr int passes = 3;                    // boxes, which together come close to a bell curve
+constexpr unsigned fixedPointOne = 1U << 16; // of the fixed-point reciprocals
 
 /// One byte of coverage a pixel.
 struct Coverage {
@@ -66,19 +66,19 @@ Coverage halvedCoverageOf(const QImage& picture) {
 
 /// The mean of the 2 * reach + 1 neighbours. Before both rows lie reach + 1 empty pixels, after them reach.
 void blurRow(const std::uint8_t* from, std::uint8_t* to, int width, int reach) {
-    const unsigned share = kFixedOne / static_cast<unsigned>(2 * reach + 1);
+    const unsigned share = fixedPointOne / static_cast<unsigned>(2 * reach + 1);
     unsigned sum = 0;
     for (int x = 0; x < std::min(reach, width); ++x)
         sum += from[x];
     for (int x = 0; x < width; ++x) {
         sum = sum + from[x + reach] - from[x - reach - 1];
-        to[x] = static_cast<std::uint8_t>((sum * share + kFixedOne / 2) >> 16);
+        to[x] = static_cast<std::uint8_t>((sum * share + fixedPointOne / 2) >> 16);
     }
 }
 
 /// The same in the columns, a row at a time: the memory is walked in order.
 void blurColumns(const Coverage& from, Coverage& to, int reach) {
-    const unsigned share = kFixedOne / static_cast<unsigned>(2 * reach + 1);
+    const unsigned share = fixedPointOne / static_cast<unsigned>(2 * reach + 1);
     std::vector<unsigned> sums(static_cast<std::size_t>(from.width), 0U);
     const auto add = [&](int y) {
         const std::uint8_t* row = from.row(y);
@@ -99,14 +99,14 @@ void blurColumns(const Coverage& from, Coverage& to, int reach) {
             subtract(y - reach - 1);
         std::uint8_t* row = to.row(y);
         for (std::size_t x = 0; x < sums.size(); ++x)
-            row[x] = static_cast<std::uint8_t>((sums[x] * share + kFixedOne / 2) >> 16);
+            row[x] = static_cast<std::uint8_t>((sums[x] * share + fixedPointOne / 2) >> 16);
     }
 }
 
 void blur(Coverage& coverage, double standardDeviation) {
     // As wide as makes the passes together deviate by this much.
     const int reach =
-        static_cast<int>(std::lround((std::sqrt(12 / kPasses * standardDeviation * standardDeviation + 1) - 1) / 2));
+        static_cast<int>(std::lround((std::sqrt(12 / passes * standardDeviation * standardDeviation + 1) - 1) / 2));
     if (reach < 1 || coverage.bytes.empty())
         return;
     const auto width = static_cast<std::size_t>(coverage.width);
@@ -126,7 +126,7 @@ void blur(Coverage& coverage, double standardDeviation) {
     blurColumns(coverage, other, reach);
     // Spread over the blur, the strokes of letters would leave but a faint veil.
     std::transform(other.bytes.begin(), other.bytes.end(), coverage.bytes.begin(),
-                   [](std::uint8_t covered) { return static_cast<std::uint8_t>(std::min(kStrength * covered, 255U)); });
+                   [](std::uint8_t covered) { return static_cast<std::uint8_t>(std::min(strength * covered, 255U)); });
 }
 
 double pixels(double points, double pixelRatio, double most) {
@@ -145,15 +145,14 @@ unsigned times(unsigned a, unsigned b) {
 void castShadow(QImage& picture, const Shadow& shadow, double pixelRatio) {
     if (picture.isNull() || !shadow.color.isValid() || shadow.color.alpha() == 0)
         return;
-    const double deviation =
-        std::max(0.0, pixels(static_cast<double>(shadow.blurRadius), pixelRatio, kLargestBlur)) / 2;
-    const bool many = picture.width() * picture.height() > kManyPixels;
+    const double deviation = std::max(0.0, pixels(static_cast<double>(shadow.blurRadius), pixelRatio, maximumBlur)) / 2;
+    const bool many = picture.width() * picture.height() > manyPixels;
     const int halvings = many && deviation >= 2 ? 1 : 0;
     Coverage coverage = halvings ? halvedCoverageOf(picture) : coverageOf(picture);
     blur(coverage, deviation / (1 << halvings));
 
-    const int right = static_cast<int>(std::lround(pixels(shadow.offset.width(), pixelRatio, kFarthest)));
-    const int down = -static_cast<int>(std::lround(pixels(shadow.offset.height(), pixelRatio, kFarthest)));
+    const int right = static_cast<int>(std::lround(pixels(shadow.offset.width(), pixelRatio, farthestCoordinate)));
+    const int down = -static_cast<int>(std::lround(pixels(shadow.offset.height(), pixelRatio, farthestCoordinate)));
     // The shadow's pixel for every share of it that is seen.
     std::array<QRgb, 256> shades;
     for (unsigned share = 0; share < shades.size(); ++share) {

@@ -13,11 +13,11 @@ namespace platform {
 namespace {
 
 // What no screen shows.
-constexpr qsizetype kMostCharacters = 4096;
-constexpr double kLargestSide = 8192;
+constexpr qsizetype maximumCharacters = 4096;
+constexpr double maximumSide = 8192;
 
 /// Pixels from which on glyphs are filled as outlines, not copied from a cache.
-constexpr double kSizeOfOutlines = 64;
+constexpr double sizeOfOutlines = 64;
 
 /// The time to fill an outline grows with the square of the edges beside each other: a line at once takes several times
 /// as long as its glyphs.
@@ -35,15 +35,15 @@ void drawGlyphByGlyph(QPainter& painter, const QTextLine& line, const QPointF& o
 }
 
 double side(double points) {
-    return std::isfinite(points) ? std::clamp(points, 1.0, kLargestSide) : kLargestSide;
+    return std::isfinite(points) ? std::clamp(points, 1.0, maximumSide) : maximumSide;
 }
 
 } // namespace
 
 QString displayableText(const QString& text) {
     QString result;
-    result.reserve(std::min(text.size(), kMostCharacters));
-    for (qsizetype at = 0; at < text.size() && result.size() < kMostCharacters; ++at) {
+    result.reserve(std::min(text.size(), maximumCharacters));
+    for (qsizetype at = 0; at < text.size() && result.size() < maximumCharacters; ++at) {
         const QChar character = text[at];
         const QChar next = at + 1 < text.size() ? text[at + 1] : QChar();
         if (character == u'\r') {
@@ -109,7 +109,7 @@ void TextLayout::draw(QPainter& painter, double width) const {
     const QPointF origin((width - _container.width()) / 2, 0);
     const double scale = painter.deviceTransform().m11();
     for (const Paragraph& paragraph : _paragraphs) {
-        const bool largeGlyphs = paragraph.layout->font().pixelSize() * scale >= kSizeOfOutlines;
+        const bool largeGlyphs = paragraph.layout->font().pixelSize() * scale >= sizeOfOutlines;
         for (int index = 0; index < paragraph.lines; ++index) {
             const QTextLine line = paragraph.layout->lineAt(index);
             if (largeGlyphs)

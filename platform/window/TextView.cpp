@@ -11,12 +11,12 @@ namespace platform {
 namespace {
 
 /// Room at both sides of the lines, points: a shadow fades out in it.
-constexpr double kLinePadding = 5;
-constexpr double kLargestRatio = 8;
-constexpr double kLargestPicture = 16384; // pixels a side
+constexpr double linePadding = 5;
+constexpr double maximumRatio = 8;
+constexpr double maximumPictureSide = 16384; // pixels a side
 
 int pictureSide(double points, double pixelRatio) {
-    return static_cast<int>(std::ceil(std::clamp(points * pixelRatio, 0.0, kLargestPicture)));
+    return static_cast<int>(std::ceil(std::clamp(points * pixelRatio, 0.0, maximumPictureSide)));
 }
 
 } // namespace
@@ -68,7 +68,7 @@ void TextView::paintingChanged() {
 
 const TextLayout& TextView::layout() {
     if (!_layout) {
-        const QSizeF lines(_container.width() - 2 * kLinePadding, _container.height());
+        const QSizeF lines(_container.width() - 2 * linePadding, _container.height());
         _layout = std::make_unique<TextLayout>(_text, _font, lines);
     }
     return *_layout;
@@ -76,7 +76,7 @@ const TextLayout& TextView::layout() {
 
 void TextView::sizeToFit() {
     const QSizeF lines = layout().size();
-    setFrame(Rect(frame().origin(), QSizeF(lines.width() + 2 * kLinePadding, lines.height())));
+    setFrame(Rect(frame().origin(), QSizeF(lines.width() + 2 * linePadding, lines.height())));
 }
 
 QImage TextView::painted(double pixelRatio) {
@@ -99,7 +99,7 @@ QImage TextView::painted(double pixelRatio) {
 void TextView::draw(QPainter& painter, const Rect&) {
     const QTransform toDevice = painter.deviceTransform();
     const double ratio = toDevice.m11();
-    if (!(ratio > 0) || ratio > kLargestRatio || !toDevice.isInvertible() || _text.isEmpty())
+    if (!(ratio > 0) || ratio > maximumRatio || !toDevice.isInvertible() || _text.isEmpty())
         return;
     if (_picture.isNull() || _pictureRatio != ratio || _picture.width() != pictureSide(bounds().width(), ratio) ||
         _picture.height() != pictureSide(bounds().height(), ratio)) {

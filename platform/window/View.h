@@ -12,7 +12,7 @@ class QPainter;
 
 namespace platform {
 
-class PictureLayer;
+class VideoLayer;
 class View;
 class Window;
 
@@ -69,7 +69,7 @@ public:
     /// The part (own coordinates) that draw() draws into: nothing outside it is asked for.
     virtual Rect drawnRect() const { return bounds(); }
     /// The picture that the host puts into pictureRect() (own coordinates) before draw(), or null.
-    virtual PictureLayer* pictureLayer() { return nullptr; }
+    virtual VideoLayer* videoLayer() { return nullptr; }
     virtual Rect pictureRect() const { return Rect(); }
 
     /// Events answer true when taken; the others go on to the superview and then to the window.

@@ -7,7 +7,7 @@
 std::optional<std::string_view> LineReader::next() {
     if (_rest.empty())
         return std::nullopt;
-    const std::size_t most = std::min(_rest.size(), longestPiece);
+    const std::size_t most = std::min(_rest.size(), maximumPieceLength);
     const void* lineFeed = std::memchr(_rest.data(), '\n', most);
     const std::size_t length =
         lineFeed ? static_cast<std::size_t>(static_cast<const char*>(lineFeed) - _rest.data()) + 1 : most;

@@ -7,7 +7,7 @@
 /// Walks over the lines of a text in memory, in pieces of at most 999 bytes. The text outlives the reader.
 class LineReader {
 public:
-    static constexpr std::size_t longestPiece = 999;
+    static constexpr std::size_t maximumPieceLength = 999;
 
     explicit LineReader(std::string_view text)
         : _rest(text) {}

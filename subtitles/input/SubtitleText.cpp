@@ -74,7 +74,7 @@ SubtitleText SubtitleText::fromBytes(QByteArray bytes, std::uint32_t encoding) {
 
 SubtitleText SubtitleText::beginningOfFile(const QString& path) {
     // Two bytes for each of ASCII in a wide text, and its mark.
-    constexpr qsizetype most = 2 * probedLines * static_cast<qsizetype>(LineReader::longestPiece) + 3;
+    constexpr qsizetype most = 2 * probedLines * static_cast<qsizetype>(LineReader::maximumPieceLength) + 3;
     QByteArray bytes = readRegularFile(path, most).value_or(QByteArray());
     const std::uint32_t encoding = hasWideMark(bytes) ? textEncoding::utf16 : textEncoding::utf8;
     return fromBytes(std::move(bytes), encoding);

@@ -12,20 +12,20 @@
 namespace {
 
 /// What is larger, or has more cues, is no text that somebody wrote, and would stop the player for seconds.
-constexpr qsizetype largestFile = 256 * 1024 * 1024;
+constexpr qsizetype maximumFileSize = 256 * 1024 * 1024;
 constexpr std::size_t maximumCues = 2'000'000;
 
 } // namespace
 
 void TextSubtitles::_preload() {
-    std::optional<QByteArray> bytes = platform::readRegularFile(path(), largestFile);
+    std::optional<QByteArray> bytes = platform::readRegularFile(path(), maximumFileSize);
     if (!bytes) {
         logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
                   platform::lastPathComponent(path()));
         reset();
         return;
     }
-    const bool cut = bytes->size() == largestFile;
+    const bool cut = bytes->size() == maximumFileSize;
     trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), platform::lastPathComponent(path()), "");
     readAll(std::move(*bytes), encoding());
     if (cut || count() >= maximumCues)

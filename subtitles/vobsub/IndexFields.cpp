@@ -51,10 +51,10 @@ std::optional<std::string_view> IndexFields::takeBytes(std::size_t count) {
 }
 
 std::string_view IndexFields::takeWord() {
-    constexpr std::size_t longestWord = 79;
+    constexpr std::size_t maximumWordLength = 79;
     skipBlanks();
     const auto length = static_cast<std::size_t>(std::ranges::find_if(_rest, isBlank) - _rest.begin());
-    return *takeBytes(std::min(length, longestWord));
+    return *takeBytes(std::min(length, maximumWordLength));
 }
 
 std::optional<std::int32_t> IndexFields::takeDecimal() {

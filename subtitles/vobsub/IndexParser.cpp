@@ -15,7 +15,7 @@
 namespace {
 
 /// A DVD has 32; an index with more than this is not meant to be read.
-constexpr std::size_t mostStreams = 256;
+constexpr std::size_t maximumStreams = 256;
 constexpr std::int32_t lastStreamNumber = 31;
 
 using LanguageName = IndexParser::LanguageName;
@@ -352,7 +352,7 @@ bool Parser::readStream(IndexFields fields) {
     if (!number || *number < 0 || *number > lastStreamNumber)
         return false;
     closeStream();
-    if (_index._streams.size() == mostStreams)
+    if (_index._streams.size() == maximumStreams)
         return false;
     _stream.emplace();
     _stream->_index = *number;

@@ -104,7 +104,7 @@ PackReader::PackReader(DataFile& file, std::int32_t stream, const std::atomic<bo
     , _subStream(static_cast<std::uint8_t>(firstSubpicture | (stream & streamMask)))
     , _abort(abort)
     // The streams of a file pass over one another, each about once.
-    , _skippableInAll(mostSkipped + 4 * std::min<std::int64_t>(file.size(), std::int64_t{1} << 60)) {}
+    , _skippableInAll(maximumSkipped + 4 * std::min<std::int64_t>(file.size(), std::int64_t{1} << 60)) {}
 
 bool PackReader::isOwn(const Element& element) const {
     return element.kind == Element::privateStream1 && element.subStream == _subStream;
@@ -228,7 +228,7 @@ void PackReader::takePacket(const Element& packet, Walk& walk, Assembly& assembl
 }
 
 std::optional<PackReader::Unit> PackReader::readByLengths(std::int64_t position) {
-    _skippable = mostSkipped;
+    _skippable = maximumSkipped;
     Walk walk;
     Assembly assembly;
     if (_file.at(position, 1).empty())
@@ -253,7 +253,7 @@ std::optional<PackReader::Unit> PackReader::readByLengths(std::int64_t position)
 }
 
 std::optional<PackReader::Unit> PackReader::readPacks(std::int64_t position, bool keepLayout) {
-    _skippable = mostSkipped;
+    _skippable = maximumSkipped;
     Assembly assembly;
     for (bool isFirst = true; assembly.missing() > 0; isFirst = false, position += packSize) {
         const Bytes pack = _file.at(position, static_cast<std::size_t>(packSize));

@@ -15,7 +15,7 @@
 class PackReader {
 public:
     /// So many bytes of others are passed over while one unit is put together.
-    static constexpr std::int64_t mostSkipped = 64 * 1024 * 1024;
+    static constexpr std::int64_t maximumSkipped = 64 * 1024 * 1024;
 
     struct Unit {
         /// As many as the unit says of itself.

@@ -20,9 +20,9 @@ namespace {
 
 constexpr const char* className = "QVVobSubInfo";
 /// More than a million subpictures.
-constexpr qsizetype largestIndex = 64 * 1024 * 1024;
+constexpr qsizetype maximumIndexSize = 64 * 1024 * 1024;
 /// The tool keeps to a minute by itself.
-constexpr double longestToolSeconds = 75;
+constexpr double toolTimeoutSeconds = 75;
 /// What the tool says is read in an encoding that has a letter for every byte.
 constexpr std::uint32_t toolEncoding = 30;
 
@@ -67,8 +67,8 @@ std::shared_ptr<const QVVobSubInfo> QVVobSubInfo::infoWithFile(const QString& pa
 bool QVVobSubInfo::_parseIDXFile(const QString& path) {
     trace("%@: Start parsing \"%@\"", className, platform::lastPathComponent(path));
     // One byte more, to tell what is too large from what just fits.
-    std::optional<QByteArray> bytes = platform::readRegularFile(path, largestIndex + 1);
-    if (!bytes || bytes->size() > largestIndex) {
+    std::optional<QByteArray> bytes = platform::readRegularFile(path, maximumIndexSize + 1);
+    if (!bytes || bytes->size() > maximumIndexSize) {
         logAlways("ERROR: %@: Unable to open index file \"%@\" for parsing.", className, path);
         return false;
     }
@@ -117,7 +117,7 @@ QString QVVobSubInfo::_extractSubFile(const QString& archive, const QString& bas
                              QStringLiteral("-cl"),
                              archive,
                              temporary};
-        request.timeout = longestToolSeconds;
+        request.timeout = toolTimeoutSeconds;
         request.output = _processOutput;
         trace("%@: Launching UNRAR:", className);
         status = platform::runTool(request);

@@ -16,7 +16,7 @@
 namespace {
 
 /// Of the pictures of a track. A film has about six MiB; a file with more than this is not one of a film.
-constexpr std::size_t mostMemory = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t maximumMemory = std::size_t{256} * 1024 * 1024;
 /// Of a cue, beside its picture.
 constexpr std::size_t cueMemory = sizeof(QVSubtitle) + 64;
 
@@ -67,7 +67,7 @@ void QVVobSubSubtitles::load() {
         const std::int32_t end = ajustToMovieTimeScale(milliseconds(pos._timestamp + packet->displayTime()));
         const auto image = packet->decodeWithInfo(index);
         memory += cueMemory + (image ? image->memory() : 0);
-        if (memory > mostMemory) {
+        if (memory > maximumMemory) {
             logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(),
                       platform::lastPathComponent(file->path()));
             break;

@@ -39,7 +39,8 @@ protected:
     // The frame once it has stood for a while, or none when it never does.
     std::optional<int> settledFrame();
     // Whether the picture (of a numbered movie that fills the screen) has the colour.
-    testing::AssertionResult colorBecomes(const harness::Color& color, harness::Seconds timeout = harness::patience);
+    testing::AssertionResult colorBecomes(const harness::Color& color,
+                                          harness::Seconds timeout = harness::defaultTimeout);
     testing::AssertionResult logs(const std::string& text, std::size_t from = 0);
     // Presses the key again and again until the condition holds: for panels, whose appearing cannot be seen from
     // outside.

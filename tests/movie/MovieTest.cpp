@@ -22,7 +22,7 @@ struct Loaded {
         : movie(std::make_unique<Movie>(std::move(info), player)) {
         player.load(movie.get());
     }
-    /// Counts the passing of times, arming again as an observer of every picture does.
+    /// Counts the passing of times, arming again as an observer of every frame does.
     void watch() {
         movie->callWhenTimePasses(movie->nextInterestingTime(movie->time(), movie->rate()), [this] {
             passed.push_back(movie->time());
@@ -36,7 +36,7 @@ struct Loaded {
 
 } // namespace
 
-TEST(Movie, the_next_picture_is_the_next_multiple_of_a_pictures_length) {
+TEST(Movie, the_next_frame_is_the_next_multiple_of_a_frames_length) {
     constexpr std::int32_t forward = 0x10000;
     const struct {
         double frame;
@@ -48,7 +48,7 @@ TEST(Movie, the_next_picture_is_the_next_multiple_of_a_pictures_length) {
         {24, 36000, true, 35976, forward, -1}, {24, 36000, true, 48, -forward, 24},
         {24, 36000, true, 0, -forward, -1},    {24, 36000, false, 0, forward, -1},
         {0, 36000, true, 0, forward, -1},      {1001.0 / 3, 90000, true, 334, forward, 667},
-        {0.25, 100, true, 7, forward, 8}, // more than one picture a unit
+        {0.25, 100, true, 7, forward, 8}, // more than one frame a unit
         {24, 0, true, 480, forward, 504},      {3003, 2147483647, true, 2147480000, forward, 2147481336},
     };
     ScriptedPlayer player;
@@ -61,7 +61,7 @@ TEST(Movie, the_next_picture_is_the_next_multiple_of_a_pictures_length) {
     }
 }
 
-TEST(Movie, without_pictures_every_quarter_of_a_second_passes) {
+TEST(Movie, without_frames_every_quarter_of_a_second_passes) {
     MovieInfo info = plain();
     info.hasVideo = false;
     Loaded sound(info);

@@ -49,10 +49,10 @@ TEST(MovieView, the_controller_bar_is_drawn_again_when_its_knob_moves_by_half_a_
     // The knob's middle stays within the slider by half its width of 8.
     const double halfPoints = (ControllerBar::timeSlider(QSizeF(640, 16)).width() - 8) * 2;
     long shown = 0;
-    for (int picture = 1; picture <= 100; ++picture) {
+    for (int frame = 1; frame <= 100; ++frame) {
         rig.player.advance(0.04);
         const long now = std::lround(rig.player.time() * halfPoints / 36000);
-        EXPECT_EQ(rig.drawnAgain(), std::exchange(shown, now) == now ? rig.nothing : rig.bar) << picture;
+        EXPECT_EQ(rig.drawnAgain(), std::exchange(shown, now) == now ? rig.nothing : rig.bar) << frame;
     }
     EXPECT_GT(shown, 20) << "the movie moved on";
 }

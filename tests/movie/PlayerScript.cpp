@@ -41,7 +41,7 @@ std::string textOf(const PlayerEffect& effect) {
                           [](const ArmTimer& e) { return with(("arm " + nameOf(e.timer)).c_str(), e.seconds); },
                           [](const CancelTimer& e) { return "cancel " + nameOf(e.timer); },
                           [](const CancelTimers&) { return std::string("cancel all"); },
-                          [](const UseCorePicture&) { return std::string("use picture"); },
+                          [](const UseCoreFrame&) { return std::string("use frame"); },
                       },
                       effect);
 }
@@ -49,8 +49,8 @@ std::string textOf(const PlayerEffect& effect) {
 std::string textOf(const PlayerReport& report) {
     using namespace playerReport;
     return std::visit(Overloaded{
-                          [](const PictureChanged&) { return std::string("picture"); },
-                          [](const PictureDue&) { return std::string("due"); },
+                          [](const FrameChanged&) { return std::string("frame"); },
+                          [](const FrameDue&) { return std::string("due"); },
                           [](const StateChanged&) { return std::string("state"); },
                           [](const ShowedFrame& r) { return with("frame", r.time); },
                           [](const Jumped&) { return std::string("jump"); },

@@ -6,13 +6,13 @@
 #include <string>
 
 /// The movie that a script plays: ten seconds in hundredths.
-inline constexpr platform::LoadedMovie tenSeconds{1000, 100, platform::LoadedMovie::Content::pictures};
+inline constexpr platform::LoadedMovie tenSeconds{1000, 100, platform::LoadedMovie::Content::frames};
 
 /// A player's state that events are told to, and what they lead to as text: the effects, then the reports, as in
 /// "pause, seek 2.5 keyframe | jump, state".
 class PlayerScript {
 public:
-    /// A movie whose first picture is shown, paused at a time.
+    /// A movie whose first frame is shown, paused at a time.
     static PlayerScript showing(const platform::LoadedMovie& movie = tenSeconds, std::int32_t time = 0);
 
     std::string operator()(const platform::PlayerEvent& event);

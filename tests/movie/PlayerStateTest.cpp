@@ -14,7 +14,7 @@ using enum platform::MoviePlayer::JumpReport;
 namespace {
 
 constexpr LoadedMovie sound{1000, 100, LoadedMovie::Content::sound};
-constexpr LoadedMovie live{0, 100, LoadedMovie::Content::pictures};
+constexpr LoadedMovie live{0, 100, LoadedMovie::Content::frames};
 
 const TimerFired keyframeTimeout{PlayerTimer::keyframe, 0};
 const TimerFired failureTimeout{PlayerTimer::failure, 0};
@@ -23,7 +23,7 @@ const TimerFired failureTimeout{PlayerTimer::failure, 0};
 void moveTo(PlayerScript& player, std::int32_t time) {
     player(Seek{time, silent});
     while (player.state().seeks.isBusy()) {
-        player(PictureDue{});
+        player(FrameDue{});
         player(PlaybackRestarted{});
     }
 }
@@ -36,7 +36,7 @@ TEST(PlayerState, what_is_asked_before_the_core_stands_is_kept_for_it) {
     PlayerScript player;
     EXPECT_EQ(player(SetVolume{0.125F}), "| state");
     EXPECT_EQ(player(SetMuted{true}), "| state");
-    EXPECT_EQ(player(Load{tenSeconds, 250}), "cancel all | picture");
+    EXPECT_EQ(player(Load{tenSeconds, 250}), "cancel all | frame");
     EXPECT_EQ(player(SetRate{2, 0}), "| state");
     EXPECT_EQ(player.rate(), 2);
     EXPECT_EQ(player.time(), 250);
@@ -63,35 +63,35 @@ TEST(PlayerState, a_core_without_a_movie_is_told_volume_and_mute_only) {
         EXPECT_EQ(player(event), "") << event.index();
 }
 
-TEST(PlayerState, a_movie_is_loaded_paused_and_shown_with_its_first_picture) {
+TEST(PlayerState, a_movie_is_loaded_paused_and_shown_with_its_first_frame) {
     PlayerScript player;
     player(CoreReady{});
     player(SetVolume{0.125F});
-    EXPECT_EQ(player(Load{tenSeconds, 250}), "cancel all, load 2.5 | picture");
+    EXPECT_EQ(player(Load{tenSeconds, 250}), "cancel all, load 2.5 | frame");
     EXPECT_EQ(player.time(), 250);
     EXPECT_EQ(player(FileStarted{1}), "");
-    EXPECT_EQ(player(TimeChanged{2.6}), "") << "no picture yet";
-    EXPECT_EQ(player(PlaybackRestarted{}), "use picture | picture");
+    EXPECT_EQ(player(TimeChanged{2.6}), "") << "no frame yet";
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame | frame");
     EXPECT_EQ(player(TimeChanged{2.52}), "") << "it rests where it was asked to";
     EXPECT_EQ(player.time(), 250);
-    EXPECT_EQ(player(PlaybackRestarted{}), "") << "the first picture comes once";
+    EXPECT_EQ(player(PlaybackRestarted{}), "") << "the first frame comes once";
 
     // Another one in its place while it plays fast: everything is as at first but the volume.
     player(SetRate{2, 0});
-    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, speed 1, pause, load 0 | picture");
+    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, speed 1, pause, load 0 | frame");
     EXPECT_EQ(player.rate(), 0);
     EXPECT_EQ(player.state().volume, 0.125F);
     EXPECT_EQ(player(PlaybackRestarted{}), "") << "of the one before";
     EXPECT_EQ(player(EndChanged{true}), "");
     EXPECT_FALSE(player.state().atEnd);
     player(FileStarted{2});
-    EXPECT_EQ(player(PlaybackRestarted{}), "use picture | picture");
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame | frame");
 
-    EXPECT_EQ(player(Load{}), "cancel all, stop | picture");
+    EXPECT_EQ(player(Load{}), "cancel all, stop | frame");
     EXPECT_FALSE(player.state().movie);
     EXPECT_EQ(player(PlaybackRestarted{}), "");
     EXPECT_EQ(player(CoreDropped{}), "cancel all");
-    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all | picture");
+    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all | frame");
 }
 
 TEST(PlayerState, the_place_asked_for_while_loading_is_sought_once_it_is_loaded) {
@@ -102,14 +102,14 @@ TEST(PlayerState, the_place_asked_for_while_loading_is_sought_once_it_is_loaded)
     EXPECT_EQ(player(Seek{100, silent}), "| state");
     EXPECT_EQ(player(Play{}), "go | state");
     EXPECT_EQ(player(Seek{200, silent}), "| state");
-    EXPECT_EQ(player(PlaybackRestarted{}), "use picture, pause, seek 2 keyframe | picture");
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame, pause, seek 2 keyframe | frame");
     EXPECT_EQ(player(TimeChanged{0.04}), "");
     EXPECT_EQ(player.time(), 200);
 }
 
 // Playing
 
-TEST(PlayerState, plays_and_pauses_and_reports_the_pictures_times) {
+TEST(PlayerState, plays_and_pauses_and_reports_the_frames_times) {
     PlayerScript player = PlayerScript::showing();
     EXPECT_EQ(player(Play{}), "go | state");
     EXPECT_EQ(player.rate(), 1);
@@ -118,9 +118,9 @@ TEST(PlayerState, plays_and_pauses_and_reports_the_pictures_times) {
     EXPECT_EQ(player(TimeChanged{-0.5}), "| state, frame 0");
     EXPECT_EQ(player(TimeChanged{12}), "| state, frame 1000") << "never beyond the end";
     EXPECT_EQ(player(TimeChanged{5}), "| state, frame 500");
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(SetRate{0, 0}), "pause | state");
-    EXPECT_EQ(player(TimeChanged{5.04}), "| state, frame 504") << "the picture under way";
+    EXPECT_EQ(player(TimeChanged{5.04}), "| state, frame 504") << "the frame under way";
 
     PlayerScript stream = PlayerScript::showing(live);
     stream(Play{});
@@ -162,24 +162,24 @@ TEST(PlayerState, a_seek_shows_the_keyframe_first_and_holds_the_time_asked_for) 
     EXPECT_EQ(player(Seek{250, reported}), "seek 2.5 keyframe | jump, state");
     EXPECT_EQ(player.time(), 250);
     EXPECT_EQ(player(TimeChanged{2}), "") << "the keyframe's place";
-    // The picture may be due before the core says that it plays again, or after.
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    // The frame may be due before the core says that it plays again, or after.
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 2.5 exact");
     EXPECT_EQ(player(PlaybackRestarted{}), "arm keyframe 0.1");
     EXPECT_EQ(player(PlaybackRestarted{}), "arm keyframe 0.1");
-    EXPECT_EQ(player(PictureDue{}), "arm keyframe 0 | due");
+    EXPECT_EQ(player(FrameDue{}), "arm keyframe 0 | due");
     EXPECT_TRUE(player.state().seeks.isBusy());
     EXPECT_EQ(player(keyframeTimeout), "");
     EXPECT_FALSE(player.state().seeks.isBusy());
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(TimeChanged{2.48}), "");
     EXPECT_EQ(player.time(), 250);
 
-    // A picture that does not come is not waited for.
+    // A frame that does not come is not waited for.
     EXPECT_EQ(player(Seek{300, silent}), "seek 3 keyframe | state");
     EXPECT_EQ(player(PlaybackRestarted{}), "arm keyframe 0.1");
     EXPECT_EQ(player(keyframeTimeout), "seek 3 exact");
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe");
 
     EXPECT_EQ(player(Seek{0, silent}), "seek 0 exact | state");
@@ -220,17 +220,17 @@ TEST(PlayerState, seeks_that_follow_fast_leave_out_those_between) {
     EXPECT_EQ(player(Seek{200, silent}), "| state");
     EXPECT_EQ(player(Seek{300, silent}), "| state");
     EXPECT_EQ(player.time(), 300);
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 3 keyframe");
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 3 exact");
     EXPECT_EQ(player(TimeChanged{2.9}), "");
-    EXPECT_EQ(player(PictureDue{}), "| due");
+    EXPECT_EQ(player(FrameDue{}), "| due");
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, go");
     EXPECT_EQ(player(TimeChanged{3.04}), "| state, frame 304");
 }
 
-TEST(PlayerState, a_movie_of_sound_waits_for_no_picture) {
+TEST(PlayerState, a_movie_of_sound_waits_for_no_frame) {
     PlayerScript player = PlayerScript::showing(sound);
     player(Play{});
     EXPECT_EQ(player(Seek{250, silent}), "pause, seek 2.5 exact | state");
@@ -242,7 +242,7 @@ TEST(PlayerState, a_movie_of_sound_waits_for_no_picture) {
 
 // Steps
 
-TEST(PlayerState, a_step_pauses_and_its_picture_is_a_jump) {
+TEST(PlayerState, a_step_pauses_and_its_frame_is_a_jump) {
     PlayerScript player = PlayerScript::showing();
     player(Play{});
     EXPECT_EQ(player(Step{1}), "pause, steps 1 | state");
@@ -250,7 +250,7 @@ TEST(PlayerState, a_step_pauses_and_its_picture_is_a_jump) {
     EXPECT_EQ(player.time(), 4);
     EXPECT_EQ(player(TimeChanged{0.08}), "| state, frame 8");
     EXPECT_EQ(player(Step{-1}), "steps -1");
-    // Playing on before the picture came is no jump.
+    // Playing on before the frame came is no jump.
     EXPECT_EQ(player(Play{}), "go | state");
     EXPECT_EQ(player(TimeChanged{0.12}), "| state, frame 12");
     EXPECT_EQ(player.time(), 12);
@@ -261,9 +261,9 @@ TEST(PlayerState, steps_during_a_seek_are_sent_together_after_it) {
     player(Seek{250, silent});
     for (const int direction : {1, 1, -1, 1})
         EXPECT_EQ(player(Step{direction}), "");
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 2.5 exact");
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, steps 2");
     EXPECT_EQ(player(PlaybackRestarted{}), "") << "once";
     EXPECT_EQ(player(TimeChanged{2.58}), "| state, jump");
@@ -277,7 +277,7 @@ TEST(PlayerState, steps_during_a_seek_are_sent_together_after_it) {
         stepped(Seek{300, silent});
         stepped(Step{1});
         stepped(c.forgets);
-        stepped(PictureDue{});
+        stepped(FrameDue{});
         EXPECT_EQ(stepped(PlaybackRestarted{}), c.after);
         EXPECT_EQ(stepped.state().stepsWaiting, 0);
     }
@@ -301,11 +301,11 @@ TEST(PlayerState, scrubbing_shows_a_keyframe_every_twelfth_of_a_second) {
     EXPECT_EQ(player(SetRate{2, 51}), "cancel scrub, speed 2 | state, state");
     EXPECT_EQ(player.time(), 700);
     EXPECT_EQ(player(TimerFired{PlayerTimer::scrub, 52}), "");
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 7 keyframe");
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 7 exact");
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, go");
     EXPECT_EQ(player(TimeChanged{7.04}), "| state, frame 704");
 }
@@ -336,7 +336,7 @@ TEST(PlayerState, scrubbing_stops_at_both_ends) {
     }
 }
 
-TEST(PlayerState, pausing_from_scrubbing_moves_to_the_exact_picture) {
+TEST(PlayerState, pausing_from_scrubbing_moves_to_the_exact_frame) {
     PlayerScript player = PlayerScript::showing(tenSeconds, 500);
     player(SetRate{-2, 0});
     EXPECT_EQ(player(SetRate{0, 0.1}), "cancel scrub, seek 5 keyframe | state, state");
@@ -363,7 +363,7 @@ TEST(PlayerState, reaches_the_end_once_and_begins_again_from_the_start) {
     EXPECT_EQ(player(Play{}), "seek 0 exact | jump, state, state");
     EXPECT_EQ(player.time(), 0);
     EXPECT_EQ(player.rate(), 1);
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, go");
 
     // The core's end may come before the time of the duration, or the duration is not known.
@@ -390,13 +390,13 @@ TEST(PlayerState, an_end_during_a_seek_counts_once_that_is_done) {
     player(Play{});
     player(Seek{990, silent});
     EXPECT_EQ(player(EndChanged{true}), "");
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 9.9 exact");
     EXPECT_FALSE(player.state().atEnd) << "the seek led away from it";
     EXPECT_EQ(player(EndChanged{true}), "");
     EXPECT_EQ(player(SetRate{2, 0}), "speed 2 | state") << "may be asked for meanwhile";
     EXPECT_EQ(player(TimeChanged{9.8}), "") << "still on the way";
-    player(PictureDue{});
+    player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, speed 1 | state, end");
 
     // Paused, it is no end.
@@ -440,6 +440,6 @@ TEST(PlayerState, a_movie_that_fails_ends_after_a_moment_each_time_it_is_started
     player(Load{tenSeconds, 0});
     player(Play{});
     EXPECT_EQ(player(FileFailed{2, -13}), "arm failure 0.25 | failed -13") << "it was to play";
-    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, pause, load 0 | picture");
+    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, pause, load 0 | frame");
     EXPECT_EQ(player(Play{}), "go | state");
 }

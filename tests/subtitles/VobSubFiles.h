@@ -24,14 +24,14 @@ inline VobSubIndex plainIndex(const vobsub::PairWriter& pair = {}) {
 }
 
 /// A picture of random runs up to so long, with a line of one code here and there.
-inline vobsub::Bitmap randomBitmap(int width, int height, int longestRun, unsigned seed) {
+inline vobsub::Bitmap randomBitmap(int width, int height, int maximumRun, unsigned seed) {
     std::mt19937 random(seed);
     const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
     vobsub::Bitmap bitmap{width, height};
     for (int y = 0; y < height; ++y) {
         const bool isPlain = below(5) == 0;
         for (int x = 0; x < width;) {
-            const int length = isPlain ? width : std::min(1 + below(longestRun), width - x);
+            const int length = isPlain ? width : std::min(1 + below(maximumRun), width - x);
             bitmap.fill(x, y, length, 1, static_cast<std::uint8_t>(below(4)));
             x += length;
         }

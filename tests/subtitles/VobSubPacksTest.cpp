@@ -174,7 +174,7 @@ TEST_F(VobSubPacks, only_so_many_strange_bytes_are_passed_over) {
         writer.append(unit, 3, 0);
         const QString path = write(writer.bytes());
         // The rest of the unit moves behind packets of video, whose payloads are holes of the file.
-        const std::int64_t count = packets(PackReader::mostSkipped) + (isTooMuch ? 1 : -1);
+        const std::int64_t count = packets(PackReader::maximumSkipped) + (isTooMuch ? 1 : -1);
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.resize(2048));
         for (std::int64_t i = 0; i < count; ++i) {

@@ -116,8 +116,8 @@ TEST_F(VobSubReference, pictures_equal_those_of_libavcodec) {
     };
     for (const int width : {1, 2, 3, 17, 64, 255, 256, 333, 719, 720})
         for (const int height : {2, 3, 36, 101}) // it refuses a single line
-            for (const int longestRun : {3, 15, 70, 1000})
-                add(randomBitmap(width, height, longestRun, seed + 1));
+            for (const int maximumRun : {3, 15, 70, 1000})
+                add(randomBitmap(width, height, maximumRun, seed + 1));
     add(vobsub::Bitmap{720, 576}); // nothing but full lines of code 0
     add(randomBitmap(500, 90, 4, 1), {.stuffing = 6});
     add(randomBitmap(500, 90, 4, 2), {.packSize = 1024, .paddingStream = false});

@@ -49,7 +49,7 @@ void ScriptedPlayer::load(platform::Movie* movie) {
     _rate = 0;
     _movie = movie;
     if (_observer)
-        _observer->playerPictureChanged();
+        _observer->playerFrameChanged();
     stateChanged();
 }
 

@@ -38,7 +38,7 @@ public:
     void setVolume(float volume) override;
     bool isMuted() const override { return _muted; }
     void setMuted(bool muted) override;
-    platform::PictureLayer* pictureLayer() override { return nullptr; }
+    platform::VideoLayer* videoLayer() override { return nullptr; }
 
 private:
     void stateChanged() {

@@ -212,18 +212,18 @@ TEST(MpvPlayer, shows_the_picture_decoded_ahead_of_the_movie_at_its_beginning_wh
         platform::MpvPlayer player;
         platform::Movie movie(*info, player);
         movie.setTimeValue(number * picture);
-        const auto ahead = std::make_shared<platform::Delivery<std::shared_ptr<const platform::FirstPicture>>>();
-        player.setPreparedPicture({url, ahead});
+        const auto ahead = std::make_shared<platform::Delivery<std::shared_ptr<const platform::FirstFrame>>>();
+        player.setPreparedFrame({url, ahead});
         player.load(&movie);
         const auto shows = [&] {
             const QRect whole(QPoint(0, 0), rig.screen.size());
-            return player.pictureLayer()->renderPixels(whole, whole, rig.screen.pixels(), rig.screen.stride());
+            return player.videoLayer()->renderPixels(whole, whole, rig.screen.pixels(), rig.screen.stride());
         };
         EXPECT_FALSE(shows());
         bool isDone = false;
         std::jthread decoder([&] {
             const std::atomic<bool> cancelled{false};
-            ahead->deliver(platform::FirstPicture::decode(url, cancelled));
+            ahead->deliver(platform::FirstFrame::decode(url, cancelled));
             rig.loop.post([&] { isDone = true; });
         });
         EXPECT_TRUE(rig.waitFor([&] { return isDone; }));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/toolkit/ToolkitRig.h"
 
-#include "platform/window/PictureLayer.h"
+#include "platform/window/VideoLayer.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -126,10 +126,10 @@ std::unique_ptr<platform::Movie> ToolkitRig::show(const QUrl& url) {
     return movie;
 }
 
-void ToolkitRig::playerPictureChanged() {
+void ToolkitRig::playerFrameChanged() {
     ++_reports;
     const QRect whole(QPoint(0, 0), screen.size());
-    if (!player().pictureLayer()->renderPixels(whole, whole, screen.pixels(), screen.stride()))
+    if (!player().videoLayer()->renderPixels(whole, whole, screen.pixels(), screen.stride()))
         std::memset(screen.pixels(), 0, screen.stride() * static_cast<std::size_t>(screen.size().height()));
 }
 

@@ -83,7 +83,7 @@ public:
     int jumps = 0;
 
 private:
-    void playerPictureChanged() override;
+    void playerFrameChanged() override;
     void playerStateChanged() override;
     void armEnd(platform::Movie& movie);
     void armJump(platform::Movie& movie);

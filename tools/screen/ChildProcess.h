@@ -35,7 +35,7 @@ public:
     pid_t pid() const { return _pid; }
     bool isRunning();
     // The exit status, or minus the number of the signal that ended it; none while it runs after the timeout.
-    std::optional<int> waitForExit(Seconds timeout = patience);
+    std::optional<int> waitForExit(Seconds timeout = defaultTimeout);
     // Sends the signal to the process alone.
     void signal(int number);
     // Sends SIGKILL to the process and what it started, and waits for its end.
@@ -49,7 +49,7 @@ public:
     // Waits for a line on standard error that contains the text, at or after the line numbered from. Answers the number
     // of the line after it, or none when the time is over or the process ended without it.
     std::optional<std::size_t> waitForErrorLine(const std::string& text, std::size_t from = 0,
-                                                Seconds timeout = patience);
+                                                Seconds timeout = defaultTimeout);
 
     // From /proc: processor seconds used so far by the process, all its threads; resident memory in bytes. 0 after its
     // end.

@@ -10,11 +10,11 @@ using Seconds = std::chrono::duration<double>;
 
 // How long a test waits for something that must come. Far above what a loaded machine needs: it is used up only when
 // the test fails.
-inline constexpr Seconds patience{15.0};
+inline constexpr Seconds defaultTimeout{15.0};
 
 // Asks again and again until condition() is true or the time is over; answers whether it became true.
 template <typename Condition>
-bool waitUntil(Condition condition, Seconds timeout = patience, Seconds interval = Seconds(0.003)) {
+bool waitUntil(Condition condition, Seconds timeout = defaultTimeout, Seconds interval = Seconds(0.003)) {
     const auto end = std::chrono::steady_clock::now() + timeout;
     while (true) {
         if (condition())

@@ -61,8 +61,9 @@ public:
     Picture screen();
 
     // Polls the pixel until the predicate holds.
-    bool waitForPixel(int x, int y, const std::function<bool(const Color&)>& predicate, Seconds timeout = patience);
-    bool waitForColor(int x, int y, const Color& color, Seconds timeout = patience);
+    bool waitForPixel(int x, int y, const std::function<bool(const Color&)>& predicate,
+                      Seconds timeout = defaultTimeout);
+    bool waitForColor(int x, int y, const Color& color, Seconds timeout = defaultTimeout);
     // The smallest region that holds every pixel near the colour; empty when there is none.
     Region extentOf(const Color& color, int tolerance = 40);
 

@@ -56,12 +56,12 @@ platform::ToolRequest limited(const QString& program, const QStringList& argumen
 /// Links to the archive, and to the further volumes of an old one, under names of their own: by the archive's own name
 /// other archives beside it would be taken for its volumes.
 QString linkArchive(const QString& archive, const QString& room) {
-    constexpr int mostVolumes = 200;
+    constexpr int maximumVolumes = 200;
     const QFileInfo file(archive);
     const QString link = room + QStringLiteral("/archive.rar");
     QFile::link(file.absoluteFilePath(), link);
     const QString base = file.absolutePath() + u'/' + file.completeBaseName();
-    for (int volume = 0; volume < mostVolumes; ++volume) {
+    for (int volume = 0; volume < maximumVolumes; ++volume) {
         const QString extension =
             QStringLiteral(".%1%2").arg(u"rs"[volume / 100]).arg(volume % 100, 2, 10, QChar(u'0'));
         if (!QFileInfo(base + extension).isFile())

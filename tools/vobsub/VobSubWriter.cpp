@@ -9,7 +9,7 @@ namespace vobsub {
 
 namespace {
 
-constexpr std::size_t largestUnit = 65535;
+constexpr std::size_t maximumUnitSize = 65535;
 
 std::uint8_t low(std::size_t value) {
     return static_cast<std::uint8_t>(value & 0xFF);
@@ -67,7 +67,7 @@ void Bitmap::fill(int x, int y, int w, int h, std::uint8_t code) {
 }
 
 Bytes runLengths(const Bitmap& bitmap, int first) {
-    constexpr int longestRun = 255;
+    constexpr int maximumRun = 255;
     Bytes bytes;
     NibbleWriter writer(bytes);
     for (int y = first; y < bitmap.height; y += 2) {
@@ -76,8 +76,8 @@ Bytes runLengths(const Bitmap& bitmap, int first) {
             int end = x;
             while (end < bitmap.width && bitmap.at(end, y) == code)
                 ++end;
-            const int length = std::min(end - x, longestRun);
-            const bool isRest = end == bitmap.width && end - x > longestRun;
+            const int length = std::min(end - x, maximumRun);
+            const bool isRest = end == bitmap.width && end - x > maximumRun;
             writer.appendRun(isRest ? 0 : static_cast<unsigned>(length), code);
             x = isRest ? end : x + length;
         }
@@ -93,7 +93,7 @@ Bytes unit(const Subpicture& subpicture) {
     const Bytes bottom = runLengths(bitmap, 1);
     const std::size_t bottomStart = topStart + top.size();
     const std::size_t dataSize = bottomStart + bottom.size();
-    if (dataSize >= largestUnit - 64)
+    if (dataSize >= maximumUnitSize - 64)
         return {};
 
     Bytes bytes(topStart);

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-constexpr double largestForOneThread = 1920.0 * 1088.0;
+constexpr double maximumPixelsForOneThread = 1920.0 * 1088.0;
 
 } // namespace
 
@@ -28,7 +28,7 @@ QByteArray loadOptions(const MovieInfo& movie, double start) {
         options << "video-rotate=no"
                 << "vf=%" + length + "%" + turn;
     }
-    if (movie.naturalSize.width() * movie.naturalSize.height() > largestForOneThread)
+    if (movie.naturalSize.width() * movie.naturalSize.height() > maximumPixelsForOneThread)
         options << "vd-lavc-threads=0";
     return options.join(',');
 }

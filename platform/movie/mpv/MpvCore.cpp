@@ -4,7 +4,7 @@
 #include "platform/base/Log.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/window/GraphicsDevice.h"
-#include "platform/window/PictureLayer.h"
+#include "platform/window/VideoLayer.h"
 
 #include <QString>
 

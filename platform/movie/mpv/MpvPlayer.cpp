@@ -23,7 +23,7 @@ namespace platform {
 namespace {
 
 constexpr QEvent::Type eventsDueEvent = QEvent::User;
-constexpr QEvent::Type picturesDueEvent = static_cast<QEvent::Type>(QEvent::User + 1);
+constexpr QEvent::Type framesDueEvent = static_cast<QEvent::Type>(QEvent::User + 1);
 constexpr QEvent::Type coreDeliveredEvent = static_cast<QEvent::Type>(QEvent::User + 2);
 
 // What is observed, by the number that its changes carry.
@@ -31,7 +31,7 @@ constexpr std::uint64_t timeProperty = 1;
 constexpr std::uint64_t endProperty = 2;
 
 // How long the core is kept back for it at most.
-constexpr double firstPictureTimeout = 0.15;
+constexpr double firstFrameTimeout = 0.15;
 
 } // namespace
 
@@ -44,20 +44,20 @@ MpvPlayer::~MpvPlayer() {
 void MpvPlayer::dropCore() {
     if (_movie)
         load(nullptr);
-    if (_prepared.picture)
-        _prepared.picture->abandon();
-    _firstPictureWait.reset();
-    _picture.setFirstShown(nullptr);
-    _picture.setCore(nullptr);
+    if (_prepared.frame)
+        _prepared.frame->abandon();
+    _firstFrameWait.reset();
+    _video.setFirstShown(nullptr);
+    _video.setCore(nullptr);
     apply(playerEvent::CoreDropped{});
     _core.reset();
     _delivered.reset();
 }
 
-void MpvPlayer::whenFirstPictureIsDone(std::function<void()> work) {
-    const bool isComing = !_prepared.url.isEmpty() && !_picture.usesOpenGL();
-    _firstPictureWait = RunLoop::main().schedule(isComing ? firstPictureTimeout : 0, false, std::move(work));
-    _picture.setFirstShown([this] { _firstPictureWait->rearm(0); });
+void MpvPlayer::whenFirstFrameIsDone(std::function<void()> work) {
+    const bool isComing = !_prepared.url.isEmpty() && !_video.usesOpenGL();
+    _firstFrameWait = RunLoop::main().schedule(isComing ? firstFrameTimeout : 0, false, std::move(work));
+    _video.setFirstShown([this] { _firstFrameWait->rearm(0); });
 }
 
 void MpvPlayer::deliverCore(std::unique_ptr<MpvCore> core) {
@@ -69,20 +69,20 @@ void MpvPlayer::adoptCore() {
     if (!_delivered)
         return;
     _core = std::move(_delivered);
-    _picture.setCore(_core.get());
+    _video.setCore(_core.get());
     const MpvLibrary& mpv = *MpvLibrary::get();
     mpv.mpv_request_log_messages(_core->handle(), "error");
     mpv.mpv_observe_property(_core->handle(), timeProperty, "time-pos", MPV_FORMAT_DOUBLE);
     mpv.mpv_observe_property(_core->handle(), endProperty, "eof-reached", MPV_FORMAT_FLAG);
-    // Posted once until it is handled: pictures and events come faster than they are worth handling one by one.
+    // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
         [this] {
             if (!_eventsPosted.exchange(true))
                 QCoreApplication::postEvent(this, new QEvent(eventsDueEvent), Qt::HighEventPriority);
         },
         [this] {
-            if (!_picturesPosted.exchange(true))
-                QCoreApplication::postEvent(this, new QEvent(picturesDueEvent), Qt::HighEventPriority);
+            if (!_framesPosted.exchange(true))
+                QCoreApplication::postEvent(this, new QEvent(framesDueEvent), Qt::HighEventPriority);
         });
     apply(playerEvent::CoreReady{});
     handleEvents();
@@ -98,9 +98,9 @@ bool MpvPlayer::event(QEvent* event) {
         handleEvents();
         return true;
     }
-    if (event->type() == picturesDueEvent) {
-        _picturesPosted = false;
-        picturesDue();
+    if (event->type() == framesDueEvent) {
+        _framesPosted = false;
+        framesDue();
         return true;
     }
     return QObject::event(event);
@@ -112,16 +112,16 @@ void MpvPlayer::load(Movie* movie) {
     std::optional<LoadedMovie> facts;
     if (movie) {
         facts = {movie->duration(), movie->timeScale(),
-                 movie->info().hasVideo ? LoadedMovie::Content::pictures : LoadedMovie::Content::sound};
+                 movie->info().hasVideo ? LoadedMovie::Content::frames : LoadedMovie::Content::sound};
     }
     const std::int32_t start = movie ? movie->time() : 0;
     if (_movie && _movie != movie)
         _movie->playerUnloaded(time());
     _movie = movie;
     ++_loads;
-    _picture.begin(movie ? movie->info().naturalSize : QSizeF());
+    _video.begin(movie ? movie->info().naturalSize : QSizeF());
     apply(playerEvent::Load{facts, start});
-    showPreparedPicture();
+    showPreparedFrame();
 }
 
 void MpvPlayer::apply(const PlayerEvent& event) {
@@ -137,29 +137,29 @@ void MpvPlayer::apply(const PlayerEvent& event) {
     }
 }
 
-void MpvPlayer::setPreparedPicture(PreparedPicture prepared) {
+void MpvPlayer::setPreparedFrame(PreparedFrame prepared) {
     _prepared = std::move(prepared);
-    if (!_prepared.picture)
+    if (!_prepared.frame)
         return;
-    _prepared.picture->receive([this](std::shared_ptr<const FirstPicture> first) {
-        _preparedPicture = std::move(first);
-        if (_preparedPicture) {
-            showPreparedPicture();
+    _prepared.frame->receive([this](std::shared_ptr<const FirstFrame> first) {
+        _preparedFrame = std::move(first);
+        if (_preparedFrame) {
+            showPreparedFrame();
             return;
         }
         // There is nothing to wait for.
         _prepared.url.clear();
-        if (_firstPictureWait)
-            _firstPictureWait->rearm(0);
+        if (_firstFrameWait)
+            _firstFrameWait->rearm(0);
     });
 }
 
-void MpvPlayer::showPreparedPicture() {
-    if (!_preparedPicture || !_movie || _movie->url() != _prepared.url || time() != 0 || _picture.hasCorePicture())
+void MpvPlayer::showPreparedFrame() {
+    if (!_preparedFrame || !_movie || _movie->url() != _prepared.url || time() != 0 || _video.hasCoreFrame())
         return;
-    _picture.setFirst(std::exchange(_preparedPicture, nullptr));
+    _video.setFirst(std::exchange(_preparedFrame, nullptr));
     if (_observer)
-        _observer->playerPictureChanged();
+        _observer->playerFrameChanged();
 }
 
 // What the core reports
@@ -211,11 +211,11 @@ void MpvPlayer::handle(const mpv_event& event) {
     }
 }
 
-void MpvPlayer::picturesDue() {
+void MpvPlayer::framesDue() {
     if (!_core || !_core->renderContext())
         return;
     if (MpvLibrary::get()->mpv_render_context_update(_core->renderContext()) & MPV_RENDER_UPDATE_FRAME)
-        apply(playerEvent::PictureDue{});
+        apply(playerEvent::FrameDue{});
 }
 
 // What follows
@@ -251,16 +251,16 @@ void MpvPlayer::carryOut(const playerEffect::ArmTimer& effect) {
         });
 }
 
-void MpvPlayer::tell(const playerReport::PictureChanged&) {
+void MpvPlayer::tell(const playerReport::FrameChanged&) {
     if (_observer)
-        _observer->playerPictureChanged();
+        _observer->playerFrameChanged();
 }
 
-void MpvPlayer::tell(const playerReport::PictureDue&) {
+void MpvPlayer::tell(const playerReport::FrameDue&) {
     if (_observer)
-        _observer->playerPictureDue();
+        _observer->playerFrameDue();
     else
-        _picture.skip();
+        _video.skip();
 }
 
 void MpvPlayer::tell(const playerReport::StateChanged&) {

@@ -4,7 +4,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MoviePlayer.h"
 #include "platform/movie/mpv/Delivery.h"
-#include "platform/movie/mpv/MpvPicture.h"
+#include "platform/movie/mpv/MpvVideoLayer.h"
 #include "platform/movie/mpv/PlayerState.h"
 
 #include <QObject>
@@ -23,10 +23,10 @@ namespace platform {
 
 class MpvCore;
 
-/// A first picture that is being decoded ahead, of the movie at the URL; null where none comes.
-struct PreparedPicture {
+/// A first frame that is being decoded ahead, of the movie at the URL; null where none comes.
+struct PreparedFrame {
     QUrl url;
-    std::shared_ptr<Delivery<std::shared_ptr<const FirstPicture>>> picture;
+    std::shared_ptr<Delivery<std::shared_ptr<const FirstFrame>>> frame;
 };
 
 /// The player on libmpv. What is asked of it is kept as the wanted state, answered at once, and carried out
@@ -38,9 +38,9 @@ public:
     ~MpvPlayer() override;
 
     /// Shows it with the movie at its URL, once it is there.
-    void setPreparedPicture(PreparedPicture prepared);
-    /// Calls `work` once the prepared picture was shown, or soon, when there is none to wait for.
-    void whenFirstPictureIsDone(std::function<void()> work);
+    void setPreparedFrame(PreparedFrame prepared);
+    /// Calls `work` once the prepared frame was shown, or soon, when there is none to wait for.
+    void whenFirstFrameIsDone(std::function<void()> work);
     /// Unloads the movie and ends the core.
     void dropCore();
 
@@ -59,7 +59,7 @@ public:
     void setVolume(float volume) override { apply(playerEvent::SetVolume{volume}); }
     bool isMuted() const override { return _state.muted; }
     void setMuted(bool muted) override { apply(playerEvent::SetMuted{muted}); }
-    PictureLayer* pictureLayer() override { return &_picture; }
+    VideoLayer* videoLayer() override { return &_video; }
 
     /// Hands the core over, which is made on another thread; null when there will be none. Any thread, once.
     void deliverCore(std::unique_ptr<MpvCore> core);
@@ -67,10 +67,10 @@ public:
 private:
     bool event(QEvent* event) override;
     void adoptCore();
-    void showPreparedPicture();
+    void showPreparedFrame();
     void handleEvents();
     void handle(const mpv_event& event);
-    void picturesDue();
+    void framesDue();
 
     void apply(const PlayerEvent& event);
 
@@ -85,10 +85,10 @@ private:
     void carryOut(const playerEffect::ArmTimer& effect);
     void carryOut(const playerEffect::CancelTimer& effect) { timer(effect.timer).reset(); }
     void carryOut(const playerEffect::CancelTimers&) { _timers = {}; }
-    void carryOut(const playerEffect::UseCorePicture&) { _picture.corePictureReady(); }
+    void carryOut(const playerEffect::UseCoreFrame&) { _video.coreFrameReady(); }
 
-    void tell(const playerReport::PictureChanged&);
-    void tell(const playerReport::PictureDue&);
+    void tell(const playerReport::FrameChanged&);
+    void tell(const playerReport::FrameDue&);
     void tell(const playerReport::StateChanged&);
     void tell(const playerReport::ShowedFrame& report);
     void tell(const playerReport::Jumped&);
@@ -102,10 +102,10 @@ private:
 
     std::unique_ptr<MpvCore> _delivered;
     std::unique_ptr<MpvCore> _core;
-    MpvPicture _picture;
-    PreparedPicture _prepared;
-    std::shared_ptr<const FirstPicture> _preparedPicture; // come, and not shown yet
-    std::unique_ptr<Timer> _firstPictureWait;
+    MpvVideoLayer _video;
+    PreparedFrame _prepared;
+    std::shared_ptr<const FirstFrame> _preparedFrame; // come, and not shown yet
+    std::unique_ptr<Timer> _firstFrameWait;
     Observer* _observer = nullptr;
     Movie* _movie = nullptr;
     PlayerState _state;
@@ -113,7 +113,7 @@ private:
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 
     std::atomic<bool> _eventsPosted{false};
-    std::atomic<bool> _picturesPosted{false};
+    std::atomic<bool> _framesPosted{false};
 };
 
 } // namespace platform

@@ -29,12 +29,12 @@ void MpvToolkit::prepare(const QUrl& url) {
     std::promise<OpenedMovie> probed;
     _prepared = probed.get_future();
     _preparedUrl = url.isLocalFile() ? url : QUrl();
-    _firstPicture = {_preparedUrl, std::make_shared<Delivery<std::shared_ptr<const FirstPicture>>>()};
+    _firstFrame = {_preparedUrl, std::make_shared<Delivery<std::shared_ptr<const FirstFrame>>>()};
     _preparer =
-        std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = _firstPicture.picture]() mutable {
+        std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = _firstFrame.frame]() mutable {
             AvLibrary::get();
             probed.set_value(url.isEmpty() ? OpenedMovie{} : probeMovie(url, localTimeout, _cancelled));
-            decoded->deliver(url.isEmpty() ? nullptr : FirstPicture::decode(url, _cancelled));
+            decoded->deliver(url.isEmpty() ? nullptr : FirstFrame::decode(url, _cancelled));
         });
 }
 
@@ -43,10 +43,10 @@ void MpvToolkit::enter() {
         return;
     // The application object takes the user's locale over; libmpv asks for numbers with a point.
     setlocale(LC_NUMERIC, "C");
-    _player.setPreparedPicture(std::move(_firstPicture));
+    _player.setPreparedFrame(std::move(_firstFrame));
     // Loading a library holds a lock that starting the window needs, too. So the core comes after the first picture
     // where one is on its way.
-    _player.whenFirstPictureIsDone([this] {
+    _player.whenFirstFrameIsDone([this] {
         if (!_coreMaker.joinable() && !_cancelled)
             _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
     });

@@ -41,7 +41,7 @@ private:
     bool _entered = false;
     QUrl _preparedUrl;
     std::future<OpenedMovie> _prepared;
-    PreparedPicture _firstPicture;
+    PreparedFrame _firstFrame;
     std::thread _preparer;
     std::thread _coreMaker;
     MovieOpener _opener;

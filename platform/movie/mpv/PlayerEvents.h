@@ -17,7 +17,7 @@ namespace platform {
 struct LoadedMovie {
     std::int32_t duration = 0; ///< 0 when it is not known.
     std::int32_t timeScale = 600;
-    enum class Content { sound, pictures } content = Content::pictures;
+    enum class Content { sound, frames } content = Content::frames;
     friend bool operator==(const LoadedMovie&, const LoadedMovie&) = default;
 };
 
@@ -45,7 +45,7 @@ struct Seek {
     std::int32_t time;
     MoviePlayer::JumpReport report;
 };
-/// One picture forward (+1) or back (-1).
+/// One frame forward (+1) or back (-1).
 struct Step {
     int direction;
 };
@@ -68,7 +68,7 @@ struct FileFailed {
     std::int64_t entry;
     int error;
 };
-/// Pictures come again, after a load or a seek.
+/// Frames come again, after a load or a seek.
 struct PlaybackRestarted {};
 struct TimeChanged {
     double seconds;
@@ -77,8 +77,8 @@ struct TimeChanged {
 struct EndChanged {
     bool atEnd;
 };
-/// A picture is to be taken from the core.
-struct PictureDue {};
+/// A frame is to be taken from the core.
+struct FrameDue {};
 
 } // namespace playerEvent
 
@@ -86,7 +86,7 @@ using PlayerEvent = std::variant<playerEvent::CoreReady, playerEvent::CoreDroppe
                                  playerEvent::SetRate, playerEvent::Seek, playerEvent::Step, playerEvent::SetVolume,
                                  playerEvent::SetMuted, playerEvent::TimerFired, playerEvent::FileStarted,
                                  playerEvent::FileFailed, playerEvent::PlaybackRestarted, playerEvent::TimeChanged,
-                                 playerEvent::EndChanged, playerEvent::PictureDue>;
+                                 playerEvent::EndChanged, playerEvent::FrameDue>;
 
 /// What is to be done: commands to the core, which stands when one is asked for, and timers.
 namespace playerEffect {
@@ -99,7 +99,7 @@ struct StopFile {};
 struct SendSeek {
     SeekPlanner::Seek seek;
 };
-/// That many pictures forward, or back where it is negative.
+/// That many frames forward, or back where it is negative.
 struct SendSteps {
     int count;
 };
@@ -125,21 +125,21 @@ struct CancelTimer {
     PlayerTimer timer;
 };
 struct CancelTimers {};
-/// The pictures of the core are the movie's from here on.
-struct UseCorePicture {};
+/// The frames of the core are the movie's from here on.
+struct UseCoreFrame {};
 
 } // namespace playerEffect
 
 using PlayerEffect = std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::SendSeek,
                                   playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed,
                                   playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::ArmTimer,
-                                  playerEffect::CancelTimer, playerEffect::CancelTimers, playerEffect::UseCorePicture>;
+                                  playerEffect::CancelTimer, playerEffect::CancelTimers, playerEffect::UseCoreFrame>;
 
 /// What the observer and the movie are told.
 namespace playerReport {
 
-struct PictureChanged {};
-struct PictureDue {};
+struct FrameChanged {};
+struct FrameDue {};
 struct StateChanged {};
 struct ShowedFrame {
     std::int32_t time;
@@ -153,10 +153,10 @@ struct Failed {
 } // namespace playerReport
 
 using PlayerReport =
-    std::variant<playerReport::PictureChanged, playerReport::PictureDue, playerReport::StateChanged,
+    std::variant<playerReport::FrameChanged, playerReport::FrameDue, playerReport::StateChanged,
                  playerReport::ShowedFrame, playerReport::Jumped, playerReport::ReachedEnd, playerReport::Failed>;
 
-/// A list that lies within itself: an event for each picture allocates nothing.
+/// A list that lies within itself: an event for each frame allocates nothing.
 template <class Item>
 class ShortList {
 public:

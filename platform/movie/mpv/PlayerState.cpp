@@ -18,9 +18,9 @@ using Precision = SeekPlanner::Precision;
 using SeekStage = PlayerState::SeekStage;
 using TimeSource = PlayerState::TimeSource;
 
-constexpr float fastestPlayed = 4.0F;
+constexpr float maximumPlayedRate = 4.0F;
 constexpr double scrubInterval = 1.0 / 12;
-// How long the picture of a keyframe may take to reach the screen before the exact picture is asked for anyway.
+// How long the frame of a keyframe may take to reach the screen before the exact frame is asked for anyway.
 constexpr double keyframeTimeout = 0.1;
 // A movie that fails at once counts as ended after a moment: a list of nothing else must not spin.
 constexpr double failureDelay = 0.25;
@@ -62,7 +62,7 @@ public:
             sendLoad();
         else if (_s.core)
             effect(StopFile{});
-        report(PictureChanged{});
+        report(FrameChanged{});
     }
 
     void operator()(const playerEvent::FileStarted& started) {
@@ -91,7 +91,7 @@ public:
     void operator()(const playerEvent::Seek& asked) { seek(asked.time, asked.report); }
 
     void operator()(const playerEvent::Step& asked) {
-        if (!hasPictures())
+        if (!hasFrames())
             return;
         setRate(0, 0);
         // Sent while the core seeks, a step would play on to the end.
@@ -122,27 +122,27 @@ public:
             return;
         if (_s.file == File::loading) {
             _s.file = File::shown;
-            effect(UseCorePicture{});
-            report(PictureChanged{});
+            effect(UseCoreFrame{});
+            report(FrameChanged{});
         }
-        // The keyframe's picture has to be taken from the core before the next seek drops it.
-        if (hasPictures() && (_s.seekStage == SeekStage::sent || _s.seekStage == SeekStage::restarted)) {
+        // The keyframe's frame has to be taken from the core before the next seek drops it.
+        if (hasFrames() && (_s.seekStage == SeekStage::sent || _s.seekStage == SeekStage::restarted)) {
             _s.seekStage = SeekStage::restarted;
             effect(ArmTimer{PlayerTimer::keyframe, keyframeTimeout});
             return;
         }
-        if (_s.seekStage == SeekStage::pictured)
+        if (_s.seekStage == SeekStage::shown)
             effect(CancelTimer{PlayerTimer::keyframe});
         seekDone();
     }
 
-    void operator()(const playerEvent::PictureDue&) {
-        report(playerReport::PictureDue{});
-        // The next seek waits until the picture was taken.
+    void operator()(const playerEvent::FrameDue&) {
+        report(playerReport::FrameDue{});
+        // The next seek waits until the frame was taken.
         if (_s.seekStage == SeekStage::restarted)
             effect(ArmTimer{PlayerTimer::keyframe, 0});
         if (_s.seekStage != SeekStage::none)
-            _s.seekStage = SeekStage::pictured;
+            _s.seekStage = SeekStage::shown;
     }
 
     void operator()(const playerEvent::TimeChanged& changed) {
@@ -194,7 +194,7 @@ private:
     void effect(const PlayerEffect& wanted) { _result.effects.push(wanted); }
     void report(const PlayerReport& told) { _result.reports.push(told); }
 
-    bool hasPictures() const { return _s.movie && _s.movie->content == LoadedMovie::Content::pictures; }
+    bool hasFrames() const { return _s.movie && _s.movie->content == LoadedMovie::Content::frames; }
     /// Whether what the core says is about the movie loaded last.
     bool isOfMovie() const { return _s.core && _s.movie && _s.core->entryStarted == _s.core->entriesSent; }
 
@@ -233,7 +233,7 @@ private:
             return;
         const bool isThere = (rate < 0 && _s.time <= 0) || (rate > 0 && _s.atEnd && !_s.seeks.isBusy());
         _s.rate = isThere ? 0 : rate;
-        const bool scrubs = _s.rate < 0 || _s.rate > fastestPlayed;
+        const bool scrubs = _s.rate < 0 || _s.rate > maximumPlayedRate;
         if (scrubs && !_s.scrub) {
             _s.scrub = {now, toSeconds(_s.time)};
             effect(ArmTimer{PlayerTimer::scrub, scrubInterval});
@@ -286,7 +286,7 @@ private:
         _s.stepsWaiting = 0;
         if (_s.scrub)
             _s.scrub->position = toSeconds(_s.time);
-        request(toSeconds(_s.time), hasPictures() ? Precision::keyframeThenExact : Precision::exact);
+        request(toSeconds(_s.time), hasFrames() ? Precision::keyframeThenExact : Precision::exact);
         if (jumpReport == JumpReport::reported)
             report(Jumped{});
         report(StateChanged{});

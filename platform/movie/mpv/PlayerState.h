@@ -33,13 +33,13 @@ struct PlayerState {
     bool atEnd = false; // the core is
 
     SeekPlanner seeks;
-    /// How far the seek under way is: sent, sent and a picture was due since, or done but for the picture.
-    enum class SeekStage { none, sent, pictured, restarted };
+    /// How far the seek under way is: sent, sent and a frame was due since, or done but for the frame.
+    enum class SeekStage { none, sent, shown, restarted };
     SeekStage seekStage = SeekStage::none;
     int stepsWaiting = 0; // for the seek under way
 
-    /// What `time` is: what was asked for, until pictures move on from there; about to be that of the picture stepped
-    /// to; or that of the core's pictures.
+    /// What `time` is: what was asked for, until frames move on from there; about to be that of the frame stepped
+    /// to; or that of the core's frames.
     enum class TimeSource { asked, step, core };
     TimeSource timeSource = TimeSource::asked;
 

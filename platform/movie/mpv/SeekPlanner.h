@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// Decides which seek to send next, one at a time: the keyframe before a new place first, so that a picture of it
+/// Decides which seek to send next, one at a time: the keyframe before a new place first, so that a frame of it
 /// stands at once, then the exact place. Places asked for while a seek is under way replace each other, so that a
 /// dragged slider builds up no backlog. A value; places are in seconds.
 class SeekPlanner {
@@ -16,7 +16,7 @@ public:
         Kind kind;
         friend bool operator==(const Seek&, const Seek&) = default;
     };
-    /// What is wanted of a place: its exact picture at once (sound alone has no keyframes), that of the keyframe before
+    /// What is wanted of a place: its exact frame at once (sound alone has no keyframes), that of the keyframe before
     /// it and then the exact one, or that of the keyframe only.
     enum class Precision { exact, keyframeThenExact, keyframeOnly };
 

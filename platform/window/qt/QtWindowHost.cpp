@@ -2,8 +2,8 @@
 #include "platform/window/qt/QtWindowHost.h"
 
 #include "platform/window/GraphicsDevice.h"
-#include "platform/window/PictureLayer.h"
 #include "platform/window/SceneGeometry.h"
+#include "platform/window/VideoLayer.h"
 #include "platform/window/Window.h"
 #include "platform/window/qt/QtEvents.h"
 #include "platform/window/qt/QtMenus.h"
@@ -97,7 +97,7 @@ QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
 
 QtWindowHost::~QtWindowHost() {
     if (_openGL)
-        _composer.forEachPicture(devicePixelRatio(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
+        _composer.forEachVideoLayer(devicePixelRatio(), [](VideoLayer& layer, const QRect&) { layer.endGL(); });
     _root.setHost(nullptr);
 }
 
@@ -112,10 +112,10 @@ bool QtWindowHost::chooseOpenGL(Renderer renderer) {
     if (!openGL->create() || (renderer == Renderer::automatic && isSoftwareRenderer(openGL->rendererName())))
         return false;
     bool taken = true;
-    _composer.forEachPicture(devicePixelRatio(),
-                             [&](PictureLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
+    _composer.forEachVideoLayer(devicePixelRatio(),
+                                [&](VideoLayer& layer, const QRect&) { taken = layer.beginGL(*openGL) && taken; });
     if (!taken) {
-        _composer.forEachPicture(devicePixelRatio(), [](PictureLayer& layer, const QRect&) { layer.endGL(); });
+        _composer.forEachVideoLayer(devicePixelRatio(), [](VideoLayer& layer, const QRect&) { layer.endGL(); });
         return false;
     }
     _openGL = std::move(openGL);
@@ -193,7 +193,7 @@ bool QtWindowHost::markDirty(const Rect& rect) {
     if (pixels.isEmpty())
         return false;
     if (!isExposed()) {
-        skipPictures();
+        skipFrames();
         return false; // exposing paints everything
     }
     _dirty += pixels;
@@ -244,8 +244,8 @@ void QtWindowHost::paint() {
         paintSoftware(dirty);
 }
 
-void QtWindowHost::skipPictures() {
-    _composer.forEachPicture(devicePixelRatio(), [](PictureLayer& layer, const QRect&) { layer.skip(); });
+void QtWindowHost::skipFrames() {
+    _composer.forEachVideoLayer(devicePixelRatio(), [](VideoLayer& layer, const QRect&) { layer.skip(); });
 }
 
 void QtWindowHost::paintSoftware(const QRegion& marked) {
@@ -255,7 +255,7 @@ void QtWindowHost::paintSoftware(const QRegion& marked) {
         _backingStore->resize(size());
         dirty = whole;
     }
-    _composer.forEachPicture(devicePixelRatio(), [&](PictureLayer&, const QRect& picture) {
+    _composer.forEachVideoLayer(devicePixelRatio(), [&](VideoLayer&, const QRect& picture) {
         if (dirty.intersects(picture))
             dirty += picture.intersected(whole);
     });
@@ -289,7 +289,7 @@ void QtWindowHost::paintOpenGL() {
     gl->glClearColor(static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
                      static_cast<float>(color.blueF()), 1.0F);
     gl->glClear(GL_COLOR_BUFFER_BIT);
-    _composer.forEachPicture(devicePixelRatio(), [&](PictureLayer& layer, const QRect& picture) {
+    _composer.forEachVideoLayer(devicePixelRatio(), [&](VideoLayer& layer, const QRect& picture) {
         layer.renderGL(picture, pixels, context.defaultFramebufferObject());
     });
     // The renderer leaves the state of OpenGL as it likes; the painter wants it plain.

@@ -72,7 +72,7 @@ private:
     void paintSoftware(const QRegion& dirty);
     void paintOpenGL();
     QRegion toPoints(const QRegion& pixels) const;
-    void skipPictures();
+    void skipFrames();
     MouseEvent mouseEvent(const QMouseEvent& event);
     bool dragEvent(QDropEvent& event, QEvent::Type type);
 

@@ -24,6 +24,6 @@ private:
     std::unique_ptr<QGuiApplication> _application;
 };
 
-const auto* const kEnvironment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
+const auto* const guiEnvironment = testing::AddGlobalTestEnvironment(new GuiEnvironment);
 
 } // namespace

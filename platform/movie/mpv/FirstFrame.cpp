@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/movie/mpv/FirstPicture.h"
+#include "platform/movie/mpv/FirstFrame.h"
 
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
@@ -42,11 +42,11 @@ int colorMatrix(const AVFrame* frame) {
 
 } // namespace
 
-FirstPicture::~FirstPicture() {
+FirstFrame::~FirstFrame() {
     AvLibrary::get()->av_frame_free(&_frame);
 }
 
-std::shared_ptr<const FirstPicture> FirstPicture::decode(const QUrl& url, const std::atomic<bool>& cancelled) {
+std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std::atomic<bool>& cancelled) {
     const AvLibrary* av = AvLibrary::get();
     if (!av || !url.isLocalFile())
         return nullptr;
@@ -82,14 +82,14 @@ std::shared_ptr<const FirstPicture> FirstPicture::decode(const QUrl& url, const 
         if ((ours && sent) || ended)
             av->avcodec_send_packet(decoder.get(), nullptr);
         if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0)
-            return isPlain(video, frame.get()) ? std::make_shared<const FirstPicture>(frame.release()) : nullptr;
+            return isPlain(video, frame.get()) ? std::make_shared<const FirstFrame>(frame.release()) : nullptr;
         if (ended || sent)
             return nullptr;
     }
     return nullptr;
 }
 
-bool FirstPicture::render(const QSize& size, unsigned char* pixels, std::size_t stride) const {
+bool FirstFrame::render(const QSize& size, unsigned char* pixels, std::size_t stride) const {
     const AvLibrary& av = *AvLibrary::get();
     SwsContext* scaler =
         av.sws_getContext(_frame->width, _frame->height, static_cast<AVPixelFormat>(_frame->format), size.width(),

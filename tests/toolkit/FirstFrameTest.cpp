@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/movie/mpv/FirstPicture.h"
+#include "platform/movie/mpv/FirstFrame.h"
 
 #include "tests/toolkit/ToolkitRig.h"
 
@@ -16,7 +16,7 @@ std::filesystem::path pattern(const std::string& name, const std::string& size,
 
 } // namespace
 
-TEST(FirstPicture, is_the_one_that_the_player_shows_first) {
+TEST(FirstFrame, is_the_one_that_the_player_shows_first) {
     const std::filesystem::path paths[] = {
         pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}),
         pattern("full.mp4", "640x360", {"-c:v", "libx264", "-vf", "scale=out_range=full,format=yuvj420p"}),
@@ -29,7 +29,7 @@ TEST(FirstPicture, is_the_one_that_the_player_shows_first) {
     for (const std::filesystem::path& path : paths) {
         ToolkitRig rig;
         const std::atomic<bool> cancelled{false};
-        const auto first = platform::FirstPicture::decode(urlOf(path), cancelled);
+        const auto first = platform::FirstFrame::decode(urlOf(path), cancelled);
         ASSERT_TRUE(first) << path;
         RenderedPicture expected(rig.screen.size());
         ASSERT_TRUE(first->render(expected.size(), expected.pixels(), expected.stride()));
@@ -41,12 +41,12 @@ TEST(FirstPicture, is_the_one_that_the_player_shows_first) {
     }
 }
 
-TEST(FirstPicture, is_left_to_the_player_where_it_is_not_simple) {
+TEST(FirstFrame, is_left_to_the_player_where_it_is_not_simple) {
     const std::atomic<bool> cancelled{false};
     const auto rotated = media().makeTurned(
         "turned.mp4", pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"}), 1);
-    EXPECT_FALSE(platform::FirstPicture::decode(urlOf(rotated), cancelled));
+    EXPECT_FALSE(platform::FirstFrame::decode(urlOf(rotated), cancelled));
     const auto sound = media().make("sound.mp3", {"-f", "lavfi", "-i", "sine=d=1"});
-    EXPECT_FALSE(platform::FirstPicture::decode(urlOf(sound), cancelled));
-    EXPECT_FALSE(platform::FirstPicture::decode(urlOf("/nowhere.mp4"), cancelled));
+    EXPECT_FALSE(platform::FirstFrame::decode(urlOf(sound), cancelled));
+    EXPECT_FALSE(platform::FirstFrame::decode(urlOf("/nowhere.mp4"), cancelled));
 }

@@ -14,15 +14,15 @@ namespace platform {
 
 /// The first picture of a movie, decoded without the player: it stands on the screen while the player is still
 /// starting.
-class FirstPicture {
+class FirstFrame {
 public:
     /// Decodes it; null where that is not simple (rotated, high dynamic range, nothing decoded soon). Any thread.
-    static std::shared_ptr<const FirstPicture> decode(const QUrl& url, const std::atomic<bool>& cancelled);
-    explicit FirstPicture(AVFrame* frame)
+    static std::shared_ptr<const FirstFrame> decode(const QUrl& url, const std::atomic<bool>& cancelled);
+    explicit FirstFrame(AVFrame* frame)
         : _frame(frame) {}
-    FirstPicture(const FirstPicture&) = delete;
-    FirstPicture& operator=(const FirstPicture&) = delete;
-    ~FirstPicture();
+    FirstFrame(const FirstFrame&) = delete;
+    FirstFrame& operator=(const FirstFrame&) = delete;
+    ~FirstFrame();
 
     /// Scales it to `size` pixels of blue, green, red, unused; false when that failed.
     bool render(const QSize& size, unsigned char* pixels, std::size_t stride) const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/movie/mpv/MpvPicture.h"
+#include "platform/movie/mpv/MpvVideoLayer.h"
 
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MpvCore.h"
@@ -9,19 +9,19 @@
 
 namespace platform {
 
-void MpvPicture::begin(const QSizeF& naturalSize) {
+void MpvVideoLayer::begin(const QSizeF& naturalSize) {
     _coreHasPicture = false;
     _first = nullptr;
     _naturalSize = naturalSize;
 }
 
-void MpvPicture::setProperty(const char* name, double value) {
+void MpvVideoLayer::setProperty(const char* name, double value) {
     MpvLibrary::get()->mpv_set_property_async(_core->handle(), 0, name, MPV_FORMAT_DOUBLE, &value);
 }
 
 /// Lets the core show just the visible part of a picture that is larger or smaller than what is rendered: from the size
 /// at which it would fit the picture in, it is magnified and shifted.
-void MpvPicture::setCrop(const QRect& picture, const QRect& visible) {
+void MpvVideoLayer::setCrop(const QRect& picture, const QRect& visible) {
     if (_cropPicture == picture && _cropVisible == visible)
         return;
     _cropPicture = picture;
@@ -38,7 +38,8 @@ void MpvPicture::setCrop(const QRect& picture, const QRect& visible) {
     setProperty("video-pan-y", shift.y() / picture.height());
 }
 
-bool MpvPicture::renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) {
+bool MpvVideoLayer::renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels,
+                                 std::size_t stride) {
     unsigned char* const target =
         pixels + static_cast<std::size_t>(visible.y()) * stride + static_cast<std::size_t>(visible.x()) * 4;
     if (!_coreHasPicture) {
@@ -60,25 +61,25 @@ bool MpvPicture::renderPixels(const QRect& picture, const QRect& visible, unsign
     return MpvLibrary::get()->mpv_render_context_render(_core->renderContext(), parameters) >= 0;
 }
 
-void MpvPicture::setCore(MpvCore* core) {
+void MpvVideoLayer::setCore(MpvCore* core) {
     // The core's renderer ends with it, or is made anew, in the context that it belongs to.
     if (_gl && _gl->makeCurrent() && core)
         core->useOpenGL(*_gl);
     _core = core;
 }
 
-bool MpvPicture::beginGL(GLContext& context) {
+bool MpvVideoLayer::beginGL(GLContext& context) {
     _gl = &context;
     return !_core || (_gl->makeCurrent() && _core->useOpenGL(context));
 }
 
-void MpvPicture::endGL() {
+void MpvVideoLayer::endGL() {
     if (_core && _gl && _gl->makeCurrent())
         _core->useSoftware();
     _gl = nullptr;
 }
 
-bool MpvPicture::renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) {
+bool MpvVideoLayer::renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) {
     if (!_coreHasPicture || !_core->renderContext())
         return false;
     mpv_opengl_fbo fbo{static_cast<int>(framebuffer), target.width(), target.height(), 0};
@@ -92,7 +93,7 @@ bool MpvPicture::renderGL(const QRect& picture, const QSize& target, unsigned fr
     return MpvLibrary::get()->mpv_render_context_render(_core->renderContext(), parameters) >= 0;
 }
 
-void MpvPicture::skip() {
+void MpvVideoLayer::skip() {
     if (!_core || !_core->renderContext())
         return;
     // A picture that is not taken within a fifth of a second counts as dropped, and holds up the core meanwhile.

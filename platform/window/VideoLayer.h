@@ -18,12 +18,12 @@ public:
 
 /// A picture that renders itself straight into a window host's target, below everything that is drawn over it.
 /// All rectangles are whole device pixels of the target, origin top left, y down. Main thread.
-class PictureLayer {
+class VideoLayer {
 public:
-    PictureLayer() = default;
-    PictureLayer(const PictureLayer&) = delete;
-    PictureLayer& operator=(const PictureLayer&) = delete;
-    virtual ~PictureLayer() = default;
+    VideoLayer() = default;
+    VideoLayer(const VideoLayer&) = delete;
+    VideoLayer& operator=(const VideoLayer&) = delete;
+    virtual ~VideoLayer() = default;
 
     /// Puts the part `visible` of the picture, scaled so that the whole would fill `picture`, into `pixels`: the
     /// address of the target's top left pixel, 32 bits each in the order blue, green, red, unused, `stride` bytes a
