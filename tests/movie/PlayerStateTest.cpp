@@ -412,7 +412,7 @@ TEST(PlayerState, an_end_during_a_seek_counts_once_that_is_done) {
         exact(Seek{0, silent});
         exact(EndChanged{true});
         exact(SetRate{plays ? 1.0F : 0.0F, 0});
-        exact(PictureDue{});
+        exact(FrameDue{});
         EXPECT_EQ(exact(PlaybackRestarted{}), plays ? "cancel keyframe | state, end" : "cancel keyframe");
     }
 }
