@@ -25,15 +25,22 @@ public:
     /// Runs while an alert is up, as the event loop does.
     std::function<void()> whileAlertIsUp;
 
-    /// The folders that open panels began in.
+    /// The folders that open panels began in, and the extensions that they offered.
     QStringList openPanelFolders;
+    QList<QStringList> openPanelExtensions;
     QList<QStringList> openPanelAnswers;
+
+    int beeps = 0;
+    /// The addresses that were to be opened, and whether a program for them starts.
+    QList<QUrl> openedURLs;
+    bool opensURLs = true;
 
     std::vector<platform::Screen> screenList = {{platform::Rect(0, 0, 1440, 900), true, 1, "Main"}};
     /// By the screens' numbers; a screen that is missing cannot be read.
     QHash<std::uint32_t, float> brightnessLevels;
     std::uint32_t heldModifiers = 0;
     bool userActive = false;
+    int userActiveChanges = 0;
     int sleeps = 0;
     int terminations = 0;
     std::vector<bool> terminationReplies;
@@ -44,11 +51,12 @@ public:
             whileAlertIsUp();
         return taken(alertAnswers, 1);
     }
-    QStringList runOpenPanel(const QStringList&, const QString& folder) override {
+    QStringList runOpenPanel(const QStringList& extensions, const QString& folder) override {
+        openPanelExtensions.append(extensions);
         openPanelFolders.append(folder);
         return taken(openPanelAnswers, {});
     }
-    void beep() override {}
+    void beep() override { ++beeps; }
     std::vector<platform::Screen> screens() const override { return screenList; }
     float brightness(const platform::Screen& screen) const override {
         return brightnessLevels.value(screen.number, std::numeric_limits<float>::infinity());
@@ -56,9 +64,15 @@ public:
     void setBrightness(const platform::Screen& screen, float brightness) override {
         brightnessLevels[screen.number] = brightness;
     }
-    bool openURL(const QUrl&) override { return true; }
+    bool openURL(const QUrl& url) override {
+        openedURLs.append(url);
+        return opensURLs;
+    }
     std::uint32_t modifierFlags() const override { return heldModifiers; }
-    void setUserActive(bool active) override { userActive = active; }
+    void setUserActive(bool active) override {
+        userActive = active;
+        ++userActiveChanges;
+    }
     void sleep() override { ++sleeps; }
     void terminate() override { ++terminations; }
     void replyToApplicationShouldTerminate(bool terminate) override { terminationReplies.push_back(terminate); }
