@@ -84,7 +84,7 @@ TEST_F(VobSub, cues_stand_at_their_times_and_places_out_of_a_pair_and_out_of_arc
         SCOPED_TRACE(data.begin()->first);
         Files files = data;
         files["idx"] = writer.index();
-        startPaused(movie(files));
+        startStanding(movie(files));
         EXPECT_TRUE(logs("QVSubtitlesController: Switching to subtitles stream: \"English, film.idx\""));
         EXPECT_TRUE(nothingStands());
         jump(1, 2);
@@ -104,7 +104,7 @@ TEST_F(VobSub, cues_stand_at_their_times_and_places_out_of_a_pair_and_out_of_arc
 TEST_F(VobSub, the_chosen_language_follows_to_the_next_movie_and_the_picture_scales_it) {
     const Files files{{"idx", pair().index()}, {"sub", dataOf(pair())}};
     const std::string next = movie(files);
-    startPaused(movie(files), {next});
+    startStanding(movie(files), {next});
     EXPECT_TRUE(nothingStands());
     probe.tap(XK_s);
     ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: German, film.idx (2/2)"));
@@ -117,6 +117,10 @@ TEST_F(VobSub, the_chosen_language_follows_to_the_next_movie_and_the_picture_sca
     const std::size_t from = player->lineCount();
     probe.tap(XK_Next);
     ASSERT_TRUE(logs("QVSubtitlesController: Switching to subtitles stream: \"German, film.idx\"", from));
+    // It plays by now, and is brought to stand still before it is looked at.
+    probe.tap(XK_space);
+    ASSERT_TRUE(logs("QVMovieView: Stop Playing movie", from));
+    probe.tap(XK_Left, {XK_Alt_L});
     EXPECT_TRUE(standsAt(300, 240, 60, 60));
     // A smaller picture takes them along.
     const Region full = blueBox();

@@ -10,7 +10,7 @@ using Seconds = std::chrono::duration<double>;
 
 // How long a test waits for something that must come. Far above what a loaded machine needs: it is used up only when
 // the test fails.
-inline constexpr Seconds defaultTimeout{15.0};
+inline constexpr Seconds defaultTimeout{40.0};
 
 // Asks again and again until condition() is true or the time is over; answers whether it became true.
 template <typename Condition>

@@ -10,10 +10,12 @@
 #include <sys/shm.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <ostream>
 #include <stdexcept>
+#include <thread>
 
 namespace harness {
 
@@ -158,23 +160,27 @@ void XProbe::sendKey(KeySym key, bool down) {
     if (!code)
         throw std::runtime_error("the keyboard has no such key");
     XTestFakeKeyEvent(_display, code, down ? True : False, CurrentTime);
-    XSync(_display, False);
 }
 
 void XProbe::press(KeySym key) {
     sendKey(key, true);
+    XSync(_display, False);
 }
 void XProbe::release(KeySym key) {
     sendKey(key, false);
+    XSync(_display, False);
 }
 
 void XProbe::tap(KeySym key, const std::vector<KeySym>& modifiers) {
     for (const KeySym modifier : modifiers)
-        press(modifier);
-    press(key);
-    release(key);
+        sendKey(modifier, true);
+    sendKey(key, true);
+    sendKey(key, false);
     for (auto modifier = modifiers.rbegin(); modifier != modifiers.rend(); ++modifier)
-        release(*modifier);
+        sendKey(*modifier, false);
+    XSync(_display, False);
+    // A press in the same millisecond as the last release would count as a repeat of it.
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
 void XProbe::movePointer(int x, int y) {

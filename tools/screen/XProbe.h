@@ -68,7 +68,7 @@ public:
     Region extentOf(const Color& color, int tolerance = 40);
 
     // Keys, by keysym (XK_space, XK_Right) with the modifiers held meanwhile (XK_Control_L, XK_Alt_L, XK_Super_L,
-    // XK_Shift_L).
+    // XK_Shift_L). A tap reaches the server whole: however busy the machine, no key is held long enough to repeat.
     void tap(KeySym key, const std::vector<KeySym>& modifiers = {});
     void press(KeySym key);
     void release(KeySym key);
