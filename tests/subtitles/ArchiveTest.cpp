@@ -164,3 +164,12 @@ TEST_F(Archives, a_sweep_removes_what_killed_processes_left_and_nothing_else) {
     EXPECT_TRUE(QFileInfo(link).isSymLink());
     EXPECT_TRUE(QFileInfo::exists(other + QStringLiteral("/kept")));
 }
+
+TEST_F(Archives, extensions_are_found_in_any_case) {
+    const QString base = folder.filePath("Film.x");
+    EXPECT_EQ(SubFileSearch::fileBeside(base, "sub"), QString());
+    for (const char* extension : {"Sub", "SUB", "sub"}) {
+        const QString path = write("Film.x." + QString::fromUtf8(extension), "x");
+        EXPECT_EQ(SubFileSearch::fileBeside(base, "sub"), path);
+    }
+}

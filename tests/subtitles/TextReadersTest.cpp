@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "subtitles/input/LineReader.h"
+#include "subtitles/input/ScanFormat.h"
 #include "tests/subtitles/SubtitleFiles.h"
 
+#include <array>
 #include <sys/stat.h>
 
 namespace {
@@ -141,4 +144,53 @@ TEST_F(TextReaders, only_files_are_read) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     for (const QString& path : {pipe, folder.path(), folder.filePath(QStringLiteral("missing.srt")), QString()})
         EXPECT_TRUE(registry.subtitlesWithFilePath(path, owner).empty()) << path.toStdString();
+}
+
+TEST(ScanFormat, numbers_are_read_as_scanf_reads_them) {
+    constexpr std::string_view plain = "%d:%d";
+    const struct {
+        std::string_view line;
+        std::string_view format;
+        std::size_t filled;
+        std::size_t consumed;
+        std::array<std::int32_t, 2> values;
+    } cases[] = {
+        {"12:34", plain, 2, 5, {12, 34}},
+        {" \t12: -34x", plain, 2, 9, {12, -34}},
+        {"+1:\n2", plain, 2, 5, {1, 2}},
+        {"12 :34", plain, 1, 2, {12, 0}},
+        {"12 :34", "%d :%d", 2, 6, {12, 34}},
+        {"12:34", "%d : %d", 2, 5, {12, 34}},
+        {"- 1:2", plain, 0, 1, {0, 0}},
+        {"+-1:2", plain, 0, 1, {0, 0}},
+        {"12", plain, 1, 2, {12, 0}},
+        {"", plain, 0, 0, {0, 0}},
+        {"2147483648:-99999999999999999999", plain, 2, 32, {largest, smallest}},
+        {"7 ", "%d%c", 2, 2, {7, ' '}},
+        {"7\xFF", "%d%c", 2, 2, {7, 255}},
+        {"7", "%d%c", 1, 1, {7, 0}},
+    };
+    for (const auto& c : cases) {
+        std::array<std::int32_t, 2> values{};
+        const Scan scan = scanLine(c.line, c.format, values);
+        EXPECT_EQ(scan.filled, c.filled) << c.line;
+        EXPECT_EQ(scan.consumed, c.consumed) << c.line;
+        EXPECT_EQ(values, c.values) << c.line;
+    }
+}
+
+TEST(LineReader, lines_come_in_pieces_of_999_bytes) {
+    const std::string longLine = std::string(1000, 'a') + "\n";
+    const std::string exact = std::string(998, 'b') + "\nc";
+    const std::string text = longLine + exact;
+    LineReader lines(text);
+    std::vector<std::size_t> sizes;
+    while (const auto piece = lines.next())
+        sizes.push_back(piece->size());
+    EXPECT_EQ(sizes, (std::vector<std::size_t>{999, 2, 999, 1}));
+    EXPECT_TRUE(lines.isAtEnd());
+
+    LineReader withNul(std::string_view("ab\0cd\nef", 8));
+    EXPECT_EQ(withNul.next(), "ab");
+    EXPECT_EQ(withNul.next(), "ef");
 }

@@ -197,3 +197,44 @@ TEST(VobSubPacket, a_picture_is_placed_as_the_index_says) {
     for (const Case& one : cases)
         EXPECT_EQ(VobSubPlacement::place({110, 405, 390, 455}, one.index), one.rect) << one.name;
 }
+
+TEST(VobSubPacket, control_sequences_say_colours_area_forced_and_stop) {
+    vobsub::Subpicture subpicture = uncropped(vobsub::Bitmap{300, 60});
+    subpicture.x = 100;
+    subpicture.y = 400;
+    subpicture.colors = {4, 5, 6, 7};
+    subpicture.contrasts = {0, 1, 8, 15};
+    subpicture.forced = true;
+    const Bytes unit = vobsub::unit(subpicture);
+    const auto control = ControlSequences::parse(unit, unit[2] << 8 | unit[3]);
+    ASSERT_TRUE(control);
+    EXPECT_EQ(control->rect, (Rect{100, 400, 400, 460}));
+    EXPECT_EQ(control->displayTime, 1024);
+    EXPECT_TRUE(control->forced);
+    for (std::size_t code = 0; code < 4; ++code)
+        EXPECT_EQ(control->pal[code], (SubpictureControl::Color{subpicture.colors[code], subpicture.contrasts[code]}));
+    EXPECT_EQ(control->offset[0], 4);
+}
+
+TEST(VobSubPacket, pixels_are_those_of_the_codes) {
+    const VobSubIndex index = plainIndex();
+    unsigned seed = 0;
+    for (const int width : {2, 3, 16, 63, 64, 65, 255, 256, 257, 719, 720, 1920}) {
+        for (const int height : {2, 3, 50, 101}) {
+            for (const int longestRun : {3, 20, 300}) {
+                vobsub::Subpicture subpicture = uncropped(randomBitmap(width, height, longestRun, ++seed));
+                subpicture.colors = {9, 10, 11, 13};
+                subpicture.contrasts = {static_cast<std::uint8_t>(seed % 16), 15, 7,
+                                        static_cast<std::uint8_t>(seed / 16 % 16)};
+                const Bytes unit = vobsub::unit(subpicture);
+                if (unit.empty())
+                    continue; // too many short runs for one unit
+                auto packet = packetOf(unit);
+                ASSERT_TRUE(packet);
+                const auto image = packet->decodeWithInfo(index);
+                ASSERT_TRUE(image);
+                EXPECT_EQ(image->expanded(), expectedImage(subpicture, index)) << width << "x" << height;
+            }
+        }
+    }
+}
