@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/QVAppController.h"
 
+#include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
 #include "tests/app/AppRig.h"
 
 #include <gtest/gtest.h>
@@ -48,6 +50,34 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
 
     rig.app.applicationShouldTerminate();
     EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.25F) << "the screen gets back the brightness found at launch";
+}
+
+TEST(AppController, what_the_settings_do_not_keep_stays_as_it_is_found_at_launch) {
+    AppRig rig(quiet({{kQVVolumeSave, false},
+                      {kQVVolumeSavedLevel, 0.5},
+                      {kQVForceScreenBrightness, false},
+                      {kQVScreenBrightness, 0.75},
+                      {kQVOSDStateSave, false},
+                      {kQVOSDStateSavedType, 3}}));
+    rig.desktop.brightnessLevels[1] = 0.25F;
+    const float volume = rig.view.volume();
+    rig.launch();
+    EXPECT_EQ(rig.view.volume(), volume);
+    EXPECT_EQ(rig.desktop.brightnessLevels[1], 0.25F);
+    EXPECT_EQ(rig.objects->display().displayType(), 0);
+}
+
+TEST(AppController, tracing_follows_its_setting_from_the_launch_on) {
+    for (const bool on : {true, false}) {
+        AppRig rig(quiet({{kQVEnableTrace, on}}));
+        EXPECT_EQ(gTracingEnabled, on);
+        rig.settings.defaults().setBool(!on, kQVEnableTrace);
+        rig.settings.notifications.post(QVPreferencesChangedNotification{kQVJumpInterval, {}});
+        EXPECT_EQ(gTracingEnabled, on) << "another setting";
+        rig.settings.notifications.post(QVPreferencesChangedNotification{kQVEnableTrace, {}});
+        EXPECT_EQ(gTracingEnabled, !on);
+    }
+    gTracingEnabled = false;
 }
 
 TEST(AppController, without_files_the_launch_does_what_the_settings_say) {
@@ -190,14 +220,17 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
         AppRig rig(quiet({{kQVHideOnDeactivate, hides}, {kQVMainWindowLayer, 5}}));
         rig.launch();
         const float shown = rig.window.alphaValue();
+        rig.host.changes.clear();
         rig.app.applicationWillResignActive();
         rig.fade();
+        EXPECT_EQ(rig.host.changes.count("level"), 1) << "the native window's level follows";
         EXPECT_EQ(rig.window.level(), platform::windowLevel::normal);
         EXPECT_EQ(rig.window.alphaValue(), hides ? 0.0F : shown);
         EXPECT_TRUE(rig.desktop.terminationReplies.empty());
         rig.app.applicationWillBecomeActive();
         rig.fade();
         EXPECT_EQ(rig.window.level(), 5);
+        EXPECT_EQ(rig.host.changes.count("level"), 2);
         EXPECT_EQ(rig.window.alphaValue(), shown);
     }
 }

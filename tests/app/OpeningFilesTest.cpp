@@ -56,3 +56,12 @@ TEST_F(OpeningFiles, texts_become_urls_where_they_are_some) {
     for (const char* path : {"/a/http://x", "c:/x.avi", "http:/x", "://x", "1a://x", "a b://c", ""})
         EXPECT_FALSE(isURLString(path)) << path;
 }
+
+TEST_F(OpeningFiles, nothing_inside_a_file_package_is_a_movie) {
+    make("all/Player.app/Contents/Info.plist");
+    make("all/Player.app/Contents/intro.mp4");
+    make("all/sub/Trip.photoslibrary/clip.mp4");
+    make("all/sub/Dr. No/film.mp4");
+    make("all/sub/app/film.mp4");
+    EXPECT_EQ(found({"all"}), "all/sub/app/film.mp4 all/sub/Dr. No/film.mp4");
+}

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "overlays/QVImageOverlay.h"
 #include "overlays/QVTextOverlay.h"
 #include "platform/window/Fonts.h"
 #include "platform/window/ImageView.h"
@@ -7,6 +8,8 @@
 #include <QPainter>
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace {
 
@@ -103,4 +106,37 @@ TEST(ImageView, fills_itself_with_its_image_and_loses_no_pixel_when_it_shrinks) 
     for (int x = 0; x < 8; ++x)
         EXPECT_NEAR(image.pixelColor(x, 64).red(), 32, 12) << x;
     EXPECT_EQ(image.pixelColor(7, 127).alpha(), 255);
+}
+
+TEST(QVTextOverlay, an_unchanged_text_lays_nothing_out) {
+    OverlayRig rig;
+    TextOverlay overlay(rig.settings.environment, rig.window);
+    overlay.setText("text");
+    const std::uint64_t revision = overlay.contentRevision();
+    overlay.setText("text");
+    EXPECT_EQ(overlay.contentRevision(), revision);
+    overlay.setText("other");
+    EXPECT_GT(overlay.contentRevision(), revision);
+}
+
+TEST(QVImageOverlay, scales_its_image_by_each_axis) {
+    OverlayRig rig;
+    QVImageOverlay overlay(rig.settings.environment, rig.window);
+    overlay.setScale(1, 1);
+    const platform::Rect before = overlay.frame();
+    overlay.setScale(0.5F, 2);
+    EXPECT_EQ(overlay.frame(), before) << "without an image there is nothing to lay out";
+    QImage image(720, 96, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::red);
+    overlay.setImage(image);
+    EXPECT_EQ(overlay.contentSize(), QSizeF(360, 192));
+    EXPECT_EQ(overlay.frame(), platform::Rect(20, 20, 374, 206));
+    overlay.setImage(QImage());
+    EXPECT_EQ(overlay.contentSize(), QSizeF(360, 192));
+    overlay.setImage(image);
+    for (const float absurd : {std::numeric_limits<float>::quiet_NaN(), -2.0F, 1e30F}) {
+        overlay.setScale(absurd, absurd);
+        EXPECT_LT(overlay.frame().width(), 1e6) << absurd;
+        EXPECT_GT(overlay.frame().width(), 0) << absurd;
+    }
 }

@@ -136,3 +136,56 @@ TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
     overlay.orderOut();
     EXPECT_FALSE(overlay.isVisible());
 }
+
+TEST_F(Fading, a_hold_ends_with_hide_and_goes_on_without_popping_up) {
+    overlay.autopop();
+    advance(1.1);
+    overlay.hide();
+    EXPECT_EQ(overlay.fadingState(), State::fadingOut);
+    advance(0.6);
+    EXPECT_EQ(timers(), 0U);
+    overlay.delay();
+    advance(3);
+    EXPECT_EQ(overlay.fadingState(), State::delaying);
+    overlay.autopop();
+    advance(2.1);
+    EXPECT_EQ(overlay.fadingState(), State::idle) << "hidden already: through fading out at once";
+}
+
+TEST_F(Fading, the_limits_push_each_other_and_move_a_resting_overlay) {
+    overlay.setMaxAlpha(0.6F);
+    EXPECT_EQ(overlay.alphaValue(), 0.6F) << "a hidden overlay appears";
+    overlay.setMinAlpha(0.7F);
+    EXPECT_EQ(overlay.maxAlpha(), 0.7F);
+    EXPECT_EQ(overlay.alphaValue(), 0.7F);
+    overlay.setMinAlpha(0.1F);
+    EXPECT_EQ(overlay.alphaValue(), 0.7F);
+    overlay.setMaxAlpha(0.05F);
+    EXPECT_EQ(overlay.minAlpha(), 0.05F);
+    EXPECT_EQ(overlay.alphaValue(), 0.05F);
+    overlay.setMaxAlpha(1);
+    overlay.hide();
+    advance(0.1);
+    const float fading = overlay.alphaValue();
+    overlay.setMaxAlpha(0.9F);
+    EXPECT_EQ(overlay.alphaValue(), fading) << "a fade is not disturbed";
+}
+
+TEST_F(Fading, limits_that_no_window_can_reach_still_end_a_fade) {
+    for (const float largest : {5.0F, 1e9F}) {
+        overlay.setMaxAlpha(largest);
+        overlay.hide();
+        advance(2);
+        overlay.show();
+        advance(2);
+        EXPECT_EQ(overlay.fadingState(), State::idle) << largest;
+        EXPECT_EQ(overlay.alphaValue(), 1) << largest;
+    }
+    overlay.setMinAlpha(-1e9F);
+    overlay.setMaxAlpha(std::numeric_limits<float>::quiet_NaN());
+    overlay.hide();
+    overlay.show();
+    advance(2);
+    EXPECT_EQ(timers(), 0U);
+    EXPECT_EQ(overlay.alphaValue(), 0);
+}

@@ -14,7 +14,8 @@ namespace {
 class CountingTexts final : public OSDTexts {
 public:
     mutable int asked = 0;
-    std::int32_t timeInSeconds() const override { return ++asked, 61; }
+    std::int32_t time = 61;
+    std::int32_t timeInSeconds() const override { return ++asked, time; }
     std::int32_t durationInSeconds() const override { return 7325; }
     QString currentMovieInfo() const override { return ++asked, "A film (1/2)"; }
     QString currentSubtitlesInfo() const override { return ++asked, "English"; }
@@ -68,6 +69,38 @@ TEST_F(OSD, is_made_when_there_is_something_to_show) {
     display.setDisplayType(0);
     EXPECT_EQ(display.displayType(), 0);
     EXPECT_EQ(rig.window.childWindows().size(), before + 1);
+}
+
+TEST_F(OSD, cycles_through_its_displays_both_ways) {
+    const QString shown[] = {QString(),    "Time: 0:01:01/2:02:05", "Movie: A film (1/2)", "English", "Looping",
+                             "Volume: 50%"};
+    for (const int type : {1, 2, 3, 4, 5}) {
+        osd.cycleDisplays(+1);
+        EXPECT_EQ(osd.displayType(), type);
+        EXPECT_EQ(osd.text(), shown[type]);
+        EXPECT_TRUE(osd.isVisible());
+    }
+    osd.cycleDisplays(+1);
+    EXPECT_EQ(osd.displayType(), 0);
+    EXPECT_FALSE(osd.isVisible());
+    osd.cycleDisplays(-1);
+    EXPECT_EQ(osd.displayType(), 5);
+    osd.setDisplayType(3);
+    osd.setDisplayType(9);
+    EXPECT_EQ(osd.text(), shown[3]);
+    EXPECT_TRUE(osd.isVisible()) << "a type that there is not changes nothing";
+}
+
+TEST_F(OSD, a_time_that_reads_the_same_draws_nothing_anew) {
+    osd.setDisplayType(1);
+    rig.settings.runLoop.advance(2);
+    const std::uint64_t revision = osd.contentRevision();
+    rig.settings.notifications.post(QVMovieInterestingTimeNotification{});
+    EXPECT_EQ(osd.contentRevision(), revision);
+    ++texts.time;
+    rig.settings.notifications.post(QVMovieInterestingTimeNotification{});
+    EXPECT_EQ(osd.text(), "Time: 0:01:02/2:02:05");
+    EXPECT_GT(osd.contentRevision(), revision);
 }
 
 TEST(ClockText, hours_are_neither_padded_nor_limited) {

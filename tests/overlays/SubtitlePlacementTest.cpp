@@ -33,3 +33,16 @@ TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x121, {parent, 24, small, {}}).x(), 124);
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
 }
+
+TEST(SubtitlePlacement, letters_shrink_with_the_picture_and_never_grow) {
+    const struct {
+        double picture, fit;
+        float smallest, largest, size;
+    } cases[] = {
+        {512, 1024, 20, 36, 20}, // half of 36 is below the smallest
+        {512, 1024, 12, 36, 18}, {1024, 1024, 20, 36, 36}, {2048, 1024, 20, 36, 36},
+        {0, 0, 20, 36, 36},      {0, 1024, 20, 36, 20},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(textSize(c.picture, c.fit, c.smallest, c.largest).size, c.size) << c.picture << " of " << c.fit;
+}

@@ -4,13 +4,18 @@
 #include "platform/window/TextLayout.h"
 #include "platform/window/TextView.h"
 
+#include <QFontInfo>
 #include <QPainter>
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace platform;
 
 namespace {
+
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 
 QFont font(float size = 20) {
     return fontWithFamilyName("Sans Serif", size);
@@ -145,4 +150,66 @@ TEST(Shadow, a_blur_keeps_its_weight_and_its_middle) {
         EXPECT_NEAR(qAlpha(solid.pixel(middle - 6, middle)), 190, 40) << side;
         EXPECT_LT(qAlpha(solid.pixel(middle + 18, middle)), 12) << side;
     }
+}
+
+TEST(TextLayout, more_lines_than_fit_are_left_out) {
+    QString lines;
+    for (int i = 0; i < 500; ++i)
+        lines += "line\n";
+    const double line = sizeOf("line").height();
+    EXPECT_LE(sizeOf(lines, 1920, 10.5 * line).height(), 10.5 * line);
+    EXPECT_GT(sizeOf(lines, 1920, 10.5 * line).height(), 9 * line);
+    EXPECT_GT(sizeOf("x", 100, 1).height(), 0);
+}
+
+TEST(TextLayout, marks_join_their_letter_and_scripts_run_their_way) {
+    EXPECT_NEAR(sizeOf("e\u0301").width(), sizeOf("e").width(), 1);
+    // Lam and alef are drawn as one, shorter shape.
+    EXPECT_LT(sizeOf("\u0644\u0627").width(), sizeOf("\u0644 \u0627").width());
+    for (const char* text : {"\u05E9\u05DC\u05D5\u05DD", "\u0928\u092E\u0938\u094D\u0924\u0947", "\U0001F600"}) {
+        TextView view;
+        view.setFont(font());
+        view.setText(QString::fromUtf8(text));
+        view.sizeToFit();
+        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << text;
+    }
+}
+
+TEST(Fonts, an_unknown_family_and_an_absurd_size_still_make_a_font) {
+    const QString fallback = QFontInfo(fontWithFamilyName(QString(), 20)).family();
+    EXPECT_EQ(QFontInfo(fontWithFamilyName("No Such Family", 20)).family(), fallback);
+    for (const float absurd : {1e9F, -5.0F, 0.0F, std::numeric_limits<float>::quiet_NaN()}) {
+        EXPECT_GE(pointSizeOf(font(absurd)), 1);
+        EXPECT_LE(pointSizeOf(font(absurd)), 4096);
+    }
+}
+
+TEST(TextView, absurd_shadows_texts_and_sizes_are_drawn_without_harm) {
+    TextView view;
+    view.setFont(font());
+    view.setText("x");
+    view.sizeToFit();
+    for (const double absurd : {kNotANumber, 1e9, -1e9, 1e308}) {
+        view.setShadow(Shadow{QSizeF(absurd, absurd), static_cast<float>(std::min(absurd, 1e30)), Qt::red});
+        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << absurd;
+        view.setShadow(Shadow{QSizeF(0, 0), static_cast<float>(std::min(absurd, 1e30)), Qt::red});
+        EXPECT_FALSE(inkOf(drawn(view)).isEmpty()) << absurd;
+        view.setContainerSize(QSizeF(absurd, absurd));
+        view.sizeToFit();
+        EXPECT_LE(view.bounds().width(), 8300) << absurd;
+        view.setContainerSize(QSizeF(800, 600));
+        view.sizeToFit();
+    }
+    QString noise;
+    for (char16_t unit = 0; noise.size() < 10'000; unit = static_cast<char16_t>(unit + 7919))
+        noise += QChar(unit);
+    view.setContainerSize(QSizeF(800, 600));
+    view.setText(noise);
+    view.sizeToFit();
+    EXPECT_LE(view.bounds().height(), 600);
+    EXPECT_FALSE(drawn(view).isNull());
+    view.setFont(font(1e9F));
+    view.sizeToFit();
+    EXPECT_LE(view.bounds().height(), 600);
+    EXPECT_FALSE(drawn(view).isNull());
 }

@@ -84,3 +84,34 @@ TEST(ToolProcess, how_it_ended_is_said_and_what_cannot_be_started_is_nothing) {
     EXPECT_EQ(platform::runTool(teller), 0);
     EXPECT_TRUE(told.endsWith("complaint\n"));
 }
+
+TEST(ToolProcess, status_and_output_come_back) {
+    QByteArray said;
+    const struct {
+        const char* script;
+        int status;
+        const char* output;
+    } cases[] = {
+        {"echo out; echo err >&2; exit 3", 3, "out\nerr\n"},
+        {"cat; pwd; echo $SOMETHING $HOME", 0, "/usr\nchanged /root-of-none\n"},
+        {"kill -9 $$", 128 + SIGKILL, ""},
+        {"exec 1>&- 2>&-; sleep 0.1; exit 4", 4, ""},
+    };
+    for (const auto& one : cases) {
+        said.clear();
+        auto request = shell(one.script);
+        request.folder = "/usr";
+        request.environment = {"HOME=/root-of-none", "SOMETHING=changed"};
+        request.output = [&](const QByteArray& piece) { said += piece; };
+        EXPECT_EQ(platform::runTool(request), one.status) << one.script;
+        EXPECT_EQ(said, QByteArray(one.output)) << one.script;
+    }
+    auto request = shell("echo out; echo err >&2; head -c 300000 /dev/zero");
+    request.dropsErrors = true;
+    qsizetype length = 0;
+    request.output = [&](const QByteArray& piece) { length += piece.size(); };
+    EXPECT_EQ(platform::runTool(request), 0);
+    EXPECT_EQ(length, 300'004);
+    request.program = "/nowhere/sh";
+    EXPECT_EQ(platform::runTool(request), std::nullopt);
+}

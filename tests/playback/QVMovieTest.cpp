@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/QVMovie.h"
+#include "playback/SubtitleDiscovery.h"
 
 #include "settings/SettingsKeys.h"
 #include "tests/support/Files.h"
+#include "tests/support/ManualRunLoop.h"
 #include "tests/support/PlaybackRig.h"
 
+#include <filesystem>
 #include <sys/stat.h>
 
 TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
@@ -84,4 +87,36 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
 
     rig.settings.defaults().setBool(false, kQVAutoloadSubtitles);
     EXPECT_TRUE(open()->subtitles().empty());
+}
+
+TEST(SubtitleDiscovery, a_listing_is_kept_for_a_second_while_its_folder_stays_as_it_is) {
+    ManualRunLoop clock;
+    SubtitleDiscovery discovery(clock);
+    const QTemporaryDir folder;
+    const QString base = folder.filePath("film");
+    const auto found = [&](const QStringList& types = {"srt"}) {
+        QStringList names;
+        for (const QString& path : discovery.filesBeginningWith(base, types))
+            names << path.mid(folder.path().size() + 1);
+        return names.join(u' ').toStdString();
+    };
+    const auto seemUnchanged = [&] { std::filesystem::last_write_time(folder.path().toStdString(), {}); };
+    seemUnchanged();
+    EXPECT_EQ(found(), "");
+    writeFile(base + ".srt");
+    EXPECT_EQ(found(), "film.srt") << "the folder has changed meanwhile";
+    seemUnchanged();
+    found();
+    writeFile(base + ".en.srt");
+    writeFile(base + ".sub");
+    seemUnchanged();
+    clock.advance(0.9);
+    EXPECT_EQ(found(), "film.srt");
+    EXPECT_EQ(found({"sub"}), "film.sub") << "of other files";
+    EXPECT_EQ(found({}), "");
+    EXPECT_EQ(found(), "film.en.srt film.srt");
+    writeFile(base + ".de.srt");
+    seemUnchanged();
+    clock.advance(1.1);
+    EXPECT_EQ(found(), "film.de.srt film.en.srt film.srt") << "a second is over";
 }

@@ -60,3 +60,88 @@ TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
     rig.changePreference(kQVControllerVisible);
     EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 240));
 }
+
+TEST(QVMovieView, without_a_movie_a_size_is_only_remembered) {
+    PlaybackRig rig;
+    Posts<QVMovieViewSizeChangedNotification> posts(rig.settings.notifications);
+    for (const std::int32_t code : {movieSize::smaller, movieSize::bigger}) {
+        rig.view.setMovieSize(code, Recalculation::ifChanged);
+        EXPECT_EQ(rig.view.movieSize(), movieSize::custom) << "a step must not be taken from the empty view";
+    }
+    rig.view.setMovieSize(movieSize::twice, Recalculation::ifChanged);
+    EXPECT_EQ(posts.count, 0);
+    EXPECT_EQ(rig.view.sizeForFitScreen(movieSize::fitScreen), QSizeF(0, 0));
+    EXPECT_EQ(rig.view.magnification(), 0);
+    EXPECT_EQ(rig.view.aspectRatio(), 0);
+    rig.view.jump(1, 10);
+    rig.view.restoreMovieState();
+    EXPECT_FALSE(rig.view.isPlaying());
+    rig.show();
+    EXPECT_EQ(rig.view.frame().size(), QSizeF(1280, 960));
+}
+
+TEST(QVMovieView, edge_panning_runs_until_the_edge_or_until_its_area_is_left) {
+    PlaybackRig rig;
+    const auto advance = [&](double seconds) { rig.settings.runLoop.advance(seconds); };
+    rig.view.setMovieSize(movieSize::fitWidth, Recalculation::ifChanged);
+    rig.show(); // 2.25 times as large: 9 points a step, 90 points hidden at the top and at the bottom
+    rig.view.startAutoscroll(panDirection::left);
+    advance(1);
+    EXPECT_EQ(rig.view.frame().y(), -90) << "nothing is hidden at the sides";
+    rig.view.startAutoscroll(panDirection::top);
+    advance(0.1);
+    EXPECT_EQ(rig.view.frame().y(), -108);
+    rig.view.stopAutoscroll(panDirection::top | panDirection::left);
+    advance(0.05);
+    EXPECT_EQ(rig.view.frame().y(), -117) << "another area's end does not stop it";
+    rig.view.stopAutoscroll(panDirection::top);
+    advance(1);
+    EXPECT_EQ(rig.view.frame().y(), -117);
+    rig.view.startAutoscroll(panDirection::bottom);
+    advance(10);
+    EXPECT_EQ(rig.view.frame().y(), 0);
+
+    platform::MouseEvent drag;
+    drag.button = platform::MouseButton::left;
+    drag.deltaY = 50;
+    EXPECT_TRUE(rig.view.mouseDragged(drag));
+    EXPECT_EQ(rig.view.frame().y(), -50);
+}
+
+TEST(QVMovieView, keys_that_the_commands_leave_step_and_play_the_movie_and_beep_without_one) {
+    PlaybackRig rig;
+    const auto press = [&](char16_t character) {
+        platform::KeyEvent event;
+        event.charactersIgnoringModifiers = QChar(character);
+        return rig.view.keyDown(event);
+    };
+    EXPECT_TRUE(press(u' '));
+    EXPECT_EQ(rig.desktop.beeps, 1);
+    EXPECT_FALSE(press(u'x'));
+    EXPECT_EQ(rig.desktop.beeps, 1);
+    rig.show();
+    const struct {
+        char16_t character;
+        const char* text;
+    } cases[] = {{u' ', "Movie: Play"},
+                 {u' ', "Movie: Pause"},
+                 {platform::functionKey::left, "Step Backward"},
+                 {platform::functionKey::right, "Step Forward"}};
+    for (const auto& c : cases) {
+        EXPECT_TRUE(press(c.character));
+        EXPECT_EQ(rig.confirmations.last, c.text);
+    }
+    EXPECT_EQ(rig.player().steps, (std::vector<int>{-1, 1}));
+    EXPECT_EQ(rig.desktop.beeps, 1);
+}
+
+TEST(QVMovieView, volume_texts_round_to_whole_percents) {
+    PlaybackRig rig;
+    for (const auto& [volume, text] :
+         {std::pair{0.996F, "Volume: 100%"}, {0.0F, "Volume: 0%"}, {0.01F, "Volume: 1%"}}) {
+        rig.view.setVolume(volume);
+        EXPECT_EQ(rig.view.volumeInfoAsString(), text);
+    }
+    rig.view.setMuted(true);
+    EXPECT_EQ(rig.view.volumeInfoAsString(), "Volume: Muted");
+}

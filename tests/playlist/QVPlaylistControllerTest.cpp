@@ -192,3 +192,56 @@ TEST(QVPlaylistController, the_folder_of_the_last_movie_is_where_the_next_open_p
     EXPECT_EQ(folderAfter({QUrl::fromLocalFile(QDir::homePath() + "x/b.avi")}), QDir::homePath() + u'x');
     EXPECT_EQ(folderAfter({QUrl::fromLocalFile("/b.avi")}), "/");
 }
+
+TEST(QVPlaylistController, each_switch_of_the_settings_is_heeded_both_ways_and_at_once) {
+    // Playing what was added, the next movie, and quitting after the last one.
+    const struct {
+        QString setting;
+        bool on;
+        bool plays, goesOn, quits;
+    } cases[] = {
+        {kQVPlaylistAutoPlay, true, true, true, false},  {kQVPlaylistAutoPlay, false, false, true, false},
+        {kQVPlaylistAutoNext, true, true, true, false},  {kQVPlaylistAutoNext, false, true, false, false},
+        {kQVPlaylistAutoQuit, false, true, true, false}, {kQVPlaylistAutoQuit, true, true, true, true},
+    };
+    for (const bool meanwhile : {false, true}) {
+        for (const auto& c : cases) {
+            SCOPED_TRACE(c.setting.toStdString() + (c.on ? " on" : " off") + (meanwhile ? " meanwhile" : ""));
+            PlaylistRig rig({{kQVPlaylistAutoPlay, true},
+                             {kQVPlaylistAutoNext, true},
+                             {kQVPlaylistAutoQuit, false},
+                             {c.setting, meanwhile ? !c.on : c.on}});
+            if (meanwhile) {
+                rig.settings.defaults().setBool(c.on, c.setting);
+                rig.changePreference(c.setting);
+            }
+            rig.add({"a.avi", "b.avi"});
+            EXPECT_EQ(rig.view.isPlaying(), c.plays);
+            rig.view.start();
+            rig.player().reachEnd();
+            rig.settings.runLoop.runPending();
+            EXPECT_EQ(rig.playlist.index(), c.goesOn ? 1U : 0U);
+            rig.playlist.play(1);
+            rig.player().reachEnd();
+            rig.settings.runLoop.runPending();
+            EXPECT_EQ(rig.commands.actions, std::vector<std::int32_t>(c.quits ? 1 : 0, action::quit));
+        }
+    }
+}
+
+TEST(QVPlaylistController, a_movie_loops_for_as_long_as_it_is_left_to) {
+    PlaylistRig rig({{kQVPlaylistDefaultLooping, looping::one}});
+    rig.add({"a.avi", "b.avi"});
+    const auto endMovie = [&] {
+        rig.player().reachEnd();
+        rig.settings.runLoop.runPending();
+    };
+    for (int i = 0; i < 3; ++i)
+        endMovie();
+    EXPECT_EQ(rig.playlist.index(), 0U);
+    EXPECT_TRUE(rig.view.isPlaying());
+    EXPECT_EQ(rig.player().loads, 1) << "the movie is not opened again";
+    rig.playlist.setLooping(looping::off);
+    endMovie();
+    EXPECT_EQ(rig.playlist.index(), 1U);
+}
