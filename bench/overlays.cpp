@@ -199,7 +199,7 @@ void composingAFrameUnderThreeOverlays(benchmark::State& state) {
     for ([[maybe_unused]] const auto step : state)
         scene.composeFrame();
     state.counters["allocations"] =
-        benchmark::Counter(static_cast<double>(allocationsSoFar() - before), benchmark::Counter::averagingPasses);
+        benchmark::Counter(static_cast<double>(allocationsSoFar() - before), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(composingAFrameUnderThreeOverlays)
     ->ArgNames({"height", "shown"})

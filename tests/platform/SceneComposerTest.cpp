@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/SceneComposer.h"
-#include "platform/window/PictureLayer.h"
+#include "platform/window/VideoLayer.h"
 #include "platform/window/View.h"
 #include "platform/window/Window.h"
 
@@ -45,7 +45,7 @@ struct ColorChild {
     ColorView view;
 };
 
-class FakePicture final : public PictureLayer {
+class FakePicture final : public VideoLayer {
 public:
     bool has = true;
     std::vector<QRect> rendered;
@@ -68,7 +68,7 @@ public:
 class PictureView final : public View {
 public:
     FakePicture picture;
-    PictureLayer* pictureLayer() override { return &picture; }
+    VideoLayer* videoLayer() override { return &picture; }
     Rect pictureRect() const override { return bounds(); }
     Rect drawnRect() const override { return Rect(); }
 };
@@ -167,7 +167,7 @@ TEST_F(SceneComposerTest, a_picture_is_rendered_whole_below_the_views_and_only_w
 
     resize(2);
     std::vector<QRect> pictures;
-    composer.forEachPicture(2, [&](PictureLayer& layer, const QRect& picture) {
+    composer.forEachVideoLayer(2, [&](VideoLayer& layer, const QRect& picture) {
         EXPECT_EQ(&layer, &movie.picture);
         pictures.push_back(picture);
     });
