@@ -25,9 +25,9 @@ std::size_t backward(std::span<const std::int32_t> ends, std::size_t index, std:
 
 } // namespace
 
-void CueCursor::place(const CueTimes& times, std::size_t index) {
+void CueCursor::place(std::span<const std::int32_t> ends, std::size_t index) {
     _index = static_cast<std::uint32_t>(index);
-    _prevEnd = index == 0 ? 0.0 : times.ends[index - 1];
+    _prevEnd = index == 0 ? 0.0 : ends[index - 1];
 }
 
 void CueCursor::clear() {
@@ -35,14 +35,12 @@ void CueCursor::clear() {
 }
 
 bool CueCursor::staysFor(std::int32_t time, std::int32_t start, std::int32_t end) const {
-    return end >= time && _prevEnd <= time && !isAtEndBefore(time, start);
+    return end >= time && _prevEnd <= time && !(time < start && isAtEndBefore(time));
 }
 
-void CueCursor::search(const CueTimes& times, std::int32_t time) {
-    if (times.ends[_index] < time)
-        place(times, forward(times.ends, _index, time));
+void CueCursor::move(std::span<const std::int32_t> ends, std::int32_t time) {
+    if (ends[_index] < time)
+        place(ends, forward(ends, _index, time));
     else if (_prevEnd > time)
-        place(times, backward(times.ends, _index, time));
-    if (isAtEndBefore(time, times.starts[_index]))
-        place(times, _index - 1);
+        place(ends, backward(ends, _index, time));
 }

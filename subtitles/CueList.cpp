@@ -8,14 +8,12 @@
 CueList::CueList() {
     constexpr std::size_t usualCount = 100;
     _subtitles.reserve(usualCount);
-    _starts.reserve(usualCount);
     _ends.reserve(usualCount);
 }
 
 void CueList::append(std::shared_ptr<QVSubtitle> subtitle) {
     if (!_ends.empty())
         _ends.back() = _subtitles.back()->end();
-    _starts.push_back(subtitle->start());
     _ends.push_back(subtitle->end());
     _subtitles.push_back(std::move(subtitle));
 }
@@ -25,7 +23,6 @@ void CueList::scaleTimes(float ratio) {
         QVSubtitle& subtitle = *_subtitles[index];
         subtitle.setStart(CueTiming::truncated(static_cast<float>(subtitle.start()) * ratio));
         subtitle.setEnd(CueTiming::truncated(static_cast<float>(subtitle.end()) * ratio));
-        _starts[index] = subtitle.start();
         _ends[index] = subtitle.end();
     }
 }

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "subtitles/CueCursor.h"
 #include "subtitles/QVSubtitle.h"
 
+#include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
-/// The cues of a loaded track in the file's order, and beside them their times, which a search walks over. Not locked:
+/// The cues of a loaded track in the file's order, and beside them their ends, which a search walks over. Not locked:
 /// a track that a worker fills guards it.
 class CueList {
 public:
@@ -21,10 +22,9 @@ public:
 
     std::size_t count() const { return _subtitles.size(); }
     const std::vector<std::shared_ptr<QVSubtitle>>& subtitles() const { return _subtitles; }
-    CueTimes times() const { return {_starts, _ends}; }
+    std::span<const std::int32_t> ends() const { return _ends; }
 
 private:
     std::vector<std::shared_ptr<QVSubtitle>> _subtitles;
-    std::vector<std::int32_t> _starts;
     std::vector<std::int32_t> _ends;
 };

@@ -95,7 +95,7 @@ void QVSubtitles::reset() {
 }
 
 void QVSubtitles::placeCursor(std::size_t index) {
-    _cursor.place(_subtitles->times(), index);
+    _cursor.place(_subtitles->ends(), index);
     _current = _subtitles->subtitles()[index];
 }
 
@@ -115,8 +115,9 @@ std::shared_ptr<QVSubtitle> QVSubtitles::subtitleForTime(std::int32_t time) {
         return nullptr;
     if (!_cursor.staysFor(time, _current->start(), _current->end())) {
         const auto guard = lockSubtitles();
-        _cursor.search(_subtitles->times(), time);
-        _current = _subtitles->subtitles()[_cursor.index()];
+        const auto& subtitles = _subtitles->subtitles();
+        _cursor.search(_subtitles->ends(), time, [&subtitles](std::size_t index) { return subtitles[index]->start(); });
+        _current = subtitles[_cursor.index()];
     }
     if (time < _current->start() || time > _current->end() || (onlyForced() && !_current->forced()))
         return nullptr;
