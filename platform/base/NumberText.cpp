@@ -16,10 +16,6 @@ QByteArray toText(Form... form) {
     return error == std::errc{} ? QByteArray(buffer.data(), end - buffer.data()) : QByteArray("0");
 }
 
-bool isBlank(char character) {
-    return character == ' ' || (character >= '\t' && character <= '\r');
-}
-
 } // namespace
 
 std::optional<double> takeNumber(QByteArrayView& text) {

@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/input/ScanFormat.h"
 
-#include <algorithm>
-#include <limits>
+#include "platform/base/NumberText.h"
+#include "subtitles/input/TimeOfDay.h"
+
 #include <optional>
 
 namespace {
-
-bool isBlank(char byte) {
-    return byte == ' ' || (byte >= '\t' && byte <= '\r');
-}
-
-bool isDigit(char byte) {
-    return byte >= '0' && byte <= '9';
-}
 
 class Scanner {
 public:
@@ -22,7 +15,7 @@ public:
 
     std::size_t consumed() const { return _at; }
     void skipBlanks() {
-        while (_at < _line.size() && isBlank(_line[_at]))
+        while (_at < _line.size() && platform::isBlank(_line[_at]))
             ++_at;
     }
     bool take(char literal) {
@@ -36,18 +29,10 @@ public:
         return static_cast<unsigned char>(_line[_at++]);
     }
     std::optional<std::int32_t> takeNumber() {
-        skipBlanks();
-        const bool negative = take('-');
-        if (!negative)
-            take('+');
-        if (_at == _line.size() || !isDigit(_line[_at]))
-            return std::nullopt;
-        using Limits = std::numeric_limits<std::int32_t>;
-        const std::int64_t most = negative ? -std::int64_t{Limits::min()} : Limits::max();
-        std::int64_t value = 0;
-        for (; _at < _line.size() && isDigit(_line[_at]); ++_at)
-            value = std::min(most, value * 10 + (_line[_at] - '0'));
-        return static_cast<std::int32_t>(negative ? -value : value);
+        std::string_view rest = _line.substr(_at);
+        const auto number = platform::takeInteger<10>(rest);
+        _at = _line.size() - rest.size();
+        return number ? std::optional(clampedTo32Bits(*number)) : std::nullopt;
     }
 
 private:

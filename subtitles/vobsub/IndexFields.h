@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/NumberText.h"
+
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -13,8 +15,6 @@ public:
     explicit IndexFields(std::string_view line)
         : _rest(line) {}
 
-    static bool isBlank(char byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r'); }
-
     std::string_view rest() const { return _rest; }
     void skipBlanks();
     bool take(char literal);
@@ -26,11 +26,9 @@ public:
     std::string_view takeWord();
     /// "%d", "%lld" and "%llx": blanks and a sign may stand before the digits, "0x" before hexadecimal ones.
     std::optional<std::int32_t> takeDecimal();
-    std::optional<std::int64_t> takeLongDecimal() { return takeNumber(10); }
-    std::optional<std::int64_t> takeHexadecimal() { return takeNumber(16); }
+    std::optional<std::int64_t> takeLongDecimal() { return platform::takeInteger<10>(_rest); }
+    std::optional<std::int64_t> takeHexadecimal() { return platform::takeInteger<16>(_rest); }
 
 private:
-    std::optional<std::int64_t> takeNumber(int base);
-
     std::string_view _rest;
 };
