@@ -4,6 +4,8 @@
 #include "platform/window/Menu.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QWindow>
@@ -120,6 +122,14 @@ void QtMenus::showBar() {
 
 void QtMenus::hideBar() {
     _bar->hide();
+}
+
+bool QtMenus::passToOpenMenu(QKeyEvent& event) {
+    QWidget* menu = QApplication::activePopupWidget();
+    if (!menu)
+        return false;
+    QCoreApplication::sendEvent(menu, &event);
+    return true;
 }
 
 bool QtMenus::performShortcut(const QKeySequence& keys, bool isRepeat) {

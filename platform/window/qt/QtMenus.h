@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QKeyEvent;
 class QMenu;
 class QMenuBar;
 class QWindow;
@@ -28,6 +29,9 @@ public:
     void popUp(QPoint globalPosition);
     /// The pointer moved in the window (its coordinates, origin top left).
     void pointerMoved(QPoint position);
+    /// Gives a pressed key to the menu that is open; false without one. The window system turns the keyboard over to a
+    /// menu a little after it opened: until then its keys arrive at the window.
+    bool passToOpenMenu(QKeyEvent& event);
     /// Performs the enabled item with the shortcut; true when there is one. Automatic repeats of a held key are taken
     /// without effect.
     bool performShortcut(const QKeySequence& keys, bool isRepeat);

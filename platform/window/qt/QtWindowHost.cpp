@@ -353,6 +353,8 @@ void QtWindowHost::resizeEvent(QResizeEvent*) {
 }
 
 void QtWindowHost::keyPressEvent(QKeyEvent* event) {
+    if (_menus && _menus->passToOpenMenu(*event))
+        return;
     if (_menus && _menus->performShortcut(qtEvents::shortcut(*event), event->isAutoRepeat()))
         return;
     _root.dispatchKey(qtEvents::keyEvent(*event));
