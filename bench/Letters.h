@@ -5,7 +5,7 @@
 
 #include <random>
 
-/// Two lines of letters, as far as run lengths are concerned: strokes with outlines, and room between the lines.
+/// Two lines of letters, as far as run lengths are concerned: strokes with outlines, and space between the lines.
 inline vobsub::Subpicture lettersLike(unsigned seed) {
     std::mt19937 random(seed);
     vobsub::Subpicture subpicture{.bitmap = {720, 100}};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/Allocations.h"
+#include "bench/BenchedMovie.h"
 #include "bench/Letters.h"
-#include "bench/SubtitleRoom.h"
 #include "overlays/OSDTexts.h"
 #include "overlays/PictureGeometry.h"
 #include "overlays/QVFeedbackOverlay.h"

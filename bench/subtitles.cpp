@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A file of 100,000 cues: loading it, and finding cues in it.
-#include "bench/SubtitleRoom.h"
+#include "bench/BenchedMovie.h"
 #include "subtitles/formats/SubtitleFormats.h"
 
 #include <QCoreApplication>

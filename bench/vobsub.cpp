@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bitmap subtitles of a DVD: reading an index, and loading the pictures of a film.
+#include "bench/BenchedMovie.h"
 #include "bench/Letters.h"
-#include "bench/SubtitleRoom.h"
 #include "subtitles/vobsub/IndexParser.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 

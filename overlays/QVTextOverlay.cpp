@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Room under the last line, as a share of the font's size.
+/// Space under the last line, as a share of the font's size.
 constexpr double spaceBelow = 0.125;
 
 QString wholePoints(float size) {
@@ -120,11 +120,11 @@ void QVTextOverlay::recalculateFontSize() {
 
 void QVTextOverlay::sizeToFit() {
     const double height = parentWindow() ? parentWindow()->frame().height() : static_cast<double>(QVLargeNumberForText);
-    const double room = spaceBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
-    _view.setContainerSize(QSizeF(_containerWidth, height - room));
+    const double below = spaceBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
+    _view.setContainerSize(QSizeF(_containerWidth, height - below));
     _view.sizeToFit();
     const platform::Rect fitted = _view.frame();
-    _view.setFrame(platform::Rect(fitted.origin(), QSizeF(fitted.width(), fitted.height() + room)));
+    _view.setFrame(platform::Rect(fitted.origin(), QSizeF(fitted.width(), fitted.height() + below)));
     contentSizeChanged();
 }
 

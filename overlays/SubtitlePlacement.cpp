@@ -21,9 +21,9 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
 }
 
 platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground) {
-    const double floor = ground.parent.y();
-    const double pictureBottom = floor + ground.picture.y();
-    double y = floor;
+    const double lowest = ground.parent.y();
+    const double pictureBottom = lowest + ground.picture.y();
+    double y = lowest;
     switch (alignment & OverlayPlacement::verticalMask) {
     case 0x00:
         y = pictureBottom - rect.height();
@@ -37,8 +37,8 @@ platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const
     default:
         break;
     }
-    if (y < floor)
-        y = ground.bar ? std::max(floor, pictureBottom + *ground.bar) : floor;
+    if (y < lowest)
+        y = ground.bar ? std::max(lowest, pictureBottom + *ground.bar) : lowest;
     const double x = OverlayPlacement::horizontalOrigin(alignment, ground.parent, rect.width(), ground.padding);
     return {x, y, rect.width(), rect.height()};
 }

@@ -249,15 +249,15 @@ bool TextDecoder::append(std::string_view bytes, QString& text) {
     const auto size = static_cast<std::int32_t>(bytes.size());
     const qsizetype before = text.size();
     // No encoding here makes more than two units of a byte.
-    const std::int32_t room = _encoding == utf8 ? size : 2 * size;
-    text.resize(before + room);
+    const std::int32_t capacity = _encoding == utf8 ? size : 2 * size;
+    text.resize(before + capacity);
     UChar* target = reinterpret_cast<UChar*>(text.data() + before);
     UErrorCode error = U_ZERO_ERROR;
     std::int32_t length = 0;
     if (_encoding == utf8)
-        u_strFromUTF8(target, room, &length, bytes.data(), size, &error);
+        u_strFromUTF8(target, capacity, &length, bytes.data(), size, &error);
     else
-        length = ucnv_toUChars(_converter->handle.get(), target, room, bytes.data(), size, &error);
+        length = ucnv_toUChars(_converter->handle.get(), target, capacity, bytes.data(), size, &error);
     const bool decoded = U_SUCCESS(error) && !(_encoding == gb18030 && hasSingleEuro(bytes));
     text.resize(decoded ? before + length : before);
     return decoded;

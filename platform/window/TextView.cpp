@@ -10,7 +10,7 @@ namespace platform {
 
 namespace {
 
-/// Room at both sides of the lines, points: a shadow fades out in it.
+/// Space at both sides of the lines, points: a shadow fades out in it.
 constexpr double linePadding = 5;
 constexpr double maximumRatio = 8;
 constexpr double maximumPictureSide = 16384; // pixels a side

@@ -145,7 +145,7 @@ bool PackReader::recover(Walk& walk) {
 /// Goes to the next packet and gives it.
 std::optional<Element> PackReader::nextPacket(Walk& walk) {
     for (;;) {
-        const Bytes bytes = _file.at(walk.position, ProgramStream::headerRoom);
+        const Bytes bytes = _file.at(walk.position, ProgramStream::headerSpace);
         const auto element = ProgramStream::elementAt(bytes);
         if (element && (element->kind == Element::packet || element->kind == Element::privateStream1))
             return element;
@@ -184,7 +184,7 @@ std::optional<Element> PackReader::firstPacketOfPack(Walk& walk) {
 
 /// The first packet of the unit at the position, or near it: found by the start code of its pack, or by its own.
 std::optional<Element> PackReader::findStart(std::int64_t position, Walk& walk) {
-    const Bytes pack = _file.at(position, ProgramStream::headerRoom);
+    const Bytes pack = _file.at(position, ProgramStream::headerSpace);
     if (pack.size() > packHeaderLength && ProgramStream::isStartCode(pack, packCode)) {
         const auto packet = ProgramStream::elementAt(pack.subspan(packHeaderLength));
         if (packet && packet->kind == Element::privateStream1) {
@@ -196,7 +196,7 @@ std::optional<Element> PackReader::findStart(std::int64_t position, Walk& walk) 
     for (const std::uint8_t code : {packCode, privateStream1Code}) {
         for (std::int64_t index = 0; index <= 2 * farthestShift; ++index) {
             const std::int64_t candidate = position + distance(index);
-            const Bytes bytes = _file.at(candidate, ProgramStream::headerRoom);
+            const Bytes bytes = _file.at(candidate, ProgramStream::headerSpace);
             if (!ProgramStream::isStartCode(bytes, code))
                 continue;
             walk = {candidate};

@@ -11,7 +11,7 @@
 namespace ProgramStream {
 
 /// As many bytes as the header of an element may have, with what follows it.
-constexpr std::size_t headerRoom = 272;
+constexpr std::size_t headerSpace = 272;
 
 struct Element {
     enum Kind { pack, packet, privateStream1, end };
@@ -26,7 +26,7 @@ struct Element {
 
 bool isStartCode(std::span<const std::uint8_t> bytes, std::uint8_t number);
 
-/// The element at the beginning of these bytes (headerRoom of them, fewer at the end of the file); none when there is
+/// The element at the beginning of these bytes (headerSpace of them, fewer at the end of the file); none when there is
 /// no valid one.
 std::optional<Element> elementAt(std::span<const std::uint8_t> bytes);
 

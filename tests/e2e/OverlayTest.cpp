@@ -90,7 +90,7 @@ protected:
             const bool placed =
                 panel.y == padding &&
                 (corner == Corner::left ? panel.x == padding : near(panel.x + panel.width, screenWidth - padding));
-            // The letters' own room to the left and right is not the same.
+            // The letters' own space to the left and right is not the same.
             const bool centred = std::abs((text.x - panel.x) - (panel.x + panel.width - text.x - text.width)) <= 8;
             const bool inside =
                 text.x >= panel.x + 8 && text.y >= panel.y + 8 && text.y + text.height <= panel.y + panel.height - 6;

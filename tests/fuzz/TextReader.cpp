@@ -15,7 +15,7 @@
 namespace {
 
 /// What a reader needs around it while it is fed with bytes.
-class FuzzRoom final : public SubtitleOwner {
+class FuzzedMovie final : public SubtitleOwner {
 public:
     const platform::UserDefaults& settings() const { return _defaults; }
     std::int32_t timeScale() const override { return 90000; }
@@ -64,8 +64,8 @@ private:
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static FuzzRoom room;
-    static const auto track = std::make_shared<FuzzedTrack<LUMARO_FUZZED_READER>>(room.settings(), room);
+    static FuzzedMovie movie;
+    static const auto track = std::make_shared<FuzzedTrack<LUMARO_FUZZED_READER>>(movie.settings(), movie);
     track->feed(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
     return 0;
 }

@@ -72,8 +72,8 @@ TEST_F(Archives, the_data_file_is_taken_out_for_as_long_as_the_index_lives) {
             const QByteArray found = nameAndBytes(*info);
             EXPECT_EQ(found.mid(found.indexOf('/', found.indexOf('/') + 1) + 1), one.file) << one.what;
             EXPECT_TRUE(info->subPath().startsWith(temporary.path())) << one.what;
-            const QFileInfo room(temporary.filePath(leftBehind().value(0)));
-            EXPECT_EQ(room.permissions() & ~QFile::Permissions(0x7000), QFile::Permissions(0x0700)) << one.what;
+            const QFileInfo kept(temporary.filePath(leftBehind().value(0)));
+            EXPECT_EQ(kept.permissions() & ~QFile::Permissions(0x7000), QFile::Permissions(0x0700)) << one.what;
             info.reset();
             EXPECT_EQ(leftBehind(), QStringList()) << one.what;
         }

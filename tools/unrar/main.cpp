@@ -41,12 +41,12 @@ std::filesystem::path native(const QString& path) {
 }
 
 /// Without a terminal, a home or a language of its own.
-platform::ToolRequest limited(const QString& program, const QStringList& arguments, const QString& room) {
+platform::ToolRequest limited(const QString& program, const QStringList& arguments, const QString& scratch) {
     platform::ToolRequest request;
     request.program = program;
     request.arguments = arguments;
-    request.folder = room;
-    request.environment = {QStringLiteral("HOME=") + room, QStringLiteral("TMPDIR=") + room,
+    request.folder = scratch;
+    request.environment = {QStringLiteral("HOME=") + scratch, QStringLiteral("TMPDIR=") + scratch,
                            QStringLiteral("LC_ALL=C.UTF-8")};
     request.memory = limits::memory;
     request.fileSize = limits::bytes;
@@ -55,10 +55,10 @@ platform::ToolRequest limited(const QString& program, const QStringList& argumen
 
 /// Links to the archive, and to the further volumes of an old one, under names of their own: by the archive's own name
 /// other archives beside it would be taken for its volumes.
-QString linkArchive(const QString& archive, const QString& room) {
+QString linkArchive(const QString& archive, const QString& scratch) {
     constexpr int maximumVolumes = 200;
     const QFileInfo file(archive);
-    const QString link = room + QStringLiteral("/archive.rar");
+    const QString link = scratch + QStringLiteral("/archive.rar");
     QFile::link(file.absoluteFilePath(), link);
     const QString base = file.absolutePath() + u'/' + file.completeBaseName();
     for (int volume = 0; volume < maximumVolumes; ++volume) {
@@ -66,16 +66,16 @@ QString linkArchive(const QString& archive, const QString& room) {
             QStringLiteral(".%1%2").arg(u"rs"[volume / 100]).arg(volume % 100, 2, 10, QChar(u'0'));
         if (!QFileInfo(base + extension).isFile())
             break;
-        QFile::link(base + extension, room + QStringLiteral("/archive") + extension);
+        QFile::link(base + extension, scratch + QStringLiteral("/archive") + extension);
     }
     return link;
 }
 
-ArchiveListing listingOf(const QString& archive, const QString& room) {
+ArchiveListing listingOf(const QString& archive, const QString& scratch) {
     constexpr qsizetype maximumListing = 64 * 1024 * 1024;
     QByteArray json;
     auto request = limited(QStringLiteral("lsar"),
-                           {QStringLiteral("-json-ascii"), QStringLiteral("-no-recursion"), archive}, room);
+                           {QStringLiteral("-json-ascii"), QStringLiteral("-no-recursion"), archive}, scratch);
     request.timeout = limits::secondsToList;
     request.dropsErrors = true;
     request.output = [&](const QByteArray& piece) { json.append(piece); };
@@ -94,14 +94,14 @@ ArchiveListing listingOf(const QString& archive, const QString& room) {
 }
 
 /// What unar could not do, or nothing.
-QString extract(const QString& archive, const ArchiveListing& listing, const QString& room, const QString& folder) {
+QString extract(const QString& archive, const ArchiveListing& listing, const QString& scratch, const QString& folder) {
     auto request =
         limited(QStringLiteral("unar"),
                 QStringList{QStringLiteral("-quiet"), QStringLiteral("-no-directory"), QStringLiteral("-force-rename"),
                             QStringLiteral("-no-recursion"), QStringLiteral("-forks"), QStringLiteral("skip"),
                             QStringLiteral("-indexes"), QStringLiteral("-output-directory"), folder, archive} +
                     listing.indexes,
-                room);
+                scratch);
     request.timeout = limits::secondsToExtract;
     request.dropsErrors = true;
     const auto fits = [&] {
@@ -130,21 +130,21 @@ int run(const QString& archive, const QString& destination) {
     // unar would take many other formats as well.
     if (!beginning.startsWith("Rar!\x1A\x07"))
         return refuse(QStringLiteral("no RAR archive"));
-    const auto room = platform::PrivateFolder::make(destination);
-    if (!room)
+    const auto scratch = platform::PrivateFolder::make(destination);
+    if (!scratch)
         return refuse(QStringLiteral("the folder cannot be written"));
-    const QString extracted = room->path() + QStringLiteral("/extracted");
-    const QString link = linkArchive(archive, room->path());
-    const ArchiveListing listing = listingOf(link, room->path());
+    const QString extracted = scratch->path() + QStringLiteral("/extracted");
+    const QString link = linkArchive(archive, scratch->path());
+    const ArchiveListing listing = listingOf(link, scratch->path());
     if (!listing.error.isEmpty())
         return refuse(listing.error);
     if (listing.leftOut > 0)
         say(QStringLiteral("%1 entries are no files and left out").arg(listing.leftOut));
     QDir().mkdir(extracted);
-    const QString failure = extract(link, listing, room->path(), extracted);
+    const QString failure = extract(link, listing, scratch->path(), extracted);
     if (!failure.isEmpty())
         return refuse(failure);
-    const QString result = room->path() + QStringLiteral("/result");
+    const QString result = scratch->path() + QStringLiteral("/result");
     if (!handOver(native(extracted), native(result)))
         return refuse(QStringLiteral("the files cannot be moved"));
     const QString final = destination + u'/' + name;

@@ -164,9 +164,9 @@ std::int64_t DataWriter::append(const Bytes& unit, int stream, std::uint64_t tic
         const std::size_t packStart = _bytes.size();
         const std::size_t headerLength = done == 0 ? 5 : 0; // a time stamp in the first packet
         appendPackHeader(layout);
-        const std::size_t room = packStart + packSize - _bytes.size() - 10 - headerLength;
-        const std::size_t count = std::min(room, unit.size() - done);
-        std::size_t rest = room - count;
+        const std::size_t left = packStart + packSize - _bytes.size() - 10 - headerLength;
+        const std::size_t count = std::min(left, unit.size() - done);
+        std::size_t rest = left - count;
         // What is too small for a padding packet goes into the header.
         const std::size_t inHeader = layout.paddingStream && !layout.shortLastPack && rest < 6 ? rest : 0;
         rest -= inHeader;

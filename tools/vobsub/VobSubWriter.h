@@ -47,7 +47,7 @@ struct Layout {
     /// Stuffing bytes at the end of a pack's header, 0 to 7.
     int stuffing = 0;
     bool systemHeader = false;
-    /// A packet of the padding stream takes the room that the unit leaves of its last pack; else that is 0xFF.
+    /// A packet of the padding stream fills what the unit leaves of its last pack; else that is 0xFF.
     bool paddingStream = true;
     /// The last pack ends with its packet.
     bool shortLastPack = false;
