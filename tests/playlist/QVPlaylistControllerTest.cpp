@@ -78,6 +78,7 @@ TEST(QVPlaylistController, files_that_fail_are_reported_and_the_rest_plays) {
     EXPECT_EQ(rig.order(), "kept odd good");
     ASSERT_EQ(rig.desktop.alerts.size(), 3U);
     EXPECT_TRUE(rig.desktop.alerts[0].title.contains("broken.avi"));
+    EXPECT_TRUE(rig.desktop.alerts[0].message.contains("-2000"));
     EXPECT_TRUE(rig.desktop.alerts[0].otherButton.isEmpty());
     EXPECT_TRUE(rig.desktop.alerts[2].message.contains("-2008"));
     EXPECT_FALSE(rig.desktop.alerts[2].otherButton.isEmpty());

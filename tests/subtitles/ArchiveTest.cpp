@@ -26,11 +26,11 @@ protected:
             QStringLiteral("film.idx"), "# VobSub index file, v7 (do not modify this line!)\nid: en, index: 0\n"));
     }
     /// What the data file holds, with its name below the temporary folder in front; empty without one.
-    static QByteArray nameAndBytes(const QVVobSubInfo& info) {
+    QByteArray nameAndBytes(const QVVobSubInfo& info) const {
         QFile file(info.subPath());
         if (!file.open(QIODevice::ReadOnly))
             return {};
-        return info.subPath().section(u'/', 3).toUtf8() + '=' + file.readAll();
+        return info.subPath().mid(temporary.path().size() + 1).toUtf8() + '=' + file.readAll();
     }
     QStringList leftBehind() const {
         return QDir(temporary.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);

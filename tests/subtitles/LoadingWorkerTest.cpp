@@ -25,6 +25,7 @@ TEST(LoadingWorker, work_that_is_asked_to_end_is_waited_for_and_may_begin_anew) 
     ManualRunLoop loop;
     std::atomic<int> rounds = 0;
     LoadingWorker worker(loop);
+    EXPECT_FALSE(worker.isRunning());
     for (int round = 1; round <= 3; ++round) {
         worker.start(endless(worker, rounds));
         EXPECT_TRUE(worker.isRunning());

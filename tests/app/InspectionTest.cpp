@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Inspection.h"
+#include "settings/SettingsKeys.h"
+#include "tests/support/Files.h"
+#include "tests/support/ScriptedToolkit.h"
+#include "tests/support/TestEnvironment.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+class Inspection : public testing::Test {
+protected:
+    QJsonArray inspect(const QStringList& files, const InspectedSubtitles& subtitles = {}) {
+        const InspectionResult result = inspectFiles(settings.environment, toolkit, files, subtitles);
+        errors = result.errors;
+        return QJsonDocument::fromJson(result.json).array();
+    }
+
+    TestEnvironment settings;
+    ScriptedToolkit toolkit;
+    QTemporaryDir folder;
+    QStringList errors;
+};
+
+} // namespace
+
+TEST_F(Inspection, the_cues_of_a_subtitle_file_are_listed_in_units_and_in_milliseconds) {
+    const QString path = writeFile(folder.filePath("film.srt"), "00:00:01,500 --> 00:00:03,250\nHello\n\n"
+                                                                "00:00:05,000 --> 00:00:06,000\nTwo\nlines\n\n");
+    const QJsonArray found = inspect({path}, {.timeScale = 2000});
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found[0]["path"].toString(), path);
+    const QJsonArray tracks = found[0]["tracks"].toArray();
+    ASSERT_EQ(tracks.size(), 1);
+    EXPECT_EQ(tracks[0]["type"].toString(), "SubRip");
+    EXPECT_EQ(tracks[0]["title"].toString(), "film.srt");
+    EXPECT_EQ(tracks[0]["timeScale"].toInt(), 2000);
+    EXPECT_EQ(tracks[0]["cues"].toArray(),
+              (QJsonArray{
+                  QJsonObject{{"start", 3000}, {"end", 6500}, {"startMs", 1500}, {"endMs", 3250}, {"text", "Hello"}},
+                  QJsonObject{
+                      {"start", 10000}, {"end", 12000}, {"startMs", 5000}, {"endMs", 6000}, {"text", "Two\nlines"}}}));
+    EXPECT_TRUE(errors.isEmpty());
+}
+
+TEST_F(Inspection, a_movie_is_described_with_the_subtitles_beside_it_and_a_failure_is_a_line) {
+    settings.defaults().setBool(true, kQVAutoloadSubtitles);
+    const QString movie = writeFile(folder.filePath("film.mp4"));
+    const QString broken = writeFile(folder.filePath("broken.mp4"));
+    toolkit.scripts[QUrl::fromLocalFile(broken)] = {platform::movieError::couldNotOpen};
+    writeFile(folder.filePath("film.sub"), "{30}{90}Words\n");
+    const QJsonArray found = inspect({broken, movie});
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found[0]["path"].toString(), movie);
+    EXPECT_EQ(found[0]["timeScale"].toInt(), 600);
+    EXPECT_EQ(found[0]["duration"].toInt(), 36000);
+    EXPECT_EQ(found[0]["durationInSeconds"].toInt(), 60);
+    EXPECT_EQ(found[0]["frameCount"].toInt(), 1500);
+    EXPECT_EQ(found[0]["frameRate"].toDouble(), 25);
+    EXPECT_EQ(found[0]["naturalBounds"].toArray(), (QJsonArray{0, 0, 640, 480}));
+    const QJsonArray tracks = found[0]["subtitles"].toArray();
+    ASSERT_EQ(tracks.size(), 1);
+    EXPECT_EQ(tracks[0]["type"].toString(), "MicroDVD");
+    EXPECT_EQ(tracks[0]["path"].toString(), folder.filePath("film.sub"));
+    EXPECT_EQ(tracks[0]["frameRate"].toDouble(), 25);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors[0].startsWith(broken)) << errors[0].toStdString();
+    EXPECT_TRUE(errors[0].contains("-2000")) << errors[0].toStdString();
+}
