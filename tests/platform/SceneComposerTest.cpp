@@ -276,6 +276,8 @@ TEST_F(SceneComposerTest, a_roots_alpha_darkens_it_where_the_window_system_does_
     root.setAlphaValue(0.5F);
     compose();
     EXPECT_TRUE(has(0, 0, green)) << "the window system's matter";
+    ColorChild child(root, Rect(110, 200, 5, 5), black);
+    child.window.setAlphaValue(0.1F); // which is the child's alone
     composer.setPaintsAlpha(true);
     compose(QRect(0, 0, 20, 30));
     EXPECT_TRUE(has(19, 29, QColor(0, 127, 0)));
