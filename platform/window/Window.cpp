@@ -114,6 +114,12 @@ void Window::setLevel(int level) {
 }
 
 void Window::orderFront() {
+    if (_parent && _parent->_children.back() != this) {
+        std::vector<Window*>& siblings = _parent->_children;
+        const auto self = std::ranges::find(siblings, this);
+        std::rotate(self, self + 1, siblings.end());
+        composeWhole();
+    }
     if (_orderedIn)
         return;
     _orderedIn = true;

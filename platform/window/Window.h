@@ -61,6 +61,7 @@ public:
     void setLevel(int level);
 
     bool isOrderedIn() const { return _orderedIn; }
+    /// A child that is ordered in already comes to stand above its siblings.
     void orderFront();
     void orderOut();
     void makeKeyAndOrderFront();

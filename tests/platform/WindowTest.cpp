@@ -202,6 +202,23 @@ TEST(Window, Children_move_with_their_parent_and_draw_through_its_host) {
     EXPECT_EQ(host.areas, (std::vector{Rect(100, 50, 1, 1), Rect(100, 50, 20, 10)}));
 }
 
+TEST(Window, a_child_ordered_front_comes_to_stand_above_its_siblings) {
+    Window window(screen);
+    Window first(Rect(0, 0, 20, 10)), second(Rect(0, 0, 20, 10));
+    for (Window* child : {&first, &second}) {
+        window.addChildWindow(*child);
+        child->orderFront();
+    }
+    RecordingHost host;
+    window.setHost(&host);
+    first.orderFront();
+    EXPECT_EQ(window.childWindows(), (std::vector<Window*>{&second, &first}));
+    EXPECT_EQ(host.areas, std::vector<Rect>{Rect(0, 0, 20, 10)}) << "the lower one is covered now";
+    first.orderFront();
+    EXPECT_EQ(host.areas.size(), 1U);
+    window.setHost(nullptr);
+}
+
 TEST(Window, A_child_that_comes_moves_vanishes_or_leaves_is_composed_where_it_was_and_is) {
     RecordingHost host;
     Window window(screen.translated({1000, 0}));
