@@ -46,16 +46,16 @@ QRegion SceneComposer::compose(QImage& target, const QRegion& marked, double pix
     });
     updateChildren(pixelRatio);
     // Nothing to paint but pictures: while a movie plays without overlays, no painter is made.
-    const QRegion background = dirty - pictures;
+    const QRegion bare = dirty - pictures;
     const bool viewsDraw = anyViewDraws(_root.contentView(), dirty, pixelRatio);
     const bool dims = _paintsAlpha && _root.alphaValue() < 1;
-    if (background.isEmpty() && !viewsDraw && !dims && !anyChildIn(dirty))
+    if (bare.isEmpty() && !viewsDraw && !dims && !anyChildIn(dirty))
         return dirty;
     // The target's memory without its pixel ratio: the painter's coordinates are pixels.
     QImage pixels(target.bits(), target.width(), target.height(), target.bytesPerLine(), target.format());
     QPainter painter(&pixels);
-    const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
-    for (const QRect& rect : background)
+    const QColor color = background();
+    for (const QRect& rect : bare)
         painter.fillRect(rect, color);
     if (viewsDraw)
         drawViews(painter, _root, _root.contentView(), dirty, pixelRatio);
@@ -85,6 +85,14 @@ void SceneComposer::drawOver(QPainter& painter, const QRegion& marked, double pi
     painter.setOpacity(1);
     if (_paintsAlpha && _root.alphaValue() < 1)
         painter.fillRect(marked.boundingRect(), QColor::fromRgbF(0, 0, 0, 1.0F - _root.alphaValue()));
+}
+
+QColor SceneComposer::background() const {
+    const QColor color = _root.backgroundColor();
+    if (!color.isValid())
+        return Qt::black;
+    return QColor::fromRgbF(color.redF() * color.alphaF(), color.greenF() * color.alphaF(),
+                            color.blueF() * color.alphaF());
 }
 
 bool SceneComposer::anyChildIn(const QRegion& dirty) const {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QRegion>
 
@@ -28,6 +29,9 @@ public:
     QRegion compose(QImage& target, const QRegion& marked, double pixelRatio);
     /// The same without the root's background and the pictures, for a host that renders those itself.
     void drawOver(QPainter& painter, const QRegion& marked, double pixelRatio);
+
+    /// The colour behind everything: the root's, over black where it is translucent, because nothing lies below.
+    QColor background() const;
 
     void forEachVideoLayer(double pixelRatio, const std::function<void(VideoLayer&, const QRect&)>& visit);
 

@@ -127,6 +127,16 @@ TEST_F(SceneComposerTest, views_stand_where_their_frames_say_at_every_pixel_rati
     }
 }
 
+TEST_F(SceneComposerTest, nothing_earlier_shines_through_a_translucent_background) {
+    root.setBackgroundColor(QColor(200, 100, 0, 128));
+    ColorChild child(root, Rect(110, 205, 10, 10), red);
+    compose();
+    child.window.setAlphaValue(0);
+    compose();
+    for (const QPoint& at : {QPoint(15, 20), QPoint(0, 0)})
+        EXPECT_TRUE(has(at.x(), at.y(), QColor(100, 50, 0))) << at.x() << ": over black";
+}
+
 TEST_F(SceneComposerTest, only_what_is_marked_is_painted_and_only_its_views_are_asked) {
     ColorView left(Rect(0, 0, 10, 30), red), right(Rect(20, 0, 10, 30), blue);
     root.contentView().addSubview(left);

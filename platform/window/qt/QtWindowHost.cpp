@@ -284,7 +284,7 @@ void QtWindowHost::paintOpenGL() {
         return;
     const QSize pixels = pixelSize();
     QOpenGLFunctions* gl = context.functions();
-    const QColor color = _root.backgroundColor().isValid() ? _root.backgroundColor() : QColor(Qt::black);
+    const QColor color = _composer.background();
     gl->glViewport(0, 0, pixels.width(), pixels.height());
     gl->glClearColor(static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
                      static_cast<float>(color.blueF()), 1.0F);
