@@ -21,7 +21,7 @@ QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(platform::UserDefaults& defa
         trace("WARNING: %@: No default settings found for key: %@.", className, selectorKey);
         name = defaults.stringForKey(kQVDefaultOverlayStyle);
     }
-    if (!defaults.dictionaryForKey(kQVOverlayDefaultStyles).contains(name)) {
+    if (!defaults.registeredDictionaryForKey(kQVOverlayDefaultStyles).contains(name)) {
         logAlways("ERROR: %@: No defaults found for key: %@.", className, name);
         return std::nullopt;
     }
@@ -35,7 +35,7 @@ QVOverlayStyleDefaults::QVOverlayStyleDefaults(platform::UserDefaults& defaults,
 OverlayStyle QVOverlayStyleDefaults::values() const {
     const QVariantMap changed = value::toDictionary(_defaults->dictionaryForKey(kQVOverlayStyles).value(_key));
     const QVariantMap registered =
-        value::toDictionary(_defaults->dictionaryForKey(kQVOverlayDefaultStyles).value(_key));
+        value::toDictionary(_defaults->registeredDictionaryForKey(kQVOverlayDefaultStyles).value(_key));
     OverlayStyle style;
     for (const auto& [key, field] : OverlayStyle::entries()) {
         const QVariant entry = changed.value(key);
@@ -45,12 +45,11 @@ OverlayStyle QVOverlayStyleDefaults::values() const {
 }
 
 QVariant QVOverlayStyleDefaults::objectForKey(const QString& styleKey) const {
-    for (const QString& styles : {kQVOverlayStyles, kQVOverlayDefaultStyles}) {
-        const QVariant entry = value::toDictionary(_defaults->dictionaryForKey(styles).value(_key)).value(styleKey);
-        if (entry.isValid())
-            return entry;
-    }
-    return {};
+    const auto entryIn = [&](const QVariantMap& styles) {
+        return value::toDictionary(styles.value(_key)).value(styleKey);
+    };
+    const QVariant changed = entryIn(_defaults->dictionaryForKey(kQVOverlayStyles));
+    return changed.isValid() ? changed : entryIn(_defaults->registeredDictionaryForKey(kQVOverlayDefaultStyles));
 }
 
 void QVOverlayStyleDefaults::setObject(const QVariant& object, const QString& styleKey) {

@@ -74,6 +74,10 @@ QVariantMap UserDefaults::dictionaryForKey(const QString& key) const {
     return propertyValue::toDictionary(objectForKey(key));
 }
 
+QVariantMap UserDefaults::registeredDictionaryForKey(const QString& key) const {
+    return propertyValue::toDictionary(_registered.value(key));
+}
+
 QVariantList UserDefaults::arrayForKey(const QString& key) const {
     const QVariant value = objectForKey(key);
     const int type = value.typeId();

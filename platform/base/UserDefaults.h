@@ -54,6 +54,8 @@ public:
     /// The value when it is a string, else a null string.
     QString stringForKey(const QString& key) const;
     QVariantMap dictionaryForKey(const QString& key) const;
+    /// The same of the registered layer alone, whatever lies above it.
+    QVariantMap registeredDictionaryForKey(const QString& key) const;
     QVariantList arrayForKey(const QString& key) const;
     QStringList stringArrayForKey(const QString& key) const;
     /// The value when it is a date, else an invalid date.

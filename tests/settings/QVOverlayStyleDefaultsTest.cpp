@@ -40,6 +40,14 @@ TEST_F(QVOverlayStyleDefaultsTest, a_change_covers_its_own_value_alone) {
     EXPECT_FALSE(style(kQVOSDOverlayStyle));
 }
 
+TEST_F(QVOverlayStyleDefaultsTest, what_is_registered_stays_whatever_the_user_puts_in_its_place) {
+    settings.defaults().setObject(QVariantMap(), kQVOverlayDefaultStyles);
+    const auto plain = style(kQVDefaultOverlayStyle);
+    ASSERT_TRUE(plain);
+    EXPECT_EQ(plain->values().textFontSize, 20);
+    EXPECT_EQ(plain->objectForKey(kTextFontSize), 20);
+}
+
 TEST_F(QVOverlayStyleDefaultsTest, each_value_is_stored_in_its_own_form_under_its_own_key) {
     auto plain = style(kQVDefaultOverlayStyle);
     plain->set(&OverlayStyle::textColor, QColor(Qt::red));
