@@ -15,6 +15,9 @@ namespace {
 
 constexpr const char* className = "QVFullScreenWindow";
 
+/// A window that cannot be seen would still take the whole screen, and the keys.
+constexpr float smallestSeenAlpha = 0.2F;
+
 platform::Rect chosenFrame(const platform::UserDefaults& settings, const platform::Desktop& desktop) {
     const std::vector<platform::Screen> screens = desktop.screens();
     const std::int32_t index = settings.integerForKey(kQVMainWindowScreen);
@@ -41,6 +44,10 @@ void QVFullScreenWindow::postFadeOut() {
     QVParentOverlay::postFadeOut();
     if (_terminating)
         _with.desktop.replyToApplicationShouldTerminate(true);
+}
+
+float QVFullScreenWindow::smallestShownAlpha() const {
+    return smallestSeenAlpha;
 }
 
 void QVFullScreenWindow::adoptScreen(const platform::Screen& screen) {

@@ -46,6 +46,7 @@ public:
 protected:
     const char* logName() const override { return "QVFullScreenWindow"; }
     void postFadeOut() override;
+    float smallestShownAlpha() const override;
     bool keyDown(const platform::KeyEvent& event) override;
     void mouseMoved(const platform::MouseEvent& event) override;
     void mouseUp(const platform::MouseEvent& event) override;

@@ -35,13 +35,6 @@ void QVImageSubView::show() {
         QVImageOverlay::show();
 }
 
-void QVImageSubView::setMaxAlpha(float alpha) {
-    const bool unseen = fadingState() == FadingState::idle && !isVisible();
-    QVImageOverlay::setMaxAlpha(alpha);
-    if (unseen)
-        setAlphaValue(minAlpha());
-}
-
 void QVImageSubView::postFadeOut() {
     QVImageOverlay::postFadeOut();
     if (!_subtitle)

@@ -19,8 +19,7 @@ public:
     void show() override;
     void hide() override { QVImageOverlay::hide(); }
     void orderFront() override { QVImageOverlay::orderFront(); }
-    /// A view that is not shown stays unseen.
-    void setMaxAlpha(float alpha) override;
+    void setMaxAlpha(float alpha) override { QVImageOverlay::setMaxAlpha(alpha); }
     void setFadingInInterval(double seconds) override { QVImageOverlay::setFadingInInterval(seconds); }
     void setFadingOutInterval(double seconds) override { QVImageOverlay::setFadingOutInterval(seconds); }
 

@@ -26,22 +26,40 @@ QVParentOverlay::QVParentOverlay(const Environment& environment, const platform:
 }
 
 void QVParentOverlay::hide() {
+    const std::vector<HiddenChild> waiting = _hiddenChldrens;
+    std::vector<HiddenChild> visible;
     for (QVStyledOverlay* child : overlaysAbove(*this)) {
         if (child->isVisible())
-            _hiddenChldrens.push_back(child);
+            visible.push_back({child, child->showing()});
         child->hide();
     }
+    // Hiding a child by its owner makes it wait no longer; hiding it with this window does not.
+    _hiddenChldrens = waiting;
+    _hiddenChldrens.insert(_hiddenChldrens.end(), visible.begin(), visible.end());
     QVStyledOverlay::hide();
 }
 
 void QVParentOverlay::show() {
     QVStyledOverlay::show();
     const auto remembered = std::exchange(_hiddenChldrens, {});
-    // A child may have gone in the meantime.
     for (QVStyledOverlay* child : overlaysAbove(*this)) {
-        if (std::ranges::find(remembered, child) != remembered.end())
+        const auto found = std::ranges::find(remembered, child, &HiddenChild::overlay);
+        if (found == remembered.end())
+            continue;
+        if (found->showing == Showing::popping)
+            child->autopop();
+        else
             child->show();
     }
+}
+
+void QVParentOverlay::childWaits(const QVStyledOverlay& child) {
+    childWasHidden(child);
+    _hiddenChldrens.push_back({&child, child.showing()});
+}
+
+void QVParentOverlay::childWasHidden(const QVStyledOverlay& child) {
+    std::erase_if(_hiddenChldrens, [&child](const HiddenChild& hidden) { return hidden.overlay == &child; });
 }
 
 void QVParentOverlay::mouseMoved(const platform::MouseEvent& event) {

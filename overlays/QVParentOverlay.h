@@ -6,7 +6,7 @@
 #include <vector>
 
 /// A styled overlay that carries others. Hiding it hides its children; showing it again brings back those that were
-/// visible. Main thread.
+/// visible and those that were asked to show themselves meanwhile, each for its hold where it had one. Main thread.
 class QVParentOverlay : public QVStyledOverlay {
 public:
     QVParentOverlay(const Environment& environment, const platform::Rect& contentRect, const QString& style);
@@ -18,9 +18,16 @@ public:
 
 protected:
     const char* logName() const override { return "QVParentOverlay"; }
+    void childWaits(const QVStyledOverlay& child) override;
+    void childWasHidden(const QVStyledOverlay& child) override;
     void mouseMoved(const platform::MouseEvent& event) override;
     void mouseUp(const platform::MouseEvent& event) override;
 
 private:
-    std::vector<const platform::Window*> _hiddenChldrens; // visible when this was hidden; looked up before use
+    struct HiddenChild {
+        const QVStyledOverlay* overlay; // may have gone: looked up before use
+        Showing showing;
+    };
+    /// To be shown with this window.
+    std::vector<HiddenChild> _hiddenChldrens;
 };

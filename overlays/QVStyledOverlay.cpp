@@ -6,6 +6,8 @@
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/Tracing.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Seconds between the steps of a fade; shorter fades are none.
@@ -63,13 +65,16 @@ OverlayStyle QVStyledOverlay::styleValues() const {
 }
 
 void QVStyledOverlay::show() {
-    if (parentWindow() && !isWindowVisible(*parentWindow()))
+    if (parentWindow() && !isWindowVisible(*parentWindow())) {
+        if (QVStyledOverlay* parent = parentOverlay())
+            parent->childWaits(*this);
         return;
+    }
+    _shownLast = true;
     if (_fadingState == FadingState::fadingIn)
         return;
     _fadingState = FadingState::fadingIn;
-    if (!takesTime(_fadingInInterval) || alphaValue() >= shownAlpha(_maxAlpha)) {
-        setAlphaValue(_maxAlpha);
+    if (!takesTime(_fadingInInterval) || alphaValue() >= restingAlpha()) {
         postFadeIn();
         return;
     }
@@ -80,12 +85,14 @@ void QVStyledOverlay::show() {
 }
 
 void QVStyledOverlay::hide() {
+    _shownLast = false;
+    if (QVStyledOverlay* parent = parentOverlay())
+        parent->childWasHidden(*this);
     if (_fadingState == FadingState::fadingOut)
         return;
     _fadingState = FadingState::fadingOut;
     const double interval = fadingOutInterval();
     if (!takesTime(interval) || alphaValue() <= shownAlpha(_minAlpha)) {
-        setAlphaValue(_minAlpha);
         postFadeOut();
         return;
     }
@@ -96,9 +103,9 @@ void QVStyledOverlay::hide() {
 }
 
 void QVStyledOverlay::doFadeIn(const QVFadeCalculator& calculator) {
-    if (alphaValue() < shownAlpha(_maxAlpha))
+    if (alphaValue() < restingAlpha())
         setAlphaValue(static_cast<float>(calculator.valueNow()));
-    if (alphaValue() >= shownAlpha(_maxAlpha))
+    if (alphaValue() >= restingAlpha())
         postFadeIn();
 }
 
@@ -110,7 +117,7 @@ void QVStyledOverlay::doFadeOut(const QVFadeCalculator& calculator) {
 }
 
 void QVStyledOverlay::postFadeIn() {
-    setAlphaValue(_maxAlpha);
+    setAlphaValue(restingAlpha());
     setFadeTimer(nullptr);
     _fadingState = FadingState::idle;
     if (_autopop)
@@ -162,8 +169,8 @@ void QVStyledOverlay::setMaxAlpha(float alpha) {
     _maxAlpha = alpha;
     if (_minAlpha > _maxAlpha)
         _minAlpha = _maxAlpha;
-    if (_fadingState == FadingState::idle || _fadingState == FadingState::delaying)
-        setAlphaValue(_maxAlpha);
+    if (_shownLast && (_fadingState == FadingState::idle || _fadingState == FadingState::delaying))
+        setAlphaValue(restingAlpha());
 }
 
 void QVStyledOverlay::setMinAlpha(float alpha) {
@@ -172,15 +179,25 @@ void QVStyledOverlay::setMinAlpha(float alpha) {
     _minAlpha = alpha;
     if (_minAlpha > _maxAlpha)
         _maxAlpha = _minAlpha;
-    if (_minAlpha > alphaValue() && _fadingState == FadingState::idle)
-        setAlphaValue(_minAlpha);
+    if (_shownLast && _minAlpha > alphaValue() && _fadingState == FadingState::idle)
+        setAlphaValue(restingAlpha());
 }
 
 bool QVStyledOverlay::isVisible() const {
-    if (!isOrderedIn() || _fadingState == FadingState::fadingOut)
-        return false;
-    return alphaValue() > shownAlpha(_minAlpha) || _fadingState == FadingState::fadingIn;
+    return isOrderedIn() && _shownLast;
 }
+
+float QVStyledOverlay::restingAlpha() const {
+    return std::max(shownAlpha(_maxAlpha), smallestShownAlpha());
+}
+
+QVStyledOverlay* QVStyledOverlay::parentOverlay() const {
+    return dynamic_cast<QVStyledOverlay*>(parentWindow());
+}
+
+void QVStyledOverlay::childWaits(const QVStyledOverlay&) {}
+
+void QVStyledOverlay::childWasHidden(const QVStyledOverlay&) {}
 
 bool QVStyledOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key != _style)

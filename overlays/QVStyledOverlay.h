@@ -21,6 +21,8 @@ class QVFadeCalculator;
 class QVStyledOverlay : public platform::Window {
 public:
     enum class FadingState { idle = 0, fadingIn = 1, fadingOut = 2, delaying = 3 };
+    /// How long an overlay is to be seen once it is shown: until it is hidden, or for its hold.
+    enum class Showing { lasting, popping };
 
     /// `contentRect` is in screen coordinates, `style` a style selector key. The overlay starts hidden.
     QVStyledOverlay(const Environment& environment, const platform::Rect& contentRect, const QString& style);
@@ -29,7 +31,8 @@ public:
     /// The selector key.
     const QString& style() const { return _style; }
 
-    /// Fades in from the opacity that stands now; does nothing under a parent that is not visible.
+    /// Fades in from the opacity that stands now. Under a parent that is not visible it waits: the parent shows it when
+    /// it is shown itself, unless it is hidden before.
     virtual void show();
     /// Fades out from the opacity that stands now.
     virtual void hide();
@@ -38,6 +41,7 @@ public:
     /// Starts the hold, or starts it again.
     void delay();
     FadingState fadingState() const { return _fadingState; }
+    Showing showing() const { return _autopop ? Showing::popping : Showing::lasting; }
 
     /// Seconds; a fade that runs keeps the interval with which it began.
     double fadingInInterval() const { return _fadingInInterval; }
@@ -47,13 +51,15 @@ public:
     double fadingDelayInterval() const { return _fadingDelayInterval; }
     void setFadingDelayInterval(double seconds) { _fadingDelayInterval = seconds; }
 
-    /// Opacities, 0 to 1; setting one moves the other where the smallest would lie above the largest.
+    /// Opacities, 0 to 1; setting one moves the other where the smallest would lie above the largest. An overlay that
+    /// is hidden follows at its next showing.
     float maxAlpha() const { return _maxAlpha; }
     void setMaxAlpha(float alpha);
     float minAlpha() const { return _minAlpha; }
     void setMinAlpha(float alpha);
 
-    /// Ordered in and seen, or on the way to be seen; an overlay that fades out no longer counts as visible.
+    /// Ordered in, and shown last, not hidden last: whatever its opacities are, an overlay that fades in, is held or
+    /// rests shown is visible, and one that fades out no longer is.
     virtual bool isVisible() const;
 
     /// Takes over what changed of this overlay's style. True when every changed key was handled.
@@ -70,6 +76,13 @@ protected:
     virtual void postFadeIn();
     virtual void postFadeOut();
 
+    /// The opacity below which the overlay does not rest shown, whatever its style says.
+    virtual float smallestShownAlpha() const { return 0; }
+
+    /// A child was asked to show itself while this window was not visible, or was hidden. Nothing here.
+    virtual void childWaits(const QVStyledOverlay& child);
+    virtual void childWasHidden(const QVStyledOverlay& child);
+
     const Environment& environment() const { return _environment; }
     /// The style as it stands in the settings now; all zero when it is not registered.
     OverlayStyle styleValues() const;
@@ -81,6 +94,8 @@ private:
     void postDelay();
     void doFadeIn(const QVFadeCalculator& calculator);
     void doFadeOut(const QVFadeCalculator& calculator);
+    float restingAlpha() const;
+    QVStyledOverlay* parentOverlay() const;
     void setFadeTimer(std::unique_ptr<platform::Timer> timer) { _fadingTimer = std::move(timer); }
 
     Environment _environment;
@@ -91,6 +106,7 @@ private:
     double _fadingOutInterval = 0;
     double _fadingDelayInterval = 0;
     bool _autopop = false;
+    bool _shownLast = false;
     float _maxAlpha = 0;
     float _minAlpha = 0;
     platform::Subscription _onPreferences;

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/QVAppController.h"
 
+#include "settings/OverlayStyle.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "tests/app/AppRig.h"
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace {
 
@@ -263,6 +266,20 @@ TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size)
     rig.desktop.screenList = {};
     rig.app.applicationDidChangeScreenParameters();
     EXPECT_EQ(rig.window.frame(), main.frame);
+}
+
+TEST(AppController, the_window_never_rests_shown_where_it_could_not_be_seen) {
+    for (const double largest : {0.0, 0.1, -1.0, std::numeric_limits<double>::quiet_NaN()}) {
+        AppRig rig(quiet(
+            {{kQVOverlayStyles, QVariantMap{{"Full Screen", QVariantMap{{kMinAlpha, 0.0}, {kMaxAlpha, largest}}}}}}));
+        rig.launch();
+        EXPECT_EQ(rig.window.alphaValue(), 0.2F) << largest;
+        rig.window.setMaxAlpha(0.05F);
+        EXPECT_EQ(rig.window.alphaValue(), 0.2F) << "changed from " << largest;
+        rig.window.hide();
+        rig.fade();
+        EXPECT_EQ(rig.window.alphaValue(), 0);
+    }
 }
 
 // Dragging

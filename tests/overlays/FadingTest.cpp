@@ -109,14 +109,15 @@ TEST_F(Fading, popping_up_shows_holds_and_hides) {
     EXPECT_EQ(overlay.alphaValue(), 1) << "what is shown stays, though it popped up before";
 }
 
-TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
-    Overlay seen(rig.settings.environment), unseen(rig.settings.environment);
-    for (Overlay* child : {&seen, &unseen})
+TEST_F(Fading, a_parent_brings_back_what_it_hid_and_what_was_asked_for_meanwhile) {
+    Overlay seen(rig.settings.environment), unseen(rig.settings.environment), late(rig.settings.environment);
+    for (Overlay* child : {&seen, &unseen, &late})
         overlay.addChildWindow(*child);
     seen.show();
     EXPECT_EQ(seen.fadingState(), State::idle) << "under a hidden parent nothing is shown";
+    EXPECT_FALSE(seen.isVisible());
     overlay.show();
-    seen.show();
+    EXPECT_EQ(seen.fadingState(), State::fadingIn) << "but with it";
     {
         Overlay gone(rig.settings.environment);
         overlay.addChildWindow(gone);
@@ -129,11 +130,47 @@ TEST_F(Fading, a_parent_brings_back_exactly_the_children_that_it_hid) {
     }
     advance(1);
     unseen.show();
+    unseen.hide();
+    late.show();
     overlay.show();
     advance(2);
     EXPECT_TRUE(seen.isVisible());
-    EXPECT_FALSE(unseen.isVisible());
+    EXPECT_FALSE(unseen.isVisible()) << "it was hidden again by whoever asked for it";
+    EXPECT_TRUE(late.isVisible());
     overlay.orderOut();
+    EXPECT_FALSE(overlay.isVisible());
+}
+
+TEST_F(Fading, what_popped_up_before_or_under_a_hidden_parent_is_held_and_goes) {
+    Overlay before(rig.settings.environment), under(rig.settings.environment);
+    for (Overlay* child : {&before, &under})
+        overlay.addChildWindow(*child);
+    overlay.show();
+    before.autopop();
+    advance(2);
+    ASSERT_EQ(before.fadingState(), State::delaying);
+    overlay.hide();
+    advance(1);
+    under.autopop();
+    overlay.show();
+    advance(1.2);
+    for (const Overlay* child : {&before, &under})
+        EXPECT_EQ(child->fadingState(), State::delaying);
+    advance(3);
+    for (const Overlay* child : {&before, &under})
+        EXPECT_EQ(child->alphaValue(), 0);
+}
+
+TEST_F(Fading, equal_limits_are_visible_while_shown_and_do_not_hide_what_lies_above) {
+    overlay.setMinAlpha(1);
+    Overlay child(rig.settings.environment);
+    overlay.addChildWindow(child);
+    EXPECT_FALSE(overlay.isVisible()) << "never shown";
+    overlay.show();
+    EXPECT_TRUE(overlay.isVisible());
+    child.show();
+    EXPECT_TRUE(child.isVisible());
+    overlay.hide();
     EXPECT_FALSE(overlay.isVisible());
 }
 
@@ -154,7 +191,10 @@ TEST_F(Fading, a_hold_ends_with_hide_and_goes_on_without_popping_up) {
 
 TEST_F(Fading, the_limits_push_each_other_and_move_a_resting_overlay) {
     overlay.setMaxAlpha(0.6F);
-    EXPECT_EQ(overlay.alphaValue(), 0.6F) << "a hidden overlay appears";
+    EXPECT_EQ(overlay.alphaValue(), 0) << "a hidden overlay stays unseen";
+    overlay.show();
+    advance(1);
+    EXPECT_EQ(overlay.alphaValue(), 0.6F);
     overlay.setMinAlpha(0.7F);
     EXPECT_EQ(overlay.maxAlpha(), 0.7F);
     EXPECT_EQ(overlay.alphaValue(), 0.7F);
