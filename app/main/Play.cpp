@@ -5,14 +5,10 @@
 #include "app/MainObjects.h"
 #include "app/OpeningFiles.h"
 #include "app/main/Modes.h"
-#include "app/main/RunSettings.h"
+#include "app/main/RunEnvironment.h"
 #include "app/panels/HelpPanel.h"
-#include "context/Environment.h"
 #include "platform/base/Bundle.h"
-#include "platform/base/NotificationCenter.h"
 #include "platform/base/PrivateFolder.h"
-#include "platform/base/QtRunLoop.h"
-#include "platform/base/SettingsFile.h"
 #include "platform/desktop/linux/Backlight.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
@@ -88,14 +84,9 @@ int play(int& count, char** arguments, const CommandLine& line) {
     }
 
     platform::QtDesktop desktop(count, arguments, QStringLiteral("Lumaro"));
-    platform::QtRunLoop loop;
-    platform::RunLoop::setMain(&loop);
-    platform::NotificationCenter notifications;
-    platform::NotificationCenter::setDefault(&notifications);
-    RunSettings settings(std::make_unique<platform::SettingsFile>(platform::SettingsFile::defaultPath()));
-    if (!settings.apply(line))
+    RunEnvironment run;
+    if (!run.settings().apply(line))
         return exitUsage;
-    const Environment environment{loop, notifications, settings.defaults()};
 
     platform::SessionBus bus;
     const platform::Backlight backlight(platform::Backlight::systemFolder(),
@@ -108,7 +99,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
     int status = exitSuccess;
     {
         Steps steps;
-        MainObjects player(environment, {desktop, *toolkit, platform::Bundle::main()}, steps);
+        MainObjects player(run.environment(), {desktop, *toolkit, platform::Bundle::main()}, steps);
         platform::QtWindowHost host(player.window(), chosenRenderer(line));
         host.setMainMenu(player.menu().bar(), player.controller());
         desktop.setMainWindow(&host);
@@ -124,11 +115,10 @@ int play(int& count, char** arguments, const CommandLine& line) {
         instance.listen(take);
         // After the first picture: nobody waits for it.
         constexpr double sweepDelay = 5;
-        loop.perform([] { platform::PrivateFolder::sweep(); }, sweepDelay);
+        run.environment().loop.perform([] { platform::PrivateFolder::sweep(); }, sweepDelay);
         if (!files.files.isEmpty())
             take(files);
         status = desktop.run(player.application());
     }
-    platform::NotificationCenter::setDefault(nullptr);
     return status;
 }
