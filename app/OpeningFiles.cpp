@@ -24,15 +24,16 @@ bool isFilePackage(const QString& folder) {
            QFileInfo::exists(folder + QStringLiteral("/Contents/Info.plist"));
 }
 
-/// Walks a folder in the order in which a person reads its list: names without regard to case, numbers by value.
+/// Walks a folder in the order in which a person reads its list: names without regard to case, numbers by value;
+/// of names that differ in case alone the one in capitals first.
 void addFolder(const QString& folder, const QStringList& types, QSet<QString>& seen, QList<QUrl>& urls) {
     // A link back up must not make the walk go round.
     const QString place = QFileInfo(folder).canonicalFilePath();
     if (place.isEmpty() || seen.contains(place))
         return;
     seen.insert(place);
-    QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System, QDir::NoSort);
-    std::sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
+    QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
+    std::stable_sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
         return platform::compareCaseInsensitively(left, right, true) < 0;
     });
     for (const QString& name : std::as_const(names)) {

@@ -23,15 +23,16 @@ protected:
 } // namespace
 
 TEST_F(OpeningFiles, folders_are_walked_to_the_bottom_in_reading_order_without_going_round) {
-    for (const char* name : {"show/2.mp4", "show/10.AVI", "show/1.txt", "show/extra/deep/a.mp4", "show/b.avi"})
+    for (const char* name :
+         {"show/2.mp4", "show/10.AVI", "show/1.txt", "show/extra/deep/a.mp4", "show/B.avi", "show/b.avi"})
         make(name);
     QDir().mkpath(folder.filePath("show/z empty"));
     ASSERT_TRUE(QFile::link(folder.filePath("show"), folder.filePath("show/extra/up")));
     ASSERT_TRUE(QFile::link(folder.filePath("gone.mp4"), folder.filePath("show/c.mp4")));
-    EXPECT_EQ(found({"show"}), "show/2.mp4 show/10.AVI show/b.avi show/extra/deep/a.mp4");
+    EXPECT_EQ(found({"show"}), "show/2.mp4 show/10.AVI show/B.avi show/b.avi show/extra/deep/a.mp4");
     EXPECT_EQ(found({"show/extra", "show/b.avi"}, {}),
-              "show/extra/deep/a.mp4 show/extra/up/1.txt show/extra/up/2.mp4 show/extra/up/10.AVI show/extra/up/b.avi "
-              "show/b.avi")
+              "show/extra/deep/a.mp4 show/extra/up/1.txt show/extra/up/2.mp4 show/extra/up/10.AVI show/extra/up/B.avi "
+              "show/extra/up/b.avi show/b.avi")
         << "no types at all accept every file; a link is followed";
 }
 
