@@ -23,7 +23,6 @@ public:
         , _interval(toMilliseconds(interval))
         , _repeats(repeats) {
         _timer.setTimerType(Qt::PreciseTimer);
-        _timer.setSingleShot(true);
         QObject::connect(&_timer, &QTimer::timeout, &_timer, [this] { fire(); });
         _timer.start(_interval);
     }

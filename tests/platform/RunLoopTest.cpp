@@ -95,6 +95,29 @@ TEST(RunLoop, the_real_one_runs_what_is_posted_even_before_there_is_an_applicati
     EXPECT_TRUE(early);
     expectPostedWorksToRunHereInOrder(*loop, runUntil);
 
+    // Timers.
+    QStringList fired;
+    const auto note = [&fired](const char* timer) { return [&fired, timer] { fired << timer; }; };
+    const double began = loop->now();
+    const auto once = loop->schedule(0.03, false, note("once"));
+    const auto repeating = loop->schedule(0.002, true, note("again"));
+    const auto hastened = loop->schedule(60, false, note("hastened"));
+    const auto ended = loop->schedule(0, false, note("ended"));
+    loop->perform(note("performed"), 0.04);
+    hastened->rearm(0.01);
+    ended->invalidate();
+    ended->rearm(0);
+    runUntil([&] { return fired.contains("performed") && fired.count("again") >= 3; });
+    EXPECT_GE(loop->now() - began, 0.04);
+    EXPECT_TRUE(repeating->isValid());
+    repeating->invalidate();
+    EXPECT_FALSE(once->isValid() || hastened->isValid() || repeating->isValid());
+    const qsizetype repeats = fired.removeAll("again");
+    EXPECT_GE(repeats, 3);
+    EXPECT_EQ(fired, (QStringList{"hastened", "once", "performed"}));
+    runUntil([&, until = loop->now() + 0.05] { return loop->now() > until; });
+    EXPECT_EQ(fired.size(), 3);
+
     bool late = false;
     loop->post([&] { late = true; });
     loop.reset();
