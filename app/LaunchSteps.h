@@ -11,8 +11,8 @@ public:
     virtual void askDonation() {}
     virtual bool shouldCheckLatestVersion() { return false; }
     virtual void checkLatestVersion() {}
-    /// Puts the playlist and the place in it back; false when nothing could be added.
-    virtual bool restoreState() { return false; }
+    /// Puts the playlist and the place in it back.
+    virtual void restoreState() {}
     virtual void saveState() {}
     /// Shows the help panel until it is closed.
     virtual void runHelpPanel() {}

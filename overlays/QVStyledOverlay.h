@@ -20,7 +20,7 @@ class QVFadeCalculator;
 /// transparent. Main thread.
 class QVStyledOverlay : public platform::Window {
 public:
-    enum class FadingState { idle = 0, fadingIn = 1, fadingOut = 2, delaying = 3 };
+    enum class FadingState { idle, fadingIn, fadingOut, delaying };
     /// How long an overlay is to be seen once it is shown: until it is hidden, or for its hold.
     enum class Showing { lasting, popping };
 

@@ -14,7 +14,6 @@ class Subscription {
 public:
     Subscription() = default;
     void reset() { _entry.reset(); }
-    explicit operator bool() const { return _entry != nullptr; }
 
 private:
     friend class NotificationCenter;

@@ -25,7 +25,7 @@ public:
         /// A new frame is ready to be rendered.
         virtual void playerFrameChanged() = 0;
         /// The same while playing: now is the moment to show it.
-        virtual void playerFrameDue() { playerFrameChanged(); }
+        virtual void playerFrameDue() = 0;
         /// Time, playing or volume changed as a control bar shows them.
         virtual void playerStateChanged() = 0;
     };

@@ -25,7 +25,7 @@ public:
     virtual void displayNeeded(const Rect& rect) = 0;
     /// The same, and paints before it returns, with whatever else was marked: for what comes from the event loop anyway
     /// and would only wait for its next pass.
-    virtual void displayNow(const Rect& rect) { displayNeeded(rect); }
+    virtual void displayNow(const Rect& rect) = 0;
     virtual void makeKeyAndOrderFront() = 0;
     /// Hides the pointer until the mouse next moves, or shows it again.
     virtual void setPointerHidden(bool hidden) = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/QVAppController.h"
 
+#include "overlays/QVOSDOverlay.h"
 #include "settings/OverlayStyle.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
@@ -68,6 +69,15 @@ TEST(AppController, what_the_settings_do_not_keep_stays_as_it_is_found_at_launch
     EXPECT_EQ(rig.view.volume(), volume);
     EXPECT_EQ(rig.desktop.brightnessLevels[1], 0.25F);
     EXPECT_EQ(rig.objects->display().displayType(), 0);
+
+    // A screen that comes only later was never asked: it ends at full brightness.
+    AppRig alone(quiet());
+    const auto later = std::exchange(alone.desktop.screenList, {});
+    alone.launch();
+    alone.desktop.screenList = later;
+    alone.desktop.brightnessLevels[1] = 0.25F;
+    alone.app.applicationShouldTerminate();
+    EXPECT_EQ(alone.desktop.brightnessLevels[1], 1);
 }
 
 TEST(AppController, tracing_follows_its_setting_from_the_launch_on) {
@@ -197,7 +207,9 @@ TEST(AppController, losing_the_keyboard_pauses_and_getting_it_back_restores_what
         AppRig rig(quiet({{kQVPauseOnDeactivate, c.pauses}, {kQVMainWindowLayer, 5}}));
         rig.app.openFile(rig.file("a.mp4"));
         rig.launch();
+        rig.view.stop();
         rig.window.setKey(true);
+        EXPECT_FALSE(rig.view.isPlaying()) << "nothing was paused yet";
         if (c.plays)
             rig.view.setRate(2);
         else
@@ -339,6 +351,22 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     choose("quit");
     rig.settings.runLoop.advance(5);
     EXPECT_EQ(rig.desktop.terminations, 1);
+}
+
+TEST(AppController, the_display_shows_what_plays) {
+    AppRig rig(quiet());
+    const auto shown = [&rig](int type) {
+        rig.objects->display().setDisplayType(type);
+        return QVOSDOverlay::sharedOSDOverlay().text().toStdString();
+    };
+    rig.launch();
+    EXPECT_EQ(shown(1), "Time: 0:00:00/0:00:00") << "without a movie";
+    rig.app.openFile(rig.file("a.mp4"));
+    rig.settings.runLoop.runPending();
+    rig.view.setTime(2 * 600);
+    EXPECT_EQ(shown(1), "Time: 0:00:02/0:01:00");
+    EXPECT_EQ(shown(2), "Movie: a.mp4 (1/1)");
+    EXPECT_EQ(shown(4), "Loop: Off");
 }
 
 // Termination

@@ -56,10 +56,7 @@ public:
         void askDonation() override { _events << "donation"; }
         bool shouldCheckLatestVersion() override { return checksVersion; }
         void checkLatestVersion() override { _events << "version"; }
-        bool restoreState() override {
-            _events << "restore";
-            return true;
-        }
+        void restoreState() override { _events << "restore"; }
         void saveState() override { _events << "save"; }
         void runHelpPanel() override { _events << "help"; }
 

@@ -37,8 +37,13 @@ TEST(CommandLine, options_take_their_values_attached_or_following) {
     const QList<QPair<QString, QString>> expected = {{"QVEnableTrace", "YES"}, {"A", "b=c"}, {"X", QString()}};
     EXPECT_EQ(play.settings, expected);
 
+    EXPECT_EQ(play.timeScale, 600);
+    EXPECT_EQ(play.frameRateChoice, 0);
+    EXPECT_EQ(play.encoding, 0);
+
     const CommandLine inspect = parse("--inspect --images=/out x.srt --time-scale 1000 --fps=3 --encoding 0x80000632");
     EXPECT_EQ(inspect.mode, CommandLine::Mode::inspect);
+    EXPECT_FALSE(inspect.append || inspect.software);
     EXPECT_EQ(inspect.imagesFolder.toStdString(), "/out");
     EXPECT_EQ(inspect.timeScale, 1000);
     EXPECT_EQ(inspect.frameRateChoice, 3);

@@ -38,12 +38,15 @@ TEST_F(Inspection, the_cues_of_a_subtitle_file_are_listed_in_units_and_in_millis
     EXPECT_EQ(tracks[0]["type"].toString(), "SubRip");
     EXPECT_EQ(tracks[0]["title"].toString(), "film.srt");
     EXPECT_EQ(tracks[0]["timeScale"].toInt(), 2000);
+    EXPECT_EQ(tracks[0]["streamIndex"].toInt(-1), 0);
     EXPECT_EQ(tracks[0]["cues"].toArray(),
               (QJsonArray{
                   QJsonObject{{"start", 3000}, {"end", 6500}, {"startMs", 1500}, {"endMs", 3250}, {"text", "Hello"}},
                   QJsonObject{
                       {"start", 10000}, {"end", 12000}, {"startMs", 5000}, {"endMs", 6000}, {"text", "Two\nlines"}}}));
     EXPECT_TRUE(errors.isEmpty());
+    const QJsonArray unscaled = inspect({path});
+    EXPECT_EQ(unscaled[0]["tracks"][0]["timeScale"].toInt(), 600) << "as most movies have it";
 }
 
 TEST_F(Inspection, a_movie_is_described_with_the_subtitles_beside_it_and_a_failure_is_a_line) {

@@ -286,7 +286,10 @@ TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
 }
 
 TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_sound_back) {
+    view.setMuted(true);
     addMovies(2);
+    EXPECT_TRUE(view.isMuted()) << "a movie that comes brings back only what fast motion took";
+    view.setMuted(false);
     controller.performAction(action::playPause, Feedback::no);
     EXPECT_EQ(pointer.cursorHides, 1);
     controller.performAction(action::fastForward, Feedback::yes);

@@ -57,6 +57,16 @@ TEST(MovieView, the_controller_bar_is_drawn_again_when_its_knob_moves_by_half_a_
     EXPECT_GT(shown, 20) << "the movie moved on";
 }
 
+TEST(MovieView, a_frame_is_marked_for_drawing_and_painted_at_once_when_it_is_due) {
+    ViewRig rig;
+    const std::vector<platform::Rect> picture{platform::Rect(0, 16, 640, 480)};
+    for (const bool isDue : {false, true}) {
+        rig.player.showFrame(isDue);
+        EXPECT_EQ(rig.drawnAgain(), picture);
+        EXPECT_EQ(rig.host.paintedAtOnce, isDue ? 1 : 0);
+    }
+}
+
 TEST(MovieView, the_controller_bar_is_drawn_again_for_what_it_shows_only) {
     ViewRig rig;
     rig.view.setVolume(0.5F);

@@ -90,6 +90,11 @@ TEST_F(ImageSubView, images_come_and_go_like_texts) {
     select(track("720x480"));
     view.setMaxAlpha(0.5F);
     EXPECT_EQ(view.alphaValue(), 0) << "nothing to show yet";
+    ImageSubtitleView& shown = view;
+    shown.setFadingInInterval(0.25);
+    shown.setFadingOutInterval(0.75);
+    EXPECT_EQ(view.fadingInInterval(), 0.25);
+    EXPECT_EQ(view.fadingOutInterval(), 0.75);
     view.show();
     EXPECT_FALSE(view.isVisible());
     const auto cue = cueAt({0, 0, 10, 10});

@@ -13,6 +13,7 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     PlaybackRig rig;
     rig.view.setMovieSize(movieSize::fitWidth, Recalculation::ifChanged);
     const auto first = rig.show();
+    EXPECT_EQ(rig.desktop.userActiveChanges, 0) << "nothing has played yet";
     rig.view.setVolume(0.3F);
     rig.view.start();
     rig.player().advance(5);

@@ -2,6 +2,7 @@
 #include "playlist/QVPlaylistController.h"
 
 #include "context/Notifications.h"
+#include "platform/base/Localization.h"
 #include "playlist/Arrangement.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
@@ -9,6 +10,8 @@
 #include <QDir>
 
 #include <gtest/gtest.h>
+
+using platform::localizedFormat;
 
 namespace {
 
@@ -77,10 +80,11 @@ TEST(QVPlaylistController, files_that_fail_are_reported_and_the_rest_plays) {
     EXPECT_TRUE(rig.add(names));
     EXPECT_EQ(rig.order(), "kept odd good");
     ASSERT_EQ(rig.desktop.alerts.size(), 3U);
-    EXPECT_TRUE(rig.desktop.alerts[0].title.contains("broken.avi"));
-    EXPECT_TRUE(rig.desktop.alerts[0].message.contains("-2000"));
+    EXPECT_EQ(rig.desktop.alerts[0].title, localizedFormat("QTUnableToOpenFileError", {"broken.avi"}));
+    EXPECT_EQ(rig.desktop.alerts[0].message, localizedFormat("QTUnableToOpenFileDetails", {"-2000"}));
     EXPECT_TRUE(rig.desktop.alerts[0].otherButton.isEmpty());
-    EXPECT_TRUE(rig.desktop.alerts[2].message.contains("-2008"));
+    EXPECT_EQ(rig.desktop.alerts[2].title, localizedFormat("QTUnableToPlayFileError", {"dropped.avi"}));
+    EXPECT_EQ(rig.desktop.alerts[2].message, localizedFormat("QTUnableToPlayFileDetails", {"-2008"}));
     EXPECT_FALSE(rig.desktop.alerts[2].otherButton.isEmpty());
     rig.desktop.alerts.clear();
     rig.playlist.setReportsError(false);

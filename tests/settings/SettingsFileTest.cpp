@@ -31,6 +31,20 @@ protected:
 
 } // namespace
 
+TEST_F(SettingsFileTest, it_stands_where_the_user_keeps_settings) {
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    const QString name = "/lumaro/org.lumaro.Lumaro.plist";
+    const QString usual = QDir::homePath() + "/.config" + name;
+    for (const auto& [variable, expected] :
+         {std::pair<QByteArray, QString>{"/settings//of/../mine/", "/settings/mine" + name},
+          {"relative", usual},
+          {"", usual}}) {
+        qputenv("XDG_CONFIG_HOME", variable);
+        EXPECT_EQ(SettingsFile::defaultPath(), expected);
+    }
+    qputenv("XDG_CONFIG_HOME", before);
+}
+
 TEST_F(SettingsFileTest, a_damaged_file_is_put_aside_and_reported) {
     const char* const damages[] = {"", "no property list", "<plist version=\"1.0\"><dict><key>a</key>",
                                    "<plist version=\"1.0\"><string>no dictionary</string></plist>", "bplist00"};

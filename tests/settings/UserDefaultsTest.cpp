@@ -43,6 +43,8 @@ TEST_F(UserDefaultsTest, the_highest_layer_that_holds_a_key_answers) {
 }
 
 TEST_F(UserDefaultsTest, changes_are_written_together_a_second_after_the_first) {
+    EXPECT_TRUE(defaults->synchronize());
+    EXPECT_EQ(disk->stores, 0) << "nothing has changed yet";
     defaults->setInteger(1, "a");
     loop.advance(0.9);
     defaults->setInteger(2, "a");

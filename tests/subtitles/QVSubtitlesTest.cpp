@@ -53,9 +53,12 @@ TEST_F(Track, loading_takes_the_settings_as_they_are_then) {
     EXPECT_EQ(cuesOf(*track), (std::vector<ExpectedCue>{{6000, 12000, "caf\xC3\xA9\nB"}}));
     EXPECT_EQ(track->encoding(), 12U);
     EXPECT_EQ(track->title(), QStringLiteral("film.sub"));
+    EXPECT_TRUE(track->isTextBased() && !track->isImageBased());
+    const std::weak_ptr<const QVSubtitle> last = track->cues().back();
     track->unload();
     EXPECT_EQ(track->count(), 0U);
     EXPECT_EQ(track->current(), nullptr);
+    EXPECT_TRUE(last.expired()) << "what was read with it is kept in memory";
     chooseEncoding(4);
     settings.defaults().setFloat(-3.0F, kQVSubtitlesDefaultFPS);
     track->preload();

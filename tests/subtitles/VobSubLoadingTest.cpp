@@ -45,6 +45,7 @@ TEST_F(VobSubLoading, cues_have_times_places_and_pictures) {
     load(*both[0]);
     load(*both[1]);
     EXPECT_EQ(both[1]->count(), 1U);
+    EXPECT_TRUE(both[0]->isImageBased() && !both[0]->isTextBased());
 
     struct Expected {
         std::int32_t start, end;

@@ -4,7 +4,9 @@
 #include "tests/support/CapturedLog.h"
 #include "tests/support/Files.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using vobsub::Bytes;
 using vobsub::Layout;
@@ -115,6 +117,31 @@ TEST_F(VobSubPacks, the_packs_of_another_stream_between_are_left_out) {
     EXPECT_EQ(read(mixed, 0), unit);
 }
 
+TEST_F(VobSubPacks, what_lies_behind_the_packets_of_an_own_pack_is_passed_over) {
+    const Bytes unit = smallUnit(1);
+    vobsub::DataWriter writer;
+    writer.append(unit, 3, 0);
+    Bytes packs;
+    const auto append = [&packs](auto first, auto last) { packs.insert(packs.end(), first, last); };
+    const auto pack = [&](std::initializer_list<std::size_t> ends) {
+        append(writer.bytes().begin(), writer.bytes().begin() + 14);
+        for (auto from = ends.begin(), to = from + 1; to != ends.end(); ++from, ++to) {
+            const auto length = static_cast<unsigned>(*to - *from + 4);
+            const Bytes header{
+                0,    0, 1, 0xBD, static_cast<std::uint8_t>(length >> 8), static_cast<std::uint8_t>(length),
+                0x81, 0, 0, 0x23};
+            append(header.begin(), header.end());
+            append(unit.begin() + static_cast<std::ptrdiff_t>(*from), unit.begin() + static_cast<std::ptrdiff_t>(*to));
+        }
+        packs.resize((packs.size() + 2047) / 2048 * 2048, 0x55);
+    };
+    const std::size_t third = unit.size() / 3;
+    ASSERT_LT(third, 600U);
+    pack({0, third, 2 * third});
+    pack({2 * third, unit.size()});
+    EXPECT_EQ(read(packs, 0), unit);
+}
+
 TEST_F(VobSubPacks, the_first_pack_is_judged_by_its_beginning) {
     vobsub::DataWriter writer;
     const Bytes unit = smallUnit(1);
@@ -222,6 +249,25 @@ TEST_F(VobSubPacks, what_cannot_be_read_is_said) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_FALSE(DataFile::open(pipe));
     EXPECT_FALSE(DataFile::open(folder.path()));
+}
+
+TEST_F(VobSubPacks, a_disc_that_cannot_be_read_on_is_reported) {
+    const QString path = write(Bytes(3 * DataFile::windowSize));
+    const std::int64_t lastByteInWindow = DataFile::windowSize - 1;
+    for (const std::int64_t position : {lastByteInWindow, lastByteInWindow + 1}) {
+        // The file takes the descriptor that is free, which afterwards leads to what can be opened only.
+        const int disc = ::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        const int free = ::dup(disc);
+        ::close(free);
+        const auto file = DataFile::open(path);
+        ASSERT_FALSE(file->at(0, DataFile::windowSize).empty());
+        ASSERT_EQ(::dup2(disc, free), free);
+        ::close(disc);
+        PackReader reader(*file, 3, abort);
+        const CapturedLog log;
+        EXPECT_FALSE(QVVobSubPacket::packetWithFile(reader, {._pos = position}));
+        EXPECT_EQ(log.lines(), QStringList{"ERROR: QVVobSubPacket: Caught read error: Is a directory"}) << position;
+    }
 }
 
 TEST_F(VobSubPacks, a_long_track_of_packets_without_a_length_is_read_to_its_end) {

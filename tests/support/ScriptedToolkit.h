@@ -20,6 +20,9 @@ public:
     /// Puts the time at the movie's end as playing would.
     void reachEnd();
 
+    /// Reports a new frame, to be shown now or whenever the view is drawn next.
+    void showFrame(bool isDue) { isDue ? _observer->playerFrameDue() : _observer->playerFrameChanged(); }
+
     std::vector<int> steps;
     int loads = 0;
 

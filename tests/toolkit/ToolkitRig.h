@@ -84,6 +84,7 @@ public:
 
 private:
     void playerFrameChanged() override;
+    void playerFrameDue() override { playerFrameChanged(); }
     void playerStateChanged() override;
     void armEnd(platform::Movie& movie);
     void armJump(platform::Movie& movie);
