@@ -328,6 +328,27 @@ TEST(AppController, what_is_dragged_in_is_taken_as_its_source_allows) {
 
 // Menus and keys
 
+TEST(AppController, escape_quits_and_other_keys_that_reach_the_window_do_nothing) {
+    AppRig rig(quiet());
+    rig.launch();
+    EXPECT_FALSE(rig.window.dispatchKey({.charactersIgnoringModifiers = "q"}));
+    rig.settings.runLoop.advance(5);
+    EXPECT_EQ(rig.desktop.terminations, 0);
+    EXPECT_TRUE(rig.window.dispatchKey({.charactersIgnoringModifiers = QChar(platform::functionKey::escape),
+                                        .modifierFlags = platform::modifier::shift}));
+    rig.settings.runLoop.advance(5);
+    EXPECT_EQ(rig.desktop.terminations, 1);
+}
+
+TEST(AppController, a_changed_layer_acts_at_once) {
+    AppRig rig(quiet());
+    rig.settings.defaults().setInteger(7, kQVMainWindowLayer);
+    rig.settings.notifications.post(QVPreferencesChangedNotification{kQVJumpInterval, {}});
+    EXPECT_NE(rig.window.level(), 7) << "another setting";
+    rig.settings.notifications.post(QVPreferencesChangedNotification{kQVMainWindowLayer, {}});
+    EXPECT_EQ(rig.window.level(), 7);
+}
+
 TEST(AppController, menu_items_reach_those_who_act_on_them) {
     AppRig rig(quiet());
     rig.app.openFile(rig.file("a.mp4"));

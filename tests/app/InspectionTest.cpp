@@ -55,8 +55,12 @@ TEST_F(Inspection, a_movie_is_described_with_the_subtitles_beside_it_and_a_failu
     const QString broken = writeFile(folder.filePath("broken.mp4"));
     toolkit.scripts[QUrl::fromLocalFile(broken)] = {platform::movieError::couldNotOpen};
     writeFile(folder.filePath("film.sub"), "{30}{90}Words\n");
-    const QJsonArray found = inspect({broken, movie});
-    ASSERT_EQ(found.size(), 1);
+    // What no type is known for is tried as a movie first.
+    const QString strange = writeFile(folder.filePath("film.words"), "{30}{90}Words\n");
+    toolkit.scripts[QUrl::fromLocalFile(strange)] = {platform::movieError::couldNotOpen};
+    const QJsonArray found = inspect({broken, movie, strange});
+    ASSERT_EQ(found.size(), 2);
+    EXPECT_EQ(found[1]["tracks"][0]["cues"][0]["text"].toString(), "Words");
     EXPECT_EQ(found[0]["path"].toString(), movie);
     EXPECT_EQ(found[0]["timeScale"].toInt(), 600);
     EXPECT_EQ(found[0]["duration"].toInt(), 36000);

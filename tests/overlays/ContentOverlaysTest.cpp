@@ -90,6 +90,31 @@ TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {
     EXPECT_EQ(platform::pointSizeOf(overlay.textFont()), 50);
 }
 
+TEST(QVTextOverlay, absurd_styles_are_laid_out_within_reason) {
+    const QVariant values[] = {1e9, -1e9, std::numeric_limits<double>::quiet_NaN(), "nonsense", QVariantList{1, 2}};
+    for (const QVariant& value : values) {
+        SCOPED_TRACE(value.toString().toStdString());
+        OverlayRig rig;
+        QVTextOverlay changed(rig.settings.environment, rig.window);
+        changed.setText("text");
+        for (const OverlayStyle::Entry& entry : OverlayStyle::entries()) {
+            if (entry.key != kAlignment)
+                rig.change(entry.key, value);
+        }
+        QVTextOverlay made(rig.settings.environment, rig.window);
+        made.setText("text");
+        for (QVTextOverlay* overlay : {&changed, &made}) {
+            overlay->setPadding(value.toFloat());
+            overlay->autopop();
+            rig.settings.runLoop.advance(10);
+            EXPECT_LE(overlay->contentSize().height(), 768 + 128);
+            EXPECT_LT(std::abs(overlay->frame().x()), 1e8);
+            EXPECT_GT(overlay->frame().width(), 0);
+            EXPECT_EQ(overlay->fadingState(), QVStyledOverlay::FadingState::idle);
+        }
+    }
+}
+
 TEST(ImageView, fills_itself_with_its_image_and_loses_no_pixel_when_it_shrinks) {
     QImage stripes(64, 64, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < 64; ++y)

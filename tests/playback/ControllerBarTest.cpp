@@ -4,6 +4,9 @@
 #include "settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
 
+#include <QImage>
+#include <QPainter>
+
 #include <gtest/gtest.h>
 
 using platform::ControllerBar;
@@ -52,4 +55,50 @@ TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
     EXPECT_FALSE(rig.view.isMuted());
     EXPECT_NEAR(rig.view.volume(), 0.5, 0.01);
     EXPECT_EQ(volumes.count, 1);
+}
+
+TEST(ControllerBar, it_shows_whether_it_plays_how_loud_and_where) {
+    const QSizeF size(640, 16);
+    const auto drawn = [&](const ControllerBar::State& state) {
+        QImage image(640, 16, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        ControllerBar().draw(painter, size, state);
+        return image;
+    };
+    const auto brightness = [](const QImage& image, const QPointF& at) { return qGray(image.pixel(at.toPoint())); };
+    const QPointF button = ControllerBar::playButton(size).center();
+    EXPECT_GT(brightness(drawn({.playing = false}), button), 200) << "a triangle";
+    EXPECT_LT(brightness(drawn({.playing = true}), button), 50) << "between two bars";
+
+    const auto speaker = [&](bool muted, double volume) {
+        return drawn({.muted = muted, .volume = volume}).copy(ControllerBar::muteButton(size).toRect());
+    };
+    const auto light = [&](const QImage& image) {
+        int sum = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                sum += qGray(image.pixel(x, y));
+        return sum;
+    };
+    EXPECT_EQ(speaker(true, 1), speaker(false, 0));
+    EXPECT_EQ(speaker(false, 0.01), speaker(false, 0.5));
+    EXPECT_EQ(speaker(false, 0.51), speaker(false, 1));
+    EXPECT_GT(light(speaker(false, 0.5)), light(speaker(true, 0.5)) + 500);
+    EXPECT_GT(light(speaker(false, 1)), light(speaker(false, 0.5)) + 500) << "one more wave";
+
+    for (const double value : {0.0, 0.25, 0.75, 1.0}) {
+        const QImage image = drawn({.volume = value, .position = 1 - value});
+        for (const auto& [slider, at] : {std::pair{ControllerBar::volumeSlider(size), value},
+                                         std::pair{ControllerBar::timeSlider(size), 1 - value}}) {
+            const QPointF knob(slider.left() + 4 + at * (slider.width() - 8), slider.center().y());
+            EXPECT_GT(brightness(image, knob), 200) << value;
+            if (at > 0) {
+                EXPECT_NEAR(brightness(image, knob - QPointF(7, 0)), 180, 30) << value;
+            }
+            if (at < 1) {
+                EXPECT_NEAR(brightness(image, knob + QPointF(7, 0)), 75, 25) << value;
+            }
+        }
+    }
 }

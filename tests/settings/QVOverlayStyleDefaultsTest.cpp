@@ -48,6 +48,14 @@ TEST_F(QVOverlayStyleDefaultsTest, what_is_registered_stays_whatever_the_user_pu
     EXPECT_EQ(plain->objectForKey(kTextFontSize), 20);
 }
 
+TEST_F(QVOverlayStyleDefaultsTest, a_style_of_nothing_is_what_is_read_where_nothing_is_stored) {
+    for (const OverlayStyle::Entry& entry : OverlayStyle::entries()) {
+        OverlayStyle style;
+        style.read(entry.field, QVariant());
+        EXPECT_EQ(OverlayStyle().stored(entry.field), style.stored(entry.field)) << entry.key.toStdString();
+    }
+}
+
 TEST_F(QVOverlayStyleDefaultsTest, each_value_is_stored_in_its_own_form_under_its_own_key) {
     auto plain = style(kQVDefaultOverlayStyle);
     plain->set(&OverlayStyle::textColor, QColor(Qt::red));

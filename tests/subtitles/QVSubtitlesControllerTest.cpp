@@ -167,6 +167,39 @@ TEST_F(SubtitlesController, each_picture_gives_the_view_its_cue) {
     EXPECT_TRUE(taken(scene.text).isEmpty()) << "another movie's time counts";
 }
 
+TEST_F(SubtitlesController, cycling_runs_through_the_tracks_and_off_both_ways) {
+    play(three);
+    controller.setDisplaySubtitles(false);
+    const std::pair<int, const char*> steps[] = {
+        {1, "one (1/3)"}, {1, "two (2/3)"},    {1, "three (3/3)"}, {1, "Off"},        {1, "one (1/3)"},
+        {-1, "Off"},      {-1, "three (3/3)"}, {-1, "two (2/3)"},  {-1, "one (1/3)"}, {-1, "Off"}};
+    for (const auto& [direction, shown] : steps) {
+        controller.cycleSubtitles(direction);
+        EXPECT_EQ(info().toStdString(), shown);
+        EXPECT_EQ(displayStored(), info() != QStringLiteral("Off"));
+    }
+    EXPECT_EQ(controller.index(), none);
+    controller.toggleSubtitles();
+    EXPECT_EQ(info(), QStringLiteral("one (1/3)")) << "what was switched off comes back";
+    controller.toggleSubtitles();
+    EXPECT_EQ(info(), QStringLiteral("Off"));
+}
+
+TEST_F(SubtitlesController, whatever_changes_is_announced_once_with_the_track_selected) {
+    const Posts<QVSubtitlesChangedNotification> posts(rig.settings.notifications);
+    const auto shown = play(three);
+    EXPECT_EQ(posts.count, 1);
+    controller.setCurrenWithIndex(2);
+    EXPECT_EQ(posts.count, 2);
+    EXPECT_EQ(posts.last->current, shown->subtitles()[2]);
+    controller.setCurrenWithIndex(2);
+    EXPECT_EQ(posts.count, 2) << "announced without a change";
+    controller.setCurrenWithIndex(3);
+    EXPECT_EQ(posts.count, 3);
+    play({});
+    EXPECT_EQ(posts.last->current, nullptr);
+}
+
 TEST_F(SubtitlesController, the_next_movie_keeps_to_the_kind_of_track_chosen_last) {
     const struct {
         const char* name;
