@@ -11,7 +11,6 @@ namespace MovieSizing {
 
 namespace {
 
-constexpr auto controllerHeight = static_cast<float>(platform::ControllerBar::height);
 constexpr float magnificationStep = 0.1F;
 /// Compared in double precision with the magnification.
 constexpr double smallestToShrink = 0.19;
@@ -28,18 +27,22 @@ QSizeF customSize(const Geometry& geometry) {
 
 } // namespace
 
+float controllerHeight(const Geometry& geometry) {
+    return static_cast<float>(platform::ControllerBar::heightOnScreen(geometry.window.height()));
+}
+
 float magnification(const QSizeF& view, const QSizeF& natural) {
     return natural.width() > 0 ? static_cast<float>(view.width()) / static_cast<float>(natural.width()) : 0.0F;
 }
 
 QSizeF sizeForMagnification(const Geometry& geometry, float m) {
-    const float bar = geometry.controllerVisible ? controllerHeight : 0.0F;
+    const float bar = geometry.controllerVisible ? controllerHeight(geometry) : 0.0F;
     return QSizeF(static_cast<float>(geometry.natural.width()) * m,
                   static_cast<float>(geometry.natural.height()) * m + bar);
 }
 
 QSizeF sizeForFitScreen(const Geometry& geometry, std::int32_t mode) {
-    const float bar = geometry.controllerVisible ? controllerHeight : 0.0F;
+    const float bar = geometry.controllerVisible ? controllerHeight(geometry) : 0.0F;
     const auto width = static_cast<float>(geometry.window.width());
     const float height = static_cast<float>(geometry.window.height()) - bar;
     if (!hasPicture(geometry))

@@ -44,6 +44,8 @@ struct Geometry {
     float customScale = 0;
 };
 
+/// Of the controller bar, whether it shows or not.
+float controllerHeight(const Geometry& geometry);
 /// The view's width by the movie's, 0 for a movie without a picture.
 float magnification(const QSizeF& view, const QSizeF& natural);
 /// The natural size times m, higher by the controller bar where it is shown.

@@ -96,6 +96,10 @@ MovieSizing::Geometry QVMovieView::geometry() const {
             isControllerVisible(), _environment.settings.floatForKey(kQVMovieCustomScale)};
 }
 
+unsigned QVMovieView::getControllerHeight() const {
+    return static_cast<unsigned>(MovieSizing::controllerHeight(geometry()));
+}
+
 float QVMovieView::magnification() const {
     const auto shown = movie();
     return shown ? MovieSizing::magnification(frame().size(), shown->naturalBounds().size()) : 0.0F;

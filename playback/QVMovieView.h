@@ -65,7 +65,7 @@ public:
 
     platform::Rect pictureFrame() const override { return frame(); }
     bool isControllerBarVisible() const override { return isControllerVisible(); }
-    unsigned getControllerHeight() const override { return static_cast<unsigned>(platform::ControllerBar::height); }
+    unsigned getControllerHeight() const override;
     void toggleController();
     void setVolume(float volume) override;
     QString volumeInfoAsString() const;

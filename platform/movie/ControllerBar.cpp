@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/ControllerBar.h"
 
+#include "platform/window/ScreenScale.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygonF>
@@ -71,6 +73,10 @@ void drawSpeaker(QPainter& painter, const QRectF& button, const ControllerBar::S
 }
 
 } // namespace
+
+double ControllerBar::heightOnScreen(double screenHeight) {
+    return std::round(height * screenScale(screenHeight));
+}
 
 QRectF ControllerBar::playButton(const QSizeF& size) {
     return QRectF(margin, 0, buttonWidth, size.height());

@@ -11,11 +11,12 @@ namespace platform {
 
 /// The controller bar: play or pause, a mute button with a volume slider, and a time slider. It lays itself out in a
 /// width, draws a state, and turns presses into commands; it keeps no state but which control is pressed. Coordinates:
-/// origin top left of the bar, y down, points.
+/// origin top left of the bar, y down, in points of a bar `height` high; on a high screen it is shown larger.
 class ControllerBar {
 public:
-    /// Its height, points.
     static constexpr double height = 16;
+    /// The height at which it is shown on a screen so high: whole points of the screen.
+    static double heightOnScreen(double screenHeight);
 
     struct State {
         bool playing = false;

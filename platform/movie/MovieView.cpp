@@ -103,7 +103,7 @@ void MovieView::showController(bool visible, bool adjustingSize) {
     if (adjustingSize) {
         // The bar hangs below the picture, which keeps its place.
         const Rect old = frame();
-        const double height = std::max(old.height() + (visible ? ControllerBar::height : -ControllerBar::height), 0.0);
+        const double height = std::max(old.height() + (visible ? controllerHeight() : -controllerHeight()), 0.0);
         setFrame(Rect(old.x(), old.maxY() - height, old.width(), height));
     }
     setNeedsDisplay();
@@ -134,10 +134,12 @@ void MovieView::draw(QPainter& painter, const Rect& dirty) {
     const Rect bar = controllerRect();
     if (!_controllerVisible || bar.isEmpty() || !dirty.intersects(bar))
         return;
-    _shownState = ControllerBar::shownState(controllerState(), bar.size());
+    _shownState = ControllerBar::shownState(controllerState(), barSize());
+    const double scale = controllerHeight() / ControllerBar::height;
     painter.save();
     painter.translate(0, bounds().height() - bar.height());
-    _bar.draw(painter, bar.size(), _shownState);
+    painter.scale(scale, scale);
+    _bar.draw(painter, barSize(), _shownState);
     painter.restore();
 }
 
@@ -160,16 +162,14 @@ bool MovieView::mouseDown(const MouseEvent& event) {
     if (!_controllerVisible || event.button != MouseButton::left || !bar.contains(point))
         return false;
     _tracking = true;
-    performController(_bar.press(QPointF(point.x(), bar.maxY() - point.y()), bar.size()));
+    performController(_bar.press(inBar(point), barSize()));
     return true;
 }
 
 bool MovieView::mouseDragged(const MouseEvent& event) {
     if (!_tracking)
         return false;
-    const QPointF point = convertFromWindow(event.locationInWindow);
-    const Rect bar = controllerRect();
-    performController(_bar.drag(QPointF(point.x(), bar.maxY() - point.y()), bar.size()));
+    performController(_bar.drag(inBar(convertFromWindow(event.locationInWindow)), barSize()));
     return true;
 }
 
@@ -197,7 +197,7 @@ void MovieView::playerStateChanged() {
     if (!_controllerVisible)
         return;
     const Rect bar = controllerRect();
-    const ControllerBar::State state = ControllerBar::shownState(controllerState(), bar.size());
+    const ControllerBar::State state = ControllerBar::shownState(controllerState(), barSize());
     if (state == _shownState)
         return;
     _shownState = state;
@@ -205,7 +205,20 @@ void MovieView::playerStateChanged() {
 }
 
 Rect MovieView::controllerRect() const {
-    return Rect(0, 0, bounds().width(), std::min(ControllerBar::height, bounds().height()));
+    return Rect(0, 0, bounds().width(), std::min(controllerHeight(), bounds().height()));
+}
+
+double MovieView::controllerHeight() const {
+    const Window* shownIn = window();
+    return ControllerBar::heightOnScreen(shownIn ? shownIn->frame().height() : 0);
+}
+
+QSizeF MovieView::barSize() const {
+    return controllerRect().size() * (ControllerBar::height / controllerHeight());
+}
+
+QPointF MovieView::inBar(QPointF point) const {
+    return QPointF(point.x(), controllerRect().maxY() - point.y()) * (ControllerBar::height / controllerHeight());
 }
 
 void MovieView::performController(const ControllerBar::Command& command) {

@@ -64,6 +64,10 @@ private:
     void playerFrameDue() override;
     void playerStateChanged() override;
     Rect controllerRect() const;
+    double controllerHeight() const;
+    /// The bar's own size, and a point of the view in its coordinates.
+    QSizeF barSize() const;
+    QPointF inBar(QPointF point) const;
     void performController(const ControllerBar::Command& command);
     ControllerBar::State controllerState() const;
 

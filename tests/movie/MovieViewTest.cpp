@@ -84,6 +84,28 @@ TEST(MovieView, a_frame_is_marked_for_drawing_and_painted_at_once_when_it_is_due
     }
 }
 
+TEST(MovieView, the_controller_bar_grows_with_its_screen_and_is_pressed_where_it_shows) {
+    ViewRig rig;
+    rig.window.setFrame(platform::Rect(0, 0, 3840, 2160));
+    rig.view.setFrame(rig.window.contentView().bounds());
+    EXPECT_EQ(rig.view.pictureRect(), platform::Rect(0, 32, 3840, 2128));
+    rig.view.showController(false, true);
+    EXPECT_EQ(rig.view.frame(), platform::Rect(0, 32, 3840, 2128));
+    rig.view.showController(true, true);
+    EXPECT_EQ(rig.view.frame(), platform::Rect(0, 0, 3840, 2160));
+    // The bar's own coordinates are half of what is shown.
+    const auto press = [&](QPointF point) {
+        platform::MouseEvent event;
+        event.button = platform::MouseButton::left;
+        event.locationInWindow = point;
+        return rig.view.mouseDown(event);
+    };
+    EXPECT_TRUE(press(2 * ControllerBar::timeSlider(QSizeF(1920, 16)).center()));
+    EXPECT_EQ(rig.player.time(), 18000);
+    EXPECT_FALSE(press(QPointF(100, 33)));
+    EXPECT_TRUE(press(QPointF(100, 31)));
+}
+
 TEST(MovieView, the_controller_bar_is_drawn_again_for_what_it_shows_only) {
     ViewRig rig;
     rig.view.setVolume(0.5F);

@@ -41,6 +41,17 @@ TEST(MovieSizing, a_code_gives_the_size) {
     }
 }
 
+TEST(MovieSizing, the_bar_takes_its_share_of_a_high_screen) {
+    MovieSizing::Geometry geometry{QSizeF(3840, 2160), QSizeF(3840, 2160), true, 0};
+    EXPECT_EQ(MovieSizing::controllerHeight(geometry), 32);
+    EXPECT_EQ(MovieSizing::sizeForMagnification(geometry, 0.5F), QSizeF(1920, 1080 + 32));
+    EXPECT_EQ(MovieSizing::sizeForFitScreen(geometry, movieSize::fitScreen).height(), 2160);
+    geometry.window = QSizeF(2560, 1440);
+    EXPECT_EQ(MovieSizing::controllerHeight(geometry), 21) << "whole points";
+    geometry.window = QSizeF(1280, 720);
+    EXPECT_EQ(MovieSizing::controllerHeight(geometry), 16);
+}
+
 TEST(MovieSizing, steps_are_a_tenth_in_single_precision_and_end_at_the_smallest) {
     const QSizeF vga(640, 480);
     const struct {
