@@ -21,7 +21,24 @@ double width(float points) {
 double OverlayPlacement::backgroundMargin(const Panel& panel) {
     if (!panel.backgroundOn)
         return 0;
-    return (panel.backgroundRounded ? width(panel.radius) * 0.5 : 0) + (panel.frameOn ? width(panel.frameWidth) : 0);
+    return panel.scale *
+           ((panel.backgroundRounded ? width(panel.radius) * 0.5 : 0) + (panel.frameOn ? width(panel.frameWidth) : 0));
+}
+
+QSizeF OverlayPlacement::largestContent(const QSizeF& parent, double padding, double margin, Edge edge) {
+    const double gap = std::max(0.0, usable(padding));
+    // The two in the corners leave a gap between them, too.
+    const double wide = edge == Edge::halved ? (parent.width() - 3 * gap) * 0.5 : parent.width() - 2 * gap;
+    const auto within = [&](double outer) { return std::max(1.0, outer - 2 * margin); };
+    return {within(wide), within(parent.height() - 2 * gap)};
+}
+
+bool OverlayPlacement::standInOneEdge(std::uint32_t alignment, std::uint32_t other) {
+    constexpr std::uint32_t bothCorners = 1 | 2;
+    const std::uint32_t horizontal = alignment & horizontalMask, otherHorizontal = other & horizontalMask;
+    return (alignment & referenceMask) == insideParent && (other & referenceMask) == insideParent &&
+           (alignment & verticalMask) == (other & verticalMask) && horizontal != otherHorizontal &&
+           (horizontal | otherHorizontal) == bothCorners && horizontal != 0 && otherHorizontal != 0;
 }
 
 double OverlayPlacement::horizontalOrigin(std::uint32_t alignment, const platform::Rect& parent, double width,

@@ -3,6 +3,7 @@
 
 #include "overlays/StyleTable.h"
 #include "platform/base/UserDefaults.h"
+#include "platform/window/ScreenScale.h"
 #include "settings/Tracing.h"
 
 QVChildOverlay::QVChildOverlay(const Environment& environment, platform::Window& parent, const QString& style)
@@ -12,6 +13,7 @@ QVChildOverlay::QVChildOverlay(const Environment& environment, platform::Window&
 
     // Straight into the panel: the content to lay out is made by the subclass, after this.
     const OverlayStyle values = styleValues();
+    _content.setScale(platform::screenScale(parent.frame().height()));
     _content.setBackgroundColor(backgroundColor());
     _content.setBackgroundOn(values.backgroundOn);
     _content.setBackgroundRounded(values.backgroundRounded);
@@ -32,7 +34,7 @@ QVChildOverlay::QVChildOverlay(const Environment& environment, platform::Window&
 
 void QVChildOverlay::setBackgroundOn(bool flag) {
     _content.setBackgroundOn(flag);
-    contentSizeChanged();
+    marginsChanged();
 }
 
 void QVChildOverlay::setBackgroundColor(const QColor& color) {
@@ -42,35 +44,41 @@ void QVChildOverlay::setBackgroundColor(const QColor& color) {
 
 void QVChildOverlay::setBackgroundRounded(bool flag) {
     _content.setBackgroundRounded(flag);
-    contentSizeChanged();
+    marginsChanged();
 }
 
 void QVChildOverlay::setRadius(float radius) {
     _content.setRadius(radius);
-    contentSizeChanged();
+    marginsChanged();
 }
 
 void QVChildOverlay::setFrameOn(bool flag) {
     _content.setFrameOn(flag);
-    contentSizeChanged();
+    marginsChanged();
 }
 
 void QVChildOverlay::setFrameWidth(float width) {
     _content.setFrameWidth(width);
-    contentSizeChanged();
+    marginsChanged();
 }
 
 void QVChildOverlay::setAlignmentStyle(std::uint32_t code) {
     if (code == _alignStyle)
         return;
     _alignStyle = code;
-    contentSizeChanged();
+    marginsChanged();
 }
 
 void QVChildOverlay::setPadding(float padding) {
     if (padding == _padding)
         return;
     _padding = padding;
+    marginsChanged();
+}
+
+void QVChildOverlay::parentSizeChanged() {
+    if (parentWindow())
+        _content.setScale(platform::screenScale(parentWindow()->frame().height()));
     contentSizeChanged();
 }
 
@@ -88,8 +96,7 @@ void QVChildOverlay::adoptNewOverlayFrame(const platform::Rect&) {}
 void QVChildOverlay::contentSizeChanged() {
     platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (parentWindow() && (_alignStyle & OverlayPlacement::referenceMask) == OverlayPlacement::insideParent) {
-        rect =
-            OverlayPlacement::placedInParent(rect, _alignStyle, parentWindow()->frame(), static_cast<double>(_padding));
+        rect = OverlayPlacement::placedInParent(rect, _alignStyle, parentWindow()->frame(), scaledPadding());
     }
     applyNewOverlayFrame(rect, "%@: Overlay Frame After Recalc: x:%d y:%d w:%d h:%d");
 }

@@ -6,7 +6,8 @@
 #include "settings/SettingsKeys.h"
 
 /// A styled overlay above a parent: it follows the parent's size, stands inside its frame where the style's alignment
-/// code puts it, and draws a panel behind its content. Main thread.
+/// code puts it, and draws a panel behind its content. Lengths that are set are points of the style, as large on a high
+/// screen as on a usual one; frames are points of the screen. Main thread.
 class QVChildOverlay : public QVStyledOverlay {
 public:
     /// Attached to the parent and ordered in, hidden. An overlay whose parent is gone keeps its place.
@@ -42,7 +43,7 @@ public:
     platform::Rect adjustForBackgroundStyle(const platform::Rect& rect) const;
     /// Computes and applies the frame.
     virtual void contentSizeChanged();
-    virtual void parentSizeChanged() { contentSizeChanged(); }
+    virtual void parentSizeChanged();
 
     void setFrame(const platform::Rect& frame) override;
 
@@ -55,6 +56,12 @@ protected:
     /// Applies a frame that was computed: adoptNewOverlayFrame(), the frame itself, redisplay. `message` is the line
     /// for the log, filled with the class and the whole points of the frame.
     void applyNewOverlayFrame(const platform::Rect& frame, const char* message);
+
+    /// Points of the screen for a point of the style.
+    double scale() const { return _content.scale(); }
+    double scaledPadding() const { return scale() * static_cast<double>(_padding); }
+    /// How much of the parent the panel leaves for the content changed. Lays out the content as it is.
+    virtual void marginsChanged() { contentSizeChanged(); }
 
     /// The panel, above which subclasses put their views.
     QVOverlayContentView& overlayContentView() { return _content; }

@@ -19,7 +19,7 @@ void QVFeedbackOverlay::setShared(std::function<QVFeedbackOverlay&()> overlay) {
 }
 
 QVFeedbackOverlay::QVFeedbackOverlay(const Environment& environment, platform::Window& parent)
-    : QVTextOverlay(environment, parent, kQVFeedbackOverlayStyle) {
+    : QVTextOverlay(environment, parent, kQVFeedbackOverlayStyle, LongLines::shortened) {
     orderFront();
 }
 

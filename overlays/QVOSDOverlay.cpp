@@ -24,7 +24,7 @@ void QVOSDOverlay::setShared(std::function<QVOSDOverlay&()> overlay) {
 }
 
 QVOSDOverlay::QVOSDOverlay(const Environment& environment, platform::Window& parent, const OSDTexts& texts)
-    : QVTextOverlay(environment, parent, kQVOSDOverlayStyle)
+    : QVTextOverlay(environment, parent, kQVOSDOverlayStyle, LongLines::shortened)
     , _texts(texts) {
     orderFront();
     platform::NotificationCenter& center = environment.notifications;

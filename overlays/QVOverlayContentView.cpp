@@ -26,10 +26,11 @@ void QVOverlayContentView::draw(QPainter& painter, const platform::Rect&) {
     if (_panel.backgroundOn) {
         const double most = std::min(bounds().width(), bounds().height());
         const double line = _panel.frameOn && _panel.frameWidth > 0.0F
-                                ? std::min(static_cast<double>(_panel.frameWidth), std::max(most, 0.0))
+                                ? std::min(static_cast<double>(_panel.frameWidth) * _panel.scale, std::max(most, 0.0))
                                 : 0.0;
         const QRectF rect = paintedBounds().adjusted(line * 0.5, line * 0.5, -line * 0.5, -line * 0.5);
-        const QPainterPath path = roundedRectangle(rect, _panel.backgroundRounded ? _panel.radius : 0.0F);
+        const float radius = _panel.backgroundRounded ? _panel.radius * static_cast<float>(_panel.scale) : 0.0F;
+        const QPainterPath path = roundedRectangle(rect, radius);
         painter.setRenderHint(QPainter::Antialiasing);
         if (_backgroundColor.isValid())
             painter.fillPath(path, _backgroundColor);

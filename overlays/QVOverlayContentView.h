@@ -29,6 +29,10 @@ public:
     float frameWidth() const { return _panel.frameWidth; }
     void setFrameWidth(float width) { assign(_panel.frameWidth, width); }
 
+    /// Points of the screen for a point of the radius and the width.
+    double scale() const { return _panel.scale; }
+    void setScale(double scale) { assign(_panel.scale, scale); }
+
     const OverlayPlacement::Panel& panel() const { return _panel; }
 
     void draw(QPainter& painter, const platform::Rect& dirty) override;

@@ -14,20 +14,25 @@ namespace {
 /// Space under the last line, as a share of the font's size.
 constexpr double spaceBelow = 0.125;
 
+/// Space at both sides of the lines, points of the style.
+constexpr double linePadding = 5;
+
 QString wholePoints(float size) {
     return QString::number(static_cast<double>(size), 'f', 0);
 }
 
 } // namespace
 
-QVTextOverlay::QVTextOverlay(const Environment& environment, platform::Window& parent, const QString& style)
-    : QVChildOverlay(environment, parent, style)
-    , _containerWidth(parent.frame().width()) {
+QVTextOverlay::QVTextOverlay(const Environment& environment, platform::Window& parent, const QString& style,
+                             LongLines longLines)
+    : QVChildOverlay(environment, parent, style) {
     overlayContentView().addSubview(_view);
     const OverlayStyle values = styleValues();
     _base_font_size = static_cast<float>(values.textFontSize);
     _min_font_size = std::min(smallestFontSize(), _base_font_size);
-    _view.setFont(platform::fontWithFamilyName(values.textFontName, _base_font_size));
+    _view.setLongLines(longLines);
+    _view.setLinePadding(linePadding * scale());
+    _view.setFont(platform::fontWithFamilyName(values.textFontName, _base_font_size * static_cast<float>(scale())));
     const QColor color = values.textColor.value_or(QColor());
     _view.setTextColor(color);
     setFrameColor(color);
@@ -84,22 +89,31 @@ void QVTextOverlay::setTextColor(const QColor& color) {
 }
 
 void QVTextOverlay::setShadowOn(bool flag) {
-    if (flag && !_view.shadow()) {
+    if (flag && !_shadow) {
         const OverlayStyle values = styleValues();
-        _view.setShadow(QVShadow{values.shadowOffset, values.shadowBlurRadius, values.shadowColor.value_or(QColor())});
+        _shadow = QVShadow{values.shadowOffset, values.shadowBlurRadius, values.shadowColor.value_or(QColor())};
     } else if (!flag) {
-        _view.setShadow(std::nullopt);
+        _shadow.reset();
     }
+    applyShadow();
     _view.setNeedsDisplay();
+}
+
+void QVTextOverlay::applyShadow() {
+    std::optional<QVShadow> drawn = _shadow;
+    if (drawn) {
+        drawn->offset *= scale();
+        drawn->blurRadius *= static_cast<float>(scale());
+    }
+    _view.setShadow(drawn);
 }
 
 template <class Change>
 void QVTextOverlay::changeShadow(Change change) {
-    if (!_view.shadow())
+    if (!_shadow)
         return;
-    QVShadow shadow = *_view.shadow();
-    change(shadow);
-    _view.setShadow(shadow);
+    change(*_shadow);
+    applyShadow();
 }
 
 void QVTextOverlay::setShadowOffset(const QSizeF& offset) {
@@ -115,17 +129,76 @@ void QVTextOverlay::setShadowColor(const QColor& color) {
 }
 
 void QVTextOverlay::recalculateFontSize() {
-    setTextFont(platform::convertedFont(_view.font(), _base_font_size));
+    setTextFont(platform::convertedFont(_view.font(), _base_font_size * static_cast<float>(scale())));
+}
+
+template <class Visit>
+void QVTextOverlay::visitSiblings(Visit visit) const {
+    if (!parentWindow())
+        return;
+    for (platform::Window* child : parentWindow()->childWindows()) {
+        auto* sibling = dynamic_cast<QVTextOverlay*>(child);
+        if (sibling && sibling != this)
+            visit(*sibling);
+    }
+}
+
+OverlayPlacement::Edge QVTextOverlay::edge() const {
+    bool halved = false;
+    visitSiblings([&](const QVTextOverlay& sibling) {
+        // One that fades out stands there until it has gone.
+        const bool seen = sibling.isVisible() || (sibling.isOrderedIn() && sibling.alphaValue() > 0);
+        halved = halved || (seen && OverlayPlacement::standInOneEdge(alignemntStyle(), sibling.alignemntStyle()));
+    });
+    return halved ? OverlayPlacement::Edge::halved : OverlayPlacement::Edge::whole;
+}
+
+QSizeF QVTextOverlay::container() const {
+    if (!parentWindow())
+        return {static_cast<double>(QVLargeNumberForText), static_cast<double>(QVLargeNumberForText)};
+    const double margin = OverlayPlacement::backgroundMargin(overlayContentView().panel());
+    return OverlayPlacement::largestContent(parentWindow()->frame().size(), scaledPadding(), margin, edge());
 }
 
 void QVTextOverlay::sizeToFit() {
-    const double height = parentWindow() ? parentWindow()->frame().height() : static_cast<double>(QVLargeNumberForText);
     const double below = spaceBelow * static_cast<double>(platform::pointSizeOf(_view.font()));
-    _view.setContainerSize(QSizeF(_containerWidth, height - below));
+    const QSizeF whole = container();
+    _view.setContainerSize(QSizeF(whole.width(), whole.height() - below));
     _view.sizeToFit();
     const platform::Rect fitted = _view.frame();
     _view.setFrame(platform::Rect(fitted.origin(), QSizeF(fitted.width(), fitted.height() + below)));
     contentSizeChanged();
+}
+
+void QVTextOverlay::parentSizeChanged() {
+    QVChildOverlay::parentSizeChanged();
+    _view.setLinePadding(linePadding * scale());
+    applyShadow();
+    recalculateFontSize();
+}
+
+void QVTextOverlay::marginsChanged() {
+    sizeToFit();
+    tellSiblings();
+}
+
+void QVTextOverlay::show() {
+    QVChildOverlay::show();
+    tellSiblings();
+}
+
+void QVTextOverlay::postFadeOut() {
+    QVChildOverlay::postFadeOut();
+    tellSiblings();
+}
+
+void QVTextOverlay::tellSiblings() {
+    visitSiblings([](QVTextOverlay& sibling) { sibling.siblingChanged(); });
+}
+
+void QVTextOverlay::siblingChanged() {
+    if (container().width() != _view.containerSize().width())
+        sizeToFit();
 }
 
 void QVTextOverlay::adoptNewOverlayFrame(const platform::Rect& frame) {

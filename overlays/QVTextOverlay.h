@@ -15,20 +15,23 @@ using QVShadow = platform::Shadow;
 /// The practically unbounded extent of a text's container, points.
 inline constexpr float QVLargeNumberForText = 1e7F;
 
-/// A child overlay as large as its one text, which is centred and wraps at the parent's width. Main thread.
+/// A child overlay as large as its one text, which is centred. Lines longer than the parent leaves them wrap, or are
+/// shortened in the middle. Main thread.
 class QVTextOverlay : public QVChildOverlay {
 public:
+    using LongLines = platform::LongLines;
     QVTextOverlay(const Environment& environment, platform::Window& parent,
-                  const QString& style = kQVDefaultOverlayStyle);
+                  const QString& style = kQVDefaultOverlayStyle, LongLines longLines = LongLines::wrapped);
 
     const QString& text() const { return _view.text(); }
     /// A null text is the empty one. The text that is shown already costs nothing.
     void setText(const QString& text);
 
+    /// As the text is drawn: its size is in points of the screen.
     QFont textFont() const { return _view.font(); }
     void setTextFont(const QFont& font);
     void setTextFontName(const QString& family);
-    /// Points. The smallest size never lies above the size: setting one moves the other where needed.
+    /// Points of the style. The smallest size never lies above the size: setting one moves the other where needed.
     float textFontSize() const { return _base_font_size; }
     void setTextFontSize(float size);
     float textFontSizeMin() const { return _min_font_size; }
@@ -43,13 +46,15 @@ public:
     void setShadowOffset(const QSizeF& offset);
     void setShadowBlurRadius(float radius);
     void setShadowColor(const QColor& color);
-    const std::optional<QVShadow>& shadow() const { return _view.shadow(); }
+    const std::optional<QVShadow>& shadow() const { return _shadow; }
 
     /// Gives the text the size that it should have now.
     virtual void recalculateFontSize();
     /// Fits the view to its text and the window to the view.
     void sizeToFit();
     QSizeF contentSize() const override { return _view.bounds().size(); }
+    void parentSizeChanged() override;
+    void show() override;
 
     bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
 
@@ -58,15 +63,26 @@ protected:
     bool takeStyle(const QString& key, const OverlayStyle& style) override;
     void adoptNewOverlayFrame(const platform::Rect& frame) override;
 
+    void postFadeOut() override;
+    void marginsChanged() override;
+
     const QVTextView& textView() const { return _view; }
 
 private:
     float smallestFontSize() const;
     template <class Change>
     void changeShadow(Change change);
+    void applyShadow();
+    QSizeF container() const;
+    OverlayPlacement::Edge edge() const;
+    template <class Visit>
+    void visitSiblings(Visit visit) const;
+    /// A sibling came, went or moved: of two in the corners of one edge, each keeps to its half.
+    void siblingChanged();
+    void tellSiblings();
 
     QVTextView _view;
     float _base_font_size = 0;
     float _min_font_size = 0;
-    double _containerWidth;
+    std::optional<QVShadow> _shadow; // as it was set
 };

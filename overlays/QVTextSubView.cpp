@@ -55,7 +55,9 @@ void QVTextSubView::postFadeOut() {
 void QVTextSubView::recalculateFontSize() {
     const double width = _picture.pictureFrame().width();
     const double fit = _picture.sizeForFitScreen(fitScreenSize).width();
-    const auto [size, ratio] = SubtitlePlacement::textSize(width, fit, textFontSizeMin(), textFontSize());
+    const auto scale = static_cast<float>(this->scale());
+    const auto [size, ratio] =
+        SubtitlePlacement::textSize(width, fit, textFontSizeMin() * scale, textFontSize() * scale);
     setTextFont(platform::convertedFont(textFont(), size));
     trace("%@: Changed current subtitle size to: %.2g, (min: %.2g, max: %.2g ratio: %.2g)\n", logName(),
           twoDigits(static_cast<double>(size)), twoDigits(static_cast<double>(textFontSizeMin())),
@@ -65,8 +67,7 @@ void QVTextSubView::recalculateFontSize() {
 void QVTextSubView::contentSizeChanged() {
     platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (parentWindow()) {
-        SubtitlePlacement::Ground ground{
-            parentWindow()->frame(), static_cast<double>(padding()), _picture.pictureFrame(), {}};
+        SubtitlePlacement::Ground ground{parentWindow()->frame(), scaledPadding(), _picture.pictureFrame(), {}};
         if (_picture.isControllerBarVisible())
             ground.bar = _picture.getControllerHeight();
         rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground);

@@ -22,23 +22,25 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
 
 platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground) {
     const double lowest = ground.parent.y();
-    const double pictureBottom = lowest + ground.picture.y();
+    const double viewBottom = lowest + ground.picture.y();
+    const double edge = std::max(lowest, viewBottom + ground.bar.value_or(0));
     double y = lowest;
     switch (alignment & OverlayPlacement::verticalMask) {
     case 0x00:
-        y = pictureBottom - rect.height();
+        y = viewBottom - rect.height();
         break;
     case 0x10:
-        y = pictureBottom + ground.bar.value_or(0);
+        y = edge;
         break;
     case 0x20:
-        y = OverlayPlacement::verticalOrigin(alignment, ground.parent, rect.height(), ground.padding);
+        y = OverlayPlacement::verticalOrigin(alignment, platform::Rect(0, edge, 0, 0), rect.height(), ground.padding);
         break;
     default:
         break;
     }
     if (y < lowest)
-        y = ground.bar ? std::max(lowest, pictureBottom + *ground.bar) : lowest;
+        y = edge;
+    y = std::max(lowest, std::min(y, ground.parent.maxY() - rect.height()));
     const double x = OverlayPlacement::horizontalOrigin(alignment, ground.parent, rect.width(), ground.padding);
     return {x, y, rect.width(), rect.height()};
 }

@@ -28,8 +28,9 @@ struct Ground {
 };
 
 /// The rectangle moved to where an alignment code puts it. The horizontal field is that of every overlay; the vertical
-/// one knows below the picture (0x00), on its bottom edge (0x10) and above the parent's bottom edge (0x20). Nothing
-/// stands below the parent's bottom edge; what would comes to stand on the bar, if that shows.
+/// one knows below the picture (0x00), on its bottom edge (0x10) and at the bottom (0x20), which is the padding above
+/// that edge. The edge of the picture is that of the part that the parent shows, above the bar. What has no place below
+/// the picture stands on its edge; nothing stands above the parent's top edge.
 platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground);
 
 /// Width by height of the frame that the bitmaps of a movie stand on: that of a wide or of a narrow television,

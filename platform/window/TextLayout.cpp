@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/TextLayout.h"
 
+#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
 #include <QTextOption>
@@ -67,8 +68,9 @@ QString displayableText(const QString& text) {
     return result;
 }
 
-TextLayout::TextLayout(const QString& text, const QFont& font, const QSizeF& container)
+TextLayout::TextLayout(const QString& text, const QFont& font, const QSizeF& container, LongLines longLines)
     : _container(side(container.width()), side(container.height()))
+    , _longLines(longLines)
     , _size(0, 0) {
     const QString displayed = displayableText(text);
     qsizetype start = 0;
@@ -83,10 +85,12 @@ TextLayout::TextLayout(const QString& text, const QFont& font, const QSizeF& con
 }
 
 void TextLayout::addParagraph(const QString& text, const QFont& font) {
-    Paragraph paragraph{std::make_unique<QTextLayout>(text, font)};
+    const bool shortens = _longLines == LongLines::shortened;
+    const QString shown = shortens ? QFontMetricsF(font).elidedText(text, Qt::ElideMiddle, _container.width()) : text;
+    Paragraph paragraph{std::make_unique<QTextLayout>(shown, font)};
     QTextLayout& layout = *paragraph.layout;
     QTextOption option(Qt::AlignHCenter);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(shortens ? QTextOption::NoWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setUseDesignMetrics(true);
     layout.setTextOption(option);
     layout.setCacheEnabled(true);

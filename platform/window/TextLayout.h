@@ -17,12 +17,16 @@ namespace platform {
 /// first few thousand characters are left out, and half a character becomes the sign for an unknown one.
 QString displayableText(const QString& text);
 
-/// A text in a font, laid out in centred lines. Lines break between words where they can, and anywhere else where they
-/// must; each paragraph runs in its own direction. Main thread.
+/// What becomes of a line that is longer than its container is wide: it breaks between words where it can, and anywhere
+/// else where it must, or loses its middle to an ellipsis.
+enum class LongLines { wrapped, shortened };
+
+/// A text in a font, laid out in centred lines; each paragraph runs in its own direction. Main thread.
 class TextLayout {
 public:
     /// Lines that end below the container's height are left out, but for the first.
-    TextLayout(const QString& text, const QFont& font, const QSizeF& container);
+    TextLayout(const QString& text, const QFont& font, const QSizeF& container,
+               LongLines longLines = LongLines::wrapped);
 
     /// What the lines cover, points: at least one line's height.
     QSizeF size() const { return _size; }
@@ -33,6 +37,7 @@ private:
     void addParagraph(const QString& text, const QFont& font);
 
     QSizeF _container;
+    LongLines _longLines;
     QSizeF _size;
     struct Paragraph {
         std::unique_ptr<QTextLayout> layout;

@@ -10,8 +10,6 @@ namespace platform {
 
 namespace {
 
-/// Space at both sides of the lines, points: a shadow fades out in it.
-constexpr double linePadding = 5;
 constexpr double maximumRatio = 8;
 constexpr double maximumPictureSide = 16384; // pixels a side
 
@@ -49,6 +47,20 @@ void TextView::setShadow(const std::optional<Shadow>& shadow) {
     paintingChanged();
 }
 
+void TextView::setLongLines(LongLines longLines) {
+    if (longLines == _longLines)
+        return;
+    _longLines = longLines;
+    layoutChanged();
+}
+
+void TextView::setLinePadding(double points) {
+    if (points == _linePadding)
+        return;
+    _linePadding = points;
+    layoutChanged();
+}
+
 void TextView::setContainerSize(const QSizeF& size) {
     if (size == _container)
         return;
@@ -68,15 +80,15 @@ void TextView::paintingChanged() {
 
 const TextLayout& TextView::layout() {
     if (!_layout) {
-        const QSizeF lines(_container.width() - 2 * linePadding, _container.height());
-        _layout = std::make_unique<TextLayout>(_text, _font, lines);
+        const QSizeF lines(_container.width() - 2 * _linePadding, _container.height());
+        _layout = std::make_unique<TextLayout>(_text, _font, lines, _longLines);
     }
     return *_layout;
 }
 
 void TextView::sizeToFit() {
     const QSizeF lines = layout().size();
-    setFrame(Rect(frame().origin(), QSizeF(lines.width() + 2 * linePadding, lines.height())));
+    setFrame(Rect(frame().origin(), QSizeF(lines.width() + 2 * _linePadding, lines.height())));
 }
 
 QImage TextView::painted(double pixelRatio) {

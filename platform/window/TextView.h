@@ -29,7 +29,12 @@ public:
     const std::optional<Shadow>& shadow() const { return _shadow; }
     void setShadow(const std::optional<Shadow>& shadow);
 
-    /// Lines wrap at the width, and those below the height are left out; points.
+    LongLines longLines() const { return _longLines; }
+    void setLongLines(LongLines longLines);
+    /// Space at both sides of the lines, points.
+    void setLinePadding(double points);
+
+    /// Lines end at the width, and those below the height are left out; points.
     QSizeF containerSize() const { return _container; }
     void setContainerSize(const QSizeF& size);
 
@@ -49,6 +54,8 @@ private:
     QColor _textColor;
     std::optional<Shadow> _shadow;
     QSizeF _container{1e7, 1e7};
+    LongLines _longLines = LongLines::wrapped;
+    double _linePadding = 5;
     std::unique_ptr<TextLayout> _layout; // null while it has to be made
     QImage _picture;                     // of the text and its shadow; null while it has to be made
     double _pictureRatio = 0;

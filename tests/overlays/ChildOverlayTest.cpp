@@ -52,6 +52,32 @@ TEST(QVChildOverlay, stands_inside_its_parent_and_follows_its_size) {
     EXPECT_EQ(box.frame(), platform::Rect(-7, -7, 114, 34)) << "placed by others";
 }
 
+TEST(OverlayPlacement, what_stands_in_both_corners_keeps_to_its_half) {
+    using OverlayPlacement::Edge, OverlayPlacement::standInOneEdge, OverlayPlacement::largestContent;
+    EXPECT_TRUE(standInOneEdge(0x111, 0x112));
+    EXPECT_TRUE(standInOneEdge(0x122, 0x121));
+    for (const auto& [one, other] : {std::pair{0x111U, 0x111U}, {0x111U, 0x122U}, {0x111U, 0x110U}, {0x011U, 0x112U}})
+        EXPECT_FALSE(standInOneEdge(one, other)) << std::hex << one << ' ' << other;
+    const QSizeF parent(1000, 800);
+    EXPECT_EQ(largestContent(parent, 24, 8, Edge::whole), QSizeF(936, 736));
+    EXPECT_EQ(largestContent(parent, 24, 8, Edge::halved), QSizeF(448, 736)) << "with a padding between them";
+    EXPECT_EQ(largestContent(parent, 1e9, 8, Edge::whole), QSizeF(1, 1));
+}
+
+TEST(QVChildOverlay, is_as_large_a_share_of_every_screen_from_1080_points_on) {
+    OverlayRig rig;
+    Box box(rig.settings.environment, rig.window);
+    const struct {
+        double height, padding, margin;
+    } cases[] = {{480, 20, 7}, {1080, 20, 7}, {1620, 30, 10.5}, {2160, 40, 14}};
+    for (const auto& c : cases) {
+        rig.window.setFrame(platform::Rect(0, 0, 4000, c.height));
+        EXPECT_EQ(box.frame(), platform::Rect(c.padding, c.padding, 100 + 2 * c.margin, 20 + 2 * c.margin)) << c.height;
+    }
+    EXPECT_EQ(box.padding(), 20) << "as it was set";
+    EXPECT_EQ(Box(rig.settings.environment, rig.window).frame(), box.frame());
+}
+
 TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     OverlayRig rig;
     Box box(rig.settings.environment, rig.window);

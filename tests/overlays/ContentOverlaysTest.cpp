@@ -37,10 +37,38 @@ TEST(QVTextOverlay, is_as_large_as_its_text_and_stands_in_its_place) {
     EXPECT_EQ(overlay.textView().frame().origin(), QPointF(7, 7));
 
     overlay.setText(QString(300, u'x'));
-    EXPECT_LE(overlay.contentSize().width(), 1024);
+    EXPECT_LE(overlay.frame().maxX(), 1024 - 20);
     EXPECT_GT(overlay.contentSize().height(), 2 * content.height());
+    rig.window.setFrame(platform::Rect(0, 0, 640, 480));
+    EXPECT_LE(overlay.frame().maxX(), 640 - 20) << "on a narrower screen";
+    EXPECT_GT(overlay.frame().maxX(), 640 - 60) << "which it fills";
+    overlay.setPadding(100);
+    EXPECT_LE(overlay.frame().maxX(), 540);
     overlay.setText(QString("line\n").repeated(500));
-    EXPECT_LE(overlay.contentSize().height(), 768);
+    EXPECT_LE(overlay.frame().maxY(), 480 - 100);
+}
+
+TEST(QVTextOverlay, letters_and_shadow_grow_with_a_screen_from_1080_points_on) {
+    OverlayRig rig;
+    TextOverlay overlay(rig.settings.environment, rig.window);
+    overlay.setTextFontSize(20);
+    overlay.setShadowOn(true);
+    overlay.setShadowOffset({3, -2});
+    overlay.setShadowBlurRadius(4);
+    overlay.setText("Some words");
+    const QSizeF usual = overlay.contentSize();
+    for (const auto& [height, scale] : {std::pair{2160, 2}, {720, 1}, {3240, 3}}) {
+        rig.window.setFrame(platform::Rect(0, 0, 4000, height));
+        EXPECT_EQ(platform::pointSizeOf(overlay.textFont()), 20 * scale) << height;
+        EXPECT_EQ(overlay.textView().shadow()->offset, QSizeF(3, -2) * scale) << height;
+        EXPECT_EQ(overlay.textView().shadow()->blurRadius, 4 * scale) << height;
+        EXPECT_NEAR(overlay.contentSize().width(), usual.width() * scale, 2 * scale) << height;
+        EXPECT_NEAR(overlay.contentSize().height(), usual.height() * scale, 2 * scale) << height;
+    }
+    EXPECT_EQ(overlay.textFontSize(), 20) << "as it was set";
+    EXPECT_EQ(overlay.shadow()->offset, QSizeF(3, -2));
+    overlay.setTextFontSize(24);
+    EXPECT_EQ(platform::pointSizeOf(overlay.textFont()), 72);
 }
 
 TEST(QVTextOverlay, size_and_smallest_size_push_each_other) {

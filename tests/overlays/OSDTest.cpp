@@ -17,7 +17,8 @@ public:
     std::int32_t time = 61;
     std::int32_t timeInSeconds() const override { return ++asked, time; }
     std::int32_t durationInSeconds() const override { return 7325; }
-    QString currentMovieInfo() const override { return ++asked, "A film (1/2)"; }
+    QString name = "A film";
+    QString currentMovieInfo() const override { return ++asked, name + " (1/2)"; }
     QString currentSubtitlesInfo() const override { return ++asked, "English"; }
     QString loopingInfo() const override { return ++asked, "Looping"; }
     QString volumeInfo() const override { return ++asked, "Volume: 50%"; }
@@ -101,6 +102,33 @@ TEST_F(OSD, a_time_that_reads_the_same_draws_nothing_anew) {
     rig.settings.notifications.post(QVMovieInterestingTimeNotification{});
     EXPECT_EQ(osd.text(), "Time: 0:01:02/2:02:05");
     EXPECT_GT(osd.contentRevision(), revision);
+}
+
+TEST_F(OSD, long_names_stay_on_the_screen_and_beside_each_other) {
+    QVFeedbackOverlay feedback(rig.settings.environment, rig.window);
+    const double line = osd.frame().height();
+    texts.name = QString("a film of a very long name ").repeated(40);
+    osd.setDisplayType(2);
+    rig.settings.runLoop.advance(1);
+    EXPECT_EQ(osd.frame().height(), line) << "shortened, not wrapped";
+    EXPECT_GT(osd.frame().width(), 800) << "the whole edge is its own";
+    EXPECT_LE(osd.frame().maxX(), 1024 - 20);
+    feedback.postFeedback(texts.name);
+    EXPECT_EQ(feedback.frame().height(), line);
+    EXPECT_GE(feedback.frame().x() - osd.frame().maxX(), 20);
+    EXPECT_GE(osd.frame().x(), 20);
+    EXPECT_LE(feedback.frame().maxX(), 1024 - 20);
+    osd.setDisplayType(0);
+    rig.settings.runLoop.advance(1);
+    EXPECT_GT(feedback.frame().width(), 800);
+    osd.setDisplayType(2);
+    rig.settings.runLoop.advance(5);
+    EXPECT_GT(osd.frame().width(), 800) << "when the message has gone";
+    osd.setAlignmentStyle(0x121);
+    feedback.postFeedback("another");
+    EXPECT_GT(osd.frame().width(), 800) << "not at one edge";
+    osd.setAlignmentStyle(0x111);
+    EXPECT_LT(osd.frame().width(), 512);
 }
 
 TEST(ClockText, hours_are_neither_padded_nor_limited) {

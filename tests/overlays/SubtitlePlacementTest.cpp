@@ -7,7 +7,8 @@ using namespace SubtitlePlacement;
 
 TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
     const platform::Rect parent(100, 50, 1000, 800);
-    const platform::Rect small(200, 150, 600, 500), filling(0, 0, 1000, 800), beyond(-500, -400, 2000, 1600);
+    const platform::Rect small(200, 150, 600, 500), filling(0, 0, 1000, 800), beyond(-500, -400, 2000, 1600),
+        banded(0, 30, 1000, 740), none;
     const struct {
         const char* name;
         std::uint32_t alignment;
@@ -20,16 +21,26 @@ TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
         {"below a picture that reaches down", 0x100, filling, {}, 50},
         {"below a picture that reaches down, with the bar", 0x100, filling, 16, 66},
         {"below a picture beyond the screen, with its bar there", 0x100, beyond, 16, 50},
+        {"below a picture with a band that is too low", 0x100, banded, {}, 80},
+        {"below such a picture, with the bar", 0x100, banded, 16, 96},
         {"on the picture", 0x110, small, {}, 200},
         {"on the picture, above the bar", 0x110, small, 16, 216},
         {"on a picture beyond the screen", 0x110, beyond, {}, 50},
-        {"at the bottom", 0x120, small, 16, 74},
+        {"at the bottom", 0x120, filling, {}, 74},
+        {"at the bottom, above the bar", 0x120, filling, 16, 90},
+        {"at the bottom of a small picture", 0x120, small, {}, 224},
+        {"at the bottom of a picture between bands", 0x120, banded, {}, 104},
+        {"at the bottom of a picture between bands, above the bar", 0x120, banded, 16, 120},
+        {"at the bottom of a picture beyond the screen, with its bar there", 0x120, beyond, 16, 74},
+        {"at the bottom of no picture", 0x120, none, {}, 74},
         {"unknown", 0x130, small, 16, 50},
     };
     for (const auto& c : cases)
         EXPECT_EQ(placed(platform::Rect(-3, -3, 400, 40), c.alignment, {parent, 24, c.picture, c.bar}),
                   platform::Rect(400, c.y, 400, 40))
             << c.name;
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 790), 0x120, {parent, 24, small, {}}).y(), 60) << "all lines are seen";
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 900), 0x120, {parent, 24, small, {}}).y(), 50);
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x121, {parent, 24, small, {}}).x(), 124);
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
 }

@@ -152,6 +152,35 @@ TEST(Shadow, a_blur_keeps_its_weight_and_its_middle) {
     }
 }
 
+TEST(TextLayout, a_long_line_may_lose_its_middle_instead_of_breaking) {
+    const auto shortened = [](const QString& text, double width) {
+        return TextLayout(text, font(), QSizeF(width, 1e7), LongLines::shortened).size();
+    };
+    const QSizeF line = sizeOf("two words");
+    EXPECT_EQ(shortened("two words", line.width()), line);
+    for (const QString& text : {QString(3000, u'x'), QString("two words ").repeated(50)}) {
+        EXPECT_EQ(shortened(text, 300).height(), line.height());
+        EXPECT_LE(shortened(text, 300).width(), 300);
+        EXPECT_GT(shortened(text, 300).width(), 250);
+    }
+    EXPECT_EQ(shortened("one\n" + QString(300, u'x'), 300).height(), 2 * line.height()) << "each line by itself";
+    // Both ends are kept: what is drawn begins and ends as the text does.
+    TextView view;
+    view.setFont(font());
+    view.setTextColor(Qt::white);
+    view.setLongLines(LongLines::shortened);
+    view.setContainerSize(QSizeF(300, 1e7));
+    const auto ends = [&](const QString& text) {
+        view.setText(text);
+        view.sizeToFit();
+        const QImage image = drawn(view);
+        const QRect ink = inkOf(image);
+        return std::pair(image.copy(QRect(ink.topLeft(), QSize(8, ink.height()))),
+                         image.copy(QRect(ink.right() - 7, ink.top(), 8, ink.height())));
+    };
+    EXPECT_EQ(ends("l" + QString(300, u'x') + "l"), ends("l" + QString(20, u'x') + "l"));
+}
+
 TEST(TextLayout, more_lines_than_fit_are_left_out) {
     QString lines;
     for (int i = 0; i < 500; ++i)
