@@ -106,6 +106,12 @@ void QVTextOverlay::applyShadow() {
         drawn->blurRadius *= static_cast<float>(scale());
     }
     _view.setShadow(drawn);
+    fitOverhang();
+}
+
+void QVTextOverlay::fitOverhang() {
+    const double margin = OverlayPlacement::backgroundMargin(overlayContentView().panel());
+    setOverhang(std::max(0.0, -margin - _view.drawnRect().x()));
 }
 
 template <class Change>
@@ -206,6 +212,7 @@ void QVTextOverlay::adoptNewOverlayFrame(const platform::Rect& frame) {
     _view.setFrame(
         platform::Rect(QPointF((frame.width() - view.width()) * 0.5, (frame.height() - view.height()) * 0.5), view));
     _view.setNeedsDisplay();
+    fitOverhang();
 }
 
 bool QVTextOverlay::takeStyle(const QString& key, const OverlayStyle& style) {

@@ -73,6 +73,8 @@ private:
     template <class Change>
     void changeShadow(Change change);
     void applyShadow();
+    /// The shadow falls beyond the panel where it is wider than its margin.
+    void fitOverhang();
     QSizeF container() const;
     OverlayPlacement::Edge edge() const;
     template <class Visit>

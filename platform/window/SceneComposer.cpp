@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace platform {
@@ -133,8 +134,10 @@ void SceneComposer::updateChildren(double pixelRatio) {
     for (const Window* window : _root.childWindows()) {
         if (!window->isOrderedIn() || window->alphaValue() <= 0)
             continue;
+        const int beyond = overhangOf(*window, pixelRatio);
         const QRect whole = sceneGeometry::toPixels(window->frame().translated(-_root.frame().origin()),
-                                                    _root.frame().size(), pixelRatio);
+                                                    _root.frame().size(), pixelRatio)
+                                .adjusted(-beyond, -beyond, beyond, beyond);
         // What lies outside the root is never seen: no picture is made of it, however large a child is.
         const QRect place =
             whole.intersected(sceneGeometry::toPixels(_root.contentView().bounds(), _root.frame().size(), pixelRatio));
@@ -163,6 +166,10 @@ void SceneComposer::updateChildren(double pixelRatio) {
     _children.resize(count);
 }
 
+int SceneComposer::overhangOf(const Window& window, double pixelRatio) {
+    return static_cast<int>(std::ceil(window.overhang() * pixelRatio));
+}
+
 void SceneComposer::drawChild(Child& child, double pixelRatio) {
     child.revision = child.window->contentRevision();
     child.pixelRatio = pixelRatio;
@@ -171,7 +178,8 @@ void SceneComposer::drawChild(Child& child, double pixelRatio) {
     child.picture.fill(Qt::transparent);
     QPainter painter(&child.picture);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
-    const QPoint outside = child.place.topLeft() - child.origin;
+    const int beyond = overhangOf(*child.window, pixelRatio);
+    const QPoint outside = child.place.topLeft() - child.origin - QPoint(beyond, beyond);
     painter.translate(-outside);
     auto& window = const_cast<Window&>(*child.window);
     drawViews(painter, window, window.contentView(), QRegion(child.picture.rect().translated(outside)), pixelRatio);

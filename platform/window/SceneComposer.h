@@ -45,7 +45,7 @@ private:
         double pixelRatio = 0;
         QImage picture;
         QRect place;   // pixels of the root that the picture covers: the child's within the root
-        QPoint origin; // where the child's top left corner stands
+        QPoint origin; // where the child's top left corner stands, with what it draws beyond its frame
     };
 
     void visitVideoLayers(const View& view, double pixelRatio,
@@ -54,6 +54,7 @@ private:
     bool anyViewDraws(const View& view, const QRegion& dirty, double pixelRatio) const;
     void drawViews(QPainter& painter, const Window& window, const View& view, const QRegion& dirty, double pixelRatio);
     void updateChildren(double pixelRatio);
+    static int overhangOf(const Window& window, double pixelRatio);
     void drawChild(Child& child, double pixelRatio);
 
     Window& _root;

@@ -142,6 +142,17 @@ unsigned times(unsigned a, unsigned b) {
 
 } // namespace
 
+double shadowReach(const Shadow& shadow) {
+    constexpr double farthestReach = 256; // points: beyond it, a shadow is cut
+    if (!shadow.color.isValid() || shadow.color.alpha() == 0)
+        return 0;
+    // The boxes of the blur together reach three times its deviation, which is half the radius.
+    const double blurred = 1.5 * std::max(0.0, pixels(static_cast<double>(shadow.blurRadius), 1, maximumBlur));
+    const double moved = std::max(std::abs(pixels(shadow.offset.width(), 1, farthestCoordinate)),
+                                  std::abs(pixels(shadow.offset.height(), 1, farthestCoordinate)));
+    return std::min(std::ceil(blurred + moved), farthestReach);
+}
+
 void castShadow(QImage& picture, const Shadow& shadow, double pixelRatio) {
     if (picture.isNull() || !shadow.color.isValid() || shadow.color.alpha() == 0)
         return;

@@ -17,6 +17,9 @@ struct Shadow {
     bool operator==(const Shadow&) const = default;
 };
 
+/// How far a shadow falls beyond what casts it, points, at any side; 0 for one that cannot be seen.
+double shadowReach(const Shadow& shadow);
+
 /// Puts the shadow of a picture (ARGB32, premultiplied) under it. `pixelRatio` is the picture's pixels per point. What
 /// would fall outside the picture is cut off.
 void castShadow(QImage& picture, const Shadow& shadow, double pixelRatio);

@@ -44,6 +44,7 @@ void TextView::setShadow(const std::optional<Shadow>& shadow) {
     if (shadow == _shadow)
         return;
     _shadow = shadow;
+    _shadowReach = shadow ? shadowReach(*shadow) : 0;
     paintingChanged();
 }
 
@@ -91,14 +92,24 @@ void TextView::sizeToFit() {
     setFrame(Rect(frame().origin(), QSizeF(lines.width() + 2 * _linePadding, lines.height())));
 }
 
+Rect TextView::drawnRect() const {
+    return bounds().grown(_shadowReach);
+}
+
+int TextView::shadowPixels(double pixelRatio) const {
+    return static_cast<int>(std::ceil(_shadowReach * pixelRatio));
+}
+
 QImage TextView::painted(double pixelRatio) {
-    QImage picture(pictureSide(bounds().width(), pixelRatio), pictureSide(bounds().height(), pixelRatio),
-                   QImage::Format_ARGB32_Premultiplied);
+    const int margin = shadowPixels(pixelRatio);
+    QImage picture(pictureSide(bounds().width(), pixelRatio) + 2 * margin,
+                   pictureSide(bounds().height(), pixelRatio) + 2 * margin, QImage::Format_ARGB32_Premultiplied);
     if (picture.isNull())
         return picture;
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.translate(margin, margin);
     painter.scale(pixelRatio, pixelRatio);
     painter.setPen(_textColor.isValid() ? _textColor : QColor(Qt::black));
     layout().draw(painter, bounds().width());
@@ -113,8 +124,10 @@ void TextView::draw(QPainter& painter, const Rect&) {
     const double ratio = toDevice.m11();
     if (!(ratio > 0) || ratio > maximumRatio || !toDevice.isInvertible() || _text.isEmpty())
         return;
-    if (_picture.isNull() || _pictureRatio != ratio || _picture.width() != pictureSide(bounds().width(), ratio) ||
-        _picture.height() != pictureSide(bounds().height(), ratio)) {
+    const int margin = shadowPixels(ratio);
+    if (_picture.isNull() || _pictureRatio != ratio ||
+        _picture.width() != pictureSide(bounds().width(), ratio) + 2 * margin ||
+        _picture.height() != pictureSide(bounds().height(), ratio) + 2 * margin) {
         _picture = painted(ratio);
         _pictureRatio = ratio;
     }
@@ -123,7 +136,7 @@ void TextView::draw(QPainter& painter, const Rect&) {
     painter.save();
     painter.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted() *
                               painter.worldTransform());
-    painter.drawImage(0, 0, _picture);
+    painter.drawImage(-margin, -margin, _picture);
     painter.restore();
 }
 

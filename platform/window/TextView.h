@@ -42,17 +42,21 @@ public:
     void sizeToFit();
 
     void draw(QPainter& painter, const Rect& dirty) override;
+    /// With the shadow, which may fall beyond the bounds.
+    Rect drawnRect() const override;
 
 private:
     const TextLayout& layout();
     void layoutChanged();
     void paintingChanged();
+    int shadowPixels(double pixelRatio) const;
     QImage painted(double pixelRatio);
 
     QString _text;
     QFont _font;
     QColor _textColor;
     std::optional<Shadow> _shadow;
+    double _shadowReach = 0;
     QSizeF _container{1e7, 1e7};
     LongLines _longLines = LongLines::wrapped;
     double _linePadding = 5;

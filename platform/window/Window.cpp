@@ -58,8 +58,8 @@ void Window::setFrame(const Rect& frame) {
     const Rect old = std::exchange(_frame, frame);
     const bool resized = old.size() != frame.size();
     if (_parent && _orderedIn && _alpha > 0) {
-        _parent->compose(old.translated(-_parent->_frame.origin()));
-        _parent->compose(frame.translated(-_parent->_frame.origin()));
+        _parent->compose(old.grown(_overhang).translated(-_parent->_frame.origin()));
+        _parent->compose(frame.grown(_overhang).translated(-_parent->_frame.origin()));
     }
     // Children keep their place above their parent.
     const QPointF moved = frame.origin() - old.origin();
@@ -239,7 +239,15 @@ void Window::compose(const Rect& rect) {
     if (_host)
         _host->displayNeeded(visible);
     else if (_parent && _orderedIn && _alpha > 0)
-        _parent->compose(visible.translated(_frame.origin() - _parent->_frame.origin()));
+        _parent->compose(visible.grown(_overhang).translated(_frame.origin() - _parent->_frame.origin()));
+}
+
+void Window::setOverhang(double points) {
+    if (points == _overhang)
+        return;
+    composeWhole();
+    _overhang = points;
+    displayNeeded(_contentView.bounds());
 }
 
 void Window::composeWhole() {

@@ -101,6 +101,10 @@ public:
     void setKey(bool key);
 
     void displayNeeded(const Rect& rect) override;
+    /// How far the content of a child is drawn beyond its frame, at every side, points; 0 at first.
+    double overhang() const { return _overhang; }
+    void setOverhang(double points);
+
     /// Counts the changes of what the content draws: a host that kept a picture of it can tell whether it still holds.
     /// Moving or fading a window does not change its content.
     std::uint64_t contentRevision() const { return _contentRevision; }
@@ -130,6 +134,7 @@ private:
 
     Rect _frame;
     std::uint64_t _contentRevision = 0;
+    double _overhang = 0;
     float _alpha = 1.0F;
     QColor _backgroundColor;
     int _level = windowLevel::normal;

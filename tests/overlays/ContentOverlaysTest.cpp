@@ -3,12 +3,15 @@
 #include "overlays/QVTextOverlay.h"
 #include "platform/window/Fonts.h"
 #include "platform/window/ImageView.h"
+#include "platform/window/SceneComposer.h"
+#include "platform/window/SceneGeometry.h"
 #include "tests/overlays/OverlayRig.h"
 
 #include <QPainter>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -99,6 +102,53 @@ TEST(QVTextOverlay, the_shadow_keeps_its_values_until_it_is_switched_off) {
     EXPECT_FALSE(overlay.shadow());
     overlay.setShadowOn(true);
     EXPECT_EQ(overlay.shadow(), red);
+}
+
+TEST(QVTextOverlay, a_wide_shadow_fades_out_beyond_the_text_and_the_panel) {
+    OverlayRig rig;
+    TextOverlay overlay(rig.settings.environment, rig.window);
+    overlay.setFadingInInterval(0);
+    overlay.setBackgroundOn(false);
+    overlay.setAlignmentStyle(0x100);
+    overlay.setText("MMM");
+    overlay.show();
+    overlay.setShadowOn(true);
+    rig.window.setBackgroundColor(Qt::white);
+    platform::SceneComposer composer(rig.window);
+    QImage screen(1024, 768, QImage::Format_RGB32);
+    const auto darkest = [&](const QRect& part) {
+        int found = 255;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                found = std::min(found, qRed(screen.pixel(x, y)));
+        return found;
+    };
+    const struct {
+        float radius;
+        QSizeF offset;
+    } cases[] = {{0, {0, 0}}, {5, {1, -1}}, {40, {0, 0}}, {20, {30, 30}}};
+    for (const auto& c : cases) {
+        overlay.setShadowColor(Qt::black);
+        overlay.setShadowBlurRadius(c.radius);
+        overlay.setShadowOffset(c.offset);
+        composer.compose(screen, screen.rect(), 1);
+        const QRect drawn =
+            platform::sceneGeometry::toPixels(overlay.frame().grown(overlay.overhang()), rig.window.frame().size(), 1);
+        // Just inside what the overlay draws there is next to no shadow left that would end in an edge.
+        for (const QRect& edge : {QRect(drawn.left(), drawn.top(), drawn.width(), 2),
+                                  QRect(drawn.left(), drawn.bottom() - 1, drawn.width(), 2),
+                                  QRect(drawn.left(), drawn.top(), 2, drawn.height()),
+                                  QRect(drawn.right() - 1, drawn.top(), 2, drawn.height())})
+            EXPECT_GT(darkest(edge), 245) << c.radius;
+        const QRect frame = platform::sceneGeometry::toPixels(overlay.frame(), rig.window.frame().size(), 1);
+        EXPECT_EQ(darkest(QRect(frame.left(), frame.top() - 6, frame.width(), 4)) < 245, c.radius > 10) << c.radius;
+    }
+    overlay.setBackgroundOn(true);
+    overlay.setFrameWidth(1000);
+    EXPECT_EQ(overlay.overhang(), 0) << "within the panel's margin";
+    overlay.setFrameWidth(0);
+    overlay.setShadowOn(false);
+    EXPECT_EQ(overlay.overhang(), 0);
 }
 
 TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {

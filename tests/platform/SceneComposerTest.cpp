@@ -127,6 +127,31 @@ TEST_F(SceneComposerTest, views_stand_where_their_frames_say_at_every_pixel_rati
     }
 }
 
+TEST_F(SceneComposerTest, a_child_draws_beyond_its_frame_as_far_as_it_says) {
+    ColorChild child(root, Rect(110, 210, 10, 10), red);
+    ColorView wide(Rect(-20, -20, 50, 50), blue);
+    child.window.contentView().addSubview(wide);
+    compose();
+    EXPECT_TRUE(has(10, 10, blue));
+    EXPECT_TRUE(has(9, 10, green)) << "not at first";
+    child.window.setOverhang(3);
+    for (const int scale : {1, 2}) {
+        resize(scale);
+        compose();
+        for (const int edge : {7, 22})
+            EXPECT_TRUE(has(edge * scale, 15 * scale, blue)) << edge;
+        for (const int edge : {6, 23})
+            EXPECT_TRUE(has(edge * scale, 15 * scale, green)) << edge;
+        EXPECT_TRUE(has(15 * scale, 7 * scale, blue));
+        EXPECT_TRUE(has(15 * scale, 22 * scale, blue));
+        EXPECT_TRUE(has(15 * scale, 23 * scale, green));
+    }
+    child.window.setFrame(Rect(98, 210, 10, 10)); // its frame reaches out of the root by two, and it by five
+    compose();
+    EXPECT_TRUE(has(2 * 10, 2 * 15, blue));
+    EXPECT_TRUE(has(2 * 11, 2 * 15, green));
+}
+
 TEST_F(SceneComposerTest, nothing_earlier_shines_through_a_translucent_background) {
     root.setBackgroundColor(QColor(200, 100, 0, 128));
     ColorChild child(root, Rect(110, 205, 10, 10), red);

@@ -202,6 +202,23 @@ TEST(Window, Children_move_with_their_parent_and_draw_through_its_host) {
     EXPECT_EQ(host.areas, (std::vector{Rect(100, 50, 1, 1), Rect(100, 50, 20, 10)}));
 }
 
+TEST(Window, what_a_child_draws_beyond_its_frame_is_composed_with_it) {
+    RecordingHost host;
+    Window window(screen);
+    window.setHost(&host);
+    Window child(Rect(100, 50, 20, 10));
+    window.addChildWindow(child);
+    child.orderFront();
+    child.setOverhang(4);
+    const Rect place(96, 46, 28, 18);
+    EXPECT_EQ(host.areas.back(), place);
+    host.areas.clear();
+    child.setFrame(Rect(200, 50, 20, 10));
+    child.setAlphaValue(0);
+    EXPECT_EQ(host.areas, (std::vector{place, place.translated({100, 0}), place.translated({100, 0})}));
+    window.setHost(nullptr);
+}
+
 TEST(Window, a_child_ordered_front_comes_to_stand_above_its_siblings) {
     Window window(screen);
     Window first(Rect(0, 0, 20, 10)), second(Rect(0, 0, 20, 10));
