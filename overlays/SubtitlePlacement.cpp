@@ -24,20 +24,20 @@ platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const
     const double lowest = ground.parent.y();
     const double viewBottom = lowest + ground.picture.y();
     const double edge = std::max(lowest, viewBottom + ground.bar.value_or(0));
-    double y = lowest;
-    switch (alignment & OverlayPlacement::verticalMask) {
-    case 0x00:
-        y = viewBottom - rect.height();
-        break;
-    case 0x10:
-        y = edge;
-        break;
-    case 0x20:
-        y = OverlayPlacement::verticalOrigin(alignment, platform::Rect(0, edge, 0, 0), rect.height(), ground.padding);
-        break;
-    default:
-        break;
-    }
+    const auto wanted = [&] {
+        switch (alignment & OverlayPlacement::verticalMask) {
+        case 0x00:
+            return viewBottom - rect.height();
+        case 0x10:
+            return edge;
+        case 0x20:
+            return OverlayPlacement::verticalOrigin(alignment, platform::Rect(0, edge, 0, 0), rect.height(),
+                                                    ground.padding);
+        default:
+            return lowest;
+        }
+    };
+    double y = wanted();
     if (y < lowest)
         y = edge;
     y = std::max(lowest, std::min(y, ground.parent.maxY() - rect.height()));

@@ -20,7 +20,6 @@ std::optional<QVVobSubPacket> QVVobSubPacket::packetWithUnit(PackReader::Unit un
     if (!control)
         return std::nullopt;
     QVVobSubPacket packet;
-    packet._packetsize = static_cast<std::int32_t>(unit.bytes.size());
     packet._datasize = unit.dataSize;
     packet._data = std::move(unit.bytes);
     packet._rect = control->rect;

@@ -32,7 +32,6 @@ private:
     QVVobSubPacket() = default;
     std::array<VobSubColor, 4> colors(const VobSubIndex& info) const;
 
-    std::int32_t _packetsize = 0;
     std::int32_t _datasize = 0;
     std::vector<std::uint8_t> _data;
     SubpictureControl::Rect _rect;

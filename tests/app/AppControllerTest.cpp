@@ -193,6 +193,10 @@ TEST(AppController, the_pointer_hides_after_the_delay_and_mouse_moves_put_it_off
     rig.app.applicationDidBecomeActive();
     rig.settings.runLoop.advance(1000);
     EXPECT_FALSE(rig.host.pointerHidden) << "more than ten seconds is never";
+    rig.settings.defaults().setInteger(10, kQVCursorAutohideDelay);
+    rig.window.setKey(true);
+    rig.window.setHost(nullptr);
+    rig.settings.runLoop.advance(10); // nobody to hide the pointer
 }
 
 // Activation
@@ -331,6 +335,7 @@ TEST(AppController, what_is_dragged_in_is_taken_as_its_source_allows) {
 TEST(AppController, escape_quits_and_other_keys_that_reach_the_window_do_nothing) {
     AppRig rig(quiet());
     rig.launch();
+    EXPECT_TRUE(rig.window.dispatchKey({.charactersIgnoringModifiers = " "})) << "the view's";
     EXPECT_FALSE(rig.window.dispatchKey({.charactersIgnoringModifiers = "q"}));
     rig.settings.runLoop.advance(5);
     EXPECT_EQ(rig.desktop.terminations, 0);
@@ -345,7 +350,7 @@ TEST(AppController, a_changed_layer_acts_at_once) {
     rig.settings.defaults().setInteger(7, kQVMainWindowLayer);
     rig.settings.notifications.post(QVPreferencesChangedNotification{kQVJumpInterval, {}});
     EXPECT_NE(rig.window.level(), 7) << "another setting";
-    rig.settings.notifications.post(QVPreferencesChangedNotification{kQVMainWindowLayer, {}});
+    EXPECT_TRUE(rig.window.preferencesChanged({kQVMainWindowLayer, {}}));
     EXPECT_EQ(rig.window.level(), 7);
 }
 

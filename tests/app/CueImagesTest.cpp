@@ -23,4 +23,10 @@ TEST(CueImages, each_cue_has_a_file_of_its_own_with_colours_as_they_are) {
     const QImage read(QDir(out).filePath(first));
     EXPECT_EQ(read.pixel(0, 0), qRgba(0xFF, 0, 0, 0x80));
     EXPECT_EQ(qAlpha(read.pixel(1, 0)), 0);
+
+    const QString taken = folder.filePath("taken/film-0-00001.png");
+    ASSERT_TRUE(QDir().mkpath(taken));
+    CueImages refused(folder.filePath("taken"));
+    EXPECT_EQ(refused.write(FakeTrack(QString(), "/x/film.idx", 0), 1, cue), QString());
+    EXPECT_TRUE(refused.error().startsWith(taken + ": cannot be written (")) << refused.error().toStdString();
 }

@@ -57,23 +57,6 @@ TEST(MovieView, the_controller_bar_is_drawn_again_when_its_knob_moves_by_half_a_
     EXPECT_GT(shown, 20) << "the movie moved on";
 }
 
-TEST(MovieView, keys_that_are_not_its_own_are_left_to_others) {
-    ViewRig rig;
-    const auto press = [&rig](const QString& characters) {
-        return rig.view.handleMovieKey({.charactersIgnoringModifiers = characters});
-    };
-    const auto text = [](char16_t character) { return QString(QChar(character)); };
-    EXPECT_TRUE(press(text(platform::functionKey::space)));
-    EXPECT_TRUE(rig.view.isPlaying());
-    EXPECT_TRUE(press(text(platform::functionKey::space)));
-    EXPECT_FALSE(rig.view.isPlaying());
-    EXPECT_TRUE(press(text(platform::functionKey::left)) && press(text(platform::functionKey::right)));
-    EXPECT_EQ(rig.player.steps, (std::vector<int>{-1, 1}));
-    EXPECT_FALSE(press("x") || press(QString()));
-    rig.view.setMovieObject(nullptr);
-    EXPECT_FALSE(press(text(platform::functionKey::space))) << "without a movie";
-}
-
 TEST(MovieView, a_frame_is_marked_for_drawing_and_painted_at_once_when_it_is_due) {
     ViewRig rig;
     const std::vector<platform::Rect> picture{platform::Rect(0, 16, 640, 480)};

@@ -166,6 +166,9 @@ TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {
     EXPECT_EQ(overlay.maxAlpha(), 0.5F);
     rig.change(kTextFontName, "No Such Family");
     EXPECT_EQ(platform::pointSizeOf(overlay.textFont()), 50);
+    EXPECT_TRUE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kTextColor, kFrameWidth, kMaxAlpha}}));
+    EXPECT_FALSE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {"Unknown", kTextColor}}));
+    EXPECT_FALSE(overlay.preferencesChanged({kQVOSDOverlayStyle, {kTextColor}})) << "another style";
 }
 
 TEST(QVTextOverlay, absurd_styles_are_laid_out_within_reason) {

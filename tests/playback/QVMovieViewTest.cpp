@@ -133,6 +133,7 @@ TEST(QVMovieView, keys_that_the_commands_leave_step_and_play_the_movie_and_beep_
         EXPECT_EQ(rig.confirmations.last, c.text);
     }
     EXPECT_EQ(rig.player().steps, (std::vector<int>{-1, 1}));
+    EXPECT_FALSE(press(u'x'));
     EXPECT_EQ(rig.desktop.beeps, 1);
 }
 

@@ -104,15 +104,6 @@ TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
     EXPECT_EQ(rig.openPanel.opens, 1);
 }
 
-TEST(QVPlaylistController, a_shuffle_exchanges_each_entry_with_one_of_the_whole_list) {
-    const std::vector<long> numbers{2, 0, 7, 2147483647};
-    std::size_t drawn = 0;
-    std::vector<char> letters{'a', 'b', 'c', 'd'};
-    Arrangement::shuffle(letters, [&] { return numbers[drawn++]; });
-    // 0 with 2: cbad, 1 with 0: bcad, 2 with 3: bcda, 3 with 3.
-    EXPECT_EQ(letters, (std::vector<char>{'b', 'c', 'd', 'a'}));
-}
-
 TEST(QVPlaylistController, the_current_movie_stays_current_when_the_list_is_arranged) {
     PlaylistRig rig;
     rig.settings.defaults().setInteger(Arrangement::sorted, kQVPlaylistDefaultArrangement);

@@ -96,6 +96,19 @@ TEST(Localization, the_users_languages_come_first_then_english_then_the_key) {
     setLocalizationLanguages({});
 }
 
+TEST(Bundle, the_resources_lie_where_the_environment_says_or_by_the_program) {
+    Bundle& bundle = Bundle::main();
+    const QByteArray before = qgetenv("LUMARO_RESOURCES");
+    qputenv("LUMARO_RESOURCES", "/of/a/test");
+    bundle.setResourcePath(QString());
+    EXPECT_EQ(bundle.resourcePath(), "/of/a/test");
+    qunsetenv("LUMARO_RESOURCES");
+    bundle.setResourcePath(QString());
+    EXPECT_TRUE(QFile::exists(bundle.resourcePath() + "/Info.plist")) << bundle.resourcePath().toStdString();
+    qputenv("LUMARO_RESOURCES", before);
+    bundle.setResourcePath(QString());
+}
+
 TEST(Localization, every_shipped_translation_is_whole_and_says_what_english_says) {
     const QDir folder(LUMARO_SOURCE_DIR "/resources/translations");
     const auto english = messagesOf(folder.filePath("lumaro_en.ts"));

@@ -25,6 +25,12 @@ TEST(Log, a_line_ends_once_and_a_reader_that_has_gone_or_sleeps_does_no_harm) {
     ::close(before);
 }
 
+namespace {
+
+const bool tracesUnasked = gTracingEnabled;
+
+} // namespace
+
 TEST(Tracing, informational_lines_and_scopes_appear_while_tracing_alone) {
     const CapturedLog log;
     const auto work = [] {
@@ -32,6 +38,7 @@ TEST(Tracing, informational_lines_and_scopes_appear_while_tracing_alone) {
         trace("%@: x%d %g", QString("Class"), 2, 0.5);
         logAlways("ERROR: %@", "always");
     };
+    EXPECT_FALSE(tracesUnasked);
     gTracingEnabled = false;
     work();
     EXPECT_EQ(log.lines(), QStringList{"ERROR: always"});

@@ -44,6 +44,14 @@ TEST(PropertyList, what_was_written_is_read_back_and_what_was_cut_off_is_not) {
         ASSERT_FALSE(propertyList::parse(xml.left(size))) << size;
 }
 
+TEST(PropertyList, what_is_written_can_be_read_by_people) {
+    const QByteArray xml = propertyList::toXml({{"a", QVariantMap{{"b", QVariantList{true, 2}}}}});
+    EXPECT_EQ(xml.mid(xml.indexOf("<plist")),
+              "<plist version=\"1.0\">\n<dict>\n\t<key>a</key>\n\t<dict>\n\t\t<key>b</key>\n"
+              "\t\t<array>\n\t\t\t<true/>\n\t\t\t<integer>2</integer>\n\t\t</array>\n"
+              "\t</dict>\n</dict>\n</plist>\n");
+}
+
 TEST(PropertyList, what_others_wrote_is_read_as_they_meant_it) {
     const struct {
         const char* content;
