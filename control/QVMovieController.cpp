@@ -26,11 +26,11 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
     , _with(collaborators) {
     _movieChanged = _environment.notifications.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
-    _playlistChanged = _environment.notifications.observe<QVPlaylistChangedNotification>(
-        [this](const auto& notification) { playlistChanged(notification); });
+    _with.playlistMenu.setFiller([this](platform::Menu& menu) { fillPlaylistMenu(menu); });
 }
 
 QVMovieController::~QVMovieController() {
+    _with.playlistMenu.setFiller(nullptr);
     stopRepeatingAction();
 }
 

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -23,10 +24,10 @@ class ApplicationServices;
 class FeedbackDisplay;
 class MainWindow;
 class PointerHiding;
+class QVMovie;
 class QVMovieView;
 class QVPlaylistController;
 class QVSubtitlesController;
-struct QVPlaylistChangedNotification;
 struct QVPlaylistMovieChangedNotification;
 
 /// The one place where commands become effects: action codes, keys, menu items. It is the main window's delegate. What
@@ -115,7 +116,9 @@ private:
     void muteForFastMotion();
     void repeatingActionTimer();
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
-    void playlistChanged(const QVPlaylistChangedNotification& notification);
+    void fillPlaylistMenu(platform::Menu& menu);
+    /// Where the movie of the menu's item stands by now; no position when it has gone.
+    std::int32_t positionOfMenuMovie(std::int32_t tag) const;
 
     /// Shows the localized text of the key as a confirmation; the format's argument filled in.
     void post(std::string_view key);
@@ -133,5 +136,6 @@ private:
     PacedTimes _pacedTimes;
     std::vector<std::unique_ptr<platform::Timer>> _delayedWork;
     platform::Subscription _movieChanged;
-    platform::Subscription _playlistChanged;
+    /// What the playlist menu showed when it opened, by the tags of its items.
+    std::map<std::int32_t, std::weak_ptr<QVMovie>> _menuMovies;
 };

@@ -15,6 +15,8 @@ using platform::MenuItem;
 
 namespace {
 
+constexpr const char* changeMovieAction = "changeMovie";
+
 /// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator while tracks follow.
 constexpr int fixedSubtitlesItems = 2;
 
@@ -31,8 +33,13 @@ bool QVMovieController::validateMenuItem(MenuItem& item) {
 
 void QVMovieController::performMenuItem(const MenuItem& item) {
     // The tag is taken out of the item first: some commands rebuild the menu that the item is in.
-    if (const Command* command = commandOf(item))
-        perform(*command, std::int32_t{item.tag}, command->operation.fromMenu);
+    const Command* command = commandOf(item);
+    if (!command)
+        return;
+    // The list may have been arranged anew while the menu was open.
+    const std::int32_t argument =
+        item.action == QLatin1String(changeMovieAction) ? positionOfMenuMovie(item.tag) : std::int32_t{item.tag};
+    perform(*command, argument, command->operation.fromMenu);
 }
 
 bool QVMovieController::validateSize(MenuItem& item) const {
@@ -101,10 +108,20 @@ void QVMovieController::currentMovieChanged(const QVPlaylistMovieChangedNotifica
     }
 }
 
-void QVMovieController::playlistChanged(const QVPlaylistChangedNotification& notification) {
-    platform::Menu& menu = _with.playlistMenu;
+void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {
     menu.removeAllItems();
-    int index = 0;
-    for (const auto& movie : notification.movies)
-        menu.addItem(fileNameOfURL(movie->url()), QStringLiteral("changeMovie"), index++);
+    _menuMovies.clear();
+    for (std::uint32_t position = 0; position < _with.playlist.count(); ++position) {
+        const std::shared_ptr<QVMovie> movie = _with.playlist.movieAtIndex(position);
+        menu.addItem(fileNameOfURL(movie->url()), QString::fromUtf8(changeMovieAction), static_cast<int>(position));
+        _menuMovies[static_cast<std::int32_t>(position)] = movie;
+    }
+}
+
+std::int32_t QVMovieController::positionOfMenuMovie(std::int32_t tag) const {
+    const auto shown = _menuMovies.find(tag);
+    if (shown == _menuMovies.end())
+        return tag;
+    const std::shared_ptr<QVMovie> movie = shown->second.lock();
+    return movie ? static_cast<std::int32_t>(_with.playlist.indexOfMovie(*movie)) : -1;
 }

@@ -2,10 +2,15 @@
 #include "playlist/Arrangement.h"
 
 #include <cstdlib>
+#include <random>
 
 namespace Arrangement {
 
 long drawFromSystem() {
+    [[maybe_unused]] static const bool seeded = [] {
+        ::srandom(std::random_device()());
+        return true;
+    }();
     return ::random();
 }
 

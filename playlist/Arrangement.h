@@ -24,7 +24,7 @@ inline constexpr std::int32_t sorted = 2;
 
 /// Draws the next number of a generator, 0 or above.
 using Draw = std::function<long()>;
-/// The C library's generator, which nobody seeds.
+/// The C library's generator, seeded by chance at the first draw of the process: each launch has an order of its own.
 long drawFromSystem();
 
 /// Exchanges each element in turn with one drawn from the whole list: one draw an element.

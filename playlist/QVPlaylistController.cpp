@@ -197,6 +197,11 @@ std::shared_ptr<QVMovie> QVPlaylistController::movieAtIndex(std::uint32_t index)
     return index < count() ? _playlist[index] : nullptr;
 }
 
+std::uint32_t QVPlaylistController::indexOfMovie(const QVMovie& movie) const {
+    const auto entry = std::ranges::find(_playlist, &movie, [](const auto& listed) { return listed.get(); });
+    return entry == _playlist.end() ? NSNotFound : static_cast<std::uint32_t>(entry - _playlist.begin());
+}
+
 bool QVPlaylistController::isAtEnd() const {
     return Arrangement::isAtEnd(place());
 }
@@ -227,7 +232,7 @@ void QVPlaylistController::rearrange() {
     else
         sortMovies(_playlist, MovieOrdering::fromSettings(_environment.settings));
     if (current)
-        _index = static_cast<std::uint32_t>(std::ranges::find(_playlist, current) - _playlist.begin());
+        _index = indexOfMovie(*current);
     if (gTracingEnabled)
         trace("%@: Playlist after %s:\n%@", className, shuffles ? "shuffle" : "sort", descriptionOf(_playlist));
 }

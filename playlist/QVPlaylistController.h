@@ -61,6 +61,8 @@ public:
     std::uint32_t index() const { return _index; }
     std::shared_ptr<QVMovie> movie() const { return movieAtIndex(_index); }
     std::shared_ptr<QVMovie> movieAtIndex(std::uint32_t index) const;
+    /// The position of an entry; NSNotFound when it is none of the list.
+    std::uint32_t indexOfMovie(const QVMovie& movie) const;
     bool isFinished() const { return _finished; }
     bool reportsError() const { return _reports_error; }
     void setReportsError(bool reports) { _reports_error = reports; }

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -43,8 +44,17 @@ public:
     /// Keeps the first `count` items; a menu of that many or fewer is left alone.
     void removeAllItemsBut(int count);
 
+    /// Who fills the menu each time before it is shown; without one the items stand as they were added.
+    void setFiller(std::function<void(Menu&)> filler) { _filler = std::move(filler); }
+    /// Presenters call it before they show the items.
+    void willOpen() {
+        if (_filler)
+            _filler(*this);
+    }
+
 private:
     std::vector<std::unique_ptr<MenuItem>> _items;
+    std::function<void(Menu&)> _filler;
 };
 
 /// Who performs the items' actions and says which are enabled.

@@ -533,14 +533,25 @@ TEST_F(MovieController, Items_carry_their_tag_to_what_they_act_on) {
     EXPECT_EQ(view.time(), 0);
 }
 
-TEST_F(MovieController, The_playlist_menu_lists_the_file_names) {
+TEST_F(MovieController, The_playlist_menu_lists_the_file_names_as_it_opens) {
     playlistMenu.addItem("old", QString(), 0);
     playlist.addURLs({QUrl::fromLocalFile("/a/50% & #1 \u00e4.mp4"), QUrl("http://host/dir/b%20c.mkv?x=/y"),
                       QUrl("http://host/live/")},
                      Adding::replace, Starting::no);
+    playlistMenu.willOpen();
     EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|b c.mkv|live");
     EXPECT_EQ(playlistMenu.itemAt(2).tag, 2);
     EXPECT_EQ(playlistMenu.itemAt(2).action, "changeMovie");
+    // Arranged while the menu is open: what was chosen is the movie that the item named.
+    playlist.addURLs({QUrl::fromLocalFile("/a/a.mp4")}, Adding::append, Starting::no);
+    settings.defaults().setInteger(Arrangement::sorted, kQVPlaylistDefaultArrangement);
+    playlist.rearrange();
+    perform("changeMovie", 0);
+    EXPECT_EQ(playlist.currentInfoAsString(), "50% & #1 \u00e4.mp4 (1/4)");
+    perform("changeMovie", 1);
+    EXPECT_EQ(playlist.currentInfoAsString(), "b c.mkv (3/4)");
+    playlistMenu.willOpen();
+    EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|a.mp4|b c.mkv|live");
 }
 
 TEST_F(MovieController, The_subtitles_menu_lists_the_tracks_below_its_fixed_items) {

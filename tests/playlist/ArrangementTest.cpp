@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 using namespace Arrangement;
 
 TEST(Arrangement, a_shuffle_exchanges_each_element_with_one_of_the_whole_list) {
@@ -22,6 +24,21 @@ TEST(Arrangement, a_shuffle_exchanges_each_element_with_one_of_the_whole_list) {
         EXPECT_EQ(few, std::vector<int>(size, 5));
         EXPECT_EQ(drawn, size);
     }
+}
+
+TEST(Arrangement, each_process_shuffles_in_an_order_of_its_own) {
+    // What every process would draw that never seeded the generator.
+    random_data unseeded{};
+    char memory[128];
+    initstate_r(1, memory, sizeof memory, &unseeded);
+    std::int32_t expected = 0;
+    int same = 0;
+    constexpr int draws = 20;
+    for (int i = 0; i < draws; ++i) {
+        random_r(&unseeded, &expected);
+        same += drawFromSystem() == expected;
+    }
+    EXPECT_LT(same, draws);
 }
 
 TEST(Arrangement, what_comes_next_depends_on_place_and_looping) {

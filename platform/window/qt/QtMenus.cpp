@@ -41,6 +41,7 @@ QtMenus::~QtMenus() = default;
 
 void QtMenus::fill(QMenu& menu, Menu& model) {
     menu.clear();
+    model.willOpen();
     for (int i = 0; i < model.count(); ++i) {
         MenuItem& item = model.itemAt(i);
         if (item.separator) {
