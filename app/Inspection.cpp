@@ -135,7 +135,8 @@ QJsonObject describeMovie(const QString& path, QVMovie& movie, const platform::U
 } // namespace
 
 InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
-                              const QStringList& pathsOrUrls, const InspectedSubtitles& subtitles) {
+                              const MovieReader& readMovie, const QStringList& pathsOrUrls,
+                              const InspectedSubtitles& subtitles) {
     SubtitleRegistry readers(subtitleReaders(environment));
     SubtitleDiscovery discovery(environment.loop);
     NoUser user;
@@ -156,11 +157,12 @@ InspectionResult inspectFiles(const Environment& environment, platform::MovieToo
         // A movie toolkit may take a subtitle file for a movie without pictures: the name decides what is tried first.
         if (url.isLocalFile() && isFileOfType(url.toLocalFile(), subtitleExtensions) && addSubtitleFile())
             continue;
-        if (const std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(environment, services, url))
+        platform::OpenedMovie opened = readMovie(url);
+        const std::int16_t error = opened.error;
+        if (const auto movie = QVMovie::movieWithOpened(environment, services, std::move(opened)))
             objects.append(describeMovie(name, *movie, environment.settings));
         else if (!url.isLocalFile() || !addSubtitleFile())
-            result.errors.append(
-                QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(toolkit.stickyError()));
+            result.errors.append(QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(error));
     }
     if (!images.error().isEmpty())
         result.errors.append(images.error());

@@ -3,11 +3,14 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <QUrl>
 
 #include <cstdint>
+#include <functional>
 
 namespace platform {
 class MovieToolkit;
+struct OpenedMovie;
 } // namespace platform
 
 struct Environment;
@@ -27,7 +30,11 @@ struct InspectionResult {
     QStringList errors;
 };
 
+/// Reads the facts of a movie; blocks.
+using MovieReader = std::function<platform::OpenedMovie(const QUrl& url)>;
+
 /// Finds out what is in the files: movies, and subtitle files with their cues. Needs no display. Times are in the
 /// movie's units, sizes in square pixels.
 InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
-                              const QStringList& pathsOrUrls, const InspectedSubtitles& subtitles = {});
+                              const MovieReader& readMovie, const QStringList& pathsOrUrls,
+                              const InspectedSubtitles& subtitles = {});

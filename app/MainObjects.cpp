@@ -41,7 +41,8 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                               _view,
                               platform.desktop,
                               _commands,
-                              _files})
+                              _files,
+                              _feedback})
     , _subtitleScene(environment, _window, _view)
     , _subtitles(environment, _subtitleScene)
     , _texts(_view, _playlist, _subtitles)

@@ -25,24 +25,26 @@ std::int32_t wholeSeconds(std::int32_t time, std::int32_t timeScale) {
 
 } // namespace
 
-std::shared_ptr<QVMovie> QVMovie::movieWithURL(const Environment& environment, const MovieServices& services,
-                                               const QUrl& url) {
-    platform::MovieToolkit& toolkit = services.toolkit;
-    toolkit.clearStickyError();
-    std::optional<platform::MovieInfo> info = toolkit.open(url);
-    if (const std::int16_t error = toolkit.stickyError(); error != platform::movieError::none)
-        logAlways("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code %d\n", error);
-    if (!info)
+std::unique_ptr<platform::MovieOpening> QVMovie::movieWithURL(const Environment& environment,
+                                                              const MovieServices& services, const QUrl& url,
+                                                              Opened completion) {
+    return services.toolkit.openAsync(
+        url, [environment, services, completion = std::move(completion)](platform::OpenedMovie opened) {
+            const std::int16_t error = opened.error;
+            completion(movieWithOpened(environment, services, std::move(opened)), error);
+        });
+}
+
+std::shared_ptr<QVMovie> QVMovie::movieWithOpened(const Environment& environment, const MovieServices& services,
+                                                  platform::OpenedMovie opened) {
+    if (opened.error != platform::movieError::none)
+        logAlways("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code %d\n", opened.error);
+    if (!opened.info)
         return nullptr;
-    auto movie = std::make_shared<QVMovie>(environment, services, *std::move(info));
+    auto movie = std::make_shared<QVMovie>(environment, services, *std::move(opened.info));
     if (environment.settings.boolForKey(kQVAutoloadSubtitles))
         movie->fetchSubtitleFiles();
     return movie;
-}
-
-std::shared_ptr<QVMovie> QVMovie::movieWithFilePath(const Environment& environment, const MovieServices& services,
-                                                    const QString& path) {
-    return movieWithURL(environment, services, QUrl::fromLocalFile(path));
 }
 
 QVMovie::QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info)

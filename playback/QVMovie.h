@@ -9,19 +9,29 @@
 #include <QUrl>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
+
+namespace platform {
+class MovieOpening;
+struct OpenedMovie;
+} // namespace platform
 
 /// One open movie as the player sees it: times, frame count and rate, ordering, and the subtitle tracks found beside
 /// it. Times are counts of units of the movie's time scale. Main thread.
 class QVMovie final : public platform::Movie, public SubtitleOwner, public std::enable_shared_from_this<QVMovie> {
 public:
-    /// Opens a movie through the toolkit; none when it cannot be opened. The toolkit's sticky error stays for the
-    /// caller to read. Finds subtitle files when QVAutoloadSubtitles is on.
-    static std::shared_ptr<QVMovie> movieWithURL(const Environment& environment, const MovieServices& services,
-                                                 const QUrl& url);
-    static std::shared_ptr<QVMovie> movieWithFilePath(const Environment& environment, const MovieServices& services,
-                                                      const QString& path);
+    /// Takes the movie that was opened, none when it cannot be, and its error (namespace platform::movieError), which
+    /// one that can be opened may have, too.
+    using Opened = std::function<void(std::shared_ptr<QVMovie> movie, std::int16_t error)>;
+    /// Opens a movie through the toolkit without waiting: `completion` is called once, from the run loop, unless the
+    /// answer was destroyed before. Finds subtitle files when QVAutoloadSubtitles is on.
+    [[nodiscard]] static std::unique_ptr<platform::MovieOpening>
+    movieWithURL(const Environment& environment, const MovieServices& services, const QUrl& url, Opened completion);
+    /// The movie that the toolkit opened; none when it could not.
+    static std::shared_ptr<QVMovie> movieWithOpened(const Environment& environment, const MovieServices& services,
+                                                    platform::OpenedMovie opened);
     /// From what the toolkit found; neither logs nor looks for subtitles.
     QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info);
     ~QVMovie() override;

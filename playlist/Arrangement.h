@@ -28,10 +28,11 @@ using Draw = std::function<long()>;
 long drawFromSystem();
 
 /// Exchanges each element in turn with one drawn from the whole list: one draw an element.
-template <class Element>
-void shuffle(std::vector<Element>& elements, const Draw& draw) {
-    for (std::size_t i = 0; i < elements.size(); ++i)
-        std::swap(elements[i], elements[static_cast<std::size_t>(draw()) % elements.size()]);
+template <class List>
+void shuffle(List& elements, const Draw& draw) {
+    using Index = typename List::size_type;
+    for (Index i = 0; i < elements.size(); ++i)
+        std::swap(elements[i], elements[static_cast<Index>(draw()) % elements.size()]);
 }
 
 /// Where the list stands. An index not below the count means no position.

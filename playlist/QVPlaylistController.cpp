@@ -30,34 +30,61 @@ QString localized(const char* key) {
     return platform::localizedString(QString::fromUtf8(key));
 }
 
-/// The movie's folder as the settings keep it: the home folder is "~".
-QString abbreviatedFolder(const QUrl& url) {
-    const QString path = url.toLocalFile();
-    QString folder = path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
-    const QString home = QDir::homePath();
-    if (folder == home || folder.startsWith(home + u'/'))
-        return u'~' + folder.mid(home.size());
-    return folder;
+QString addressOfEntry(const QUrl& url) {
+    return url.toString();
 }
 
-QString descriptionOf(const std::vector<std::shared_ptr<QVMovie>>& movies) {
+QString addressOfEntry(const std::shared_ptr<QVMovie>& movie) {
+    return movie->description();
+}
+
+const QUrl& urlOfEntry(const QUrl& url) {
+    return url;
+}
+
+const QUrl& urlOfEntry(const std::shared_ptr<QVMovie>& movie) {
+    return movie->url();
+}
+
+template <class List>
+QString descriptionOf(const List& list) {
     QStringList lines;
-    for (const auto& movie : movies)
-        lines.append(movie->description());
+    for (const auto& entry : list)
+        lines.append(addressOfEntry(entry));
     return lines.join(u'\n');
 }
 
-void sortMovies(std::vector<std::shared_ptr<QVMovie>>& movies, const MovieOrdering& ordering) {
-    // The keys are made once a movie, not once a comparison.
-    std::vector<std::pair<QString, std::shared_ptr<QVMovie>>> keyed;
-    keyed.reserve(movies.size());
-    for (auto& movie : movies) {
-        QString key = ordering.key(movie->url());
-        keyed.emplace_back(std::move(key), std::move(movie));
+template <class List>
+void sortEntries(List& list, const MovieOrdering& ordering) {
+    // The keys are made once an entry, not once a comparison.
+    using Entry = typename List::value_type;
+    std::vector<std::pair<QString, Entry>> keyed;
+    keyed.reserve(static_cast<std::size_t>(list.size()));
+    for (Entry& entry : list) {
+        QString key = ordering.key(urlOfEntry(entry));
+        keyed.emplace_back(std::move(key), std::move(entry));
     }
     std::ranges::stable_sort(
         keyed, [&](const auto& left, const auto& right) { return ordering.compare(left.first, right.first) < 0; });
-    std::ranges::transform(keyed, movies.begin(), [](auto& entry) { return std::move(entry.second); });
+    std::ranges::transform(keyed, list.begin(), [](auto& entry) { return std::move(entry.second); });
+}
+
+/// Whether the setting orders at all; then the list is put in its order.
+template <class List>
+bool arrangeBy(const platform::UserDefaults& settings, List& list) {
+    const std::int32_t arrangement = settings.integerForKey(kQVPlaylistDefaultArrangement);
+    if (arrangement != Arrangement::shuffled && arrangement != Arrangement::sorted)
+        return false;
+    const bool shuffles = arrangement == Arrangement::shuffled;
+    if (gTracingEnabled)
+        trace("%@: Playlist before %s:\n%@", className, shuffles ? "shuffle" : "sort", descriptionOf(list));
+    if (shuffles)
+        Arrangement::shuffle(list, Arrangement::drawFromSystem);
+    else
+        sortEntries(list, MovieOrdering::fromSettings(settings));
+    if (gTracingEnabled)
+        trace("%@: Playlist after %s:\n%@", className, shuffles ? "shuffle" : "sort", descriptionOf(list));
+    return true;
 }
 
 } // namespace
@@ -68,120 +95,13 @@ QVPlaylistController::QVPlaylistController(const Environment& environment, const
     , _looping(environment.settings.integerForKey(kQVPlaylistDefaultLooping))
     , _auto_play(environment.settings.boolForKey(kQVPlaylistAutoPlay))
     , _auto_next(environment.settings.boolForKey(kQVPlaylistAutoNext))
-    , _auto_quit(environment.settings.boolForKey(kQVPlaylistAutoQuit)) {
+    , _auto_quit(environment.settings.boolForKey(kQVPlaylistAutoQuit))
+    , _loadingMessage(environment, collaborators.feedback) {
     platform::NotificationCenter& center = environment.notifications;
     _movieComplete = center.observe<QVMovieCompleteNotification>(
         [this](const auto& notification) { movieDidComplete(notification); });
     _preferencesChanged = center.observe<QVPreferencesChangedNotification>(
         [this](const auto& notification) { preferencesChanged(notification); });
-}
-
-QVPlaylistController::~QVPlaylistController() = default;
-
-bool QVPlaylistController::addURLs(const QList<QUrl>& urls, Adding adding, Starting starting) {
-    const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
-    const Request request{urls, adding, starting, _reports_error};
-    if (_is_adding) {
-        _waiting.push_back(request);
-        return false;
-    }
-    _is_adding = true;
-    const bool added = add(request);
-    while (!_waiting.empty()) {
-        const Request next = std::move(_waiting.front());
-        _waiting.pop_front();
-        add(next);
-    }
-    _is_adding = false;
-    return added;
-}
-
-bool QVPlaylistController::add(const Request& request) {
-    std::vector<std::shared_ptr<QVMovie>> movies = openMovies(request);
-    const bool added = !movies.empty();
-    if (added)
-        takeIn(std::move(movies), request);
-    if (_playlist.empty())
-        offerToOpenOthers(!request.urls.isEmpty());
-    return added;
-}
-
-std::vector<std::shared_ptr<QVMovie>> QVPlaylistController::openMovies(const Request& request) {
-    std::vector<std::shared_ptr<QVMovie>> movies;
-    movies.reserve(static_cast<std::size_t>(request.urls.size()));
-    QString lastFolder;
-    for (const QUrl& url : request.urls) {
-        trace("%@: Adding to playlist movie file: %@", className, url.toString());
-        std::shared_ptr<QVMovie> movie = QVMovie::movieWithURL(_environment, _with.movies, url);
-        if (!shouldKeep(movie, url, request.reportsError))
-            continue;
-        if (url.isLocalFile()) {
-            if (const QString folder = abbreviatedFolder(url); folder != lastFolder) {
-                lastFolder = folder;
-                _environment.settings.setObject(folder, kNSNavLastRootDirectory);
-            }
-        }
-        movies.push_back(std::move(movie));
-    }
-    return movies;
-}
-
-bool QVPlaylistController::shouldKeep(const std::shared_ptr<QVMovie>& movie, const QUrl& url, bool reportsError) const {
-    const std::int16_t error = _with.movies.toolkit.stickyError();
-    const auto alert = [&](const char* title, const char* details, const QString& button, const QString& other) {
-        const QString code = QString::number(error);
-        return _with.desktop.runAlert({platform::localizedFormat(QString::fromUtf8(title), {fileNameOfURL(url)}),
-                                       platform::localizedFormat(QString::fromUtf8(details), {code}), button, QString(),
-                                       other});
-    };
-    if (!movie) {
-        logAlways("ERROR: %@: QT failed to open movie.", className);
-        if (reportsError)
-            alert("QTUnableToOpenFileError", "QTUnableToOpenFileDetails", localized("OK"), QString());
-        return false;
-    }
-    if (error == platform::movieError::none)
-        return true;
-    logAlways("ERROR: %@: QT sticky error: %d.", className, error);
-    if (error != platform::movieError::cannotPlay || !reportsError)
-        return true;
-    if (alert("QTUnableToPlayFileError", "QTUnableToPlayFileDetails", localized("Continue"), localized("Cancel")) == 1)
-        return true;
-    logAlways("ERROR: %@: Cancelled effort to open movie.", className);
-    return false;
-}
-
-void QVPlaylistController::takeIn(std::vector<std::shared_ptr<QVMovie>> movies, const Request& request) {
-    if (_playlist.empty() || request.adding == Adding::replace) {
-        _playlist = std::move(movies);
-        _index = NSNotFound;
-        rearrange();
-        reset();
-        setLooping(_environment.settings.integerForKey(kQVPlaylistDefaultLooping));
-        if (request.starting == Starting::yes && _auto_play)
-            play();
-    } else {
-        _playlist.insert(_playlist.end(), std::make_move_iterator(movies.begin()),
-                         std::make_move_iterator(movies.end()));
-        rearrange();
-    }
-    _environment.notifications.post(QVPlaylistChangedNotification{_playlist});
-}
-
-void QVPlaylistController::offerToOpenOthers(bool failed) {
-    if (failed) {
-        trace("%@: No playable movies foung in playlist.\n", className);
-        const int answer = _with.desktop.runAlert({localized("NoPlayableMoviesInListMessage"),
-                                                   localized("NoPlayableMoviesInListDetails"), localized("Open..."),
-                                                   localized("Cancel"), QString()});
-        if (answer != 1)
-            return;
-    }
-    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
-        if (!alive.expired())
-            _with.openPanel.doOpen();
-    });
-    trace("%@: Launching File Open panel.\n", className);
 }
 
 QStringList QVPlaylistController::arrayWithURLsAsStrings() const {
@@ -220,21 +140,13 @@ QString QVPlaylistController::loopingInfoAsString() const {
 }
 
 void QVPlaylistController::rearrange() {
-    const std::int32_t arrangement = _environment.settings.integerForKey(kQVPlaylistDefaultArrangement);
-    if (arrangement != Arrangement::shuffled && arrangement != Arrangement::sorted)
-        return;
-    const bool shuffles = arrangement == Arrangement::shuffled;
-    if (gTracingEnabled)
-        trace("%@: Playlist before %s:\n%@", className, shuffles ? "shuffle" : "sort", descriptionOf(_playlist));
     const std::shared_ptr<QVMovie> current = movie();
-    if (shuffles)
-        Arrangement::shuffle(_playlist, Arrangement::drawFromSystem);
-    else
-        sortMovies(_playlist, MovieOrdering::fromSettings(_environment.settings));
-    if (current)
+    if (arrangeBy(_environment.settings, _playlist) && current)
         _index = indexOfMovie(*current);
-    if (gTracingEnabled)
-        trace("%@: Playlist after %s:\n%@", className, shuffles ? "shuffle" : "sort", descriptionOf(_playlist));
+}
+
+void QVPlaylistController::arrange(QList<QUrl>& urls) const {
+    arrangeBy(_environment.settings, urls);
 }
 
 void QVPlaylistController::reset() {

@@ -5,7 +5,9 @@
 #include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
 #include "playback/MovieServices.h"
+#include "playback/StandingMessage.h"
 #include "playlist/Arrangement.h"
+#include "playlist/MovieBatch.h"
 #include "settings/QVPreferencesChangedNotification.h"
 
 #include <QList>
@@ -15,6 +17,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -23,6 +26,7 @@ class Desktop;
 } // namespace platform
 
 class CommandTarget;
+class FeedbackDisplay;
 class OpenPanel;
 class QVMovie;
 class QVMovieView;
@@ -35,7 +39,7 @@ enum class Adding : bool { append, replace };
 enum class Starting : bool { no, yes };
 
 /// The ordered list of movies, the position in it, and what happens when a movie and the list end. Main thread.
-class QVPlaylistController {
+class QVPlaylistController final : private MovieBatch::Client {
 public:
     /// All outlive the playlist.
     struct Collaborators {
@@ -44,16 +48,21 @@ public:
         platform::Desktop& desktop;
         CommandTarget& commands;
         OpenPanel& openPanel;
+        FeedbackDisplay& feedback;
     };
     QVPlaylistController(const Environment& environment, const Collaborators& collaborators);
     QVPlaylistController(const QVPlaylistController&) = delete;
     QVPlaylistController& operator=(const QVPlaylistController&) = delete;
-    ~QVPlaylistController();
+    ~QVPlaylistController() override;
 
-    /// Opens each URL as a movie and adds those that can be played; the others are reported. True when at least one was
-    /// added. The event loop may run meanwhile (alerts, network URLs): an add that is asked for then is carried out
-    /// after this one, and answers false.
-    bool addURLs(const QList<QUrl>& urls, Adding adding, Starting starting);
+    /// Told once, when every URL was opened or given up: whether at least one movie was added.
+    using Added = std::function<void(bool)>;
+    /// Opens the URLs as movies, side by side, and adds those that can be played as they come, in the order given; the
+    /// others are reported in one alert at the end, together with what the caller knows to be none (`failures`). The
+    /// first part takes the list's place where it is to, later ones are added to it. Adds that are under way go on
+    /// beside each other, but a list that is replaced gives up those begun before.
+    void addURLs(const QList<QUrl>& urls, Adding adding, Starting starting, Added added = nullptr,
+                 QList<OpeningFailure> failures = {});
 
     std::uint32_t count() const { return static_cast<std::uint32_t>(_playlist.size()); }
     /// The entries' URLs as absolute strings: the form in which the list is saved.
@@ -92,17 +101,22 @@ public:
     void onPlaylistEnd();
 
 private:
-    struct Request {
-        QList<QUrl> urls;
-        Adding adding;
-        Starting starting;
-        bool reportsError;
-    };
-    bool add(const Request& request);
-    std::vector<std::shared_ptr<QVMovie>> openMovies(const Request& request);
-    bool shouldKeep(const std::shared_ptr<QVMovie>& movie, const QUrl& url, bool reportsError) const;
-    void takeIn(std::vector<std::shared_ptr<QVMovie>> movies, const Request& request);
-    void offerToOpenOthers(bool failed);
+    struct Addition;
+    void batchOpened(MovieBatch& batch, const std::vector<MovieBatch::Entry>& entries) override;
+    void batchEnded(MovieBatch& batch) override;
+    Addition& additionOf(const MovieBatch& batch) const;
+    void takeIn(Addition& addition, const std::vector<MovieBatch::Entry>& entries);
+    void overtake(const Addition& addition);
+    void replaceBy(Addition& addition, const std::vector<MovieBatch::Entry>& entries);
+    void insert(Addition& addition, const std::vector<MovieBatch::Entry>& entries);
+    std::uint32_t positionFor(const Addition& addition, std::size_t place) const;
+    void keepFolders(const std::vector<MovieBatch::Entry>& entries);
+    void askForDoubtful(Addition& addition);
+    void report();
+    void finish(Addition& addition);
+    void sayWhatIsAwaited();
+    void offerToOpenOthers(const QList<OpeningFailure>& failures, bool failed, bool reportsError);
+    void arrange(QList<QUrl>& urls) const;
     Arrangement::Place place() const { return {_index, count(), _looping}; }
     void movieDidComplete(const QVMovieCompleteNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
@@ -117,8 +131,13 @@ private:
     bool _auto_play;
     bool _auto_next;
     bool _auto_quit;
-    bool _is_adding = false;
-    std::deque<Request> _waiting;
+    /// Under way, in the order in which they were asked for.
+    std::vector<std::shared_ptr<Addition>> _additions;
+    /// Ended, and to be reported one by one.
+    std::deque<std::shared_ptr<Addition>> _reports;
+    bool _is_reporting = false;
+    std::uint64_t _additionsMade = 0;
+    StandingMessage _loadingMessage;
     /// Ends what was put off to the next pass when the playlist goes away.
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);
     platform::Subscription _movieComplete;

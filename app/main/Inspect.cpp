@@ -5,12 +5,19 @@
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
 #include "app/main/Terminal.h"
+#include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "settings/SettingsKeys.h"
 
 #include <QCoreApplication>
 
+#include <atomic>
 #include <cstdio>
+
+namespace {
+/// How long one file may take, seconds.
+constexpr double openTimeout = 60;
+} // namespace
 
 int inspect(int& count, char** arguments, const CommandLine& line) {
     const QCoreApplication application(count, arguments);
@@ -23,8 +30,10 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         defaults.setOverride(kQVSubtitlesDefaultEncoding, static_cast<qint64>(line.encoding));
     if (line.frameRateChoice != 0)
         defaults.setOverride(kQVSubtitlesDefaultFPS, line.frameRateChoice);
+    const std::atomic<bool> isCancelled{false};
+    const auto readMovie = [&](const QUrl& url) { return platform::probeMovie(url, openTimeout, isCancelled); };
     const InspectionResult result =
-        inspectFiles(run.environment(), toolkit, line.files, {line.timeScale, line.imagesFolder});
+        inspectFiles(run.environment(), toolkit, readMovie, line.files, {line.timeScale, line.imagesFolder});
     std::fwrite(result.json.constData(), 1, static_cast<std::size_t>(result.json.size()), stdout);
     for (const QString& error : result.errors)
         complain(error);

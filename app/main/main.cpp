@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/main/Modes.h"
 #include "app/main/Terminal.h"
+#include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
 
 #include <QDir>
@@ -50,8 +51,15 @@ int main(int count, char** arguments) {
         return exitSuccess;
     case CommandLine::Mode::inspect:
         return inspect(count, arguments, line);
-    case CommandLine::Mode::play:
-        return play(count, arguments, line);
+    case CommandLine::Mode::play: {
+        const int status = play(count, arguments, line);
+        // A thread that hangs in the system would find the statics gone.
+        if (!platform::background::waitUntilIdle(0)) {
+            std::fflush(nullptr);
+            std::_Exit(status);
+        }
+        return status;
+    }
     }
     return exitFailure;
 }

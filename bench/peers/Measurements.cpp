@@ -288,7 +288,7 @@ double Measurements::openWithLumaro(const std::vector<std::string>& files) {
     const double before = now();
     auto process =
         _players.back().start(_server.display(), files, {"--set", "QVEnableTrace=1", "--set", "QVPlaylistAutoPlay=0"});
-    if (!process->waitForErrorLine("END: -[QVPlaylistController addURLs", 0, Seconds(60)))
+    if (!process->waitForErrorLine("QVPlaylistController: All movies are opened.", 0, Seconds(60)))
         throw std::runtime_error("Lumaro opens no files: " + process->errorOutput());
     const double taken = (now() - before) * 1000;
     Player::end(process);

@@ -37,14 +37,34 @@ struct MovieInfo {
 namespace movieError {
 inline constexpr std::int16_t none = 0;
 inline constexpr std::int16_t fileNotFound = -43;
+inline constexpr std::int16_t fileEmpty = -39;
+/// A folder, a device, a pipe.
+inline constexpr std::int16_t notAFile = -1307;
 inline constexpr std::int16_t permissionDenied = -5000;
 inline constexpr std::int16_t couldNotOpen = -2000;
-/// No stream of the file is one that can be played.
+/// No movie, or one of whose streams none can be played.
 inline constexpr std::int16_t invalidMovie = -2010;
 /// The movie opened, but nothing here decodes its picture: it may be kept for its sound.
 inline constexpr std::int16_t cannotPlay = -2008;
+/// Nothing came for too long.
 inline constexpr std::int16_t timedOut = -5016;
+/// The libraries that open movies are missing.
 inline constexpr std::int16_t noMediaHandler = -2003;
+// Addresses.
+inline constexpr std::int16_t unknownScheme = -6001;
+inline constexpr std::int16_t unknownHost = -6002;
+inline constexpr std::int16_t hostUnreachable = -6003;
+inline constexpr std::int16_t connectionRefused = -6004;
+/// The connection broke, or something other than an answer came.
+inline constexpr std::int16_t connectionFailed = -6005;
+/// What is needed first stands at the file's end, and the server does not send files from the middle.
+inline constexpr std::int16_t needsRanges = -6006;
+/// The server's answer: 401, 403, 404, another one of the four hundreds, one of the five hundreds.
+inline constexpr std::int16_t serverAsksForLogin = -6401;
+inline constexpr std::int16_t serverForbids = -6403;
+inline constexpr std::int16_t serverHasNoSuchFile = -6404;
+inline constexpr std::int16_t serverRefuses = -6400;
+inline constexpr std::int16_t serverFails = -6500;
 } // namespace movieError
 
 /// One open movie: its facts, and the time at which it stands. While the movie is the one loaded in the player its time

@@ -18,7 +18,7 @@ class MoviePlayer;
 struct OpenedMovie {
     /// Nothing when it cannot be played.
     std::optional<MovieInfo> info;
-    /// Why not, or what else there is to say (movieError::cannotPlay).
+    /// Why not (namespace movieError), or what else there is to say (movieError::cannotPlay).
     std::int16_t error = movieError::none;
 };
 
@@ -43,17 +43,12 @@ public:
     virtual void enter() = 0;
     virtual void exit() = 0;
 
-    /// Opens a movie: a file, or a URL of a scheme that can be read. Nothing when it cannot be played; stickyError()
-    /// says why. A movie may open with an error left behind (movieError::cannotPlay). Local files are opened in about a
-    /// millisecond; for a network URL the event loop runs meanwhile, and it gives up after 10 seconds.
-    virtual std::optional<MovieInfo> open(const QUrl& url) = 0;
-    /// Opens a movie without waiting: `completion` is called once, from the run loop, unless the answer of this call
-    /// was destroyed or the toolkit ended before. Leaves stickyError() alone. The toolkit has been entered.
+    /// Opens a movie, a file or a URL of a scheme that can be read, without waiting: `completion` is called once, from
+    /// the run loop, unless the answer of this call was destroyed or the toolkit ended before. A local file takes about
+    /// a millisecond; a network address is given up when nothing comes from it for 10 seconds. The toolkit has been
+    /// entered.
     [[nodiscard]] virtual std::unique_ptr<MovieOpening> openAsync(const QUrl& url,
                                                                   std::function<void(OpenedMovie)> completion) = 0;
-    /// The last error, until it is cleared.
-    virtual std::int16_t stickyError() const = 0;
-    virtual void clearStickyError() = 0;
 
     virtual MoviePlayer& player() = 0;
 };

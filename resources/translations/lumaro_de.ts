@@ -27,6 +27,110 @@
         <source>None of the files that were given is a movie that Lumaro can play. You can choose others.</source>
         <translation>Keine der angegebenen Dateien ist ein Film, den Lumaro abspielen kann. Sie können andere auswählen.</translation>
     </message>
+    <message id="OpenErrorMissing">
+        <source>The file doesn’t exist.</source>
+        <translation>Die Datei gibt es nicht.</translation>
+    </message>
+    <message id="OpenErrorEmpty">
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message id="OpenErrorNotAFile">
+        <source>It is a folder or a device, not a file.</source>
+        <translation>Das ist ein Ordner oder ein Gerät, keine Datei.</translation>
+    </message>
+    <message id="OpenErrorPermission">
+        <source>You aren’t allowed to read the file.</source>
+        <translation>Sie dürfen die Datei nicht lesen.</translation>
+    </message>
+    <message id="OpenErrorNotAMovie">
+        <source>It isn’t a movie that Lumaro can play.</source>
+        <translation>Das ist kein Film, den Lumaro abspielen kann.</translation>
+    </message>
+    <message id="OpenErrorTimeout">
+        <source>No answer came in time.</source>
+        <translation>Es kam nicht rechtzeitig eine Antwort.</translation>
+    </message>
+    <message id="OpenErrorLibraries">
+        <source>The libraries that open movies are missing.</source>
+        <translation>Die Bibliotheken, die Filme öffnen, fehlen.</translation>
+    </message>
+    <message id="OpenErrorScheme">
+        <source>Lumaro doesn’t know addresses of this kind.</source>
+        <translation>Adressen dieser Art kennt Lumaro nicht.</translation>
+    </message>
+    <message id="OpenErrorUnknownHost">
+        <source>There is no server of that name, or no connection to the network.</source>
+        <translation>Es gibt keinen Server dieses Namens oder keine Verbindung zum Netz.</translation>
+    </message>
+    <message id="OpenErrorUnreachable">
+        <source>The server can’t be reached.</source>
+        <translation>Der Server ist nicht erreichbar.</translation>
+    </message>
+    <message id="OpenErrorRefused">
+        <source>The server refused the connection.</source>
+        <translation>Der Server hat die Verbindung abgelehnt.</translation>
+    </message>
+    <message id="OpenErrorConnection">
+        <source>The connection to the server broke off.</source>
+        <translation>Die Verbindung zum Server ist abgebrochen.</translation>
+    </message>
+    <message id="OpenErrorRanges">
+        <source>The server sends files only from their beginning, and what is needed first stands at this movie’s end. Download it to play it.</source>
+        <translation>Der Server sendet Dateien nur von Anfang an, und was zuerst gebraucht wird, steht am Ende dieses Films. Zum Abspielen muss er heruntergeladen werden.</translation>
+    </message>
+    <message id="OpenErrorLogin">
+        <source>The server asks for a name and a password (401).</source>
+        <translation>Der Server verlangt Namen und Passwort (401).</translation>
+    </message>
+    <message id="OpenErrorForbidden">
+        <source>The server doesn’t allow it (403).</source>
+        <translation>Der Server erlaubt es nicht (403).</translation>
+    </message>
+    <message id="OpenErrorNotFound">
+        <source>The server has no such file (404).</source>
+        <translation>Der Server hat keine solche Datei (404).</translation>
+    </message>
+    <message id="OpenErrorRejected">
+        <source>The server rejected the request.</source>
+        <translation>Der Server hat die Anfrage zurückgewiesen.</translation>
+    </message>
+    <message id="OpenErrorServer">
+        <source>The server answered with an error of its own.</source>
+        <translation>Der Server hat mit einem eigenen Fehler geantwortet.</translation>
+    </message>
+    <message id="OpenErrorNoMovies">
+        <source>There is no movie in this folder.</source>
+        <translation>In diesem Ordner ist kein Film.</translation>
+    </message>
+    <message id="AndMoreMessage">
+        <source>… and %@ more.</source>
+        <translation>… und %@ weitere.</translation>
+    </message>
+    <message id="UnableToOpenLine">
+        <source>“%@” (%@): %@</source>
+        <translation>„%@“ (%@): %@</translation>
+    </message>
+    <message id="UnableToOpenFilesMessage">
+        <source>%@ files can’t be opened.</source>
+        <translation>%@ Dateien können nicht geöffnet werden.</translation>
+    </message>
+    <message id="UnableToPlayFilesMessage">
+        <source>%@ movies may not play as they should.</source>
+        <translation>%@ Filme lassen sich vielleicht nicht richtig abspielen.</translation>
+    </message>
+    <message id="NoMoviesInFoldersDetails">
+        <source>There is no movie that Lumaro can play in:</source>
+        <translation>Kein Film, den Lumaro abspielen kann, liegt in:</translation>
+    </message>
+    <message id="Loading: %@">
+        <source>Loading: %@</source>
+        <translation>Lädt: %@</translation>
+    </message>
+    <message id="Looking for Movies: %@">
+        <source>Looking for movies: %@</source>
+        <translation>Sucht Filme: %@</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>

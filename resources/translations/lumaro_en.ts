@@ -27,6 +27,110 @@
         <source>None of the files that were given is a movie that Lumaro can play. You can choose others.</source>
         <translation>None of the files that were given is a movie that Lumaro can play. You can choose others.</translation>
     </message>
+    <message id="OpenErrorMissing">
+        <source>The file doesn’t exist.</source>
+        <translation>The file doesn’t exist.</translation>
+    </message>
+    <message id="OpenErrorEmpty">
+        <source>The file is empty.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message id="OpenErrorNotAFile">
+        <source>It is a folder or a device, not a file.</source>
+        <translation>It is a folder or a device, not a file.</translation>
+    </message>
+    <message id="OpenErrorPermission">
+        <source>You aren’t allowed to read the file.</source>
+        <translation>You aren’t allowed to read the file.</translation>
+    </message>
+    <message id="OpenErrorNotAMovie">
+        <source>It isn’t a movie that Lumaro can play.</source>
+        <translation>It isn’t a movie that Lumaro can play.</translation>
+    </message>
+    <message id="OpenErrorTimeout">
+        <source>No answer came in time.</source>
+        <translation>No answer came in time.</translation>
+    </message>
+    <message id="OpenErrorLibraries">
+        <source>The libraries that open movies are missing.</source>
+        <translation>The libraries that open movies are missing.</translation>
+    </message>
+    <message id="OpenErrorScheme">
+        <source>Lumaro doesn’t know addresses of this kind.</source>
+        <translation>Lumaro doesn’t know addresses of this kind.</translation>
+    </message>
+    <message id="OpenErrorUnknownHost">
+        <source>There is no server of that name, or no connection to the network.</source>
+        <translation>There is no server of that name, or no connection to the network.</translation>
+    </message>
+    <message id="OpenErrorUnreachable">
+        <source>The server can’t be reached.</source>
+        <translation>The server can’t be reached.</translation>
+    </message>
+    <message id="OpenErrorRefused">
+        <source>The server refused the connection.</source>
+        <translation>The server refused the connection.</translation>
+    </message>
+    <message id="OpenErrorConnection">
+        <source>The connection to the server broke off.</source>
+        <translation>The connection to the server broke off.</translation>
+    </message>
+    <message id="OpenErrorRanges">
+        <source>The server sends files only from their beginning, and what is needed first stands at this movie’s end. Download it to play it.</source>
+        <translation>The server sends files only from their beginning, and what is needed first stands at this movie’s end. Download it to play it.</translation>
+    </message>
+    <message id="OpenErrorLogin">
+        <source>The server asks for a name and a password (401).</source>
+        <translation>The server asks for a name and a password (401).</translation>
+    </message>
+    <message id="OpenErrorForbidden">
+        <source>The server doesn’t allow it (403).</source>
+        <translation>The server doesn’t allow it (403).</translation>
+    </message>
+    <message id="OpenErrorNotFound">
+        <source>The server has no such file (404).</source>
+        <translation>The server has no such file (404).</translation>
+    </message>
+    <message id="OpenErrorRejected">
+        <source>The server rejected the request.</source>
+        <translation>The server rejected the request.</translation>
+    </message>
+    <message id="OpenErrorServer">
+        <source>The server answered with an error of its own.</source>
+        <translation>The server answered with an error of its own.</translation>
+    </message>
+    <message id="OpenErrorNoMovies">
+        <source>There is no movie in this folder.</source>
+        <translation>There is no movie in this folder.</translation>
+    </message>
+    <message id="AndMoreMessage">
+        <source>… and %@ more.</source>
+        <translation>… and %@ more.</translation>
+    </message>
+    <message id="UnableToOpenLine">
+        <source>“%@” (%@): %@</source>
+        <translation>“%@” (%@): %@</translation>
+    </message>
+    <message id="UnableToOpenFilesMessage">
+        <source>%@ files can’t be opened.</source>
+        <translation>%@ files can’t be opened.</translation>
+    </message>
+    <message id="UnableToPlayFilesMessage">
+        <source>%@ movies may not play as they should.</source>
+        <translation>%@ movies may not play as they should.</translation>
+    </message>
+    <message id="NoMoviesInFoldersDetails">
+        <source>There is no movie that Lumaro can play in:</source>
+        <translation>There is no movie that Lumaro can play in:</translation>
+    </message>
+    <message id="Loading: %@">
+        <source>Loading: %@</source>
+        <translation>Loading: %@</translation>
+    </message>
+    <message id="Looking for Movies: %@">
+        <source>Looking for movies: %@</source>
+        <translation>Looking for movies: %@</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>

@@ -39,8 +39,9 @@ public:
     void fade() { settings.runLoop.advance(std::max(window.fadingInInterval(), window.fadingOutInterval()) + 0.05); }
     /// Makes an empty file, which the toolkit opens as a movie, and answers its path.
     QString file(const QString& name) { return writeFile(folder.filePath(name)); }
-    /// What the playlist holds, as file names.
+    /// What the playlist holds once everything was opened, as file names.
     QString listed() {
+        settings.runLoop.advance(0.02);
         QStringList names;
         for (const QString& address : objects->playlist().arrayWithURLsAsStrings())
             names.append(QUrl(address).fileName());

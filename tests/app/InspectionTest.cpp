@@ -14,7 +14,8 @@ namespace {
 class Inspection : public testing::Test {
 protected:
     QJsonArray inspect(const QStringList& files, const InspectedSubtitles& subtitles = {}) {
-        const InspectionResult result = inspectFiles(settings.environment, toolkit, files, subtitles);
+        const InspectionResult result = inspectFiles(
+            settings.environment, toolkit, [this](const QUrl& url) { return toolkit.answerOf(url); }, files, subtitles);
         errors = result.errors;
         return QJsonDocument::fromJson(result.json).array();
     }

@@ -68,11 +68,15 @@ protected:
     }
     ~MovieController() override { commands.target = nullptr; }
 
+    void add(const QList<QUrl>& urls) {
+        playlist.addURLs(urls, Adding::append, Starting::no);
+        settings.runLoop.advance(0.02);
+    }
     void addMovies(int count) {
         QList<QUrl> urls;
         for (int number = 1; number <= count; ++number)
             urls << QUrl::fromLocalFile(QString("/movies/movie %1.mp4").arg(number));
-        playlist.addURLs(urls, Adding::append, Starting::no);
+        add(urls);
     }
     std::string posted() const { return confirmations.last.toStdString(); }
     static std::string text(const char* words, const QStringList& arguments = {}) {
@@ -106,7 +110,7 @@ protected:
     RecordingMainWindow mainWindow;
     RecordingServices services;
     RecordingPointer pointer;
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel}};
+    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel, confirmations}};
     NoViews scene;
     RecordingSubtitles subtitles{settings.environment, scene};
     platform::Menu playlistMenu, subtitlesMenu;
@@ -535,15 +539,14 @@ TEST_F(MovieController, Items_carry_their_tag_to_what_they_act_on) {
 
 TEST_F(MovieController, The_playlist_menu_lists_the_file_names_as_it_opens) {
     playlistMenu.addItem("old", QString(), 0);
-    playlist.addURLs({QUrl::fromLocalFile("/a/50% & #1 \u00e4.mp4"), QUrl("http://host/dir/b%20c.mkv?x=/y"),
-                      QUrl("http://host/live/")},
-                     Adding::replace, Starting::no);
+    add({QUrl::fromLocalFile("/a/50% & #1 \u00e4.mp4"), QUrl("http://host/dir/b%20c.mkv?x=/y"),
+         QUrl("http://host/live/")});
     playlistMenu.willOpen();
     EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|b c.mkv|live");
     EXPECT_EQ(playlistMenu.itemAt(2).tag, 2);
     EXPECT_EQ(playlistMenu.itemAt(2).action, "changeMovie");
     // Arranged while the menu is open: what was chosen is the movie that the item named.
-    playlist.addURLs({QUrl::fromLocalFile("/a/a.mp4")}, Adding::append, Starting::no);
+    add({QUrl::fromLocalFile("/a/a.mp4")});
     settings.defaults().setInteger(Arrangement::sorted, kQVPlaylistDefaultArrangement);
     playlist.rearrange();
     perform("changeMovie", 0);

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MovieOpener.h"
 
-#include "platform/movie/mpv/Delivery.h"
+#include "platform/base/Background.h"
+#include "platform/base/Delivery.h"
 #include "tests/support/ManualRunLoop.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <future>
 #include <optional>
 #include <thread>
 #include <vector>
@@ -83,7 +86,7 @@ TEST(MovieOpener, calls_each_completion_once_from_the_run_loop) {
 TEST(MovieOpener, one_that_is_given_up_is_interrupted_and_answers_nothing) {
     InstalledLoop loop;
     int answers = 0;
-    bool wasCancelled = false;
+    std::atomic<bool> wasCancelled = false;
     std::optional<MovieOpener> opener(std::in_place);
     const auto probe = [&](const std::atomic<bool>& cancelled) {
         const OpenedMovie answer = waitForCancelling(cancelled);
@@ -92,7 +95,7 @@ TEST(MovieOpener, one_that_is_given_up_is_interrupted_and_answers_nothing) {
     };
     auto opening = opener->open(probe, [&](const OpenedMovie&) { ++answers; });
     opening.reset();
-    EXPECT_TRUE(loop->runPosted(5));
+    EXPECT_TRUE(background::waitUntilIdle(5));
     EXPECT_TRUE(wasCancelled);
 
     // One that is under way at the end is waited for.
@@ -102,6 +105,26 @@ TEST(MovieOpener, one_that_is_given_up_is_interrupted_and_answers_nothing) {
     EXPECT_TRUE(wasCancelled);
     loop->runPending();
     EXPECT_EQ(answers, 0);
+}
+
+TEST(MovieOpener, one_that_cannot_be_interrupted_is_left_behind_and_leaves_the_run_loop_alone) {
+    const auto released = std::make_shared<std::promise<void>>();
+    {
+        InstalledLoop loop;
+        MovieOpener opener;
+        const auto opening = opener.open(
+            [wait = released->get_future().share()](const auto&) {
+                wait.wait();
+                return failing(movieError::none);
+            },
+            [](const OpenedMovie&) { ADD_FAILURE() << "given up"; });
+        const auto before = std::chrono::steady_clock::now();
+        opener.cancelAll();
+        EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(1));
+        EXPECT_FALSE(background::waitUntilIdle(0));
+    }
+    released->set_value();
+    EXPECT_TRUE(background::waitUntilIdle(5));
 }
 
 TEST(MovieOpener, a_completion_may_give_its_own_opening_up_and_open_the_next) {

@@ -61,8 +61,8 @@ TEST(QVMovie, movies_are_ordered_by_the_settings) {
     for (const auto& c : cases) {
         rig.settings.defaults().setBool(c.names, kQVSortOnlyFilenames);
         rig.settings.defaults().setBool(c.numbers, kQVSortNumerically);
-        const auto left = QVMovie::movieWithFilePath(rig.settings.environment, rig.movies, c.left);
-        const auto right = QVMovie::movieWithFilePath(rig.settings.environment, rig.movies, c.right);
+        const auto left = rig.open(QUrl::fromLocalFile(c.left).toString(QUrl::FullyEncoded));
+        const auto right = rig.open(QUrl::fromLocalFile(c.right).toString(QUrl::FullyEncoded));
         EXPECT_EQ(left->compare(*right), c.order) << c.left;
         EXPECT_EQ(right->compare(*left), -c.order) << c.left;
     }
@@ -78,7 +78,7 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
     QDir(folder.path()).mkdir("Film.folder.srt");
 
     const auto open = [&] {
-        return QVMovie::movieWithFilePath(rig.settings.environment, rig.movies, folder.filePath("Film.avi"));
+        return rig.open(QUrl::fromLocalFile(folder.filePath("Film.avi")).toString(QUrl::FullyEncoded));
     };
     const auto movie = open();
     rig.readers.offered.sort();

@@ -4,6 +4,7 @@
 #include "context/Notifications.h"
 #include "platform/base/Localization.h"
 #include "playlist/Arrangement.h"
+#include "playlist/OpeningReport.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -25,7 +26,10 @@ struct PlaylistRig : PlaybackRig {
         QList<QUrl> urls;
         for (const QString& name : names)
             urls.append(url(name));
-        return playlist.addURLs(urls, adding, starting);
+        bool answer = false;
+        playlist.addURLs(urls, adding, starting, [&](bool added) { answer = added; });
+        settings.runLoop.advance(0.2);
+        return answer;
     }
     QString order() const {
         QStringList names;
@@ -34,7 +38,7 @@ struct PlaylistRig : PlaybackRig {
         return names.join(u' ');
     }
 
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel}};
+    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel, confirmations}};
 };
 
 } // namespace
@@ -69,39 +73,204 @@ TEST(QVPlaylistController, added_movies_are_announced_and_start_to_play) {
     EXPECT_TRUE(rig.view.isPlaying());
 }
 
-TEST(QVPlaylistController, files_that_fail_are_reported_and_the_rest_plays) {
+TEST(QVPlaylistController, files_that_fail_are_reported_together_while_the_rest_plays) {
     PlaylistRig rig;
     rig.toolkit.scripts[url("broken.avi")] = {platform::movieError::couldNotOpen};
-    for (const char* name : {"kept.avi", "dropped.avi"})
+    rig.toolkit.scripts[url("gone.avi")] = {platform::movieError::fileNotFound};
+    for (const char* name : {"doubtful.avi", "odd.avi"})
         rig.toolkit.scripts[url(name)] = {platform::movieError::cannotPlay, true};
-    rig.toolkit.scripts[url("odd.avi")] = {-2010, true};
-    rig.desktop.alertAnswers = {1, 1, -1};
-    const QStringList names{"broken.avi", "kept.avi", "dropped.avi", "odd.avi", "good.avi"};
+    rig.toolkit.scripts[url("strange.avi")] = {-2010, true};
+    const QStringList names{"broken.avi", "doubtful.avi", "strange.avi", "gone.avi", "odd.avi", "good.avi"};
+    QStringList meanwhile;
+    rig.desktop.whileAlertIsUp = [&] { meanwhile << rig.order() + (rig.view.isPlaying() ? " plays" : ""); };
+    rig.desktop.alertAnswers = {1, 1};
     EXPECT_TRUE(rig.add(names));
-    EXPECT_EQ(rig.order(), "kept odd good");
-    ASSERT_EQ(rig.desktop.alerts.size(), 3U);
-    EXPECT_EQ(rig.desktop.alerts[0].title, localizedFormat("QTUnableToOpenFileError", {"broken.avi"}));
-    EXPECT_EQ(rig.desktop.alerts[0].message, localizedFormat("QTUnableToOpenFileDetails", {"-2000"}));
+    EXPECT_EQ(meanwhile, QStringList(2, "strange good plays"));
+    ASSERT_EQ(rig.desktop.alerts.size(), 2U);
+    EXPECT_EQ(rig.desktop.alerts[0].title, localizedFormat("UnableToOpenFilesMessage", {"2"}));
+    EXPECT_TRUE(rig.desktop.alerts[0].message.contains("broken.avi"));
+    EXPECT_TRUE(rig.desktop.alerts[0].message.contains("gone.avi"));
     EXPECT_TRUE(rig.desktop.alerts[0].otherButton.isEmpty());
-    EXPECT_EQ(rig.desktop.alerts[2].title, localizedFormat("QTUnableToPlayFileError", {"dropped.avi"}));
-    EXPECT_EQ(rig.desktop.alerts[2].message, localizedFormat("QTUnableToPlayFileDetails", {"-2008"}));
-    EXPECT_FALSE(rig.desktop.alerts[2].otherButton.isEmpty());
+    EXPECT_TRUE(rig.desktop.alerts[1].message.contains("doubtful.avi\nodd.avi"));
+    EXPECT_FALSE(rig.desktop.alerts[1].otherButton.isEmpty());
+    EXPECT_EQ(rig.order(), "strange doubtful odd good") << "not before the one that plays";
+
+    // A single one has an alert of its own.
     rig.desktop.alerts.clear();
+    rig.desktop.alertAnswers = {1, -1};
+    EXPECT_FALSE(rig.add({"broken.avi"}, Adding::append));
+    EXPECT_FALSE(rig.add({"odd.avi"}, Adding::append));
+    ASSERT_EQ(rig.desktop.alerts.size(), 2U);
+    EXPECT_EQ(rig.desktop.alerts[0].title, localizedFormat("QTUnableToOpenFileError", {"broken.avi"}));
+    EXPECT_EQ(rig.desktop.alerts[0].message, localizedFormat("QTUnableToOpenFileDetails", {"-2000"}) + "\n\n/movies");
+    EXPECT_EQ(rig.desktop.alerts[1].title, localizedFormat("QTUnableToPlayFileError", {"odd.avi"}));
+    EXPECT_EQ(rig.desktop.alerts[1].message, localizedFormat("QTUnableToPlayFileDetails", {"-2008"}));
+    EXPECT_EQ(rig.order(), "strange doubtful odd good");
+}
+
+TEST(QVPlaylistController, what_is_restored_silently_shows_no_alert_and_no_panel) {
+    PlaylistRig rig;
     rig.playlist.setReportsError(false);
-    EXPECT_TRUE(rig.add(names));
+    rig.toolkit.scripts[url("broken.avi")] = {platform::movieError::couldNotOpen};
+    rig.toolkit.scripts[url("doubtful.avi")] = {platform::movieError::cannotPlay, true};
+    EXPECT_FALSE(rig.add({"broken.avi"}, Adding::replace, Starting::no));
+    EXPECT_TRUE(rig.add({"broken.avi", "doubtful.avi", "good.avi"}, Adding::replace, Starting::no));
+    EXPECT_EQ(rig.order(), "doubtful good");
+    EXPECT_FALSE(rig.add({"broken.avi"}));
+    EXPECT_EQ(rig.playlist.count(), 2U) << "a list that is there stays";
     EXPECT_TRUE(rig.desktop.alerts.empty());
-    EXPECT_EQ(rig.order(), "kept dropped odd good");
-    rig.add({"broken.avi"});
-    EXPECT_TRUE(rig.desktop.alerts.empty()) << "a list that is there stays";
-    EXPECT_EQ(rig.playlist.count(), 4U);
+    EXPECT_EQ(rig.openPanel.opens, 0);
 }
 
 TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
     PlaylistRig rig;
-    EXPECT_FALSE(rig.add({}));
+    rig.playlist.addURLs({}, Adding::replace, Starting::yes);
     EXPECT_EQ(rig.openPanel.opens, 0) << "not before the call has returned";
     rig.settings.runLoop.runPending();
     EXPECT_EQ(rig.openPanel.opens, 1);
+    EXPECT_TRUE(rig.desktop.alerts.empty());
+    // Folders without movies are named by the panel itself.
+    rig.playlist.addURLs({}, Adding::replace, Starting::yes, nullptr,
+                         {{url("empty"), OpeningReport::noMoviesInFolder}});
+    rig.settings.runLoop.runPending();
+    ASSERT_EQ(rig.desktop.alerts.size(), 1U);
+    EXPECT_TRUE(rig.desktop.alerts[0].message.contains("/movies/empty"));
+    EXPECT_EQ(rig.openPanel.opens, 2);
+}
+
+// Addresses that hang
+
+namespace {
+
+/// A list with an address that does not answer before the test says so.
+struct HangingRig : PlaylistRig {
+    using PlaylistRig::PlaylistRig;
+    const QUrl address{"http://example.org/slow.avi"};
+    QList<QUrl> urls(const QStringList& names) const {
+        QList<QUrl> list;
+        for (const QString& name : names)
+            list.append(name == "slow.avi" ? address : url(name));
+        return list;
+    }
+    void begin(const QStringList& names, Adding adding = Adding::replace, Starting starting = Starting::yes) {
+        toolkit.hanging = {address};
+        playlist.addURLs(urls(names), adding, starting);
+        settings.runLoop.advance(0.5);
+    }
+    void answer() {
+        toolkit.answer(address);
+        settings.runLoop.advance(0.5);
+    }
+};
+
+} // namespace
+
+TEST(QVPlaylistController, an_address_that_hangs_holds_up_nothing_and_takes_its_place_when_it_answers) {
+    const struct {
+        QStringList names;
+        Starting starting;
+        const char *before, *after;
+    } cases[] = {
+        {{"a.avi", "slow.avi", "b.avi"}, Starting::yes, "a b", "a slow b"},
+        {{"slow.avi", "a.avi", "b.avi"}, Starting::yes, "a b", "a slow b"}, // a plays
+        {{"slow.avi", "a.avi", "b.avi"}, Starting::no, "a b", "slow a b"},
+        {{"a.avi", "b.avi", "slow.avi"}, Starting::yes, "a b", "a b slow"},
+    };
+    for (const auto& c : cases) {
+        HangingRig rig;
+        rig.begin(c.names, Adding::replace, c.starting);
+        EXPECT_EQ(rig.order(), c.before);
+        EXPECT_EQ(rig.view.isPlaying(), c.starting == Starting::yes);
+        const auto current = rig.playlist.movie();
+        EXPECT_EQ(rig.confirmations.last, platform::localizedFormat("Loading: %@", {"slow.avi"}));
+        rig.answer();
+        EXPECT_EQ(rig.order(), c.after);
+        EXPECT_EQ(rig.playlist.movie(), current);
+        EXPECT_EQ(rig.view.movie(), current);
+        rig.confirmations.last.clear();
+        rig.settings.runLoop.advance(30);
+        EXPECT_TRUE(rig.confirmations.last.isEmpty()) << "nothing is awaited any more";
+    }
+}
+
+TEST(QVPlaylistController, an_address_that_answers_soon_is_played_first) {
+    HangingRig rig;
+    rig.toolkit.hanging = {rig.address};
+    rig.playlist.addURLs(rig.urls({"slow.avi", "a.avi"}), Adding::replace, Starting::yes);
+    rig.settings.runLoop.advance(0.2);
+    EXPECT_EQ(rig.playlist.count(), 0U);
+    rig.answer();
+    EXPECT_EQ(rig.order(), "slow a");
+    EXPECT_EQ(rig.playlist.index(), 0U);
+    EXPECT_TRUE(rig.confirmations.last.isEmpty()) << "not worth a word";
+}
+
+TEST(QVPlaylistController, what_is_opened_after_an_address_that_hangs_comes_at_once) {
+    const struct {
+        Adding adding;
+        const char* after;
+        int stillOpening;
+    } cases[] = {{Adding::replace, "b", 0}, {Adding::append, "b slow", 1}};
+    for (const auto& c : cases) {
+        HangingRig rig;
+        rig.begin({"slow.avi"});
+        rig.playlist.addURLs(rig.urls({"b.avi"}), c.adding, Starting::yes);
+        rig.settings.runLoop.runPending();
+        EXPECT_EQ(rig.order(), "b");
+        EXPECT_TRUE(rig.view.isPlaying());
+        EXPECT_EQ(rig.toolkit.waiting(), c.stillOpening) << "a list that is replaced gives up what was to stand in it";
+        rig.answer();
+        EXPECT_EQ(rig.order(), c.after);
+    }
+}
+
+TEST(QVPlaylistController, a_list_that_arrives_in_parts_is_arranged_as_a_whole) {
+    HangingRig rig({{kQVPlaylistDefaultArrangement, Arrangement::sorted}});
+    rig.begin({"z.avi", "slow.avi", "c.avi", "a.avi"});
+    EXPECT_EQ(rig.order(), "a c z");
+    EXPECT_EQ(rig.playlist.index(), 0U);
+    rig.answer();
+    EXPECT_EQ(rig.order(), "a c z slow") << "by their paths";
+    rig.begin({"b.avi", "slow.avi"}, Adding::append);
+    rig.answer();
+    EXPECT_EQ(rig.order(), "a b c z slow slow");
+    EXPECT_EQ(rig.playlist.index(), 0U);
+
+    // Shuffled: the first one may be any, and what follows it is never thrown in again.
+    rig.settings.defaults().setInteger(Arrangement::shuffled, kQVPlaylistDefaultArrangement);
+    QStringList many;
+    for (int i = 0; i < 100; ++i)
+        many.append(QStringLiteral("%1.avi").arg(i));
+    rig.begin(many + QStringList{"slow.avi"});
+    const QString order = rig.order();
+    EXPECT_FALSE(order.startsWith("0 1 2 3"));
+    rig.answer();
+    EXPECT_EQ(rig.playlist.count(), 101U);
+    EXPECT_EQ(rig.order().remove(" slow"), order);
+    EXPECT_EQ(rig.playlist.index(), 0U);
+}
+
+TEST(QVPlaylistController, many_files_come_in_parts_in_their_order) {
+    PlaylistRig rig;
+    QList<QUrl> urls;
+    for (int i = 0; i < 500; ++i)
+        urls.append(url(QStringLiteral("%1.avi").arg(i)));
+    const QUrl last = urls.last();
+    rig.toolkit.hanging = {last};
+    Posts<QVPlaylistChangedNotification> changes(rig.settings.notifications);
+    bool ended = false;
+    rig.playlist.addURLs(urls, Adding::replace, Starting::yes, [&](bool) { ended = true; });
+    rig.settings.runLoop.advance(1);
+    EXPECT_EQ(rig.playlist.count(), 499U);
+    EXPECT_FALSE(ended);
+    rig.toolkit.answer(last);
+    rig.settings.runLoop.advance(1);
+    EXPECT_TRUE(ended);
+    EXPECT_LT(changes.count, 5);
+    QStringList names;
+    for (int i = 0; i < 500; ++i)
+        names.append(QString::number(i));
+    EXPECT_EQ(rig.order(), names.join(u' '));
 }
 
 TEST(QVPlaylistController, the_current_movie_stays_current_when_the_list_is_arranged) {
@@ -181,6 +350,7 @@ TEST(QVPlaylistController, the_folder_of_the_last_movie_is_where_the_next_open_p
     PlaylistRig rig;
     const auto folderAfter = [&](const QList<QUrl>& list) {
         rig.playlist.addURLs(list, Adding::append, Starting::no);
+        rig.settings.runLoop.advance(0.02);
         return rig.settings.defaults().stringForKey(kNSNavLastRootDirectory);
     };
     EXPECT_EQ(folderAfter({url("a.avi"), QUrl::fromLocalFile(QDir::homePath() + "/Films/b.avi")}), "~/Films");

@@ -112,8 +112,9 @@ private:
 class SubtitlesController : public testing::Test {
 protected:
     std::shared_ptr<QVMovie> movie(const QStringList& tracks) {
-        auto made = QVMovie::movieWithURL(rig.settings.environment, {rig.toolkit, rig.desktop, registry, rig.discovery},
-                                          QUrl(QStringLiteral("file:///movies/a.mp4")));
+        auto made =
+            QVMovie::movieWithOpened(rig.settings.environment, {rig.toolkit, rig.desktop, registry, rig.discovery},
+                                     rig.toolkit.answerOf(QUrl(QStringLiteral("file:///movies/a.mp4"))));
         for (const QString& track : tracks)
             made->addSubtitleFile(track);
         return made;

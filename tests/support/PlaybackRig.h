@@ -43,7 +43,7 @@ struct PlaybackRig {
     ScriptedPlayer& player() { return toolkit.scriptedPlayer; }
     /// Opens the plain movie of an address.
     std::shared_ptr<QVMovie> open(const QString& address) {
-        return QVMovie::movieWithURL(settings.environment, movies, QUrl(address));
+        return QVMovie::movieWithOpened(settings.environment, movies, toolkit.answerOf(QUrl(address)));
     }
     /// Opens it and shows it.
     std::shared_ptr<QVMovie> show(const QString& address = QStringLiteral("file:///movies/a.mp4")) {

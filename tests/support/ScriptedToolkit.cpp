@@ -117,25 +117,38 @@ platform::OpenedMovie ScriptedToolkit::answerOf(const QUrl& url) const {
     return {script->opens ? std::optional(plainMovie(url)) : std::nullopt, script->error};
 }
 
-std::optional<platform::MovieInfo> ScriptedToolkit::open(const QUrl& url) {
-    if (whileOpening)
-        whileOpening(url);
-    platform::OpenedMovie opened = answerOf(url);
-    if (opened.error != platform::movieError::none)
-        _stickyError = opened.error;
-    return std::move(opened.info);
-}
-
 std::unique_ptr<platform::MovieOpening>
 ScriptedToolkit::openAsync(const QUrl& url, std::function<void(platform::OpenedMovie)> completion) {
     struct Opening final : platform::MovieOpening {
-        std::shared_ptr<std::function<void(platform::OpenedMovie)>> completion;
+        std::shared_ptr<Completion> completion;
     };
+    if (whileOpening)
+        whileOpening(url);
     auto opening = std::make_unique<Opening>();
-    opening->completion = std::make_shared<std::function<void(platform::OpenedMovie)>>(std::move(completion));
-    platform::RunLoop::main().post([weak = std::weak_ptr(opening->completion), opened = answerOf(url)] {
-        if (const auto call = weak.lock())
+    opening->completion = std::make_shared<Completion>(std::move(completion));
+    if (hanging.contains(url))
+        _held.emplace_back(url, opening->completion);
+    else
+        post(opening->completion, answerOf(url));
+    return opening;
+}
+
+void ScriptedToolkit::post(const std::weak_ptr<Completion>& completion, const platform::OpenedMovie& opened) {
+    platform::RunLoop::main().post([completion, opened] {
+        if (const auto call = completion.lock())
             (*call)(opened);
     });
-    return opening;
+}
+
+void ScriptedToolkit::answer(const QUrl& url) {
+    for (const auto& [held, completion] : std::exchange(_held, {})) {
+        if (held == url)
+            post(completion, answerOf(url));
+        else
+            _held.emplace_back(held, completion);
+    }
+}
+
+int ScriptedToolkit::waiting() const {
+    return static_cast<int>(std::ranges::count_if(_held, [](const auto& held) { return !held.second.expired(); }));
 }

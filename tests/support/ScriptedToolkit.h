@@ -5,10 +5,12 @@
 #include "platform/movie/MovieToolkit.h"
 
 #include <QHash>
+#include <QSet>
 #include <QUrl>
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// A player without pictures: the test moves the time of the movie loaded in it.
@@ -70,22 +72,27 @@ public:
         bool opens = false;
     };
     QHash<QUrl, Script> scripts;
-    /// Runs inside each open, as the event loop does while a network URL is opened.
+    /// Told of each URL that is opened.
     std::function<void(const QUrl&)> whileOpening;
+    /// These are not answered before answer() is called.
+    QSet<QUrl> hanging;
+    void answer(const QUrl& url);
+    /// How many openings wait for that.
+    int waiting() const;
+    /// What opening a URL gives.
+    platform::OpenedMovie answerOf(const QUrl& url) const;
     int entered = 0;
     int exited = 0;
     ScriptedPlayer scriptedPlayer;
 
     void enter() override { ++entered; }
     void exit() override { ++exited; }
-    std::optional<platform::MovieInfo> open(const QUrl& url) override;
     std::unique_ptr<platform::MovieOpening> openAsync(const QUrl& url,
                                                       std::function<void(platform::OpenedMovie)> completion) override;
-    std::int16_t stickyError() const override { return _stickyError; }
-    void clearStickyError() override { _stickyError = 0; }
     platform::MoviePlayer& player() override { return scriptedPlayer; }
 
 private:
-    platform::OpenedMovie answerOf(const QUrl& url) const;
-    std::int16_t _stickyError = 0;
+    using Completion = std::function<void(platform::OpenedMovie)>;
+    static void post(const std::weak_ptr<Completion>& completion, const platform::OpenedMovie& opened);
+    std::vector<std::pair<QUrl, std::weak_ptr<Completion>>> _held;
 };

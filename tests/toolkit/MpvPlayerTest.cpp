@@ -207,7 +207,7 @@ TEST(MpvPlayer, shows_the_picture_decoded_ahead_of_the_movie_at_its_beginning_wh
     for (const int number : {0, 90}) {
         ToolkitRig rig;
         const QUrl url = numberedMovie();
-        const auto info = rig.toolkit.open(url);
+        const auto info = rig.answerOf(url).info;
         ASSERT_TRUE(info);
         platform::MpvPlayer player;
         platform::Movie movie(*info, player);

@@ -106,11 +106,18 @@ void ToolkitRig::settle() {
     });
 }
 
+platform::OpenedMovie ToolkitRig::answerOf(const QUrl& url) {
+    std::optional<platform::OpenedMovie> answer;
+    const auto opening = toolkit.openAsync(url, [&](platform::OpenedMovie opened) { answer = std::move(opened); });
+    waitFor([&] { return answer.has_value(); });
+    return answer.value_or(platform::OpenedMovie{});
+}
+
 std::unique_ptr<platform::Movie> ToolkitRig::open(const QUrl& url) {
-    auto info = toolkit.open(url);
-    if (!info)
+    const platform::OpenedMovie opened = answerOf(url);
+    if (!opened.info)
         return nullptr;
-    auto movie = std::make_unique<platform::Movie>(*info, player());
+    auto movie = std::make_unique<platform::Movie>(*opened.info, player());
     armEnd(*movie);
     armJump(*movie);
     return movie;

@@ -54,6 +54,7 @@ public:
     /// Runs the event loop until then; false when it did not come within ten seconds.
     static bool waitFor(const std::function<bool()>& done);
     /// Opens the movie; what it reports is counted.
+    platform::OpenedMovie answerOf(const QUrl& url);
     std::unique_ptr<platform::Movie> open(const QUrl& url);
     /// Opens it, loads it and waits for its first picture.
     std::unique_ptr<platform::Movie> show(const QUrl& url);

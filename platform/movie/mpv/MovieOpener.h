@@ -10,6 +10,9 @@
 
 namespace platform {
 
+template <class Value>
+class Delivery;
+
 /// Opens movies on threads, one each. Main thread, with the run loop installed.
 class MovieOpener {
 public:
@@ -17,17 +20,25 @@ public:
     using Probe = std::function<OpenedMovie(const std::atomic<bool>& cancelled)>;
 
     MovieOpener();
+    MovieOpener(const MovieOpener&) = delete;
+    MovieOpener& operator=(const MovieOpener&) = delete;
     ~MovieOpener();
 
     /// As MovieToolkit::openAsync says.
     [[nodiscard]] std::unique_ptr<MovieOpening> open(Probe probe, std::function<void(OpenedMovie)> completion);
-    /// Gives up what is under way, and waits until the threads have ended; no completion is called any more.
+    /// Gives up what is under way; no completion is called any more. Waits a little for the threads to end: one that
+    /// hangs in the system is left behind (platform::background).
     void cancelAll();
 
 private:
     struct Job;
     class Opening;
-    std::vector<std::shared_ptr<Job>> _jobs;
+    /// A thread that runs, and an answer that may still be handed over.
+    struct UnderWay {
+        std::weak_ptr<Job> job;
+        std::weak_ptr<Delivery<OpenedMovie>> answer;
+    };
+    std::vector<UnderWay> _underWay;
 };
 
 } // namespace platform

@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/MovieProbe.h"
 
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/NetworkInput.h"
 #include "platform/movie/mpv/VideoStream.h"
 
 #include <QFile>
@@ -13,6 +14,7 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -20,17 +22,24 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// How long a server may send nothing, seconds.
+constexpr double networkTimeout = 10.0;
+
 struct Deadline {
     Clock::time_point end;
     const std::atomic<bool>& cancelled;
+    std::optional<NetworkInput> network;
     bool timedOut = false;
 
     static int interrupt(void* opaque) {
         auto* self = static_cast<Deadline*>(opaque);
         if (Clock::now() >= self->end)
             self->timedOut = true;
-        return self->timedOut || self->cancelled.load(std::memory_order_relaxed) ? 1 : 0;
+        const bool isHopeless = self->network && self->network->needsRanges();
+        return self->timedOut || isHopeless || self->cancelled.load(std::memory_order_relaxed) ? 1 : 0;
     }
+
+    std::int16_t error(const QUrl& url, int code) const;
 };
 
 struct CloseInput {
@@ -38,24 +47,31 @@ struct CloseInput {
 };
 using Input = std::unique_ptr<AVFormatContext, CloseInput>;
 
-std::int16_t errorOf(int code) {
+std::int16_t fileError(int code) {
     switch (code) {
     case AVERROR(ENOENT):
-    case AVERROR_HTTP_NOT_FOUND:
+    case AVERROR(ENOTDIR):
         return movieError::fileNotFound;
     case AVERROR(EACCES):
     case AVERROR(EPERM):
-    case AVERROR_HTTP_FORBIDDEN:
-    case AVERROR_HTTP_UNAUTHORIZED:
         return movieError::permissionDenied;
     case AVERROR(ETIMEDOUT):
     case AVERROR_EXIT:
         return movieError::timedOut;
-    case AVERROR_PROTOCOL_NOT_FOUND:
-        return movieError::noMediaHandler;
+    case AVERROR_INVALIDDATA:
+    case AVERROR_EOF:
+        return movieError::invalidMovie;
     default:
         return movieError::couldNotOpen;
     }
+}
+
+std::int16_t Deadline::error(const QUrl& url, int code) const {
+    if (network && network->needsRanges())
+        return movieError::needsRanges;
+    if (timedOut)
+        return movieError::timedOut;
+    return network && !cancelled ? networkError(url, code, network->isConnected()) : fileError(code);
 }
 
 /// A file that would block or that is no file is refused before the libraries see it: opening a FIFO waits for a
@@ -63,12 +79,12 @@ std::int16_t errorOf(int code) {
 std::int16_t checkFile(const QUrl& url) {
     struct stat status {};
     if (::stat(QFile::encodeName(url.toLocalFile()).constData(), &status) != 0)
-        return errorOf(AVERROR(errno));
+        return fileError(AVERROR(errno));
     if (!S_ISREG(status.st_mode) && !S_ISBLK(status.st_mode))
-        return movieError::couldNotOpen;
+        return movieError::notAFile;
     // An empty file is no movie; one of the kernel's, which only looks empty, may keep its reader waiting for ever.
     if (S_ISREG(status.st_mode) && status.st_size == 0)
-        return movieError::couldNotOpen;
+        return movieError::fileEmpty;
     return movieError::none;
 }
 
@@ -188,27 +204,34 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
             return {std::nullopt, error};
     }
 
-    Deadline deadline{
-        Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout)), cancelled};
+    Deadline deadline{Clock::now() +
+                          std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout)),
+                      cancelled, std::nullopt};
     AVFormatContext* context = av->avformat_alloc_context();
     if (!context)
         return {std::nullopt, movieError::couldNotOpen};
     context->interrupt_callback = {&Deadline::interrupt, &deadline};
     AVDictionary* options = nullptr;
-    if (isNetworkURL(url))
-        av->av_dict_set(&options, "rw_timeout", QByteArray::number(static_cast<qint64>(timeout * 1e6)).constData(), 0);
+    if (isNetworkURL(url)) {
+        deadline.network.emplace(*context);
+        av->av_dict_set(&options, "rw_timeout",
+                        QByteArray::number(static_cast<qint64>(networkTimeout * 1e6)).constData(), 0);
+    }
     // On failure the context is freed by the library.
     const int opened = av->avformat_open_input(&context, addressOf(url).constData(), nullptr, &options);
     av->av_dict_free(&options);
     if (opened < 0)
-        return {std::nullopt, deadline.timedOut ? movieError::timedOut : errorOf(opened)};
+        return {std::nullopt, deadline.error(url, opened)};
     const Input input(context);
 
     if (!isComplete(input.get())) {
         const int found = av->avformat_find_stream_info(input.get(), nullptr);
         if (found < 0)
-            return {std::nullopt, deadline.timedOut ? movieError::timedOut : errorOf(found)};
+            return {std::nullopt, deadline.error(url, found)};
     }
+
+    if (deadline.network && deadline.network->needsRanges())
+        return {std::nullopt, movieError::needsRanges};
 
     const AVStream* video = firstVideoStream(input.get());
     const AVStream* audio = firstSoundStream(input.get());

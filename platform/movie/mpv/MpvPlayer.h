@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/Delivery.h"
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MoviePlayer.h"
-#include "platform/movie/mpv/Delivery.h"
 #include "platform/movie/mpv/MpvVideoLayer.h"
 #include "platform/movie/mpv/PlayerState.h"
 

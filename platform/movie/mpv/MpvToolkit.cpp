@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MpvToolkit.h"
 
+#include "platform/base/Background.h"
+#include "platform/base/Delivery.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
-
-#include <QEventLoop>
 
 #include <clocale>
 #include <utility>
@@ -13,10 +13,8 @@
 namespace platform {
 
 namespace {
-/// How long a network address may take to answer, seconds.
-constexpr double networkTimeout = 10.0;
-/// Local files answer at once; this only guards against a file system that hangs.
-constexpr double localTimeout = 60.0;
+/// How long an opening may take in all, seconds. One of which nothing comes any more is given up before.
+constexpr double openTimeout = 60.0;
 } // namespace
 
 MpvToolkit::MpvToolkit() = default;
@@ -26,16 +24,14 @@ MpvToolkit::~MpvToolkit() {
 }
 
 void MpvToolkit::prepare(const QUrl& url) {
-    std::promise<OpenedMovie> probed;
-    _prepared = probed.get_future();
     _preparedUrl = url.isLocalFile() ? url : QUrl();
+    _prepared = std::make_shared<Delivery<OpenedMovie>>();
     _firstFrame = {_preparedUrl, std::make_shared<Delivery<std::shared_ptr<const FirstFrame>>>()};
-    _preparer =
-        std::thread([this, url = _preparedUrl, probed = std::move(probed), decoded = _firstFrame.frame]() mutable {
-            AvLibrary::get();
-            probed.set_value(url.isEmpty() ? OpenedMovie{} : probeMovie(url, localTimeout, _cancelled));
-            decoded->deliver(url.isEmpty() ? nullptr : FirstFrame::decode(url, _cancelled));
-        });
+    background::run([cancelled = _cancelled, url = _preparedUrl, probed = _prepared, decoded = _firstFrame.frame] {
+        AvLibrary::get();
+        probed->deliver(url.isEmpty() ? OpenedMovie{} : probeMovie(url, openTimeout, *cancelled));
+        decoded->deliver(url.isEmpty() ? nullptr : FirstFrame::decode(url, *cancelled));
+    });
 }
 
 void MpvToolkit::enter() {
@@ -47,16 +43,16 @@ void MpvToolkit::enter() {
     // Loading a library holds a lock that starting the window needs, too. So the core comes after the first picture
     // where one is on its way.
     _player.whenFirstFrameIsDone([this] {
-        if (!_coreMaker.joinable() && !_cancelled)
+        if (!_coreMaker.joinable() && !*_cancelled)
             _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
     });
 }
 
 void MpvToolkit::exit() {
-    _cancelled = true;
+    *_cancelled = true;
+    if (_prepared)
+        _prepared->abandon();
     _opener.cancelAll();
-    if (_preparer.joinable())
-        _preparer.join();
     if (_coreMaker.joinable())
         _coreMaker.join();
     _player.dropCore();
@@ -66,40 +62,34 @@ MoviePlayer& MpvToolkit::player() {
     return _player;
 }
 
-std::optional<MovieInfo> MpvToolkit::open(const QUrl& url) {
-    OpenedMovie opened;
-    if (_prepared.valid() && !url.isEmpty() && url == _preparedUrl)
-        opened = _prepared.get();
-    else if (isNetworkURL(url))
-        opened = openWhileRunning(url);
-    else
-        opened = probeMovie(url, localTimeout, _cancelled);
-    if (opened.error != movieError::none)
-        _stickyError = opened.error;
-    return std::move(opened.info);
-}
+/// The answer comes from the thread that prepares the first movie.
+class MpvToolkit::PreparedOpening final : public MovieOpening {
+public:
+    PreparedOpening(std::shared_ptr<Delivery<OpenedMovie>> answer, std::function<void(OpenedMovie)> completion)
+        : _answer(std::move(answer))
+        , _completion(std::make_shared<std::function<void(OpenedMovie)>>(std::move(completion))) {
+        // One that is there already comes from the run loop, too.
+        RunLoop::main().post([answer = std::weak_ptr(_answer), completion = std::weak_ptr(_completion)] {
+            if (const auto call = completion.lock()) {
+                if (const auto held = answer.lock())
+                    held->receive([call](OpenedMovie opened) { (*call)(std::move(opened)); });
+            }
+        });
+    }
+    ~PreparedOpening() override { _answer->abandon(); }
+
+private:
+    std::shared_ptr<Delivery<OpenedMovie>> _answer;
+    std::shared_ptr<std::function<void(OpenedMovie)>> _completion;
+};
 
 std::unique_ptr<MovieOpening> MpvToolkit::openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) {
-    const double timeout = isNetworkURL(url) ? networkTimeout : localTimeout;
-    return _opener.open(
-        [url, timeout](const std::atomic<bool>& cancelled) { return probeMovie(url, timeout, cancelled); },
-        std::move(completion));
-}
-
-OpenedMovie MpvToolkit::openWhileRunning(const QUrl& url) {
-    QEventLoop loop;
-    // Where the application ends meanwhile, the loop does so without an answer, and nothing is opened any more.
-    OpenedMovie answer{std::nullopt, movieError::timedOut};
-    bool answered = false;
-    const auto opening = openAsync(url, [&](OpenedMovie opened) {
-        answer = std::move(opened);
-        answered = true;
-        loop.quit();
-    });
-    loop.exec();
-    if (!answered)
-        _cancelled = true;
-    return answer;
+    if (!url.isEmpty() && url == _preparedUrl) {
+        _preparedUrl.clear();
+        return std::make_unique<PreparedOpening>(_prepared, std::move(completion));
+    }
+    return _opener.open([url](const std::atomic<bool>& cancelled) { return probeMovie(url, openTimeout, cancelled); },
+                        std::move(completion));
 }
 
 } // namespace platform

@@ -7,9 +7,7 @@
 
 #include <atomic>
 #include <functional>
-#include <future>
 #include <memory>
-#include <optional>
 #include <thread>
 
 namespace platform {
@@ -21,32 +19,27 @@ public:
     ~MpvToolkit() override;
 
     /// Starts to load the libraries on a thread and, with a URL, to open it and decode its first picture: what the
-    /// first open() and load will ask for. Needs no application object yet; call it as early as possible.
+    /// first opening and load will ask for. Needs no application object yet; call it as early as possible.
     void prepare(const QUrl& url);
 
     /// enter() needs the application object: the player's core is made on a thread from here on. Before it and after
     /// exit() the player takes what it is asked, and plays nothing.
     void enter() override;
     void exit() override;
-    std::optional<MovieInfo> open(const QUrl& url) override;
     std::unique_ptr<MovieOpening> openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) override;
-    std::int16_t stickyError() const override { return _stickyError; }
-    void clearStickyError() override { _stickyError = movieError::none; }
     MoviePlayer& player() override;
 
 private:
-    OpenedMovie openWhileRunning(const QUrl& url);
+    class PreparedOpening;
 
-    std::atomic<bool> _cancelled{false};
+    const std::shared_ptr<std::atomic<bool>> _cancelled = std::make_shared<std::atomic<bool>>(false);
     bool _entered = false;
-    QUrl _preparedUrl;
-    std::future<OpenedMovie> _prepared;
+    QUrl _preparedUrl; // until it is opened
+    std::shared_ptr<Delivery<OpenedMovie>> _prepared;
     PreparedFrame _firstFrame;
-    std::thread _preparer;
     std::thread _coreMaker;
     MovieOpener _opener;
     MpvPlayer _player;
-    std::int16_t _stickyError = movieError::none;
 };
 
 } // namespace platform

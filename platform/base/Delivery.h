@@ -18,12 +18,11 @@ class Delivery : public std::enable_shared_from_this<Delivery<Value>> {
 public:
     /// Any thread, once.
     void deliver(Value value) {
-        {
-            const std::scoped_lock lock(_mutex);
-            _value = std::move(value);
-            if (!_isAwaited)
-                return;
-        }
+        // Posted under the lock, so that none is once the receiver has abandoned it: the run loop may go then.
+        const std::scoped_lock lock(_mutex);
+        _value = std::move(value);
+        if (!_isAwaited)
+            return;
         RunLoop::main().post([weak = this->weak_from_this()] {
             if (const auto self = weak.lock())
                 self->handOver();
@@ -44,8 +43,14 @@ public:
         handOver();
     }
 
-    /// The receiver is not called any more. Main thread.
-    void abandon() { _receiver = nullptr; }
+    /// The receiver is not called any more, and the run loop is left alone. Main thread.
+    void abandon() {
+        {
+            const std::scoped_lock lock(_mutex);
+            _isAwaited = false;
+        }
+        _receiver = nullptr;
+    }
 
 private:
     void handOver() {

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playlist/MovieBatch.h"
+
+#include "platform/base/RunLoop.h"
+#include "platform/movie/MovieToolkit.h"
+#include "playback/QVMovie.h"
+#include "settings/Tracing.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// The log's lines are the playlist's.
+constexpr const char* className = "QVPlaylistController";
+
+/// A disk is no faster for more; addresses mostly wait.
+constexpr std::size_t maximumFiles = 4;
+constexpr std::size_t maximumAddresses = 16;
+/// Files that open at once come together. Seconds.
+constexpr double firstPartDelay = 0.01;
+constexpr double partDelay = 0.1;
+/// How long the others wait for an address that comes before them.
+constexpr double addressTimeout = 0.3;
+
+} // namespace
+
+MovieBatch::MovieBatch(const Environment& environment, const MovieServices& services, QList<QUrl> urls,
+                       Doubtful doubtful, Client& client)
+    : _environment(environment)
+    , _services(services)
+    , _urls(std::move(urls))
+    , _doubtful(doubtful)
+    , _client(client)
+    , _items(static_cast<std::size_t>(_urls.size())) {
+    _files.limit = maximumFiles;
+    _addresses.limit = maximumAddresses;
+    for (std::size_t place = 0; place < _items.size(); ++place) {
+        const bool isFile = _urls[static_cast<qsizetype>(place)].isLocalFile();
+        (isFile ? _files : _addresses).places.push_back(place);
+    }
+}
+
+MovieBatch::~MovieBatch() = default;
+
+void MovieBatch::begin() {
+    if (_items.empty()) {
+        _partTimer = _environment.loop.schedule(0, false, [this] { end(); });
+        return;
+    }
+    fill(_files);
+    fill(_addresses);
+    if (!_addresses.places.empty()) {
+        _addressTimer = _environment.loop.schedule(addressTimeout, false, [this] {
+            _waitsForFirst = false;
+            if (!_undelivered.empty())
+                deliver();
+        });
+    }
+}
+
+void MovieBatch::fill(Lane& lane) {
+    while (lane.running < lane.limit && lane.next < lane.places.size()) {
+        const std::size_t place = lane.places[lane.next++];
+        ++lane.running;
+        const QUrl& url = _urls[static_cast<qsizetype>(place)];
+        trace("%@: Adding to playlist movie file: %@", className, url.toString());
+        _items[place].opening = QVMovie::movieWithURL(
+            _environment, _services, url, [this, place, &lane](std::shared_ptr<QVMovie> movie, std::int16_t error) {
+                opened(place, lane, std::move(movie), error);
+            });
+    }
+}
+
+void MovieBatch::opened(std::size_t place, Lane& lane, std::shared_ptr<QVMovie> movie, std::int16_t error) {
+    using namespace platform;
+    // Its completion is running.
+    const std::unique_ptr<MovieOpening> opening = std::move(_items[place].opening);
+    --lane.running;
+    ++_answered;
+    fill(lane);
+    _items[place].error = error;
+    const bool isDoubtful = movie && error == movieError::cannotPlay && _doubtful == Doubtful::keptBack;
+    _items[place].outcome = movie && !isDoubtful ? Outcome::open : Outcome::failed;
+    if (!movie)
+        logAlways("ERROR: %@: QT failed to open movie.", className);
+    else if (error != movieError::none)
+        logAlways("ERROR: %@: QT sticky error: %d.", className, error);
+    if (movie)
+        (isDoubtful ? _keptBack : _undelivered).push_back({place, std::move(movie)});
+    if (_answered == _items.size()) {
+        end();
+        return;
+    }
+    if (_undelivered.empty() || (!_hasDelivered && !isFirstOpen()) || (_partTimer && _partTimer->isValid()))
+        return;
+    _partTimer = _environment.loop.schedule(_hasDelivered ? partDelay : firstPartDelay, false, [this] { deliver(); });
+}
+
+bool MovieBatch::isFirstOpen() {
+    while (_firstAwaited < _items.size() && _items[_firstAwaited].outcome == Outcome::failed)
+        ++_firstAwaited;
+    return !_waitsForFirst || (_firstAwaited < _items.size() && _items[_firstAwaited].outcome == Outcome::open);
+}
+
+void MovieBatch::deliver() {
+    if (_undelivered.empty())
+        return;
+    _hasDelivered = true;
+    std::vector<Entry> entries = std::exchange(_undelivered, {});
+    std::ranges::sort(entries, {}, &Entry::place);
+    _client.batchOpened(*this, entries);
+}
+
+void MovieBatch::end() {
+    deliver();
+    std::ranges::sort(_keptBack, {}, &Entry::place);
+    // Not from inside its own timer, which may go with the batch.
+    _addressTimer.reset();
+    _client.batchEnded(*this);
+}
+
+QList<OpeningFailure> MovieBatch::failures() const {
+    QList<OpeningFailure> failures;
+    for (std::size_t place = 0; place < _items.size(); ++place) {
+        const bool isKeptBack = std::ranges::find(_keptBack, place, &Entry::place) != _keptBack.end();
+        if (_items[place].outcome == Outcome::failed && !isKeptBack)
+            failures.append({_urls[static_cast<qsizetype>(place)], _items[place].error});
+    }
+    return failures;
+}
+
+QUrl MovieBatch::awaitedAddress() const {
+    for (const std::size_t place : _addresses.places) {
+        if (_items[place].outcome == Outcome::awaited)
+            return _urls[static_cast<qsizetype>(place)];
+    }
+    return {};
+}

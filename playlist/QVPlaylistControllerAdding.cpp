@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The playlist's adds: movies are opened side by side, taken in as they come, and what failed is reported.
+#include "playlist/QVPlaylistController.h"
+
+#include "context/FeedbackDisplay.h"
+#include "platform/base/Localization.h"
+#include "platform/base/RunLoop.h"
+#include "platform/base/UserDefaults.h"
+#include "platform/desktop/Desktop.h"
+#include "playback/MovieOrdering.h"
+#include "playback/QVMovie.h"
+#include "playlist/OpenPanel.h"
+#include "playlist/OpeningReport.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr const char* className = "QVPlaylistController";
+
+} // namespace
+
+struct QVPlaylistController::Addition {
+    Adding adding = Adding::append;
+    Starting starting = Starting::no;
+    bool reportsError = true;
+    Added added;
+    QList<OpeningFailure> failures;
+    std::uint64_t number = 0;
+    /// Whether the first part took the list's place.
+    bool hasReplaced = false;
+    /// Its movies by their places in the order given.
+    std::map<std::size_t, std::weak_ptr<QVMovie>> movies;
+    std::unique_ptr<MovieBatch> batch;
+
+    bool hasAdded() const { return !movies.empty(); }
+};
+
+QVPlaylistController::~QVPlaylistController() = default;
+
+void QVPlaylistController::addURLs(const QList<QUrl>& urls, Adding adding, Starting starting, Added added,
+                                   QList<OpeningFailure> failures) {
+    const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
+    // A list that nothing stands in is replaced, too.
+    const Adding kind = _playlist.empty() && _additions.empty() ? Adding::replace : adding;
+    QList<QUrl> ordered = urls;
+    if (kind == Adding::replace)
+        arrange(ordered); // so that what is to play first is opened first
+    auto addition = std::make_shared<Addition>();
+    addition->adding = kind;
+    addition->starting = starting;
+    addition->reportsError = _reports_error;
+    addition->added = std::move(added);
+    addition->failures = std::move(failures);
+    addition->number = ++_additionsMade;
+    const auto doubtful = _reports_error ? MovieBatch::Doubtful::keptBack : MovieBatch::Doubtful::told;
+    MovieBatch::Client& client = *this;
+    addition->batch = std::make_unique<MovieBatch>(_environment, _with.movies, std::move(ordered), doubtful, client);
+    _additions.push_back(addition);
+    addition->batch->begin();
+    sayWhatIsAwaited();
+}
+
+QVPlaylistController::Addition& QVPlaylistController::additionOf(const MovieBatch& batch) const {
+    return **std::ranges::find(_additions, &batch, [](const auto& addition) { return addition->batch.get(); });
+}
+
+void QVPlaylistController::batchOpened(MovieBatch& batch, const std::vector<MovieBatch::Entry>& entries) {
+    takeIn(additionOf(batch), entries);
+    sayWhatIsAwaited();
+}
+
+void QVPlaylistController::batchEnded(MovieBatch& batch) {
+    const auto place =
+        std::ranges::find(_additions, &batch, [](const auto& addition) { return addition->batch.get(); });
+    const std::shared_ptr<Addition> addition = *place;
+    _additions.erase(place);
+    trace("%@: All movies are opened.", className);
+    sayWhatIsAwaited();
+    if (addition->hasAdded() && !addition->hasReplaced)
+        rearrange();
+    // The batch stays until it has returned.
+    _reports.push_back(addition);
+    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
+        if (!alive.expired())
+            report();
+    });
+}
+
+void QVPlaylistController::takeIn(Addition& addition, const std::vector<MovieBatch::Entry>& entries) {
+    const bool isFirst = !addition.hasAdded();
+    keepFolders(entries);
+    if (isFirst)
+        overtake(addition);
+    if (_playlist.empty() || (isFirst && addition.adding == Adding::replace))
+        replaceBy(addition, entries);
+    else
+        insert(addition, entries);
+    _environment.notifications.post(QVPlaylistChangedNotification{_playlist});
+}
+
+void QVPlaylistController::replaceBy(Addition& addition, const std::vector<MovieBatch::Entry>& entries) {
+    addition.hasReplaced = true;
+    _playlist.clear();
+    for (const MovieBatch::Entry& entry : entries) {
+        _playlist.push_back(entry.movie);
+        addition.movies[entry.place] = entry.movie;
+    }
+    _index = NSNotFound;
+    reset();
+    setLooping(_environment.settings.integerForKey(kQVPlaylistDefaultLooping));
+    if (addition.starting == Starting::yes && _auto_play)
+        play();
+}
+
+/// What was asked for before does not come in the place of what has come since: a list that is replaced gives it up,
+/// and it is added to one that is not.
+void QVPlaylistController::overtake(const Addition& addition) {
+    std::vector<std::shared_ptr<Addition>> givenUp;
+    for (const auto& other : _additions) {
+        if (other->number >= addition.number)
+            break;
+        if (addition.adding == Adding::replace)
+            givenUp.push_back(other);
+        else if (!other->hasAdded())
+            other->adding = Adding::append;
+    }
+    _additions.erase(_additions.begin(), _additions.begin() + static_cast<std::ptrdiff_t>(givenUp.size()));
+    for (const auto& other : givenUp) {
+        other->batch.reset();
+        if (other->added)
+            other->added(other->hasAdded());
+    }
+}
+
+void QVPlaylistController::insert(Addition& addition, const std::vector<MovieBatch::Entry>& entries) {
+    std::optional<std::size_t> before; // the place of the one inserted last
+    std::uint32_t position = 0;
+    std::uint32_t next = 0;
+    for (const MovieBatch::Entry& entry : entries) {
+        // Looked for once for all that follow each other.
+        const bool follows = before && addition.movies.upper_bound(*before) == addition.movies.lower_bound(entry.place);
+        position = follows ? position + 1 : positionFor(addition, entry.place);
+        // The user would never get to see what comes late, before the one that plays already.
+        if (addition.starting == Starting::yes && _index < count())
+            position = std::max(position, _index + 1);
+        position = std::max(position, next);
+        next = position + 1;
+        _playlist.insert(_playlist.begin() + position, entry.movie);
+        if (_index < count() && position <= _index)
+            ++_index;
+        addition.movies[entry.place] = entry.movie;
+        before = entry.place;
+    }
+}
+
+/// After the one before it of the same add, else before the one after it, else at the end.
+std::uint32_t QVPlaylistController::positionFor(const Addition& addition, std::size_t place) const {
+    const auto positionOf = [this](const std::weak_ptr<QVMovie>& entry) {
+        const std::shared_ptr<QVMovie> listed = entry.lock();
+        return listed ? indexOfMovie(*listed) : NSNotFound;
+    };
+    const auto after = addition.movies.lower_bound(place);
+    for (auto before = after; before != addition.movies.begin();) {
+        --before;
+        if (const std::uint32_t position = positionOf(before->second); position != NSNotFound)
+            return position + 1;
+    }
+    for (auto next = after; next != addition.movies.end(); ++next) {
+        if (const std::uint32_t position = positionOf(next->second); position != NSNotFound)
+            return position;
+    }
+    return count();
+}
+
+void QVPlaylistController::keepFolders(const std::vector<MovieBatch::Entry>& entries) {
+    QString lastFolder;
+    for (const MovieBatch::Entry& entry : entries) {
+        if (!entry.movie->url().isLocalFile())
+            continue;
+        if (const QString folder = OpeningReport::place(entry.movie->url()); folder != lastFolder) {
+            lastFolder = folder;
+            _environment.settings.setObject(folder, kNSNavLastRootDirectory);
+        }
+    }
+}
+
+void QVPlaylistController::report() {
+    // One alert at a time; the event loop runs on meanwhile.
+    if (std::exchange(_is_reporting, true))
+        return;
+    while (!_reports.empty()) {
+        const std::shared_ptr<Addition> addition = std::move(_reports.front());
+        _reports.pop_front();
+        finish(*addition);
+    }
+    _is_reporting = false;
+}
+
+void QVPlaylistController::finish(Addition& addition) {
+    const QList<OpeningFailure> failures = addition.failures + addition.batch->failures();
+    const bool wasAsked = !addition.batch->urls().isEmpty() || !addition.failures.isEmpty();
+    if (addition.reportsError) {
+        const auto isFolder = [](const auto& failure) { return failure.error == OpeningReport::noMoviesInFolder; };
+        const bool isSaidBelow = _playlist.empty() && std::ranges::all_of(failures, isFolder);
+        if (!failures.isEmpty() && !isSaidBelow)
+            _with.desktop.runAlert(OpeningReport::failed(failures));
+        askForDoubtful(addition);
+    }
+    if (_playlist.empty() && _additions.empty())
+        offerToOpenOthers(failures, wasAsked, addition.reportsError);
+    if (addition.added)
+        addition.added(addition.hasAdded());
+}
+
+void QVPlaylistController::askForDoubtful(Addition& addition) {
+    const std::vector<MovieBatch::Entry>& entries = addition.batch->doubtful();
+    if (entries.empty())
+        return;
+    QList<QUrl> urls;
+    for (const MovieBatch::Entry& entry : entries)
+        urls.append(entry.movie->url());
+    if (_with.desktop.runAlert(OpeningReport::mayNotPlay(urls)) != 1) {
+        logAlways("ERROR: %@: Cancelled effort to open movie.", className);
+        return;
+    }
+    takeIn(addition, entries);
+    if (!addition.hasReplaced)
+        rearrange();
+}
+
+void QVPlaylistController::sayWhatIsAwaited() {
+    for (auto addition = _additions.rbegin(); addition != _additions.rend(); ++addition) {
+        if (const QUrl url = (*addition)->batch->awaitedAddress(); !url.isEmpty()) {
+            const QString name = fileNameOfURL(url);
+            _loadingMessage.show(
+                platform::localizedFormat(QStringLiteral("Loading: %@"), {name.size() > 1 ? name : url.host()}));
+            return;
+        }
+    }
+    _loadingMessage.end();
+}
+
+void QVPlaylistController::offerToOpenOthers(const QList<OpeningFailure>& failures, bool failed, bool reportsError) {
+    if (failed)
+        trace("%@: No playable movies foung in playlist.\n", className);
+    if (!reportsError || (failed && _with.desktop.runAlert(OpeningReport::nothingToPlay(failures)) != 1))
+        return;
+    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
+        if (!alive.expired())
+            _with.openPanel.doOpen();
+    });
+    trace("%@: Launching File Open panel.\n", className);
+}
