@@ -129,6 +129,10 @@ void QVMovie::resetCallbacks() {
     _scheduleTimeJumpCallback();
 }
 
+void QVMovie::armEnd() {
+    _scheduleStopCallback();
+}
+
 void QVMovie::cancelCallbacks() {
     cancelStopped();
     cancelTimePasses();
@@ -173,4 +177,5 @@ void QVMovie::timeJump() {
     const std::shared_ptr<QVMovie> self = weak_from_this().lock();
     interestingTime();
     _scheduleTimeJumpCallback();
+    _scheduleStopCallback();
 }

@@ -64,6 +64,8 @@ public:
 
     /// Arms the three callbacks anew; ends them.
     void resetCallbacks();
+    /// Lets the end be told of that the movie reaches next: it is told once, and again after a start or a time jump.
+    void armEnd();
     void cancelCallbacks();
 
 private:

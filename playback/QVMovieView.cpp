@@ -145,8 +145,16 @@ void QVMovieView::stop() {
 
 void QVMovieView::playingChanged(bool playing) {
     // That the user watches is said again with each picture.
-    if (!playing)
+    if (!playing) {
         _desktop.setUserActive(false);
+        return;
+    }
+    // A movie that was at its end is to reach it again.
+    if (const auto shown = movie())
+        shown->armEnd();
+    // Fast motion that ran into an end left it stopped and silent.
+    if (rate() == 1.0F && _commands.forceMuted())
+        _commands.setForceMuted(false);
 }
 
 void QVMovieView::saveMovieState() {
@@ -271,6 +279,9 @@ bool QVMovieView::performDragOperation(const platform::DraggingInfo& info) {
 }
 
 void QVMovieView::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
+    // Loaded where it was left, the movie would show that place first.
+    if (notification.movie && notification.movie != movie())
+        notification.movie->setTimeValue(0);
     setMovie(notification.movie);
     gotoBeginning();
 }

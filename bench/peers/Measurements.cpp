@@ -75,6 +75,7 @@ Plan Plan::quick() {
     plan.playRounds = 1;
     plan.playSeconds = 5;
     plan.jumpRounds = 1;
+    plan.changeRounds = 1;
     plan.openRounds = 1;
     return plan;
 }
@@ -129,6 +130,8 @@ const Samples& Measurements::run() {
         measurePlaying();
     if (wants("jump"))
         measureJumps();
+    if (wants("change"))
+        measureChanges();
     if (wants("open"))
         measureOpening();
     if (wants("osd"))
@@ -147,9 +150,9 @@ std::vector<const Player*> Measurements::turnOf(int round) const {
     return turn;
 }
 
-std::unique_ptr<ChildProcess> Measurements::startPlaying(const Player& player, const std::string& movie,
+std::unique_ptr<ChildProcess> Measurements::startPlaying(const Player& player, const std::vector<std::string>& movies,
                                                          const std::vector<std::string>& options) {
-    auto process = player.start(_server.display(), {movie}, options);
+    auto process = player.start(_server.display(), movies, options);
     if (!waitUntil([this] { return showsMovie(_probe); }, harness::defaultTimeout, lookEvery))
         throw std::runtime_error(player.name() + " shows no movie: " + process->errorOutput());
     return process;
@@ -183,7 +186,7 @@ void Measurements::measureStartWithTrack() {
     for (int round = 0; round < 2 * _plan.startRounds; ++round)
         for (const bool track : {round % 2 == 0, round % 2 != 0}) {
             const double before = now();
-            auto process = startPlaying(player, track ? withTrack : _movie);
+            auto process = startPlaying(player, {track ? withTrack : _movie});
             _samples.add("track", track ? player.name() : "no track", (now() - before) * 1000);
             pause(0.2);
             endAndClear(process);
@@ -284,6 +287,46 @@ void Measurements::jumpThrice(const Player& player, bool exactly, int round) {
     endAndClear(process);
 }
 
+void Measurements::measureChanges() {
+    // Files of their own: no player may know that it plays the same one again.
+    std::vector<std::string> movies = {_movie};
+    for (const char* name : {"second", "third", "fourth"}) {
+        movies.push_back((_folder / (std::string(name) + ".mp4")).string());
+        std::filesystem::copy_file(_movie, movies.back(), std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::permissions(movies.back(), std::filesystem::perms::others_read,
+                                     std::filesystem::perm_options::add);
+    }
+    for (int round = 0; round < _plan.changeRounds; ++round)
+        for (const Player* player : turnOf(round))
+            changeThrice(*player, movies);
+}
+
+void Measurements::changeThrice(const Player& player, const std::vector<std::string>& movies) {
+    auto process = startPlaying(player, movies);
+    for (std::size_t change = 1; change < movies.size(); ++change) {
+        constexpr int farIn = 2 * framesPerSecond;
+        waitUntil([&] { return frameOnScreen(_probe).value_or(0) > farIn; });
+        int black = 0;
+        bool isBlack = false;
+        const double before = now();
+        _probe.tap(player.nextKey().key, player.nextKey().modifiers);
+        const bool changed = waitUntil(
+            [&] {
+                const bool blackNow = !showsMovie(_probe);
+                black += blackNow && !isBlack;
+                isBlack = blackNow;
+                const auto frame = frameOnScreen(_probe);
+                return frame && *frame < farIn / 2;
+            },
+            Seconds(5), lookEvery);
+        if (!changed)
+            throw std::runtime_error(player.name() + " shows no next movie: " + process->errorOutput());
+        _samples.add("change", player.name(), (now() - before) * 1000);
+        _samples.add("change black", player.name(), black);
+    }
+    endAndClear(process);
+}
+
 double Measurements::openWithLumaro(const std::vector<std::string>& files) {
     const double before = now();
     auto process =
@@ -323,7 +366,7 @@ void Measurements::measureOpening() {
 
 double Measurements::processorSharePlaying(const Player& player, const std::string& movie,
                                            const std::vector<std::string>& options) {
-    auto process = startPlaying(player, movie, options);
+    auto process = startPlaying(player, {movie}, options);
     pause(warmUp);
     const double before = now();
     const auto ticksBefore = processorTicks(process->pid());
@@ -342,7 +385,7 @@ bool Measurements::textAppears(const harness::Region& part) {
 
 bool Measurements::showsText(const Player& player, const harness::Region& part, const std::string& plainMovie,
                              const std::vector<std::string>& options) {
-    auto process = startPlaying(player, plainMovie, options);
+    auto process = startPlaying(player, {plainMovie}, options);
     const bool shows = textAppears(part);
     endAndClear(process);
     return shows;
@@ -380,7 +423,7 @@ void Measurements::measureFade() {
     const std::string plain = withSubtitles(_plainMovie, _folder / "fading", {.shown = 1000}).string();
     const std::string movie = withSubtitles(_movie, _folder / "fading", {.shown = 1000}).string();
     {
-        auto process = startPlaying(player, plain);
+        auto process = startPlaying(player, {plain});
         pressForFades(_probe, 0);
         if (!textAppears(topLeft) || !textAppears(topRight))
             throw std::runtime_error("no overlay fades in: " + process->errorOutput());
@@ -393,7 +436,7 @@ void Measurements::measureFade() {
 }
 
 void Measurements::playFading(const Player& player, const std::string& movie, bool fading) {
-    auto process = startPlaying(player, fading ? movie : _movie);
+    auto process = startPlaying(player, {fading ? movie : _movie});
     pause(warmUp);
     std::set<int> seen;
     int taps = 0;

@@ -21,13 +21,14 @@ struct Plan {
     double playSeconds = 12;
     double pausedSeconds = 10;
     int jumpRounds = 4;
+    int changeRounds = 4;
     int openRounds = 5;
     int files = 1000;
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu", "memory", "paused",    "jump",
-                                               "open",  "osd", "fade",   "subtitles", "track"};
+inline const std::set<std::string> rowNames = {"start", "cpu",  "memory",    "paused", "jump",  "open",
+                                               "osd",   "fade", "subtitles", "track",  "change"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -56,14 +57,15 @@ private:
     void measureStartWithTrack();
     void measurePlaying();
     void measureJumps();
+    void measureChanges();
     void measureOpening();
     void measureTimeDisplay();
     void measureSubtitles();
     void measureFade();
 
     // A player that shows the movie. Throws std::runtime_error with its words when it does not.
-    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player) { return startPlaying(player, _movie); }
-    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player, const std::string& movie,
+    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player) { return startPlaying(player, {_movie}); }
+    std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player, const std::vector<std::string>& movies,
                                                         const std::vector<std::string>& options = {});
     double processorSharePlaying(const Player& player, const std::string& movie,
                                  const std::vector<std::string>& options);
@@ -73,6 +75,7 @@ private:
                    const std::vector<std::string>& options);
     void playFading(const Player& player, const std::string& movie, bool fading);
     void playOnce(const Player& player);
+    void changeThrice(const Player& player, const std::vector<std::string>& movies);
     void jumpThrice(const Player& player, bool exactly, int round);
     void endAndClear(std::unique_ptr<harness::ChildProcess>& process);
     double openWithLumaro(const std::vector<std::string>& files);

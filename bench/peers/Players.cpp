@@ -38,7 +38,7 @@ Player::Player(Kind kind, const std::filesystem::path& folder)
     , _folder(folder / _name) {
     std::filesystem::create_directories(_folder / "run");
     if (kind == Kind::mpv)
-        std::ofstream(_folder / "input.conf") << "x seek 10\nz seek 10 exact\n";
+        std::ofstream(_folder / "input.conf") << "x seek 10\nz seek 10 exact\ny playlist-next\n";
     ::chmod((_folder / "run").c_str(), 0700);
     if (kind == Kind::vlc && ::geteuid() == 0)
         for (const std::filesystem::path& path : {_folder, _folder / "run"})
@@ -103,6 +103,18 @@ KeyPress Player::jumpKey() const {
 
 KeyPress Player::exactJumpKey() const {
     return _kind == Kind::mpv ? KeyPress{XK_z, {}} : jumpKey();
+}
+
+KeyPress Player::nextKey() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {XK_y, {}};
+    case Kind::vlc:
+        return {XK_n, {}};
+    case Kind::lumaro:
+        break;
+    }
+    return {XK_Right, {XK_Super_L}};
 }
 
 std::vector<std::string> Player::timeDisplayOptions() const {

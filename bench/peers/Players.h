@@ -37,6 +37,8 @@ public:
     // Ten seconds forward as the player does it by itself; exactly ten seconds.
     KeyPress jumpKey() const;
     KeyPress exactJumpKey() const;
+    // The next movie of the list.
+    KeyPress nextKey() const;
 
     // With these options it shows the time over the picture as long as it plays; shows the subtitles that stand beside
     // the movie.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Lumaro beside other players and prints a table:
-//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade]
+//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change]
 // Progress and every sample go to standard error.
 #include "bench/peers/Measurements.h"
 
@@ -38,6 +38,8 @@ const std::vector<Line> lines = {
     {"jump of 10 s: first picture of the new place, ms (mpv: seek 10)", "jump first", {"mpv"}, "%.0f", 0.5, {}},
     {"the same (mpv: seek 10 exact)", "jump first", {"mpv exact", "VLC"}, "%.0f", 0.5, {}},
     {"jump of 10 s: exact picture, ms (mpv: seek 10 exact)", "jump exact", {"mpv exact", "VLC"}, "%.0f", {}, {}},
+    {"next movie: key to its first picture, ms", "change", {"mpv", "VLC"}, "%.0f", 0.5, {}},
+    {"times that the screen was black meanwhile", "change black", {"mpv", "VLC"}, "%.0f", 0.0, {}},
     {"opening 1,000 new mp4, ms (first column: libavformat, one by one)", "open", {"libavformat"}, "%.0f", 0.3, {}},
     {"CPU seconds a second, the time shown all along", "osd", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"CPU seconds a second, with subtitles of two lines", "subtitles", {"mpv", "VLC"}, "%.3f", 1.0, {}},

@@ -23,7 +23,8 @@ void fireOnce(std::function<void()>& slot) {
 
 Movie::Movie(MovieInfo info, MoviePlayer& player)
     : _info(std::move(info))
-    , _player(player) {}
+    , _player(player)
+    , _needsTimeTable(!_info.saysDuration) {}
 
 Movie::~Movie() {
     _stopped = nullptr;
@@ -105,7 +106,9 @@ void Movie::playerJumped() {
     fireOnce(_timeJumps);
 }
 
-void Movie::playerReachedEnd() {
+void Movie::playerReachedEnd(bool isWhole) {
+    if (isWhole)
+        _needsTimeTable = false;
     fireOnce(_stopped);
 }
 

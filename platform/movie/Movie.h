@@ -29,6 +29,8 @@ struct MovieInfo {
     int quarterTurns = 0;
     /// Pictures in the video track: the container's count, else duration times average rate, rounded; 0 without video.
     std::uint32_t videoSampleCount = 0;
+    /// Whether the container's header says how long the movie lasts. Else `duration` is that of what has arrived.
+    bool saysDuration = true;
     /// Units of timeScale that one picture stays on average; 0 when not known.
     double frameDuration = 0;
 };
@@ -94,9 +96,9 @@ public:
     /// the end).
     std::int32_t nextInterestingTime(std::int32_t from, std::int32_t rate) const;
 
-    /// True while the movie's end is only the end of what has arrived so far.
+    /// True while the movie's end may only be the end of what has arrived so far: its container does not say how long
+    /// it lasts, and it was not played to an end yet at which nothing more arrived.
     bool needsTimeTable() const { return _needsTimeTable; }
-    void setNeedsTimeTable(bool needs) { _needsTimeTable = needs; }
 
     /// Three one-shot callbacks, delivered on the main thread from the event loop or from a call that moves the time.
     /// Arming again replaces what was armed. They act only while the movie is loaded in the player.
@@ -116,7 +118,10 @@ public:
     /// Called by the player: the time moved on to `time`, that of the picture shown where there is one.
     void playerShowedFrame(std::int32_t time);
     void playerJumped();
-    void playerReachedEnd();
+    /// `isWhole`: nothing more of the movie arrives.
+    void playerReachedEnd(bool isWhole);
+    /// More of it has arrived than was there when it was opened.
+    void playerGrew(std::int32_t duration) { _info.duration = duration; }
     void playerUnloaded(std::int32_t time) {
         _restingTime = time;
         _shownTime.reset();
@@ -126,7 +131,7 @@ private:
     MovieInfo _info;
     MoviePlayer& _player;
     std::int32_t _restingTime = 0;
-    bool _needsTimeTable = false;
+    bool _needsTimeTable;
     std::function<void()> _stopped;
     std::function<void()> _timePasses;
     std::int32_t _timeToPass = -1;

@@ -22,7 +22,7 @@ public:
     class Observer {
     public:
         virtual ~Observer() = default;
-        /// A new frame is ready to be rendered.
+        /// A new frame is ready to be rendered, in place of one that may have stood elsewhere.
         virtual void playerFrameChanged() = 0;
         /// The same while playing: now is the moment to show it.
         virtual void playerFrameDue() = 0;

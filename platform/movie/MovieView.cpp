@@ -184,7 +184,9 @@ void MovieView::playerFrameDue() {
 }
 
 void MovieView::playerFrameChanged() {
-    setNeedsDisplayInRect(pictureRect());
+    // The picture may have stood elsewhere until now: that of the movie before keeps its place.
+    View& whole = superview() ? *superview() : *this;
+    whole.setNeedsDisplayInRect(whole.bounds());
 }
 
 void MovieView::playingChanged(bool) {}

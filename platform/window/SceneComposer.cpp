@@ -25,8 +25,8 @@ void SceneComposer::visitVideoLayers(const View& view, double pixelRatio,
                                      const std::function<void(VideoLayer&, const QRect&)>& visit) {
     for (View* child : view.subviews()) {
         if (VideoLayer* layer = child->videoLayer()) {
-            visit(*layer, sceneGeometry::toPixels(child->convertToWindow(child->pictureRect()), _root.frame().size(),
-                                                  pixelRatio));
+            visit(*layer, layer->place(sceneGeometry::toPixels(child->convertToWindow(child->pictureRect()),
+                                                               _root.frame().size(), pixelRatio)));
         }
         visitVideoLayers(*child, pixelRatio, visit);
     }

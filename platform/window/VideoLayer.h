@@ -25,6 +25,10 @@ public:
     VideoLayer& operator=(const VideoLayer&) = delete;
     virtual ~VideoLayer() = default;
 
+    /// Where the picture is to be rendered that its view wants at `asked`: there, unless another one stands in for it,
+    /// which keeps its place. Asked before each rendering.
+    virtual QRect place(const QRect& asked) const { return asked; }
+
     /// Puts the part `visible` of the picture, scaled so that the whole would fill `picture`, into `pixels`: the
     /// address of the target's top left pixel, 32 bits each in the order blue, green, red, unused, `stride` bytes a
     /// line. `visible` lies within both `picture` and the target. False when there is no picture: the host then fills

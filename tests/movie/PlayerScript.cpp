@@ -20,7 +20,7 @@ std::string with(const char* word, auto number) {
 }
 
 std::string nameOf(PlayerTimer timer) {
-    const char* const names[playerTimerCount] = {"keyframe", "failure", "scrub"};
+    const char* const names[playerTimerCount] = {"keyframe", "failure", "growth", "scrub"};
     return names[static_cast<std::size_t>(timer)];
 }
 
@@ -42,6 +42,8 @@ std::string textOf(const PlayerEffect& effect) {
                           [](const CancelTimer& e) { return "cancel " + nameOf(e.timer); },
                           [](const CancelTimers&) { return std::string("cancel all"); },
                           [](const UseCoreFrame&) { return std::string("use frame"); },
+                          [](const SkipFrame&) { return std::string("skip frame"); },
+                          [](const DropHeldFrame&) { return std::string("drop frame"); },
                       },
                       effect);
 }
@@ -55,6 +57,7 @@ std::string textOf(const PlayerReport& report) {
                           [](const ShowedFrame& r) { return with("frame", r.time); },
                           [](const Jumped&) { return std::string("jump"); },
                           [](const ReachedEnd&) { return std::string("end"); },
+                          [](const Grew& r) { return with("lasts", r.duration); },
                           [](const Failed& r) { return with("failed", r.error); },
                       },
                       report);

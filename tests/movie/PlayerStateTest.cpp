@@ -7,6 +7,7 @@
 #include <limits>
 
 using namespace platform::playerEvent;
+using platform::CoreEnd;
 using platform::LoadedMovie;
 using platform::PlayerTimer;
 using enum platform::MoviePlayer::JumpReport;
@@ -58,8 +59,8 @@ TEST(PlayerState, a_core_without_a_movie_is_told_volume_and_mute_only) {
     EXPECT_EQ(player(SetMuted{true}), "mute | state");
     EXPECT_TRUE(player.state().muted);
     for (const platform::PlayerEvent& event : std::initializer_list<platform::PlayerEvent>{
-             Play{}, SetRate{2, 0}, Seek{100, reported}, Step{1}, PlaybackRestarted{}, TimeChanged{1}, EndChanged{true},
-             FileFailed{0, -1}, TimerFired{PlayerTimer::scrub, 1}, failureTimeout})
+             Play{}, SetRate{2, 0}, Seek{100, reported}, Step{1}, PlaybackRestarted{}, TimeChanged{1},
+             EndChanged{CoreEnd::ofMovie}, FileFailed{0, -1}, TimerFired{PlayerTimer::scrub, 1}, failureTimeout})
         EXPECT_EQ(player(event), "") << event.index();
 }
 
@@ -82,8 +83,9 @@ TEST(PlayerState, a_movie_is_loaded_paused_and_shown_with_its_first_frame) {
     EXPECT_EQ(player.rate(), 0);
     EXPECT_EQ(player.state().volume, 0.125F);
     EXPECT_EQ(player(PlaybackRestarted{}), "") << "of the one before";
-    EXPECT_EQ(player(EndChanged{true}), "");
-    EXPECT_FALSE(player.state().atEnd);
+    EXPECT_EQ(player(FrameDue{}), "skip frame") << "taken, so that the core goes on, and not shown";
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "");
+    EXPECT_EQ(player.state().end, CoreEnd::no);
     player(FileStarted{2});
     EXPECT_EQ(player(PlaybackRestarted{}), "use frame | frame");
 
@@ -293,7 +295,7 @@ TEST(PlayerState, scrubbing_shows_a_keyframe_every_twelfth_of_a_second) {
     EXPECT_EQ(player(TimeChanged{2.9}), "");
     EXPECT_EQ(player(PlaybackRestarted{}), "arm keyframe 0.1");
     EXPECT_EQ(player(keyframeTimeout), "seek 5 keyframe");
-    EXPECT_EQ(player(EndChanged{true}), "") << "the end is that of our clock";
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "") << "the end is that of our clock";
     EXPECT_EQ(player(SetRate{-8, 50.5}), "| state") << "on from there";
     EXPECT_EQ(player(TimerFired{PlayerTimer::scrub, 50.75}), "| state, frame 300");
     EXPECT_EQ(player(Seek{900, silent}), "| state");
@@ -352,12 +354,12 @@ TEST(PlayerState, reaches_the_end_once_and_begins_again_from_the_start) {
     PlayerScript player = PlayerScript::showing();
     player(SetRate{2, 0});
     player(TimeChanged{9.96});
-    EXPECT_EQ(player(EndChanged{false}), "");
-    EXPECT_EQ(player(EndChanged{true}), "speed 1 | state, end") << "the core paused itself";
+    EXPECT_EQ(player(EndChanged{CoreEnd::no}), "");
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "speed 1 | state, end") << "the core paused itself";
     EXPECT_EQ(player.time(), 1000);
     EXPECT_EQ(player.rate(), 0);
     EXPECT_EQ(player(TimeChanged{9.96}), "");
-    EXPECT_EQ(player(EndChanged{true}), "");
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "");
     EXPECT_EQ(player(SetRate{1, 0}), "| state") << "there is nothing more";
     EXPECT_EQ(player.rate(), 0);
     EXPECT_EQ(player(Play{}), "seek 0 exact | jump, state, state");
@@ -370,9 +372,37 @@ TEST(PlayerState, reaches_the_end_once_and_begins_again_from_the_start) {
     PlayerScript stream = PlayerScript::showing(live);
     stream(Play{});
     stream(TimeChanged{3});
-    EXPECT_EQ(stream(EndChanged{true}), "| state, end");
+    EXPECT_EQ(stream(EndChanged{CoreEnd::ofMovie}), "| state, end");
     EXPECT_EQ(stream.time(), 300);
     EXPECT_EQ(stream(Play{}), "seek 0 exact | jump, state, state");
+}
+
+TEST(PlayerState, what_has_arrived_of_a_growing_file_is_no_end_while_it_plays) {
+    PlayerScript player = PlayerScript::showing();
+    player(Play{});
+    player(TimeChanged{9.96});
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofArrived}), "arm growth 0.5");
+    EXPECT_EQ(player.rate(), 1);
+    EXPECT_EQ(player(TimerFired{PlayerTimer::growth, 0}), "seek 9.96 exact");
+    EXPECT_EQ(player(EndChanged{CoreEnd::no}), "");
+    EXPECT_EQ(player(DurationGrew{9}), "") << "it never shrinks";
+    EXPECT_EQ(player(DurationGrew{12.5}), "| lasts 1250, state");
+    player(FrameDue{});
+    EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, go");
+    EXPECT_EQ(player(TimeChanged{12}), "| state, frame 1200");
+
+    // Started by hand it goes on from there, too; and nothing arrives any more.
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofArrived}), "arm growth 0.5");
+    EXPECT_EQ(player(SetRate{0, 0}), "| state");
+    EXPECT_EQ(player(TimerFired{PlayerTimer::growth, 0}), "") << "not while it is paused";
+    EXPECT_EQ(player(Play{}), "seek 12 exact | state");
+    player(FrameDue{});
+    player(PlaybackRestarted{});
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "| state, end");
+    EXPECT_EQ(player.time(), 1250);
+
+    PlayerScript stream = PlayerScript::showing(live);
+    EXPECT_EQ(stream(DurationGrew{12.5}), "") << "where no end is known none is made up";
 }
 
 TEST(PlayerState, playing_from_the_end_of_the_duration_begins_again_also_where_it_was_sought) {
@@ -389,11 +419,11 @@ TEST(PlayerState, an_end_during_a_seek_counts_once_that_is_done) {
     PlayerScript player = PlayerScript::showing();
     player(Play{});
     player(Seek{990, silent});
-    EXPECT_EQ(player(EndChanged{true}), "");
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "");
     player(FrameDue{});
     EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 9.9 exact");
-    EXPECT_FALSE(player.state().atEnd) << "the seek led away from it";
-    EXPECT_EQ(player(EndChanged{true}), "");
+    EXPECT_EQ(player.state().end, CoreEnd::no) << "the seek led away from it";
+    EXPECT_EQ(player(EndChanged{CoreEnd::ofMovie}), "");
     EXPECT_EQ(player(SetRate{2, 0}), "speed 2 | state") << "may be asked for meanwhile";
     EXPECT_EQ(player(TimeChanged{9.8}), "") << "still on the way";
     player(FrameDue{});
@@ -402,15 +432,15 @@ TEST(PlayerState, an_end_during_a_seek_counts_once_that_is_done) {
     // Paused, it is no end.
     PlayerScript paused = PlayerScript::showing();
     paused(Seek{990, silent});
-    EXPECT_EQ(paused(EndChanged{true}), "");
+    EXPECT_EQ(paused(EndChanged{CoreEnd::ofMovie}), "");
     EXPECT_EQ(paused(SetRate{-1, 0}), "arm scrub 0.0833333 | state") << "backwards there is more";
     moveTo(paused, 990);
-    EXPECT_EQ(paused(EndChanged{true}), "");
+    EXPECT_EQ(paused(EndChanged{CoreEnd::ofMovie}), "");
 
     for (const bool plays : {false, true}) {
         PlayerScript exact = PlayerScript::showing();
         exact(Seek{0, silent});
-        exact(EndChanged{true});
+        exact(EndChanged{CoreEnd::ofMovie});
         exact(SetRate{plays ? 1.0F : 0.0F, 0});
         exact(FrameDue{});
         EXPECT_EQ(exact(PlaybackRestarted{}), plays ? "cancel keyframe | state, end" : "cancel keyframe");
@@ -423,7 +453,7 @@ TEST(PlayerState, a_movie_that_fails_ends_after_a_moment_each_time_it_is_started
     player(Load{tenSeconds, 0});
     player(FileStarted{1});
     EXPECT_EQ(player(FileFailed{0, -13}), "") << "that was another one";
-    EXPECT_EQ(player(FileFailed{1, -13}), "| failed -13");
+    EXPECT_EQ(player(FileFailed{1, -13}), "drop frame | frame, failed -13");
     EXPECT_EQ(player(Play{}), "go, arm failure 0.25 | state");
     EXPECT_EQ(player(failureTimeout), "pause | state, end");
     EXPECT_EQ(player.rate(), 0);
@@ -439,7 +469,7 @@ TEST(PlayerState, a_movie_that_fails_ends_after_a_moment_each_time_it_is_started
 
     player(Load{tenSeconds, 0});
     player(Play{});
-    EXPECT_EQ(player(FileFailed{2, -13}), "arm failure 0.25 | failed -13") << "it was to play";
+    EXPECT_EQ(player(FileFailed{2, -13}), "drop frame, arm failure 0.25 | frame, failed -13") << "it was to play";
     EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, pause, load 0 | frame");
     EXPECT_EQ(player(Play{}), "go | state");
 }

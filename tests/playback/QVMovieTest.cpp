@@ -30,21 +30,43 @@ TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
     EXPECT_EQ(times.last->movie, movie);
     EXPECT_FALSE(rig.desktop.userActive) << "a resting movie keeps no screen awake";
 
-    movie->setNeedsTimeTable(true);
+    // The end is told each time that it is reached anew: after a start, and after a jump.
     rig.view.start();
-    rig.player().reachEnd();
-    EXPECT_EQ(ends.count, 0) << "only what has arrived so far has ended";
-    EXPECT_FALSE(rig.desktop.userActive);
-    movie->setNeedsTimeTable(false);
-    movie->resetCallbacks();
     rig.player().reachEnd();
     EXPECT_EQ(ends.count, 1);
     EXPECT_EQ(ends.last->movie, movie);
+    EXPECT_FALSE(rig.desktop.userActive);
+    rig.player().reachEnd();
+    EXPECT_EQ(ends.count, 1);
+    rig.view.start();
+    rig.player().reachEnd();
+    EXPECT_EQ(ends.count, 2);
+    rig.view.gotoBeginning();
+    rig.player().reachEnd();
+    EXPECT_EQ(ends.count, 3);
 
     rig.show("file:///b.mp4");
     times.count = 0;
     movie->playerJumped();
     EXPECT_EQ(times.count, 0) << "the movie that was replaced is silent";
+}
+
+TEST(QVMovie, the_end_of_what_has_arrived_of_a_recording_is_not_told_as_its_own) {
+    PlaybackRig rig;
+    platform::MovieInfo recording = ScriptedToolkit::plainMovie(QUrl("file:///recording.ts"));
+    recording.saysDuration = false;
+    const auto movie = std::make_shared<QVMovie>(rig.settings.environment, rig.movies, recording);
+    rig.view.setMovie(movie);
+    Posts<QVMovieCompleteNotification> ends(rig.settings.notifications);
+    rig.view.start();
+    rig.player().reachEnd(false);
+    EXPECT_EQ(ends.count, 0);
+    movie->playerGrew(1200);
+    EXPECT_EQ(movie->duration(), 1200);
+    EXPECT_TRUE(movie->needsTimeTable());
+    rig.view.start();
+    rig.player().reachEnd(true);
+    EXPECT_EQ(ends.count, 1) << "nothing more arrives";
 }
 
 TEST(QVMovie, movies_are_ordered_by_the_settings) {

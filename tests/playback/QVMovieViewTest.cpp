@@ -30,6 +30,13 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     EXPECT_EQ(rig.view.frame(), platform::Rect(0, -90, 1440, 1080));
     EXPECT_EQ(rig.view.time(), 0);
 
+    // Back at the one before: it is loaded at its beginning, not where it was left.
+    const std::int32_t left = first->time();
+    EXPECT_GT(left, 0);
+    rig.post(QVPlaylistMovieChangedNotification{first});
+    EXPECT_EQ(rig.player().loadedAt, 0);
+    rig.post(QVPlaylistMovieChangedNotification{second});
+
     // The same movie again begins anew without being loaded anew.
     rig.view.start();
     rig.player().advance(5);
@@ -37,6 +44,18 @@ TEST(QVMovieView, a_new_movie_keeps_volume_and_size_and_starts_at_its_beginning)
     rig.post(QVPlaylistMovieChangedNotification{second});
     EXPECT_EQ(rig.view.time(), 0);
     EXPECT_EQ(rig.player().loads, loads);
+}
+
+TEST(QVMovieView, starting_at_normal_speed_ends_the_silence_of_fast_motion) {
+    PlaybackRig rig;
+    rig.show();
+    rig.commands.isForceMuted = true;
+    rig.view.setRate(2.0F);
+    EXPECT_TRUE(rig.commands.isForceMuted) << "it moves fast";
+    rig.player().reachEnd();
+    EXPECT_TRUE(rig.commands.isForceMuted);
+    rig.view.start();
+    EXPECT_FALSE(rig.commands.isForceMuted);
 }
 
 TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {

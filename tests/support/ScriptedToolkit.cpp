@@ -30,12 +30,12 @@ void ScriptedPlayer::advance(double seconds) {
     }
 }
 
-void ScriptedPlayer::reachEnd() {
+void ScriptedPlayer::reachEnd(bool isWhole) {
     _time = _movie->duration();
     _rate = 0;
     stateChanged();
     if (_movie)
-        _movie->playerReachedEnd();
+        _movie->playerReachedEnd(isWhole);
 }
 
 void ScriptedPlayer::load(platform::Movie* movie) {
@@ -45,6 +45,7 @@ void ScriptedPlayer::load(platform::Movie* movie) {
     if (before && before != movie)
         before->playerUnloaded(_time);
     _time = time;
+    loadedAt = time;
     _left = 0;
     _rate = 0;
     _movie = movie;

@@ -20,7 +20,8 @@ public:
     /// reports each, and at its end stops and reports that.
     void advance(double seconds);
     /// Puts the time at the movie's end as playing would.
-    void reachEnd();
+    void reachEnd(bool isWhole = true);
+    std::int32_t loadedAt = -1; // the last movie
 
     /// Reports a new frame, to be shown now or whenever the view is drawn next.
     void showFrame(bool isDue) { isDue ? _observer->playerFrameDue() : _observer->playerFrameChanged(); }

@@ -224,6 +224,7 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
         return {std::nullopt, deadline.error(url, opened)};
     const Input input(context);
 
+    const bool saysDuration = durationInSeconds(input.get()) > 0;
     if (!isComplete(input.get())) {
         const int found = av->avformat_find_stream_info(input.get(), nullptr);
         if (found < 0)
@@ -241,6 +242,7 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
         return {std::nullopt, movieError::invalidMovie};
     MovieInfo info = describe(input.get(), seen ? video : nullptr, heard);
     info.url = url;
+    info.saysDuration = saysDuration;
     return {std::move(info), video && !seen ? movieError::cannotPlay : movieError::none};
 }
 

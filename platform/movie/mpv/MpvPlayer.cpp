@@ -9,8 +9,10 @@
 #include "platform/movie/mpv/MpvCore.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QEvent>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdlib>
 #include <optional>
@@ -29,9 +31,13 @@ constexpr QEvent::Type coreDeliveredEvent = static_cast<QEvent::Type>(QEvent::Us
 // What is observed, by the number that its changes carry.
 constexpr std::uint64_t timeProperty = 1;
 constexpr std::uint64_t endProperty = 2;
+constexpr std::uint64_t durationProperty = 3;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
+
+// A file that was written to within these seconds is still growing.
+constexpr qint64 growingSeconds = 3;
 
 } // namespace
 
@@ -44,8 +50,8 @@ MpvPlayer::~MpvPlayer() {
 void MpvPlayer::dropCore() {
     if (_movie)
         load(nullptr);
-    if (_prepared.frame)
-        _prepared.frame->abandon();
+    setPreparedFrame({});
+    _firstFrames.finish();
     _firstFrameWait.reset();
     _video.setFirstShown(nullptr);
     _video.setCore(nullptr);
@@ -73,6 +79,7 @@ void MpvPlayer::adoptCore() {
     const MpvLibrary& mpv = *MpvLibrary::get();
     mpv.mpv_request_log_messages(_core->handle(), "error");
     mpv.mpv_observe_property(_core->handle(), timeProperty, "time-pos", MPV_FORMAT_DOUBLE);
+    mpv.mpv_observe_property(_core->handle(), durationProperty, "duration", MPV_FORMAT_DOUBLE);
     mpv.mpv_observe_property(_core->handle(), endProperty, "eof-reached", MPV_FORMAT_FLAG);
     // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
@@ -119,8 +126,15 @@ void MpvPlayer::load(Movie* movie) {
         _movie->playerUnloaded(time());
     _movie = movie;
     ++_loads;
-    _video.begin(movie ? movie->info().naturalSize : QSizeF());
+    _sizeWhenLoaded = movie && movie->url().isLocalFile() ? QFileInfo(movie->url().toLocalFile()).size() : 0;
+    const bool hasFrames = facts && facts->content == LoadedMovie::Content::frames;
+    _video.begin(movie ? movie->info().naturalSize : QSizeF(),
+                 hasFrames ? MpvVideoLayer::LastFrame::stays : MpvVideoLayer::LastFrame::goes);
     apply(playerEvent::Load{facts, start});
+    if (hasFrames && start == 0)
+        prepareFrame();
+    else
+        _firstFrames.cancel();
     showPreparedFrame();
 }
 
@@ -137,7 +151,16 @@ void MpvPlayer::apply(const PlayerEvent& event) {
     }
 }
 
+void MpvPlayer::prepareFrame() {
+    const bool isPrepared = _prepared.url == _movie->url();
+    if (!isPrepared && _movie->url().isLocalFile() && !_video.usesOpenGL())
+        setPreparedFrame(_firstFrames.decode(_movie->url()));
+}
+
 void MpvPlayer::setPreparedFrame(PreparedFrame prepared) {
+    if (_prepared.frame)
+        _prepared.frame->abandon();
+    _preparedFrame = nullptr;
     _prepared = std::move(prepared);
     if (!_prepared.frame)
         return;
@@ -155,9 +178,13 @@ void MpvPlayer::setPreparedFrame(PreparedFrame prepared) {
 }
 
 void MpvPlayer::showPreparedFrame() {
-    if (!_preparedFrame || !_movie || _movie->url() != _prepared.url || time() != 0 || _video.hasCoreFrame())
+    if (!_preparedFrame || !_movie || _movie->url() != _prepared.url)
         return;
-    _video.setFirst(std::exchange(_preparedFrame, nullptr));
+    _prepared.url.clear(); // used up, also where it comes too late
+    std::shared_ptr<const FirstFrame> first = std::exchange(_preparedFrame, nullptr);
+    if (time() != 0 || _video.hasCoreFrame())
+        return;
+    _video.setFirst(std::move(first));
     if (_observer)
         _observer->playerFrameChanged();
 }
@@ -203,12 +230,25 @@ void MpvPlayer::handle(const mpv_event& event) {
         if (event.reply_userdata == timeProperty)
             apply(playerEvent::TimeChanged{*static_cast<const double*>(property->data)});
         else if (event.reply_userdata == endProperty)
-            apply(playerEvent::EndChanged{*static_cast<const int*>(property->data) != 0});
+            apply(playerEvent::EndChanged{*static_cast<const int*>(property->data) == 0 ? CoreEnd::no
+                                          : isFileGrowing()                             ? CoreEnd::ofArrived
+                                                                                        : CoreEnd::ofMovie});
+        else if (event.reply_userdata == durationProperty && hasFileGrown())
+            apply(playerEvent::DurationGrew{*static_cast<const double*>(property->data)});
         break;
     }
     default:
         break;
     }
+}
+
+bool MpvPlayer::hasFileGrown() const {
+    return _sizeWhenLoaded > 0 && QFileInfo(_movie->url().toLocalFile()).size() > _sizeWhenLoaded;
+}
+
+bool MpvPlayer::isFileGrowing() const {
+    return hasFileGrown() &&
+           QFileInfo(_movie->url().toLocalFile()).lastModified().secsTo(QDateTime::currentDateTime()) <= growingSeconds;
 }
 
 void MpvPlayer::framesDue() {
@@ -280,7 +320,12 @@ void MpvPlayer::tell(const playerReport::Jumped&) {
 
 void MpvPlayer::tell(const playerReport::ReachedEnd&) {
     if (_movie)
-        _movie->playerReachedEnd();
+        _movie->playerReachedEnd(!isFileGrowing());
+}
+
+void MpvPlayer::tell(const playerReport::Grew& report) {
+    if (_movie)
+        _movie->playerGrew(report.duration);
 }
 
 void MpvPlayer::tell(const playerReport::Failed& report) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/base/Delivery.h"
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MoviePlayer.h"
+#include "platform/movie/mpv/FirstFrameDecoder.h"
 #include "platform/movie/mpv/MpvVideoLayer.h"
 #include "platform/movie/mpv/PlayerState.h"
 
@@ -23,12 +23,6 @@ namespace platform {
 
 class MpvCore;
 
-/// A first frame that is being decoded ahead, of the movie at the URL; null where none comes.
-struct PreparedFrame {
-    QUrl url;
-    std::shared_ptr<Delivery<std::shared_ptr<const FirstFrame>>> frame;
-};
-
 /// The player on libmpv. What is asked of it is kept as the wanted state, answered at once, and carried out
 /// asynchronously, so that it never waits for the core and can be asked before the core stands. What follows from what
 /// is PlayerState's to say: here events become its events, and its effects commands and timers. Main thread.
@@ -37,7 +31,7 @@ public:
     MpvPlayer();
     ~MpvPlayer() override;
 
-    /// Shows it with the movie at its URL, once it is there.
+    /// Shows it with the movie at its URL, once it is there, in place of one prepared before.
     void setPreparedFrame(PreparedFrame prepared);
     /// Calls `work` once the prepared frame was shown, or soon, when there is none to wait for.
     void whenFirstFrameIsDone(std::function<void()> work);
@@ -67,10 +61,15 @@ public:
 private:
     bool event(QEvent* event) override;
     void adoptCore();
+    /// Decodes it beside the core, which takes three times as long for it.
+    void prepareFrame();
     void showPreparedFrame();
     void handleEvents();
     void handle(const mpv_event& event);
     void framesDue();
+    /// Since the movie was loaded; and lately.
+    bool hasFileGrown() const;
+    bool isFileGrowing() const;
 
     void apply(const PlayerEvent& event);
 
@@ -86,6 +85,8 @@ private:
     void carryOut(const playerEffect::CancelTimer& effect) { timer(effect.timer).reset(); }
     void carryOut(const playerEffect::CancelTimers&) { _timers = {}; }
     void carryOut(const playerEffect::UseCoreFrame&) { _video.coreFrameReady(); }
+    void carryOut(const playerEffect::SkipFrame&) { _video.skip(); }
+    void carryOut(const playerEffect::DropHeldFrame&) { _video.dropLastFrame(); }
 
     void tell(const playerReport::FrameChanged&);
     void tell(const playerReport::FrameDue&);
@@ -93,6 +94,7 @@ private:
     void tell(const playerReport::ShowedFrame& report);
     void tell(const playerReport::Jumped&);
     void tell(const playerReport::ReachedEnd&);
+    void tell(const playerReport::Grew& report);
     void tell(const playerReport::Failed& report);
 
     void command(std::initializer_list<const char*> words);
@@ -103,6 +105,7 @@ private:
     std::unique_ptr<MpvCore> _delivered;
     std::unique_ptr<MpvCore> _core;
     MpvVideoLayer _video;
+    FirstFrameDecoder _firstFrames;
     PreparedFrame _prepared;
     std::shared_ptr<const FirstFrame> _preparedFrame; // come, and not shown yet
     std::unique_ptr<Timer> _firstFrameWait;
@@ -110,6 +113,7 @@ private:
     Movie* _movie = nullptr;
     PlayerState _state;
     std::uint64_t _loads = 0;
+    qint64 _sizeWhenLoaded = 0; // bytes of the movie's file
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 
     std::atomic<bool> _eventsPosted{false};

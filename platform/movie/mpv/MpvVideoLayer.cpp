@@ -4,15 +4,97 @@
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MpvCore.h"
 
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+#include <QOpenGLFramebufferObject>
 #include <QPointF>
 #include <QRectF>
 
+#include <cstddef>
+#include <cstring>
+#include <utility>
+
 namespace platform {
 
-void MpvVideoLayer::begin(const QSizeF& naturalSize) {
+namespace {
+
+void copyPart(const QImage& from, const QRect& part, unsigned char* target, std::size_t stride) {
+    for (int y = 0; y < part.height(); ++y) {
+        std::memcpy(target + static_cast<std::size_t>(y) * stride,
+                    from.constScanLine(part.y() + y) + static_cast<std::ptrdiff_t>(part.x()) * 4,
+                    static_cast<std::size_t>(part.width()) * 4);
+    }
+}
+
+// A first picture is scaled whole: larger ones, of which only a part is seen, are the core's work.
+constexpr qint64 maximumFirstPixels = 16 << 20;
+
+} // namespace
+
+MpvVideoLayer::MpvVideoLayer() = default;
+
+MpvVideoLayer::~MpvVideoLayer() = default;
+
+void MpvVideoLayer::begin(const QSizeF& naturalSize, LastFrame last) {
+    if (last == LastFrame::goes)
+        dropLastFrame();
+    else if (_coreHasPicture || (_first && _last.isNull())) // else none of the movie before was seen yet
+        keepLastFrame();
     _coreHasPicture = false;
     _first = nullptr;
     _naturalSize = naturalSize;
+}
+
+void MpvVideoLayer::keepLastFrame() {
+    dropLastFrame();
+    if (_shown.visible.isEmpty())
+        return;
+    if (_gl) {
+        if (!_gl->makeCurrent())
+            return;
+        auto kept = std::make_unique<QOpenGLFramebufferObject>(_shown.visible.size());
+        if (!kept->isValid() || !renderCoreGL(_shown.picture, kept->size(), kept->handle()))
+            return;
+        _lastGL = std::move(kept);
+    } else {
+        QImage kept(_shown.visible.size(), QImage::Format_RGB32);
+        if (kept.isNull() || !renderOwn(_shown, kept.bits(), static_cast<std::size_t>(kept.bytesPerLine())))
+            return;
+        _last = std::move(kept);
+    }
+    _lastShown = _shown;
+}
+
+void MpvVideoLayer::dropLastFrame() {
+    _last = QImage();
+    if (_lastGL && _gl)
+        _gl->makeCurrent();
+    _lastGL = nullptr;
+}
+
+void MpvVideoLayer::coreFrameReady() {
+    _coreHasPicture = true;
+    dropLastFrame();
+}
+
+QRect MpvVideoLayer::place(const QRect& asked) const {
+    const bool lastStandsIn = !_coreHasPicture && !_last.isNull() && !showsFirst(asked);
+    return lastStandsIn ? _lastShown.picture : asked;
+}
+
+bool MpvVideoLayer::showsFirst(const QRect& picture) const {
+    return _first && qint64{picture.width()} * picture.height() <= maximumFirstPixels;
+}
+
+bool MpvVideoLayer::renderFirst(const QRect& picture, const QRect& visible, unsigned char* target,
+                                std::size_t stride) const {
+    if (picture == visible)
+        return _first->render(visible.size(), target, stride);
+    QImage whole(picture.size(), QImage::Format_RGB32);
+    if (whole.isNull() || !_first->render(whole.size(), whole.bits(), static_cast<std::size_t>(whole.bytesPerLine())))
+        return false;
+    copyPart(whole, visible.translated(-picture.topLeft()), target, stride);
+    return true;
 }
 
 void MpvVideoLayer::setProperty(const char* name, double value) {
@@ -42,13 +124,29 @@ bool MpvVideoLayer::renderPixels(const QRect& picture, const QRect& visible, uns
                                  std::size_t stride) {
     unsigned char* const target =
         pixels + static_cast<std::size_t>(visible.y()) * stride + static_cast<std::size_t>(visible.x()) * 4;
-    if (!_coreHasPicture) {
-        if (!_first || picture != visible || !_first->render(visible.size(), target, stride))
+    if (_coreHasPicture || showsFirst(picture)) {
+        _shown = {picture, visible};
+        if (!renderOwn(_shown, target, stride))
             return false;
-        if (_firstShown)
-            _firstShown();
+        if (!_coreHasPicture) {
+            dropLastFrame();
+            if (_firstShown)
+                _firstShown();
+        }
         return true;
     }
+    // Where the window has changed meanwhile, what was seen of the picture may not be all that would be seen now.
+    const QRect part = visible.intersected(_lastShown.visible);
+    if (_last.isNull() || part != visible)
+        return false;
+    copyPart(_last, part.translated(-_lastShown.visible.topLeft()), target, stride);
+    return true;
+}
+
+bool MpvVideoLayer::renderOwn(const Shown& shown, unsigned char* target, std::size_t stride) {
+    const auto& [picture, visible] = shown;
+    if (!_coreHasPicture)
+        return renderFirst(picture, visible, target, stride);
     setCrop(picture, visible);
     int size[2] = {visible.width(), visible.height()};
     int block = 0;
@@ -74,13 +172,29 @@ bool MpvVideoLayer::beginGL(GLContext& context) {
 }
 
 void MpvVideoLayer::endGL() {
+    dropLastFrame();
     if (_core && _gl && _gl->makeCurrent())
         _core->useSoftware();
     _gl = nullptr;
 }
 
 bool MpvVideoLayer::renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) {
-    if (!_coreHasPicture || !_core->renderContext())
+    if (_coreHasPicture) {
+        _shown = {picture, QRect(QPoint(0, 0), target)};
+        return renderCoreGL(picture, target, framebuffer);
+    }
+    if (!_lastGL || _lastGL->size() != target)
+        return false;
+    QOpenGLExtraFunctions* gl = QOpenGLContext::currentContext()->extraFunctions();
+    gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, _lastGL->handle());
+    gl->glBindFramebuffer(GL_DRAW_FRAMEBUFFER, framebuffer);
+    gl->glBlitFramebuffer(0, 0, target.width(), target.height(), 0, 0, target.width(), target.height(),
+                          GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    return true;
+}
+
+bool MpvVideoLayer::renderCoreGL(const QRect& picture, const QSize& target, unsigned framebuffer) {
+    if (!_core->renderContext())
         return false;
     mpv_opengl_fbo fbo{static_cast<int>(framebuffer), target.width(), target.height(), 0};
     int flip = 1;

@@ -4,32 +4,44 @@
 #include "platform/movie/mpv/FirstFrame.h"
 #include "platform/window/VideoLayer.h"
 
+#include <QImage>
+#include <QRect>
 #include <QSizeF>
 
 #include <functional>
 #include <memory>
 #include <utility>
 
+class QOpenGLFramebufferObject;
+
 namespace platform {
 
 class MpvCore;
 
-/// The picture of the core, rendered into the host's pixels or framebuffer. Until the core has one of the movie, the
-/// first picture that was decoded while the movie was opened stands in its place. Main thread.
+/// The picture of the core, rendered into the host's pixels or framebuffer. Until the core has one of the movie, its
+/// first picture stands in, which was decoded beside the core; and until that has come, the last picture of the movie
+/// before, where that stood. Main thread.
 class MpvVideoLayer final : public VideoLayer {
 public:
+    MpvVideoLayer();
+    ~MpvVideoLayer() override;
+
     /// Before the core loads anything; null before it ends.
     void setCore(MpvCore* core);
-    /// A movie of that displayed size was loaded: no picture of the core's is of it yet.
-    void begin(const QSizeF& naturalSize);
+    enum class LastFrame { stays, goes };
+    /// A movie of that displayed size is about to be loaded: no picture of the core's is of it yet.
+    void begin(const QSizeF& naturalSize, LastFrame last);
+    /// No picture of the movie comes that the last one would stand in for.
+    void dropLastFrame();
     void setFirst(std::shared_ptr<const FirstFrame> first) { _first = std::move(first); }
     /// Called each time the first picture was rendered.
     void setFirstShown(std::function<void()> shown) { _firstShown = std::move(shown); }
     bool usesOpenGL() const { return _gl != nullptr; }
     /// The core's picture is of the movie from here on.
-    void coreFrameReady() { _coreHasPicture = true; }
+    void coreFrameReady();
     bool hasCoreFrame() const { return _coreHasPicture; }
 
+    QRect place(const QRect& asked) const override;
     bool renderPixels(const QRect& picture, const QRect& visible, unsigned char* pixels, std::size_t stride) override;
     bool beginGL(GLContext& context) override;
     void endGL() override;
@@ -37,6 +49,18 @@ public:
     void skip() override;
 
 private:
+    /// What was rendered, and the part of it that is seen.
+    struct Shown {
+        QRect picture;
+        QRect visible;
+    };
+    /// Keeps what is shown now.
+    void keepLastFrame();
+    bool showsFirst(const QRect& picture) const;
+    /// The movie's own picture; `target` is the address of the visible part.
+    bool renderOwn(const Shown& shown, unsigned char* target, std::size_t stride);
+    bool renderFirst(const QRect& picture, const QRect& visible, unsigned char* target, std::size_t stride) const;
+    bool renderCoreGL(const QRect& picture, const QSize& target, unsigned framebuffer);
     void setCrop(const QRect& picture, const QRect& visible);
     void setProperty(const char* name, double value);
 
@@ -45,6 +69,11 @@ private:
     bool _coreHasPicture = false;
     std::shared_ptr<const FirstFrame> _first;
     std::function<void()> _firstShown;
+    Shown _shown; // last
+    // The last picture of the movie before: in one of the two, or none is kept.
+    QImage _last;
+    std::unique_ptr<QOpenGLFramebufferObject> _lastGL;
+    Shown _lastShown;
     QSizeF _naturalSize;
     QRect _cropPicture;
     QRect _cropVisible;

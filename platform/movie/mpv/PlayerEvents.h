@@ -22,8 +22,11 @@ struct LoadedMovie {
 };
 
 /// The timers that the player asks for. The scrubbing one repeats.
-enum class PlayerTimer { keyframe, failure, scrub };
-inline constexpr std::size_t playerTimerCount = 3;
+enum class PlayerTimer { keyframe, failure, growth, scrub };
+inline constexpr std::size_t playerTimerCount = 4;
+
+/// Whether the core has nothing more to play: for now, or for good.
+enum class CoreEnd { no, ofArrived, ofMovie };
 
 /// What happens to the player. Times in seconds are the core's, `now` is the run loop's.
 namespace playerEvent {
@@ -73,9 +76,14 @@ struct PlaybackRestarted {};
 struct TimeChanged {
     double seconds;
 };
-/// The core stands at the movie's end, or does not any more.
+/// More of a file that grows has arrived: it lasts longer than was known.
+struct DurationGrew {
+    double seconds;
+};
+/// The core stands at the end, or does not any more. The end of what has arrived is not the movie's while its file
+/// grows.
 struct EndChanged {
-    bool atEnd;
+    CoreEnd end;
 };
 /// A frame is to be taken from the core.
 struct FrameDue {};
@@ -86,7 +94,7 @@ using PlayerEvent = std::variant<playerEvent::CoreReady, playerEvent::CoreDroppe
                                  playerEvent::SetRate, playerEvent::Seek, playerEvent::Step, playerEvent::SetVolume,
                                  playerEvent::SetMuted, playerEvent::TimerFired, playerEvent::FileStarted,
                                  playerEvent::FileFailed, playerEvent::PlaybackRestarted, playerEvent::TimeChanged,
-                                 playerEvent::EndChanged, playerEvent::FrameDue>;
+                                 playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
 
 /// What is to be done: commands to the core, which stands when one is asked for, and timers.
 namespace playerEffect {
@@ -127,13 +135,18 @@ struct CancelTimer {
 struct CancelTimers {};
 /// The frames of the core are the movie's from here on.
 struct UseCoreFrame {};
+/// Takes a frame that is not to be shown: the core waits until each was taken.
+struct SkipFrame {};
+/// No frame of the movie will come: the one that stands in for it goes.
+struct DropHeldFrame {};
 
 } // namespace playerEffect
 
-using PlayerEffect = std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::SendSeek,
-                                  playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed,
-                                  playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::ArmTimer,
-                                  playerEffect::CancelTimer, playerEffect::CancelTimers, playerEffect::UseCoreFrame>;
+using PlayerEffect =
+    std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::SendSeek, playerEffect::SendSteps,
+                 playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetVolume, playerEffect::SetMuted,
+                 playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
+                 playerEffect::UseCoreFrame, playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
 
 /// What the observer and the movie are told.
 namespace playerReport {
@@ -146,15 +159,19 @@ struct ShowedFrame {
 };
 struct Jumped {};
 struct ReachedEnd {};
+/// The movie lasts that long by what has arrived of it.
+struct Grew {
+    std::int32_t duration;
+};
 struct Failed {
     int error;
 };
 
 } // namespace playerReport
 
-using PlayerReport =
-    std::variant<playerReport::FrameChanged, playerReport::FrameDue, playerReport::StateChanged,
-                 playerReport::ShowedFrame, playerReport::Jumped, playerReport::ReachedEnd, playerReport::Failed>;
+using PlayerReport = std::variant<playerReport::FrameChanged, playerReport::FrameDue, playerReport::StateChanged,
+                                  playerReport::ShowedFrame, playerReport::Jumped, playerReport::ReachedEnd,
+                                  playerReport::Grew, playerReport::Failed>;
 
 /// A list that lies within itself: an event for each frame allocates nothing.
 template <class Item>

@@ -24,6 +24,8 @@ constexpr double scrubInterval = 1.0 / 12;
 constexpr double keyframeTimeout = 0.1;
 // A movie that fails at once counts as ended after a moment: a list of nothing else must not spin.
 constexpr double failureDelay = 0.25;
+// How often it is tried whether more of a growing file has arrived.
+constexpr double growthInterval = 0.5;
 constexpr float maximumVolume = 3.0F;
 
 /// One transition under way.
@@ -74,6 +76,8 @@ public:
         if (!_s.core || !_s.movie || failed.entry != _s.core->entriesSent)
             return;
         _s.file = File::failed;
+        effect(DropHeldFrame{});
+        report(FrameChanged{});
         report(Failed{failed.error});
         endIfFailed();
     }
@@ -81,7 +85,9 @@ public:
     // Motion
 
     void operator()(const playerEvent::Play&) {
-        if (_s.movie && (_s.atEnd || (_s.movie->duration > 0 && _s.time >= _s.movie->duration)))
+        if (_s.movie && _s.end == CoreEnd::ofArrived)
+            request(toSeconds(_s.time), Precision::exact);
+        else if (_s.movie && (_s.end == CoreEnd::ofMovie || (_s.movie->duration > 0 && _s.time >= _s.movie->duration)))
             seek(0, JumpReport::reported);
         setRate(1.0F, 0);
     }
@@ -108,6 +114,10 @@ public:
         case PlayerTimer::failure:
             if (_s.rate > 0)
                 reachEnd();
+            break;
+        case PlayerTimer::growth:
+            if (_s.rate > 0 && _s.end == CoreEnd::ofArrived && !_s.seeks.isBusy())
+                request(toSeconds(_s.time), Precision::exact);
             break;
         case PlayerTimer::scrub:
             scrub(fired.now);
@@ -137,6 +147,12 @@ public:
     }
 
     void operator()(const playerEvent::FrameDue&) {
+        // While it loads the core waits for its first frame to be taken, then for the next ones, a fifth of a second
+        // each; and what is due now may still be of the movie before.
+        if (_s.movie && _s.file == File::loading) {
+            effect(SkipFrame{});
+            return;
+        }
         report(playerReport::FrameDue{});
         // The next seek waits until the frame was taken.
         if (_s.seekStage == SeekStage::restarted)
@@ -161,15 +177,27 @@ public:
         }
     }
 
+    void operator()(const playerEvent::DurationGrew& grew) {
+        if (!isOfMovie())
+            return;
+        const std::int32_t duration = toUnits(grew.seconds);
+        // A stream without a known end has none either when more of it has arrived.
+        if (_s.movie->duration <= 0 || duration <= _s.movie->duration)
+            return;
+        _s.movie->duration = duration;
+        report(Grew{duration});
+        report(StateChanged{});
+    }
+
     void operator()(const playerEvent::EndChanged& changed) {
         if (!isOfMovie())
             return;
-        _s.atEnd = changed.atEnd;
-        if (!changed.atEnd)
+        _s.end = changed.end;
+        if (_s.end == CoreEnd::no)
             return;
         _s.core->paused = true; // the core pauses itself there
         if (_s.rate > 0 && !_s.seeks.isBusy() && !_s.scrub)
-            reachEnd();
+            reachCoreEnd();
     }
 
     // The rest
@@ -231,7 +259,7 @@ private:
     void setRate(float rate, double now) {
         if (!_s.movie || std::isnan(rate) || rate == _s.rate)
             return;
-        const bool isThere = (rate < 0 && _s.time <= 0) || (rate > 0 && _s.atEnd && !_s.seeks.isBusy());
+        const bool isThere = (rate < 0 && _s.time <= 0) || (rate > 0 && _s.end != CoreEnd::no && !_s.seeks.isBusy());
         _s.rate = isThere ? 0 : rate;
         const bool scrubs = _s.rate < 0 || _s.rate > maximumPlayedRate;
         if (scrubs && !_s.scrub) {
@@ -298,7 +326,7 @@ private:
     }
 
     void send(const SeekPlanner::Seek& seek) {
-        _s.atEnd = false;
+        _s.end = CoreEnd::no;
         _s.seekStage = SeekStage::sent;
         applyMotion();
         effect(SendSeek{seek});
@@ -312,8 +340,8 @@ private:
         _s.seekStage = SeekStage::none;
         if (_s.rate != 0 && !_s.scrub)
             _s.timeSource = TimeSource::core;
-        if (_s.atEnd && _s.rate > 0) {
-            reachEnd();
+        if (_s.end != CoreEnd::no && _s.rate > 0) {
+            reachCoreEnd();
             return;
         }
         applyMotion();
@@ -338,6 +366,14 @@ private:
     void endIfFailed() {
         if (_s.file == File::failed && _s.rate > 0)
             effect(ArmTimer{PlayerTimer::failure, failureDelay});
+    }
+
+    /// The movie goes on playing where more of it is to arrive.
+    void reachCoreEnd() {
+        if (_s.end == CoreEnd::ofArrived)
+            effect(ArmTimer{PlayerTimer::growth, growthInterval});
+        else
+            reachEnd();
     }
 
     void reachEnd() {

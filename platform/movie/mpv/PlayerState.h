@@ -30,7 +30,7 @@ struct PlayerState {
 
     enum class File { loading, shown, failed };
     File file = File::loading;
-    bool atEnd = false; // the core is
+    CoreEnd end = CoreEnd::no; // where the core is
 
     SeekPlanner seeks;
     /// How far the seek under way is: sent, sent and a frame was due since, or done but for the frame.
