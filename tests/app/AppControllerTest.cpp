@@ -239,6 +239,13 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
         AppRig rig(quiet({{kQVHideOnDeactivate, hides}, {kQVMainWindowLayer, 5}}));
         rig.launch();
         const float shown = rig.window.alphaValue();
+        rig.window.hide();
+        rig.fade();
+        rig.app.applicationWillBecomeActive();
+        rig.fade();
+        EXPECT_EQ(rig.window.alphaValue(), 0.0F) << "what another one hid stays hidden";
+        rig.window.show();
+        rig.fade();
         rig.host.changes.clear();
         rig.app.applicationWillResignActive();
         rig.fade();

@@ -6,6 +6,7 @@
 #include "playlist/Arrangement.h"
 #include "playlist/OpeningReport.h"
 #include "settings/SettingsKeys.h"
+#include "tests/support/CapturedLog.h"
 #include "tests/support/PlaybackRig.h"
 
 #include <QDir>
@@ -84,7 +85,9 @@ TEST(QVPlaylistController, files_that_fail_are_reported_together_while_the_rest_
     QStringList meanwhile;
     rig.desktop.whileAlertIsUp = [&] { meanwhile << rig.order() + (rig.view.isPlaying() ? " plays" : ""); };
     rig.desktop.alertAnswers = {1, 1};
+    const CapturedLog log;
     EXPECT_TRUE(rig.add(names));
+    EXPECT_EQ(log.count("QT Sticky Error Code"), 5) << "one for each but the good one";
     EXPECT_EQ(meanwhile, QStringList(2, "strange good plays"));
     ASSERT_EQ(rig.desktop.alerts.size(), 2U);
     EXPECT_EQ(rig.desktop.alerts[0].title, localizedFormat("UnableToOpenFilesMessage", {"2"}));
