@@ -36,6 +36,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _feedback(environment, _window)
     , _subtitleReaders(subtitleReaders(environment))
     , _subtitleDiscovery(environment.loop)
+    , _backdrop(environment, {platform.toolkit, _files})
     , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _files})
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
                               _view,
@@ -48,10 +49,11 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
     , _activation(environment, _window, _view, _pointer)
-    , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _playlist,
-                                 _subtitles, _commands, _display, _menu, _pointer, _files, _activation})
+    , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop,
+                                 _playlist, _subtitles, _commands, _display, _menu, _pointer, _files, _activation})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
+    _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);
     _commands.setTarget(&_controller);

@@ -13,6 +13,7 @@
 #include "context/Environment.h"
 #include "control/QVMovieController.h"
 #include "overlays/OverlaysOnDemand.h"
+#include "playback/BackdropView.h"
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
 #include "playback/SubtitleDiscovery.h"
@@ -38,6 +39,7 @@ public:
 
     QVFullScreenWindow& window() { return _window; }
     QVMovieView& view() { return _view; }
+    BackdropView& backdrop() { return _backdrop; }
     MainMenu& menu() { return _menu; }
     QVPlaylistController& playlist() { return _playlist; }
     OnScreenDisplay& display() { return _display; }
@@ -61,6 +63,7 @@ private:
     FeedbackOnDemand _feedback;
     SubtitleRegistry _subtitleReaders;
     SubtitleDiscovery _subtitleDiscovery;
+    BackdropView _backdrop;
     QVMovieView _view;
     QVPlaylistController _playlist;
     SubtitlesOverMovie _subtitleScene;

@@ -10,12 +10,15 @@
 #include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
 #include "context/CommandTarget.h"
+#include "control/CommandHelp.h"
 #include "overlays/OnScreenDisplay.h"
 #include "platform/base/Bundle.h"
+#include "platform/base/Localization.h"
 #include "platform/base/PropertyList.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/movie/MovieToolkit.h"
+#include "playback/BackdropView.h"
 #include "playback/QVMovieView.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
@@ -40,6 +43,16 @@ std::optional<platform::Screen> screenOf(const platform::Window& window, const p
             return screen;
     }
     return screens.empty() ? std::nullopt : std::optional(screens.front());
+}
+
+/// How to open a movie, by the keys of the commands.
+BackdropView::Hint openingHint() {
+    const auto keyOf = [](std::string_view command) {
+        const Command* row = commandWithName(command);
+        return row ? readableKeyText(row->keys.front()) : QString();
+    };
+    return {platform::localizedFormat(QStringLiteral("Press %@ to open a movie"), {keyOf("open")}),
+            platform::localizedFormat(QStringLiteral("or drop files here. %@ shows all keys."), {keyOf("help")})};
 }
 
 } // namespace
@@ -102,6 +115,7 @@ void QVAppController::applicationDidFinishLaunching() {
 
 void QVAppController::finishLaunching() {
     const TraceScope scope("-[QVAppController finishLaunching]");
+    _with.backdrop.offerHint(openingHint());
     _with.steps.runFirstTimeConfig();
     _with.steps.askDonation();
     if (_with.steps.shouldCheckLatestVersion()) {

@@ -18,6 +18,7 @@ class MovieToolkit;
 } // namespace platform
 
 class Activation;
+class BackdropView;
 class CommandTarget;
 class FileIntake;
 class LaunchSteps;
@@ -41,6 +42,7 @@ public:
         LaunchSteps& steps;
         QVFullScreenWindow& window;
         QVMovieView& view;
+        BackdropView& backdrop;
         QVPlaylistController& playlist;
         QVSubtitlesController& subtitles;
         CommandTarget& controller;

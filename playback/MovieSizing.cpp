@@ -54,19 +54,21 @@ QSizeF sizeForFitScreen(const Geometry& geometry, std::int32_t mode) {
 }
 
 Plan planSize(std::int32_t code, const QSizeF& current, const Geometry& geometry) {
+    if (!hasPicture(geometry)) {
+        // There is no magnification to change, and none to be kept for the next movie.
+        const bool steps = code == movieSize::smaller || code == movieSize::bigger;
+        return {steps ? movieSize::custom : code, sizeForFitScreen(geometry, code), std::nullopt};
+    }
     const float m = magnification(current, geometry.natural);
     switch (code) {
     case movieSize::smaller: {
-        // Without a picture there is no magnification to change, and none to be kept for the next movie.
-        if (!hasPicture(geometry) || !(static_cast<double>(m) > smallestToShrink))
+        if (!(static_cast<double>(m) > smallestToShrink))
             return {movieSize::custom, current, std::nullopt};
         Geometry shrunk = geometry;
         shrunk.customScale = m - magnificationStep;
         return {movieSize::custom, customSize(shrunk), shrunk.customScale};
     }
     case movieSize::bigger: {
-        if (!hasPicture(geometry))
-            return {movieSize::custom, current, std::nullopt};
         const float grown = m + magnificationStep;
         return {movieSize::custom, sizeForMagnification(geometry, grown), grown};
     }
@@ -86,8 +88,9 @@ Plan planSize(std::int32_t code, const QSizeF& current, const Geometry& geometry
     }
 }
 
-platform::Rect centred(const QSizeF& size, const QSizeF& window) {
-    return platform::Rect(QPointF((window.width() - size.width()) / 2, (window.height() - size.height()) / 2), size);
+platform::Rect placed(const QSizeF& size, const Geometry& geometry) {
+    const QSizeF free = geometry.window - size;
+    return platform::Rect(QPointF(free.width() / 2, hasPicture(geometry) ? free.height() / 2 : 0), size);
 }
 
 std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double seconds, std::int32_t timeScale,

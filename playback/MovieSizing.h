@@ -61,11 +61,12 @@ struct Plan {
     /// The custom magnification to store.
     std::optional<float> customScale;
 };
-/// What a size code makes of a view that is `current` large.
+/// What a size code makes of a view that is `current` large. Without a picture there is but one size.
 Plan planSize(std::int32_t code, const QSizeF& current, const Geometry& geometry);
 
-/// A view of the size in the middle of a window.
-platform::Rect centred(const QSizeF& size, const QSizeF& window);
+/// A view of the size in the middle of the window; that of a movie without a picture at its bottom, where the bar of
+/// one that fills the screen is.
+platform::Rect placed(const QSizeF& size, const Geometry& geometry);
 
 /// Time values; `duration` 0 when it is not known.
 std::int32_t jumpTarget(std::int32_t time, std::int32_t direction, double seconds, std::int32_t timeScale,

@@ -83,7 +83,7 @@ void QVMovieView::setMovieSize(std::int32_t code, Recalculation recalculation) {
         _environment.settings.setFloat(*plan.customScale, kQVMovieCustomScale);
     if (superview())
         superview()->setNeedsDisplayInRect(old.grown(1));
-    setFrame(MovieSizing::centred(plan.size, window->frame().size()));
+    setFrame(MovieSizing::placed(plan.size, geometry()));
     setNeedsDisplay();
     _environment.settings.setInteger(_size, kQVDefaultMovieSize);
     _environment.notifications.post(QVMovieViewSizeChangedNotification{this});

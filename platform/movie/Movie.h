@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QSizeF>
+#include <QString>
 #include <QUrl>
 
 #include <cstdint>
@@ -33,6 +34,12 @@ struct MovieInfo {
     bool saysDuration = true;
     /// Units of timeScale that one picture stays on average; 0 when not known.
     double frameDuration = 0;
+
+    // Of a movie without a picture, as the file says; one line each, empty where it does not.
+    QString title;
+    QString artist;
+    /// Whether a picture is attached to it (MovieToolkit::coverAsync).
+    bool hasCover = false;
 };
 
 /// The codes of failures, as the alerts and the log show them.

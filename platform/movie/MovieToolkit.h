@@ -5,7 +5,9 @@
 
 #include <QUrl>
 
+#include <QImage>
 #include <cstdint>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -49,6 +51,11 @@ public:
     /// entered.
     [[nodiscard]] virtual std::unique_ptr<MovieOpening> openAsync(const QUrl& url,
                                                                   std::function<void(OpenedMovie)> completion) = 0;
+    /// Decodes the picture that is attached to a local file, without waiting; `completion` is called as openAsync says,
+    /// with a picture of at most `maximumCoverSide` pixels a side, or a null one where there is none that can be shown.
+    [[nodiscard]] virtual std::unique_ptr<MovieOpening> coverAsync(const QUrl& url,
+                                                                   std::function<void(QImage)> completion) = 0;
+    static constexpr int maximumCoverSide = 1280;
 
     virtual MoviePlayer& player() = 0;
 };

@@ -12,6 +12,7 @@ constexpr double maximumWholeSide = 4096;
 
 void ImageView::setImage(const QImage& image) {
     _image = image;
+    _shrunken = QImage();
     setNeedsDisplay();
 }
 
@@ -25,11 +26,13 @@ void ImageView::draw(QPainter& painter, const Rect&) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     // Neighbours are enough to enlarge an image; a smaller one must take in every pixel.
     if (shrinks && pixels.width() >= 1 && pixels.height() >= 1 && pixels.width() <= maximumWholeSide &&
-        pixels.height() <= maximumWholeSide)
-        painter.drawImage(paintedBounds(),
-                          _image.scaled(pixels.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    else
+        pixels.height() <= maximumWholeSide) {
+        if (_shrunken.size() != pixels.toSize())
+            _shrunken = _image.scaled(pixels.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        painter.drawImage(paintedBounds(), _shrunken);
+    } else {
         painter.drawImage(paintedBounds(), _image);
+    }
     painter.restore();
 }
 

@@ -18,6 +18,7 @@ public:
 
 private:
     QImage _image;
+    QImage _shrunken; // as it was drawn last; null where it was not shrunk
 };
 
 } // namespace platform

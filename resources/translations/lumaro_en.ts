@@ -411,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Empty player</name>
+    <message id="Press %@ to open a movie">
+        <source>Press %@ to open a movie</source>
+        <translation>Press %@ to open a movie</translation>
+    </message>
+    <message id="or drop files here. %@ shows all keys.">
+        <source>or drop files here. %@ shows all keys.</source>
+        <translation>or drop files here. %@ shows all keys.</translation>
+    </message>
+</context>
+<context>
     <name>Menus</name>
     <message id="File">
         <source>File</source>

@@ -305,6 +305,17 @@ TEST(AppController, the_window_never_rests_shown_where_it_could_not_be_seen) {
     }
 }
 
+TEST(AppController, an_empty_player_says_by_which_keys_a_movie_is_opened_until_there_is_one) {
+    AppRig rig(quiet());
+    rig.launch();
+    rig.settings.runLoop.advance(1);
+    EXPECT_EQ(rig.objects->backdrop().title(), "Press Ctrl+O to open a movie");
+    EXPECT_TRUE(rig.objects->backdrop().detail().contains("F1"));
+    rig.app.openFile(rig.file("a.mp4"));
+    rig.settings.runLoop.advance(1);
+    EXPECT_EQ(rig.objects->backdrop().title(), "");
+}
+
 // Dragging
 
 TEST(AppController, what_is_dragged_in_is_taken_as_its_source_allows) {

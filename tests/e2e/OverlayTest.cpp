@@ -261,6 +261,48 @@ TEST_F(Overlays, dragging_moves_a_picture_larger_than_the_screen_as_far_as_its_e
     ASSERT_TRUE(quitsCleanly());
 }
 
+TEST_F(Overlays, sound_shows_its_cover_and_title_and_its_bar_works) {
+    const auto cover =
+        media().make("cover.png", {"-f", "lavfi", "-i", "color=c=0xC80000:s=600x600:d=1", "-frames:v", "1"});
+    const auto song =
+        media().make("song.mp3", {"-f", "lavfi", "-i", "sine=d=60", "-i", cover.string(), "-map", "0:a", "-map", "1:v",
+                                  "-c:v", "copy", "-disposition:v:0", "attached_pic", "-metadata", "title=Sea Song"});
+    start({"--set", "QVControllerVisible=true", song.string()});
+    const Region square{(screenWidth - screenHeight / 2) / 2, 0, screenHeight / 2, screenHeight / 2};
+    Region seen;
+    ASSERT_TRUE(waitUntil([&] {
+        seen = probe.extentOf(red);
+        return seen.x == square.x && seen.width == square.width && seen.height == square.height;
+    })) << seen;
+    const int below = seen.y + seen.height;
+    const Region text =
+        probe.picture({0, below, screenWidth, screenHeight - 16 - below}).extentWhere([](const Color& color) {
+            return color.green > 150;
+        });
+    EXPECT_GE(text.height, 20) << "the title";
+    EXPECT_LE(std::abs(2 * text.x + text.width - screenWidth), 4) << "below the cover's middle: " << text;
+    // The bar stands at the bottom, and its slider moves the time.
+    probe.tap(XK_d);
+    ASSERT_TRUE(logs("QVOSDOverlay: Set Text: Time: 0:00:0"));
+    probe.click(screenWidth * 3 / 4, screenHeight - 8);
+    EXPECT_TRUE(logs("QVOSDOverlay: Set Text: Time: 0:00:4"));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Overlays, an_empty_player_says_how_to_open_a_movie_until_there_is_one) {
+    start({});
+    const auto text = [&] { return probe.screen().extentWhere([](const Color& color) { return color.green > 80; }); };
+    EXPECT_TRUE(waitUntil([&] {
+        const Region seen = text();
+        return seen.height > 30 && seen.height < 120 && std::abs(2 * seen.y + seen.height - screenHeight) < 20 &&
+               std::abs(2 * seen.x + seen.width - screenWidth) < 8;
+    })) << text();
+    startAnother({plain()})->waitForExit();
+    EXPECT_TRUE(colorBecomes(red));
+    EXPECT_EQ(text(), Region{});
+    ASSERT_TRUE(quitsCleanly());
+}
+
 TEST_F(Overlays, the_pointer_hides_when_it_rests_and_comes_back_when_it_moves) {
     startPlain({"--set", "QVCursorAutohideDelay=3"});
     probe.movePointer(500, 400);

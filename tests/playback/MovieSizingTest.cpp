@@ -30,8 +30,9 @@ TEST(MovieSizing, a_code_gives_the_size) {
         {movieSize::custom, screen(vga, false, 1.5F), {960, 720}},
         {movieSize::custom, screen({2000, 1000}, false, 0), {1800, 900}}, // none stored: fits the height
         {-1, screen(vga), {1200, 900}},
-        {movieSize::fitScreen, screen({0, 0}), {1440, 0}}, // sound without a picture
-        {movieSize::normal, screen({0, 0}, true), {0, 16}},
+        {movieSize::fitScreen, screen({0, 0}), {1440, 0}},     // sound without a picture
+        {movieSize::normal, screen({0, 0}, true), {1440, 16}}, // its bar is that of every movie
+        {movieSize::half, screen({0, 0}, true, 2), {1440, 16}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.code);

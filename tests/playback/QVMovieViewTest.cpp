@@ -81,6 +81,23 @@ TEST(QVMovieView, size_codes_lay_the_view_out_and_are_kept) {
     EXPECT_EQ(rig.view.frame().size(), QSizeF(320, 240));
 }
 
+TEST(QVMovieView, sound_without_a_picture_has_its_bar_where_a_movie_that_fills_the_screen_has_it) {
+    PlaybackRig rig;
+    platform::MovieInfo info = ScriptedToolkit::plainMovie(QUrl("file:///a.mp3"));
+    info.hasVideo = false;
+    info.naturalSize = QSizeF();
+    rig.view.setMovie(std::make_shared<QVMovie>(rig.settings.environment, rig.movies, info));
+    EXPECT_EQ(rig.view.frame(), platform::Rect(0, 0, 1440, 0));
+    rig.view.toggleController();
+    for (const std::int32_t code : {movieSize::fitScreen, movieSize::half, movieSize::smaller, movieSize::bigger}) {
+        rig.view.setMovieSize(code, Recalculation::forced);
+        EXPECT_EQ(rig.view.frame(), platform::Rect(0, 0, 1440, 16)) << code;
+    }
+    rig.show();
+    rig.view.setMovieSize(movieSize::normal, Recalculation::forced);
+    EXPECT_EQ(rig.view.frame(), platform::Rect(400, 202, 640, 496)) << "no step was kept for the next movie";
+}
+
 TEST(QVMovieView, without_a_movie_a_size_is_only_remembered) {
     PlaybackRig rig;
     Posts<QVMovieViewSizeChangedNotification> posts(rig.settings.notifications);

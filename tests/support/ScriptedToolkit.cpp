@@ -153,3 +153,10 @@ void ScriptedToolkit::answer(const QUrl& url) {
 int ScriptedToolkit::waiting() const {
     return static_cast<int>(std::ranges::count_if(_held, [](const auto& held) { return !held.second.expired(); }));
 }
+
+std::unique_ptr<platform::MovieOpening> ScriptedToolkit::coverAsync(const QUrl& url,
+                                                                    std::function<void(QImage)> completion) {
+    coversAsked.append(url);
+    return openAsync(url,
+                     [this, completion = std::move(completion)](const platform::OpenedMovie&) { completion(cover); });
+}

@@ -90,6 +90,11 @@ public:
     void exit() override { ++exited; }
     std::unique_ptr<platform::MovieOpening> openAsync(const QUrl& url,
                                                       std::function<void(platform::OpenedMovie)> completion) override;
+    /// What coverAsync answers from the run loop, and for which addresses it was asked.
+    QImage cover;
+    QList<QUrl> coversAsked;
+    std::unique_ptr<platform::MovieOpening> coverAsync(const QUrl& url,
+                                                       std::function<void(QImage)> completion) override;
     platform::MoviePlayer& player() override { return scriptedPlayer; }
 
 private:

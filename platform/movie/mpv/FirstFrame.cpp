@@ -12,6 +12,9 @@ namespace {
 // A movie whose first picture does not come within this many packets has none that is worth waiting for.
 constexpr int packetLimit = 64;
 
+/// Pixels of a cover: more than any print has.
+constexpr std::int64_t maximumCoverPixels = 64'000'000;
+
 struct Freed {
     void operator()(AVFormatContext* context) const { AvLibrary::get()->avformat_close_input(&context); }
     void operator()(AVCodecContext* context) const { AvLibrary::get()->avcodec_free_context(&context); }
@@ -46,7 +49,8 @@ FirstFrame::~FirstFrame() {
     AvLibrary::get()->av_frame_free(&_frame);
 }
 
-std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std::atomic<bool>& cancelled) {
+std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std::atomic<bool>& cancelled,
+                                                     PictureOf wanted) {
     const AvLibrary* av = AvLibrary::get();
     if (!av || !url.isLocalFile())
         return nullptr;
@@ -58,7 +62,7 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
         return nullptr;
     const std::unique_ptr<AVFormatContext, Freed> input(context);
 
-    const AVStream* video = firstVideoStream(input.get());
+    const AVStream* video = wanted == PictureOf::cover ? coverStream(input.get()) : firstVideoStream(input.get());
     const AVCodec* codec = video ? av->avcodec_find_decoder(video->codecpar->codec_id) : nullptr;
     const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
     if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)
@@ -66,12 +70,21 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     // With one thread and low delay the picture comes out with its packet where no reordering holds it back.
     decoder->thread_count = 1;
     decoder->flags |= AV_CODEC_FLAG_LOW_DELAY;
+    if (wanted == PictureOf::cover)
+        decoder->max_pixels = maximumCoverPixels;
     if (av->avcodec_open2(decoder.get(), codec, nullptr) < 0)
         return nullptr;
 
     const std::unique_ptr<AVPacket, Freed> packet(av->av_packet_alloc());
     std::unique_ptr<AVFrame, Freed> frame(av->av_frame_alloc());
     bool sent = false;
+    if (wanted == PictureOf::cover) {
+        sent = av->avcodec_send_packet(decoder.get(), &video->attached_pic) >= 0;
+        av->avcodec_send_packet(decoder.get(), nullptr);
+        if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0 && isPlain(video, frame.get()))
+            return std::make_shared<const FirstFrame>(frame.release());
+        return nullptr;
+    }
     for (int i = 0; i < packetLimit && !cancelled.load(); ++i) {
         const bool ended = av->av_read_frame(input.get(), packet.get()) < 0;
         const bool ours = !ended && packet->stream_index == video->index;
@@ -87,6 +100,16 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
             return nullptr;
     }
     return nullptr;
+}
+
+QImage FirstFrame::image(const QSize& bounds) const {
+    QSize size(_frame->width, _frame->height);
+    if (size.width() > bounds.width() || size.height() > bounds.height())
+        size = size.scaled(bounds, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    QImage image(size, QImage::Format_RGB32);
+    if (image.isNull() || !render(size, image.bits(), static_cast<std::size_t>(image.bytesPerLine())))
+        return {};
+    return image;
 }
 
 bool FirstFrame::render(const QSize& size, unsigned char* pixels, std::size_t stride) const {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
 #include <QSize>
 #include <QUrl>
 
@@ -16,8 +17,11 @@ namespace platform {
 /// starting.
 class FirstFrame {
 public:
+    /// Whose picture is wanted: the movie's, or that of the cover attached to it.
+    enum class PictureOf { movie, cover };
     /// Decodes it; null where that is not simple (rotated, high dynamic range, nothing decoded soon). Any thread.
-    static std::shared_ptr<const FirstFrame> decode(const QUrl& url, const std::atomic<bool>& cancelled);
+    static std::shared_ptr<const FirstFrame> decode(const QUrl& url, const std::atomic<bool>& cancelled,
+                                                    PictureOf wanted = PictureOf::movie);
     explicit FirstFrame(AVFrame* frame)
         : _frame(frame) {}
     FirstFrame(const FirstFrame&) = delete;
@@ -26,6 +30,9 @@ public:
 
     /// Scales it to `size` pixels of blue, green, red, unused; false when that failed.
     bool render(const QSize& size, unsigned char* pixels, std::size_t stride) const;
+
+    /// The picture, shrunk into `bounds` where it is larger; a null image when that failed.
+    QImage image(const QSize& bounds) const;
 
 private:
     AVFrame* _frame;

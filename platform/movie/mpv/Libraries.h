@@ -53,6 +53,7 @@ namespace platform {
     X(av_frame_free)                                                                                                   \
     X(av_display_rotation_get)                                                                                         \
     X(av_rescale_q)                                                                                                    \
+    X(av_dict_get)                                                                                                     \
     X(av_dict_set)                                                                                                     \
     X(av_dict_free)                                                                                                    \
     X(av_log_set_level)                                                                                                \

@@ -161,16 +161,33 @@ std::int32_t chooseTimeScale(AVRational timeBase, double seconds) {
     return scale;
 }
 
-MovieInfo describe(AVFormatContext* input, const AVStream* video, bool hasAudio) {
+/// What the file says of itself, or of its sound; one line of it.
+QString tagOf(const AVFormatContext* input, const AVStream* sound, const char* key) {
+    constexpr int maximumCharacters = 500;
+    for (const AVDictionary* tags : {input->metadata, sound ? sound->metadata : nullptr}) {
+        if (const AVDictionaryEntry* entry = AvLibrary::get()->av_dict_get(tags, key, nullptr, 0)) {
+            const QString text = QString::fromUtf8(entry->value).simplified().left(maximumCharacters);
+            if (!text.isEmpty())
+                return text;
+        }
+    }
+    return {};
+}
+
+MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream* sound) {
     constexpr double largest = std::numeric_limits<std::int32_t>::max();
     MovieInfo info;
     const double seconds = durationInSeconds(input);
-    info.hasAudio = hasAudio;
+    info.hasAudio = sound != nullptr;
     info.hasVideo = video != nullptr;
     info.timeScale = chooseTimeScale(video ? video->time_base : AVRational{1, 600}, seconds);
     info.duration = static_cast<std::int32_t>(std::min(std::round(seconds * info.timeScale), largest));
-    if (!video)
+    if (!video) {
+        info.title = tagOf(input, sound, "title");
+        info.artist = tagOf(input, sound, "artist");
+        info.hasCover = coverStream(input) != nullptr;
         return info;
+    }
     info.quarterTurns = quarterTurnsOf(video);
     info.naturalSize = displayedSize(input, video, info.quarterTurns);
     const AVRational rate = isKnown(video->avg_frame_rate) ? video->avg_frame_rate : video->r_frame_rate;
@@ -240,7 +257,7 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
     const bool heard = audio && av->avcodec_find_decoder(audio->codecpar->codec_id);
     if (!seen && !heard)
         return {std::nullopt, movieError::invalidMovie};
-    MovieInfo info = describe(input.get(), seen ? video : nullptr, heard);
+    MovieInfo info = describe(input.get(), seen ? video : nullptr, heard ? audio : nullptr);
     info.url = url;
     info.saysDuration = saysDuration;
     return {std::move(info), video && !seen ? movieError::cannotPlay : movieError::none};

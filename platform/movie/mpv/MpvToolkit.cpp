@@ -92,4 +92,16 @@ std::unique_ptr<MovieOpening> MpvToolkit::openAsync(const QUrl& url, std::functi
                         std::move(completion));
 }
 
+std::unique_ptr<MovieOpening> MpvToolkit::coverAsync(const QUrl& url, std::function<void(QImage)> completion) {
+    // Opened as a movie is, on a thread; what it gives goes its own way.
+    const auto cover = std::make_shared<QImage>();
+    return _opener.open(
+        [url, cover](const std::atomic<bool>& cancelled) {
+            if (const auto picture = FirstFrame::decode(url, cancelled, FirstFrame::PictureOf::cover))
+                *cover = picture->image(QSize(maximumCoverSide, maximumCoverSide));
+            return OpenedMovie{};
+        },
+        [cover, completion = std::move(completion)](const OpenedMovie&) { completion(*cover); });
+}
+
 } // namespace platform

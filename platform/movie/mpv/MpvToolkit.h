@@ -27,6 +27,7 @@ public:
     void enter() override;
     void exit() override;
     std::unique_ptr<MovieOpening> openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) override;
+    std::unique_ptr<MovieOpening> coverAsync(const QUrl& url, std::function<void(QImage)> completion) override;
     MoviePlayer& player() override;
 
 private:

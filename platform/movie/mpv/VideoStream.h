@@ -11,6 +11,9 @@ namespace platform {
 /// The stream that is played as the movie's picture: the first of video that is not a cover. Null when there is none.
 const AVStream* firstVideoStream(const AVFormatContext* input);
 
+/// The stream of the picture that is attached to a movie, its cover. Null when there is none.
+const AVStream* coverStream(const AVFormatContext* input);
+
 /// The matrix of nine numbers by which its pictures are to be turned; null where they stand as they are. The libraries
 /// are loaded.
 const std::int32_t* displayMatrixOf(const AVStream* video);
