@@ -29,7 +29,8 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
 }
 
 std::vector<std::string> LumaroProcess::faults() const {
-    static const std::regex marks("AddressSanitizer|LeakSanitizer|runtime error:|ASSERT|terminate called");
+    static const std::regex marks("AddressSanitizer|LeakSanitizer|runtime error:|ASSERT|terminate called|"
+                                  "must be a top level window");
     std::vector<std::string> result;
     for (const std::string& line : errorLines())
         if (std::regex_search(line, marks))

@@ -28,7 +28,8 @@ public:
                   const std::string& workingDirectory = {})
         : ChildProcess(optionsFor(user, display, arguments, workingDirectory)) {}
 
-    // The lines that say that something went wrong in the program itself: sanitizers and failed assertions.
+    // The lines that say that something went wrong in the program itself: sanitizers, failed assertions, and what the
+    // libraries complain of.
     std::vector<std::string> faults() const;
 
 private:

@@ -165,6 +165,11 @@ TEST_F(Player, the_menu_bar_comes_while_the_pointer_is_at_the_top) {
     probe.movePointer(640, 300);
     probe.movePointer(640, 0);
     EXPECT_TRUE(probe.waitForPixel(1200, 8, covered)) << "no menu bar";
+    const auto window = probe.windowAt(20, 30);
+    probe.click(20, 8);
+    EXPECT_TRUE(waitUntil([&] { return probe.windowAt(20, 30) != window; })) << "its menu does not open";
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(waitUntil([&] { return probe.windowAt(20, 30) == window; })) << "its menu stays";
     probe.movePointer(640, 300);
     EXPECT_TRUE(probe.waitForColor(1200, 8, red)) << "the menu bar stays";
     ASSERT_TRUE(quitsCleanly());

@@ -81,9 +81,13 @@ MenuItem QtMenus::copyOf(const MenuItem& item) {
 void QtMenus::popUp(QPoint globalPosition) {
     _contextMenu = std::make_unique<QMenu>();
     fill(*_contextMenu, _menu);
-    _contextMenu->winId();
-    _contextMenu->windowHandle()->setTransientParent(&_window);
+    standAboveWindow(*_contextMenu);
     _contextMenu->popup(globalPosition);
+}
+
+void QtMenus::standAboveWindow(QMenu& menu) {
+    menu.winId();
+    menu.windowHandle()->setTransientParent(&_window);
 }
 
 bool QtMenus::isBarShown() const {
@@ -108,7 +112,10 @@ void QtMenus::showBar() {
             MenuItem& item = _menu.itemAt(i);
             if (!item.submenu)
                 continue;
-            QMenu* menu = _bar->addMenu(item.title);
+            // Not the bar's children: they would stand above the bar's own window, which is none on the desktop.
+            QMenu* menu = _barMenus.emplace_back(std::make_unique<QMenu>(item.title)).get();
+            standAboveWindow(*menu);
+            _bar->addMenu(menu);
             Menu* model = item.submenu.get();
             QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu, model] { fill(*menu, *model); });
             menu->addSeparator();

@@ -5,6 +5,7 @@
 #include <QPoint>
 
 #include <memory>
+#include <vector>
 
 class QKeyEvent;
 class QMenu;
@@ -41,6 +42,7 @@ private:
     void showBar();
     void hideBar();
     void fill(QMenu& menu, Menu& model);
+    void standAboveWindow(QMenu& menu);
     /// What performing needs; the item itself may be gone by then.
     static MenuItem copyOf(const MenuItem& item);
 
@@ -48,6 +50,7 @@ private:
     Menu& _menu;
     MenuTarget& _target;
     std::unique_ptr<QMenuBar> _bar;
+    std::vector<std::unique_ptr<QMenu>> _barMenus;
     std::unique_ptr<QMenu> _contextMenu;
 };
 
