@@ -69,7 +69,12 @@ void QVImageSubView::contentSizeChanged() {
     platform::Rect rect(QPointF(0, 0), contentSize());
     if (_subtitle && parentWindow()) {
         const platform::Rect view = _picture.pictureFrame().translated(parentWindow()->frame().origin());
-        rect = SubtitlePlacement::bitmapFrame(_subtitle->rect(), {scaleX(), scaleY()}, view, _aspect);
+        rect = adjustForBackgroundStyle(
+            SubtitlePlacement::bitmapFrame(_subtitle->rect(), {scaleX(), scaleY()}, view, _aspect));
+        if (_picture.isControllerBarVisible())
+            rect = SubtitlePlacement::clearOfBar(rect, view, _picture.getControllerHeight());
+    } else {
+        rect = adjustForBackgroundStyle(rect);
     }
-    applyNewOverlayFrame(adjustForBackgroundStyle(rect), "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");
+    applyNewOverlayFrame(rect, "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");
 }

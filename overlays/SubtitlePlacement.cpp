@@ -65,4 +65,9 @@ platform::Rect bitmapFrame(const platform::Rect& rect, const FrameScale& scale, 
     return {view.x() + x * rect.x(), bottom + y * rect.y(), x * rect.width(), y * rect.height()};
 }
 
+platform::Rect clearOfBar(const platform::Rect& rect, const platform::Rect& view, double bar) {
+    const platform::Rect covered(view.x(), view.y(), view.width(), bar);
+    return rect.intersects(covered) ? rect.translated(QPointF(0, covered.maxY() - rect.y())) : rect;
+}
+
 } // namespace SubtitlePlacement

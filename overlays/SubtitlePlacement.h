@@ -50,4 +50,8 @@ FrameScale frameScale(const QSizeF& frame, double viewWidth, float aspect);
 platform::Rect bitmapFrame(const platform::Rect& rect, const FrameScale& scale, const platform::Rect& view,
                            float aspect);
 
+/// The rectangle, moved up onto the bar at the bottom of the view where it would lie across it. Both stand on the
+/// screen.
+platform::Rect clearOfBar(const platform::Rect& rect, const platform::Rect& view, double bar);
+
 } // namespace SubtitlePlacement

@@ -70,6 +70,14 @@ TEST_F(ImageSubView, a_cue_stands_where_its_frame_lies_over_the_picture) {
     view.movieViewSizeChanged({});
     EXPECT_NEAR(view.aspect(), 16.0 / 9, 1e-6);
     expectFrame(view, {1060, 500 - 52.5 + 20 * 405 / 480.0, 600, 50 * 405 / 480.0});
+    // Its bar lies across the cue, which moves up, until it is hidden.
+    picture.frame = {0, 36, 720, 316};
+    picture.bar = true;
+    view.movieViewSizeChanged({});
+    EXPECT_NEAR(view.frame().y(), 500 + 36 + 16, 0.01);
+    picture.bar = false;
+    view.movieViewSizeChanged({});
+    EXPECT_NEAR(view.frame().y(), 500 + 36 - 44.5 + 20 * 405 / 480.0, 0.01);
 }
 
 TEST_F(ImageSubView, the_scale_is_that_of_the_current_track) {

@@ -45,6 +45,13 @@ TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
 }
 
+TEST(SubtitlePlacement, a_bitmap_across_the_bar_moves_onto_it) {
+    const platform::Rect view(100, 130, 1000, 516);
+    for (const auto& [y, moved] : {std::pair{100, 146}, {140, 146}, {146, 146}, {200, 200}, {89, 89}, {90, 90}})
+        EXPECT_EQ(clearOfBar(platform::Rect(300, y, 400, 40), view, 16), platform::Rect(300, moved, 400, 40)) << y;
+    EXPECT_EQ(clearOfBar(platform::Rect(0, 135, 90, 40), view, 16).y(), 135) << "beside it";
+}
+
 TEST(SubtitlePlacement, letters_shrink_with_the_picture_and_never_grow) {
     const struct {
         double picture, fit;
