@@ -3,6 +3,7 @@
 
 #include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
+#include "context/Notifications.h"
 #include "platform/base/UserDefaults.h"
 #include "playback/QVMovieView.h"
 #include "settings/SettingsKeys.h"
@@ -15,13 +16,19 @@ Activation::Activation(const Environment& environment, QVFullScreenWindow& windo
     : _environment(environment)
     , _window(window)
     , _view(view)
-    , _pointer(pointer) {}
+    , _pointer(pointer) {
+    // The next movie plays or rests on its own account.
+    _movieChanged = environment.notifications.observe<QVPlaylistMovieChangedNotification>(
+        [this](const auto&) { _pause_forced = false; });
+}
 
 void Activation::applicationWillBecomeActive() {
     const TraceScope scope("-[QVAppController applicationWillBecomeActive:]");
     raiseWindow();
-    if (std::exchange(_window_hidden, false))
+    if (std::exchange(_window_hidden, false)) {
+        _window.setMinimizesWhenHidden(false);
         _window.show();
+    }
 }
 
 void Activation::applicationDidBecomeActive() {
@@ -35,6 +42,7 @@ void Activation::applicationWillResignActive() {
     lowerWindow();
     _window.orderChildrens();
     if (_environment.settings.boolForKey(kQVHideOnDeactivate)) {
+        _window.setMinimizesWhenHidden(true);
         _window.hide();
         _window_hidden = true;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "context/Environment.h"
+#include "platform/base/NotificationCenter.h"
 #include "platform/window/Window.h"
 
 class PointerAutohide;
@@ -31,4 +32,5 @@ private:
     PointerAutohide& _pointer;
     bool _pause_forced = false;
     bool _window_hidden = false;
+    platform::Subscription _movieChanged;
 };

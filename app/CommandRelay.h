@@ -17,6 +17,10 @@ public:
     bool processKeyboardEvent(const platform::KeyEvent& event) override {
         return _target && _target->processKeyboardEvent(event);
     }
+    void processMouseGesture(MouseGesture gesture) override {
+        if (_target)
+            _target->processMouseGesture(gesture);
+    }
     bool forceMuted() const override { return _target && _target->forceMuted(); }
     void setForceMuted(bool muted) override {
         if (_target)

@@ -8,6 +8,8 @@
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -17,6 +19,9 @@ constexpr const char* className = "QVFullScreenWindow";
 
 /// A window that cannot be seen would still take the whole screen, and the keys.
 constexpr float smallestSeenAlpha = 0.2F;
+
+/// A wheel that spins freely turns many at once.
+constexpr int maximumWheelSteps = 5;
 
 platform::Rect chosenFrame(const platform::UserDefaults& settings, const platform::Desktop& desktop) {
     const std::vector<platform::Screen> screens = desktop.screens();
@@ -90,6 +95,29 @@ void QVFullScreenWindow::mouseExited(int trackingTag) {
 void QVFullScreenWindow::mouseMoved(const platform::MouseEvent& event) {
     QVParentOverlay::mouseMoved(event);
     _with.pointer.scheduleCursorHide();
+}
+
+void QVFullScreenWindow::mouseDown(const platform::MouseEvent& event) {
+    const auto gesture = [&] {
+        switch (event.button) {
+        case platform::MouseButton::left:
+            return event.clickCount == 2 ? MouseGesture::doubleClick : MouseGesture::none;
+        case platform::MouseButton::middle:
+            return MouseGesture::middleClick;
+        case platform::MouseButton::back:
+            return MouseGesture::backClick;
+        case platform::MouseButton::forward:
+            return MouseGesture::forwardClick;
+        default:
+            return MouseGesture::none;
+        }
+    }();
+    _with.commands.processMouseGesture(gesture);
+}
+
+void QVFullScreenWindow::wheelTurned(int steps) {
+    for (int i = std::min(std::abs(steps), maximumWheelSteps); i > 0; --i)
+        _with.commands.processMouseGesture(steps > 0 ? MouseGesture::wheelUp : MouseGesture::wheelDown);
 }
 
 void QVFullScreenWindow::mouseUp(const platform::MouseEvent& event) {

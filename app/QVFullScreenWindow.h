@@ -49,6 +49,8 @@ protected:
     float smallestShownAlpha() const override;
     bool keyDown(const platform::KeyEvent& event) override;
     void mouseMoved(const platform::MouseEvent& event) override;
+    void mouseDown(const platform::MouseEvent& event) override;
+    void wheelTurned(int steps) override;
     void mouseUp(const platform::MouseEvent& event) override;
     void mouseEntered(int trackingTag) override;
     void mouseExited(int trackingTag) override;

@@ -30,6 +30,9 @@ inline constexpr std::int32_t quit = 32;
 /// Whether a command posts its confirmation text.
 enum class Feedback : bool { no, yes };
 
+/// What the mouse does beside pressing, dragging and pointing.
+enum class MouseGesture { none, doubleClick, middleClick, backClick, forwardClick, wheelUp, wheelDown };
+
 /// What the view, the playlist, the window and the version check ask of the movie controller. Main thread.
 class CommandTarget {
 public:
@@ -39,6 +42,8 @@ public:
     virtual void performAction(std::int32_t action, Feedback feedback) = 0;
     /// True when the event was consumed.
     virtual bool processKeyboardEvent(const platform::KeyEvent& event) = 0;
+    /// A gesture without a command does nothing.
+    virtual void processMouseGesture(MouseGesture gesture) = 0;
     /// The sound is muted by fast motion, to come back at normal speed.
     virtual bool forceMuted() const = 0;
     virtual void setForceMuted(bool muted) = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/CommandHelp.h"
 
+#include "platform/base/Localization.h"
 #include "platform/window/Events.h"
 
 #include <algorithm>
@@ -41,11 +42,18 @@ QString keyText(const CommandKey& key, QStringView KeyName::*form, QStringView s
     return text + (name != std::end(keyNames) ? (name->*form).toString() : QString(QChar(key.character).toUpper()));
 }
 
+/// Keys of localized texts.
+constexpr const char* gestureNames[] = {"",         "Double Click", "Middle Button", "Back Button", "Forward Button",
+                                        "Wheel Up", "Wheel Down"};
+
 QString keysOf(const Command& command) {
     QStringList keys;
     for (const CommandKey& key : command.keys)
         if (key.character && key.shown == CommandKey::Shown::yes)
             keys.append(readableKeyText(key));
+    if (command.gesture != MouseGesture::none)
+        keys.append(
+            platform::localizedString(QString::fromUtf8(gestureNames[static_cast<std::size_t>(command.gesture)])));
     keys.removeDuplicates(); // one key may mean the command by two takers
     return keys.join(u'/');
 }
@@ -72,7 +80,7 @@ std::vector<HelpLine> helpLines(std::span<const Command> commands) {
             const auto line = std::ranges::find_if(lines, isIts);
             if (line == lines.end())
                 lines.push_back({section, {keysOf(command)}, command.help});
-            else if (!line->keys.contains(keysOf(command)))
+            else if (!keysOf(command).isEmpty() && !line->keys.contains(keysOf(command)))
                 line->keys.append(keysOf(command));
         }
     }

@@ -24,6 +24,12 @@ const Command* commandWithAction(std::int32_t action) {
                               : firstCommand([=](const Command& command) { return command.action == action; });
 }
 
+const Command* commandWithGesture(MouseGesture gesture) {
+    return gesture == MouseGesture::none
+               ? nullptr
+               : firstCommand([=](const Command& command) { return command.gesture == gesture; });
+}
+
 const Command* commandWithName(std::string_view name) {
     return firstCommand([=](const Command& command) { return command.name == name; });
 }

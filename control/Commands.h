@@ -97,6 +97,7 @@ struct Command {
     std::string_view confirmation = {};
     /// The first one is shown in the menu, but one that the menu takes goes before.
     std::array<CommandKey, 3> keys = {};
+    MouseGesture gesture = MouseGesture::none;
     Section section = Section::file;
     MenuPlace menu = {};
     /// The key of the localized text that says what its keys do. Commands of a section with the same text share a line.
@@ -106,8 +107,9 @@ struct Command {
 /// Every command, in the order of menus and help. A command is added as a row here and a function that the row names.
 std::span<const Command> commands();
 
-/// Null for codes and names that no command has.
+/// Null for codes, gestures and names that no command has.
 const Command* commandWithAction(std::int32_t action);
+const Command* commandWithGesture(MouseGesture gesture);
 const Command* commandWithName(std::string_view name);
 /// The command of a menu item by its action and tag. A tag that no row has (a position in a list) gets the first
 /// command of the operation; null for unknown operations.

@@ -76,6 +76,11 @@ bool QVMovieController::processKeyboardEvent(const platform::KeyEvent& event) {
     return true;
 }
 
+void QVMovieController::processMouseGesture(MouseGesture gesture) {
+    if (const Command* command = commandWithGesture(gesture))
+        perform(*command, command->argument, Feedback::yes);
+}
+
 void QVMovieController::startRepeatingAction(std::int32_t action, double interval, Feedback feedback) {
     _repeatingAction = action;
     _repeatingActionFeedback = feedback;
@@ -116,6 +121,7 @@ void QVMovieController::windowDidBecomeKey(platform::Window& window) {
 }
 
 void QVMovieController::windowDidResignKey(platform::Window& window) {
+    stopRepeatingAction();
     _with.application.windowDidResignKey(window);
 }
 

@@ -57,6 +57,7 @@ public:
 
     void performAction(std::int32_t action, Feedback feedback) override;
     bool processKeyboardEvent(const platform::KeyEvent& event) override;
+    void processMouseGesture(MouseGesture gesture) override;
     bool forceMuted() const override { return _forceMuted; }
     void setForceMuted(bool muted) override;
 
@@ -79,6 +80,7 @@ private:
     // Operations, as the table of commands names them. Directions are +1 and -1; others do nothing. Some confirm
     // whatever the feedback says.
     void startStop(std::int32_t, Feedback feedback);
+    void stop(std::int32_t, Feedback feedback);
     void normalSpeed(std::int32_t, Feedback feedback);
     void fastForward(std::int32_t, Feedback feedback);
     void fastRewind(std::int32_t, Feedback feedback);

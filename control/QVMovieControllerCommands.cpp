@@ -42,6 +42,11 @@ void QVMovieController::startStop(std::int32_t, Feedback feedback) {
         post(_with.view.isPlaying() ? "Movie: Play" : "Movie: Pause");
 }
 
+void QVMovieController::stop(std::int32_t, Feedback) {
+    _with.view.stop();
+    _with.view.gotoBeginning();
+}
+
 void QVMovieController::normalSpeed(std::int32_t, Feedback) {
     restorePlayback();
 }

@@ -161,6 +161,8 @@ bool MovieView::mouseDown(const MouseEvent& event) {
     const Rect bar = controllerRect();
     if (!_controllerVisible || event.button != MouseButton::left || !bar.contains(point))
         return false;
+    if (event.clickCount > 1)
+        return true; // the press itself came before it
     _tracking = true;
     performController(_bar.press(inBar(point), barSize()));
     return true;

@@ -27,6 +27,13 @@ inline constexpr char16_t right = 0xF703;
 inline constexpr char16_t f1 = 0xF704;
 inline constexpr char16_t pageUp = 0xF72C;
 inline constexpr char16_t pageDown = 0xF72D;
+inline constexpr char16_t mediaPlay = 0xF8F0; // the keyboard's keys for players, up to mute
+inline constexpr char16_t mediaStop = 0xF8F1;
+inline constexpr char16_t mediaNext = 0xF8F2;
+inline constexpr char16_t mediaPrevious = 0xF8F3;
+inline constexpr char16_t mediaVolumeUp = 0xF8F4;
+inline constexpr char16_t mediaVolumeDown = 0xF8F5;
+inline constexpr char16_t mediaMute = 0xF8F6;
 inline constexpr char16_t escape = 27;
 inline constexpr char16_t tab = 9;
 inline constexpr char16_t space = 32;
@@ -39,11 +46,12 @@ struct KeyEvent {
     QString charactersIgnoringModifiers;
     std::uint16_t keyCode = 0;
     std::uint32_t modifierFlags = 0;
-    /// An automatic repeat of a held key. There are no key-up events between repeats.
+    /// An automatic repeat of a held key. There are no key-up events between repeats. Modifier keys alone make no
+    /// events.
     bool isRepeat = false;
 };
 
-enum class MouseButton { none, left, right, other };
+enum class MouseButton { none, left, right, middle, back, forward, other };
 
 struct MouseEvent {
     /// Where the pointer is, in the window's content coordinates (origin bottom left, y up, points).
@@ -52,6 +60,7 @@ struct MouseEvent {
     double deltaX = 0;
     double deltaY = 0;
     MouseButton button = MouseButton::none;
+    /// 2 for the press that makes a double click, which follows the plain press at the same place.
     int clickCount = 0;
     std::uint32_t modifierFlags = 0;
 };

@@ -189,8 +189,15 @@ void Window::dispatchMouseDown(const MouseEvent& event) {
     // What follows goes to the view under the press, also when no view took it: panning needs no press. The view is
     // noted first, so that it is forgotten when it ends in its handler.
     _mouseView = hit;
-    if (View* taker = offer(hit, &View::mouseDown, event); taker && _mouseView)
+    View* const taker = offer(hit, &View::mouseDown, event);
+    if (!taker)
+        mouseDown(event);
+    else if (_mouseView)
         _mouseView = taker;
+}
+
+void Window::dispatchWheel(int steps) {
+    wheelTurned(steps);
 }
 
 void Window::dispatchMouseDragged(const MouseEvent& event) {
@@ -257,6 +264,10 @@ void Window::composeWhole() {
 bool Window::keyDown(const KeyEvent&) {
     return false;
 }
+
+void Window::mouseDown(const MouseEvent&) {}
+
+void Window::wheelTurned(int) {}
 
 bool Window::keyUp(const KeyEvent&) {
     return false;

@@ -61,6 +61,10 @@ public:
     void setLevel(int level);
 
     bool isOrderedIn() const { return _orderedIn; }
+    /// While it is set a root window that cannot be seen any more is minimised, so that the user can bring it back;
+    /// else it goes from the screen and from the lists of windows.
+    bool minimizesWhenHidden() const { return _minimizesWhenHidden; }
+    void setMinimizesWhenHidden(bool minimizes) { _minimizesWhenHidden = minimizes; }
     /// A child that is ordered in already comes to stand above its siblings.
     void orderFront();
     void orderOut();
@@ -98,6 +102,8 @@ public:
     void dispatchMouseUp(const MouseEvent& event);
     void dispatchMouseMoved(const MouseEvent& event);
     void dispatchMouseLeft();
+    /// Whole steps of the wheel, away from the user counted up.
+    void dispatchWheel(int steps);
     void setKey(bool key);
 
     void displayNeeded(const Rect& rect) override;
@@ -114,6 +120,9 @@ protected:
     virtual bool keyDown(const KeyEvent& event);
     virtual bool keyUp(const KeyEvent& event);
     virtual void mouseMoved(const MouseEvent& event);
+    /// Reached by presses that no view took.
+    virtual void mouseDown(const MouseEvent& event);
+    virtual void wheelTurned(int steps);
     /// After any button was released, over whichever view.
     virtual void mouseUp(const MouseEvent& event);
     virtual void mouseEntered(int trackingTag);
@@ -139,6 +148,7 @@ private:
     QColor _backgroundColor;
     int _level = windowLevel::normal;
     bool _orderedIn = false;
+    bool _minimizesWhenHidden = false;
     bool _key = false;
     View _contentView;
     View* _firstResponder = nullptr;

@@ -253,6 +253,10 @@
         <source>Movie: Pause</source>
         <translation>Pause</translation>
     </message>
+    <message id="Movie: Stop">
+        <source>Movie: Stop</source>
+        <translation>Stopp</translation>
+    </message>
     <message id="Movie: Beginning">
         <source>Movie: Beginning</source>
         <translation>Anfang</translation>
@@ -661,6 +665,30 @@
     <message id="Next and previous movie">
         <source>Next and previous movie</source>
         <translation>Nächster und voriger Film</translation>
+    </message>
+    <message id="Double Click">
+        <source>Double Click</source>
+        <translation>Doppelklick</translation>
+    </message>
+    <message id="Middle Button">
+        <source>Middle Button</source>
+        <translation>Mittlere Taste</translation>
+    </message>
+    <message id="Back Button">
+        <source>Back Button</source>
+        <translation>Zurück-Taste</translation>
+    </message>
+    <message id="Forward Button">
+        <source>Forward Button</source>
+        <translation>Vorwärts-Taste</translation>
+    </message>
+    <message id="Wheel Up">
+        <source>Wheel Up</source>
+        <translation>Rad auf</translation>
+    </message>
+    <message id="Wheel Down">
+        <source>Wheel Down</source>
+        <translation>Rad ab</translation>
     </message>
     <message id="Looping: off, one, all">
         <source>Looping: off, one, all</source>

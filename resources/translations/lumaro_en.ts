@@ -253,6 +253,10 @@
         <source>Movie: Pause</source>
         <translation>Movie: Pause</translation>
     </message>
+    <message id="Movie: Stop">
+        <source>Movie: Stop</source>
+        <translation>Movie: Stop</translation>
+    </message>
     <message id="Movie: Beginning">
         <source>Movie: Beginning</source>
         <translation>Movie: Beginning</translation>
@@ -661,6 +665,30 @@
     <message id="Next and previous movie">
         <source>Next and previous movie</source>
         <translation>Next and previous movie</translation>
+    </message>
+    <message id="Double Click">
+        <source>Double Click</source>
+        <translation>Double Click</translation>
+    </message>
+    <message id="Middle Button">
+        <source>Middle Button</source>
+        <translation>Middle Button</translation>
+    </message>
+    <message id="Back Button">
+        <source>Back Button</source>
+        <translation>Back Button</translation>
+    </message>
+    <message id="Forward Button">
+        <source>Forward Button</source>
+        <translation>Forward Button</translation>
+    </message>
+    <message id="Wheel Up">
+        <source>Wheel Up</source>
+        <translation>Wheel Up</translation>
+    </message>
+    <message id="Wheel Down">
+        <source>Wheel Down</source>
+        <translation>Wheel Down</translation>
     </message>
     <message id="Looping: off, one, all">
         <source>Looping: off, one, all</source>

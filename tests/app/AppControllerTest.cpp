@@ -2,6 +2,7 @@
 #include "app/QVAppController.h"
 
 #include "overlays/QVOSDOverlay.h"
+#include "playback/QVMovie.h"
 #include "settings/OverlayStyle.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
@@ -259,6 +260,69 @@ TEST(AppController, an_inactive_application_lowers_its_window_and_may_hide_it) {
         EXPECT_EQ(rig.host.changes.count("level"), 2);
         EXPECT_EQ(rig.window.alphaValue(), shown);
     }
+}
+
+TEST(AppController, a_hidden_window_is_minimised_until_the_application_is_active_again) {
+    AppRig rig(quiet({{kQVHideOnDeactivate, true}}));
+    rig.launch();
+    EXPECT_FALSE(rig.window.minimizesWhenHidden());
+    rig.app.applicationWillResignActive();
+    EXPECT_TRUE(rig.window.minimizesWhenHidden());
+    rig.app.applicationWillBecomeActive();
+    EXPECT_FALSE(rig.window.minimizesWhenHidden());
+}
+
+TEST(AppController, a_movie_change_drops_the_forced_pause) {
+    AppRig rig(quiet({{kQVPauseOnDeactivate, true}, {kQVPlaylistAutoPlay, false}}));
+    rig.app.openFile(rig.file("a.mp4"));
+    rig.app.openFile(rig.file("b.mp4"));
+    rig.launch();
+    rig.window.setKey(true);
+    rig.view.setRate(2);
+    rig.window.setKey(false);
+    rig.objects->playlist().playNext();
+    rig.window.setKey(true);
+    EXPECT_NE(rig.view.rate(), 2) << "that was the movie before";
+}
+
+TEST(AppController, the_mouse_plays_changes_the_volume_and_goes_through_the_list) {
+    AppRig rig(quiet({{kQVPlaylistAutoPlay, false}, {kQVPlaylistDefaultArrangement, 0}}));
+    rig.app.openFile(rig.file("a.mp4"));
+    rig.app.openFile(rig.file("b.mp4"));
+    rig.launch();
+    using platform::MouseButton;
+    const auto press = [&](MouseButton button, int clicks = 1) {
+        platform::MouseEvent event;
+        event.locationInWindow = rig.window.contentView().bounds().center();
+        event.button = button;
+        event.clickCount = clicks;
+        rig.window.dispatchMouseDown(event);
+        rig.window.dispatchMouseUp(event);
+    };
+    press(MouseButton::left);
+    EXPECT_FALSE(rig.view.isPlaying()) << "one click begins a drag";
+    press(MouseButton::left, 2);
+    EXPECT_TRUE(rig.view.isPlaying());
+    press(MouseButton::left, 2);
+    EXPECT_FALSE(rig.view.isPlaying());
+    press(MouseButton::middle);
+    EXPECT_TRUE(rig.view.isMuted());
+    press(MouseButton::middle);
+    EXPECT_FALSE(rig.view.isMuted());
+    press(MouseButton::forward);
+    EXPECT_EQ(rig.view.movie()->url().fileName(), "b.mp4");
+    press(MouseButton::back);
+    EXPECT_EQ(rig.view.movie()->url().fileName(), "a.mp4");
+    press(MouseButton::other);
+    const float volume = rig.view.volume();
+    rig.window.dispatchWheel(-3);
+    const float softer = rig.view.volume();
+    EXPECT_LT(softer, volume);
+    rig.window.dispatchWheel(3);
+    EXPECT_NEAR(rig.view.volume(), volume, 0.01F);
+    rig.window.dispatchWheel(-100);
+    EXPECT_GT(rig.view.volume(), 0) << "a wheel that spins freely";
+    EXPECT_LT(rig.view.volume(), softer);
 }
 
 TEST(AppController, the_window_stands_on_the_chosen_screen_and_follows_its_size) {

@@ -27,6 +27,8 @@ protected:
     bool keyUp(const KeyEvent&) override { return note("keyUp"); }
     void mouseMoved(const MouseEvent&) override { note("moved"); }
     void mouseUp(const MouseEvent&) override { note("mouseUp"); }
+    void mouseDown(const MouseEvent&) override { note("mouseDown"); }
+    void wheelTurned(int steps) override { note("wheel " + QString::number(steps)); }
     void mouseEntered(int tag) override { note("enter " + QString::number(tag)); }
     void mouseExited(int tag) override {
         note("exit " + QString::number(tag));
@@ -365,7 +367,12 @@ TEST(Window, A_drag_stays_with_the_view_under_the_press_even_if_it_did_not_take_
     window.dispatchMouseDragged(at(150, 50));
     EXPECT_EQ(view.events, (QStringList{"mouseDown", "mouseDragged", "mouseUp"}));
     EXPECT_TRUE(other.events.isEmpty());
-    EXPECT_EQ(window.events, QStringList{"mouseUp"});
+    EXPECT_EQ(window.events, (QStringList{"mouseDown", "mouseUp"})) << "no view took the press";
+    window.events.clear();
+    window.dispatchMouseDown(at(150, 50));
+    EXPECT_TRUE(window.events.isEmpty());
+    window.dispatchWheel(-2);
+    EXPECT_EQ(window.events, QStringList{"wheel -2"});
 }
 
 TEST(Window, A_press_that_a_superview_took_is_its_drag) {
@@ -450,7 +457,8 @@ TEST(Window, A_drag_counts_as_coming_only_where_it_ended) {
     const int tag = window.addTrackingRect(screen);
     window.dispatchMouseDown(at(5, 5));
     window.dispatchMouseDragged(at(6, 6));
-    EXPECT_TRUE(window.events.isEmpty());
+    EXPECT_EQ(window.events, QStringList{"mouseDown"});
+    window.events.clear();
     window.dispatchMouseUp(at(-6, 6)); // outside the window
     EXPECT_EQ(window.events, QStringList{"mouseUp"});
     window.dispatchMouseUp(at(6, 6));

@@ -12,6 +12,7 @@ class RecordingCommands final : public CommandTarget {
 public:
     /// The codes performed.
     std::vector<std::int32_t> actions;
+    std::vector<MouseGesture> gestures;
     bool isForceMuted = false;
     /// A real one, which is asked instead of this one.
     CommandTarget* target = nullptr;
@@ -23,6 +24,11 @@ public:
     }
     bool processKeyboardEvent(const platform::KeyEvent& event) override {
         return target && target->processKeyboardEvent(event);
+    }
+    void processMouseGesture(MouseGesture gesture) override {
+        gestures.push_back(gesture);
+        if (target)
+            target->processMouseGesture(gesture);
     }
     bool forceMuted() const override { return target ? target->forceMuted() : isForceMuted; }
     void setForceMuted(bool muted) override {

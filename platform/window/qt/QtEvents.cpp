@@ -26,6 +26,22 @@ QString characters(const QKeyEvent& event) {
         return QChar(functionKey::pageUp);
     case Qt::Key_PageDown:
         return QChar(functionKey::pageDown);
+    case Qt::Key_MediaPlay:
+    case Qt::Key_MediaPause:
+    case Qt::Key_MediaTogglePlayPause:
+        return QChar(functionKey::mediaPlay);
+    case Qt::Key_MediaStop:
+        return QChar(functionKey::mediaStop);
+    case Qt::Key_MediaNext:
+        return QChar(functionKey::mediaNext);
+    case Qt::Key_MediaPrevious:
+        return QChar(functionKey::mediaPrevious);
+    case Qt::Key_VolumeUp:
+        return QChar(functionKey::mediaVolumeUp);
+    case Qt::Key_VolumeDown:
+        return QChar(functionKey::mediaVolumeDown);
+    case Qt::Key_VolumeMute:
+        return QChar(functionKey::mediaMute);
     case Qt::Key_Escape:
         return QChar(functionKey::escape);
     // Shift turns Tab into a key of its own.
@@ -56,13 +72,34 @@ std::uint32_t modifierFlags(Qt::KeyboardModifiers modifiers) {
     return flags;
 }
 
-KeyEvent keyEvent(const QKeyEvent& event) {
+bool isModifierAlone(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+    case Qt::Key_Mode_switch:
+        return true;
+    default:
+        return false;
+    }
+}
+
+KeyEvent keyEvent(const QKeyEvent& event, bool isRepeat) {
     KeyEvent result;
     result.type = event.type() == QEvent::KeyRelease ? KeyEvent::Type::up : KeyEvent::Type::down;
     result.charactersIgnoringModifiers = characters(event);
     result.keyCode = static_cast<std::uint16_t>(event.nativeScanCode());
     result.modifierFlags = modifierFlags(event.modifiers());
-    result.isRepeat = event.isAutoRepeat();
+    result.isRepeat = isRepeat;
     return result;
 }
 
@@ -78,6 +115,12 @@ MouseButton mouseButton(Qt::MouseButton button) {
         return MouseButton::left;
     case Qt::RightButton:
         return MouseButton::right;
+    case Qt::MiddleButton:
+        return MouseButton::middle;
+    case Qt::BackButton:
+        return MouseButton::back;
+    case Qt::ForwardButton:
+        return MouseButton::forward;
     default:
         return MouseButton::other;
     }

@@ -12,7 +12,9 @@ class QMouseEvent;
 namespace platform::qtEvents {
 
 std::uint32_t modifierFlags(Qt::KeyboardModifiers modifiers);
-KeyEvent keyEvent(const QKeyEvent& event);
+/// Shift, Control and their like.
+bool isModifierAlone(const QKeyEvent& event);
+KeyEvent keyEvent(const QKeyEvent& event, bool isRepeat);
 /// The key as a shortcut would be written ("Ctrl+O").
 QKeySequence shortcut(const QKeyEvent& event);
 MouseButton mouseButton(Qt::MouseButton button);

@@ -91,6 +91,9 @@ QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
         _backingStore = std::make_unique<QBackingStore>(this);
     }
     setCursor(Qt::ArrowCursor);
+    HeldKeys::reportRepeatsWithoutReleases();
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &QtWindowHost::followKeyboard);
+    connect(this, &QWindow::windowStateChanged, this, &QtWindowHost::followKeyboard);
     _root.setHost(this);
     placeOnScreen();
 }
@@ -167,6 +170,13 @@ void QtWindowHost::levelChanged() {
 void QtWindowHost::orderedChanged() {
     // A window faded out altogether is unmapped: it must take no clicks.
     const bool shown = _root.isOrderedIn() && _root.alphaValue() > 0;
+    if (!shown && _root.minimizesWhenHidden()) {
+        if (isVisible() && !std::exchange(_minimized, true))
+            setWindowStates(windowStates() | Qt::WindowMinimized);
+        return;
+    }
+    if (std::exchange(_minimized, false))
+        setWindowStates(windowStates() & ~Qt::WindowMinimized);
     if (shown == isVisible())
         return;
     setVisible(shown);
@@ -176,6 +186,8 @@ void QtWindowHost::orderedChanged() {
 
 void QtWindowHost::makeKeyAndOrderFront() {
     orderedChanged();
+    if (windowStates() & Qt::WindowMinimized)
+        setWindowStates(windowStates() & ~Qt::WindowMinimized);
     raise();
     requestActivate();
 }
@@ -355,15 +367,28 @@ void QtWindowHost::resizeEvent(QResizeEvent*) {
 void QtWindowHost::keyPressEvent(QKeyEvent* event) {
     if (_menus && _menus->passToOpenMenu(*event))
         return;
-    if (_menus && _menus->performShortcut(qtEvents::shortcut(*event), event->isAutoRepeat()))
+    if (qtEvents::isModifierAlone(*event))
         return;
-    _root.dispatchKey(qtEvents::keyEvent(*event));
+    const bool isRepeat = _heldKeys.press(event->nativeScanCode());
+    if (_menus && _menus->performShortcut(qtEvents::shortcut(*event), isRepeat))
+        return;
+    _root.dispatchKey(qtEvents::keyEvent(*event, isRepeat));
 }
 
 void QtWindowHost::keyReleaseEvent(QKeyEvent* event) {
-    // The window system reports a release before each automatic repeat; the key is still held.
-    if (!event->isAutoRepeat())
-        _root.dispatchKey(qtEvents::keyEvent(*event));
+    // Some window systems report a release before each automatic repeat; the key is still held.
+    if (event->isAutoRepeat() || qtEvents::isModifierAlone(*event))
+        return;
+    _heldKeys.release(event->nativeScanCode());
+    _root.dispatchKey(qtEvents::keyEvent(*event, false));
+}
+
+void QtWindowHost::releaseKeys() {
+    if (!_heldKeys.forget())
+        return;
+    KeyEvent released;
+    released.type = KeyEvent::Type::up;
+    _root.dispatchKey(released);
 }
 
 MouseEvent QtWindowHost::mouseEvent(const QMouseEvent& event) {
@@ -389,6 +414,20 @@ void QtWindowHost::mousePressEvent(QMouseEvent* event) {
     _root.dispatchMouseDown(translated);
 }
 
+void QtWindowHost::mouseDoubleClickEvent(QMouseEvent* event) {
+    _root.dispatchMouseDown(mouseEvent(*event));
+}
+
+void QtWindowHost::wheelEvent(QWheelEvent* event) {
+    setPointerHidden(false);
+    constexpr int step = QWheelEvent::DefaultDeltasPerStep;
+    _wheelTurned += event->angleDelta().y();
+    if (const int steps = _wheelTurned / step) {
+        _wheelTurned %= step;
+        _root.dispatchWheel(steps);
+    }
+}
+
 void QtWindowHost::mouseReleaseEvent(QMouseEvent* event) {
     _root.dispatchMouseUp(mouseEvent(*event));
 }
@@ -405,11 +444,26 @@ void QtWindowHost::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void QtWindowHost::focusInEvent(QFocusEvent*) {
-    _root.setKey(true);
+    followKeyboard();
 }
 
 void QtWindowHost::focusOutEvent(QFocusEvent*) {
-    _root.setKey(false);
+    // Whoever has the keyboard now is told of the keys' releases.
+    releaseKeys();
+    followKeyboard();
+}
+
+/// A menu or panel of ours that has the keyboard leaves the window the user's; only another program takes it, and
+/// minimising gives it away.
+void QtWindowHost::followKeyboard() {
+    const bool isOurs = QGuiApplication::applicationState() == Qt::ApplicationActive;
+    const bool isMinimized = windowStates() & Qt::WindowMinimized;
+    if (!isOurs || isMinimized)
+        _root.setKey(false);
+    else if (isActive())
+        _root.setKey(true);
+    else if (_minimized)
+        requestActivate(); // brought back
 }
 
 bool QtWindowHost::dragEvent(QDropEvent& event, QEvent::Type type) {

@@ -4,6 +4,7 @@
 #include "platform/window/Events.h"
 #include "platform/window/SceneComposer.h"
 #include "platform/window/WindowHost.h"
+#include "platform/window/qt/HeldKeys.h"
 
 #include <QImage>
 #include <QPointF>
@@ -60,6 +61,8 @@ private:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
@@ -73,6 +76,8 @@ private:
     void paintOpenGL();
     QRegion toPoints(const QRegion& pixels) const;
     void skipFrames();
+    void releaseKeys();
+    void followKeyboard();
     MouseEvent mouseEvent(const QMouseEvent& event);
     bool dragEvent(QDropEvent& event, QEvent::Type type);
 
@@ -86,7 +91,10 @@ private:
     bool _paintScheduled = false;
     bool _followingWindowSystem = false;
     bool _pointerHidden = false;
+    bool _minimized = false; // by the root, not by the user
     QPointF _lastPointer;
+    HeldKeys _heldKeys;
+    int _wheelTurned = 0; // eighths of a degree, less than a step
 };
 
 } // namespace platform
