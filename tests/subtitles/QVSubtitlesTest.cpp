@@ -88,6 +88,7 @@ TEST_F(Track, a_new_frame_rate_moves_the_cues_of_loaded_frame_based_tracks_only)
     track->setFrameRate(1);
     EXPECT_EQ(track->frameRateChoice(), 3) << "nothing is loaded";
     track->preload();
+    EXPECT_EQ(shown(*track, 6000), "B"); // from where A's new end must be found
     track->setFrameRate(1);
     EXPECT_EQ(cuesOf(*track), (std::vector<ExpectedCue>{{2502, 5005, "A"}, {6256, 2147483647, "B"}}));
     EXPECT_EQ(track->frameRateChoice(), 1);

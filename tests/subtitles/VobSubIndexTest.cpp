@@ -98,6 +98,25 @@ TEST(VobSubIndex, a_usual_index_is_read_whole) {
     EXPECT_EQ(index._streams[0]._subPos[0]._pos, 0x1A2B);
 }
 
+TEST(VobSubIndex, what_it_leaves_unsaid_is_zero) {
+    const VobSubIndex index = indexOf(stream + stamp("00:00:01:000"));
+    EXPECT_EQ(index._size, QSizeF(0, 0));
+    EXPECT_EQ(index._origin, QPointF(0, 0));
+    for (const float share : {index._scaleX, index._scaleY, index._alpha})
+        EXPECT_EQ(share, 0.0F);
+    EXPECT_EQ(index._fadeIn + index._fadeOut, 0);
+    for (const std::int32_t number : {index._smooth, index._alignH, index._alignV, index._idxInUse, index._trIdx})
+        EXPECT_EQ(number, 0);
+    EXPECT_EQ(index._timeOffset, 0U);
+    EXPECT_FALSE(index._align || index._onlyForced || index._hasCustomPalette);
+    for (const VobSubColor& color : index._customPalette)
+        EXPECT_EQ(color.red | color.green | color.blue | color.alpha, 0);
+    const QVVobSubPos& position = index._streams.at(0)._subPos.at(0);
+    EXPECT_EQ(position._vobid, -1);
+    EXPECT_EQ(position._cellid, -1);
+    EXPECT_EQ(position._celltimestamp, 0);
+}
+
 TEST(VobSubIndex, delays_move_the_times_after_them) {
     const struct {
         const char* what;
