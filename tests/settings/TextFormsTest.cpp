@@ -17,6 +17,8 @@ TEST(ColorText, components_that_the_text_does_not_reach_keep_their_start_values)
                  {" \t1\n1  1 0.25 9", QColor::fromRgbF(1, 1, 1, 0.25F)},
                  {"2 -1 1e9 0.5", QColor::fromRgbF(1, 0, 1, 0.5F)},
                  {"0,5 1 1 1", QColor::fromRgbF(0, 0, 0, 1)},
+                 {"+-1 1 1 1", QColor::fromRgbF(0, 0, 0, 1)},
+                 {"1 +", QColor::fromRgbF(1, 0, 0, 1)},
                  {"+.5 5e-1 1 1", QColor::fromRgbF(0.5F, 0.5F, 1, 1)}};
     for (const auto& [text, color] : cases)
         EXPECT_EQ(JHColorFromString(text), color) << text;

@@ -54,6 +54,7 @@ TEST_F(Track, loading_takes_the_settings_as_they_are_then) {
     EXPECT_EQ(track->encoding(), 12U);
     EXPECT_EQ(track->title(), QStringLiteral("film.sub"));
     EXPECT_TRUE(track->isTextBased() && !track->isImageBased());
+    ASSERT_TRUE(track->current()) << "the only cue";
     EXPECT_EQ(track->current()->rect(), platform::Rect(0, 0, 0, 0));
     EXPECT_FALSE(track->current()->forced());
     const std::weak_ptr<const QVSubtitle> last = track->cues().back();

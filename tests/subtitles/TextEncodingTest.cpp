@@ -96,6 +96,14 @@ TEST(TextEncoding, the_list_has_a_name_for_each_number_and_finds_it_again) {
         const QString name = localizedNameOfTextEncoding(number);
         EXPECT_EQ(manager.encodingForLocalizedEncodingName(name), number) << name.toStdString();
     }
+    // The numbers stand in users' settings.
+    for (const auto& [number, name] : {std::pair{0x80000208U, "Hebrew (ISO 8859-8)"},
+                                       {0x80000416U, "Icelandic (DOS)"},
+                                       {0x80000506U, "Arabic (Windows)"},
+                                       {0x80000632U, "Chinese (GB 18030)"},
+                                       {0x80000840U, "Korean (ISO 2022-KR)"},
+                                       {0x80000A08U, "Ukrainian (KOI8-U)"}})
+        EXPECT_EQ(localizedNameOfTextEncoding(number).toStdString(), name);
     EXPECT_EQ(manager.encodingForLocalizedEncodingName(localizedNameOfTextEncoding(0)), 0U);
     EXPECT_EQ(manager.encodingForLocalizedEncodingName(QStringLiteral("None such")), JHStringEncodings::noEncoding);
     CapturedLog log;

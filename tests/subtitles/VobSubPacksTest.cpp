@@ -254,7 +254,7 @@ TEST_F(VobSubPacks, what_cannot_be_read_is_said) {
 TEST_F(VobSubPacks, a_disc_that_cannot_be_read_on_is_reported) {
     const QString path = write(Bytes(3 * DataFile::windowSize));
     const std::int64_t lastByteInWindow = DataFile::windowSize - 1;
-    for (const std::int64_t position : {lastByteInWindow, lastByteInWindow + 1}) {
+    for (const std::int64_t position : {lastByteInWindow, 2 * lastByteInWindow}) {
         // The file takes the descriptor that is free, which afterwards leads to what can be opened only.
         const int disc = ::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
         const int free = ::dup(disc);
