@@ -59,5 +59,5 @@ void QVOverlayStyleDefaults::setObject(const QVariant& object, const QString& st
     QVariantMap style = value::toDictionary(styles.value(_key));
     style.insert(styleKey, object);
     styles.insert(_key, style);
-    _defaults->setObject(styles, kQVOverlayStyles);
+    _defaults->setChosenObject(styles, kQVOverlayStyles);
 }

@@ -14,7 +14,8 @@ public:
     RunSettings& operator=(const RunSettings&) = delete;
     ~RunSettings();
 
-    /// Takes the settings of the command line over; false, with a complaint, when one is unknown.
+    /// Takes the settings of the command line over; false, with a complaint, when one is unknown or
+    /// its value of another kind.
     bool apply(const CommandLine& line);
 
     platform::UserDefaults& defaults() { return _defaults; }

@@ -103,7 +103,10 @@ void UserDefaults::setObject(const QVariant& value, const QString& key) {
         removeObjectForKey(key);
         return;
     }
-    _overrides.remove(key);
+    if (const auto own = _overrides.find(key); own != _overrides.end()) {
+        *own = value;
+        return;
+    }
     const auto found = _domain.constFind(key);
     if (found != _domain.constEnd() && isSame(*found, value))
         return;
@@ -112,9 +115,15 @@ void UserDefaults::setObject(const QVariant& value, const QString& key) {
 }
 
 void UserDefaults::removeObjectForKey(const QString& key) {
-    _overrides.remove(key);
-    if (_domain.remove(key) > 0)
+    if (const auto own = _overrides.find(key); own != _overrides.end())
+        *own = _registered.value(key);
+    else if (_domain.remove(key) > 0)
         scheduleWrite();
+}
+
+void UserDefaults::setChosenObject(const QVariant& value, const QString& key) {
+    _overrides.remove(key);
+    setObject(value, key);
 }
 
 bool UserDefaults::hasStoredValue(const QString& key) const {

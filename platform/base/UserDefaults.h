@@ -29,7 +29,8 @@ public:
 
 /// The layered key-value store of settings. A read is answered by the first of these that holds the key: this run's
 /// overrides (never written), the user's persistent domain, the registered defaults (never written). Reads of a
-/// missing key give the zero value: false, 0, 0.0, an empty value. Main thread.
+/// missing key give the zero value: false, 0, 0.0, an empty value. A key that this run overrides is the run's own: what
+/// the program sets by itself is read from then on and not written. Main thread.
 class UserDefaults {
 public:
     explicit UserDefaults(std::unique_ptr<SettingsStorage> storage);
@@ -41,8 +42,7 @@ public:
 
     /// Adds to the registered layer; a key registered again takes the new value.
     void registerDefaults(const QVariantMap& defaults);
-    /// Adds to this run's overrides, which lie above everything. Setting the key later with setObject takes its
-    /// override away, so that a choice made in this run shows at once and is kept.
+    /// Adds to this run's overrides, which lie above everything. An invalid variant takes one away.
     void setOverride(const QString& key, const QVariant& value);
 
     QVariant objectForKey(const QString& key) const;
@@ -56,18 +56,24 @@ public:
     QVariantMap dictionaryForKey(const QString& key) const;
     /// The same of the registered layer alone, whatever lies above it.
     QVariantMap registeredDictionaryForKey(const QString& key) const;
+    /// The same without asking for a type; an invalid variant when nothing is registered.
+    QVariant registeredObjectForKey(const QString& key) const { return _registered.value(key); }
     QVariantList arrayForKey(const QString& key) const;
     QStringList stringArrayForKey(const QString& key) const;
     /// The value when it is a date, else an invalid date.
     QDateTime dateForKey(const QString& key) const;
 
-    /// Sets the user's value. An invalid variant removes it.
+    /// Sets the user's value, or the override of a key that has one. An invalid variant removes it.
     void setObject(const QVariant& value, const QString& key);
     void setBool(bool value, const QString& key) { setObject(QVariant(value), key); }
     void setInteger(std::int32_t value, const QString& key) { setObject(QVariant(value), key); }
     void setFloat(float value, const QString& key) { setObject(QVariant(value), key); }
-    /// Deletes the user's value, so that the registered value shows again.
+    /// Deletes the user's value, so that the registered value shows again. That of a key with an override stays in the
+    /// user's domain; this run reads the registered one.
     void removeObjectForKey(const QString& key);
+    /// Sets the value that the user chose by hand, in the preferences: it is kept also where this run overrides the
+    /// key, and takes the override's place.
+    void setChosenObject(const QVariant& value, const QString& key);
 
     /// Whether the user's domain (or an override) holds a value of its own for the key.
     bool hasStoredValue(const QString& key) const;

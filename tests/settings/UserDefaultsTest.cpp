@@ -35,8 +35,15 @@ TEST_F(UserDefaultsTest, the_highest_layer_that_holds_a_key_answers) {
     defaults->synchronize();
     EXPECT_EQ(disk->domain, (QVariantMap{{"key", 2}}));
 
+    // What the program sets by itself stays this run's; what the user chooses by hand is kept.
     defaults->setInteger(4, "key");
     EXPECT_EQ(defaults->integerForKey("key"), 4);
+    defaults->removeObjectForKey("key");
+    EXPECT_EQ(defaults->integerForKey("key"), 1);
+    EXPECT_EQ(defaults->persistentDomain(), (QVariantMap{{"key", 2}}));
+    defaults->setChosenObject(5, "key");
+    EXPECT_EQ(defaults->integerForKey("key"), 5);
+    EXPECT_EQ(defaults->persistentDomain(), (QVariantMap{{"key", 5}}));
     defaults->removeObjectForKey("key");
     EXPECT_EQ(defaults->integerForKey("key"), 1);
     EXPECT_FALSE(defaults->hasStoredValue("key"));
