@@ -15,6 +15,27 @@ namespace platform {
 
 namespace {
 
+/// A function of a library that is loaded already; null without either.
+template <class Function>
+Function loadedFunction(const char* library, const char* name) {
+    void* handle = dlopen(library, RTLD_LAZY | RTLD_LOCAL | RTLD_NOLOAD);
+    return handle ? reinterpret_cast<Function>(dlsym(handle, name)) : nullptr;
+}
+
+void ignoreSoundError(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
+                      const char* /*format*/, ...) {}
+
+/// libmpv tries one sound system after the other, and the libraries of those that are not there write to standard error
+/// by themselves, twenty lines on a machine without sound. PipeWire's writes all the same where PIPEWIRE_DEBUG is set.
+void quietSoundSystems() {
+    if (const auto setHandler =
+            loadedFunction<int (*)(decltype(&ignoreSoundError))>("libasound.so.2", "snd_lib_error_set_handler"))
+        setHandler(&ignoreSoundError);
+    constexpr int nothing = 0;
+    if (const auto setLevel = loadedFunction<void (*)(int)>("libpipewire-0.3.so.0", "pw_log_set_level"))
+        setLevel(nothing);
+}
+
 #define LUMARO_TEXT_OF(x) #x
 #define LUMARO_TEXT(x) LUMARO_TEXT_OF(x)
 
@@ -98,6 +119,7 @@ const MpvLibrary* MpvLibrary::get() {
 #define X(name) files.resolve(library.name, #name);
         LUMARO_MPV_FUNCTIONS(X)
 #undef X
+        quietSoundSystems();
         return files.isComplete() ? &library : nullptr;
     }();
     return loaded;
