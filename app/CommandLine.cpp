@@ -143,7 +143,8 @@ QString CommandLine::helpText() {
     return QStringLiteral("Usage: lumaro [OPTIONS] [FILE|FOLDER|URL...]\n"
                           "Plays movies, one at a time, on the whole screen.\n"
                           "\n"
-                          "  --set KEY=VALUE   a setting for this run only, over the user's (repeatable)\n"
+                          "  --set KEY=VALUE   a setting for this run only, over the user's (repeatable): YES or\n"
+                          "                    NO, a number, a text, a date as 2026-01-31, a list as [1, 2]\n"
                           "  --append          add to the playlist instead of replacing it\n"
                           "  --software        draw without OpenGL\n"
                           "  --inspect         print what is in the given files as JSON, and exit\n"
@@ -155,6 +156,7 @@ QString CommandLine::helpText() {
                           "  --help            print this, and exit\n"
                           "  --version         print the version, and exit\n"
                           "\n"
-                          "A second launch hands its files to the player that is running.\n"
+                          "A second launch hands its files to the player that is running; --set and --software\n"
+                          "act when it starts, and are refused then.\n"
                           "Exit status: 0 on success, 1 on an error, 2 on wrong usage.\n");
 }

@@ -6,10 +6,12 @@
 #include "app/OpeningFiles.h"
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
+#include "app/main/Terminal.h"
 #include "app/panels/HelpPanel.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/desktop/linux/Backlight.h"
+#include "platform/desktop/linux/DisplayServer.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
 #include "platform/desktop/qt/QtDesktop.h"
@@ -20,6 +22,7 @@
 #include <QFileInfo>
 
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -30,6 +33,34 @@ QString asHandedOver(const QString& file) {
         return file;
     const bool isMovie = QFileInfo::exists(file) && isFileOfType(file, supportedFileTypes(platform::Bundle::main()));
     return isMovie ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
+}
+
+platform::HandOver handOverOf(const CommandLine& line) {
+    platform::HandOver message{line.append, {}};
+    for (const QString& file : line.files)
+        message.files.append(asHandedOver(file));
+    return message;
+}
+
+/// Gives what was asked for to a player that runs already: the exit status, or nothing when none took it.
+std::optional<int> giveTo(const platform::SingleInstance& instance, const CommandLine& line) {
+    if (!instance.isTaken())
+        return std::nullopt;
+    if (!line.settings.isEmpty() || line.software) {
+        complain(QStringLiteral("'%1' acts when the player starts, and one is running; quit it first")
+                     .arg(line.software ? QStringLiteral("--software") : QStringLiteral("--set")));
+        return exitFailure;
+    }
+    return instance.handOver(handOverOf(line)) ? std::optional(exitSuccess) : std::nullopt;
+}
+
+/// The same with whichever player of this user there is.
+std::optional<int> giveToAny(const CommandLine& line) {
+    for (const QString& path : platform::SingleInstance::socketPathsOfAllDisplays()) {
+        if (const auto status = giveTo(platform::SingleInstance(path), line))
+            return status;
+    }
+    return std::nullopt;
 }
 
 QUrl firstMovie(const QStringList& files) {
@@ -68,22 +99,22 @@ platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const p
 
 int play(int& count, char** arguments, const CommandLine& line) {
     platform::SingleInstance instance(platform::SingleInstance::defaultSocketPath());
+    if (const auto status = giveTo(instance, line))
+        return *status;
+    std::optional<platform::DisplayServer> display(std::in_place);
+    if (!display->reasonForNone().isEmpty()) {
+        if (const auto status = giveToAny(line))
+            return *status;
+        complain(QStringLiteral("there is no display to show movies on: %1").arg(display->reasonForNone()));
+        return exitFailure;
+    }
     // Opening the first movie takes as long as starting the application: it begins first.
-    std::optional<platform::MpvToolkit> toolkit;
-    if (!instance.isTaken()) {
-        toolkit.emplace();
-        toolkit->prepare(firstMovie(line.files));
-    }
-    platform::HandOver files{line.append, {}};
-    for (const QString& file : line.files)
-        files.files.append(asHandedOver(file));
-    if (!toolkit) {
-        if (instance.handOver(files))
-            return exitSuccess;
-        toolkit.emplace();
-    }
+    platform::MpvToolkit toolkit;
+    toolkit.prepare(firstMovie(line.files));
+    const platform::HandOver files = handOverOf(line);
 
     platform::QtDesktop desktop(count, arguments, QStringLiteral("Lumaro"));
+    display.reset();
     RunEnvironment run;
     if (!run.settings().apply(line))
         return exitUsage;
@@ -99,7 +130,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
     int status = exitSuccess;
     {
         Steps steps;
-        MainObjects player(run.environment(), {desktop, *toolkit, platform::Bundle::main()}, steps);
+        MainObjects player(run.environment(), {desktop, toolkit, platform::Bundle::main()}, steps);
         platform::QtWindowHost host(player.window(), chosenRenderer(line));
         host.setMainMenu(player.menu().bar(), player.controller());
         desktop.setMainWindow(&host);

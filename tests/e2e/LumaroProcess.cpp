@@ -30,7 +30,7 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
 
 std::vector<std::string> LumaroProcess::faults() const {
     static const std::regex marks("AddressSanitizer|LeakSanitizer|runtime error:|ASSERT|terminate called|"
-                                  "must be a top level window");
+                                  "must be a top level window|ALSA lib |\\] pw[.]|^qt[.]");
     std::vector<std::string> result;
     for (const std::string& line : errorLines())
         if (std::regex_search(line, marks))

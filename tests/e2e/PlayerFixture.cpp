@@ -40,13 +40,13 @@ std::string endOfLog(ChildProcess& process) {
 } // namespace
 
 LumaroProcess& PlayerFixture::start(const std::vector<std::string>& arguments, const std::string& workingDirectory) {
-    player = startAnother(arguments, workingDirectory);
+    player = startAnother(withQuietLaunch(arguments), workingDirectory);
     return *player;
 }
 
 std::unique_ptr<LumaroProcess> PlayerFixture::startAnother(const std::vector<std::string>& arguments,
                                                            const std::string& workingDirectory) {
-    return std::make_unique<LumaroProcess>(user, server.display(), withQuietLaunch(arguments), workingDirectory);
+    return std::make_unique<LumaroProcess>(user, server.display(), arguments, workingDirectory);
 }
 
 std::optional<int> PlayerFixture::frame() {

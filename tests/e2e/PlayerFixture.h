@@ -28,7 +28,7 @@ protected:
 
     // Starts the player with tracing on and nothing asked at launch. Options of the test follow, and override.
     LumaroProcess& start(const std::vector<std::string>& arguments, const std::string& workingDirectory = {});
-    // Another launch by the same user.
+    // Another launch by the same user, with these options alone: settings are for the first one.
     std::unique_ptr<LumaroProcess> startAnother(const std::vector<std::string>& arguments,
                                                 const std::string& workingDirectory = {});
 

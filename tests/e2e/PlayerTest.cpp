@@ -143,7 +143,33 @@ TEST_F(Player, a_second_launch_hands_its_files_over) {
     ASSERT_TRUE(colorBecomes(blue));
     probe.tap(XK_Page_Up);
     ASSERT_TRUE(colorBecomes(green));
+
+    // What acts only at the start of a player is refused, and the movie with it.
+    for (const std::vector<std::string>& option :
+         {std::vector<std::string>{"--software"}, {"--set", "QVJumpInterval=3"}}) {
+        std::vector<std::string> arguments = option;
+        arguments.push_back(numbered("1.mp4", red, 300));
+        const auto refused = startAnother(arguments);
+        EXPECT_EQ(refused->waitForExit(), 1);
+        EXPECT_NE(refused->errorOutput().find("lumaro: '" + option.front() + "'"), std::string::npos)
+            << refused->errorOutput();
+    }
+    // A launch from elsewhere has no display, or another one.
+    for (const std::string display : {"", ":4711"}) {
+        const std::string movie = numbered(display.empty() ? "1.mp4" : "3.mp4", display.empty() ? red : blue, 300);
+        EXPECT_EQ(LumaroProcess(user, display, {movie}).waitForExit(), 0);
+        ASSERT_TRUE(colorBecomes(display.empty() ? red : blue));
+    }
     ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Player, without_a_display_one_sentence_says_so) {
+    for (const std::string display : {"", ":4711"}) {
+        LumaroProcess process(user, display, {numbered("1.mp4", red, 300)});
+        EXPECT_EQ(process.waitForExit(), 1) << process.errorOutput();
+        EXPECT_EQ(process.errorLines().size(), 1u) << process.errorOutput();
+        EXPECT_NE(process.errorOutput().find("lumaro: there is no display"), std::string::npos);
+    }
 }
 
 TEST_F(Player, the_right_button_opens_a_menu_that_escape_closes) {
@@ -208,7 +234,9 @@ TEST_F(Player, wrong_usage_ends_with_status_2_and_help_and_version_with_0) {
     const struct {
         std::vector<std::string> arguments;
         int status;
-    } cases[] = {{{"--no-such-option"}, 2}, {{"--set"}, 2}, {{"--set", "=1"}, 2}, {{"--help"}, 0}, {{"--version"}, 0}};
+    } cases[] = {{{"--no-such-option"}, 2}, {{"--set"}, 2},
+                 {{"--set", "=1"}, 2},      {{"--set", "QVJumpInterval=soon", "--inspect", "a.srt"}, 2},
+                 {{"--help"}, 0},           {{"--version"}, 0}};
     for (const auto& given : cases) {
         LumaroProcess process(user, {}, given.arguments);
         EXPECT_EQ(process.waitForExit(), given.status) << given.arguments.front() << process.errorOutput();

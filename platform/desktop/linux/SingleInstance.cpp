@@ -2,8 +2,10 @@
 #include "platform/desktop/linux/SingleInstance.h"
 
 #include "platform/base/Log.h"
+#include "platform/desktop/linux/LocalSocket.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QSocketNotifier>
 #include <QtEndian>
@@ -31,33 +33,15 @@ constexpr mode_t forThisUser = 0600;
 constexpr quint32 maximumMessage = 8U << 20;
 constexpr std::size_t maximumClients = 32;
 
-std::optional<sockaddr_un> addressOf(const QString& path) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    const QByteArray name = QFile::encodeName(path);
-    if (name.isEmpty() || static_cast<std::size_t>(name.size()) >= sizeof(address.sun_path))
-        return std::nullopt;
-    std::memcpy(address.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-    return address;
-}
-
-int connectTo(const sockaddr_un& address) {
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (socket < 0)
-        return -1;
-    const timeval timeout{3, 0};
-    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
-    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof(timeout));
-    if (::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0)
-        return socket;
-    ::close(socket);
-    return -1;
-}
-
 bool isPrivateFolder(const QByteArray& path) {
     struct stat status {};
     return ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::getuid() &&
            (status.st_mode & 022) == 0;
+}
+
+/// Where sockets lie when there is no folder of the session.
+QByteArray folderOfOurOwn() {
+    return "/tmp/lumaro-" + QByteArray::number(::getuid());
 }
 
 /// Another launch that only looks holds the lock for an instant.
@@ -87,7 +71,7 @@ struct SingleInstance::Client {
 QString SingleInstance::defaultSocketPath() {
     QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
     if (folder.isEmpty() || !isPrivateFolder(folder)) {
-        folder = "/tmp/lumaro-" + QByteArray::number(::getuid());
+        folder = folderOfOurOwn();
         ::mkdir(folder.constData(), 0700);
         if (!isPrivateFolder(folder))
             return {};
@@ -96,6 +80,24 @@ QString SingleInstance::defaultSocketPath() {
     const QByteArray display = qgetenv("WAYLAND_DISPLAY") + '\n' + qgetenv("DISPLAY");
     const QByteArray name = QCryptographicHash::hash(display, QCryptographicHash::Sha1).toHex().left(12);
     return QFile::decodeName(folder + "/lumaro-" + name + ".socket");
+}
+
+QStringList SingleInstance::socketPathsOfAllDisplays() {
+    QByteArray session = qgetenv("XDG_RUNTIME_DIR");
+    // A process that the session did not start may not know of the session's folder.
+    if (session.isEmpty())
+        session = "/run/user/" + QByteArray::number(::getuid());
+    QStringList paths;
+    for (const QByteArray& name : {session, folderOfOurOwn()}) {
+        if (!isPrivateFolder(name))
+            continue;
+        const QDir folder(QFile::decodeName(name));
+        const QStringList sockets =
+            folder.entryList({QStringLiteral("lumaro-*.socket")}, QDir::System | QDir::NoSymLinks, QDir::Time);
+        for (const QString& socket : sockets)
+            paths.append(folder.filePath(socket));
+    }
+    return paths;
 }
 
 SingleInstance::SingleInstance(QString socketPath)
@@ -144,12 +146,12 @@ QString SingleInstance::lockPath() const {
 }
 
 bool SingleInstance::handOver(const HandOver& message) const {
-    const auto address = addressOf(_path);
-    if (!address)
-        return false;
-    const int socket = connectTo(*address);
+    const int socket = connectToLocalSocket(_path);
     if (socket < 0)
         return false;
+    const timeval timeout{3, 0};
+    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
+    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof(timeout));
     const QByteArray bytes = encoded(message);
     qsizetype sent = 0;
     while (sent < bytes.size()) {
@@ -166,7 +168,7 @@ bool SingleInstance::handOver(const HandOver& message) const {
 }
 
 bool SingleInstance::listen(std::function<void(const HandOver&)> receive) {
-    const auto address = addressOf(_path);
+    const auto address = localAddress(_path);
     if (!address)
         return false;
     // Whoever holds the lock is the running player; a socket left behind by a crash is then nobody's.

@@ -27,6 +27,8 @@ class SingleInstance {
 public:
     /// The socket's place; empty when there is no folder that only the user can write to.
     static QString defaultSocketPath();
+    /// The places of all players of this user that may be running, on whatever display, the newest first.
+    static QStringList socketPathsOfAllDisplays();
     explicit SingleInstance(QString socketPath);
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;

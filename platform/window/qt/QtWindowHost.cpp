@@ -42,10 +42,11 @@ bool isSoftwareRenderer(const QByteArray& name) {
 /// Opacity of a window does something only where a compositing manager runs.
 bool windowSystemFades() {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    // The platform without a screen has the interface, but no connection.
+    xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    if (!connection)
         return false;
     constexpr char name[] = "_NET_WM_CM_S0";
-    xcb_connection_t* connection = x11->connection();
     const auto freed = [](void* reply) { std::free(reply); };
     const std::unique_ptr<xcb_intern_atom_reply_t, decltype(freed)> atom(
         xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, sizeof(name) - 1, name), nullptr), freed);

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <sys/un.h>
+
+namespace platform {
+
+/// The address of a socket in the file system; nothing when the path is empty or too long for one.
+std::optional<sockaddr_un> localAddress(const QString& path);
+
+/// Connects to the stream socket at the path; -1 when nobody listens there. The caller closes it.
+int connectToLocalSocket(const QString& path);
+
+} // namespace platform
