@@ -59,7 +59,7 @@ void FileIntake::finishAddingFiles() {
         else
             urls += urlsWithPathStrings({file}, _types);
     }
-    _sink(urls, _is_should_replace ? Adding::replace : Adding::append);
+    give(urls, _is_should_replace ? Adding::replace : Adding::append);
 }
 
 void FileIntake::finishLaunching() {
@@ -67,6 +67,15 @@ void FileIntake::finishLaunching() {
     _is_launching = false;
     // Files may have arrived while those movies were opened.
     finishAddingFiles();
+}
+
+void FileIntake::end() {
+    _has_ended = true;
+}
+
+void FileIntake::give(const QList<QUrl>& urls, Adding adding) {
+    if (!_has_ended)
+        _sink(urls, adding);
 }
 
 void FileIntake::doOpen() {
@@ -78,7 +87,7 @@ void FileIntake::doOpen() {
     if (chosen.isEmpty())
         return;
     const Adding adding = addingFor(QVGetModifierFlags(_desktop));
-    _sink(urlsWithPathStrings(chosen, _types), adding);
+    give(urlsWithPathStrings(chosen, _types), adding);
 }
 
 std::uint32_t FileIntake::draggingEntered(const platform::DraggingInfo& info) {
@@ -102,9 +111,9 @@ bool FileIntake::performDragOperation(const platform::DraggingInfo& info) {
     const Adding adding = append ? Adding::append : Adding::replace;
     if (info.offersFileNames) {
         if (!info.fileNames.isEmpty())
-            _sink(urlsWithPathStrings(info.fileNames, _types), adding);
+            give(urlsWithPathStrings(info.fileNames, _types), adding);
     } else if (info.offersURL) {
-        _sink(urlsWithURLStrings(info.urlStrings), adding);
+        give(urlsWithURLStrings(info.urlStrings), adding);
     }
     return true;
 }

@@ -37,6 +37,8 @@ public:
     /// The movies of the launch are opened here.
     void finishLaunching();
     bool isLaunching() const { return _is_launching; }
+    /// Takes nothing from here on, also not what a panel that is up is answered: the program ends.
+    void end();
 
     void doOpen() override;
 
@@ -45,6 +47,8 @@ public:
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
 private:
+    void give(const QList<QUrl>& urls, Adding adding);
+
     Environment _environment;
     platform::Desktop& _desktop;
     QStringList _types;
@@ -52,6 +56,7 @@ private:
     bool _is_adding_files = false;
     bool _is_should_replace = true;
     bool _is_launching = true;
+    bool _has_ended = false;
     QStringList _added_files;
     std::unique_ptr<platform::Timer> _batchTimer;
 };

@@ -116,12 +116,33 @@ void QVAppController::applicationDidFinishLaunching() {
 void QVAppController::finishLaunching() {
     const TraceScope scope("-[QVAppController finishLaunching]");
     _with.backdrop.offerHint(openingHint());
-    _with.steps.runFirstTimeConfig();
-    _with.steps.askDonation();
-    if (_with.steps.shouldCheckLatestVersion()) {
-        const TraceScope check("-[QVAppController checkLatestVersion:]");
-        _with.steps.checkLatestVersion();
+    using Step = void (QVAppController::*)();
+    for (const Step step :
+         {&QVAppController::runFirstTimeConfig, &QVAppController::askDonation, &QVAppController::checkVersionAtLaunch,
+          &QVAppController::runLaunchAction, &QVAppController::openFilesOfLaunch, &QVAppController::restoreDisplay}) {
+        // The step before may have waited in a panel while the program was told to end.
+        if (_is_terminating)
+            return;
+        (this->*step)();
     }
+}
+
+void QVAppController::runFirstTimeConfig() {
+    _with.steps.runFirstTimeConfig();
+}
+
+void QVAppController::askDonation() {
+    _with.steps.askDonation();
+}
+
+void QVAppController::checkVersionAtLaunch() {
+    if (!_with.steps.shouldCheckLatestVersion())
+        return;
+    const TraceScope check("-[QVAppController checkLatestVersion:]");
+    _with.steps.checkLatestVersion();
+}
+
+void QVAppController::runLaunchAction() {
     if (_with.files.isEmpty()) {
         trace("%@: No movie files to open ...", className);
         switch (_environment.settings.integerForKey(kQVOnLaunchDefaultAction)) {
@@ -135,11 +156,19 @@ void QVAppController::finishLaunching() {
             break;
         }
     }
+    _is_state_restored = true;
+}
+
+void QVAppController::openFilesOfLaunch() {
     _with.files.finishLaunching();
+}
+
+void QVAppController::restoreDisplay() {
     // A display that shows nothing is not made: its fonts would hold up the first picture.
     if (const std::int32_t type = _environment.settings.integerForKey(kQVOSDStateSavedType);
         _environment.settings.boolForKey(kQVOSDStateSave) && type != 0)
         _with.display.setDisplayType(type);
+    _is_display_restored = true;
 }
 
 void QVAppController::applicationDidChangeScreenParameters() {
@@ -220,14 +249,18 @@ void QVAppController::preferencesChanged(const QVPreferencesChangedNotification&
 
 platform::ApplicationDelegate::TerminateReply QVAppController::applicationShouldTerminate() {
     const TraceScope scope("-[QVAppController applicationShouldTerminate:]");
+    _is_terminating = true;
+    _with.files.end();
     if (_environment.settings.boolForKey(kQVVolumeSave)) {
         if (_with.controller.forceMuted())
             _with.controller.setForceMuted(false);
         _environment.settings.setFloat(_with.view.volume(), kQVVolumeSavedLevel);
     }
-    if (_environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
+    // What the launch has not put back yet is kept as it is.
+    if (_is_state_restored &&
+        _environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
         _with.steps.saveState();
-    if (_environment.settings.boolForKey(kQVOSDStateSave))
+    if (_is_display_restored && _environment.settings.boolForKey(kQVOSDStateSave))
         _environment.settings.setInteger(_with.display.displayType(), kQVOSDStateSavedType);
     if (_with.view.isPlaying())
         _with.view.stop();

@@ -80,7 +80,7 @@ public:
     /// Opens a batch of files, and closes it: its movies go to the playlist.
     void startAddingFiles();
     void finishAddingFiles();
-    /// The launch's second half, once the window has faded in.
+    /// The launch's second half, once the window has faded in. Ends early where the program is told to end meanwhile.
     void finishLaunching();
     bool isLaunching() const;
     void hideCursor();
@@ -92,12 +92,22 @@ public:
 
 private:
     void cleanup();
+    // The steps of finishLaunching, in their order.
+    void runFirstTimeConfig();
+    void askDonation();
+    void checkVersionAtLaunch();
+    void runLaunchAction();
+    void openFilesOfLaunch();
+    void restoreDisplay();
     QString infoText(const char* key) const;
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
 
     Environment _environment;
     Collaborators _with;
     std::unique_ptr<platform::Timer> _launchTimer;
+    bool _is_state_restored = false;
+    bool _is_display_restored = false;
+    bool _is_terminating = false;
     float _savedBrightness = 1.0F;
     platform::Subscription _preferencesChanged;
 };

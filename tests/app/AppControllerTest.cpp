@@ -506,3 +506,42 @@ TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_
         EXPECT_EQ(gAppController, nullptr);
     }
 }
+
+TEST(AppController, told_to_end_during_the_launch_it_opens_nothing_more_and_keeps_what_was_kept) {
+    struct Case {
+        const char* step; // in which it waits for the user
+        bool answered;    // the user still answers, while the window fades out
+        const char* events;
+        int displayType;
+    };
+    for (const Case& c :
+         {Case{"configure", false, "configure", 3}, Case{"configure", true, "configure", 3},
+          Case{"donation", false, "configure donation", 3}, Case{"version", true, "configure donation version", 3},
+          Case{"restore", false, "configure donation version restore", 3},
+          Case{"panel", false, "configure donation version", 3}, Case{"panel", true, "configure donation version", 3},
+          Case{"none", false, "configure donation version restore save", 4}}) {
+        const QString step = c.step;
+        AppRig rig(
+            {{kQVOnLaunchDefaultAction, step == "panel" ? 2 : 1}, {kQVOSDStateSave, true}, {kQVOSDStateSavedType, 3}});
+        rig.steps.checksVersion = true;
+        rig.steps.waitingStep = step;
+        rig.steps.whileWaiting = rig.desktop.whileOpenPanelIsUp = [&rig] {
+            rig.app.openFile(rig.file("early.mp4"));
+            rig.app.applicationShouldTerminate();
+            rig.app.openFile(rig.file("late.mp4"));
+            rig.fade();
+        };
+        if (c.answered)
+            rig.desktop.openPanelAnswers.push_back({rig.file("chosen.mp4")});
+        rig.launch();
+        rig.settings.runLoop.advance(1);
+        if (step == "none") {
+            rig.objects->display().setDisplayType(4);
+            rig.app.applicationShouldTerminate();
+        }
+        EXPECT_EQ(rig.events.join(u' ').toStdString(), c.events) << c.step;
+        EXPECT_EQ(rig.listed().toStdString(), "") << c.step;
+        rig.app.applicationWillTerminate();
+        EXPECT_EQ(rig.settings.disk->domain.value(kQVOSDStateSavedType).toInt(), c.displayType) << c.step;
+    }
+}

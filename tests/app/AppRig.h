@@ -13,6 +13,7 @@
 #include "tests/support/TestEnvironment.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -53,15 +54,23 @@ public:
         explicit RecordingSteps(QStringList& events)
             : _events(events) {}
         bool checksVersion = false;
-        void runFirstTimeConfig() override { _events << "configure"; }
-        void askDonation() override { _events << "donation"; }
+        /// Runs while the step of this name waits for the user, as the event loop does.
+        QString waitingStep;
+        std::function<void()> whileWaiting;
+        void runFirstTimeConfig() override { take("configure"); }
+        void askDonation() override { take("donation"); }
         bool shouldCheckLatestVersion() override { return checksVersion; }
-        void checkLatestVersion() override { _events << "version"; }
-        void restoreState() override { _events << "restore"; }
-        void saveState() override { _events << "save"; }
-        void runHelpPanel() override { _events << "help"; }
+        void checkLatestVersion() override { take("version"); }
+        void restoreState() override { take("restore"); }
+        void saveState() override { take("save"); }
+        void runHelpPanel() override { take("help"); }
 
     private:
+        void take(const char* step) {
+            _events << step;
+            if (step == waitingStep && whileWaiting)
+                whileWaiting();
+        }
         QStringList& _events;
     };
 

@@ -230,6 +230,19 @@ TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
     ASSERT_TRUE(quitsCleanly());
 }
 
+TEST_F(Player, told_to_end_while_a_panel_waits_at_launch_it_opens_nothing_more_and_keeps_what_was_kept) {
+    std::filesystem::create_directories(user.settingsFile().parent_path());
+    std::ofstream(user.settingsFile()) << "<plist version=\"1.0\"><dict><key>QVOSDStateSavedType</key>"
+                                          "<integer>3</integer></dict></plist>\n";
+    player = startAnother({"--set", "QVEnableTrace=1", "--set", "QVOnLaunchDefaultAction=2"});
+    ASSERT_TRUE(logs("Launching File Open panel ..."));
+    EXPECT_EQ(startAnother({numbered("1.mp4", red, 300)})->waitForExit(), 0);
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
+    EXPECT_EQ(player->errorOutput().find("Adding to playlist"), std::string::npos);
+    EXPECT_NE(settingsText().find("<integer>3</integer>"), std::string::npos) << settingsText();
+}
+
 TEST_F(Player, wrong_usage_ends_with_status_2_and_help_and_version_with_0) {
     const struct {
         std::vector<std::string> arguments;

@@ -24,6 +24,7 @@ public:
     QList<int> alertAnswers;
     /// Runs while an alert is up, as the event loop does.
     std::function<void()> whileAlertIsUp;
+    std::function<void()> whileOpenPanelIsUp;
 
     /// The folders that open panels began in, and the extensions that they offered.
     QStringList openPanelFolders;
@@ -54,6 +55,8 @@ public:
     QStringList runOpenPanel(const QStringList& extensions, const QString& folder) override {
         openPanelExtensions.append(extensions);
         openPanelFolders.append(folder);
+        if (whileOpenPanelIsUp)
+            whileOpenPanelIsUp();
         return taken(openPanelAnswers, {});
     }
     void beep() override { ++beeps; }

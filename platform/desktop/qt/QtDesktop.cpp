@@ -115,6 +115,9 @@ void QtDesktop::followSignals() {
 }
 
 int QtDesktop::runAlert(const Alert& alert) {
+    const int withoutAnswer = !alert.otherButton.isEmpty() ? -1 : !alert.alternateButton.isEmpty() ? 0 : 1;
+    if (_terminationPending)
+        return withoutAnswer;
     QMessageBox box;
     box.setIcon(QMessageBox::Warning);
     box.setText(alert.title);
@@ -133,12 +136,12 @@ int QtDesktop::runAlert(const Alert& alert) {
         return -1;
     if (alternate && box.clickedButton() == alternate)
         return 0;
-    if (!box.clickedButton()) // the application is ending
-        return other ? -1 : alternate ? 0 : 1;
-    return 1;
+    return box.clickedButton() ? 1 : withoutAnswer; // none: the application is ending
 }
 
 QStringList QtDesktop::runOpenPanel(const QStringList& extensions, const QString& folder) {
+    if (_terminationPending)
+        return {};
     QFileDialog dialog;
     dialog.setFileMode(QFileDialog::ExistingFiles);
     QStringList patterns;
