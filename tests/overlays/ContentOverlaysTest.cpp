@@ -169,6 +169,9 @@ TEST(QVTextOverlay, changes_of_the_style_are_handled_down_the_chain) {
     EXPECT_TRUE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {kTextColor, kFrameWidth, kMaxAlpha}}));
     EXPECT_FALSE(overlay.preferencesChanged({kQVDefaultOverlayStyle, {"Unknown", kTextColor}}));
     EXPECT_FALSE(overlay.preferencesChanged({kQVOSDOverlayStyle, {kTextColor}})) << "another style";
+    rig.settings.defaults().setInteger(60, kQVOverlayTextFontSizeMin);
+    EXPECT_FALSE(overlay.preferencesChanged({kQVOverlayTextFontSizeMin, {}})) << "others follow it, too";
+    EXPECT_EQ(overlay.textFontSize(), 60);
 }
 
 TEST(QVTextOverlay, absurd_styles_are_laid_out_within_reason) {
