@@ -17,6 +17,11 @@ struct QVMovieCompleteNotification {
     std::shared_ptr<QVMovie> movie;
 };
 
+/// The movie was opened, and cannot be played.
+struct QVMovieFailedNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
 /// A picture is due, the time jumped, or the movie's setTime() moved it.
 struct QVMovieInterestingTimeNotification {
     std::shared_ptr<QVMovie> movie;

@@ -6,10 +6,12 @@
 #include "context/Notifications.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Window.h"
 #include "playback/DropTarget.h"
+#include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
@@ -20,6 +22,8 @@ namespace {
 
 constexpr const char* className = "QVMovieView";
 constexpr double panInterval = 0.05;
+/// Seconds after which it is said that nothing comes.
+constexpr double stallTimeout = 4;
 
 } // namespace
 
@@ -30,6 +34,7 @@ QVMovieView::QVMovieView(const Environment& environment, const Collaborators& co
     , _commands(collaborators.commands)
     , _feedback(collaborators.feedback)
     , _drops(collaborators.drops)
+    , _waitMessage(environment, collaborators.feedback)
     , _size(environment.settings.integerForKey(kQVDefaultMovieSize)) {
     platform::NotificationCenter& center = environment.notifications;
     _movieChanged = center.observe<QVPlaylistMovieChangedNotification>(
@@ -141,6 +146,29 @@ void QVMovieView::start() {
 void QVMovieView::stop() {
     trace("%@: Stop Playing movie", className);
     MovieView::stop();
+}
+
+void QVMovieView::waitChanged(const platform::MoviePlayer::Wait& wait) {
+    using What = platform::MoviePlayer::Wait::What;
+    _stallTimer.reset();
+    if (wait.what == What::nothing) {
+        _waitMessage.end();
+        return;
+    }
+    if (wait.what == What::beginning)
+        _waitMessage.show(
+            platform::localizedFormat(QStringLiteral("Loading: %@"), {fileNameOfURL(movieObject()->url())}));
+    else
+        _waitMessage.show(
+            platform::localizedFormat(QStringLiteral("Buffering: %d %%"), {QString::number(wait.percent)}));
+    // It is told anew with each percent.
+    _stallTimer = _environment.loop.schedule(stallTimeout, false, [this] {
+        _waitMessage.show(platform::localizedString(QStringLiteral("Stalled: No Data from the Server")));
+    });
+}
+
+void QVMovieView::movieFailed() {
+    _environment.notifications.post(QVMovieFailedNotification{movie()});
 }
 
 void QVMovieView::playingChanged(bool playing) {

@@ -8,6 +8,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/movie/MovieView.h"
 #include "playback/MovieSizing.h"
+#include "playback/StandingMessage.h"
 #include "settings/QVPreferencesChangedNotification.h"
 
 #include <cstdint>
@@ -86,6 +87,8 @@ public:
 
 protected:
     void playingChanged(bool playing) override;
+    void waitChanged(const platform::MoviePlayer::Wait& wait) override;
+    void movieFailed() override;
 
 private:
     MovieSizing::Geometry geometry() const;
@@ -104,6 +107,8 @@ private:
         bool isPlaying = false;
         float rate = 1.0F;
     } _state;
+    StandingMessage _waitMessage;
+    std::unique_ptr<platform::Timer> _stallTimer;
     std::int32_t _size;
     std::unique_ptr<platform::Timer> _scrollTimer;
     int _direction = 0;

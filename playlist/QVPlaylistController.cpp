@@ -100,6 +100,8 @@ QVPlaylistController::QVPlaylistController(const Environment& environment, const
     platform::NotificationCenter& center = environment.notifications;
     _movieComplete = center.observe<QVMovieCompleteNotification>(
         [this](const auto& notification) { movieDidComplete(notification); });
+    _movieFailed =
+        center.observe<QVMovieFailedNotification>([this](const auto& notification) { movieFailed(notification); });
     _preferencesChanged = center.observe<QVPreferencesChangedNotification>(
         [this](const auto& notification) { preferencesChanged(notification); });
 }

@@ -112,7 +112,8 @@ private:
     std::uint32_t positionFor(const Addition& addition, std::size_t place) const;
     void keepFolders(const std::vector<MovieBatch::Entry>& entries);
     void askForDoubtful(Addition& addition);
-    void report();
+    void movieFailed(const QVMovieFailedNotification& notification);
+    void report(std::function<void()> work);
     void finish(Addition& addition);
     void sayWhatIsAwaited();
     void offerToOpenOthers(const QList<OpeningFailure>& failures, bool failed, bool reportsError);
@@ -133,13 +134,14 @@ private:
     bool _auto_quit;
     /// Under way, in the order in which they were asked for.
     std::vector<std::shared_ptr<Addition>> _additions;
-    /// Ended, and to be reported one by one.
-    std::deque<std::shared_ptr<Addition>> _reports;
+    /// What is to be said, one after the other.
+    std::deque<std::function<void()>> _reports;
     bool _is_reporting = false;
     std::uint64_t _additionsMade = 0;
     StandingMessage _loadingMessage;
     /// Ends what was put off to the next pass when the playlist goes away.
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);
     platform::Subscription _movieComplete;
+    platform::Subscription _movieFailed;
     platform::Subscription _preferencesChanged;
 };

@@ -7,6 +7,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/movie/Movie.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playlist/OpenPanel.h"
@@ -84,12 +85,7 @@ void QVPlaylistController::batchEnded(MovieBatch& batch) {
     sayWhatIsAwaited();
     if (addition->hasAdded() && !addition->hasReplaced)
         rearrange();
-    // The batch stays until it has returned.
-    _reports.push_back(addition);
-    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
-        if (!alive.expired())
-            report();
-    });
+    report([this, addition] { finish(*addition); });
 }
 
 void QVPlaylistController::takeIn(Addition& addition, const std::vector<MovieBatch::Entry>& entries) {
@@ -190,16 +186,29 @@ void QVPlaylistController::keepFolders(const std::vector<MovieBatch::Entry>& ent
     }
 }
 
-void QVPlaylistController::report() {
-    // One alert at a time; the event loop runs on meanwhile.
-    if (std::exchange(_is_reporting, true))
+void QVPlaylistController::movieFailed(const QVMovieFailedNotification& notification) {
+    if (!notification.movie || !_reports_error)
         return;
-    while (!_reports.empty()) {
-        const std::shared_ptr<Addition> addition = std::move(_reports.front());
-        _reports.pop_front();
-        finish(*addition);
-    }
-    _is_reporting = false;
+    const QUrl url = notification.movie->url();
+    const std::int16_t error =
+        url.isLocalFile() ? platform::movieError::couldNotOpen : platform::movieError::connectionFailed;
+    report([this, failure = OpeningFailure{url, error}] { _with.desktop.runAlert(OpeningReport::failed({failure})); });
+}
+
+/// Not from inside the batch or the player that has something to say. One alert at a time; the event loop runs on
+/// meanwhile.
+void QVPlaylistController::report(std::function<void()> work) {
+    _reports.push_back(std::move(work));
+    _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
+        if (alive.expired() || std::exchange(_is_reporting, true))
+            return;
+        while (!_reports.empty()) {
+            const std::function<void()> next = std::move(_reports.front());
+            _reports.pop_front();
+            next();
+        }
+        _is_reporting = false;
+    });
 }
 
 void QVPlaylistController::finish(Addition& addition) {

@@ -18,6 +18,15 @@ public:
     MoviePlayer& operator=(const MoviePlayer&) = delete;
     virtual ~MoviePlayer() = default;
 
+    /// What playing waits for. Only movies of a network have to be waited for.
+    struct Wait {
+        enum class What { nothing, beginning, more };
+        What what = What::nothing;
+        /// How much of what is needed to go on has come.
+        int percent = 0;
+        friend bool operator==(const Wait&, const Wait&) = default;
+    };
+
     /// Who shows the frame and the controls.
     class Observer {
     public:
@@ -28,6 +37,10 @@ public:
         virtual void playerFrameDue() = 0;
         /// Time, playing or volume changed as a control bar shows them.
         virtual void playerStateChanged() = 0;
+        /// The movie is waited for, or is not any more.
+        virtual void playerWaitChanged(const Wait&) {}
+        /// The movie that is loaded cannot be played, though it was opened.
+        virtual void playerFailed() {}
     };
     virtual void setObserver(Observer* observer) = 0;
 

@@ -58,11 +58,16 @@ protected:
     bool isTrackingController() const { return _tracking; }
     /// The movie began to play, or stopped, for whatever reason. Does nothing by default.
     virtual void playingChanged(bool playing);
+    /// As the player's observer is told. These do nothing by default.
+    virtual void waitChanged(const MoviePlayer::Wait&) {}
+    virtual void movieFailed() {}
 
 private:
     void playerFrameChanged() override;
     void playerFrameDue() override;
     void playerStateChanged() override;
+    void playerWaitChanged(const MoviePlayer::Wait& wait) override { waitChanged(wait); }
+    void playerFailed() override { movieFailed(); }
     Rect controllerRect() const;
     double controllerHeight() const;
     /// The bar's own size, and a point of the view in its coordinates.

@@ -123,6 +123,14 @@
         <source>There is no movie that Lumaro can play in:</source>
         <translation>Kein Film, den Lumaro abspielen kann, liegt in:</translation>
     </message>
+    <message id="Buffering: %d %%">
+        <source>Buffering: %d %%</source>
+        <translation>Puffert: %d %%</translation>
+    </message>
+    <message id="Stalled: No Data from the Server">
+        <source>Stalled: no data from the server</source>
+        <translation>Stockt: keine Daten vom Server</translation>
+    </message>
     <message id="Loading: %@">
         <source>Loading: %@</source>
         <translation>Lädt: %@</translation>

@@ -123,6 +123,14 @@
         <source>There is no movie that Lumaro can play in:</source>
         <translation>There is no movie that Lumaro can play in:</translation>
     </message>
+    <message id="Buffering: %d %%">
+        <source>Buffering: %d %%</source>
+        <translation>Buffering: %d %%</translation>
+    </message>
+    <message id="Stalled: No Data from the Server">
+        <source>Stalled: no data from the server</source>
+        <translation>Stalled: no data from the server</translation>
+    </message>
     <message id="Loading: %@">
         <source>Loading: %@</source>
         <translation>Loading: %@</translation>

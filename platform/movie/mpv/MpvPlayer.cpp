@@ -32,6 +32,8 @@ constexpr QEvent::Type coreDeliveredEvent = static_cast<QEvent::Type>(QEvent::Us
 constexpr std::uint64_t timeProperty = 1;
 constexpr std::uint64_t endProperty = 2;
 constexpr std::uint64_t durationProperty = 3;
+constexpr std::uint64_t waitProperty = 4;
+constexpr std::uint64_t bufferProperty = 5;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
@@ -81,6 +83,8 @@ void MpvPlayer::adoptCore() {
     mpv.mpv_observe_property(_core->handle(), timeProperty, "time-pos", MPV_FORMAT_DOUBLE);
     mpv.mpv_observe_property(_core->handle(), durationProperty, "duration", MPV_FORMAT_DOUBLE);
     mpv.mpv_observe_property(_core->handle(), endProperty, "eof-reached", MPV_FORMAT_FLAG);
+    mpv.mpv_observe_property(_core->handle(), waitProperty, "paused-for-cache", MPV_FORMAT_FLAG);
+    mpv.mpv_observe_property(_core->handle(), bufferProperty, "cache-buffering-state", MPV_FORMAT_INT64);
     // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
         [this] {
@@ -136,6 +140,8 @@ void MpvPlayer::load(Movie* movie) {
     else
         _firstFrames.cancel();
     showPreparedFrame();
+    if (_movie == movie)
+        setWait({movie && isNetworkURL(movie->url()) ? Wait::What::beginning : Wait::What::nothing});
 }
 
 void MpvPlayer::apply(const PlayerEvent& event) {
@@ -221,6 +227,8 @@ void MpvPlayer::handle(const mpv_event& event) {
         break;
     }
     case MPV_EVENT_PLAYBACK_RESTART:
+        if (_wait.what == Wait::What::beginning)
+            setWait({});
         apply(playerEvent::PlaybackRestarted{});
         break;
     case MPV_EVENT_PROPERTY_CHANGE: {
@@ -235,6 +243,12 @@ void MpvPlayer::handle(const mpv_event& event) {
                                                                                         : CoreEnd::ofMovie});
         else if (event.reply_userdata == durationProperty && hasFileGrown())
             apply(playerEvent::DurationGrew{*static_cast<const double*>(property->data)});
+        else if (event.reply_userdata == waitProperty && *static_cast<const int*>(property->data) != 0)
+            setWait({Wait::What::more, 0});
+        else if (event.reply_userdata == waitProperty && _wait.what == Wait::What::more)
+            setWait({});
+        else if (event.reply_userdata == bufferProperty && _wait.what == Wait::What::more)
+            setWait({Wait::What::more, static_cast<int>(*static_cast<const std::int64_t*>(property->data))});
         break;
     }
     default:
@@ -291,6 +305,12 @@ void MpvPlayer::carryOut(const playerEffect::ArmTimer& effect) {
         });
 }
 
+void MpvPlayer::setWait(const Wait& wait) {
+    if (wait == std::exchange(_wait, wait) || !_observer)
+        return;
+    _observer->playerWaitChanged(wait);
+}
+
 void MpvPlayer::tell(const playerReport::FrameChanged&) {
     if (_observer)
         _observer->playerFrameChanged();
@@ -332,6 +352,9 @@ void MpvPlayer::tell(const playerReport::Failed& report) {
     Log::write(
         QStringLiteral("ERROR: MpvPlayer: Can't play %1: %2")
             .arg(_movie->url().toString(), QString::fromUtf8(MpvLibrary::get()->mpv_error_string(report.error))));
+    setWait({});
+    if (_observer)
+        _observer->playerFailed();
 }
 
 void MpvPlayer::command(std::initializer_list<const char*> words) {

@@ -88,6 +88,8 @@ private:
     void carryOut(const playerEffect::SkipFrame&) { _video.skip(); }
     void carryOut(const playerEffect::DropHeldFrame&) { _video.dropLastFrame(); }
 
+    void setWait(const Wait& wait);
+
     void tell(const playerReport::FrameChanged&);
     void tell(const playerReport::FrameDue&);
     void tell(const playerReport::StateChanged&);
@@ -114,6 +116,7 @@ private:
     PlayerState _state;
     std::uint64_t _loads = 0;
     qint64 _sizeWhenLoaded = 0; // bytes of the movie's file
+    Wait _wait;
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 
     std::atomic<bool> _eventsPosted{false};
