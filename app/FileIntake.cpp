@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/FileIntake.h"
 
-#include "app/OpeningFiles.h"
 #include "control/ModifierFlags.h"
+#include "platform/base/Background.h"
+#include "platform/base/Delivery.h"
+#include "platform/base/Localization.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Events.h"
@@ -10,12 +13,18 @@
 #include "settings/Tracing.h"
 
 #include <QDir>
+#include <QFileInfo>
 
+#include <algorithm>
+#include <atomic>
 #include <utility>
 
 namespace {
 
 constexpr const char* className = "QVAppController";
+
+/// So many are looked at at once; more are work for a thread.
+constexpr qsizetype fewFiles = 20;
 
 Adding addingFor(std::uint32_t modifiers) {
     return modifiers & platform::modifier::option ? Adding::append : Adding::replace;
@@ -23,11 +32,75 @@ Adding addingFor(std::uint32_t modifiers) {
 
 } // namespace
 
-FileIntake::FileIntake(const Environment& environment, platform::Desktop& desktop, QStringList types, Sink sink)
+/// A thread walks the folders; where it hangs it is left behind.
+struct FileIntake::Search {
+    Adding adding;
+    const std::shared_ptr<std::atomic<bool>> cancelled = std::make_shared<std::atomic<bool>>(false);
+    const std::shared_ptr<platform::Delivery<FoundMovies>> answer = std::make_shared<platform::Delivery<FoundMovies>>();
+
+    void giveUp() const {
+        *cancelled = true;
+        answer->abandon();
+    }
+};
+
+FileIntake::FileIntake(const Environment& environment, platform::Desktop& desktop, FeedbackDisplay& feedback,
+                       QStringList types, Sink sink)
     : _environment(environment)
     , _desktop(desktop)
     , _types(std::move(types))
-    , _sink(std::move(sink)) {}
+    , _sink(std::move(sink))
+    , _searchMessage(environment, feedback) {}
+
+FileIntake::~FileIntake() {
+    for (const auto& search : _searches)
+        search->giveUp();
+}
+
+void FileIntake::take(const QStringList& pathsOrUrls, Adding adding) {
+    if (adding == Adding::replace) {
+        // What is looked for would take the place of what is handed over now.
+        for (const auto& search : std::exchange(_searches, {}))
+            search->giveUp();
+        _searchMessage.end();
+    }
+    const auto isFolder = [](const QString& text) { return !isURLString(text) && QFileInfo(text).isDir(); };
+    if (pathsOrUrls.size() > fewFiles || std::ranges::any_of(pathsOrUrls, isFolder))
+        search(pathsOrUrls, adding);
+    else
+        give(findMovies(pathsOrUrls, _types), adding);
+}
+
+void FileIntake::search(const QStringList& pathsOrUrls, Adding adding) {
+    const auto search = std::make_shared<Search>();
+    search->adding = adding;
+    search->answer->receive([this, weak = std::weak_ptr(search)](const FoundMovies& found) {
+        if (const auto ended = weak.lock())
+            searchEnded(ended, found);
+    });
+    _searches.push_back(search);
+    _searchMessage.show(platform::localizedFormat(QStringLiteral("Looking for Movies: %@"),
+                                                  {platform::lastPathComponent(pathsOrUrls.front())}));
+    platform::background::run([answer = search->answer, cancelled = search->cancelled, pathsOrUrls, types = _types] {
+        answer->deliver(findMovies(pathsOrUrls, types, *cancelled));
+    });
+}
+
+void FileIntake::searchEnded(const std::shared_ptr<Search>& search, const FoundMovies& found) {
+    std::erase(_searches, search);
+    if (_searches.empty())
+        _searchMessage.end();
+    // One that was ended at once found nothing to speak of.
+    if (!*search->cancelled || !found.urls.isEmpty())
+        give(found, search->adding);
+}
+
+bool FileIntake::endSearches() {
+    bool ended = false;
+    for (const auto& search : _searches)
+        ended = !search->cancelled->exchange(true) || ended;
+    return ended;
+}
 
 void FileIntake::openFile(const QString& pathOrUrl) {
     if (!_is_adding_files)
@@ -52,14 +125,7 @@ void FileIntake::finishAddingFiles() {
     const QStringList files = std::exchange(_added_files, {});
     if (!collecting || files.isEmpty())
         return;
-    QList<QUrl> urls;
-    for (const QString& file : files) {
-        if (isURLString(file))
-            urls += urlsWithURLStrings({file});
-        else
-            urls += urlsWithPathStrings({file}, _types);
-    }
-    give(urls, _is_should_replace ? Adding::replace : Adding::append);
+    take(files, _is_should_replace ? Adding::replace : Adding::append);
 }
 
 void FileIntake::finishLaunching() {
@@ -73,9 +139,9 @@ void FileIntake::end() {
     _has_ended = true;
 }
 
-void FileIntake::give(const QList<QUrl>& urls, Adding adding) {
+void FileIntake::give(const FoundMovies& movies, Adding adding) {
     if (!_has_ended)
-        _sink(urls, adding);
+        _sink(movies, adding);
 }
 
 void FileIntake::doOpen() {
@@ -87,7 +153,7 @@ void FileIntake::doOpen() {
     if (chosen.isEmpty())
         return;
     const Adding adding = addingFor(QVGetModifierFlags(_desktop));
-    give(urlsWithPathStrings(chosen, _types), adding);
+    take(chosen, adding);
 }
 
 std::uint32_t FileIntake::draggingEntered(const platform::DraggingInfo& info) {
@@ -111,9 +177,9 @@ bool FileIntake::performDragOperation(const platform::DraggingInfo& info) {
     const Adding adding = append ? Adding::append : Adding::replace;
     if (info.offersFileNames) {
         if (!info.fileNames.isEmpty())
-            give(urlsWithPathStrings(info.fileNames, _types), adding);
+            take(info.fileNames, adding);
     } else if (info.offersURL) {
-        give(urlsWithURLStrings(info.urlStrings), adding);
+        give({urlsWithURLStrings(info.urlStrings), {}}, adding);
     }
     return true;
 }

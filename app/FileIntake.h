@@ -1,32 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/OpeningFiles.h"
 #include "context/Environment.h"
 #include "platform/base/RunLoop.h"
 #include "playback/DropTarget.h"
+#include "playback/StandingMessage.h"
 #include "playlist/OpenPanel.h"
 #include "playlist/QVPlaylistController.h"
 
-#include <QList>
 #include <QStringList>
-#include <QUrl>
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace platform {
 class Desktop;
 } // namespace platform
+
+class FeedbackDisplay;
 
 /// Takes what the user hands over, and gives it to the playlist as URLs: files opened with the application, which come
 /// one by one and are collected in a batch, those chosen in the open panel, and those dragged in. Main thread.
 class FileIntake final : public OpenPanel, public DropTarget {
 public:
     /// Takes movies that are to be added and played.
-    using Sink = std::function<void(const QList<QUrl>& urls, Adding adding)>;
+    using Sink = std::function<void(const FoundMovies& movies, Adding adding)>;
 
-    /// `types` are the file types that are taken (supportedFileTypes).
-    FileIntake(const Environment& environment, platform::Desktop& desktop, QStringList types, Sink sink);
+    /// `types` are the file types that are taken (supportedFileTypes). The feedback is not used before the first files
+    /// are taken.
+    FileIntake(const Environment& environment, platform::Desktop& desktop, FeedbackDisplay& feedback, QStringList types,
+               Sink sink);
+    ~FileIntake() override;
 
     /// Adds a path or URL to the batch, and opens one when there is none.
     void openFile(const QString& pathOrUrl);
@@ -39,6 +45,8 @@ public:
     bool isLaunching() const { return _is_launching; }
     /// Takes nothing from here on, also not what a panel that is up is answered: the program ends.
     void end();
+    /// Ends the walks through folders that are under way: what they found is taken. False when there is none.
+    bool endSearches();
 
     void doOpen() override;
 
@@ -47,7 +55,11 @@ public:
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
 private:
-    void give(const QList<QUrl>& urls, Adding adding);
+    struct Search;
+    void take(const QStringList& pathsOrUrls, Adding adding);
+    void search(const QStringList& pathsOrUrls, Adding adding);
+    void searchEnded(const std::shared_ptr<Search>& search, const FoundMovies& found);
+    void give(const FoundMovies& movies, Adding adding);
 
     Environment _environment;
     platform::Desktop& _desktop;
@@ -59,4 +71,6 @@ private:
     bool _has_ended = false;
     QStringList _added_files;
     std::unique_ptr<platform::Timer> _batchTimer;
+    std::vector<std::shared_ptr<Search>> _searches;
+    StandingMessage _searchMessage;
 };

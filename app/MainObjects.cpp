@@ -28,11 +28,13 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                    if (_window.host())
                        _window.host()->setPointerHidden(hidden);
                })
-    , _files(environment, platform.desktop, supportedFileTypes(platform.bundle),
-             [this](const QList<QUrl>& urls, Adding adding) { _playlist.addURLs(urls, adding, Starting::yes); })
+    , _files(environment, platform.desktop, _feedback, supportedFileTypes(platform.bundle),
+             [this](const FoundMovies& movies, Adding adding) {
+                 _playlist.addURLs(movies.urls, adding, Starting::yes, nullptr, movies.failures);
+             })
     , _window(environment,
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },
-               [this](int direction) { _view.stopAutoscroll(direction); }})
+               [this](int direction) { _view.stopAutoscroll(direction); }, [this] { return _files.endSearches(); }})
     , _feedback(environment, _window)
     , _subtitleReaders(subtitleReaders(environment))
     , _subtitleDiscovery(environment.loop)

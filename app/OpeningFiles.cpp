@@ -3,6 +3,8 @@
 
 #include "platform/base/Bundle.h"
 #include "platform/base/StringComparison.h"
+#include "platform/movie/Movie.h"
+#include "playlist/OpeningReport.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,7 +28,8 @@ bool isFilePackage(const QString& folder) {
 
 /// Walks a folder in the order in which a person reads its list: names without regard to case, numbers by value;
 /// of names that differ in case alone the one in capitals first.
-void addFolder(const QString& folder, const QStringList& types, QSet<QString>& seen, QList<QUrl>& urls) {
+void addFolder(const QString& folder, const QStringList& types, const std::atomic<bool>& cancelled, QSet<QString>& seen,
+               QList<QUrl>& urls) {
     // A link back up must not make the walk go round.
     const QString place = QFileInfo(folder).canonicalFilePath();
     if (place.isEmpty() || seen.contains(place))
@@ -37,11 +40,13 @@ void addFolder(const QString& folder, const QStringList& types, QSet<QString>& s
         return platform::compareCaseInsensitively(left, right, true) < 0;
     });
     for (const QString& name : std::as_const(names)) {
+        if (cancelled)
+            return;
         const QString path = folder + QLatin1Char('/') + name;
         const QFileInfo info(path);
         if (info.isDir()) {
             if (!isFilePackage(path))
-                addFolder(path, types, seen, urls);
+                addFolder(path, types, cancelled, seen, urls);
         } else if (info.exists() && isFileOfType(path, types)) {
             urls.append(QUrl::fromLocalFile(info.absoluteFilePath()));
         }
@@ -67,25 +72,55 @@ bool isFileOfType(const QString& path, const QStringList& types) {
     return types.isEmpty() || types.contains(QFileInfo(path).suffix().toLower());
 }
 
-QList<QUrl> urlsWithPathStrings(const QStringList& paths, const QStringList& types) {
+QList<QUrl> urlsWithPathStrings(const QStringList& paths, const QStringList& types,
+                                const std::atomic<bool>& cancelled) {
     QList<QUrl> urls;
     for (const QString& path : paths) {
+        if (cancelled)
+            break;
         const QFileInfo info(path);
         QSet<QString> seen;
         if (info.isDir())
-            addFolder(info.absoluteFilePath(), types, seen, urls);
+            addFolder(info.absoluteFilePath(), types, cancelled, seen, urls);
         else if (info.exists() && isFileOfType(path, types))
             urls.append(QUrl::fromLocalFile(info.absoluteFilePath()));
     }
     return urls;
 }
 
+FoundMovies findMovies(const QStringList& pathsOrUrls, const QStringList& types, const std::atomic<bool>& cancelled) {
+    FoundMovies found;
+    QList<OpeningFailure> otherFiles;
+    for (const QString& text : pathsOrUrls) {
+        const QList<QUrl> urls =
+            isURLString(text) ? urlsWithURLStrings({text}) : urlsWithPathStrings({text}, types, cancelled);
+        found.urls += urls;
+        if (cancelled)
+            return found;
+        if (!urls.isEmpty() || isURLString(text))
+            continue;
+        const QFileInfo info(text);
+        const QUrl url = QUrl::fromLocalFile(info.absoluteFilePath());
+        if (info.isDir())
+            found.failures.append({url, OpeningReport::noMoviesInFolder});
+        else
+            otherFiles.append(
+                {url, info.exists() ? platform::movieError::invalidMovie : platform::movieError::fileNotFound});
+    }
+    // Beside a movie its subtitles, its cover and the like are handed over, too.
+    if (found.urls.isEmpty())
+        found.failures += otherFiles;
+    return found;
+}
+
 QList<QUrl> urlsWithURLStrings(const QStringList& strings) {
     QList<QUrl> urls;
     for (const QString& string : strings) {
         const QUrl url(string.trimmed(), QUrl::TolerantMode);
-        if (!string.trimmed().isEmpty() && url.isValid())
-            urls.append(url);
+        if (string.trimmed().isEmpty() || !url.isValid())
+            continue;
+        // However a file's address is written, it is the one that its path makes.
+        urls.append(url.isLocalFile() ? QUrl::fromLocalFile(url.toLocalFile()) : url);
     }
     return urls;
 }

@@ -127,6 +127,8 @@ void QVFullScreenWindow::mouseUp(const platform::MouseEvent& event) {
 
 bool QVFullScreenWindow::keyDown(const platform::KeyEvent& event) {
     if (event.charactersIgnoringModifiers == QChar(platform::functionKey::escape)) {
+        if (_with.endSearches())
+            return true; // the next press quits
         trace("%@: ESC pressed. Terminating app.", className);
         _with.commands.performAction(action::quit, Feedback::yes);
         return true;

@@ -27,6 +27,8 @@ public:
         /// The pointer came into an area at the window's edge, and left it.
         std::function<void(int direction)> startAutoscroll;
         std::function<void(int direction)> stopAutoscroll;
+        /// Ends a walk through folders; false when there is none.
+        std::function<bool()> endSearches;
     };
     /// On the screen that the settings name, else the main one; not shown yet.
     QVFullScreenWindow(const Environment& environment, Collaborators collaborators);

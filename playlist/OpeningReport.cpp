@@ -56,7 +56,7 @@ QString listOf(const QStringList& lines) {
 }
 
 QString lineOf(const OpeningFailure& failure) {
-    return localized("UnableToOpenLine", {fileNameOfURL(failure.url), place(failure.url), reason(failure.error)});
+    return localized("UnableToOpenLine", {fileNameOfURL(failure.url), reason(failure.error), place(failure.url)});
 }
 
 } // namespace

@@ -29,10 +29,8 @@ namespace {
 /// A file named on the command line is taken at its word: what is missing or of an unknown type is tried, and reported
 /// by the playlist. Only folders are searched for movies by their types.
 QString asHandedOver(const QString& file) {
-    if (isURLString(file) || QFileInfo(file).isDir())
-        return file;
-    const bool isMovie = QFileInfo::exists(file) && isFileOfType(file, supportedFileTypes(platform::Bundle::main()));
-    return isMovie ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
+    const bool isSearched = isURLString(file) || QFileInfo(file).isDir();
+    return isSearched ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
 }
 
 platform::HandOver handOverOf(const CommandLine& line) {

@@ -108,8 +108,8 @@
         <translation>… and %@ more.</translation>
     </message>
     <message id="UnableToOpenLine">
-        <source>“%@” (%@): %@</source>
-        <translation>“%@” (%@): %@</translation>
+        <source>“%@”: %@ (%@)</source>
+        <translation>“%@”: %@ (%@)</translation>
     </message>
     <message id="UnableToOpenFilesMessage">
         <source>%@ files can’t be opened.</source>
