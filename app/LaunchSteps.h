@@ -16,4 +16,6 @@ public:
     virtual void saveState() {}
     /// Shows the help panel until it is closed.
     virtual void runHelpPanel() {}
+    /// Shows the panel of the whole playlist until it is closed.
+    virtual void runPlaylistPanel() {}
 };

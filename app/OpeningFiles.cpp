@@ -12,6 +12,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -35,11 +37,12 @@ void addFolder(const QString& folder, const QStringList& types, const std::atomi
     if (place.isEmpty() || seen.contains(place))
         return;
     seen.insert(place);
-    QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
-    std::stable_sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
-        return platform::compareCaseInsensitively(left, right, true) < 0;
-    });
-    for (const QString& name : std::as_const(names)) {
+    const auto filter = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System;
+    std::vector<std::pair<QString, QString>> names;
+    for (const QString& name : QDir(folder).entryList(filter, QDir::NoSort))
+        names.emplace_back(platform::keyForComparison(name, true), name);
+    std::ranges::sort(names);
+    for (const auto& [key, name] : names) {
         if (cancelled)
             return;
         const QString path = folder + QLatin1Char('/') + name;

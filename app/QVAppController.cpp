@@ -236,6 +236,10 @@ void QVAppController::showHelp() {
     _with.steps.runHelpPanel();
 }
 
+void QVAppController::showPlaylist() {
+    _with.steps.runPlaylistPanel();
+}
+
 void QVAppController::cycleDisplays(std::int32_t direction) {
     _with.display.cycleDisplays(direction);
 }

@@ -88,6 +88,7 @@ public:
     void scheduleCursorHide();
     void doOpen() override;
     void showHelp() override;
+    void showPlaylist() override;
     void cycleDisplays(std::int32_t direction) override;
 
 private:

@@ -36,7 +36,7 @@ struct QVMovieVolumeChangedNotification {
     QVMovieView* view;
 };
 
-/// An add kept at least one movie.
+/// An add kept at least one movie, or entries were moved or removed by hand.
 struct QVPlaylistChangedNotification {
     std::vector<std::shared_ptr<QVMovie>> movies;
 };

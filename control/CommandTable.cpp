@@ -331,8 +331,14 @@ struct CommandTable {
 
         // The argument is a position in the list; the items are made from it.
         {.name = "movie",
-         .operation = {"changeMovie", &Self::changeMovie, &Self::validateMovie},
+         .operation = {changeMovieOperation, &Self::changeMovie, &Self::validateMovie},
          .section = Section::playlist},
+        // Its item follows those of the movies.
+        {.name = "show-playlist",
+         .operation = {showPlaylistOperation, &Self::showPlaylist},
+         .keys = {{{u'p', none, consumed}}},
+         .section = Section::playlist,
+         .help = "The whole list: search, move and remove movies"},
 
         // A position outside every list: no subtitles. The items of the tracks follow it.
         {.name = "no-subtitles",

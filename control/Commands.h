@@ -107,6 +107,10 @@ struct Command {
 /// Every command, in the order of menus and help. A command is added as a row here and a function that the row names.
 std::span<const Command> commands();
 
+/// Of the playlist menu's items, which are made as it opens.
+inline constexpr const char* changeMovieOperation = "changeMovie";
+inline constexpr const char* showPlaylistOperation = "showPlaylist";
+
 /// Null for codes, gestures and names that no command has.
 const Command* commandWithAction(std::int32_t action);
 const Command* commandWithGesture(MouseGesture gesture);

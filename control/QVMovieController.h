@@ -101,6 +101,7 @@ private:
     void switchScreen(std::int32_t direction, Feedback feedback);
     void doOpen(std::int32_t, Feedback feedback);
     void showHelp(std::int32_t, Feedback feedback);
+    void showPlaylist(std::int32_t, Feedback feedback);
     void quit(std::int32_t, Feedback feedback);
     void sleep(std::int32_t, Feedback feedback);
 

@@ -214,6 +214,10 @@ void QVMovieController::showHelp(std::int32_t, Feedback) {
     _with.application.showHelp();
 }
 
+void QVMovieController::showPlaylist(std::int32_t, Feedback) {
+    _with.application.showPlaylist();
+}
+
 void QVMovieController::quit(std::int32_t, Feedback feedback) {
     performLater(feedback == Feedback::yes ? _with.feedback.readingTime() : 0.0, [this] { _with.desktop.terminate(); });
 }

@@ -3,6 +3,7 @@
 #include "control/QVMovieController.h"
 
 #include "context/Notifications.h"
+#include "control/Commands.h"
 #include "platform/base/Localization.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
@@ -10,12 +11,29 @@
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
 
+#include <algorithm>
+
 using platform::localizedString;
 using platform::MenuItem;
 
 namespace {
 
-constexpr const char* changeMovieAction = "changeMovie";
+/// So many movies before the current one, and after it, stand in the playlist menu.
+constexpr std::uint32_t menuReach = 10;
+/// A menu that is wider hides the movie. Characters.
+constexpr qsizetype longestTitle = 60;
+
+/// Names differ in their beginnings and ends.
+QString shortenedInTheMiddle(const QString& name) {
+    if (name.size() <= longestTitle)
+        return name;
+    qsizetype head = longestTitle / 2;
+    qsizetype tail = longestTitle - head - 1;
+    // Not through the middle of a character.
+    head -= name[head - 1].isHighSurrogate() ? 1 : 0;
+    tail -= name[name.size() - tail].isLowSurrogate() ? 1 : 0;
+    return name.left(head) + QChar(0x2026) + name.right(tail);
+}
 
 /// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator while tracks follow.
 constexpr int fixedSubtitlesItems = 2;
@@ -38,7 +56,7 @@ void QVMovieController::performMenuItem(const MenuItem& item) {
         return;
     // The list may have been arranged anew while the menu was open.
     const std::int32_t argument =
-        item.action == QLatin1String(changeMovieAction) ? positionOfMenuMovie(item.tag) : std::int32_t{item.tag};
+        item.action == QLatin1String(changeMovieOperation) ? positionOfMenuMovie(item.tag) : std::int32_t{item.tag};
     perform(*command, argument, command->operation.fromMenu);
 }
 
@@ -111,11 +129,23 @@ void QVMovieController::currentMovieChanged(const QVPlaylistMovieChangedNotifica
 void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {
     menu.removeAllItems();
     _menuMovies.clear();
-    for (std::uint32_t position = 0; position < _with.playlist.count(); ++position) {
+    const std::uint32_t count = _with.playlist.count();
+    const std::uint32_t current = std::min(_with.playlist.index(), count);
+    // As many as fit, where the current movie is near an end, too.
+    const std::uint32_t shown = std::min(count, 2 * menuReach + 1);
+    const std::uint32_t first = std::min(current - std::min(current, menuReach), count - shown);
+    for (std::uint32_t position = first; position < first + shown; ++position) {
         const std::shared_ptr<QVMovie> movie = _with.playlist.movieAtIndex(position);
-        menu.addItem(fileNameOfURL(movie->url()), QString::fromUtf8(changeMovieAction), static_cast<int>(position));
+        menu.addItem(shortenedInTheMiddle(fileNameOfURL(movie->url())), QString::fromLatin1(changeMovieOperation),
+                     static_cast<int>(position));
         _menuMovies[static_cast<std::int32_t>(position)] = movie;
     }
+    if (count == 0)
+        return;
+    menu.addSeparator();
+    platform::MenuItem& more =
+        menu.addItem(localizedString(QStringLiteral("More...")), QString::fromLatin1(showPlaylistOperation), 0);
+    more.keyHint = QStringLiteral("P");
 }
 
 std::int32_t QVMovieController::positionOfMenuMovie(std::int32_t tag) const {

@@ -11,11 +11,12 @@ MovieOrdering MovieOrdering::fromSettings(const platform::UserDefaults& settings
 }
 
 QString MovieOrdering::key(const QUrl& url) const {
-    return onlyFileNames ? fileNameOfURL(url) : url.path(QUrl::FullyDecoded);
+    return platform::keyForComparison(onlyFileNames ? fileNameOfURL(url) : url.path(QUrl::FullyDecoded), numerically);
 }
 
 int MovieOrdering::compare(const QString& leftKey, const QString& rightKey) const {
-    return platform::compareCaseInsensitively(leftKey, rightKey, numerically);
+    const int order = leftKey.compare(rightKey);
+    return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
 QString fileNameOfURL(const QUrl& url) {

@@ -11,11 +11,16 @@
 namespace {
 
 constexpr double keptSeconds = 1;
+/// A folder that did not change for so long says so by the time of its last change.
+constexpr qint64 settledSeconds = 3;
 
 } // namespace
 
 SubtitleDiscovery::Listing SubtitleDiscovery::readFolder(const QString& folder, const QStringList& extensions) const {
-    Listing listing{folder, extensions, _clock.now(), QFileInfo(folder).lastModified(), {}};
+    const QDateTime changed = QFileInfo(folder).lastModified();
+    // What changes a moment later may leave the same time behind.
+    const bool isSettled = changed.secsTo(_clock.date()) >= settledSeconds;
+    Listing listing{folder, extensions, _clock.now(), changed, isSettled, {}};
     // Plain files only: opening a pipe would wait for its other end.
     const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
     for (const QString& name : names) {
@@ -29,7 +34,8 @@ SubtitleDiscovery::Listing SubtitleDiscovery::readFolder(const QString& folder, 
 const SubtitleDiscovery::Listing& SubtitleDiscovery::listingOfFolder(const QString& folder,
                                                                      const QStringList& extensions) {
     const double age = _clock.now() - _kept.readAt;
-    if (_kept.folder != folder || _kept.extensions != extensions || !(age >= 0 && age < keptSeconds) ||
+    const bool isFresh = age >= 0 && (age < keptSeconds || _kept.isSettled);
+    if (_kept.folder != folder || _kept.extensions != extensions || !isFresh ||
         _kept.changed != QFileInfo(folder).lastModified())
         _kept = readFolder(folder, extensions);
     return _kept;

@@ -32,6 +32,7 @@ private:
         QStringList extensions;
         double readAt = 0;
         QDateTime changed; // when it was read
+        bool isSettled = false;
         /// Name in one case, and name as it is; ordered, so that those that begin alike stand together.
         std::vector<std::pair<QString, QString>> names;
     };

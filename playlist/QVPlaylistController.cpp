@@ -141,6 +141,47 @@ QString QVPlaylistController::loopingInfoAsString() const {
     return platform::localizedFormat(QStringLiteral("Loop: %@"), {mode});
 }
 
+std::vector<bool> QVPlaylistController::marked(const std::vector<std::uint32_t>& positions) const {
+    std::vector<bool> marks(_playlist.size(), false);
+    for (const std::uint32_t position : positions) {
+        if (position < count())
+            marks[position] = true;
+    }
+    return marks;
+}
+
+void QVPlaylistController::entriesChanged(std::vector<std::shared_ptr<QVMovie>> entries) {
+    const std::shared_ptr<QVMovie> current = movie();
+    _playlist = std::move(entries);
+    if (current)
+        _index = indexOfMovie(*current);
+    _environment.notifications.post(QVPlaylistChangedNotification{_playlist});
+}
+
+void QVPlaylistController::moveEntries(const std::vector<std::uint32_t>& positions, std::uint32_t before) {
+    const std::vector<bool> moves = marked(positions);
+    std::vector<std::shared_ptr<QVMovie>> entries, moved, after;
+    for (std::uint32_t position = 0; position < count(); ++position)
+        (moves[position] ? moved : position < before ? entries : after).push_back(_playlist[position]);
+    entries.insert(entries.end(), moved.begin(), moved.end());
+    entries.insert(entries.end(), after.begin(), after.end());
+    if (entries != _playlist)
+        entriesChanged(std::move(entries));
+}
+
+bool QVPlaylistController::removeEntries(const std::vector<std::uint32_t>& positions) {
+    const std::vector<bool> goes = marked(positions);
+    std::vector<std::shared_ptr<QVMovie>> kept;
+    for (std::uint32_t position = 0; position < count(); ++position) {
+        if (!goes[position] || position == _index)
+            kept.push_back(_playlist[position]);
+    }
+    const bool isAnyGone = kept.size() < _playlist.size();
+    if (isAnyGone)
+        entriesChanged(std::move(kept));
+    return isAnyGone;
+}
+
 void QVPlaylistController::rearrange() {
     const std::shared_ptr<QVMovie> current = movie();
     if (arrangeBy(_environment.settings, _playlist) && current)

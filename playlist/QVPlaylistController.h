@@ -80,6 +80,12 @@ public:
     QString currentInfoAsString() const;
     QString loopingInfoAsString() const;
 
+    /// Moves the entries at these positions, in the order of the list, to where the entry at `before` stands, or to the
+    /// end where there is none. The current entry stays the current one. The order holds until the list is arranged
+    /// next.
+    void moveEntries(const std::vector<std::uint32_t>& positions, std::uint32_t before);
+    /// Removes the entries at these positions, but not the current one. Whether any went.
+    bool removeEntries(const std::vector<std::uint32_t>& positions);
     void rearrange();
     void reset();
     /// Positions outside the list are ignored, here and in play().
@@ -112,6 +118,8 @@ private:
     std::uint32_t positionFor(const Addition& addition, std::size_t place) const;
     void keepFolders(const std::vector<MovieBatch::Entry>& entries);
     void askForDoubtful(Addition& addition);
+    std::vector<bool> marked(const std::vector<std::uint32_t>& positions) const;
+    void entriesChanged(std::vector<std::shared_ptr<QVMovie>> entries);
     void movieFailed(const QVMovieFailedNotification& notification);
     void report(std::function<void()> work);
     void finish(Addition& addition);

@@ -8,6 +8,7 @@
 #include "app/main/RunEnvironment.h"
 #include "app/main/Terminal.h"
 #include "app/panels/HelpPanel.h"
+#include "app/panels/PlaylistPanel.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/desktop/linux/Backlight.h"
@@ -77,7 +78,13 @@ platform::Renderer chosenRenderer(const CommandLine& line) {
 class Steps final : public LaunchSteps {
 public:
     QWindow* window = nullptr;
+    QVPlaylistController* playlist = nullptr;
+    const Environment* environment = nullptr;
     void runHelpPanel() override { ::runHelpPanel(window); }
+    void runPlaylistPanel() override {
+        if (playlist && environment)
+            ::runPlaylistPanel(*environment, *playlist, window);
+    }
 };
 
 /// Both outlive the services.
@@ -133,6 +140,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
         host.setMainMenu(player.menu().bar(), player.controller());
         desktop.setMainWindow(&host);
         steps.window = &host;
+        steps.playlist = &player.playlist();
+        steps.environment = &run.environment();
 
         const auto take = [&](const platform::HandOver& message) {
             desktop.setAssumedModifiers(message.append ? platform::modifier::option : 0);

@@ -10,4 +10,7 @@ namespace platform {
 /// Answers -1, 0 or 1.
 int compareCaseInsensitively(const QString& left, const QString& right, bool numerically);
 
+/// For sorting many: a text whose order by code units among those of others is that of the texts.
+QString keyForComparison(const QString& text, bool numerically);
+
 } // namespace platform

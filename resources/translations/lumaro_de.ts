@@ -623,6 +623,42 @@
         <source>Previous Screen</source>
         <translation>Voriger Bildschirm</translation>
     </message>
+    <message id="More...">
+        <source>More…</source>
+        <translation>Mehr…</translation>
+    </message>
+    <message id="The whole list: search, move and remove movies">
+        <source>The whole list: search, move and remove movies</source>
+        <translation>Die ganze Liste: Filme suchen, verschieben und entfernen</translation>
+    </message>
+    <message id="Playlist Panel">
+        <source>Playlist</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message id="Filter">
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message id="Play Movie">
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message id="Move Up">
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message id="Move Down">
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message id="Remove from List">
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message id="PlaylistCountMessage">
+        <source>%@ of %@ movies</source>
+        <translation>%@ von %@ Filmen</translation>
+    </message>
     <message id="Lumaro Help">
         <source>Lumaro Help</source>
         <translation>Lumaro-Hilfe</translation>

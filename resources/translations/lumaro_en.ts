@@ -623,6 +623,42 @@
         <source>Previous Screen</source>
         <translation>Previous Screen</translation>
     </message>
+    <message id="More...">
+        <source>More…</source>
+        <translation>More…</translation>
+    </message>
+    <message id="The whole list: search, move and remove movies">
+        <source>The whole list: search, move and remove movies</source>
+        <translation>The whole list: search, move and remove movies</translation>
+    </message>
+    <message id="Playlist Panel">
+        <source>Playlist</source>
+        <translation>Playlist</translation>
+    </message>
+    <message id="Filter">
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message id="Play Movie">
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message id="Move Up">
+        <source>Move Up</source>
+        <translation>Move Up</translation>
+    </message>
+    <message id="Move Down">
+        <source>Move Down</source>
+        <translation>Move Down</translation>
+    </message>
+    <message id="Remove from List">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="PlaylistCountMessage">
+        <source>%@ of %@ movies</source>
+        <translation>%@ of %@ movies</translation>
+    </message>
     <message id="Lumaro Help">
         <source>Lumaro Help</source>
         <translation>Lumaro Help</translation>

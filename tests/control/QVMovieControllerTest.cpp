@@ -38,6 +38,7 @@ protected:
         QStringList calls;
         void doOpen() override { calls << "open"; }
         void showHelp() override { calls << "help"; }
+        void showPlaylist() override { calls << "playlist"; }
         void cycleDisplays(std::int32_t direction) override { calls << QString("display %1").arg(direction); }
         void windowDidBecomeKey(platform::Window&) override { calls << "became key"; }
         void windowDidResignKey(platform::Window&) override { calls << "resigned key"; }
@@ -542,7 +543,7 @@ TEST_F(MovieController, The_playlist_menu_lists_the_file_names_as_it_opens) {
     add({QUrl::fromLocalFile("/a/50% & #1 \u00e4.mp4"), QUrl("http://host/dir/b%20c.mkv?x=/y"),
          QUrl("http://host/live/")});
     playlistMenu.willOpen();
-    EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|b c.mkv|live");
+    EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|b c.mkv|live|-|" + text("More..."));
     EXPECT_EQ(playlistMenu.itemAt(2).tag, 2);
     EXPECT_EQ(playlistMenu.itemAt(2).action, "changeMovie");
     // Arranged while the menu is open: what was chosen is the movie that the item named.
@@ -554,7 +555,33 @@ TEST_F(MovieController, The_playlist_menu_lists_the_file_names_as_it_opens) {
     perform("changeMovie", 1);
     EXPECT_EQ(playlist.currentInfoAsString(), "b c.mkv (3/4)");
     playlistMenu.willOpen();
-    EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|a.mp4|b c.mkv|live");
+    EXPECT_EQ(titles(playlistMenu), "50% & #1 \u00e4.mp4|a.mp4|b c.mkv|live|-|" + text("More..."));
+}
+
+TEST_F(MovieController, The_playlist_menu_shows_the_neighbourhood_of_the_current_movie) {
+    addMovies(1000);
+    const struct {
+        std::uint32_t current;
+        int first, last;
+    } cases[] = {{500, 490, 510}, {3, 0, 20}, {999, 979, 999}};
+    for (const auto& c : cases) {
+        playlist.setIndex(c.current);
+        playlistMenu.willOpen();
+        ASSERT_EQ(playlistMenu.count(), 23);
+        EXPECT_EQ(playlistMenu.itemAt(0).tag, c.first);
+        EXPECT_EQ(playlistMenu.itemAt(20).tag, c.last);
+        EXPECT_EQ(playlistMenu.itemAt(20).title, QString("movie %1.mp4").arg(c.last + 1));
+    }
+    controller.performMenuItem(playlistMenu.itemAt(22));
+    EXPECT_EQ(services.calls, QStringList{"playlist"});
+
+    add({QUrl::fromLocalFile("/a/" + QString(50, 'a') + "\U0001F3AC" + QString(100, 'b') + "part 2.mp4")});
+    playlist.setIndex(1000);
+    playlistMenu.willOpen();
+    const QString title = playlistMenu.itemAt(20).title;
+    EXPECT_LE(title.size(), 60);
+    EXPECT_TRUE(title.startsWith("aaa") && title.contains(QChar(0x2026)) && title.endsWith("part 2.mp4"))
+        << title.toStdString();
 }
 
 TEST_F(MovieController, The_subtitles_menu_lists_the_tracks_below_its_fixed_items) {
