@@ -3,10 +3,12 @@
 
 #include "platform/base/RunLoop.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -21,10 +23,17 @@ SubtitleDiscovery::Listing SubtitleDiscovery::readFolder(const QString& folder, 
     // What changes a moment later may leave the same time behind.
     const bool isSettled = changed.secsTo(_clock.date()) >= settledSeconds;
     Listing listing{folder, extensions, _clock.now(), changed, isSettled, {}};
-    // Plain files only: opening a pipe would wait for its other end.
-    const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
-    for (const QString& name : names) {
-        if (extensions.contains(QFileInfo(name).suffix().toLower()))
+    // By their names first: looking at each of thousands of movies would hold the player up.
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), error), end;
+         !error && entry != end; entry.increment(error)) {
+        const QString name = QFile::decodeName(entry->path().filename().c_str());
+        const qsizetype dot = name.lastIndexOf(u'.');
+        if (dot < 0 || !extensions.contains(name.sliced(dot + 1).toLower()))
+            continue;
+        // Plain files only: opening a pipe would wait for its other end.
+        std::error_code unknown;
+        if (entry->is_regular_file(unknown))
             listing.names.emplace_back(name.toCaseFolded(), name);
     }
     std::ranges::sort(listing.names);

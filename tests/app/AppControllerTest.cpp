@@ -207,8 +207,9 @@ TEST(AppController, what_holds_no_movie_is_said) {
         info.fileNames = paths;
         info.sourceOperationMask = platform::dragOperation::generic;
         static_cast<platform::View&>(rig.view).performDragOperation(info);
-        if (QFileInfo(paths.front()).isDir())
+        if (QFileInfo(paths.front()).isDir()) {
             EXPECT_TRUE(rig.settings.runLoop.runPosted());
+        }
         rig.settings.runLoop.advance(0.02);
         QStringList said;
         for (const auto& alert : rig.desktop.alerts)
