@@ -10,35 +10,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <map>
-
-namespace {
-
-/// The environment as the cases say, and as it was again.
-class ScopedEnvironment {
-public:
-    explicit ScopedEnvironment(const std::map<const char*, QByteArray>& values) {
-        for (const auto& [name, value] : values) {
-            if (qEnvironmentVariableIsSet(name))
-                _before[name] = qgetenv(name);
-            else
-                _unset.append(name);
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        }
-    }
-    ~ScopedEnvironment() {
-        for (const auto& [name, value] : _before)
-            qputenv(name, value);
-        for (const char* name : _unset)
-            qunsetenv(name);
-    }
-
-private:
-    std::map<const char*, QByteArray> _before;
-    QList<const char*> _unset;
-};
-
-} // namespace
+#include <utility>
 
 TEST(DisplayServer, is_looked_for_where_qt_would_and_what_is_missing_is_named) {
     const QTemporaryDir folder, plugins;
@@ -53,6 +25,7 @@ TEST(DisplayServer, is_looked_for_where_qt_would_and_what_is_missing_is_named) {
     ASSERT_EQ(::listen(compositor, 8), 0);
     const QByteArray absolute = folder.filePath("there").toLocal8Bit();
     writeFile(plugins.filePath("libqwayland-test.so"));
+    qputenv("QT_QPA_PLATFORM_PLUGIN_PATH", plugins.path().toLocal8Bit());
 
     struct Case {
         QByteArray platform, x11, wayland, session;
@@ -67,13 +40,12 @@ TEST(DisplayServer, is_looked_for_where_qt_would_and_what_is_missing_is_named) {
           Case{"xcb", unset, "there", unset, {"DISPLAY is not set"}},
           Case{"wayland;xcb:option", gone, "gone", unset, {"':4711'", "'gone'"}},
           Case{"offscreen:option", gone, unset, unset, {}}, Case{"xcb;minimal", gone, unset, unset, {}}}) {
-        const ScopedEnvironment environment({{"QT_QPA_PLATFORM", c.platform},
-                                             {"DISPLAY", c.x11},
-                                             {"WAYLAND_DISPLAY", c.wayland},
-                                             {"WAYLAND_SOCKET", unset},
-                                             {"XDG_SESSION_TYPE", c.session},
-                                             {"XDG_RUNTIME_DIR", folder.path().toLocal8Bit()},
-                                             {"QT_QPA_PLATFORM_PLUGIN_PATH", plugins.path().toLocal8Bit()}});
+        const std::pair<const char*, QByteArray> environment[] = {
+            {"QT_QPA_PLATFORM", c.platform}, {"DISPLAY", c.x11},
+            {"WAYLAND_DISPLAY", c.wayland},  {"WAYLAND_SOCKET", unset},
+            {"XDG_SESSION_TYPE", c.session}, {"XDG_RUNTIME_DIR", folder.path().toLocal8Bit()}};
+        for (const auto& [name, value] : environment)
+            value.isNull() ? qunsetenv(name) : qputenv(name, value);
         const QString reason = platform::DisplayServer().reasonForNone();
         const std::string given = (c.platform + ' ' + c.x11 + ' ' + c.wayland).toStdString();
         EXPECT_EQ(reason.isEmpty(), c.reasons.isEmpty()) << given << ": " << reason.toStdString();
