@@ -23,6 +23,7 @@ TEST(FileIntake, folders_are_walked_beside_the_player_and_escape_ends_that) {
     };
     rig.file("films/b.mp4");
     rig.file("films/a.mp4");
+    rig.settings.runLoop.holdPosted();
     rig.app.openFile(rig.folder.filePath("films"));
     rig.settings.runLoop.runPending();
     EXPECT_EQ(rig.listed(), "") << "not by the main thread";
@@ -30,6 +31,7 @@ TEST(FileIntake, folders_are_walked_beside_the_player_and_escape_ends_that) {
     EXPECT_EQ(rig.listed().toStdString(), "a.mp4 b.mp4");
 
     // Escape while it is walked: what was found is taken, and the player goes on.
+    rig.settings.runLoop.holdPosted();
     rig.app.openFile(rig.folder.filePath("films"));
     rig.settings.runLoop.runPending();
     EXPECT_EQ(escape(), 0);

@@ -78,6 +78,8 @@ void ManualRunLoop::post(std::function<void()> work) {
 }
 
 void ManualRunLoop::takePosted() {
+    if (_holdsPosted)
+        return;
     std::vector<std::function<void()>> posted;
     {
         const std::scoped_lock lock(_postedMutex);
@@ -94,6 +96,7 @@ bool ManualRunLoop::runPosted(double timeout) {
                                        [this] { return !_posted.empty(); }))
             return false;
     }
+    _holdsPosted = false;
     runPending();
     return true;
 }

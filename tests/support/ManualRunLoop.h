@@ -30,6 +30,8 @@ public:
     /// Waits in real time until another thread has posted something, and runs what is due then; false when nothing came
     /// for that many seconds. Time itself stands still meanwhile.
     bool runPosted(double timeout = 30);
+    /// What is posted waits for runPosted() from here on, however quick the other thread is.
+    void holdPosted() { _holdsPosted = true; }
     /// How many timers, performs and posted works still wait.
     std::size_t pendingCount();
 
@@ -40,6 +42,7 @@ private:
 
     void takePosted();
 
+    bool _holdsPosted = false;
     std::mutex _postedMutex;
     std::condition_variable _postedSomething;
     std::vector<std::function<void()>> _posted;
