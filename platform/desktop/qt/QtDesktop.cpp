@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -31,6 +32,13 @@ int sSignalPipe[2] = {-1, -1};
 void signalArrived(int) {
     const char byte = 1;
     [[maybe_unused]] const ssize_t written = ::write(sSignalPipe[1], &byte, 1);
+}
+
+/// By itself a box is as wide as its title, and breaks what is said into short lines.
+void widen(QMessageBox& box) {
+    constexpr int width = 420;
+    if (auto* layout = qobject_cast<QGridLayout*>(box.layout()))
+        layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
 }
 
 void standAbove(QWidget& panel, QWindow* window) {
@@ -130,6 +138,7 @@ int QtDesktop::runAlert(const Alert& alert) {
         alert.otherButton.isEmpty() ? nullptr : box.addButton(alert.otherButton, QMessageBox::RejectRole);
     box.setDefaultButton(usual);
     box.setEscapeButton(other ? other : alternate ? alternate : usual);
+    widen(box);
     standAbove(box, _mainWindow);
     box.exec();
     if (other && box.clickedButton() == other)
