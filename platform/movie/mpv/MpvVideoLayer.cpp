@@ -129,6 +129,9 @@ bool MpvVideoLayer::renderPixels(const QRect& picture, const QRect& visible, uns
         if (!renderOwn(_shown, target, stride))
             return false;
         if (!_coreHasPicture) {
+            // The core takes a moment to place its picture anew: it is told before its first one comes.
+            if (_core)
+                setCrop(picture, visible);
             dropLastFrame();
             if (_firstShown)
                 _firstShown();
@@ -183,6 +186,8 @@ bool MpvVideoLayer::renderGL(const QRect& picture, const QSize& target, unsigned
         _shown = {picture, QRect(QPoint(0, 0), target)};
         return renderCoreGL(picture, target, framebuffer);
     }
+    if (_core)
+        setCrop(picture, QRect(QPoint(0, 0), target)); // as for the first picture above
     if (!_lastGL || _lastGL->size() != target)
         return false;
     QOpenGLExtraFunctions* gl = QOpenGLContext::currentContext()->extraFunctions();
