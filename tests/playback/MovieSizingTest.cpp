@@ -110,3 +110,19 @@ TEST(MovieSizing, the_picture_follows_the_pointer_until_an_edge_would_open_a_gap
     for (const auto& c : cases)
         EXPECT_EQ(scrollOffset(c.view, platform::Rect(0, 0, 1440, 900), c.dx, c.dy), c.offset) << c.dx << ", " << c.dy;
 }
+
+TEST(MovieSizing, panning_begins_only_towards_what_is_hidden) {
+    using namespace panDirection;
+    const platform::Rect window(0, 0, 100, 100);
+    const struct {
+        platform::Rect view;
+        int hidden;
+    } cases[] = {{window, 0},
+                 {{-1, 0, 100, 100}, left},
+                 {{1, 0, 100, 100}, right},
+                 {{0, -1, 100, 100}, bottom},
+                 {{0, 1, 100, 100}, top}};
+    for (const auto& c : cases)
+        for (const int direction : {left, right, top, bottom})
+            EXPECT_EQ(MovieSizing::canPan(direction, c.view, window), direction == c.hidden) << c.hidden << direction;
+}

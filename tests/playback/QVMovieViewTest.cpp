@@ -115,6 +115,7 @@ TEST(QVMovieView, without_a_movie_a_size_is_only_remembered) {
     EXPECT_FALSE(rig.view.isPlaying());
     rig.show();
     EXPECT_EQ(rig.view.frame().size(), QSizeF(1280, 960));
+    EXPECT_FLOAT_EQ(rig.view.aspectRatio(), 4.0F / 3);
 }
 
 TEST(QVMovieView, edge_panning_runs_until_the_edge_or_until_its_area_is_left) {

@@ -147,6 +147,17 @@ TEST_F(Archives, the_tool_that_is_missing_is_told_of) {
     EXPECT_EQ(leftBehind(), QStringList());
 }
 
+TEST_F(Archives, private_folders_leave_no_descriptors_open) {
+    const auto descriptors = [] {
+        return QDir("/proc/self/fd").entryList(QDir::NoDotAndDotDot | QDir::AllEntries).size();
+    };
+    platform::PrivateFolder::make();
+    const qsizetype before = descriptors();
+    for (int i = 0; i < 4; ++i)
+        EXPECT_TRUE(QFileInfo::exists(platform::PrivateFolder::make()->path()));
+    EXPECT_EQ(descriptors(), before);
+}
+
 TEST_F(Archives, a_sweep_removes_what_killed_processes_left_and_nothing_else) {
     const auto used = platform::PrivateFolder::make();
     const QString abandoned = used->path() + QStringLiteral("-left");
