@@ -6,8 +6,8 @@
 
 #include <QUrl>
 
+#include <atomic>
 #include <memory>
-#include <vector>
 
 namespace platform {
 
@@ -17,22 +17,21 @@ struct PreparedFrame {
     std::shared_ptr<Delivery<std::shared_ptr<const FirstFrame>>> frame;
 };
 
-/// Decodes first frames on threads of its own, for the movie that is wanted last. Main thread.
+/// Decodes first frames in the background, for the movie that is wanted last. Main thread.
 class FirstFrameDecoder {
 public:
-    FirstFrameDecoder();
-    ~FirstFrameDecoder();
+    FirstFrameDecoder() = default;
+    FirstFrameDecoder(const FirstFrameDecoder&) = delete;
+    FirstFrameDecoder& operator=(const FirstFrameDecoder&) = delete;
+    ~FirstFrameDecoder() { cancel(); }
 
     /// The one before is given up.
     PreparedFrame decode(const QUrl& url);
     /// Gives up what is under way, without waiting for it.
     void cancel();
-    /// Waits until the threads have ended.
-    void finish();
 
 private:
-    struct Job;
-    std::vector<std::unique_ptr<Job>> _jobs; // all but the last are cancelled
+    std::shared_ptr<std::atomic<bool>> _cancelled; // shared with the thread
 };
 
 } // namespace platform

@@ -53,7 +53,7 @@ void MpvPlayer::dropCore() {
     if (_movie)
         load(nullptr);
     setPreparedFrame({});
-    _firstFrames.finish();
+    _firstFrames.cancel();
     _firstFrameWait.reset();
     _video.setFirstShown(nullptr);
     _video.setCore(nullptr);
