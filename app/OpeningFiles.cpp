@@ -119,9 +119,12 @@ FoundMovies findMovies(const QStringList& pathsOrUrls, const QStringList& types,
 QList<QUrl> urlsWithURLStrings(const QStringList& strings) {
     QList<QUrl> urls;
     for (const QString& string : strings) {
-        const QUrl url(string.trimmed(), QUrl::TolerantMode);
+        QUrl url(string.trimmed(), QUrl::TolerantMode);
         if (string.trimmed().isEmpty() || !url.isValid())
             continue;
+        // What other programs write for this machine (RFC 8089).
+        if (url.isLocalFile() && url.host() == QStringLiteral("localhost"))
+            url.setHost(QString());
         // However a file's address is written, it is the one that its path makes.
         urls.append(url.isLocalFile() ? QUrl::fromLocalFile(url.toLocalFile()) : url);
     }

@@ -8,6 +8,7 @@
 #include <QDir>
 
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -52,6 +53,8 @@ int main(int count, char** arguments) {
     case CommandLine::Mode::inspect:
         return inspect(count, arguments, line);
     case CommandLine::Mode::play: {
+        // Whoever read the log may go: that ends no movie, and no settings are lost.
+        std::signal(SIGPIPE, SIG_IGN);
         const int status = play(count, arguments, line);
         // A thread that hangs in the system would find the statics gone.
         if (!platform::background::waitUntilIdle(0)) {

@@ -52,6 +52,8 @@ TEST_F(OpeningFiles, texts_become_urls_where_they_are_some) {
     EXPECT_EQ(urls[0].toString().toStdString(), "http://a.example/1.mp4");
     EXPECT_EQ(urls[1].scheme().toStdString(), "rtsp");
 
+    EXPECT_EQ(urlsWithURLStrings({"file://localhost/a%20b.mp4"}), QList{QUrl::fromLocalFile("/a b.mp4")});
+
     for (const char* url : {"http://x", "svn+ssh://x/y", "FILE:///a", "x1://"})
         EXPECT_TRUE(isURLString(url)) << url;
     for (const char* path : {"/a/http://x", "c:/x.avi", "http:/x", "://x", "1a://x", "a b://c", ""})

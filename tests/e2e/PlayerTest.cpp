@@ -218,6 +218,9 @@ TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
     ASSERT_TRUE(regionBecomes(blue, normal, seen)) << seen << ": the size was not kept";
     probe.tap(XK_0);
     ASSERT_TRUE(regionBecomes(blue, half, seen)) << seen;
+    // As from writing to a pipe that nobody reads any more.
+    player->signal(SIGPIPE);
+    EXPECT_FALSE(player->waitForExit(Seconds(0.3)));
     player->signal(SIGKILL);
     ASSERT_EQ(player->waitForExit(), -SIGKILL);
 
