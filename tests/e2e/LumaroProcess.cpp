@@ -21,7 +21,10 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
                            {"XDG_RUNTIME_DIR", user.runtimeFolder().string()},
                            {"LUMARO_RESOURCES", LUMARO_BINARY_DIR "/resources"},
                            {"LC_ALL", "C.UTF-8"}};
-    if (!display.empty()) {
+    if (display.starts_with("wayland")) {
+        options.environment["WAYLAND_DISPLAY"] = display;
+        options.environment["QT_QPA_PLATFORM"] = "wayland";
+    } else if (!display.empty()) {
         options.environment["DISPLAY"] = display;
         options.environment["QT_QPA_PLATFORM"] = "xcb";
     }

@@ -21,7 +21,8 @@ private:
     QTemporaryDir _folder;
 };
 
-// The real program, started for a user on a display; an empty display is none (for what needs no screen).
+// The real program, started for a user on a display: of X11, or the name of a Wayland socket ("wayland-...") in the
+// user's runtime folder. An empty display is none (for what needs no screen).
 class LumaroProcess : public harness::ChildProcess {
 public:
     LumaroProcess(const LumaroUser& user, const std::string& display, const std::vector<std::string>& arguments,

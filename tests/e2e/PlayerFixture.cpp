@@ -44,6 +44,11 @@ LumaroProcess& PlayerFixture::start(const std::vector<std::string>& arguments, c
     return *player;
 }
 
+LumaroProcess& PlayerFixture::startOn(const std::string& display, const std::vector<std::string>& arguments) {
+    player = std::make_unique<LumaroProcess>(user, display, withQuietLaunch(arguments));
+    return *player;
+}
+
 std::unique_ptr<LumaroProcess> PlayerFixture::startAnother(const std::vector<std::string>& arguments,
                                                            const std::string& workingDirectory) {
     return std::make_unique<LumaroProcess>(user, server.display(), arguments, workingDirectory);

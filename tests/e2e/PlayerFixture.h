@@ -28,6 +28,8 @@ protected:
 
     // Starts the player with tracing on and nothing asked at launch. Options of the test follow, and override.
     LumaroProcess& start(const std::vector<std::string>& arguments, const std::string& workingDirectory = {});
+    // The same on another display (of LumaroProcess).
+    LumaroProcess& startOn(const std::string& display, const std::vector<std::string>& arguments);
     // Another launch by the same user, with these options alone: settings are for the first one.
     std::unique_ptr<LumaroProcess> startAnother(const std::vector<std::string>& arguments,
                                                 const std::string& workingDirectory = {});
