@@ -99,9 +99,10 @@ void QVFullScreenWindow::mouseMoved(const platform::MouseEvent& event) {
 
 void QVFullScreenWindow::mouseDown(const platform::MouseEvent& event) {
     const auto gesture = [&] {
+        // The press itself of a double click was told before.
+        if (event.clickCount > 1)
+            return event.button == platform::MouseButton::left ? MouseGesture::doubleClick : MouseGesture::none;
         switch (event.button) {
-        case platform::MouseButton::left:
-            return event.clickCount == 2 ? MouseGesture::doubleClick : MouseGesture::none;
         case platform::MouseButton::middle:
             return MouseGesture::middleClick;
         case platform::MouseButton::back:

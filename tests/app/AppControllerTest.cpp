@@ -306,6 +306,8 @@ TEST(AppController, the_mouse_plays_changes_the_volume_and_goes_through_the_list
     EXPECT_FALSE(rig.view.isPlaying());
     press(MouseButton::middle);
     EXPECT_TRUE(rig.view.isMuted());
+    press(MouseButton::middle, 2);
+    EXPECT_TRUE(rig.view.isMuted()) << "a double click has told its second press already";
     press(MouseButton::middle);
     EXPECT_FALSE(rig.view.isMuted());
     press(MouseButton::forward);
