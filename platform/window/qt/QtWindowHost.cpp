@@ -409,6 +409,8 @@ void QtWindowHost::mousePressEvent(QMouseEvent* event) {
     setPointerHidden(false);
     const MouseEvent translated = mouseEvent(*event);
     if (translated.button == MouseButton::right && _menus) {
+        // The menu is told of their releases.
+        releaseKeys();
         _menus->popUp(event->globalPosition().toPoint());
         return;
     }
