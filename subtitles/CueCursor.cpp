@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/CueCursor.h"
 
+#include <limits>
+
 namespace {
 
 /// The first cue after `index` that ends after the time; the last cue when there is none.
@@ -28,6 +30,11 @@ std::size_t backward(std::span<const std::int32_t> ends, std::size_t index, std:
 void CueCursor::place(std::span<const std::int32_t> ends, std::size_t index) {
     _index = static_cast<std::uint32_t>(index);
     _prevEnd = index == 0 ? 0.0 : ends[index - 1];
+}
+
+void CueCursor::placeInDisorder(std::size_t index) {
+    _index = static_cast<std::uint32_t>(index);
+    _prevEnd = std::numeric_limits<double>::infinity();
 }
 
 void CueCursor::clear() {

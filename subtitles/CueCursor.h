@@ -12,13 +12,16 @@ class CueCursor {
 public:
     /// Puts the cursor on one of the cues; before that, and after clear(), it must not be asked for anything.
     void place(std::span<const std::int32_t> ends, std::size_t index);
+    /// The same among cues that stand in no order: the cursor stays for no time, and search() is not for it.
+    void placeInDisorder(std::size_t index);
     void clear();
     std::size_t index() const { return _index; }
 
     /// Whether the cue at the cursor, with this start and end, is still the one to look at. The cheap question before
     /// a search; it needs none of the other cues.
     bool staysFor(std::int32_t time, std::int32_t start, std::int32_t end) const;
-    /// Over the ends of the cues, in the file's order. The start of a cue is asked for once at most.
+    /// Over the ends of the cues, in the file's order, which is that of the ends. The start of a cue is asked for once
+    /// at most.
     template <class StartOf>
     void search(std::span<const std::int32_t> ends, std::int32_t time, const StartOf& startOf) {
         move(ends, time);

@@ -74,8 +74,14 @@ CueList QVSubtitles::takeCues() {
 void QVSubtitles::replaceCues(CueList cues) {
     _subtitles = std::move(cues);
     _resetAsked = false;
-    if (_current && _subtitles->count() > 0)
+    if (!_current)
+        return;
+    if (_subtitles->count() > 0) {
         placeCursor(std::min(_cursor.index(), _subtitles->count() - 1));
+    } else {
+        _cursor.clear();
+        _current.reset();
+    }
 }
 
 std::size_t QVSubtitles::count() const {
@@ -95,7 +101,10 @@ void QVSubtitles::reset() {
 }
 
 void QVSubtitles::placeCursor(std::size_t index) {
-    _cursor.place(_subtitles->ends(), index);
+    if (_subtitles->isInOrder())
+        _cursor.place(_subtitles->ends(), index);
+    else
+        _cursor.placeInDisorder(index);
     _current = _subtitles->subtitles()[index];
 }
 
@@ -109,16 +118,25 @@ void QVSubtitles::followLoading() {
         placeCursor(0);
 }
 
+void QVSubtitles::moveCursor(std::int32_t time) {
+    const auto guard = lockSubtitles();
+    if (!_subtitles->isInOrder()) {
+        placeCursor(_subtitles->indexFor(time));
+        return;
+    }
+    // It may have been placed before the cues came into order.
+    placeCursor(_cursor.index());
+    const auto& subtitles = _subtitles->subtitles();
+    _cursor.search(_subtitles->ends(), time, [&subtitles](std::size_t index) { return subtitles[index]->start(); });
+    _current = subtitles[_cursor.index()];
+}
+
 std::shared_ptr<QVSubtitle> QVSubtitles::subtitleForTime(std::int32_t time) {
     followLoading();
     if (!_current)
         return nullptr;
-    if (!_cursor.staysFor(time, _current->start(), _current->end())) {
-        const auto guard = lockSubtitles();
-        const auto& subtitles = _subtitles->subtitles();
-        _cursor.search(_subtitles->ends(), time, [&subtitles](std::size_t index) { return subtitles[index]->start(); });
-        _current = subtitles[_cursor.index()];
-    }
+    if (!_cursor.staysFor(time, _current->start(), _current->end()))
+        moveCursor(time);
     if (time < _current->start() || time > _current->end() || (onlyForced() && !_current->forced()))
         return nullptr;
     return _current;

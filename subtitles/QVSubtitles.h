@@ -57,7 +57,8 @@ public:
     /// Puts the cursor on the first cue; nothing without cues. Any thread.
     void reset();
     /// The cue to show at a time, or none. The search begins where the last one ended: playing forward it is a
-    /// comparison. In a gap the cursor stays on the later cue.
+    /// comparison. In a gap the cursor stays on the later cue. Cues that stand in no order are found all the same; of
+    /// several that show at once it is the one that started last.
     std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time);
     /// The cue at the cursor, or none.
     std::shared_ptr<QVSubtitle> current();
@@ -65,7 +66,8 @@ public:
     /// Re-times a loaded frame-based track; nothing else changes by it, the choice included. Choice 0 is the movie's
     /// rate, 1 to 5 are 23.976, 24, 25, 29.97 and 30.
     void setFrameRate(std::int32_t choice);
-    /// Decodes the loaded texts anew; nothing for images. A cue that is not valid in the encoding is left without text.
+    /// Decodes the loaded texts anew; nothing for images. What is not valid in the encoding is left out, as it is when
+    /// a track is loaded.
     virtual void setEncoding(std::uint32_t encoding) = 0;
     /// The setting QVSubtitlesDefaultEncoding as an encoding number (those above 31 bits are stored as negative or
     /// positive numbers alike).
@@ -123,13 +125,15 @@ protected:
     bool isLoaded() const { return _subtitles.has_value(); }
     /// Takes the loaded cues out, for another reading of the file in their place.
     CueList takeCues();
-    /// Puts cues in the place of those that there are. The cursor stays on its place, or goes to the last cue.
+    /// Puts cues in the place of those that there are. The cursor stays on its place, or goes to the last cue;
+    /// without cues it has none.
     void replaceCues(CueList cues);
     const platform::UserDefaults& settings() const { return _settings; }
 
 private:
     std::unique_lock<std::mutex> lockSubtitles() const;
     void placeCursor(std::size_t index);
+    void moveCursor(std::int32_t time);
     void followLoading();
 
     const platform::UserDefaults& _settings;

@@ -236,7 +236,12 @@ void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNot
 
 void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key == kQVDisplaySubtitles) {
-        setDisplaySubtitles(_environment.settings.boolForKey(kQVDisplaySubtitles));
+        const bool isOn = _environment.settings.boolForKey(kQVDisplaySubtitles);
+        // Without tracks there is nothing to switch; it is how the next movie will be shown.
+        if (_subtitles.empty())
+            _subtitlesOn = isOn;
+        else
+            setDisplaySubtitles(isOn);
     } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
         _current->setEncoding(QVSubtitles::defaultEncoding(_environment.settings));
         if (_subtitlesOn) {

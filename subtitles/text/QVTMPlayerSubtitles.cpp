@@ -41,15 +41,18 @@ QVTMPlayerSubtitles::QVTMPlayerSubtitles(const platform::UserDefaults& settings,
 bool QVTMPlayerSubtitles::isFormatValid(std::string_view text) {
     LineReader lines(text);
     std::array<std::int32_t, 3> numbers{};
+    bool isTimed = false;
     for (int count = 0; count < probedLines; ++count) {
         const auto line = lines.next();
         if (!line)
+            break;
+        // The times of another format would be shown as texts.
+        if (line->find("-->") != std::string_view::npos)
             return false;
         // Whatever separates the text from the time is not looked at.
-        if (scanLine(*line, "%d:%d:%d", numbers).filled == numbers.size())
-            return true;
+        isTimed = isTimed || scanLine(*line, "%d:%d:%d", numbers).filled == numbers.size();
     }
-    return false;
+    return isTimed;
 }
 
 QStringList QVTMPlayerSubtitles::extensionsList() {

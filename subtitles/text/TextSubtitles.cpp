@@ -17,17 +17,26 @@ constexpr std::size_t maximumCues = 2'000'000;
 
 } // namespace
 
-void TextSubtitles::_preload() {
+/// None when the file cannot be opened, which is logged.
+std::optional<QByteArray> TextSubtitles::fileBytes() const {
     std::optional<QByteArray> bytes = platform::readRegularFile(path(), maximumFileSize);
-    if (!bytes) {
+    if (!bytes)
         logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
                   platform::lastPathComponent(path()));
+    return bytes;
+}
+
+void TextSubtitles::_preload() {
+    if (std::optional<QByteArray> bytes = fileBytes())
+        readFile(*std::exchange(bytes, std::nullopt));
+    else
         reset();
-        return;
-    }
-    const bool cut = bytes->size() == maximumFileSize;
+}
+
+void TextSubtitles::readFile(QByteArray bytes) {
+    const bool cut = bytes.size() == maximumFileSize;
     trace("%@: Begin parsing subtitles file \"%@\"%@.", className(), platform::lastPathComponent(path()), "");
-    readAll(std::move(*bytes), encoding());
+    readAll(std::move(bytes), encoding());
     if (cut || count() >= maximumCues)
         logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(),
                   platform::lastPathComponent(path()));
@@ -52,39 +61,15 @@ void TextSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
 }
 
 void TextSubtitles::setEncoding(std::uint32_t encoding) {
-    if (encoding == platform::textEncoding::automatic)
-        readAgain();
-    else if (encoding != this->encoding() && count() > 0)
-        decodeAgain(encoding);
-}
-
-void TextSubtitles::decodeAgain(std::uint32_t encoding) {
-    platform::TextDecoder decoder(encoding);
-    for (const std::shared_ptr<QVSubtitle>& subtitle : cues()) {
-        const auto bytes = platform::lossyData(subtitle->text(), this->encoding());
-        if (!bytes)
-            continue;
-        QString text = QLatin1String("");
-        const std::string_view view(bytes->constData(), static_cast<std::size_t>(bytes->size()));
-        subtitle->setText(decoder.append(view, text) ? text : QString());
-    }
+    if (encoding == this->encoding() || !isLoaded())
+        return;
+    std::optional<QByteArray> bytes = fileBytes();
+    if (!bytes)
+        return;
+    // The cues of the file take the place of those loaded; the cursor stays on its place. What was read in a wrong
+    // encoding may have had no cue at all.
+    takeCues();
     setLoadedEncoding(encoding);
-}
-
-/// The cues of the file itself take the place of those loaded; the cursor stays on its place. What was read in a wrong
-/// encoding may have had no cue at all.
-void TextSubtitles::readAgain() {
-    if (!isLoaded())
-        return;
-    CueList kept = takeCues();
-    const std::uint32_t before = encoding();
-    setLoadedEncoding(platform::textEncoding::automatic);
-    _preload();
-    if (count() > 0) {
-        replaceCues(takeCues());
-        return;
-    }
-    // The file is gone: the texts stay as they were.
-    replaceCues(std::move(kept));
-    setLoadedEncoding(before);
+    readFile(*std::exchange(bytes, std::nullopt));
+    replaceCues(takeCues());
 }

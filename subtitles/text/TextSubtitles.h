@@ -7,6 +7,7 @@
 #include <QByteArray>
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 class LineReader;
@@ -14,7 +15,8 @@ class LineReader;
 /// A track of texts, loaded at once: a reader derived from it says how one cue is read. Main thread.
 class TextSubtitles : public QVSubtitles {
 public:
-    /// The number 0 (automatic) reads the file again, so that nothing lost by a wrong choice stays lost.
+    /// Reads the file again, so that nothing lost by a wrong choice stays lost. A file that is gone leaves the texts,
+    /// and the encoding, as they were.
     void setEncoding(std::uint32_t encoding) override;
     bool isTextBased() const final { return true; }
     bool isImageBased() const final { return false; }
@@ -44,8 +46,8 @@ protected:
     std::shared_ptr<QVSubtitle> _previous;
 
 private:
-    void decodeAgain(std::uint32_t encoding);
-    void readAgain();
+    std::optional<QByteArray> fileBytes() const;
+    void readFile(QByteArray bytes);
 
     /// While a file is being read; afterwards the cues keep it.
     std::shared_ptr<TextStore> _store;

@@ -44,13 +44,14 @@ struct QVVobSubStreamInfo {
     std::vector<QVVobSubPos> _subPos;
 };
 
-/// What a VobSub index (".idx") says. What it leaves unsaid is zero. Lengths are pixels of the subpicture frame.
+/// What a VobSub index (".idx") says. What it leaves unsaid is zero, but scale and
+/// opacity are 100 %. Lengths are pixels of the subpicture frame.
 struct VobSubIndex {
     QSizeF _size{0, 0};
     QPointF _origin;
-    float _scaleX = 0; // 1 is 100 %
-    float _scaleY = 0;
-    float _alpha = 0; // 1 is 100 %
+    float _scaleX = 1; // 1 is 100 %
+    float _scaleY = 1;
+    float _alpha = 1; // 1 is 100 %
     std::int32_t _smooth = 0;
     double _fadeIn = 0; // seconds
     double _fadeOut = 0;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/CueCursor.h"
+#include "subtitles/CueOrder.h"
 
 #include <gtest/gtest.h>
 
@@ -52,4 +53,17 @@ TEST(CueCursor, a_search_is_left_out_only_where_it_would_not_move) {
     playing.place(ends, 2);
     EXPECT_TRUE(playing.staysFor(40, 50, 60)) << "in a gap the cursor stays on the later cue";
     EXPECT_FALSE(playing.staysFor(30, 50, 60)) << "the last moment of the cue before the gap";
+}
+
+TEST(CueOrder, cues_in_no_order_are_found_at_any_time) {
+    // In the file's order: a long cue, two within it, one that ends before it starts, one before all.
+    const CueSpan cues[] = {{100, 200}, {120, 130}, {120, 125}, {150, 140}, {10, 20}};
+    const struct {
+        std::int32_t time;
+        std::size_t index;
+    } cases[] = {{0, 4},   {10, 4},  {20, 4},  {21, 0},  {100, 0}, {119, 0}, {120, 2},
+                 {125, 2}, {126, 1}, {130, 1}, {131, 0}, {150, 0}, {200, 0}, {201, 3}};
+    const CueOrder order(cues);
+    for (const auto& [time, index] : cases)
+        EXPECT_EQ(order.indexFor(time), index) << time;
 }

@@ -258,6 +258,20 @@ TEST_F(SubtitlesController, without_tracks_nothing_can_be_switched) {
     EXPECT_TRUE(scene.text.isEmpty());
 }
 
+TEST_F(SubtitlesController, a_setting_changed_without_tracks_holds_for_the_next_movie) {
+    for (const bool withMovie : {false, true}) {
+        post(QVPlaylistMovieChangedNotification{withMovie ? movie({}) : nullptr});
+        change(kQVDisplaySubtitles, 0);
+        play(three);
+        EXPECT_EQ(info(), QStringLiteral("Off")) << withMovie;
+        EXPECT_FALSE(displayStored());
+        post(QVPlaylistMovieChangedNotification{withMovie ? movie({}) : nullptr});
+        change(kQVDisplaySubtitles, 1);
+        play(three);
+        EXPECT_EQ(info(), QStringLiteral("one (1/3)")) << withMovie;
+    }
+}
+
 TEST_F(SubtitlesController, changed_settings_act_on_the_cue_that_is_shown) {
     auto shown = movie(three);
     post(QVPlaylistMovieChangedNotification{shown});

@@ -42,6 +42,24 @@ TEST_F(Track, a_time_finds_its_cue_wherever_the_search_begins) {
     EXPECT_EQ(track->current()->text(), QStringLiteral("A"));
 }
 
+TEST_F(Track, a_time_finds_its_cue_in_a_file_out_of_order) {
+    const std::string early = "0:0:0,500 --> 0:0:0,800\nearly\n\n";
+    const std::string reversed = "0:0:4,0 --> 0:0:2,500\nnever\n\n";
+    // The early one cuts the cue before it, to an end before its start.
+    for (const std::string& file : {three + early, early + three + early, three + reversed + early}) {
+        const auto track = load(QStringLiteral("film.srt"), file);
+        ASSERT_TRUE(track);
+        const std::pair<std::int32_t, const char*> times[] = {{299, ""},   {300, "early"}, {700, "A"}, {1300, "B"},
+                                                              {1700, "B"}, {2500, ""},     {3601, ""}, {9999, ""}};
+        for (const auto& [from, shownThere] : times) {
+            for (const auto& [to, text] : times) {
+                shown(*track, from);
+                EXPECT_EQ(shown(*track, to), text) << from << " to " << to << "\n" << file;
+            }
+        }
+    }
+}
+
 TEST_F(Track, loading_takes_the_settings_as_they_are_then) {
     const auto track = open(write(QStringLiteral("film.sub"), "{240}{480}caf\xE9|B\n"));
     ASSERT_TRUE(track);
@@ -101,20 +119,33 @@ TEST_F(Track, a_new_frame_rate_moves_the_cues_of_loaded_frame_based_tracks_only)
     EXPECT_EQ(timed->frameRateChoice(), 3);
 }
 
-TEST_F(Track, a_new_encoding_decodes_the_texts_again) {
+TEST_F(Track, a_new_encoding_reads_the_file_again) {
+    const QString path =
+        write(QStringLiteral("film.srt"), "0:0:1,0 --> 0:0:2,0\ncaf\xE9\n\n0:0:2,0 --> 0:0:3,0\nd\xE9 vu\n");
     chooseEncoding(12);
-    const auto track = load(QStringLiteral("film.srt"), "0:0:1,0 --> 0:0:2,0\ncaf\xE9\n\n0:0:2,0 --> 0:0:3,0\nB\n");
+    const auto track = open(path);
     track->setEncoding(15);
-    EXPECT_EQ(shown(*track, 700), "caf\xC3\xA9");
+    EXPECT_EQ(track->encoding(), QVSubtitles::noEncoding) << "nothing is loaded";
+    track->preload();
+    const struct {
+        std::uint32_t chosen, inForce;
+        const char *first, *second;
+    } steps[] = {{15, 15, "caf\xC3\xA9", "d\xC3\xA9 vu"},
+                 {11, 11, "caf\xD0\xB9", "d\xD0\xB9 vu"},
+                 {4, 4, "", ""}, // nothing of it is valid
+                 {1, 1, "", ""},
+                 {11, 11, "caf\xD0\xB9", "d\xD0\xB9 vu"},
+                 {0, 12, "caf\xC3\xA9", "d\xC3\xA9 vu"}};
+    for (const auto& step : steps) {
+        track->setEncoding(step.chosen);
+        EXPECT_EQ(shown(*track, 1300), step.second) << step.chosen;
+        EXPECT_EQ(shown(*track, 700), step.first) << step.chosen;
+        EXPECT_EQ(track->encoding(), step.inForce);
+    }
+    ASSERT_TRUE(QFile::remove(path));
+    const CapturedLog log;
     track->setEncoding(11);
-    EXPECT_EQ(shown(*track, 700), "caf\xD0\xB9");
-    track->setEncoding(4);
-    EXPECT_TRUE(track->current()->text().isNull());
-    EXPECT_EQ(shown(*track, 1300), "B");
-    track->setEncoding(11);
-    EXPECT_EQ(shown(*track, 700), "") << "what was lost stays lost";
-    track->setEncoding(0);
-    EXPECT_EQ(shown(*track, 700), "caf\xC3\xA9") << "but the automatic choice reads the file again";
+    EXPECT_EQ(shown(*track, 700), "caf\xC3\xA9") << "the texts of a file that is gone were dropped";
     EXPECT_EQ(track->encoding(), 12U);
 }
 

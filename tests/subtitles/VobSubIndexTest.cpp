@@ -98,12 +98,12 @@ TEST(VobSubIndex, a_usual_index_is_read_whole) {
     EXPECT_EQ(index._streams[0]._subPos[0]._pos, 0x1A2B);
 }
 
-TEST(VobSubIndex, what_it_leaves_unsaid_is_zero) {
+TEST(VobSubIndex, what_it_leaves_unsaid_is_zero_but_scale_and_opacity_are_whole) {
     const VobSubIndex index = indexOf(stream + stamp("00:00:01:000"));
     EXPECT_EQ(index._size, QSizeF(0, 0));
     EXPECT_EQ(index._origin, QPointF(0, 0));
     for (const float share : {index._scaleX, index._scaleY, index._alpha})
-        EXPECT_EQ(share, 0.0F);
+        EXPECT_EQ(share, 1.0F);
     EXPECT_EQ(index._fadeIn + index._fadeOut, 0);
     for (const std::int32_t number : {index._smooth, index._alignH, index._alignV, index._idxInUse, index._trIdx})
         EXPECT_EQ(number, 0);
