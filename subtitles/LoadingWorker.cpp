@@ -19,6 +19,7 @@ void LoadingWorker::setObserver(std::function<void()> observer) {
 void LoadingWorker::start(std::function<void()> work) {
     wait();
     _running = true;
+    _stop = {};
     _thread = std::thread([this, work = std::move(work)] {
         work();
         _running = false;
@@ -33,6 +34,7 @@ void LoadingWorker::wait() {
 
 void LoadingWorker::stop() {
     _abort = true;
+    _stop.request_stop();
     // Waiting for its end: one that has not begun yet would begin on a track that was emptied meanwhile.
     wait();
     _abort = false;

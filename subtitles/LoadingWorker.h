@@ -4,6 +4,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <stop_token>
 #include <thread>
 
 namespace platform {
@@ -32,6 +33,8 @@ public:
 
     /// Whether the work is asked to end. Any thread; the work looks at it often.
     const std::atomic<bool>& isAborted() const { return _abort; }
+    /// The same for work that waits for something else: it is woken. Of the work that runs, or began last.
+    std::stop_token stopToken() const { return _stop.get_token(); }
     /// There is news. By the work; what it reports until the main thread gets to it is told once.
     void report();
 
@@ -45,6 +48,7 @@ private:
     platform::RunLoop& _loop;
     std::shared_ptr<Word> _word = std::make_shared<Word>();
     std::atomic<bool> _abort = false;
+    std::stop_source _stop;
     std::atomic<bool> _running = false;
     std::thread _thread;
 };

@@ -70,14 +70,15 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
     _index = track && found != _subtitles.end() ? static_cast<std::uint32_t>(found - _subtitles.begin()) : none;
     trace("%@: Switching to subtitles stream: \"%@\"", className, track ? track->title() : QStringLiteral("(null)"));
     if (track) {
-        if (track->isImageBased())
-            keepLoaded(track);
         _preferredType = track->type();
         _preferredIndex = track->streamIndex();
         // A cue that a worker reads after it was looked for would not be seen while no picture is due: while the movie
         // stands.
         track->setLoadingObserver([this] { showCueOfNow(); });
         track->preload();
+        // Only now the one before goes: both may wait for one archive to be unpacked, which ends when nobody does.
+        if (track->isImageBased())
+            keepLoaded(track);
         adoptAppearance(*track);
         _setView(viewFor(*track));
     }
@@ -225,6 +226,12 @@ void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNoti
     const auto old = std::exchange(_movie, _scene.ownerOf(notification.movie));
     _subtitles = _movie ? _movie->subtitles() : std::vector<std::shared_ptr<QVSubtitles>>();
     setCurrent(_subtitlesOn ? preferredSubtitles() : nullptr);
+    // What another movie's images have been read is kept, but no more is read.
+    if (_cached && _cachedMovie != _movie && _cached->isLoading()) {
+        _cached->unload();
+        _cached.reset();
+        _cachedMovie.reset();
+    }
 }
 
 void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNotification& notification) {

@@ -5,6 +5,7 @@
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
 #include "app/main/Terminal.h"
+#include "platform/base/PrivateFolder.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "settings/SettingsKeys.h"
@@ -37,5 +38,6 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
     std::fwrite(result.json.constData(), 1, static_cast<std::size_t>(result.json.size()), stdout);
     for (const QString& error : result.errors)
         complain(error);
+    platform::PrivateSubfolder::waitUntilGone();
     return result.errors.isEmpty() ? exitSuccess : exitFailure;
 }

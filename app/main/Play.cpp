@@ -9,6 +9,7 @@
 #include "app/main/Terminal.h"
 #include "app/panels/HelpPanel.h"
 #include "app/panels/PlaylistPanel.h"
+#include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/desktop/linux/Backlight.h"
@@ -151,12 +152,13 @@ int play(int& count, char** arguments, const CommandLine& line) {
             host.makeKeyAndOrderFront();
         };
         instance.listen(take);
-        // After the first picture: nobody waits for it.
-        constexpr double sweepDelay = 5;
-        run.environment().loop.perform([] { platform::PrivateFolder::sweep(); }, sweepDelay);
+        // What a killed player unpacked may be large.
+        platform::background::run([] { platform::PrivateFolder::sweep(); });
         if (!files.files.isEmpty())
             take(files);
         status = desktop.run(player.application());
     }
+    // What is not removed by then is left to the next start.
+    platform::PrivateSubfolder::waitUntilGone();
     return status;
 }

@@ -7,10 +7,13 @@
 #include <QFile>
 
 #include <cerrno>
+#include <chrono>
+#include <condition_variable>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -69,6 +72,21 @@ void removeAbandoned(const fs::path& path) {
     ::close(folder);
 }
 
+/// The folder around the subfolders, while there are any.
+struct Shared {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::unique_ptr<PrivateFolder> folder;
+    int inUse = 0;
+    unsigned made = 0;
+};
+
+/// Never destroyed: a thread may still remove a subfolder when the process ends.
+Shared& sharedFolder() {
+    static Shared& shared = *new Shared;
+    return shared;
+}
+
 } // namespace
 
 PrivateFolder::PrivateFolder(QString path, int lock)
@@ -110,31 +128,42 @@ void PrivateFolder::sweep(const QString& parent) {
     }
 }
 
-PrivateSubfolder::PrivateSubfolder(std::shared_ptr<PrivateFolder> shared, QString path)
-    : _shared(std::move(shared))
-    , _path(std::move(path)) {}
+PrivateSubfolder::PrivateSubfolder(QString path)
+    : _path(std::move(path)) {}
 
 std::unique_ptr<PrivateSubfolder> PrivateSubfolder::make() {
-    static std::weak_ptr<PrivateFolder> kept;
-    static unsigned made = 0;
-    std::shared_ptr<PrivateFolder> shared = kept.lock();
-    if (!shared)
-        shared = PrivateFolder::make();
-    kept = shared;
-    if (!shared)
+    Shared& shared = sharedFolder();
+    const std::scoped_lock lock(shared.mutex);
+    if (!shared.folder)
+        shared.folder = PrivateFolder::make();
+    if (!shared.folder)
         return nullptr;
-    const QString path = shared->path() + u'/' + QString::number(++made);
+    const QString path = shared.folder->path() + u'/' + QString::number(++shared.made);
     constexpr ::mode_t forThisUser = 0700;
     if (::mkdir(QFile::encodeName(path).constData(), forThisUser) != 0) {
         Log::write(QStringLiteral("ERROR: PrivateFolder: Unable to make %1: %2.")
                        .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
+        if (shared.inUse == 0)
+            shared.folder.reset();
         return nullptr;
     }
-    return std::unique_ptr<PrivateSubfolder>(new PrivateSubfolder(std::move(shared), path));
+    ++shared.inUse;
+    return std::unique_ptr<PrivateSubfolder>(new PrivateSubfolder(path));
 }
 
 PrivateSubfolder::~PrivateSubfolder() {
     removeTree(_path);
+    Shared& shared = sharedFolder();
+    const std::scoped_lock lock(shared.mutex);
+    if (--shared.inUse == 0)
+        shared.folder.reset();
+    shared.changed.notify_all();
+}
+
+bool PrivateSubfolder::waitUntilGone(double seconds) {
+    Shared& shared = sharedFolder();
+    std::unique_lock lock(shared.mutex);
+    return shared.changed.wait_for(lock, std::chrono::duration<double>(seconds), [&] { return shared.inUse == 0; });
 }
 
 void removeTree(const QString& path) {

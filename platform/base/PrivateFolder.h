@@ -32,11 +32,14 @@ private:
 };
 
 /// An empty folder within a private one that all of a process share, so that many take one file descriptor. Removed
-/// with everything in it when the object goes; the shared one goes with the last. Main thread.
+/// with everything in it when the object goes; the shared one goes with the last. Any thread.
 class PrivateSubfolder {
 public:
     /// None when it cannot be made.
     static std::unique_ptr<PrivateSubfolder> make();
+    /// Waits until none is left, at most that many seconds; false when some are. For the end of the process, where
+    /// threads may still be removing some.
+    static bool waitUntilGone(double seconds = 2);
 
     PrivateSubfolder(const PrivateSubfolder&) = delete;
     PrivateSubfolder& operator=(const PrivateSubfolder&) = delete;
@@ -46,9 +49,8 @@ public:
     const QString& path() const { return _path; }
 
 private:
-    PrivateSubfolder(std::shared_ptr<PrivateFolder> shared, QString path);
+    explicit PrivateSubfolder(QString path);
 
-    std::shared_ptr<PrivateFolder> _shared;
     QString _path;
 };
 

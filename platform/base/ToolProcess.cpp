@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <string>
+#include <sys/eventfd.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -112,20 +113,47 @@ bool canBeFound(const std::string& program) {
     return false;
 }
 
+/// Can be waited for like a pipe: readable once a stop was requested.
+class StopEvent {
+public:
+    explicit StopEvent(const std::stop_token& stop)
+        : _event(stop.stop_possible() ? ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK) : -1)
+        , _onStop(std::in_place, stop, Signal{_event}) {}
+    StopEvent(const StopEvent&) = delete;
+    StopEvent& operator=(const StopEvent&) = delete;
+    ~StopEvent() {
+        // No call of it is under way afterwards.
+        _onStop.reset();
+        if (_event >= 0)
+            ::close(_event);
+    }
+    int descriptor() const { return _event; }
+
+private:
+    struct Signal {
+        int event;
+        void operator()() const { ::eventfd_write(event, 1); }
+    };
+    int _event;
+    std::optional<std::stop_callback<Signal>> _onStop;
+};
+
 /// A running program and the end of the pipe that it writes to.
 class Running {
 public:
     Running(pid_t process, int pipe, const ToolRequest& request)
         : _process(process)
         , _pipe(pipe)
-        , _request(request) {}
+        , _request(request)
+        , _stop(request.stop) {}
 
-    /// Hands over what there is to read, waiting for it a little.
+    /// Hands over what there is to read, waiting for it, or for a stop, a little.
     void read() {
         constexpr int tick = 50;
         constexpr int tickWithoutPipe = 5;
-        pollfd state{_pipe, POLLIN, 0};
-        if (::poll(&state, 1, _pipe < 0 ? tickWithoutPipe : tick) > 0)
+        const int stop = _request.stop.stop_requested() ? -1 : _stop.descriptor(); // it says so only once
+        pollfd states[] = {{_pipe, POLLIN, 0}, {stop, POLLIN, 0}};
+        if (::poll(states, std::size(states), _pipe < 0 ? tickWithoutPipe : tick) > 0 && states[0].revents != 0)
             drain(1);
     }
     /// At most so many pieces: what the program started may go on writing.
@@ -173,6 +201,7 @@ private:
     pid_t _process;
     int _pipe;
     const ToolRequest& _request;
+    StopEvent _stop;
     qsizetype _said = 0;
 };
 
@@ -188,7 +217,8 @@ int waitFor(Running& running, const ToolRequest& request) {
             running.closePipe();
             return running.status();
         }
-        if (Clock::now() > deadline || running.saidTooMuch() || (request.mayGoOn && !request.mayGoOn()))
+        if (Clock::now() > deadline || running.saidTooMuch() || request.stop.stop_requested() ||
+            (request.mayGoOn && !request.mayGoOn()))
             running.kill();
     }
 }
@@ -198,7 +228,7 @@ int waitFor(Running& running, const ToolRequest& request) {
 std::optional<int> runTool(const ToolRequest& request) {
     Start start;
     start.program = QFile::encodeName(request.program).toStdString();
-    if (!canBeFound(start.program))
+    if (!canBeFound(start.program) || request.stop.stop_requested())
         return std::nullopt;
     start.folder = QFile::encodeName(request.folder).toStdString();
     start.arguments.add(request.program);

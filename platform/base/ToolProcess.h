@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <stop_token>
 
 namespace platform {
 
@@ -33,11 +34,14 @@ struct ToolRequest {
     std::optional<qsizetype> maximumOutput;
     /// Asked some twenty times a second: the program is killed when the answer is no.
     std::function<bool()> mayGoOn;
+    /// The program is killed as soon as a stop is requested.
+    std::stop_token stop;
 };
 
 /// Runs a program without input, in a process group of its own, and waits for its end; events are not handled
 /// meanwhile. It does not outlive this process. Answers its exit status, 128 and the signal's number when a signal
-/// ended it, and none when it could not be started. Any thread; the program dies with the thread that called.
+/// ended it, and none when it could not be started or a stop was requested before. Any thread; the program dies with
+/// the thread that called.
 std::optional<int> runTool(const ToolRequest& request);
 
 } // namespace platform

@@ -31,7 +31,7 @@ bool QVVobSubSubtitles::isFormatValid(const QString& path, std::string_view text
         return false;
     const QString base = platform::pathWithoutExtension(path);
     return !SubFileSearch::fileBeside(base, QStringLiteral("sub")).isEmpty() ||
-           !SubFileSearch::fileBeside(base, QStringLiteral("rar")).isEmpty();
+           !SubFileSearch::archiveBeside(base).isEmpty();
 }
 
 QStringList QVVobSubSubtitles::extensionsList() {

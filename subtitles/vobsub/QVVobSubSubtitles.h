@@ -13,7 +13,8 @@
 #include <vector>
 
 /// Bitmap subtitles from a DVD: one language of a VobSub pair, an index (".idx") with its data file (".sub"). Loaded by
-/// a worker, since a film has more than a thousand pictures; cues appear while it runs. Main thread.
+/// a worker, since a film has more than a thousand pictures, and its data file may have to come out of an archive
+/// first; cues appear while it runs. Main thread.
 class QVVobSubSubtitles final : public QVSubtitles {
 public:
     /// `idx` is the stream's position among those of the index.
@@ -54,7 +55,7 @@ protected:
     const char* className() const override { return "QVVobSubSubtitles"; }
 
 private:
-    void load();
+    void load(const SubFile::Claim& subFile);
 
     platform::RunLoop& _loop;
     std::shared_ptr<const QVVobSubInfo> _subInfo;

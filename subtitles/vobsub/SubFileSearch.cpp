@@ -44,6 +44,18 @@ QString SubFileSearch::fileBeside(const QString& base, const QString& extension)
     return found;
 }
 
+QString SubFileSearch::archiveBeside(const QString& base) {
+    const QString extension = QStringLiteral("rar");
+    QString found = fileBeside(base, extension);
+    for (const char* part : {".part1", ".part01", ".part001"}) {
+        for (const QString& name : {QString::fromLatin1(part), QString::fromLatin1(part).toUpper()}) {
+            if (found.isEmpty())
+                found = fileBeside(base + name, extension);
+        }
+    }
+    return found;
+}
+
 QString SubFileSearch::dataFileWithin(const QString& folder, const QString& baseName) {
     const QString found = preferred(dataFiles(folder, QDirIterator::NoIteratorFlags), baseName);
     return found.isEmpty() ? preferred(dataFiles(folder, QDirIterator::Subdirectories), baseName) : found;

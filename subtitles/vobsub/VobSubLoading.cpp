@@ -29,9 +29,9 @@ std::int32_t milliseconds(std::int64_t value) {
 } // namespace
 
 void QVVobSubSubtitles::_preload() {
-    _worker.start([this] {
+    _worker.start([this, subFile = _subInfo->subFile().claim()] {
         try {
-            load();
+            load(*subFile);
         } catch (const std::bad_alloc&) {
             logMemoryFull();
             finishLoading();
@@ -39,15 +39,19 @@ void QVVobSubSubtitles::_preload() {
     });
 }
 
-void QVVobSubSubtitles::load() {
+void QVVobSubSubtitles::load(const SubFile::Claim& subFile) {
     // For messages only: the clock is asked when somebody reads them.
     const auto messageTime = [this] { return gTracingEnabled ? _loop.now() : 0; };
     const double begin = messageTime();
     const VobSubIndex& index = _subInfo->index();
-    const auto file = DataFile::open(_subInfo->subPath());
+    const QString subPath = subFile.path(_worker.stopToken());
+    // It was waiting for an archive to be taken apart.
+    if (subPath.isEmpty() && _worker.isAborted())
+        return;
+    const auto file = DataFile::open(subPath);
     if (!file) {
         logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
-                  platform::lastPathComponent(_subInfo->subPath()));
+                  platform::lastPathComponent(subPath));
         trace("%@: Preload Time: %@", className(), QString::asprintf("%6.5f", messageTime() - begin));
         reset();
         return;

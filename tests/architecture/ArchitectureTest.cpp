@@ -183,7 +183,7 @@ TEST(Architecture, collaborators_are_handed_in) {
     const std::map<std::string, std::set<std::string>> homes = {
         {"UserDefaults::standard", {"settings/QVUserDefaults"}},
         {"standardUserDefaults", {"settings/QVUserDefaults"}},
-        {"Bundle::main", {"settings/QVUserDefaults", "subtitles/vobsub/QVVobSubInfo"}},
+        {"Bundle::main", {"settings/QVUserDefaults", "subtitles/vobsub/SubFile"}},
         {"sharedManager", {"subtitles/JHStringEncodings"}},
         {"sharedOSDOverlay", {"overlays/QVOSDOverlay"}},
         {"sharedFeedbackOverlay", {"overlays/QVFeedbackOverlay"}},

@@ -35,6 +35,13 @@ TEST(ToolProcess, limits_end_the_program_and_what_it_started) {
     stopped.mayGoOn = [&] { return ++asked < 3; };
     EXPECT_EQ(platform::runTool(stopped), 128 + SIGKILL);
 
+    std::stop_source source;
+    auto unwanted = shell("sleep 1000 & echo begun; wait");
+    unwanted.stop = source.get_token();
+    unwanted.output = [&](const QByteArray&) { source.request_stop(); };
+    EXPECT_EQ(platform::runTool(unwanted), 128 + SIGKILL);
+    EXPECT_EQ(platform::runTool(unwanted), std::nullopt) << "begun all the same";
+
     auto writer = shell("head -c 200000 /dev/zero > file");
     writer.folder = folder.path();
     writer.fileSize = 100'000;

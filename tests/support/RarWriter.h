@@ -22,5 +22,9 @@ struct RarEntry {
 enum class RarFormat { rar4, rar5 };
 
 QByteArray rarArchive(RarFormat format, const std::vector<RarEntry>& entries);
+/// The volumes that one stored entry is spread over. Further volumes of an old numbering are called film.r00, film.r01
+/// and so on after film.rar; only the older format has it. Those of the new one are called film.part1.rar and so on.
+enum class RarNumbering { old, parts };
+std::vector<QByteArray> rarVolumes(RarFormat format, RarNumbering numbering, const RarEntry& entry, int count);
 /// One whose very list of entries cannot be read without a password.
 QByteArray rarArchiveWithEncryptedHeaders(RarFormat format);

@@ -9,6 +9,7 @@
 #include "tools/unrar/ArchiveListing.h"
 #include "tools/unrar/HandOver.h"
 #include "tools/unrar/Limits.h"
+#include "tools/unrar/Volumes.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,24 +52,6 @@ platform::ToolRequest limited(const QString& program, const QStringList& argumen
     request.memory = limits::memory;
     request.fileSize = limits::bytes;
     return request;
-}
-
-/// Links to the archive, and to the further volumes of an old one, under names of their own: by the archive's own name
-/// other archives beside it would be taken for its volumes.
-QString linkArchive(const QString& archive, const QString& scratch) {
-    constexpr int maximumVolumes = 200;
-    const QFileInfo file(archive);
-    const QString link = scratch + QStringLiteral("/archive.rar");
-    QFile::link(file.absoluteFilePath(), link);
-    const QString base = file.absolutePath() + u'/' + file.completeBaseName();
-    for (int volume = 0; volume < maximumVolumes; ++volume) {
-        const QString extension =
-            QStringLiteral(".%1%2").arg(u"rs"[volume / 100]).arg(volume % 100, 2, 10, QChar(u'0'));
-        if (!QFileInfo(base + extension).isFile())
-            break;
-        QFile::link(base + extension, scratch + QStringLiteral("/archive") + extension);
-    }
-    return link;
 }
 
 ArchiveListing listingOf(const QString& archive, const QString& scratch) {
@@ -134,7 +117,7 @@ int run(const QString& archive, const QString& destination) {
     if (!scratch)
         return refuse(QStringLiteral("the folder cannot be written"));
     const QString extracted = scratch->path() + QStringLiteral("/extracted");
-    const QString link = linkArchive(archive, scratch->path());
+    const QString link = linkVolumes(archive, scratch->path());
     const ArchiveListing listing = listingOf(link, scratch->path());
     if (!listing.error.isEmpty())
         return refuse(listing.error);
