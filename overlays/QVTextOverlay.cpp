@@ -45,10 +45,10 @@ float QVTextOverlay::smallestFontSize() const {
     return static_cast<float>(environment().settings.integerForKey(kQVOverlayTextFontSizeMin));
 }
 
-void QVTextOverlay::setText(const QString& text) {
-    if (text == _view.text())
+void QVTextOverlay::setText(const platform::StyledText& text) {
+    if (text == _view.styledText())
         return;
-    trace("%@: Set Text: %@", logName(), text);
+    trace("%@: Set Text: %@", logName(), text.text);
     _view.setText(text);
     sizeToFit();
 }

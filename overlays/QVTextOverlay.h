@@ -25,7 +25,7 @@ public:
 
     const QString& text() const { return _view.text(); }
     /// A null text is the empty one. The text that is shown already costs nothing.
-    void setText(const QString& text);
+    void setText(const QString& text) { setText(platform::StyledText{text, {}}); }
 
     /// As the text is drawn: its size is in points of the screen.
     QFont textFont() const { return _view.font(); }
@@ -66,6 +66,10 @@ protected:
     void postFadeOut() override;
     void marginsChanged() override;
 
+    /// The same for a text with runs.
+    void setText(const platform::StyledText& text);
+    /// Counts from the next text on.
+    void setLineSide(platform::LineSide side) { _view.setLineSide(side); }
     const QVTextView& textView() const { return _view; }
 
 private:

@@ -3,7 +3,9 @@
 
 #include "overlays/PictureGeometry.h"
 #include "overlays/SubtitlePlacement.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/window/Fonts.h"
+#include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/QVSubtitle.h"
 
@@ -25,16 +27,29 @@ QVTextSubView::QVTextSubView(const Environment& environment, platform::Window& p
     recalculateFontSize();
 }
 
-bool QVTextSubView::hasText() const {
-    return _subtitle && !_subtitle->text().isEmpty();
+SubtitleMarkup::Cue QVTextSubView::drawn() const {
+    if (!_subtitle)
+        return {};
+    if (!environment().settings.boolForKey(kQVSubtitlesMarkup))
+        return {{_subtitle->text(), {}}, {}};
+    return SubtitleMarkup::read(_subtitle->text());
+}
+
+void QVTextSubView::draw(const SubtitleMarkup::Cue& cue) {
+    const bool moves = cue.place != _place;
+    _place = cue.place;
+    setLineSide(_place ? _place->side : platform::LineSide::middle);
+    setText(cue.text);
+    if (moves)
+        contentSizeChanged();
 }
 
 void QVTextSubView::setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) {
     if (subtitle == _subtitle)
         return;
     _subtitle = subtitle;
-    if (hasText()) {
-        setText(_subtitle->text());
+    if (const SubtitleMarkup::Cue cue = drawn(); !cue.text.text.isEmpty()) {
+        draw(cue);
         show();
     } else {
         hide();
@@ -42,7 +57,7 @@ void QVTextSubView::setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) {
 }
 
 void QVTextSubView::show() {
-    if (hasText())
+    if (!drawn().text.text.isEmpty())
         QVTextOverlay::show();
 }
 
@@ -70,7 +85,7 @@ void QVTextSubView::contentSizeChanged() {
         SubtitlePlacement::Ground ground{parentWindow()->frame(), scaledPadding(), _picture.pictureFrame(), {}};
         if (_picture.isControllerBarVisible())
             ground.bar = _picture.getControllerHeight();
-        rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground);
+        rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground, _place);
     }
     applyNewOverlayFrame(rect, "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");
 }
@@ -78,4 +93,14 @@ void QVTextSubView::contentSizeChanged() {
 void QVTextSubView::movieViewSizeChanged(const QVMovieViewSizeChangedNotification&) {
     recalculateFontSize();
     contentSizeChanged();
+}
+
+bool QVTextSubView::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key != kQVSubtitlesMarkup)
+        return QVTextOverlay::preferencesChanged(notification);
+    if (const SubtitleMarkup::Cue cue = drawn(); !cue.text.text.isEmpty())
+        draw(cue);
+    else
+        hide();
+    return true;
 }

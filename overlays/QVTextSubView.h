@@ -2,11 +2,13 @@
 #pragma once
 
 #include "overlays/QVTextOverlay.h"
+#include "overlays/SubtitleMarkup.h"
 #include "subtitles/SubtitleView.h"
 
 class PictureGeometry;
 
-/// Shows the cues of a text track: on the picture, scaled with it, clear of the controller bar. Main thread.
+/// Shows the cues of a text track: on the picture, scaled with it, clear of the controller bar, and with what the
+/// markup in them asks for (QVSubtitlesMarkup). Main thread.
 class QVTextSubView final : public QVTextOverlay, public SubtitleView {
 public:
     /// Hidden and without a cue. The picture outlives the view.
@@ -23,14 +25,18 @@ public:
     void recalculateFontSize() override;
     void contentSizeChanged() override;
     void movieViewSizeChanged(const QVMovieViewSizeChangedNotification& notification) override;
+    bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
 
 protected:
     const char* logName() const override { return "QVTextSubView"; }
     void postFadeOut() override;
 
 private:
-    bool hasText() const;
+    /// What there is to draw of the cue.
+    SubtitleMarkup::Cue drawn() const;
+    void draw(const SubtitleMarkup::Cue& cue);
 
     std::shared_ptr<QVSubtitle> _subtitle;
     const PictureGeometry& _picture;
+    std::optional<SubtitlePlacement::Place> _place; // that the cue asks for
 };

@@ -11,6 +11,30 @@ constexpr float kQVAspect4x3 = 1.3333334F;
 constexpr float kQVAspect16x9 = 1.7777778F;
 constexpr float wideFrom = 1.5F;
 
+/// The part of the picture that the parent shows, on the screen; all of the parent without one.
+platform::Rect shownPicture(const SubtitlePlacement::Ground& ground) {
+    const platform::Rect shown = ground.picture.translated(ground.parent.origin()).intersected(ground.parent);
+    return shown.isEmpty() ? ground.parent : shown;
+}
+
+/// The y of what stands in a row above the lowest.
+double raised(const platform::Rect& rect, std::uint32_t alignment, const SubtitlePlacement::Ground& ground,
+              SubtitlePlacement::Place::Row row) {
+    const platform::Rect shown = shownPicture(ground);
+    if (row == SubtitlePlacement::Place::Row::middle)
+        return shown.y() + (shown.height() - rect.height()) * 0.5;
+    const bool keepsGap = (alignment & OverlayPlacement::verticalMask) == 0x20;
+    const std::uint32_t top = OverlayPlacement::insideParent | 0x10;
+    return OverlayPlacement::verticalOrigin(top, shown, rect.height(), keepsGap ? ground.padding : 0);
+}
+
+/// The x at a side of the picture, within the parent.
+double aside(const platform::Rect& rect, const SubtitlePlacement::Ground& ground, platform::LineSide side) {
+    const std::uint32_t field = side == platform::LineSide::left ? 1 : side == platform::LineSide::right ? 2 : 0;
+    const double x = OverlayPlacement::horizontalOrigin(field, shownPicture(ground), rect.width(), ground.padding);
+    return std::max(ground.parent.x(), std::min(x, ground.parent.maxX() - rect.width()));
+}
+
 } // namespace
 
 namespace SubtitlePlacement {
@@ -20,7 +44,8 @@ TextSize textSize(double pictureWidth, double fitWidth, float smallest, float la
     return {std::max(smallest, static_cast<float>(ratio * static_cast<double>(largest))), ratio};
 }
 
-platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground) {
+platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground,
+                      const std::optional<Place>& place) {
     const double lowest = ground.parent.y();
     const double viewBottom = lowest + ground.picture.y();
     const double edge = std::max(lowest, viewBottom + ground.bar.value_or(0));
@@ -37,11 +62,12 @@ platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const
             return lowest;
         }
     };
-    double y = wanted();
+    double y = !place || place->row == Place::Row::bottom ? wanted() : raised(rect, alignment, ground, place->row);
     if (y < lowest)
         y = edge;
     y = std::max(lowest, std::min(y, ground.parent.maxY() - rect.height()));
-    const double x = OverlayPlacement::horizontalOrigin(alignment, ground.parent, rect.width(), ground.padding);
+    const double x = place ? aside(rect, ground, place->side)
+                           : OverlayPlacement::horizontalOrigin(alignment, ground.parent, rect.width(), ground.padding);
     return {x, y, rect.width(), rect.height()};
 }
 

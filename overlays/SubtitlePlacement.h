@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/base/Rect.h"
+#include "platform/window/TextLayout.h"
 
 #include <cstdint>
 #include <optional>
@@ -27,11 +28,22 @@ struct Ground {
     std::optional<double> bar;
 };
 
+/// A place on the picture that a subtitle asks for itself.
+struct Place {
+    enum class Row { bottom, middle, top };
+    Row row = Row::bottom;
+    platform::LineSide side = platform::LineSide::middle;
+
+    bool operator==(const Place&) const = default;
+};
+
 /// The rectangle moved to where an alignment code puts it. The horizontal field is that of every overlay; the vertical
 /// one knows below the picture (0x00), on its bottom edge (0x10) and at the bottom (0x20), which is the padding above
 /// that edge. The edge of the picture is that of the part that the parent shows, above the bar. What has no place below
-/// the picture stands on its edge; nothing stands above the parent's top edge.
-platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground);
+/// the picture stands on its edge; nothing stands above the parent's top edge. A place asked for comes before the code,
+/// which still says how far from the picture's top or bottom edge a subtitle stands; at a side it keeps the padding.
+platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const Ground& ground,
+                      const std::optional<Place>& place = {});
 
 /// Width by height of the frame that the bitmaps of a movie stand on: that of a wide or of a narrow television,
 /// whichever the movie's own is nearer to.

@@ -35,6 +35,7 @@ inline const QString kQVSubtitlesDefaultEncoding = QStringLiteral("QVSubtitlesDe
 inline const QString kQVSubtitlesEncodingsList = QStringLiteral("QVSubtitlesEncodingsList");
 inline const QString kQVSubtitlesEncodingsListSize = QStringLiteral("QVSubtitlesEncodingsListSize");
 inline const QString kQVSubtitlesDefaultFPS = QStringLiteral("QVSubtitlesDefaultFPS");
+inline const QString kQVSubtitlesMarkup = QStringLiteral("QVSubtitlesMarkup");
 inline const QString kQVSubtitlesColor = QStringLiteral("QVSubtitlesColor");
 inline const QString kQVSubtitlesFontName = QStringLiteral("QVSubtitlesFontName");
 inline const QString kQVSubtitlesSizeMin = QStringLiteral("QVSubtitlesSizeMin");

@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 #include <QTextOption>
 
 #include <algorithm>
@@ -13,26 +14,108 @@ namespace platform {
 
 namespace {
 
-// What no screen shows.
-constexpr qsizetype maximumCharacters = 4096;
+/// What no screen shows.
 constexpr double maximumSide = 8192;
 
 /// Pixels from which on glyphs are filled as outlines, not copied from a cache.
 constexpr double sizeOfOutlines = 64;
 
+/// The formats of the runs that reach into a paragraph.
+QList<QTextLayout::FormatRange> formatsOf(const std::vector<TextRun>& runs, qsizetype start, qsizetype length) {
+    QList<QTextLayout::FormatRange> formats;
+    for (const TextRun& run : runs) {
+        const qsizetype from = std::max(run.start, start);
+        const qsizetype end = std::min(run.start + run.length, start + length);
+        if (from >= end)
+            continue;
+        QTextCharFormat format;
+        if (run.faces.testFlag(TextFace::italic))
+            format.setFontItalic(true);
+        if (run.faces.testFlag(TextFace::bold))
+            format.setFontWeight(QFont::Bold);
+        format.setFontUnderline(run.faces.testFlag(TextFace::underlined));
+        format.setFontStrikeOut(run.faces.testFlag(TextFace::struckOut));
+        if (run.color.isValid())
+            format.setForeground(run.color);
+        formats.append({static_cast<int>(from - start), static_cast<int>(end - from), format});
+    }
+    return formats;
+}
+
+/// The lines under and through glyphs that stand beside each other.
+void drawDecorations(QPainter& painter, const QGlyphRun& run, const QPointF& origin) {
+    const QList<QPointF> positions = run.positions();
+    if (positions.isEmpty() || !(run.underline() || run.strikeOut()))
+        return;
+    const QRawFont font = run.rawFont();
+    const auto advances = font.advancesForGlyphIndexes(run.glyphIndexes(), QRawFont::UseDesignMetrics);
+    double left = positions.front().x(), right = left;
+    for (qsizetype i = 0; i < std::min(positions.size(), advances.size()); ++i) {
+        left = std::min(left, positions[i].x());
+        right = std::max(right, positions[i].x() + advances[i].x());
+    }
+    const double thickness = std::max(1.0, font.lineThickness());
+    const auto drawAt = [&](double y) {
+        painter.fillRect(QRectF(origin.x() + left, origin.y() + positions.front().y() + y, right - left, thickness),
+                         painter.pen().color());
+    };
+    if (run.underline())
+        drawAt(font.underlinePosition());
+    if (run.strikeOut())
+        drawAt(-font.ascent() / 3);
+}
+
 /// The time to fill an outline grows with the square of the edges beside each other: a line at once takes several times
 /// as long as its glyphs.
-void drawGlyphByGlyph(QPainter& painter, const QTextLine& line, const QPointF& origin) {
-    const QList<QGlyphRun> runs = line.glyphRuns();
+void drawGlyphByGlyph(QPainter& painter, const QList<QGlyphRun>& runs, const QPointF& origin) {
     for (const QGlyphRun& run : runs) {
         const QList<quint32> glyphs = run.glyphIndexes();
         const QList<QPointF> positions = run.positions();
         QGlyphRun single = run;
+        single.setFlags({});
         for (qsizetype i = 0; i < glyphs.size(); ++i) {
             single.setRawData(&glyphs[i], &positions[i], 1);
             painter.drawGlyphRun(origin, single);
         }
+        drawDecorations(painter, run, origin);
     }
+}
+
+/// The same for a line with runs: glyphs alone have no colour.
+void drawGlyphByGlyph(QPainter& painter, const QTextLine& line, const QPointF& origin,
+                      const QList<QTextLayout::FormatRange>& formats) {
+    const QPen pen = painter.pen();
+    const int end = line.textStart() + line.textLength();
+    const auto drawPart = [&](int from, int to, const QPen& with) {
+        if (from >= to)
+            return;
+        painter.setPen(with);
+        drawGlyphByGlyph(painter, line.glyphRuns(from, to - from), origin);
+    };
+    int at = line.textStart();
+    for (const QTextLayout::FormatRange& range : formats) {
+        const int from = std::clamp(range.start, at, end);
+        const int to = std::clamp(range.start + range.length, from, end);
+        drawPart(at, from, pen);
+        const QBrush color = range.format.foreground();
+        drawPart(from, to, color.style() == Qt::NoBrush ? pen : QPen(color.color()));
+        at = to;
+    }
+    drawPart(at, end, pen);
+    painter.setPen(pen);
+}
+
+/// Absolute: the side is that of the screen, whichever way the text runs.
+Qt::Alignment alignmentOf(LineSide side) {
+    switch (side) {
+    case LineSide::left:
+        return Qt::AlignLeft | Qt::AlignAbsolute;
+    case LineSide::right:
+        return Qt::AlignRight | Qt::AlignAbsolute;
+    case LineSide::middle:
+        break;
+    }
+    return Qt::AlignHCenter;
 }
 
 double side(double points) {
@@ -41,7 +124,7 @@ double side(double points) {
 
 } // namespace
 
-QString displayableText(const QString& text) {
+QString displayableText(const QString& text, qsizetype maximumCharacters) {
     QString result;
     result.reserve(std::min(text.size(), maximumCharacters));
     for (qsizetype at = 0; at < text.size() && result.size() < maximumCharacters; ++at) {
@@ -68,28 +151,32 @@ QString displayableText(const QString& text) {
     return result;
 }
 
-TextLayout::TextLayout(const QString& text, const QFont& font, const QSizeF& container, LongLines longLines)
+TextLayout::TextLayout(const StyledText& text, const QFont& font, const QSizeF& container, LongLines longLines,
+                       LineSide lineSide)
     : _container(side(container.width()), side(container.height()))
     , _longLines(longLines)
+    , _lineSide(lineSide)
     , _size(0, 0) {
-    const QString displayed = displayableText(text);
+    const QString displayed = displayableText(text.text);
     qsizetype start = 0;
     while (!_full && start <= displayed.size()) {
         const qsizetype found = displayed.indexOf(u'\n', start);
         const qsizetype end = found < 0 ? displayed.size() : found;
-        addParagraph(displayed.mid(start, end - start), font);
+        addParagraph(displayed.mid(start, end - start), font, formatsOf(text.runs, start, end - start));
         start = end + 1;
     }
     _size = QSizeF(std::min(std::ceil(_size.width()), _container.width()),
                    std::min(std::ceil(_size.height()), _container.height()));
 }
 
-void TextLayout::addParagraph(const QString& text, const QFont& font) {
+void TextLayout::addParagraph(const QString& text, const QFont& font, const QList<QTextLayout::FormatRange>& formats) {
     const bool shortens = _longLines == LongLines::shortened;
     const QString shown = shortens ? QFontMetricsF(font).elidedText(text, Qt::ElideMiddle, _container.width()) : text;
     Paragraph paragraph{std::make_unique<QTextLayout>(shown, font)};
     QTextLayout& layout = *paragraph.layout;
-    QTextOption option(Qt::AlignHCenter);
+    if (!formats.isEmpty() && shown.size() == text.size())
+        layout.setFormats(formats);
+    QTextOption option(alignmentOf(_lineSide));
     option.setWrapMode(shortens ? QTextOption::NoWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setUseDesignMetrics(true);
     layout.setTextOption(option);
@@ -110,16 +197,25 @@ void TextLayout::addParagraph(const QString& text, const QFont& font) {
 }
 
 void TextLayout::draw(QPainter& painter, double width) const {
-    const QPointF origin((width - _container.width()) / 2, 0);
+    // Of the container, which holds lines that stand aside at its own side.
+    const double left = (width - _container.width()) / 2;
+    const double surplus = (_container.width() - _size.width()) / 2;
+    const QPointF origin(_lineSide == LineSide::left    ? left + surplus
+                         : _lineSide == LineSide::right ? left - surplus
+                                                        : left,
+                         0);
     const double scale = painter.deviceTransform().m11();
     for (const Paragraph& paragraph : _paragraphs) {
         const bool largeGlyphs = paragraph.layout->font().pixelSize() * scale >= sizeOfOutlines;
+        const QList<QTextLayout::FormatRange> formats = paragraph.layout->formats();
         for (int index = 0; index < paragraph.lines; ++index) {
             const QTextLine line = paragraph.layout->lineAt(index);
-            if (largeGlyphs)
-                drawGlyphByGlyph(painter, line, origin);
-            else
+            if (!largeGlyphs)
                 line.draw(&painter, origin);
+            else if (formats.isEmpty())
+                drawGlyphByGlyph(painter, line.glyphRuns(), origin);
+            else
+                drawGlyphByGlyph(painter, line, origin, formats);
         }
     }
 }

@@ -19,7 +19,7 @@ int pictureSide(double points, double pixelRatio) {
 
 } // namespace
 
-void TextView::setText(const QString& text) {
+void TextView::setText(const StyledText& text) {
     if (text == _text)
         return;
     _text = text;
@@ -55,6 +55,13 @@ void TextView::setLongLines(LongLines longLines) {
     layoutChanged();
 }
 
+void TextView::setLineSide(LineSide side) {
+    if (side == _lineSide)
+        return;
+    _lineSide = side;
+    layoutChanged();
+}
+
 void TextView::setLinePadding(double points) {
     if (points == _linePadding)
         return;
@@ -82,7 +89,7 @@ void TextView::paintingChanged() {
 const TextLayout& TextView::layout() {
     if (!_layout) {
         const QSizeF lines(_container.width() - 2 * _linePadding, _container.height());
-        _layout = std::make_unique<TextLayout>(_text, _font, lines, _longLines);
+        _layout = std::make_unique<TextLayout>(_text, _font, lines, _longLines, _lineSide);
     }
     return *_layout;
 }
@@ -122,7 +129,7 @@ QImage TextView::painted(double pixelRatio) {
 void TextView::draw(QPainter& painter, const Rect&) {
     const QTransform toDevice = painter.deviceTransform();
     const double ratio = toDevice.m11();
-    if (!(ratio > 0) || ratio > maximumRatio || !toDevice.isInvertible() || _text.isEmpty())
+    if (!(ratio > 0) || ratio > maximumRatio || !toDevice.isInvertible() || _text.text.isEmpty())
         return;
     const int margin = shadowPixels(ratio);
     if (_picture.isNull() || _pictureRatio != ratio ||

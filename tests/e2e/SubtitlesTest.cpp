@@ -18,8 +18,8 @@ const char* const tmPlayer = "00:00:01:First words\n00:00:05:A second cue|of two
 class Subtitles : public SubtitledMovie {
 protected:
     // The white of letters in the lower quarter of the screen, as a mask; empty without any.
-    std::vector<bool> letters() {
-        const Region part{0, screenHeight * 3 / 4, screenWidth, screenHeight / 4};
+    std::vector<bool> letters() { return letters({0, screenHeight * 3 / 4, screenWidth, screenHeight / 4}); }
+    std::vector<bool> letters(const Region& part) {
         const Picture picture = probe.picture(part);
         std::vector<bool> mask;
         mask.reserve(picture.pixels.size());
@@ -81,6 +81,27 @@ TEST_F(Subtitles, each_format_shows_its_cues_at_their_times_and_none_between) {
         EXPECT_TRUE(one == first && two == second) << "the same texts look different";
     }
     EXPECT_NE(first, second);
+}
+
+TEST_F(Subtitles, markup_acts_and_is_not_shown_as_letters) {
+    const auto cueOfAll = [](const std::string& text) { return "1\n00:00:00,000 --> 00:00:09,000\n" + text + "\n\n"; };
+    startStanding(movie({{"a.srt", cueOfAll("Words &amp; more")},
+                         {"b.srt", cueOfAll("<i>Words &amp; more</i>")},
+                         {"c.srt", cueOfAll("{\\an8}<b>Words</b> &amp; more")}}));
+    EXPECT_TRUE(logs("QVTextSubView: Set Text: Words & more"));
+    const std::vector<bool> upright = cue();
+    ASSERT_FALSE(upright.empty());
+    probe.tap(XK_s);
+    EXPECT_TRUE(waitUntil([&] { return !letters().empty() && letters() != upright; }))
+        << "the italic ones are the same";
+    const auto count = [](const std::vector<bool>& mask) {
+        return static_cast<double>(std::ranges::count(mask, true));
+    };
+    EXPECT_NEAR(count(cue()), count(upright), count(upright) / 4) << "more is shown than the words";
+    probe.tap(XK_s);
+    EXPECT_TRUE(noCue()) << "stands below";
+    EXPECT_FALSE(letters({screenWidth / 4, 0, screenWidth / 2, screenHeight / 4}).empty()) << "does not stand above";
+    ASSERT_TRUE(quitsCleanly());
 }
 
 TEST_F(Subtitles, a_playing_movie_shows_the_cue_of_the_moment) {

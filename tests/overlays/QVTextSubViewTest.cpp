@@ -77,6 +77,35 @@ TEST_F(TextSubView, display_that_is_switched_on_shows_a_cue_and_never_an_empty_p
     EXPECT_EQ(view.text(), "one");
 }
 
+TEST_F(TextSubView, markup_moves_and_styles_a_text_at_once_when_the_setting_changes) {
+    const auto setMarkup = [&](bool on) {
+        rig.settings.defaults().setBool(on, kQVSubtitlesMarkup);
+        rig.settings.notifications.post(QVPreferencesChangedNotification{kQVSubtitlesMarkup, {}});
+    };
+    const auto bottom = [&] { return view.frame().y() - picture.frame.y(); };
+    EXPECT_TRUE(rig.settings.defaults().boolForKey(kQVSubtitlesMarkup)) << "not registered";
+    view.setSubtitle(cue("{\\an8}<i>one</i> &amp; two"));
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.text(), "one & two");
+    const double top = picture.frame.height() - view.frame().height();
+    EXPECT_EQ(bottom(), top);
+    setMarkup(false);
+    EXPECT_EQ(view.text(), "{\\an8}<i>one</i> &amp; two");
+    EXPECT_EQ(bottom(), 0);
+    setMarkup(true);
+    EXPECT_EQ(bottom(), top);
+    view.setSubtitle(cue("one & two"));
+    EXPECT_EQ(bottom(), 0) << "the same letters at another place";
+    view.setSubtitle(cue("{\\an8}<b></b>"));
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0) << "nothing is left to draw";
+    view.show();
+    EXPECT_FALSE(view.isVisible());
+    setMarkup(false);
+    view.show();
+    EXPECT_TRUE(view.isVisible());
+}
+
 TEST_F(TextSubView, the_letters_follow_the_size_of_the_picture) {
     view.setSubtitle(cue("some words"));
     const double large = view.frame().height();

@@ -45,6 +45,37 @@ TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
 }
 
+TEST(SubtitlePlacement, a_place_asked_for_is_one_of_the_picture) {
+    using platform::LineSide;
+    using enum Place::Row;
+    const platform::Rect parent(100, 50, 1000, 800);
+    const platform::Rect banded(0, 100, 1000, 600), beyond(-500, -400, 2000, 1600), narrow(400, 0, 200, 800);
+    const struct {
+        const char* name;
+        Place place;
+        std::uint32_t alignment;
+        platform::Rect picture;
+        double x, y;
+    } cases[] = {
+        {"top", {top, LineSide::middle}, 0x120, banded, 400, 686},
+        {"top, on the edge", {top, LineSide::middle}, 0x110, banded, 400, 710},
+        {"top left", {top, LineSide::left}, 0x120, banded, 124, 686},
+        {"middle right", {middle, LineSide::right}, 0x120, banded, 676, 430},
+        {"bottom, above the bar", {}, 0x120, banded, 400, 190},
+        {"bottom left of what stands at the right", {bottom, LineSide::left}, 0x122, banded, 124, 190},
+        {"top of a picture beyond the screen", {top, LineSide::right}, 0x120, beyond, 676, 786},
+        {"left of a picture that is too narrow for it", {top, LineSide::right}, 0x120, narrow, 276, 786},
+        {"top of no picture", {top, LineSide::middle}, 0x120, {}, 400, 786},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), c.alignment, {parent, 24, c.picture, 16}, c.place),
+                  platform::Rect(c.x, c.y, 400, 40))
+            << c.name;
+    EXPECT_EQ(placed(platform::Rect(0, 0, 980, 900), 0x120, {parent, 24, narrow, 16}, Place{top, LineSide::left}),
+              platform::Rect(120, 50, 980, 900))
+        << "what is too large stays on the screen";
+}
+
 TEST(SubtitlePlacement, a_bitmap_across_the_bar_moves_onto_it) {
     const platform::Rect view(100, 130, 1000, 516);
     for (const auto& [y, moved] : {std::pair{100, 146}, {140, 146}, {146, 146}, {200, 200}, {89, 89}, {90, 90}})

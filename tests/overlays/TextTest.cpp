@@ -22,7 +22,7 @@ QFont font(float size = 20) {
 }
 
 QSizeF sizeOf(const QString& text, double width = 1e7, double height = 1e7) {
-    return TextLayout(text, font(), QSizeF(width, height)).size();
+    return TextLayout({text, {}}, font(), QSizeF(width, height)).size();
 }
 
 QImage drawn(TextView& view, double ratio = 1) {
@@ -111,6 +111,77 @@ TEST(TextView, lines_stand_in_the_middle_at_every_pixel_ratio) {
     }
 }
 
+// Letters are filled as outlines from some size on: each test is made in a size below and above it.
+TEST(TextView, runs_are_drawn_in_their_faces_and_colours) {
+    using enum TextFace;
+    const auto red = [](const QColor& color) { return color.alpha() > 150 && color.red() > 150 && color.green() < 90; };
+    const auto white = [](const QColor& color) { return color.alpha() > 150 && color.green() > 150; };
+    for (const double ratio : {1.0, 3.0}) {
+        SCOPED_TRACE(ratio);
+        TextView view;
+        view.setFont(font(28));
+        view.setTextColor(Qt::white);
+        const auto fitted = [&](const QString& text, std::vector<TextRun> runs) {
+            view.setText(StyledText{text, std::move(runs)});
+            view.sizeToFit();
+            return drawn(view, ratio);
+        };
+        const QImage plain = fitted("HH HH\nHH HH", {});
+        const QImage colored = fitted("HH HH\nHH HH", {{3, 5, {}, Qt::red}});
+        EXPECT_EQ(colored.size(), plain.size());
+        const QRect words = inkOf(plain);
+        EXPECT_TRUE(nearlyEqual(extent(colored, red), words)) << "right above, left below";
+        EXPECT_TRUE(nearlyEqual(extent(colored, white), words)) << "left above, right below";
+        const QImage above = colored.copy(0, 0, colored.width(), colored.height() / 2);
+        EXPECT_LT(extent(above, white).right(), words.center().x());
+        EXPECT_GT(extent(above, red).left(), words.center().x() - 5 * ratio);
+
+        const QRect letters = inkOf(fitted("HH HH", {}));
+        const QRect line = extent(fitted("HH HH", {{0, 2, underlined, Qt::red}, {3, 2, underlined, {}}}), red);
+        EXPECT_GT(line.bottom(), letters.bottom() + ratio);
+        EXPECT_LT(line.right(), letters.center().x());
+        const auto inkBetween = [&](TextFaces faces) { // of two letters, in their middle
+            const QImage image = fitted("l      l", {{0, 8, faces, {}}});
+            return inkOf(image.copy(image.width() / 2 - 2, 0, 4, image.height())).height() / ratio;
+        };
+        EXPECT_EQ(inkBetween({}), 0);
+        EXPECT_NEAR(inkBetween(underlined), 2, 1.5);
+        EXPECT_NEAR(inkBetween(struckOut), 2, 1.5);
+        EXPECT_GT(inkBetween(underlined | struckOut), 8);
+        EXPECT_GT(inkOf(fitted("HHHH", {{0, 4, bold, {}}})).width(), inkOf(fitted("HHHH", {})).width());
+        const auto slant = [&](TextFaces faces) { // of a stem from its foot to its head
+            const QImage image = fitted("l", {{0, 1, faces, {}}});
+            const QRect stem = inkOf(image);
+            return inkOf(image.copy(0, 0, image.width(), stem.center().y())).right() -
+                   inkOf(image.copy(0, stem.center().y(), image.width(), stem.height())).right();
+        };
+        EXPECT_LE(slant({}), 0);
+        EXPECT_GT(slant(italic), 0);
+    }
+}
+
+TEST(TextView, lines_stand_at_the_side_that_is_asked_for) {
+    for (const double ratio : {1.0, 4.0}) {
+        TextView view;
+        view.setFont(font());
+        view.setTextColor(Qt::white);
+        view.setText("HHHHHHHH\nHH");
+        view.setContainerSize({1000, 1000});
+        const auto lowerLine = [&](LineSide side) {
+            view.setLineSide(side);
+            view.sizeToFit();
+            const QImage image = drawn(view, ratio);
+            const QRect all = inkOf(image);
+            EXPECT_NEAR(all.center().x(), image.width() / 2.0, 3 * ratio);
+            return inkOf(image.copy(all.left(), image.height() / 2, all.width(), image.height() / 2));
+        };
+        const double width = 8 * lowerLine(LineSide::left).width() / 2.0;
+        EXPECT_LE(lowerLine(LineSide::left).left(), 2 * ratio);
+        EXPECT_NEAR(lowerLine(LineSide::middle).center().x(), width / 2, 8 * ratio);
+        EXPECT_NEAR(lowerLine(LineSide::right).right(), width, 12 * ratio);
+    }
+}
+
 TEST(TextView, the_shadow_falls_where_its_offset_points_in_its_colour) {
     TextView view;
     view.setFont(font(40));
@@ -154,7 +225,7 @@ TEST(Shadow, a_blur_keeps_its_weight_and_its_middle) {
 
 TEST(TextLayout, a_long_line_may_lose_its_middle_instead_of_breaking) {
     const auto shortened = [](const QString& text, double width) {
-        return TextLayout(text, font(), QSizeF(width, 1e7), LongLines::shortened).size();
+        return TextLayout({text, {}}, font(), QSizeF(width, 1e7), LongLines::shortened).size();
     };
     const QSizeF line = sizeOf("two words");
     EXPECT_EQ(shortened("two words", line.width()), line);
