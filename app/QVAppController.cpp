@@ -253,6 +253,19 @@ void QVAppController::preferencesChanged(const QVPreferencesChangedNotification&
 
 platform::ApplicationDelegate::TerminateReply QVAppController::applicationShouldTerminate() {
     const TraceScope scope("-[QVAppController applicationShouldTerminate:]");
+    keepForNextLaunch();
+    if (_with.view.isPlaying())
+        _with.view.stop();
+    _with.window.setTerminating(true);
+    _with.window.hide();
+    if (const auto screen = screenOf(_with.window, _with.desktop);
+        screen && _savedBrightness != brightnessOf(_with.desktop, *screen))
+        setBrightnessOf(_with.desktop, *screen, _savedBrightness);
+    return TerminateReply::later;
+}
+
+/// What this run leaves to the next one, in the settings.
+void QVAppController::keepForNextLaunch() {
     _is_terminating = true;
     _with.files.end();
     if (_environment.settings.boolForKey(kQVVolumeSave)) {
@@ -266,14 +279,14 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
         _with.steps.saveState();
     if (_is_display_restored && _environment.settings.boolForKey(kQVOSDStateSave))
         _environment.settings.setInteger(_with.display.displayType(), kQVOSDStateSavedType);
-    if (_with.view.isPlaying())
-        _with.view.stop();
-    _with.window.setTerminating(true);
-    _with.window.hide();
-    if (const auto screen = screenOf(_with.window, _with.desktop);
-        screen && _savedBrightness != brightnessOf(_with.desktop, *screen))
-        setBrightnessOf(_with.desktop, *screen, _savedBrightness);
-    return TerminateReply::later;
+}
+
+void QVAppController::applicationLostDisplay() {
+    const TraceScope scope("-[QVAppController applicationLostDisplay:]");
+    // Whoever was told to end before has kept it already.
+    if (!_is_terminating)
+        keepForNextLaunch();
+    _environment.settings.synchronize();
 }
 
 void QVAppController::applicationWillTerminate() {

@@ -73,6 +73,7 @@ public:
     void applicationWillResignActive() override;
     void applicationDidChangeScreenParameters() override;
     TerminateReply applicationShouldTerminate() override;
+    void applicationLostDisplay() override;
     void applicationWillTerminate() override;
     void windowDidBecomeKey(platform::Window& window) override;
     void windowDidResignKey(platform::Window& window) override;
@@ -92,6 +93,7 @@ public:
     void cycleDisplays(std::int32_t direction) override;
 
 private:
+    void keepForNextLaunch();
     void cleanup();
     // The steps of finishLaunching, in their order.
     void runFirstTimeConfig();

@@ -23,6 +23,8 @@ public:
     enum class TerminateReply { cancel, now, later };
     /// With `later`, the application answers by Desktop::replyToApplicationShouldTerminate.
     virtual TerminateReply applicationShouldTerminate() = 0;
+    /// There is nothing to draw on any longer, and the process ends when this returns: nobody is asked.
+    virtual void applicationLostDisplay() = 0;
     /// The event loop has ended.
     virtual void applicationWillTerminate() = 0;
 };

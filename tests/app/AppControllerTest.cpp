@@ -508,6 +508,22 @@ TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_
     }
 }
 
+TEST(AppController, without_a_screen_it_keeps_the_same_and_draws_nothing) {
+    AppRig rig({{kQVVolumeSave, true}, {kQVOSDStateSave, true}, {kQVOnLaunchDefaultAction, 1}});
+    rig.app.openFile(rig.file("a.mp4"));
+    rig.launch();
+    rig.events.clear();
+    rig.view.setVolume(0.25F);
+    rig.objects->display().setDisplayType(4);
+    for (int time = 0; time < 2; ++time) {
+        rig.app.applicationLostDisplay();
+        EXPECT_EQ(rig.events, QStringList{"save"}) << "kept twice";
+        EXPECT_EQ(rig.settings.disk->domain.value(kQVVolumeSavedLevel).toFloat(), 0.25F);
+        EXPECT_EQ(rig.settings.disk->domain.value(kQVOSDStateSavedType).toInt(), 4);
+        EXPECT_EQ(rig.window.alphaValue(), 1.0F);
+    }
+}
+
 TEST(AppController, told_to_end_during_the_launch_it_opens_nothing_more_and_keeps_what_was_kept) {
     struct Case {
         const char* step; // in which it waits for the user

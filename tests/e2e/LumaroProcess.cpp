@@ -24,6 +24,8 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
     if (display.starts_with("wayland")) {
         options.environment["WAYLAND_DISPLAY"] = display;
         options.environment["QT_QPA_PLATFORM"] = "wayland";
+    } else if (display == "offscreen") {
+        options.environment["QT_QPA_PLATFORM"] = display;
     } else if (!display.empty()) {
         options.environment["DISPLAY"] = display;
         options.environment["QT_QPA_PLATFORM"] = "xcb";

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -15,6 +17,11 @@ class LumaroUser {
 public:
     std::filesystem::path folder() const { return _folder.path().toStdString(); }
     std::filesystem::path settingsFile() const { return folder() / "config/lumaro/org.lumaro.Lumaro.plist"; }
+    // What the settings file holds; empty without one.
+    std::string settingsText() const {
+        std::ifstream file(settingsFile());
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
     std::filesystem::path runtimeFolder() const { return folder() / "run"; }
 
 private:
@@ -22,7 +29,8 @@ private:
 };
 
 // The real program, started for a user on a display: of X11, or the name of a Wayland socket ("wayland-...") in the
-// user's runtime folder. An empty display is none (for what needs no screen).
+// user's runtime folder, or "offscreen" for a window that nobody sees. An empty display is none (for what needs no
+// screen).
 class LumaroProcess : public harness::ChildProcess {
 public:
     LumaroProcess(const LumaroUser& user, const std::string& display, const std::vector<std::string>& arguments,

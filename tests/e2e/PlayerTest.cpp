@@ -28,14 +28,6 @@ protected:
                    near(seen.height, wanted.height);
         });
     }
-
-    std::string settingsText() {
-        std::ifstream file(user.settingsFile());
-        std::string text;
-        for (std::string line; std::getline(file, line);)
-            text += line + '\n';
-        return text;
-    }
 };
 
 } // namespace
@@ -172,6 +164,12 @@ TEST_F(Player, without_a_display_one_sentence_says_so) {
     }
 }
 
+TEST_F(Player, it_plays_without_a_screen_where_that_was_asked_for_and_takes_addresses_of_this_machine) {
+    startOn("offscreen", {"file://localhost" + numbered("1.mp4", red, 30), "--set", "QVPlaylistAutoQuit=1"});
+    EXPECT_EQ(player->waitForExit(), 0) << player->errorOutput();
+    EXPECT_TRUE(logs("QVMovieView: Start Playing movie"));
+}
+
 TEST_F(Player, the_right_button_opens_a_menu_that_escape_closes) {
     startStanding({numbered("red.mp4", red, 300)});
     const auto window = probe.windowAt(320, 220);
@@ -211,8 +209,8 @@ TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
     probe.tap(XK_1);
     ASSERT_TRUE(regionBecomes(blue, normal, seen)) << seen;
     ASSERT_TRUE(quitsCleanly());
-    ASSERT_NE(settingsText().find("QVDefaultMovieSize"), std::string::npos);
-    EXPECT_EQ(settingsText().find("QVEnableTrace"), std::string::npos) << "a setting for one run was kept";
+    ASSERT_NE(user.settingsText().find("QVDefaultMovieSize"), std::string::npos);
+    EXPECT_EQ(user.settingsText().find("QVEnableTrace"), std::string::npos) << "a setting for one run was kept";
 
     start({movie});
     ASSERT_TRUE(regionBecomes(blue, normal, seen)) << seen << ": the size was not kept";
@@ -233,6 +231,27 @@ TEST_F(Player, settings_survive_quitting_and_a_kill_at_any_moment) {
     ASSERT_TRUE(quitsCleanly());
 }
 
+TEST_F(Player, what_quitting_keeps_is_kept_when_the_screen_dies_or_the_terminal_goes) {
+    const std::string movie = numbered("1.mp4", red, 300);
+    for (const bool dies : {true, false}) {
+        XvfbServer another(screenWidth, screenHeight);
+        auto keys = std::make_unique<XProbe>(another.display());
+        // It plays: there is always something to draw.
+        startOn(another.display(), {movie});
+        ASSERT_TRUE(keys->waitForColor(1200, 8, red));
+        keys->tap(dies ? XK_Down : XK_Up);
+        ASSERT_TRUE(logs(dies ? "Volume: 90%" : "Volume: 100%"));
+        keys.reset();
+        if (dies)
+            another.kill();
+        else
+            player->signal(SIGHUP);
+        EXPECT_EQ(player->waitForExit(), dies ? 1 : 0);
+        EXPECT_NE(user.settingsText().find(dies ? "<real>0.9</real>" : "<real>1</real>"), std::string::npos)
+            << user.settingsText();
+    }
+}
+
 TEST_F(Player, told_to_end_while_a_panel_waits_at_launch_it_opens_nothing_more_and_keeps_what_was_kept) {
     std::filesystem::create_directories(user.settingsFile().parent_path());
     std::ofstream(user.settingsFile()) << "<plist version=\"1.0\"><dict><key>QVOSDStateSavedType</key>"
@@ -243,7 +262,7 @@ TEST_F(Player, told_to_end_while_a_panel_waits_at_launch_it_opens_nothing_more_a
     player->signal(SIGTERM);
     EXPECT_EQ(player->waitForExit(), 0);
     EXPECT_EQ(player->errorOutput().find("Adding to playlist"), std::string::npos);
-    EXPECT_NE(settingsText().find("<integer>3</integer>"), std::string::npos) << settingsText();
+    EXPECT_NE(user.settingsText().find("<integer>3</integer>"), std::string::npos) << user.settingsText();
 }
 
 TEST_F(Player, wrong_usage_ends_with_status_2_and_help_and_version_with_0) {

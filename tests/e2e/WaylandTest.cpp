@@ -25,9 +25,9 @@ protected:
                              "--no-config",
                              "--idle-time=0"};
         options.environment = {{"DISPLAY", server.display()}, {"XDG_RUNTIME_DIR", user.runtimeFolder().string()}};
-        _compositor = std::make_unique<ChildProcess>(options);
+        compositor = std::make_unique<ChildProcess>(options);
         ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(user.runtimeFolder() / "wayland-test"); }))
-            << _compositor->errorOutput();
+            << compositor->errorOutput();
         ASSERT_TRUE(waitUntil([&] { return probe.hasVisibleWindow(); }));
     }
 
@@ -39,8 +39,7 @@ protected:
         ASSERT_TRUE(frameBecomes(0));
     }
 
-private:
-    std::unique_ptr<ChildProcess> _compositor;
+    std::unique_ptr<ChildProcess> compositor;
 };
 
 } // namespace
@@ -54,4 +53,13 @@ TEST_F(Wayland, fills_the_screen_and_takes_keys) {
     probe.tap(XK_Next);
     ASSERT_TRUE(colorBecomes(green));
     ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Wayland, what_quitting_keeps_is_kept_when_the_compositor_dies) {
+    startStanding({numbered("red.mp4", red, 300)});
+    probe.tap(XK_Down);
+    ASSERT_TRUE(logs("Volume: 90%"));
+    compositor->kill();
+    EXPECT_EQ(player->waitForExit(), 1);
+    EXPECT_NE(user.settingsText().find("<real>0.9"), std::string::npos) << user.settingsText();
 }

@@ -16,6 +16,8 @@ public:
     XvfbServer(int width, int height);
 
     const std::string& display() const { return _display; } // ":7"
+    // Like a crash. Whoever is connected ends, or must have gone: an XProbe, too.
+    void kill() { _process->kill(); }
     int width() const { return _width; }
     int height() const { return _height; }
 

@@ -2,6 +2,7 @@
 #include "platform/desktop/qt/QtDesktop.h"
 
 #include "platform/desktop/Application.h"
+#include "platform/desktop/qt/LostDisplay.h"
 #include "platform/window/SceneGeometry.h"
 #include "platform/window/qt/QtEvents.h"
 
@@ -99,6 +100,10 @@ int QtDesktop::run(ApplicationDelegate& delegate) {
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    const LostDisplay onLostDisplay([this] {
+        if (_delegate)
+            _delegate->applicationLostDisplay();
+    });
     const int status = QApplication::exec();
     disconnect(qApp, nullptr, this, nullptr);
     delegate.applicationWillTerminate();
