@@ -4,6 +4,7 @@
 #include "app/CueImages.h"
 #include "app/OpeningFiles.h"
 #include "context/Environment.h"
+#include "platform/base/JsonWriter.h"
 #include "platform/base/NumberText.h"
 #include "platform/desktop/UserActivity.h"
 #include "platform/movie/MovieToolkit.h"
@@ -11,11 +12,9 @@
 #include "playback/SubtitleDiscovery.h"
 #include "subtitles/formats/SubtitleFormats.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <initializer_list>
 
-#include <cmath>
+using platform::JsonWriter;
 
 namespace {
 
@@ -37,135 +36,158 @@ class NoUser final : public platform::UserActivity {
     void setUserActive(bool) override {}
 };
 
-QJsonValue typeName(const QVSubtitles& track) {
+void writeNumbers(std::initializer_list<double> numbers, JsonWriter& json) {
+    json.beginArray(JsonWriter::Items::oneLine);
+    for (const double number : numbers)
+        json.value(number);
+    json.endArray();
+}
+
+/// Empty for a type without a name.
+QStringView typeName(const QVSubtitles& track) {
     switch (track.type()) {
     case QVSubtitles::typeSubRip:
-        return QStringLiteral("SubRip");
+        return u"SubRip";
     case QVSubtitles::typeMicroDVD:
-        return QStringLiteral("MicroDVD");
+        return u"MicroDVD";
     case QVSubtitles::typeVobSub:
-        return QStringLiteral("VobSub");
+        return u"VobSub";
     case QVSubtitles::typeTMPlayer:
-        return QStringLiteral("TMPlayer");
+        return u"TMPlayer";
     default:
         return {};
     }
 }
 
-QJsonObject describeTrack(const QVSubtitles& track, std::int32_t timeScale) {
+void writeTrack(const QVSubtitles& track, std::int32_t timeScale, JsonWriter& json) {
+    json.name("type");
+    if (const QStringView name = typeName(track); !name.isEmpty())
+        json.value(name);
+    else
+        json.null();
+    json.member("title", track.title());
+    json.member("streamIndex", track.streamIndex());
+    json.member("timeScale", timeScale);
     // The rate as it is written, not as it is nearest to in single precision.
-    const float rate = track.actualFrameRate(track.frameRateChoice());
-    return {{QStringLiteral("type"), typeName(track)},
-            {QStringLiteral("title"), track.title()},
-            {QStringLiteral("streamIndex"), static_cast<qint64>(track.streamIndex())},
-            {QStringLiteral("timeScale"), timeScale},
-            {QStringLiteral("frameRate"), platform::shortestText(rate).toDouble()}};
+    json.member("frameRate", platform::shortestText(track.actualFrameRate(track.frameRateChoice())).toDouble());
 }
 
-QJsonArray describeTracks(const QVMovie& movie, const platform::UserDefaults& settings) {
-    QJsonArray tracks;
+void writeTracks(const QVMovie& movie, const platform::UserDefaults& settings, JsonWriter& json) {
+    json.beginArray();
     for (const std::shared_ptr<QVSubtitles>& track : movie.subtitles()) {
-        QJsonObject object = describeTrack(*track, movie.timeScale());
-        object.insert(QStringLiteral("path"), track->path());
+        json.beginObject();
+        json.member("path", track->path());
+        writeTrack(*track, movie.timeScale(), json);
         // It is not loaded: this is what it would be read with.
-        object.insert(QStringLiteral("encoding"), static_cast<qint64>(QVSubtitles::defaultEncoding(settings)));
-        tracks.append(object);
+        json.member("encoding", QVSubtitles::defaultEncoding(settings));
+        json.endObject();
     }
-    return tracks;
+    json.endArray();
 }
 
 /// What a text cue says, or where a picture stands and what file holds it.
-void describeContent(const QVSubtitle& cue, const QString& image, QJsonObject& object) {
+void writeContent(const QVSubtitle& cue, const QString& image, JsonWriter& json) {
     if (!cue.image()) {
-        object.insert(QStringLiteral("text"), cue.text());
+        json.member("text", cue.text());
         return;
     }
     const platform::Rect rect = cue.rect();
-    object.insert(QStringLiteral("rect"), QJsonArray{rect.x(), rect.y(), rect.width(), rect.height()});
-    object.insert(QStringLiteral("forced"), cue.forced());
+    json.name("rect");
+    writeNumbers({rect.x(), rect.y(), rect.width(), rect.height()}, json);
+    json.member("forced", cue.forced());
     if (!image.isEmpty())
-        object.insert(QStringLiteral("image"), image);
+        json.member("image", image);
 }
 
-QJsonArray describeCues(const QVSubtitles& track, std::int32_t timeScale, CueImages& images) {
+void writeCues(const QVSubtitles& track, std::int32_t timeScale, CueImages& images, JsonWriter& json) {
     const auto milliseconds = [timeScale](std::int32_t time) { return qint64{time} * 1000 / timeScale; };
-    QJsonArray cues;
+    json.beginArray();
     std::size_t number = 0;
     for (const std::shared_ptr<QVSubtitle>& cue : track.cues()) {
-        QJsonObject object{{QStringLiteral("start"), cue->start()},
-                           {QStringLiteral("end"), cue->end()},
-                           {QStringLiteral("startMs"), milliseconds(cue->start())},
-                           {QStringLiteral("endMs"), milliseconds(cue->end())}};
-        describeContent(*cue, images.write(track, ++number, *cue), object);
-        cues.append(object);
+        json.beginObject();
+        json.member("start", cue->start());
+        json.member("end", cue->end());
+        json.member("startMs", milliseconds(cue->start()));
+        json.member("endMs", milliseconds(cue->end()));
+        writeContent(*cue, images.write(track, ++number, *cue), json);
+        json.endObject();
     }
-    return cues;
+    json.endArray();
 }
 
-/// The tracks of a subtitle file, loaded; none for other files.
-QJsonArray describeSubtitleFile(const QString& path, SubtitleRegistry& readers, SubtitleOwner& owner,
-                                CueImages& images) {
-    QJsonArray tracks;
-    for (const std::shared_ptr<QVSubtitles>& track : readers.subtitlesWithFilePath(path, owner)) {
+/// The tracks of a subtitle file, loaded; false and nothing for other files.
+bool writeSubtitleFile(const QString& name, const QString& path, SubtitleRegistry& readers, SubtitleOwner& owner,
+                       CueImages& images, JsonWriter& json) {
+    const auto tracks = readers.subtitlesWithFilePath(path, owner);
+    if (tracks.empty())
+        return false;
+    json.beginObject();
+    json.member("path", name);
+    json.name("tracks");
+    json.beginArray();
+    for (const std::shared_ptr<QVSubtitles>& track : tracks) {
         track->preload();
         track->waitForLoading();
-        QJsonObject object = describeTrack(*track, owner.timeScale());
-        object.insert(QStringLiteral("encoding"), static_cast<qint64>(track->encoding()));
-        object.insert(QStringLiteral("cues"), describeCues(*track, owner.timeScale(), images));
-        tracks.append(object);
+        json.beginObject();
+        writeTrack(*track, owner.timeScale(), json);
+        json.member("encoding", track->encoding());
+        json.name("cues");
+        writeCues(*track, owner.timeScale(), images, json);
+        json.endObject();
         track->unload();
     }
-    return tracks;
+    json.endArray();
+    json.endObject();
+    return true;
 }
 
-QJsonObject describeMovie(const QString& path, QVMovie& movie, const platform::UserDefaults& settings) {
+void writeMovie(const QString& path, QVMovie& movie, const platform::UserDefaults& settings, JsonWriter& json) {
     const QSizeF size = movie.naturalBounds().size();
-    const float rate = movie.frameRate();
-    return {{QStringLiteral("path"), path},
-            {QStringLiteral("timeScale"), movie.timeScale()},
-            {QStringLiteral("duration"), movie.duration()},
-            {QStringLiteral("durationInSeconds"), movie.durationInSeconds()},
-            {QStringLiteral("frameCount"), static_cast<qint64>(movie.frameCount())},
-            // JSON has no infinity: a movie of less than a second has no rate of whole seconds.
-            {QStringLiteral("frameRate"), std::isfinite(rate) ? QJsonValue(static_cast<double>(rate)) : QJsonValue()},
-            {QStringLiteral("naturalBounds"), QJsonArray{0, 0, size.width(), size.height()}},
-            {QStringLiteral("subtitles"), describeTracks(movie, settings)}};
+    json.beginObject();
+    json.member("path", path);
+    json.member("timeScale", movie.timeScale());
+    json.member("duration", movie.duration());
+    json.member("durationInSeconds", movie.durationInSeconds());
+    json.member("frameCount", movie.frameCount());
+    // A movie of less than a second has no rate of whole seconds.
+    json.member("frameRate", static_cast<double>(movie.frameRate()));
+    json.name("naturalBounds");
+    writeNumbers({0, 0, size.width(), size.height()}, json);
+    json.name("subtitles");
+    writeTracks(movie, settings, json);
+    json.endObject();
 }
 
 } // namespace
 
-InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
-                              const MovieReader& readMovie, const QStringList& pathsOrUrls,
-                              const InspectedSubtitles& subtitles) {
+QStringList inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit, const MovieReader& readMovie,
+                         const QStringList& pathsOrUrls, JsonWriter& json, const InspectedSubtitles& subtitles) {
     SubtitleRegistry readers(subtitleReaders(environment));
     SubtitleDiscovery discovery(environment.loop);
     NoUser user;
     const MovieServices services{toolkit, user, readers, discovery};
     const QStringList subtitleExtensions = readers.subtitleUnfilteredFileTypes();
-    InspectionResult result;
-    QJsonArray objects;
+    QStringList errors;
     NoMovie owner(subtitles.timeScale);
     CueImages images(subtitles.imagesFolder);
+    json.beginArray();
     for (const QString& name : pathsOrUrls) {
         const QUrl url = isURLString(name) ? QUrl(name) : QUrl::fromLocalFile(name);
-        const auto addSubtitleFile = [&] {
-            const QJsonArray tracks = describeSubtitleFile(url.toLocalFile(), readers, owner, images);
-            if (!tracks.isEmpty())
-                objects.append(QJsonObject{{QStringLiteral("path"), name}, {QStringLiteral("tracks"), tracks}});
-            return !tracks.isEmpty();
+        const auto isSubtitleFile = [&] {
+            return writeSubtitleFile(name, url.toLocalFile(), readers, owner, images, json);
         };
         // A movie toolkit may take a subtitle file for a movie without pictures: the name decides what is tried first.
-        if (url.isLocalFile() && isFileOfType(url.toLocalFile(), subtitleExtensions) && addSubtitleFile())
+        if (url.isLocalFile() && isFileOfType(url.toLocalFile(), subtitleExtensions) && isSubtitleFile())
             continue;
         platform::OpenedMovie opened = readMovie(url);
         const std::int16_t error = opened.error;
         if (const auto movie = QVMovie::movieWithOpened(environment, services, std::move(opened)))
-            objects.append(describeMovie(name, *movie, environment.settings));
-        else if (!url.isLocalFile() || !addSubtitleFile())
-            result.errors.append(QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(error));
+            writeMovie(name, *movie, environment.settings, json);
+        else if (!url.isLocalFile() || !isSubtitleFile())
+            errors.append(QStringLiteral("%1: cannot be opened (error %2)").arg(name).arg(error));
     }
+    json.endArray();
     if (!images.error().isEmpty())
-        result.errors.append(images.error());
-    result.json = QJsonDocument(objects).toJson(QJsonDocument::Compact) + '\n';
-    return result;
+        errors.append(images.error());
+    return errors;
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
 #include <QStringList>
 #include <QUrl>
 
@@ -9,6 +8,7 @@
 #include <functional>
 
 namespace platform {
+class JsonWriter;
 class MovieToolkit;
 struct OpenedMovie;
 } // namespace platform
@@ -22,19 +22,12 @@ struct InspectedSubtitles {
     QString imagesFolder = {};
 };
 
-/// What --inspect answers.
-struct InspectionResult {
-    /// A JSON array, an object for each file in the order given.
-    QByteArray json;
-    /// A line for each file that could not be read; those have no object. One more when pictures could not be written.
-    QStringList errors;
-};
-
 /// Reads the facts of a movie; blocks.
 using MovieReader = std::function<platform::OpenedMovie(const QUrl& url)>;
 
 /// Finds out what is in the files: movies, and subtitle files with their cues. Needs no display. Times are in the
-/// movie's units, sizes in square pixels.
-InspectionResult inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit,
-                              const MovieReader& readMovie, const QStringList& pathsOrUrls,
-                              const InspectedSubtitles& subtitles = {});
+/// movie's units, sizes in square pixels. Writes an array with an object for each file, in the order given; answers a
+/// line for each file that could not be read, which has no object, and one more when pictures could not be written.
+QStringList inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit, const MovieReader& readMovie,
+                         const QStringList& pathsOrUrls, platform::JsonWriter& json,
+                         const InspectedSubtitles& subtitles = {});

@@ -5,6 +5,7 @@
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
 #include "app/main/Terminal.h"
+#include "platform/base/JsonWriter.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvToolkit.h"
@@ -33,11 +34,12 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         defaults.setOverride(kQVSubtitlesDefaultFPS, line.frameRateChoice);
     const std::atomic<bool> isCancelled{false};
     const auto readMovie = [&](const QUrl& url) { return platform::probeMovie(url, openTimeout, isCancelled); };
-    const InspectionResult result =
-        inspectFiles(run.environment(), toolkit, readMovie, line.files, {line.timeScale, line.imagesFolder});
-    std::fwrite(result.json.constData(), 1, static_cast<std::size_t>(result.json.size()), stdout);
-    for (const QString& error : result.errors)
+    platform::JsonWriter json(
+        [](QByteArrayView text) { std::fwrite(text.data(), 1, static_cast<std::size_t>(text.size()), stdout); });
+    const QStringList errors =
+        inspectFiles(run.environment(), toolkit, readMovie, line.files, json, {line.timeScale, line.imagesFolder});
+    for (const QString& error : errors)
         complain(error);
     platform::PrivateSubfolder::waitUntilGone();
-    return result.errors.isEmpty() ? exitSuccess : exitFailure;
+    return errors.isEmpty() ? exitSuccess : exitFailure;
 }

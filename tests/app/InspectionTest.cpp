@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Inspection.h"
+#include "platform/base/JsonWriter.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Files.h"
 #include "tests/support/ScriptedToolkit.h"
@@ -14,10 +15,14 @@ namespace {
 class Inspection : public testing::Test {
 protected:
     QJsonArray inspect(const QStringList& files, const InspectedSubtitles& subtitles = {}) {
-        const InspectionResult result = inspectFiles(
-            settings.environment, toolkit, [this](const QUrl& url) { return toolkit.answerOf(url); }, files, subtitles);
-        errors = result.errors;
-        return QJsonDocument::fromJson(result.json).array();
+        QByteArray text;
+        {
+            platform::JsonWriter json([&text](QByteArrayView piece) { text.append(piece); });
+            errors = inspectFiles(
+                settings.environment, toolkit, [this](const QUrl& url) { return toolkit.answerOf(url); }, files, json,
+                subtitles);
+        }
+        return QJsonDocument::fromJson(text).array();
     }
 
     TestEnvironment settings;
