@@ -57,8 +57,4 @@ std::optional<QString> stringWithData(std::string_view bytes, std::uint32_t enco
 /// The text's bytes, what the encoding lacks replaced by a substitute. None for an unknown encoding. Any thread.
 std::optional<QByteArray> lossyData(const QString& text, std::uint32_t encoding);
 
-/// What the text is most likely encoded in, decided from all of the bytes: a byte-order mark, else valid UTF-8, else
-/// what its letters look like, else Windows 1252. Lines of plain ASCII are no evidence and cost little. Any thread.
-std::uint32_t detectedTextEncoding(std::string_view bytes);
-
 } // namespace platform

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/input/SubtitleText.h"
 
+#include "platform/base/EncodingDetection.h"
 #include "platform/base/RegularFile.h"
 #include "platform/base/TextEncoding.h"
+#include "platform/base/TextForm.h"
 #include "subtitles/input/LineReader.h"
 
 #include <QStringDecoder>
@@ -13,9 +15,30 @@ namespace {
 
 using namespace platform;
 
-/// A text in 16-bit units with a mark in front as UTF-8. A lone surrogate or a cut last unit spoils only its own place.
+std::string_view viewOf(const QByteArray& bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+bool hasWideMark(const QByteArray& bytes) {
+    return bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
+}
+
+/// Whether the bytes are 16-bit units that may be read as the encoding says.
+bool isWide(const QByteArray& bytes, std::uint32_t encoding) {
+    if (encoding == textEncoding::utf16)
+        return hasWideMark(bytes) || wideEncodingWithoutMark(viewOf(bytes));
+    return (encoding == textEncoding::utf16LittleEndian || encoding == textEncoding::utf16BigEndian) &&
+           wideEncodingWithoutMark(viewOf(bytes)) == encoding;
+}
+
+/// A text in 16-bit units as UTF-8. A lone surrogate or a cut last unit spoils only its own place.
 QByteArray narrowed(const QByteArray& bytes) {
-    return QString(QStringDecoder(QStringDecoder::Utf16)(bytes)).toUtf8();
+    const bool isBig = !hasWideMark(bytes) && wideEncodingWithoutMark(viewOf(bytes)) == textEncoding::utf16BigEndian;
+    const bool isLittle = !hasWideMark(bytes) && !isBig;
+    QStringDecoder decoder(isBig      ? QStringDecoder::Utf16BE
+                           : isLittle ? QStringDecoder::Utf16LE
+                                      : QStringDecoder::Utf16);
+    return QString(decoder(bytes)).toUtf8();
 }
 
 /// Whether a byte that looks like one of ASCII may be the second half of a character: like the bar and the brace by
@@ -46,19 +69,13 @@ QByteArray narrowedByLine(const QByteArray& bytes, std::uint32_t encoding) {
     return result;
 }
 
-bool hasWideMark(const QByteArray& bytes) {
-    return bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
-}
-
 } // namespace
 
 SubtitleText SubtitleText::fromBytes(QByteArray bytes, std::uint32_t encoding) {
     SubtitleText text;
-    text.encoding = encoding == textEncoding::automatic
-                        ? detectedTextEncoding({bytes.constData(), static_cast<std::size_t>(bytes.size())})
-                        : encoding;
+    text.encoding = encoding == textEncoding::automatic ? detectedTextEncoding(viewOf(bytes)) : encoding;
     text.decodeWith = text.encoding;
-    if (text.encoding == textEncoding::utf16 && hasWideMark(bytes)) {
+    if (isWide(bytes, text.encoding)) {
         bytes = narrowed(bytes);
         text.decodeWith = textEncoding::utf8;
     }
@@ -76,6 +93,6 @@ SubtitleText SubtitleText::beginningOfFile(const QString& path) {
     // Two bytes for each of ASCII in a wide text, and its mark.
     constexpr qsizetype most = 2 * probedLines * static_cast<qsizetype>(LineReader::maximumPieceLength) + 3;
     QByteArray bytes = readRegularFile(path, most).value_or(QByteArray());
-    const std::uint32_t encoding = hasWideMark(bytes) ? textEncoding::utf16 : textEncoding::utf8;
+    const std::uint32_t encoding = isWide(bytes, textEncoding::utf16) ? textEncoding::utf16 : textEncoding::utf8;
     return fromBytes(std::move(bytes), encoding);
 }

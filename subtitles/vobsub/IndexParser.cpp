@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/IndexParser.h"
 
+#include "platform/base/EncodingDetection.h"
 #include "platform/base/TextEncoding.h"
 #include "subtitles/input/LineReader.h"
 #include "subtitles/input/ScanFormat.h"

@@ -132,6 +132,8 @@ TEST_F(AutomaticEncoding, texts_of_many_languages_are_read_right) {
             const QString marked = QChar(QChar::ByteOrderMark) + subRip(lines);
             EXPECT_EQ(read(QStringLiteral("film.srt"), encoded(marked, wide)), lines) << sample.language;
             EXPECT_EQ(found, textEncoding::utf16);
+            EXPECT_EQ(read(QStringLiteral("film.srt"), encoded(subRip(lines), wide)), lines) << sample.language;
+            EXPECT_EQ(found, wide);
         }
         const QString marked = QChar(QChar::ByteOrderMark) + subRip(lines);
         EXPECT_EQ(read(QStringLiteral("film.srt"), encoded(marked, 4)), lines) << sample.language;
@@ -142,6 +144,18 @@ TEST_F(AutomaticEncoding, texts_of_many_languages_are_read_right) {
         for (qsizetype index = 0; index < lines.size(); ++index)
             frames += QStringLiteral("{%1}{%2}%3\r\n").arg(index * 100).arg(index * 100 + 50).arg(lines[index]);
         EXPECT_EQ(read(QStringLiteral("film.sub"), encoded(frames, sample.encoding)), lines) << sample.language;
+    }
+}
+
+TEST_F(AutomaticEncoding, a_chosen_encoding_of_16_bit_units_needs_no_mark) {
+    const QStringList lines = QString::fromUtf8(encodingTexts[0].text).split(u'\n');
+    for (const auto& [chosen, written] : {std::pair(textEncoding::utf16, textEncoding::utf16LittleEndian),
+                                          {textEncoding::utf16, textEncoding::utf16BigEndian},
+                                          {textEncoding::utf16LittleEndian, textEncoding::utf16LittleEndian},
+                                          {textEncoding::utf16BigEndian, textEncoding::utf16BigEndian}}) {
+        chooseEncoding(chosen);
+        EXPECT_EQ(read(QStringLiteral("film.srt"), encoded(subRip(lines), written)), lines) << chosen;
+        EXPECT_EQ(found, chosen);
     }
 }
 
