@@ -256,9 +256,11 @@ void Measurements::jumpThrice(const Player& player, bool exactly, int round) {
     const std::string name = player.kind() == Player::Kind::mpv && exactly ? "mpv exact" : player.name();
     const KeyPress key = exactly ? player.exactJumpKey() : player.jumpKey();
     auto process = startPlaying(player);
+    // Not always as far from a keyframe; and from a standing picture, so that no player decodes anything else.
+    pause(0.8 + 0.37 * (round % 8));
+    _probe.tap(player.pauseKey().key, player.pauseKey().modifiers);
     for (int jump = 0; jump < 3; ++jump) {
-        // Not always as far from a keyframe.
-        pause(0.8 + 0.37 * ((round * 3 + jump) % 4));
+        pause(0.8);
         std::optional<int> from;
         waitUntil([&] { return (from = frameOnScreen(_probe)).has_value(); });
         const double before = now();
@@ -270,11 +272,11 @@ void Measurements::jumpThrice(const Player& player, bool exactly, int round) {
                 if (!frame || !from)
                     return false;
                 const double passed = now() - before;
-                const double gone = *frame - *from, played = passed * framesPerSecond;
+                const double gone = *frame - *from;
                 // Keyframes are 8.3 s apart: the last before the new place lies at least 1.7 s ahead.
-                if (first == 0 && gone > played + 1.3 * framesPerSecond)
+                if (first == 0 && gone > 1.3 * framesPerSecond)
                     first = passed;
-                if (gone >= 9.7 * framesPerSecond && gone <= 10.2 * framesPerSecond + played)
+                if (gone >= 9.7 * framesPerSecond && gone <= 10.2 * framesPerSecond)
                     exact = passed;
                 return exact > 0;
             },

@@ -34,6 +34,8 @@ struct MovieInfo {
     bool saysDuration = true;
     /// Units of timeScale that one picture stays on average; 0 when not known.
     double frameDuration = 0;
+    /// Of all that the file holds, a second on average; 0 when not known.
+    double bitRate = 0;
 
     // Of a movie without a picture, as the file says; one line each, empty where it does not.
     QString title;

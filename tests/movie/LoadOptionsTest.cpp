@@ -28,3 +28,22 @@ TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
         EXPECT_EQ(platform::loadOptions(movie, c.start).toStdString(), c.options);
     }
 }
+
+TEST(LoadOptions, one_thread_decodes_what_it_can_decode_well_in_time) {
+    const struct {
+        double frameRate, bitRate;
+        bool expected;
+    } cases[] = {
+        {30, 12e6, true},
+        {0, 0, true},
+        {50, 4e6, false},
+        {24, 12.1e6, false},
+    };
+    for (const auto& c : cases) {
+        platform::MovieInfo movie;
+        movie.naturalSize = {1920, 1080};
+        movie.frameDuration = c.frameRate > 0 ? movie.timeScale / c.frameRate : 0;
+        movie.bitRate = c.bitRate;
+        EXPECT_EQ(platform::isDecodedByOneThread(movie), c.expected) << c.frameRate << ' ' << c.bitRate;
+    }
+}

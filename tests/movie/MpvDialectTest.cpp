@@ -10,15 +10,18 @@ TEST(MpvDialect, changed_with_version_2_3_of_the_interface) {
         unsigned long major, minor;
         const char* background;
         MpvDialect::LoadArguments loadArguments;
+        MpvDialect::NewDecoder newDecoder;
     } cases[] = {
-        {2, 0, "background", MpvDialect::LoadArguments::flags}, // mpv 0.35
-        {2, 2, "background", MpvDialect::LoadArguments::flags},
-        {2, 3, "background-color", MpvDialect::LoadArguments::flagsAndIndex},
-        {2, 5, "background-color", MpvDialect::LoadArguments::flagsAndIndex}, // mpv 0.40
+        {2, 0, "background", MpvDialect::LoadArguments::flags, MpvDialect::NewDecoder::seeksAtOnce}, // mpv 0.35
+        {2, 2, "background", MpvDialect::LoadArguments::flags, MpvDialect::NewDecoder::seeksAtOnce},
+        {2, 3, "background-color", MpvDialect::LoadArguments::flagsAndIndex, MpvDialect::NewDecoder::decodesFirst},
+        {2, 5, "background-color", MpvDialect::LoadArguments::flagsAndIndex,
+         MpvDialect::NewDecoder::decodesFirst}, // mpv 0.40
     };
     for (const auto& c : cases) {
         const MpvDialect dialect = platform::mpvDialect(c.major << 16 | c.minor);
         EXPECT_STREQ(dialect.backgroundOption, c.background) << c.minor;
         EXPECT_EQ(dialect.loadArguments, c.loadArguments) << c.minor;
+        EXPECT_EQ(dialect.newDecoder, c.newDecoder) << c.minor;
     }
 }

@@ -33,6 +33,7 @@ std::string textOf(const PlayerEffect& effect) {
                               return with("seek", e.seek.seconds) +
                                      (e.seek.kind == SeekPlanner::Kind::keyframe ? " keyframe" : " exact");
                           },
+                          [](const UseMoreThreads&) { return std::string("more threads"); },
                           [](const SendSteps& e) { return with("steps", e.count); },
                           [](const SetPaused& e) { return std::string(e.paused ? "pause" : "go"); },
                           [](const SetSpeed& e) { return with("speed", e.speed); },

@@ -197,6 +197,23 @@ TEST(PlayerState, a_seek_shows_the_keyframe_first_and_holds_the_time_asked_for) 
     EXPECT_EQ(player.time(), 200);
 }
 
+TEST(PlayerState, the_first_exact_frame_that_needs_others_has_the_decoder_made_anew) {
+    LoadedMovie movie = tenSeconds;
+    movie.seeking = LoadedMovie::Seeking::withMoreThreads;
+    PlayerScript player = PlayerScript::showing(movie);
+    EXPECT_EQ(player(Seek{0, silent}), "seek 0 exact | state");
+    player(PlaybackRestarted{});
+    player(keyframeTimeout);
+    EXPECT_EQ(player(Seek{250, silent}), "seek 2.5 keyframe | state");
+    player(PlaybackRestarted{});
+    EXPECT_EQ(player(keyframeTimeout), "more threads, seek 2.5 exact");
+    player(PlaybackRestarted{});
+    player(keyframeTimeout);
+    player(Seek{300, silent});
+    player(PlaybackRestarted{});
+    EXPECT_EQ(player(keyframeTimeout), "seek 3 exact") << "it stays so";
+}
+
 TEST(PlayerState, a_seek_keeps_within_the_movie) {
     const struct {
         LoadedMovie movie;

@@ -37,6 +37,7 @@ namespace platform {
     X(avformat_close_input)                                                                                            \
     X(avformat_free_context)                                                                                           \
     X(av_guess_sample_aspect_ratio)                                                                                    \
+    X(avio_size)                                                                                                       \
     LUMARO_AV_SIDE_DATA_FUNCTION(X)                                                                                    \
     X(av_read_frame)                                                                                                   \
     X(avcodec_find_decoder)                                                                                            \

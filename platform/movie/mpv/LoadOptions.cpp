@@ -11,7 +11,11 @@ namespace platform {
 
 namespace {
 
-constexpr double maximumPixelsForOneThread = 1920.0 * 1088.0;
+// Measured with H.264, HEVC, VP9 and AV1 of 1080p: 6 to 11 ms a picture at 30 pictures and 4 to 12 Mbit a second, and
+// 24 ms at 40 Mbit.
+constexpr double maximumPixels = 1920.0 * 1088.0;
+constexpr double maximumPixelsPerSecond = maximumPixels * 31;
+constexpr double maximumBitsPerSecond = 12e6;
 
 } // namespace
 
@@ -28,9 +32,16 @@ QByteArray loadOptions(const MovieInfo& movie, double start) {
         options << "video-rotate=no"
                 << "vf=%" + length + "%" + turn;
     }
-    if (movie.naturalSize.width() * movie.naturalSize.height() > maximumPixelsForOneThread)
+    if (!isDecodedByOneThread(movie))
         options << "vd-lavc-threads=0";
     return options.join(',');
+}
+
+bool isDecodedByOneThread(const MovieInfo& movie) {
+    const double pixels = movie.naturalSize.width() * movie.naturalSize.height();
+    const double frameRate = movie.frameDuration > 0 ? movie.timeScale / movie.frameDuration : 0;
+    return pixels <= maximumPixels && pixels * frameRate <= maximumPixelsPerSecond &&
+           movie.bitRate <= maximumBitsPerSecond;
 }
 
 } // namespace platform

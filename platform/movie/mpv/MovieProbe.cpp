@@ -161,6 +161,13 @@ std::int32_t chooseTimeScale(AVRational timeBase, double seconds) {
     return scale;
 }
 
+double bitRateOf(const AVFormatContext* input, double seconds) {
+    if (input->bit_rate > 0)
+        return static_cast<double>(input->bit_rate);
+    const std::int64_t size = input->pb ? AvLibrary::get()->avio_size(input->pb) : 0;
+    return size > 0 && seconds > 0 ? static_cast<double>(size) * 8 / seconds : 0;
+}
+
 /// What the file says of itself, or of its sound; one line of it.
 QString tagOf(const AVFormatContext* input, const AVStream* sound, const char* key) {
     constexpr int maximumCharacters = 500;
@@ -178,6 +185,7 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream
     constexpr double largest = std::numeric_limits<std::int32_t>::max();
     MovieInfo info;
     const double seconds = durationInSeconds(input);
+    info.bitRate = bitRateOf(input, seconds);
     info.hasAudio = sound != nullptr;
     info.hasVideo = video != nullptr;
     info.timeScale = chooseTimeScale(video ? video->time_base : AVRational{1, 600}, seconds);

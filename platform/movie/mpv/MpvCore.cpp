@@ -48,8 +48,7 @@ constexpr Option options[] = {
     {"osd-font-provider", "none"},
     {"audio-display", "no"},
     {"audio-fallback-to-null", "yes"},
-    // Where there is no hardware decoder one thread decodes 1080p in a sixth of the time there is, with the least
-    // overhead and memory; the thread count of larger pictures is chosen when they are loaded.
+    // Where no hardware decodes; movies for which that is too few are loaded with more.
     {"vd-lavc-threads", "1"},
     {"video-timing-offset", "0"},
     {"volume-max", "150"},

@@ -8,8 +8,8 @@ namespace platform {
 MpvDialect mpvDialect(unsigned long version) {
     // 2.3 came with mpv 0.38, in which "background" says what kind of one there is.
     if (version >= MPV_MAKE_VERSION(2, 3))
-        return {"background-color", MpvDialect::LoadArguments::flagsAndIndex};
-    return {"background", MpvDialect::LoadArguments::flags};
+        return {"background-color", MpvDialect::LoadArguments::flagsAndIndex, MpvDialect::NewDecoder::decodesFirst};
+    return {"background", MpvDialect::LoadArguments::flags, MpvDialect::NewDecoder::seeksAtOnce};
 }
 
 } // namespace platform

@@ -9,6 +9,9 @@ struct MpvDialect {
     const char* backgroundOption;
     /// What the loadfile command takes before the options of a file: nothing, or the place in the list as well.
     enum class LoadArguments { flags, flagsAndIndex } loadArguments;
+    /// When a decoder that is made anew for other options may go on with a seek: at once, or not until it has decoded a
+    /// picture of the old place, which takes longer than any number of threads gains.
+    enum class NewDecoder { seeksAtOnce, decodesFirst } newDecoder;
 };
 
 /// That of a library whose mpv_client_api_version() is `version`.

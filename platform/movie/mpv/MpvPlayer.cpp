@@ -34,6 +34,7 @@ constexpr std::uint64_t endProperty = 2;
 constexpr std::uint64_t durationProperty = 3;
 constexpr std::uint64_t waitProperty = 4;
 constexpr std::uint64_t bufferProperty = 5;
+constexpr std::uint64_t decoderProperty = 6;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
@@ -85,6 +86,7 @@ void MpvPlayer::adoptCore() {
     mpv.mpv_observe_property(_core->handle(), endProperty, "eof-reached", MPV_FORMAT_FLAG);
     mpv.mpv_observe_property(_core->handle(), waitProperty, "paused-for-cache", MPV_FORMAT_FLAG);
     mpv.mpv_observe_property(_core->handle(), bufferProperty, "cache-buffering-state", MPV_FORMAT_INT64);
+    mpv.mpv_observe_property(_core->handle(), decoderProperty, "hwdec-current", MPV_FORMAT_STRING);
     // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
         [this] {
@@ -123,7 +125,9 @@ void MpvPlayer::load(Movie* movie) {
     std::optional<LoadedMovie> facts;
     if (movie) {
         facts = {movie->duration(), movie->timeScale(),
-                 movie->info().hasVideo ? LoadedMovie::Content::frames : LoadedMovie::Content::sound};
+                 movie->info().hasVideo ? LoadedMovie::Content::frames : LoadedMovie::Content::sound,
+                 movie->info().hasVideo && isDecodedByOneThread(movie->info()) ? LoadedMovie::Seeking::withMoreThreads
+                                                                               : LoadedMovie::Seeking::asLoaded};
     }
     const std::int32_t start = movie ? movie->time() : 0;
     if (_movie && _movie != movie)
@@ -243,6 +247,8 @@ void MpvPlayer::handle(const mpv_event& event) {
                                                                                         : CoreEnd::ofMovie});
         else if (event.reply_userdata == durationProperty && hasFileGrown())
             apply(playerEvent::DurationGrew{*static_cast<const double*>(property->data)});
+        else if (event.reply_userdata == decoderProperty)
+            _decodesInHardware = qstrcmp(*static_cast<const char* const*>(property->data), "no") != 0;
         else if (event.reply_userdata == waitProperty && *static_cast<const int*>(property->data) != 0)
             setWait({Wait::What::more, 0});
         else if (event.reply_userdata == waitProperty && _wait.what == Wait::What::more)
@@ -291,6 +297,15 @@ void MpvPlayer::carryOut(const playerEffect::SendSeek& effect) {
     const QByteArray seconds = QByteArray::number(effect.seek.seconds, 'f', 6);
     command({"seek", seconds.constData(),
              effect.seek.kind == SeekPlanner::Kind::keyframe ? "absolute+keyframes" : "absolute+exact"});
+}
+
+void MpvPlayer::carryOut(const playerEffect::UseMoreThreads&) {
+    if (_decodesInHardware || MpvLibrary::get()->dialect().newDecoder != MpvDialect::NewDecoder::seeksAtOnce)
+        return;
+    command({"set", "file-local-options/vd-lavc-threads", "0"});
+    // Another way to say no: the decoder is made anew at any change. The core then seeks to where it stands, in place
+    // of which comes the seek that follows.
+    command({"set", "file-local-options/hwdec", "no,"});
 }
 
 void MpvPlayer::carryOut(const playerEffect::SendSteps& effect) {

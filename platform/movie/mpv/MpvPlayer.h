@@ -76,6 +76,7 @@ private:
     void carryOut(const playerEffect::LoadFile& effect);
     void carryOut(const playerEffect::StopFile&) { command({"stop"}); }
     void carryOut(const playerEffect::SendSeek& effect);
+    void carryOut(const playerEffect::UseMoreThreads&);
     void carryOut(const playerEffect::SendSteps& effect);
     void carryOut(const playerEffect::SetPaused& effect) { setFlag("pause", effect.paused); }
     void carryOut(const playerEffect::SetSpeed& effect) { setNumber("speed", effect.speed); }
@@ -114,6 +115,7 @@ private:
     Observer* _observer = nullptr;
     Movie* _movie = nullptr;
     PlayerState _state;
+    bool _decodesInHardware = false;
     std::uint64_t _loads = 0;
     qint64 _sizeWhenLoaded = 0; // bytes of the movie's file
     Wait _wait;

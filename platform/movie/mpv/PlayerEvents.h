@@ -18,6 +18,8 @@ struct LoadedMovie {
     std::int32_t duration = 0; ///< 0 when it is not known.
     std::int32_t timeScale = 600;
     enum class Content { sound, frames } content = Content::frames;
+    /// How its decoder seeks: as it was made, or with several threads once it is made anew for them.
+    enum class Seeking { asLoaded, withMoreThreads } seeking = Seeking::asLoaded;
     friend bool operator==(const LoadedMovie&, const LoadedMovie&) = default;
 };
 
@@ -107,6 +109,8 @@ struct StopFile {};
 struct SendSeek {
     SeekPlanner::Seek seek;
 };
+/// Has the movie decoded by several threads; a seek follows at once.
+struct UseMoreThreads {};
 /// That many frames forward, or back where it is negative.
 struct SendSteps {
     int count;
@@ -143,9 +147,9 @@ struct DropHeldFrame {};
 } // namespace playerEffect
 
 using PlayerEffect =
-    std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::SendSeek, playerEffect::SendSteps,
-                 playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetVolume, playerEffect::SetMuted,
-                 playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
+    std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::UseMoreThreads, playerEffect::SendSeek,
+                 playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetVolume,
+                 playerEffect::SetMuted, playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
                  playerEffect::UseCoreFrame, playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
 
 /// What the observer and the movie are told.

@@ -15,6 +15,7 @@ using namespace playerReport;
 using File = PlayerState::File;
 using JumpReport = MoviePlayer::JumpReport;
 using Precision = SeekPlanner::Precision;
+using Seeking = LoadedMovie::Seeking;
 using SeekStage = PlayerState::SeekStage;
 using TimeSource = PlayerState::TimeSource;
 
@@ -329,6 +330,10 @@ private:
         _s.end = CoreEnd::no;
         _s.seekStage = SeekStage::sent;
         applyMotion();
+        // The picture of a keyframe needs no others; before an exact one many may have to be decoded.
+        if (seek.kind == SeekPlanner::Kind::exact && seek.seconds > 0 &&
+            std::exchange(_s.movie->seeking, Seeking::asLoaded) == Seeking::withMoreThreads)
+            effect(UseMoreThreads{});
         effect(SendSeek{seek});
     }
 
