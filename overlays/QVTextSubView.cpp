@@ -30,9 +30,10 @@ QVTextSubView::QVTextSubView(const Environment& environment, platform::Window& p
 SubtitleMarkup::Cue QVTextSubView::drawn() const {
     if (!_subtitle)
         return {};
+    const QString text = _subtitle->beginningOfText(SubtitleMarkup::maximumRead);
     if (!environment().settings.boolForKey(kQVSubtitlesMarkup))
-        return {{_subtitle->text(), {}}, {}};
-    return SubtitleMarkup::read(_subtitle->text());
+        return {{text, {}}, {}};
+    return SubtitleMarkup::read(text);
 }
 
 void QVTextSubView::draw(const SubtitleMarkup::Cue& cue) {

@@ -4,14 +4,10 @@
 #include "overlays/MarkupEntities.h"
 #include "overlays/MarkupPen.h"
 #include "overlays/MarkupTags.h"
-#include "platform/window/TextLayout.h"
 
 #include <algorithm>
 
 namespace {
-
-/// Of a text with markup, that is read: each character may have a tag of its own.
-constexpr qsizetype maximumRead = 16 * platform::maximumDisplayedCharacters;
 
 bool mayHaveMarkup(QStringView text) {
     return text.contains(u'<') || text.contains(u'&') || text.contains(u'{') || text.contains(u'\\') ||

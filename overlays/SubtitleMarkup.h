@@ -3,12 +3,16 @@
 
 #include "overlays/SubtitlePlacement.h"
 #include "platform/window/StyledText.h"
+#include "platform/window/TextLayout.h"
 
 #include <optional>
 
 /// What the markup in the text of a cue asks for. Subtitles of every kind hold the tags of web pages, the codes in
 /// braces of other subtitle formats, and entities, whatever their own format says.
 namespace SubtitleMarkup {
+
+/// Of a text, that is looked at: each character that a screen shows may have a tag of its own.
+inline constexpr qsizetype maximumRead = 16 * platform::maximumDisplayedCharacters;
 
 struct Cue {
     platform::StyledText text;

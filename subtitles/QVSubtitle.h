@@ -56,6 +56,8 @@ public:
     /// Lines end in line feeds (a carriage return before one stays as the file has it). Null for pictures, and for a
     /// text that could not be decoded.
     QString text() const;
+    /// As much of it as so many bytes, or characters, hold: for those who need no more of a very long one.
+    QString beginningOfText(qsizetype maximum) const;
     void setText(QString text) {
         _text = std::move(text);
         _utf8 = {};

@@ -27,4 +27,16 @@ OpenedFile openRegularFile(const QString& path);
 /// what is left. Any thread.
 std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit, int* error = nullptr);
 
+/// A text as far as its lines are of a length that somebody may have written.
+struct TextFile {
+    QByteArray bytes;
+    /// The bytes of the ends of lines that are missing in it.
+    qsizetype leftOut = 0;
+};
+
+/// The same for a text, of whose lines the first so many bytes stay, up to the next blank if one is near, with their
+/// ends: carriage returns or line feeds. What is left out is never all in memory. Characters of UTF-8 stay whole, and
+/// so do those of a text in 16-bit units, where `maximumLine` is even. Any thread.
+std::optional<TextFile> readTextFile(const QString& path, qsizetype limit, qsizetype maximumLine);
+
 } // namespace platform

@@ -5,6 +5,14 @@
 
 #include <utility>
 
+namespace {
+
+/// Bytes or characters of a cue. What is larger is no text that somebody wrote, and would fill the memory several times
+/// over.
+constexpr qsizetype maximumTextSize = 16 * 1024 * 1024;
+
+} // namespace
+
 TextStore::TextStore(SubtitleText text)
     : _bytes(std::move(text.bytes))
     , _decoder(text.decodeWith) {
@@ -16,7 +24,13 @@ std::string_view TextStore::view() const {
     return {_bytes.constData(), static_cast<std::size_t>(_bytes.size())};
 }
 
+bool TextStore::appendBytes(std::string_view bytes, QString& text) {
+    return text.size() >= maximumTextSize || _decoder.append(bytes, text);
+}
+
 void TextStore::appendPiece(std::string_view piece, PendingText& text) {
+    if (text.utf8.size() >= static_cast<std::size_t>(maximumTextSize))
+        return;
     const bool follows = text.utf8.empty() ? text.copy.isEmpty() : text.utf8.data() + text.utf8.size() == piece.data();
     if (follows && CueText::endsBetweenCharacters(piece, _validUTF8)) {
         text.utf8 =

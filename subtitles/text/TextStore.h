@@ -32,8 +32,9 @@ public:
 
     /// What there is to read. Pieces handed to append are parts of it.
     std::string_view view() const;
-    /// Decodes exactly these bytes and appends them; leaves the text as it is when they are not valid.
-    bool appendBytes(std::string_view bytes, QString& text) { return _decoder.append(bytes, text); }
+    /// Decodes exactly these bytes and appends them; leaves the text as it is when they are not valid, and when it is
+    /// already longer than any cue that somebody wrote.
+    bool appendBytes(std::string_view bytes, QString& text);
     /// The same for a piece of the text being read, which stays where it is as long as it can.
     void appendPiece(std::string_view piece, PendingText& text);
     /// Where a cue's text is put together: empty, and with the memory that earlier cues needed.

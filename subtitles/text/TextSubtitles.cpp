@@ -14,16 +14,22 @@ namespace {
 /// What is larger, or has more cues, is no text that somebody wrote, and would stop the player for seconds.
 constexpr qsizetype maximumFileSize = 256 * 1024 * 1024;
 constexpr std::size_t maximumCues = 2'000'000;
+constexpr qsizetype maximumLine = 16 * 1024 * 1024;
 
 } // namespace
 
 /// None when the file cannot be opened, which is logged.
 std::optional<QByteArray> TextSubtitles::fileBytes() const {
-    std::optional<QByteArray> bytes = platform::readRegularFile(path(), maximumFileSize);
-    if (!bytes)
+    std::optional<platform::TextFile> file = platform::readTextFile(path(), maximumFileSize, maximumLine);
+    if (!file) {
         logAlways("ERROR: %@: Unable to open subtitles file \"%@\" for reading.", className(),
                   platform::lastPathComponent(path()));
-    return bytes;
+        return std::nullopt;
+    }
+    if (file->leftOut > 0)
+        logAlways("WARNING: %@: \"%@\" has lines that are too long, their ends are left out.", className(),
+                  platform::lastPathComponent(path()));
+    return std::move(file->bytes);
 }
 
 void TextSubtitles::_preload() {

@@ -103,6 +103,40 @@ TEST_F(HostileFiles, an_index_has_a_limited_number_of_streams) {
     EXPECT_FALSE(parse(indexHeader + streams + "id: en, index: 0\n").index);
 }
 
+TEST_F(HostileFiles, a_text_has_limited_lines_and_cues_limited_texts) {
+    constexpr std::size_t large = 18'000'000;
+    constexpr qsizetype maximum = 16 * 1024 * 1024 + 2000;
+    const auto filled = [](std::string text, const std::string& piece) {
+        while (text.size() < large)
+            text += piece;
+        return text;
+    };
+    const auto expectTwo = [&](const char* name, const std::string& content) {
+        SCOPED_TRACE(name);
+        const auto track = load(name, content);
+        ASSERT_TRUE(track);
+        ASSERT_EQ(track->count(), 2U);
+        const QVSubtitle& first = *track->cues()[0];
+        EXPECT_LE(first.text().size(), maximum);
+        EXPECT_GT(first.text().size(), maximum / 2);
+        EXPECT_TRUE(first.text().startsWith(first.beginningOfText(100)));
+        EXPECT_NEAR(static_cast<double>(first.beginningOfText(100).size()), 90, 10);
+        EXPECT_EQ(track->cues()[1]->text(), "after");
+    };
+    const CapturedLog log;
+    const std::string blockStart = "1\n00:00:01,000 --> 00:00:02,000\n";
+    const std::string nextBlock = "\n\n2\n00:00:05,000 --> 00:00:06,000\nafter\n\n";
+    expectTwo("lines.srt", filled(blockStart, "many w\xC3\xB6rter in lines\n") + nextBlock);
+    expectTwo("lines.srt", filled(blockStart, "many w\xF6rter in lines\n") + nextBlock);
+    EXPECT_FALSE(log.contains("too long"));
+    expectTwo("film.srt", filled(blockStart, "many w\xC3\xB6rter ") + nextBlock);
+    expectTwo("film.sub", filled("{25}{50}", "many w\xF6rter ") + "\n{125}{150}after\n");
+    expectTwo("film.txt", filled("00:00:01:", "many words ") + "\n00:00:05:after\n");
+    for (const char* name : {"film.srt", "film.sub", "film.txt"})
+        EXPECT_TRUE(
+            log.contains((std::string(name) + "\" has lines that are too long, their ends are left out.").c_str()));
+}
+
 TEST_F(HostileFiles, a_text_has_a_limited_number_of_cues) {
     constexpr std::size_t maximum = 2'000'000;
     std::string lines;
