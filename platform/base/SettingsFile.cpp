@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace platform {
@@ -34,14 +35,34 @@ QString behindLinks(const QString& path) {
     return target;
 }
 
-/// A rename lasts only once the folder is on the disk. Some file systems can't do it; that is no loss.
-void syncFolder(const QString& path) {
-    const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0)
-        return;
-    ::fsync(folder);
-    ::close(folder);
-}
+/// The folder of the settings, for one writer at a time. The file itself is another one after each rename, and a file
+/// for the lock alone would lie about for good.
+class FolderLock {
+public:
+    explicit FolderLock(const QString& path)
+        : _folder(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        constexpr int attempts = 250;
+        constexpr unsigned pauseInMicroseconds = 2000;
+        // Writing takes milliseconds. Whoever holds it for longer doesn't write; some file systems have no locks.
+        for (int i = 0; i < attempts && ::flock(_folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; ++i)
+            ::usleep(pauseInMicroseconds);
+    }
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    ~FolderLock() {
+        if (_folder >= 0)
+            ::close(_folder);
+    }
+
+    /// A rename lasts only once the folder is on the disk. Some file systems can't do it; that is no loss.
+    void syncFolder() const {
+        if (_folder >= 0)
+            ::fsync(_folder);
+    }
+
+private:
+    int _folder;
+};
 
 /// Renames the damaged file; the name it has now, or nothing when it can't be.
 QString putAside(const QString& path) {
@@ -66,6 +87,13 @@ QString SettingsFile::defaultPath() {
 }
 
 QVariantMap SettingsFile::load() {
+    _known = read().value_or(QVariantMap());
+    return _known;
+}
+
+/// None when there is no file, or none any more; not _writable when there is one that must stay as it is.
+std::optional<QVariantMap> SettingsFile::read() {
+    const bool isKnown = !_writable; // and was reported
     _writable = true;
     int error = 0;
     auto bytes = readRegularFile(_path, maximumBytes + 1, &error);
@@ -74,14 +102,15 @@ QVariantMap SettingsFile::load() {
         error = EFBIG;
     }
     if (!bytes && (error == ENOENT || error == ENOTDIR))
-        return {};
+        return std::nullopt;
     if (!bytes) {
         // There may be good settings in it.
         _writable = false;
-        logError(QStringLiteral("Can't read the settings in"), _path,
-                 QString::fromLocal8Bit(std::strerror(error)) +
-                     QStringLiteral(". The settings of this run will not be kept"));
-        return {};
+        if (!isKnown)
+            logError(QStringLiteral("Can't read the settings in"), _path,
+                     QString::fromLocal8Bit(std::strerror(error)) +
+                         QStringLiteral(". The settings of this run will not be kept"));
+        return std::nullopt;
     }
     const auto root = propertyList::parse(*bytes);
     if (root && root->typeId() == QMetaType::QVariantMap)
@@ -91,27 +120,45 @@ QVariantMap SettingsFile::load() {
     _writable = !aside.isEmpty();
     if (_writable)
         logError(QStringLiteral("Damaged settings in"), _path, QStringLiteral("They are kept as ") + aside);
-    else
+    else if (!isKnown)
         logError(QStringLiteral("Damaged settings in"), _path,
                  QStringLiteral("The file can't be renamed. The settings of this run will not be kept"));
-    return {};
+    return std::nullopt;
+}
+
+/// What is stored now, with this process's changes.
+QVariantMap SettingsFile::merged(const QVariantMap& domain, QVariantMap stored) const {
+    for (auto known = _known.begin(); known != _known.end(); ++known) {
+        if (!domain.contains(known.key()))
+            stored.remove(known.key());
+    }
+    for (auto own = domain.begin(); own != domain.end(); ++own) {
+        const auto known = _known.constFind(own.key());
+        if (known == _known.constEnd() || known->metaType() != own->metaType() || *known != *own)
+            stored.insert(own.key(), *own);
+    }
+    return stored;
 }
 
 bool SettingsFile::store(const QVariantMap& domain) {
-    if (!_writable)
-        return false;
     const QFileInfo place(_path);
     QDir().mkpath(place.absolutePath());
+    const FolderLock lock(place.absolutePath());
+    const std::optional<QVariantMap> stored = read();
+    if (!_writable)
+        return false;
     QSaveFile file(_path);
-    const QByteArray bytes = propertyList::toXml(domain);
+    const QByteArray bytes = propertyList::toXml(stored ? merged(domain, *stored) : domain);
     // A file that stood there lends its permissions; a new one is for its owner alone.
     const bool isStored = file.open(QIODevice::WriteOnly) &&
                           (place.exists() || file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)) &&
                           file.write(bytes) == bytes.size() && file.commit();
-    if (isStored)
-        syncFolder(place.absolutePath());
-    else
+    if (isStored) {
+        _known = domain;
+        lock.syncFolder();
+    } else {
         logError(QStringLiteral("Can't write the settings to"), _path, file.errorString());
+    }
     return isStored;
 }
 

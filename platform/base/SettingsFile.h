@@ -3,12 +3,18 @@
 
 #include "platform/base/UserDefaults.h"
 
+#include <optional>
+
 namespace platform {
 
 /// Settings in one XML property list. It is written whole to a temporary file beside it, synced, and renamed over it,
 /// so that a crash at any moment leaves the old or the new settings, never a mixture. Symbolic links and the
 /// permissions of a file that stands there are kept; a new one is for its owner alone. A damaged file is renamed aside
 /// ("NAME.damaged-YYYYMMDD-HHMMSS") and reported in the log, never overwritten.
+///
+/// Several players may have the file: storing changes those keys in it that differ from what this one loaded or stored
+/// last, and leaves all others as they are there now. Players that store at once wait for each other, half a second at
+/// the longest.
 class SettingsFile final : public SettingsStorage {
 public:
     explicit SettingsFile(const QString& path);
@@ -17,10 +23,16 @@ public:
     static QString defaultPath();
 
     QVariantMap load() override;
+    /// Where the file is gone, or damaged by now, the whole domain is stored.
     bool store(const QVariantMap& domain) override;
 
 private:
+    std::optional<QVariantMap> read();
+    QVariantMap merged(const QVariantMap& domain, QVariantMap stored) const;
+
     QString _path;
+    /// What this process loaded or stored last.
+    QVariantMap _known;
     bool _writable = true;
 };
 

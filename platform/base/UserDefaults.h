@@ -22,8 +22,9 @@ public:
 
     /// What was stored last; an empty map when nothing was.
     virtual QVariantMap load() = 0;
-    /// Stores the whole domain; after it returned true, load() gives it also after a crash. False when it could not
-    /// be stored (what was stored before is then untouched, and a message was logged).
+    /// Stores what of the domain has changed since it was loaded or stored last; after it returned true, load() gives
+    /// that also after a crash, and what others stored meanwhile under other keys. False when it could not be stored
+    /// (what was stored before is then untouched, and a message was logged).
     virtual bool store(const QVariantMap& domain) = 0;
 };
 
@@ -77,7 +78,7 @@ public:
 
     /// Whether the user's domain (or an override) holds a value of its own for the key.
     bool hasStoredValue(const QString& key) const;
-    /// The user's domain as it would be stored.
+    /// The user's domain: what was stored when this process began, with its own changes.
     const QVariantMap& persistentDomain() const { return _domain; }
 
     /// Writes the user's domain out if it changed since. Without it a change is written by itself about a second

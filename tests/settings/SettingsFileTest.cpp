@@ -4,10 +4,14 @@
 #include "tests/support/Files.h"
 
 #include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <vector>
 
 using platform::SettingsFile;
 
@@ -109,6 +113,70 @@ TEST_F(SettingsFileTest, a_link_stays_a_link_and_permissions_stay) {
     ::stat(QFile::encodeName(target).constData(), &info);
     EXPECT_EQ(info.st_mode & 0777U, 0640U);
     EXPECT_EQ(SettingsFile(path).load(), (QVariantMap{{"other", 1}}));
+}
+
+TEST_F(SettingsFileTest, players_that_share_it_keep_what_the_other_wrote) {
+    ASSERT_TRUE(SettingsFile(path).store({{"volume", 1}, {"layer", 1}, {"style", 1}, {"of another program", 1}}));
+    SettingsFile first(path);
+    SettingsFile second(path);
+    QVariantMap ofFirst = first.load();
+    QVariantMap ofSecond = second.load();
+    ofFirst["volume"] = 2;
+    ofFirst["new"] = "first";
+    ofFirst.remove("style");
+    EXPECT_TRUE(first.store(ofFirst));
+    ofSecond["layer"] = 3;
+    EXPECT_TRUE(second.store(ofSecond));
+    const QVariantMap both{{"volume", 2}, {"layer", 3}, {"new", "first"}, {"of another program", 1}};
+    EXPECT_EQ(SettingsFile(path).load(), both);
+    // The later change of one key counts, and what was stored once is not stored again.
+    ofSecond["volume"] = 4;
+    EXPECT_TRUE(second.store(ofSecond));
+    ofFirst["layer"] = 5;
+    EXPECT_TRUE(first.store(ofFirst));
+    EXPECT_EQ(SettingsFile(path).load().value("volume"), 4);
+    EXPECT_EQ(SettingsFile(path).load().value("layer"), 5);
+    // Gone or damaged meanwhile: each has all that it knows.
+    QFile::remove(path);
+    ofFirst["layer"] = 6;
+    EXPECT_TRUE(first.store(ofFirst));
+    EXPECT_EQ(SettingsFile(path).load(), ofFirst);
+    writeFile(path, "damaged");
+    ofSecond["layer"] = 7;
+    EXPECT_TRUE(second.store(ofSecond));
+    EXPECT_EQ(SettingsFile(path).load(), ofSecond);
+    EXPECT_EQ(names().filter(".damaged-").size(), 1);
+}
+
+TEST_F(SettingsFileTest, players_that_write_at_the_same_time_lose_nothing) {
+    constexpr int players = 4;
+    constexpr int keys = 25;
+    std::vector<pid_t> children;
+    for (int player = 0; player < players; ++player) {
+        children.push_back(::fork());
+        if (children.back() == 0) {
+            SettingsFile file(path);
+            QVariantMap domain = file.load();
+            bool stored = true;
+            for (int key = 0; key < keys; ++key) {
+                domain[QStringLiteral("%1-%2").arg(player).arg(key)] = key;
+                stored = file.store(domain) && stored;
+            }
+            ::_exit(stored ? 0 : 1);
+        }
+    }
+    for (const pid_t child : children) {
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(SettingsFile(path).load().size(), players * keys);
+    EXPECT_EQ(names(), QStringList{"settings.plist"});
+    // Somebody who holds the lock and does nothing delays it, no more.
+    const int holder = ::open(QFile::encodeName(folder.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(::flock(holder, LOCK_EX), 0);
+    EXPECT_TRUE(SettingsFile(path).store(settings));
+    ::close(holder);
 }
 
 TEST_F(SettingsFileTest, killed_at_any_moment_it_reads_back_whole) {
