@@ -157,6 +157,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         if (!files.files.isEmpty())
             take(files);
         status = desktop.run(player.application());
+        instance.close(); // nothing more is received
     }
     // What is not removed by then is left to the next start.
     platform::PrivateSubfolder::waitUntilGone();

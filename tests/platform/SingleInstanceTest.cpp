@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/linux/SingleInstance.h"
+#include "platform/desktop/linux/LocalSocket.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -57,8 +60,14 @@ protected:
         const QByteArray place = QFile::encodeName(path);
         std::memcpy(address.sun_path, place.constData(), static_cast<std::size_t>(place.size()));
         EXPECT_EQ(::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
-        EXPECT_EQ(::send(socket, bytes.constData(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL),
-                  bytes.size());
+        // One that the player lets go can't send all.
+        for (qsizetype sent = 0; sent < bytes.size();) {
+            const ssize_t count =
+                ::send(socket, bytes.constData() + sent, static_cast<std::size_t>(bytes.size() - sent), MSG_NOSIGNAL);
+            if (count <= 0)
+                break;
+            sent += count;
+        }
         return socket;
     }
 
@@ -130,6 +139,54 @@ TEST_F(SingleInstanceTest, what_a_killed_player_left_is_taken_over_and_is_for_th
     EXPECT_EQ(received, (std::vector<HandOver>{{true, {"/b"}}}));
 }
 
+TEST_F(SingleInstanceTest, a_busy_player_answers_and_receives_later) {
+    SingleInstance instance(path);
+    ASSERT_TRUE(listens(instance));
+    HandOver many{false, {}};
+    for (int i = 0; i < 50000; ++i)
+        many.files.append(QStringLiteral("/a rather long name of a movie %1.mp4").arg(i));
+    // A large message waits for the one before to be received.
+    EXPECT_TRUE(SingleInstance(path).handOver({true, {"/first"}}));
+    EXPECT_TRUE(received.empty());
+    EXPECT_TRUE(handOver(many));
+    EXPECT_TRUE(waitFor([&] { return received.size() == 4; }));
+    QStringList files;
+    for (std::size_t part = 1; part < received.size(); ++part) {
+        EXPECT_EQ(received[part].append, part > 1) << part;
+        files += received[part].files;
+    }
+    EXPECT_EQ(files, many.files);
+
+    instance.close();
+    SingleInstance next(path);
+    EXPECT_TRUE(listens(next)) << "the next one need not wait for the end of the process";
+}
+
+TEST_F(SingleInstanceTest, who_holds_the_lock_and_says_nothing_is_soon_given_up) {
+    const int lock = ::open(QFile::encodeName(path + ".lock").constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_EQ(::flock(lock, LOCK_EX), 0);
+    const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const auto address = platform::localAddress(path);
+    ASSERT_EQ(::bind(silent, reinterpret_cast<const sockaddr*>(&*address), sizeof *address), 0);
+    ASSERT_EQ(::listen(silent, 0), 0);
+    std::vector<int> callers;
+    for (const char* what : {"its queue takes the caller", "its queue is full"}) {
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_TRUE(SingleInstance(path).isTaken());
+        EXPECT_FALSE(SingleInstance(path).handOver({false, {"/a"}})) << what;
+        SingleInstance instance(path);
+        EXPECT_FALSE(listens(instance)) << what;
+        constexpr int halfASecondOnABusyMachine = 1500;
+        EXPECT_LT(timer.elapsed(), halfASecondOnABusyMachine) << what;
+        callers.push_back(platform::connectToLocalSocket(path, std::chrono::milliseconds(1)));
+    }
+    for (const int socket : callers)
+        ::close(socket);
+    ::close(silent);
+    ::close(lock);
+}
+
 TEST_F(SingleInstanceTest, clients_and_their_messages_are_limited) {
     SingleInstance instance(path);
     ASSERT_TRUE(listens(instance));
@@ -151,10 +208,24 @@ TEST_F(SingleInstanceTest, clients_and_their_messages_are_limited) {
     EXPECT_TRUE(waitFor([&] { return !isOpen(sockets[0]); })) << "the oldest one goes";
     EXPECT_TRUE(std::all_of(sockets.begin() + 1, sockets.end(), isOpen));
 
-    connectOne(QByteArray::fromHex("0080000061"));
-    connectOne(QByteArray::fromHex("0080000161"));
-    EXPECT_TRUE(waitFor([&] { return !isOpen(sockets.back()); })) << "more than 8 MiB is refused before it comes";
-    EXPECT_TRUE(isOpen(sockets[sockets.size() - 2])) << "8 MiB are waited for";
+    connectOne(QByteArray::fromHex("0040000061"));
+    connectOne(QByteArray::fromHex("0040000161"));
+    EXPECT_TRUE(waitFor([&] { return !isOpen(sockets.back()); })) << "more than 4 MiB is refused before it comes";
+    EXPECT_TRUE(isOpen(sockets[sockets.size() - 2])) << "4 MiB are waited for";
+
+    // All of them together hold a few of the 64 MiB that they send.
+    const QByteArray half = QByteArray::fromHex("00400000") + QByteArray(2 << 20, 'a');
+    for (const int socket : sockets)
+        ::close(socket);
+    sockets.clear();
+    while (sockets.size() < maximumClients)
+        connectOne(half);
+    constexpr auto maximumHolding = 3;
+    EXPECT_TRUE(waitFor([&] { return std::ranges::count_if(sockets, isOpen) <= maximumHolding; }));
+    EXPECT_GE(std::ranges::count_if(sockets, isOpen), 1);
+    // Each file takes more memory than the byte that parts it from the next.
+    connectOne(QByteArray::fromHex("00100000") + QByteArray(1 << 20, '\0'));
+    EXPECT_TRUE(waitFor([&] { return !isOpen(sockets.back()); }));
     for (const int socket : sockets)
         ::close(socket);
     EXPECT_TRUE(received.empty());

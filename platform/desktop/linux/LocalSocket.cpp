@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <cstring>
@@ -20,9 +21,14 @@ std::optional<sockaddr_un> localAddress(const QString& path) {
     return address;
 }
 
-int connectToLocalSocket(const QString& path) {
+int connectToLocalSocket(const QString& path, std::chrono::milliseconds timeout) {
     const auto address = localAddress(path);
     const int socket = address ? ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0) : -1;
+    // Of a listener whose queue is full, connect waits as long as sending would.
+    const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(timeout).count();
+    const timeval time{microseconds / 1'000'000, microseconds % 1'000'000};
+    if (socket >= 0)
+        ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &time, sizeof time);
     if (socket < 0 || ::connect(socket, reinterpret_cast<const sockaddr*>(&*address), sizeof(*address)) == 0)
         return socket;
     ::close(socket);

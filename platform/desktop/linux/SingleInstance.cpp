@@ -2,36 +2,34 @@
 #include "platform/desktop/linux/SingleInstance.h"
 
 #include "platform/base/Log.h"
+#include "platform/desktop/linux/HandOverListener.h"
 #include "platform/desktop/linux/LocalSocket.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QSocketNotifier>
-#include <QtEndian>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
-#include <optional>
 #include <utility>
 
 namespace platform {
 
 namespace {
 
-constexpr char acknowledgement = 'k';
 constexpr mode_t forThisUser = 0600;
-constexpr quint32 maximumMessage = 8U << 20;
-constexpr std::size_t maximumClients = 32;
+/// A start is not to be delayed by more than half a second, whoever holds the lock.
+constexpr std::chrono::milliseconds answerTimeout{400};
 
 bool isPrivateFolder(const QByteArray& path) {
     struct stat status {};
@@ -57,16 +55,6 @@ bool takeLock(int lock) {
 }
 
 } // namespace
-
-struct SingleInstance::Client {
-    int socket = -1;
-    QByteArray received;
-    std::unique_ptr<QSocketNotifier> notifier;
-    ~Client() {
-        notifier.reset();
-        ::close(socket);
-    }
-};
 
 QString SingleInstance::defaultSocketPath() {
     QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
@@ -104,32 +92,15 @@ SingleInstance::SingleInstance(QString socketPath)
     : _path(std::move(socketPath)) {}
 
 SingleInstance::~SingleInstance() {
-    _clients.clear();
-    _notifier.reset();
-    if (_socket >= 0) {
+    close();
+}
+
+void SingleInstance::close() {
+    if (_listener)
         ::unlink(QFile::encodeName(_path).constData());
-        ::close(_socket);
-    }
+    _listener.reset();
     if (_lock >= 0)
-        ::close(_lock);
-}
-
-QByteArray SingleInstance::encoded(const HandOver& message) {
-    QByteArray body = message.append ? "append" : "replace";
-    for (const QString& file : message.files)
-        body += '\0' + file.toUtf8();
-    QByteArray bytes(4, '\0');
-    qToBigEndian(static_cast<quint32>(body.size()), bytes.data());
-    return bytes + body;
-}
-
-HandOver SingleInstance::decoded(const QByteArray& bytes) {
-    HandOver message;
-    const QList<QByteArray> words = bytes.mid(4).split('\0');
-    message.append = words.value(0) == "append";
-    for (qsizetype i = 1; i < words.size(); ++i)
-        message.files.append(QString::fromUtf8(words[i]));
-    return message;
+        ::close(std::exchange(_lock, -1));
 }
 
 bool SingleInstance::isTaken() const {
@@ -146,23 +117,36 @@ QString SingleInstance::lockPath() const {
 }
 
 bool SingleInstance::handOver(const HandOver& message) const {
-    const int socket = connectToLocalSocket(_path);
+    bool isTakenByOne = false;
+    for (const QByteArray& part : handOverMessage::encoded(message)) {
+        if (!send(part))
+            break;
+        isTakenByOne = true;
+    }
+    return isTakenByOne;
+}
+
+bool SingleInstance::send(const QByteArray& message) const {
+    QDeadlineTimer deadline(answerTimeout);
+    const int socket = connectToLocalSocket(_path, answerTimeout);
     if (socket < 0)
         return false;
-    const timeval timeout{3, 0};
-    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
-    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof(timeout));
-    const QByteArray bytes = encoded(message);
+    const auto isReady = [socket, &deadline](short event) {
+        pollfd waited{socket, event, 0};
+        return ::poll(&waited, 1, static_cast<int>(deadline.remainingTime())) > 0;
+    };
     qsizetype sent = 0;
-    while (sent < bytes.size()) {
-        const ssize_t count =
-            ::send(socket, bytes.constData() + sent, static_cast<std::size_t>(bytes.size() - sent), MSG_NOSIGNAL);
+    while (sent < message.size() && isReady(POLLOUT)) {
+        const ssize_t count = ::send(socket, message.constData() + sent,
+                                     static_cast<std::size_t>(message.size() - sent), MSG_NOSIGNAL | MSG_DONTWAIT);
         if (count <= 0)
             break;
         sent += count;
+        deadline.setRemainingTime(answerTimeout); // it listens
     }
     char answer = 0;
-    const bool taken = sent == bytes.size() && ::recv(socket, &answer, 1, 0) == 1 && answer == acknowledgement;
+    const bool taken = sent == message.size() && isReady(POLLIN) && ::recv(socket, &answer, 1, MSG_DONTWAIT) == 1 &&
+                       answer == handOverMessage::acknowledgement;
     ::close(socket);
     return taken;
 }
@@ -176,57 +160,17 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> receive) {
     if (_lock < 0 || !takeLock(_lock))
         return false;
     ::unlink(address->sun_path);
-    _socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (_socket < 0 || ::bind(_socket, reinterpret_cast<const sockaddr*>(&*address), sizeof(*address)) != 0 ||
-        ::chmod(address->sun_path, forThisUser) != 0 || ::listen(_socket, 8) != 0) {
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (socket < 0 || ::bind(socket, reinterpret_cast<const sockaddr*>(&*address), sizeof(*address)) != 0 ||
+        ::chmod(address->sun_path, forThisUser) != 0 || ::listen(socket, 8) != 0) {
         Log::write(QStringLiteral("WARNING: SingleInstance: Can't listen at %1: %2")
                        .arg(_path, QString::fromLocal8Bit(std::strerror(errno))));
+        if (socket >= 0)
+            ::close(socket);
         return false;
     }
-    _receive = std::move(receive);
-    _notifier = std::make_unique<QSocketNotifier>(_socket, QSocketNotifier::Read);
-    QObject::connect(_notifier.get(), &QSocketNotifier::activated, _notifier.get(), [this] { acceptClient(); });
+    _listener = std::make_unique<HandOverListener>(socket, std::move(receive));
     return true;
-}
-
-void SingleInstance::acceptClient() {
-    const int socket = ::accept4(_socket, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-    if (socket < 0)
-        return;
-    // A caller that never says anything must not keep others out.
-    if (_clients.size() >= maximumClients)
-        _clients.erase(_clients.begin());
-    auto client = std::make_unique<Client>();
-    client->socket = socket;
-    client->notifier = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
-    Client* raw = client.get();
-    QObject::connect(raw->notifier.get(), &QSocketNotifier::activated, raw->notifier.get(),
-                     [this, raw] { readClient(*raw); });
-    _clients.push_back(std::move(client));
-}
-
-void SingleInstance::readClient(Client& client) {
-    char buffer[65536];
-    const ssize_t count = ::recv(client.socket, buffer, sizeof(buffer), 0);
-    if (count < 0 && (errno == EAGAIN || errno == EINTR))
-        return;
-    if (count > 0)
-        client.received.append(buffer, count);
-    const quint32 size = client.received.size() >= 4 ? qFromBigEndian<quint32>(client.received.constData()) : 0;
-    const bool complete = client.received.size() >= 4 && client.received.size() - 4 >= static_cast<qsizetype>(size);
-    if (count > 0 && size <= maximumMessage && !complete)
-        return;
-    std::optional<HandOver> message;
-    if (complete) {
-        ::send(client.socket, &acknowledgement, 1, MSG_NOSIGNAL);
-        message = decoded(client.received.left(4 + static_cast<qsizetype>(size)));
-    }
-    // The notifier that called this goes with the client; it is only ended from outside its own signal.
-    client.notifier->setEnabled(false);
-    client.notifier.release()->deleteLater();
-    std::erase_if(_clients, [&client](const auto& other) { return other.get() == &client; });
-    if (message)
-        _receive(*message);
 }
 
 } // namespace platform

@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
+#include "platform/desktop/linux/HandOver.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
-#include <vector>
-
-class QSocketNotifier;
 
 namespace platform {
 
-/// What one launch hands to the running player.
-struct HandOver {
-    bool append = false;
-    /// Absolute paths and URLs.
-    QStringList files;
-    friend bool operator==(const HandOver&, const HandOver&) = default;
-};
+class HandOverListener;
 
 /// One running player for each user and display: a socket in the user's runtime folder, for this user alone, and a lock
 /// beside it that ends with the process, so that a socket that a crash left is nobody's. Main thread.
@@ -36,29 +28,23 @@ public:
 
     /// Whether a player is running, as far as can be told without asking it.
     bool isTaken() const;
-    /// Hands over to the running player; true when one took it. Needs no application object. A player that does not
-    /// answer within three seconds counts as none.
+    /// Hands over to the running player; true when one took it. Needs no application object. A player answers at once,
+    /// however busy it is: one that has not after 0.4 seconds counts as none. Very many files go in parts, of which all
+    /// but the first are appended.
     bool handOver(const HandOver& message) const;
-    /// Becomes the running player: `receive` is called for each hand-over from here on. False when another one is, or
-    /// the socket cannot be made.
+    /// Becomes the running player: the event loop calls `receive` for each hand-over from here on. False when another
+    /// one is, or the socket cannot be made.
     bool listen(std::function<void(const HandOver&)> receive);
-
-    /// The message as it goes over the socket, and back; nothing readable gives no files.
-    static QByteArray encoded(const HandOver& message);
-    static HandOver decoded(const QByteArray& bytes);
+    /// Is no running player any more, so that the next launch is one; for a player that receives nothing more.
+    void close();
 
 private:
-    struct Client;
     QString lockPath() const;
-    void acceptClient();
-    void readClient(Client& client);
+    bool send(const QByteArray& message) const;
 
     QString _path;
-    int _socket = -1;
     int _lock = -1;
-    std::unique_ptr<QSocketNotifier> _notifier;
-    std::vector<std::unique_ptr<Client>> _clients;
-    std::function<void(const HandOver&)> _receive;
+    std::unique_ptr<HandOverListener> _listener;
 };
 
 } // namespace platform
