@@ -94,6 +94,8 @@ TEST_F(TextSubView, markup_moves_and_styles_a_text_at_once_when_the_setting_chan
     EXPECT_EQ(bottom(), 0);
     setMarkup(true);
     EXPECT_EQ(bottom(), top);
+    view.setSubtitle(cue("{\\an8}one & two"));
+    EXPECT_EQ(bottom(), top);
     view.setSubtitle(cue("one & two"));
     EXPECT_EQ(bottom(), 0) << "the same letters at another place";
     view.setSubtitle(cue("{\\an8}<b></b>"));
