@@ -131,6 +131,7 @@ bool writeSubtitleFile(const QString& name, const QString& path, SubtitleRegistr
         json.beginObject();
         writeTrack(*track, owner.timeScale(), json);
         json.member("encoding", track->encoding());
+        json.member("losses", static_cast<qint64>(track->losses()));
         json.name("cues");
         writeCues(*track, owner.timeScale(), images, json);
         json.endObject();

@@ -50,6 +50,11 @@ struct QVPlaylistLoopingChangedNotification {
     QVPlaylistController* playlist;
 };
 
+/// A worker has read the selected track to its end.
+struct QVSubtitlesLoadedNotification {
+    std::shared_ptr<QVSubtitles> current;
+};
+
 /// Another subtitle track was selected, or the display of subtitles was switched.
 struct QVSubtitlesChangedNotification {
     std::shared_ptr<QVSubtitles> current;

@@ -35,6 +35,7 @@ struct CommandTable {
     static constexpr Operation changeVolume{"changeVolume", &Self::changeVolume};
     static constexpr Operation changeSubtitles{"changeSubtitles", &Self::changeSubtitles, &Self::validateSubtitles};
     static constexpr Operation cycleSubtitles{"cycleSubtitles", &Self::cycleSubtitles};
+    static constexpr Operation toggleRepair{toggleRepairOperation, &Self::toggleRepair, &Self::validateRepair};
     static constexpr Operation switchScreen{"switchScreen", &Self::switchScreen};
 
     static constexpr Command rows[] = {
@@ -360,6 +361,14 @@ struct CommandTable {
          .keys = {{{u's', shift}}},
          .section = Section::subtitles,
          .help = "Next and previous subtitles"},
+
+        // Its item follows those of the tracks.
+        {.name = "repair-subtitles",
+         .operation = toggleRepair,
+         .keys = {{{u'r', none, consumed}}},
+         .section = Section::subtitles,
+         .menu = {"Repair", Separator::none},
+         .help = "Repair damaged subtitles"},
 
         {.name = "next-screen",
          .action = action::nextScreen,

@@ -110,6 +110,8 @@ std::span<const Command> commands();
 /// Of the playlist menu's items, which are made as it opens.
 inline constexpr const char* changeMovieOperation = "changeMovie";
 inline constexpr const char* showPlaylistOperation = "showPlaylist";
+/// Of the subtitles menu's last item.
+inline constexpr const char* toggleRepairOperation = "toggleRepair";
 
 /// Null for codes, gestures and names that no command has.
 const Command* commandWithAction(std::int32_t action);

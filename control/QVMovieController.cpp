@@ -8,6 +8,8 @@
 #include "control/ApplicationServices.h"
 #include "platform/base/Localization.h"
 #include "playback/QVMovieView.h"
+#include "settings/QVPreferencesChangedNotification.h"
+#include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
 #include <utility>
@@ -26,6 +28,16 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
     , _with(collaborators) {
     _movieChanged = _environment.notifications.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
+    // After the subtitles controller, which was made before: the movie has its tracks of the new mode.
+    _preferenceChanged =
+        _environment.notifications.observe<QVPreferencesChangedNotification>([this](const auto& changed) {
+            if (changed.key == kQVSubtitlesRepair)
+                listSubtitles(_listedMovie.lock());
+        });
+    _subtitlesLoaded = _environment.notifications.observe<QVSubtitlesLoadedNotification>([this](const auto& loaded) {
+        if (loaded.current == _chosenSubtitles.lock())
+            sayLosses();
+    });
     _with.playlistMenu.setFiller([this](platform::Menu& menu) { fillPlaylistMenu(menu); });
 }
 

@@ -27,6 +27,7 @@ class PointerHiding;
 class QVMovie;
 class QVMovieView;
 class QVPlaylistController;
+class QVSubtitles;
 class QVSubtitlesController;
 struct QVPlaylistMovieChangedNotification;
 
@@ -98,6 +99,7 @@ private:
     void changeMovie(std::int32_t position, Feedback feedback);
     void changeSubtitles(std::int32_t position, Feedback feedback);
     void cycleSubtitles(std::int32_t direction, Feedback feedback);
+    void toggleRepair(std::int32_t, Feedback feedback);
     void switchScreen(std::int32_t direction, Feedback feedback);
     void doOpen(std::int32_t, Feedback feedback);
     void showHelp(std::int32_t, Feedback feedback);
@@ -113,12 +115,15 @@ private:
     bool validateStartStop(platform::MenuItem& item) const;
     bool validateMovie(platform::MenuItem& item) const;
     bool validateSubtitles(platform::MenuItem& item) const;
+    bool validateRepair(platform::MenuItem& item) const;
 
     void perform(const Command& command, std::int32_t argument, Feedback feedback);
     void restorePlayback();
     void muteForFastMotion();
     void repeatingActionTimer();
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
+    void listSubtitles(const std::shared_ptr<QVMovie>& movie);
+    void sayLosses();
     void fillPlaylistMenu(platform::Menu& menu);
     /// Where the movie of the menu's item stands by now; no position when it has gone.
     std::int32_t positionOfMenuMovie(std::int32_t tag) const;
@@ -139,6 +144,12 @@ private:
     PacedTimes _pacedTimes;
     std::vector<std::unique_ptr<platform::Timer>> _delayedWork;
     platform::Subscription _movieChanged;
+    platform::Subscription _preferenceChanged;
+    platform::Subscription _subtitlesLoaded;
+    /// The track whose losses are to be said when it has been read: the user chose it.
+    std::weak_ptr<QVSubtitles> _chosenSubtitles;
+    /// That whose tracks the subtitles menu lists.
+    std::weak_ptr<QVMovie> _listedMovie;
     /// What the playlist menu showed when it opened, by the tags of its items.
     std::map<std::int32_t, std::weak_ptr<QVMovie>> _menuMovies;
 };

@@ -5,10 +5,12 @@
 #include "context/Notifications.h"
 #include "control/Commands.h"
 #include "platform/base/Localization.h"
+#include "platform/base/UserDefaults.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"
+#include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitlesController.h"
 
 #include <algorithm>
@@ -35,7 +37,8 @@ QString shortenedInTheMiddle(const QString& name) {
     return name.left(head) + QChar(0x2026) + name.right(tail);
 }
 
-/// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator while tracks follow.
+/// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator. The tracks follow, and
+/// the item that repairs them.
 constexpr int fixedSubtitlesItems = 2;
 
 const Command* commandOf(const MenuItem& item) {
@@ -105,25 +108,33 @@ bool QVMovieController::validateSubtitles(MenuItem& item) const {
     return hasTracks;
 }
 
+bool QVMovieController::validateRepair(MenuItem& item) const {
+    item.state = _environment.settings.boolForKey(kQVSubtitlesRepair);
+    return true;
+}
+
 void QVMovieController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
+    listSubtitles(notification.movie);
+}
+
+void QVMovieController::listSubtitles(const std::shared_ptr<QVMovie>& movie) {
+    _listedMovie = movie;
+    const bool hasTracks = movie && !movie->subtitles().empty();
     platform::Menu& menu = _with.subtitlesMenu;
     menu.removeAllItemsBut(fixedSubtitlesItems);
-    const auto setFirstTitle = [&menu](const QString& key) {
-        if (menu.count() > 0)
-            menu.itemAt(0).title = localizedString(key);
-    };
-    if (notification.movie && !notification.movie->subtitles().empty()) {
-        setFirstTitle(QStringLiteral("Off"));
-        if (menu.count() < fixedSubtitlesItems)
-            menu.addSeparator();
+    if (menu.count() > 0)
+        menu.itemAt(0).title = localizedString(hasTracks ? QStringLiteral("Off") : QStringLiteral("None"));
+    if (menu.count() < fixedSubtitlesItems)
+        menu.addSeparator();
+    if (hasTracks) {
         int index = 0;
-        for (const auto& track : notification.movie->subtitles())
+        for (const auto& track : movie->subtitles())
             menu.addItem(track->title(), QStringLiteral("changeSubtitles"), index++);
-    } else {
-        setFirstTitle(QStringLiteral("None"));
-        if (menu.count() >= fixedSubtitlesItems)
-            menu.removeItemAt(1);
+        menu.addSeparator();
     }
+    MenuItem& repair =
+        menu.addItem(localizedString(QStringLiteral("Repair")), QString::fromLatin1(toggleRepairOperation), 0);
+    repair.keyHint = QStringLiteral("R");
 }
 
 void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {

@@ -13,6 +13,8 @@
 #include "settings/Tracing.h"
 #include "subtitles/SubtitleRegistry.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -100,15 +102,20 @@ int QVMovie::compare(const QVMovie& other) const {
     return ordering.compare(ordering.key(url()), ordering.key(other.url()));
 }
 
+QStringList QVMovie::filesBeside() const {
+    if (!url().isLocalFile())
+        return {};
+    const QString base = platform::pathWithoutExtension(url().toLocalFile());
+    return _services.subtitleDiscovery.filesBeginningWith(base,
+                                                          _services.subtitleReaders.subtitleUnfilteredFileTypes());
+}
+
 void QVMovie::fetchSubtitleFiles() {
     trace("%@: Begin fetching subtitles for \"%@\".", className, fileNameOfURL(url()));
-    if (url().isLocalFile()) {
-        const QString base = platform::pathWithoutExtension(url().toLocalFile());
-        const QStringList types = _services.subtitleReaders.subtitleUnfilteredFileTypes();
-        for (const QString& path : _services.subtitleDiscovery.filesBeginningWith(base, types)) {
-            trace("%@: Found \"%@\".", className, platform::lastPathComponent(path));
-            addSubtitleFile(path);
-        }
+    _fetchedIn = readingMode(_environment.settings);
+    for (const QString& path : filesBeside()) {
+        trace("%@: Found \"%@\".", className, platform::lastPathComponent(path));
+        addSubtitleFile(path);
     }
     trace("%@: %d supported subtitle streams found.", className, _subtitles.size());
 }
@@ -120,6 +127,36 @@ void QVMovie::addSubtitleFile(const QString& path) {
     trace("%@: Added %d subtitles stream(s) from file \"%@\"", className, tracks.size(),
           platform::lastPathComponent(path));
     _subtitles.insert(_subtitles.end(), std::make_move_iterator(tracks.begin()), std::make_move_iterator(tracks.end()));
+}
+
+void QVMovie::followReadingMode() {
+    const ReadingMode mode = readingMode(_environment.settings);
+    if (!_fetchedIn || *_fetchedIn == mode)
+        return;
+    _fetchedIn = mode;
+    const std::vector<std::shared_ptr<QVSubtitles>> before = std::exchange(_subtitles, {});
+    QStringList paths = filesBeside();
+    for (const auto& track : before)
+        paths.append(track->path());
+    paths.removeDuplicates();
+    for (const QString& path : paths) {
+        const auto isOfFile = [&path](const auto& track) { return track->path() == path; };
+        // An index is one in every mode; reading it again may take long.
+        const auto known = std::ranges::find_if(before, isOfFile);
+        if (known != before.end() && (*known)->isImageBased())
+            std::ranges::copy_if(before, std::back_inserter(_subtitles), isOfFile);
+        else
+            addSubtitleFile(path);
+    }
+    // Those that are the same stay: they may be loaded, and selected.
+    for (std::shared_ptr<QVSubtitles>& track : _subtitles) {
+        const auto same = std::ranges::find_if(before, [&track](const auto& old) {
+            return old->path() == track->path() && old->type() == track->type() &&
+                   old->streamIndex() == track->streamIndex();
+        });
+        if (same != before.end())
+            track = *same;
+    }
 }
 
 void QVMovie::resetCallbacks() {

@@ -6,11 +6,13 @@
 #include "playback/MovieServices.h"
 #include "subtitles/QVSubtitles.h"
 
+#include <QStringList>
 #include <QUrl>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace platform {
@@ -60,6 +62,7 @@ public:
     int compare(const QVMovie& other) const;
 
     void fetchSubtitleFiles();
+    void followReadingMode() override;
     void addSubtitleFile(const QString& path);
 
     /// Arms the three callbacks anew; ends them.
@@ -69,6 +72,7 @@ public:
     void cancelCallbacks();
 
 private:
+    QStringList filesBeside() const;
     void _scheduleStopCallback();
     void _scheduleInterestingTimeCallback();
     void _scheduleTimeJumpCallback();
@@ -81,6 +85,8 @@ private:
     Environment _environment;
     MovieServices _services;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
+    /// That in which the files were looked for; none where they were not.
+    std::optional<ReadingMode> _fetchedIn;
     std::uint32_t _frameCount = 0;
     float _frameRate = 0;
 };

@@ -36,6 +36,7 @@ inline const QString kQVSubtitlesEncodingsList = QStringLiteral("QVSubtitlesEnco
 inline const QString kQVSubtitlesEncodingsListSize = QStringLiteral("QVSubtitlesEncodingsListSize");
 inline const QString kQVSubtitlesDefaultFPS = QStringLiteral("QVSubtitlesDefaultFPS");
 inline const QString kQVSubtitlesMarkup = QStringLiteral("QVSubtitlesMarkup");
+inline const QString kQVSubtitlesRepair = QStringLiteral("QVSubtitlesRepair");
 inline const QString kQVSubtitlesColor = QStringLiteral("QVSubtitlesColor");
 inline const QString kQVSubtitlesFontName = QStringLiteral("QVSubtitlesFontName");
 inline const QString kQVSubtitlesSizeMin = QStringLiteral("QVSubtitlesSizeMin");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/CueTiming.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -25,6 +26,13 @@ std::int32_t truncated(float value) {
     if (value <= -tooMuch)
         return std::numeric_limits<std::int32_t>::min();
     return static_cast<std::int32_t>(value);
+}
+
+std::int32_t nearest(double value) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (std::isnan(value))
+        return 0;
+    return static_cast<std::int32_t>(std::round(std::clamp<double>(value, Limits::min(), Limits::max())));
 }
 
 float frameRate(std::int32_t choice, float movieRate) {

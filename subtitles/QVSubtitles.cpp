@@ -34,8 +34,13 @@ std::unique_lock<std::mutex> QVSubtitles::lockSubtitles() const {
 // Loading
 
 void QVSubtitles::preload() {
+    const ReadingMode mode = readingMode(_settings);
+    if (_subtitles && mode != _mode)
+        unload();
     if (_subtitles)
         return;
+    _mode = mode;
+    forgetLosses();
     _encoding = defaultEncoding(_settings);
     _fps = std::max(0, CueTiming::truncated(_settings.floatForKey(kQVSubtitlesDefaultFPS)));
     try {
@@ -161,6 +166,10 @@ void QVSubtitles::setFrameRate(std::int32_t choice) {
 
 std::int32_t QVSubtitles::ajustToMovieTimeScale(std::int32_t value) const {
     return CueTiming::truncated(static_cast<float>(value) * _timeScaleAdjustment);
+}
+
+std::int32_t QVSubtitles::nearestMovieTime(double value) const {
+    return CueTiming::nearest(value * static_cast<double>(_timeScaleAdjustment));
 }
 
 float QVSubtitles::actualFrameRate(std::int32_t choice) const {

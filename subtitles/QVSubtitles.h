@@ -5,6 +5,7 @@
 #include "subtitles/CueList.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleOwner.h"
+#include "subtitles/input/ReadingMode.h"
 
 #include <QString>
 
@@ -41,8 +42,9 @@ public:
     QVSubtitles& operator=(const QVSubtitles&) = delete;
     virtual ~QVSubtitles();
 
-    /// Loads the cues as the settings for encoding and frame rate stand, unless they are loaded or being loaded. A
-    /// track that a worker fills returns at once. What cannot be read is logged and gives no cues.
+    /// Loads the cues as the settings for encoding, frame rate and repairing stand, unless they are loaded or being
+    /// loaded; what was read in another mode is read again. A track that a worker fills returns at once. What cannot be
+    /// read is logged and gives no cues.
     void preload();
     /// Drops the cues; a worker is stopped first, which waits for its current cue.
     virtual void unload();
@@ -65,7 +67,7 @@ public:
 
     /// Re-times a loaded frame-based track; nothing else changes by it, the choice included. Choice 0 is the movie's
     /// rate, 1 to 5 are 23.976, 24, 25, 29.97 and 30.
-    void setFrameRate(std::int32_t choice);
+    virtual void setFrameRate(std::int32_t choice);
     /// Decodes the loaded texts anew; nothing for images. What is not valid in the encoding is left out, as it is when
     /// a track is loaded.
     virtual void setEncoding(std::uint32_t encoding) = 0;
@@ -80,6 +82,10 @@ public:
     /// The frame-rate choice in force.
     std::int32_t frameRateChoice() const { return _fps; }
     std::size_t count() const;
+    /// How the cues were read, or are being read.
+    ReadingMode mode() const { return _mode; }
+    /// How much of the file could not be read so far: lines of a text, pictures of other tracks. Any thread.
+    std::size_t losses() const { return _losses; }
     /// The cues in the file's order, as far as they are loaded.
     std::vector<std::shared_ptr<QVSubtitle>> cues() const;
     /// For the user: the file's name, unless the reader knows better.
@@ -99,6 +105,8 @@ public:
     /// A value in the reader's own unit of time as a time of the movie: in single precision, truncated towards zero,
     /// clamped to 32 bits.
     std::int32_t ajustToMovieTimeScale(std::int32_t value) const;
+    /// The same in double precision, rounded: the nearest time that the movie has.
+    std::int32_t nearestMovieTime(double value) const;
     /// Frames a second for a choice; the movie's for 0 and unknown ones, 25 when the movie has none.
     float actualFrameRate(std::int32_t choice) const;
 
@@ -121,7 +129,12 @@ protected:
     void finishLoading();
     void logMemoryFull() const;
 
+    /// By whoever loads.
+    void noteLosses(std::size_t count) { _losses += count; }
+    void forgetLosses() { _losses = 0; }
+
     void setLoadedEncoding(std::uint32_t encoding) { _encoding = encoding; }
+    void setLoadedFrameRate(std::int32_t choice) { _fps = choice; }
     bool isLoaded() const { return _subtitles.has_value(); }
     /// Takes the loaded cues out, for another reading of the file in their place.
     CueList takeCues();
@@ -142,6 +155,8 @@ private:
     SubtitleOwner& _owner;
     std::int32_t _fps;
     float _timeScaleAdjustment;
+    ReadingMode _mode = ReadingMode::strict;
+    std::atomic<std::size_t> _losses = 0;
     std::uint32_t _encoding = noEncoding;
     std::optional<CueList> _subtitles;
     CueCursor _cursor;

@@ -74,7 +74,7 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
         _preferredIndex = track->streamIndex();
         // A cue that a worker reads after it was looked for would not be seen while no picture is due: while the movie
         // stands.
-        track->setLoadingObserver([this] { showCueOfNow(); });
+        track->setLoadingObserver([this] { loadingWentOn(); });
         track->preload();
         // Only now the one before goes: both may wait for one archive to be unpacked, which ends when nobody does.
         if (track->isImageBased())
@@ -141,6 +141,12 @@ void QVSubtitlesController::showCueOfNow() {
         cue = _current->subtitleForTime(movie ? movie->time() : 0);
     }
     give(cue);
+}
+
+void QVSubtitlesController::loadingWentOn() {
+    showCueOfNow();
+    if (_current && !_current->isLoading())
+        _environment.notifications.post(QVSubtitlesLoadedNotification{_current});
 }
 
 void QVSubtitlesController::give(const std::shared_ptr<QVSubtitle>& cue) {
@@ -219,11 +225,26 @@ QString QVSubtitlesController::currentInfoAsString() const {
     return platform::localizedFormat(QStringLiteral("Subtitles: %@"), {info});
 }
 
+QString QVSubtitlesController::lossesAsString() const {
+    const int losses =
+        _current && _subtitlesOn ? static_cast<int>(std::min<std::size_t>(_current->losses(), 1'000'000)) : 0;
+    if (losses == 0)
+        return {};
+    const QString lost = platform::localizedFormat(_current->isTextBased() ? QStringLiteral("SubtitleLinesLost")
+                                                                           : QStringLiteral("SubtitlePicturesLost"),
+                                                   {QString::number(losses)}, losses);
+    return _current->mode() == ReadingMode::repairing
+               ? lost
+               : lost + u' ' + platform::localizedString(QStringLiteral("SubtitleRepairMayHelp"));
+}
+
 // Following
 
 void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
     // The old movie stays until none of its tracks is in use.
     const auto old = std::exchange(_movie, _scene.ownerOf(notification.movie));
+    if (_movie)
+        _movie->followReadingMode();
     _subtitles = _movie ? _movie->subtitles() : std::vector<std::shared_ptr<QVSubtitles>>();
     setCurrent(_subtitlesOn ? preferredSubtitles() : nullptr);
     // What another movie's images have been read is kept, but no more is read.
@@ -241,6 +262,24 @@ void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNot
         give(_current->subtitleForTime(movie->time()));
 }
 
+/// The tracks of the movie are read in the mode that the setting asks for now; the selection stays where it can.
+void QVSubtitlesController::followReadingMode() {
+    if (!_movie)
+        return;
+    _movie->followReadingMode();
+    _subtitles = _movie->subtitles();
+    const auto same = std::ranges::find_if(_subtitles, [this](const auto& track) {
+        return _current && track->path() == _current->path() && track->streamIndex() == _current->streamIndex();
+    });
+    const bool isSwitchedOff = !_subtitlesOn && _index == none;
+    if (same != _subtitles.end())
+        setCurrent(std::shared_ptr(*same));
+    else
+        setCurrent(_subtitlesOn ? preferredSubtitles() : nullptr);
+    if (isSwitchedOff)
+        _index = none;
+}
+
 void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key == kQVDisplaySubtitles) {
         const bool isOn = _environment.settings.boolForKey(kQVDisplaySubtitles);
@@ -249,6 +288,8 @@ void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotific
             _subtitlesOn = isOn;
         else
             setDisplaySubtitles(isOn);
+    } else if (notification.key == kQVSubtitlesRepair) {
+        followReadingMode();
     } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
         _current->setEncoding(QVSubtitles::defaultEncoding(_environment.settings));
         if (_subtitlesOn) {

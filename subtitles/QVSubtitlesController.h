@@ -51,6 +51,9 @@ public:
     virtual void cycleSubtitles(int direction);
     /// "Subtitles: ..." for the on-screen display.
     virtual QString currentInfoAsString() const;
+    /// How much of the selected track could not be read, and what may help; empty while nothing was lost, and without a
+    /// track.
+    virtual QString lossesAsString() const;
 
 private:
     static constexpr std::uint32_t none = 0xFFFFFFFF;
@@ -58,6 +61,8 @@ private:
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
     void movieInterestingTime(const QVMovieInterestingTimeNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
+    void followReadingMode();
+    void loadingWentOn();
     void keepLoaded(const std::shared_ptr<QVSubtitles>& track);
     SubtitleView* viewFor(const QVSubtitles& track) const;
     void createView(const QVSubtitles& track);

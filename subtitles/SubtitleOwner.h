@@ -22,4 +22,7 @@ public:
         static const std::vector<std::shared_ptr<QVSubtitles>> none;
         return none;
     }
+    /// Looks for its tracks again where the setting QVSubtitlesRepair, which says what is a subtitle file, changed
+    /// since it did. The tracks of files that are the same by both stay.
+    virtual void followReadingMode() {}
 };

@@ -413,6 +413,32 @@
         <source>Subtitles: %@</source>
         <translation>Untertitel: %@</translation>
     </message>
+    <message id="Repair: On">
+        <source>Repair: On</source>
+        <translation>Reparatur: ein</translation>
+    </message>
+    <message id="Repair: Off">
+        <source>Repair: Off</source>
+        <translation>Reparatur: aus</translation>
+    </message>
+    <message id="SubtitleLinesLost" numerus="yes">
+        <source>%d line of it can’t be read.</source>
+        <translation>
+            <numerusform>%d Zeile davon ist unlesbar.</numerusform>
+            <numerusform>%d Zeilen davon sind unlesbar.</numerusform>
+        </translation>
+    </message>
+    <message id="SubtitlePicturesLost" numerus="yes">
+        <source>%d picture of it can’t be read.</source>
+        <translation>
+            <numerusform>%d Bild davon ist unlesbar.</numerusform>
+            <numerusform>%d Bilder davon sind unlesbar.</numerusform>
+        </translation>
+    </message>
+    <message id="SubtitleRepairMayHelp">
+        <source>Repair (Subtitles menu) may help.</source>
+        <translation>„Reparieren“ (Menü Untertitel) kann helfen.</translation>
+    </message>
     <message id="Style">
         <source>Style</source>
         <translation>Stil</translation>
@@ -595,6 +621,10 @@
         <source>Loop All</source>
         <translation>Alle wiederholen</translation>
     </message>
+    <message id="Repair">
+        <source>Repair</source>
+        <translation>Reparieren</translation>
+    </message>
     <message id="Volume Up">
         <source>Volume Up</source>
         <translation>Lauter</translation>
@@ -745,6 +775,10 @@
     <message id="Next and previous subtitles">
         <source>Next and previous subtitles</source>
         <translation>Nächste und vorige Untertitel</translation>
+    </message>
+    <message id="Repair damaged subtitles">
+        <source>Repair damaged subtitles</source>
+        <translation>Beschädigte Untertitel reparieren</translation>
     </message>
     <message id="Next and previous screen">
         <source>Next and previous screen</source>

@@ -413,6 +413,32 @@
         <source>Subtitles: %@</source>
         <translation>Subtitles: %@</translation>
     </message>
+    <message id="Repair: On">
+        <source>Repair: On</source>
+        <translation>Repair: On</translation>
+    </message>
+    <message id="Repair: Off">
+        <source>Repair: Off</source>
+        <translation>Repair: Off</translation>
+    </message>
+    <message id="SubtitleLinesLost" numerus="yes">
+        <source>%d line of it can’t be read.</source>
+        <translation>
+            <numerusform>%d line of it can’t be read.</numerusform>
+            <numerusform>%d lines of it can’t be read.</numerusform>
+        </translation>
+    </message>
+    <message id="SubtitlePicturesLost" numerus="yes">
+        <source>%d picture of it can’t be read.</source>
+        <translation>
+            <numerusform>%d picture of it can’t be read.</numerusform>
+            <numerusform>%d pictures of it can’t be read.</numerusform>
+        </translation>
+    </message>
+    <message id="SubtitleRepairMayHelp">
+        <source>Repair (Subtitles menu) may help.</source>
+        <translation>Repair (Subtitles menu) may help.</translation>
+    </message>
     <message id="Style">
         <source>Style</source>
         <translation>Style</translation>
@@ -595,6 +621,10 @@
         <source>Loop All</source>
         <translation>Loop All</translation>
     </message>
+    <message id="Repair">
+        <source>Repair</source>
+        <translation>Repair</translation>
+    </message>
     <message id="Volume Up">
         <source>Volume Up</source>
         <translation>Volume Up</translation>
@@ -745,6 +775,10 @@
     <message id="Next and previous subtitles">
         <source>Next and previous subtitles</source>
         <translation>Next and previous subtitles</translation>
+    </message>
+    <message id="Repair damaged subtitles">
+        <source>Repair damaged subtitles</source>
+        <translation>Repair damaged subtitles</translation>
     </message>
     <message id="Next and previous screen">
         <source>Next and previous screen</source>

@@ -11,7 +11,9 @@ namespace {
 template <class Track>
 SubtitleReader textReader(const platform::UserDefaults& settings) {
     return {Track::extensionsList(),
-            [](const QString&, std::string_view beginning) { return Track::isFormatValid(beginning); },
+            [&settings](const QString&, std::string_view beginning) {
+                return Track::isFormatValid(beginning, readingMode(settings));
+            },
             [&settings](const QString& path, SubtitleOwner& owner) -> SubtitleReader::Tracks {
                 return {std::make_shared<Track>(settings, path, owner)};
             }};

@@ -7,12 +7,23 @@
 std::optional<std::string_view> LineReader::next() {
     if (_rest.empty())
         return std::nullopt;
-    const std::size_t most = std::min(_rest.size(), maximumPieceLength);
-    const void* lineFeed = std::memchr(_rest.data(), '\n', most);
-    const std::size_t length =
-        lineFeed ? static_cast<std::size_t>(static_cast<const char*>(lineFeed) - _rest.data()) + 1 : most;
-    const std::string_view piece = _rest.substr(0, length);
-    _rest.remove_prefix(length);
+    const std::string_view piece = _rest.substr(0, _mode == ReadingMode::strict ? pieceLength() : lineLength());
+    _rest.remove_prefix(piece.size());
     const std::size_t nul = piece.find('\0');
     return nul == std::string_view::npos ? piece : piece.substr(0, nul);
+}
+
+std::size_t LineReader::pieceLength() const {
+    const std::size_t most = std::min(_rest.size(), maximumPieceLength);
+    const void* lineFeed = std::memchr(_rest.data(), '\n', most);
+    return lineFeed ? static_cast<std::size_t>(static_cast<const char*>(lineFeed) - _rest.data()) + 1 : most;
+}
+
+std::size_t LineReader::lineLength() const {
+    const std::size_t end = _rest.find_first_of("\r\n");
+    if (end == std::string_view::npos)
+        return _rest.size();
+    // Carriage returns before a line feed belong to it, however many.
+    const std::size_t next = _rest.find_first_not_of('\r', end);
+    return next != std::string_view::npos && _rest[next] == '\n' ? next + 1 : end + 1;
 }

@@ -51,6 +51,14 @@ void splitSegments(std::string_view rest, LineReader& lines, const std::function
     }
 }
 
+bool isBlank(std::string_view line) {
+    return line.find_first_not_of(" \t\r\n\f\v") == std::string_view::npos;
+}
+
+std::string_view withoutLineEnd(std::string_view line) {
+    return line.substr(0, line.find_last_not_of("\r\n") + 1);
+}
+
 QString trimmed(const QString& text) {
     const QStringView kept = QStringView(text).trimmed();
     return kept.isEmpty() ? QString(QLatin1String("")) : kept.toString();

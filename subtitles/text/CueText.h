@@ -15,6 +15,12 @@ namespace CueText {
 /// on in the next piece of the file.
 void splitSegments(std::string_view rest, LineReader& lines, const std::function<void(std::string_view)>& append);
 
+/// Whether a line has nothing but white space.
+bool isBlank(std::string_view line);
+
+/// Without its line end.
+std::string_view withoutLineEnd(std::string_view line);
+
 /// Without white space and line ends at both ends, in memory of its own size. Never null.
 QString trimmed(const QString& text);
 

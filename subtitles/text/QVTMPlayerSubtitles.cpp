@@ -38,8 +38,8 @@ QVTMPlayerSubtitles::QVTMPlayerSubtitles(const platform::UserDefaults& settings,
                                          SubtitleOwner& owner)
     : TextSubtitles(settings, path, owner, typeTMPlayer, static_cast<float>(owner.timeScale()) / 1000.0F) {}
 
-bool QVTMPlayerSubtitles::isFormatValid(std::string_view text) {
-    LineReader lines(text);
+bool QVTMPlayerSubtitles::isFormatValid(std::string_view text, ReadingMode mode) {
+    LineReader lines(text, mode);
     std::array<std::int32_t, 3> numbers{};
     bool isTimed = false;
     for (int count = 0; count < probedLines; ++count) {
@@ -68,8 +68,11 @@ std::shared_ptr<QVSubtitle> QVTMPlayerSubtitles::readSubtitle(LineReader& lines)
         if (!line)
             return nullptr;
         const auto found = scanStart(*line);
-        if (!found)
+        if (!found) {
+            if (!CueText::isBlank(*line))
+                noteLosses(1);
             continue;
+        }
         start = found;
         CueText::splitSegments(line->substr(found->textOffset), lines,
                                [&](std::string_view segment) { appendBytes(segment, text); });
@@ -79,8 +82,7 @@ std::shared_ptr<QVSubtitle> QVTMPlayerSubtitles::readSubtitle(LineReader& lines)
     const std::int32_t end = clampedTo32Bits(std::int64_t{begin} + ajustToMovieTimeScale(lastCueMilliseconds));
     auto subtitle = makeSubtitle(pending, begin, end);
     trace("%@: %d - %d %@", className(), begin, end, text);
-    if (_previous)
-        _previous->setEnd(begin);
+    endPrevious(begin);
     _previous = subtitle;
     return subtitle;
 }

@@ -15,7 +15,7 @@ public:
     QVTMPlayerSubtitles(const platform::UserDefaults& settings, const QString& path, SubtitleOwner& owner);
 
     /// Whether a file that begins with this text is of this kind.
-    static bool isFormatValid(std::string_view text);
+    static bool isFormatValid(std::string_view text, ReadingMode mode);
     static QStringList extensionsList();
 
 protected:

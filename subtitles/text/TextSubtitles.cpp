@@ -18,7 +18,6 @@ constexpr qsizetype maximumLine = 16 * 1024 * 1024;
 
 } // namespace
 
-/// None when the file cannot be opened, which is logged.
 std::optional<QByteArray> TextSubtitles::fileBytes() const {
     std::optional<platform::TextFile> file = platform::readTextFile(path(), maximumFileSize, maximumLine);
     if (!file) {
@@ -52,7 +51,9 @@ void TextSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
     SubtitleText text = SubtitleText::fromBytes(std::move(bytes), encoding);
     setLoadedEncoding(text.encoding);
     _store = std::make_shared<TextStore>(std::move(text));
-    LineReader lines(_store->view());
+    LineReader lines(_store->view(), mode());
+    forgetLosses();
+    beginReading();
     std::size_t read = 0;
     do {
         if (std::shared_ptr<QVSubtitle> subtitle = readSubtitle(lines)) {
@@ -69,13 +70,19 @@ void TextSubtitles::readAll(QByteArray bytes, std::uint32_t encoding) {
 void TextSubtitles::setEncoding(std::uint32_t encoding) {
     if (encoding == this->encoding() || !isLoaded())
         return;
-    std::optional<QByteArray> bytes = fileBytes();
-    if (!bytes)
-        return;
-    // The cues of the file take the place of those loaded; the cursor stays on its place. What was read in a wrong
-    // encoding may have had no cue at all.
+    if (std::optional<QByteArray> bytes = fileBytes()) {
+        setLoadedEncoding(encoding);
+        readAgain(*std::exchange(bytes, std::nullopt));
+    }
+}
+
+void TextSubtitles::readAgain(QByteArray bytes) {
     takeCues();
-    setLoadedEncoding(encoding);
-    readFile(*std::exchange(bytes, std::nullopt));
+    readFile(std::move(bytes));
     replaceCues(takeCues());
+}
+
+void TextSubtitles::endPrevious(std::int32_t start) {
+    if (_previous && (mode() == ReadingMode::strict || start >= _previous->start()))
+        _previous->setEnd(start);
 }

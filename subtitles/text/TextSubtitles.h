@@ -26,13 +26,23 @@ protected:
                   float timeScaleAdjustment)
         : QVSubtitles(settings, std::move(path), owner, type, timeScaleAdjustment, Loading::atOnce) {}
 
-    /// The next cue of the file, or none at its end. Takes at least a line unless the file is at its end; decodes with
-    /// appendBytes, converts times with ajustToMovieTimeScale; may change the end of _previous, and makes the new cue
-    /// _previous.
+    /// A file is about to be read from its beginning.
+    virtual void beginReading() {}
+    /// The next cue of the file, or none at its end, in the track's mode. Takes at least a line unless the file is at
+    /// its end; decodes with appendBytes, converts times with ajustToMovieTimeScale; may change the end of _previous,
+    /// and makes the new cue _previous; notes the lines that it does not understand.
     virtual std::shared_ptr<QVSubtitle> readSubtitle(LineReader& lines) = 0;
     void _preload() override;
     /// The loop of _preload over the bytes of a file.
     void readAll(QByteArray bytes, std::uint32_t encoding);
+
+    /// Ends the cue before at the start of the next one. Repairing, no cue ends before it starts: a next one that is
+    /// earlier than that stands out of order.
+    void endPrevious(std::int32_t start);
+    /// None when the file cannot be opened, which is logged.
+    std::optional<QByteArray> fileBytes() const;
+    /// Reads a loaded file again, in place of the cues that there are. The cursor stays on its place.
+    void readAgain(QByteArray bytes);
 
     // What the store of the file that is being read offers.
     bool appendBytes(std::string_view bytes, QString& text) { return _store->appendBytes(bytes, text); }
@@ -46,7 +56,6 @@ protected:
     std::shared_ptr<QVSubtitle> _previous;
 
 private:
-    std::optional<QByteArray> fileBytes() const;
     void readFile(QByteArray bytes);
 
     /// While a file is being read; afterwards the cues keep it.

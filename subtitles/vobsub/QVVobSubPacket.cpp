@@ -69,7 +69,7 @@ std::array<VobSubColor, 4> QVVobSubPacket::colors(const VobSubIndex& info) const
     return colors;
 }
 
-std::shared_ptr<VobSubImage> QVVobSubPacket::decodeWithInfo(const VobSubIndex& info) {
+std::shared_ptr<VobSubImage> QVVobSubPacket::decodeWithInfo(const VobSubIndex& info, ReadingMode mode) {
     const std::int32_t width = _rect.width();
     const std::int32_t height = _rect.height();
     if (width <= 0 || height <= 0)
@@ -78,8 +78,8 @@ std::shared_ptr<VobSubImage> QVVobSubPacket::decodeWithInfo(const VobSubIndex& i
     std::array<bool, 4> visible{};
     std::transform(colors.begin(), colors.end(), visible.begin(),
                    [](const VobSubColor& color) { return color.alpha > 0; });
-    _crop = RunLengths::visiblePart(RunLengthDecoder(_data, _offset, _datasize), width, height, visible);
+    _crop = RunLengths::visiblePart(RunLengthDecoder(_data, _offset, _datasize, mode), width, height, visible);
     _rect = {_rect.left + _crop.left, _rect.top + _crop.top, _rect.left + _crop.right, _rect.top + _crop.bottom};
     return std::make_shared<VobSubImage>(
-        VobSubImage::Parts{std::move(_data), _offset, _datasize, width, height, _crop, colors});
+        VobSubImage::Parts{std::move(_data), _offset, _datasize, width, height, _crop, colors, mode});
 }

@@ -20,7 +20,7 @@ public:
 
     /// The picture in the colours of the index, cropped to what is visible of it, which `rect` becomes. None where it
     /// has no extent. Takes the unit's bytes: call it once.
-    std::shared_ptr<VobSubImage> decodeWithInfo(const VobSubIndex& info);
+    std::shared_ptr<VobSubImage> decodeWithInfo(const VobSubIndex& info, ReadingMode mode);
 
     /// Of the picture in the subpicture frame.
     const SubpictureControl::Rect& rect() const { return _rect; }

@@ -25,7 +25,7 @@ QImage VobSubImage::expanded() const {
 
     uchar* const bits = image.bits();
     const qsizetype bytesPerLine = image.bytesPerLine();
-    RunLengthDecoder decoder(_parts.unit, _parts.offset, _parts.pixelEnd);
+    RunLengthDecoder decoder(_parts.unit, _parts.offset, _parts.pixelEnd, _parts.mode);
     decoder.decode(_parts.width, crop.bottom, [&](std::int32_t x, std::int32_t y, std::int32_t count, auto code) {
         const std::int32_t from = std::max(x, crop.left);
         const std::int32_t to = std::min(x + count, crop.right);

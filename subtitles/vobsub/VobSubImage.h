@@ -2,6 +2,7 @@
 #pragma once
 
 #include "subtitles/QVSubtitle.h"
+#include "subtitles/input/ReadingMode.h"
 #include "subtitles/vobsub/ControlSequences.h"
 #include "subtitles/vobsub/VobSubIndex.h"
 
@@ -22,6 +23,7 @@ public:
         /// The part of it that is the picture.
         SubpictureControl::Rect crop;
         std::array<VobSubColor, 4> colors{};
+        ReadingMode mode = ReadingMode::strict;
     };
 
     explicit VobSubImage(Parts parts)

@@ -3,6 +3,7 @@
 #include "platform/base/PathNames.h"
 #include "platform/base/RunLoop.h"
 #include "settings/Tracing.h"
+#include "subtitles/CueTiming.h"
 #include "subtitles/vobsub/DataFile.h"
 #include "subtitles/vobsub/PackReader.h"
 #include "subtitles/vobsub/QVVobSubPacket.h"
@@ -24,6 +25,12 @@ constexpr std::size_t cueMemory = sizeof(QVSubtitle) + 64;
 std::int32_t milliseconds(std::int64_t value) {
     using Limits = std::numeric_limits<std::int32_t>;
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+/// How long a picture stands unless another one follows. Strictly one without a stop goes at once when none does.
+std::int32_t displayTime(const QVVobSubPacket& packet, ReadingMode mode) {
+    const bool isGuessed = packet.displayTime() == 0 && mode == ReadingMode::repairing;
+    return isGuessed ? CueTiming::guessedMilliseconds : packet.displayTime();
 }
 
 } // namespace
@@ -61,15 +68,34 @@ void QVVobSubSubtitles::load(const SubFile::Claim& subFile) {
     const std::atomic<bool>& isAborted = _worker.isAborted();
     PackReader reader(*file, streamInfo()._index, isAborted);
     std::size_t memory = 0;
+    // The cue before, which the next one ends where it has no stop of its own, or a later one.
     std::shared_ptr<QVSubtitle> previous;
     bool previousHasNoStop = false;
-    for (const QVVobSubPos& pos : streamInfo()._subPos) {
+    const auto endPrevious = [&](std::int32_t start) {
+        if (!previous || (mode() == ReadingMode::repairing && start < previous->start()))
+            return;
+        if (previousHasNoStop || previous->end() > start)
+            previous->setEnd(start);
+        previousHasNoStop = false;
+    };
+    const auto& positions = streamInfo()._subPos;
+    for (std::size_t at = 0; at < positions.size(); ++at) {
+        const QVVobSubPos& pos = positions[at];
         auto packet = QVVobSubPacket::packetWithFile(reader, pos);
-        if (!packet || isAborted)
+        if (isAborted)
             break;
         const std::int32_t start = ajustToMovieTimeScale(milliseconds(pos._timestamp));
-        const std::int32_t end = ajustToMovieTimeScale(milliseconds(pos._timestamp + packet->displayTime()));
-        const auto image = packet->decodeWithInfo(index);
+        if (!packet && mode() == ReadingMode::repairing) {
+            noteLosses(1);
+            endPrevious(start);
+            continue;
+        }
+        if (!packet) {
+            noteLosses(positions.size() - at);
+            break;
+        }
+        const std::int32_t end = ajustToMovieTimeScale(milliseconds(pos._timestamp + displayTime(*packet, mode())));
+        const auto image = packet->decodeWithInfo(index, mode());
         memory += cueMemory + (image ? image->memory() : 0);
         if (memory > maximumMemory) {
             logAlways("WARNING: %@: \"%@\" is too large, its end is left out.", className(),
@@ -77,8 +103,7 @@ void QVVobSubSubtitles::load(const SubFile::Claim& subFile) {
             break;
         }
         auto subtitle = std::make_shared<QVSubtitle>(image, start, end);
-        if (previous && (previousHasNoStop || previous->end() > start))
-            previous->setEnd(start);
+        endPrevious(start);
         previousHasNoStop = packet->displayTime() == 0;
         subtitle->setRect(VobSubPlacement::place(packet->rect(), index));
         subtitle->setForced(packet->forced());

@@ -50,6 +50,7 @@ TEST_F(Inspection, the_cues_of_a_subtitle_file_are_listed_in_units_and_in_millis
                   QJsonObject{{"start", 3000}, {"end", 6500}, {"startMs", 1500}, {"endMs", 3250}, {"text", "Hello"}},
                   QJsonObject{
                       {"start", 10000}, {"end", 12000}, {"startMs", 5000}, {"endMs", 6000}, {"text", "Two\nlines"}}}));
+    EXPECT_EQ(tracks[0]["losses"].toInt(-1), 0);
     EXPECT_TRUE(errors.isEmpty());
     const QJsonArray unscaled = inspect({path});
     EXPECT_EQ(unscaled[0]["tracks"][0]["timeScale"].toInt(), 600) << "as most movies have it";

@@ -46,7 +46,7 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_EQ(shown(3), "Volume Up changeVolume 0 (Up)\nVolume Down changeVolume 1 (Down)\n-\n"
                         "Normal Volume changeVolume 2\nSilent changeVolume 3\nMute changeVolume 4 (M)");
     EXPECT_EQ(written(menu.playlistMenu()).toStdString(), "");
-    EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(), "None changeSubtitles -1 (S)\n-");
+    EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(), "None changeSubtitles -1 (S)\n-\nRepair toggleRepair 0 (R)");
     EXPECT_EQ(shown(6), "Next Screen switchScreen 1 (Tab)\nPrevious Screen switchScreen -1 (Shift+Tab)");
     EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 [F1]");
     platform::setLocalizationLanguages({});

@@ -1,124 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/QVMovieController.h"
-#include "context/MainWindow.h"
-#include "context/Notifications.h"
-#include "control/ApplicationServices.h"
-#include "platform/base/Localization.h"
-#include "playlist/QVPlaylistController.h"
-#include "settings/SettingsKeys.h"
-#include "subtitles/QVSubtitlesController.h"
-#include "subtitles/SubtitleView.h"
-#include "tests/support/FakeSubtitles.h"
-#include "tests/support/PlaybackRig.h"
-
-#include <gtest/gtest.h>
+#include "tests/control/MovieControllerRig.h"
 
 namespace {
 
 namespace key = platform::functionKey;
 namespace held = platform::modifier;
 
-/// The movie controller over the real view and playlist, a scripted player and a run loop that the test moves.
-class MovieController : public testing::Test, protected PlaybackRig {
-protected:
-    class RecordingMainWindow final : public MainWindow {
-    public:
-        QStringList calls;
-        platform::Screen adopted;
-        void show() override { calls << "show"; }
-        void hide() override { calls << "hide"; }
-        double fadingOutInterval() const override { return 0.5; }
-        void adoptScreen(const platform::Screen& screen) override { adopted = screen; }
-        void addTrackingRects() override { calls << "add"; }
-        void removeTrackingRects() override { calls << "remove"; }
-    };
-
-    class RecordingServices final : public ApplicationServices {
-    public:
-        QStringList calls;
-        void doOpen() override { calls << "open"; }
-        void showHelp() override { calls << "help"; }
-        void showPlaylist() override { calls << "playlist"; }
-        void cycleDisplays(std::int32_t direction) override { calls << QString("display %1").arg(direction); }
-        void windowDidBecomeKey(platform::Window&) override { calls << "became key"; }
-        void windowDidResignKey(platform::Window&) override { calls << "resigned key"; }
-    };
-    /// The movie's tracks, without anything that shows them.
-    class NoViews final : public SubtitleScene {
-        std::unique_ptr<SubtitleView> createTextView() override { return nullptr; }
-        std::unique_ptr<ImageSubtitleView> createImageView() override { return nullptr; }
-        std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override { return movie; }
-        std::shared_ptr<SubtitleOwner> shownMovie() override { return nullptr; }
-    };
-    class RecordingSubtitles final : public QVSubtitlesController {
-    public:
-        using QVSubtitlesController::QVSubtitlesController;
-        QStringList calls;
-        void setCurrenWithIndex(std::int32_t index) override { calls << QString("track %1").arg(index); }
-        void cycleSubtitles(int direction) override { calls << QString("cycle %1").arg(direction); }
-        QString currentInfoAsString() const override { return "Subtitles: these"; }
-    };
-
-    MovieController()
-        : PlaybackRig({{kQVControllerVisible, false},
-                       {kQVDefaultMovieSize, movieSize::normal},
-                       {kQVJumpInterval, 10},
-                       {kQVPlaylistAutoPlay, false},
-                       {kQVPlaylistDefaultArrangement, 0}}) {
-        commands.target = &controller;
-    }
-    ~MovieController() override { commands.target = nullptr; }
-
-    void add(const QList<QUrl>& urls) {
-        playlist.addURLs(urls, Adding::append, Starting::no);
-        settings.runLoop.advance(0.02);
-    }
-    void addMovies(int count) {
-        QList<QUrl> urls;
-        for (int number = 1; number <= count; ++number)
-            urls << QUrl::fromLocalFile(QString("/movies/movie %1.mp4").arg(number));
-        add(urls);
-    }
-    std::string posted() const { return confirmations.last.toStdString(); }
-    static std::string text(const char* words, const QStringList& arguments = {}) {
-        return platform::localizedFormat(words, arguments).toStdString();
-    }
-    bool press(char16_t character, std::uint32_t modifiers = 0, bool repeat = false) {
-        platform::KeyEvent event;
-        event.charactersIgnoringModifiers = QChar(character);
-        event.modifierFlags = modifiers;
-        event.isRepeat = repeat;
-        return controller.processKeyboardEvent(event);
-    }
-    static platform::MenuItem item(const char* action, int tag) {
-        platform::MenuItem made;
-        made.action = action;
-        made.tag = tag;
-        made.state = true;
-        return made;
-    }
-    void perform(const char* action, int tag) {
-        platform::MenuItem chosen = item(action, tag);
-        controller.performMenuItem(chosen);
-    }
-    static std::string titles(const platform::Menu& menu) {
-        QStringList list;
-        for (int index = 0; index < menu.count(); ++index)
-            list << (menu.itemAt(index).separator ? "-" : menu.itemAt(index).title);
-        return list.join('|').toStdString();
-    }
-
-    RecordingMainWindow mainWindow;
-    RecordingServices services;
-    RecordingPointer pointer;
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel, confirmations}};
-    NoViews scene;
-    RecordingSubtitles subtitles{settings.environment, scene};
-    platform::Menu playlistMenu, subtitlesMenu;
-    QVMovieController controller{settings.environment,
-                                 {window, mainWindow, view, playlist, subtitles, confirmations, pointer, desktop,
-                                  services, playlistMenu, subtitlesMenu}};
-};
+class MovieController : public MovieControllerRig {};
 
 } // namespace
 
@@ -582,19 +471,4 @@ TEST_F(MovieController, The_playlist_menu_shows_the_neighbourhood_of_the_current
     EXPECT_LE(title.size(), 60);
     EXPECT_TRUE(title.startsWith("aaa") && title.contains(QChar(0x2026)) && title.endsWith("part 2.mp4"))
         << title.toStdString();
-}
-
-TEST_F(MovieController, The_subtitles_menu_lists_the_tracks_below_its_fixed_items) {
-    subtitlesMenu.addItem("fixed", "changeSubtitles", -1);
-    subtitlesMenu.addSeparator();
-    const auto none = open("file:///movies/a.mp4");
-    const auto two = open("file:///movies/a.mp4");
-    two->addSubtitleFile("German English");
-    for (const auto& movie : {two, two, none, two}) {
-        post(QVPlaylistMovieChangedNotification{movie});
-        EXPECT_EQ(titles(subtitlesMenu), movie == two ? text("Off") + "|-|German|English" : text("None"));
-    }
-    EXPECT_EQ(subtitlesMenu.itemAt(3).tag, 1);
-    EXPECT_EQ(subtitlesMenu.itemAt(3).action, "changeSubtitles");
-    view.setMovie(nullptr);
 }

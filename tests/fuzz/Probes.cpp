@@ -14,9 +14,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         // What was found can be decoded with.
         if (text.encoding == platform::textEncoding::automatic)
             std::abort();
-        (void)QVSubRipSubtitles::isFormatValid(text.view());
-        (void)QVMicroDVDSubtitles::isFormatValid(text.view());
-        (void)QVTMPlayerSubtitles::isFormatValid(text.view());
+        for (const ReadingMode mode : {ReadingMode::strict, ReadingMode::repairing}) {
+            (void)QVSubRipSubtitles::isFormatValid(text.view(), mode);
+            (void)QVMicroDVDSubtitles::isFormatValid(text.view(), mode);
+            (void)QVTMPlayerSubtitles::isFormatValid(text.view(), mode);
+        }
     }
     return 0;
 }

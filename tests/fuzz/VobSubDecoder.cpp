@@ -15,12 +15,12 @@ void check(bool condition) {
 }
 
 /// Runs lie within the picture and never go back.
-void checkRuns(const PackReader::Unit& unit, const SubpictureControl& control) {
+void checkRuns(const PackReader::Unit& unit, const SubpictureControl& control, ReadingMode mode) {
     const std::int32_t width = control.rect.width();
     const std::int32_t height = control.rect.height();
     std::int32_t lastY = 0;
     std::int32_t endX = 0;
-    RunLengthDecoder decoder(unit.bytes, control.offset, unit.dataSize);
+    RunLengthDecoder decoder(unit.bytes, control.offset, unit.dataSize, mode);
     decoder.decode(width, height, [&](std::int32_t x, std::int32_t y, std::int32_t count, std::uint32_t code) {
         check(count > 0 && x + count <= width && y < height && code < 4);
         check(y == lastY ? x == endX : x == 0 && y == lastY + 1);
@@ -37,7 +37,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PackReader::Unit unit{{data, data + size}, data[2] << 8 | data[3]};
     const auto control = ControlSequences::parse(unit.bytes, unit.dataSize);
     if (control && control->rect.width() > 0 && control->rect.height() > 0)
-        checkRuns(unit, *control);
+        for (const ReadingMode each : {ReadingMode::strict, ReadingMode::repairing})
+            checkRuns(unit, *control, each);
     auto packet = QVVobSubPacket::packetWithUnit(std::move(unit));
     check(packet.has_value() == control.has_value());
     if (!packet)
@@ -45,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     VobSubIndex index;
     index._hasCustomPalette = data[0] % 2 == 1;
     index._customPalette = {VobSubColor{1, 2, 3, 0}, {255, 0, 9, 255}, {4, 5, 6, 255}, {7, 8, 9, 0}};
-    const auto image = packet->decodeWithInfo(index);
+    const auto image = packet->decodeWithInfo(index, data[1] % 2 ? ReadingMode::repairing : ReadingMode::strict);
     const SubpictureControl::Rect& rect = packet->rect();
     check((image != nullptr) == (rect.width() > 0 && rect.height() > 0));
     if (!image)

@@ -46,6 +46,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::abort();
     }
     if (auto packet = QVVobSubPacket::packetWithFile(reader, {._pos = position}))
-        (void)packet->decodeWithInfo({});
+        (void)packet->decodeWithInfo({}, data[2] % 2 ? ReadingMode::repairing : ReadingMode::strict);
     return 0;
 }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/QVSubtitlesController.h"
 
+#include "platform/base/Localization.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleRegistry.h"
 #include "subtitles/SubtitleView.h"
-#include "subtitles/vobsub/QVVobSubSubtitles.h"
+#include "subtitles/formats/SubtitleFormats.h"
 #include "tests/support/Files.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -58,11 +59,13 @@ class Registry final : public SubtitleRegistry {
 public:
     explicit Registry(const Environment& environment)
         : SubtitleRegistry({})
-        , _environment(environment) {}
+        , _environment(environment)
+        , _readers(subtitleReaders(environment)) {}
+    QStringList subtitleUnfilteredFileTypes() const override { return _readers.subtitleUnfilteredFileTypes(); }
     std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path,
                                                                     SubtitleOwner& owner) override {
-        if (path.endsWith(QStringLiteral(".idx")))
-            return QVVobSubSubtitles::subtitlesWithFilePath(_environment, path, owner);
+        if (path.startsWith(u'/'))
+            return _readers.subtitlesWithFilePath(path, owner);
         const auto type = static_cast<QVSubtitles::Type>(path.at(0).digitValue());
         const auto stream = static_cast<std::uint32_t>(path.at(2).digitValue());
         return {std::make_shared<Track>(_environment.settings, path, owner, type, stream)};
@@ -70,6 +73,8 @@ public:
 
 private:
     Environment _environment;
+    /// Of files that there are.
+    SubtitleRegistry _readers;
 };
 
 /// Writes down what it is told.
@@ -316,6 +321,51 @@ TEST_F(SubtitlesController, one_image_track_is_kept_loaded_and_texts_and_images_
     EXPECT_EQ(loaded(), QStringLiteral("-++"));
     std::weak_ptr<QVMovie> held = play({QStringLiteral("0-0 x")});
     EXPECT_EQ(loaded(), QStringLiteral("-++")) << "unloaded though no other image track was selected";
+}
+
+TEST_F(SubtitlesController, repairing_acts_at_once_on_the_files_beside_the_movie) {
+    const QTemporaryDir folder;
+    const QString movieName = folder.filePath(QStringLiteral("film.mp4"));
+    // Only repairing is the first one a file of subtitles.
+    writeFile(folder.filePath(QStringLiteral("film.a.srt")), "1\n00:00:01.000 --> 00:00:02.000\nA\n");
+    writeFile(folder.filePath(QStringLiteral("film.b.srt")),
+              "1\n00:00:01,000 --> 00:00:02,000\nB\n\nC\n\n2\n00:00:03.000 --> 00:00:04.000\nD\n");
+    const auto opened = [&] {
+        return QVMovie::movieWithOpened(rig.settings.environment, {rig.toolkit, rig.desktop, registry, rig.discovery},
+                                        rig.toolkit.answerOf(QUrl::fromLocalFile(movieName)));
+    };
+    const auto shown = opened();
+    const auto other = opened();
+    rig.view.setMovie(shown);
+    post(QVPlaylistMovieChangedNotification{shown});
+    shown->setTime(second);
+    EXPECT_EQ(info(), QStringLiteral("film.b.srt (1/1)"));
+    EXPECT_EQ(taken(scene.text), (QStringList{QStringLiteral("front"), QStringLiteral("B")}));
+    EXPECT_EQ(controller.lossesAsString(),
+              platform::localizedFormat(QStringLiteral("SubtitleLinesLost"), {QStringLiteral("3")}, 3) + u' ' +
+                  platform::localizedString(QStringLiteral("SubtitleRepairMayHelp")));
+    const auto before = controller.current();
+    change(kQVSubtitlesRepair, 1);
+    EXPECT_EQ(info(), QStringLiteral("film.b.srt (2/2)"));
+    EXPECT_EQ(controller.current(), before) << "a track that stays was found anew";
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("B\n\nC")});
+    EXPECT_TRUE(controller.lossesAsString().isEmpty());
+    controller.setCurrenWithIndex(0);
+    EXPECT_EQ(taken(scene.text), QStringList{QStringLiteral("A")});
+    change(kQVSubtitlesRepair, 0);
+    EXPECT_EQ(info(), QStringLiteral("film.b.srt (1/1)")) << "what is no file of subtitles any more stays selected";
+
+    controller.setCurrenWithIndex(-1);
+    change(kQVSubtitlesRepair, 1);
+    EXPECT_EQ(controller.index(), none) << "repairing switched the display on";
+    EXPECT_EQ(info(), QStringLiteral("Off"));
+    controller.toggleSubtitles();
+    EXPECT_EQ(info(), QStringLiteral("film.b.srt (2/2)"));
+    taken(scene.text);
+    // A movie that was opened before follows when its turn comes.
+    rig.view.setMovie(other);
+    post(QVPlaylistMovieChangedNotification{other});
+    EXPECT_EQ(info(), QStringLiteral("film.a.srt (1/2)"));
 }
 
 TEST_F(SubtitlesController, an_index_says_how_its_images_come_and_go) {

@@ -82,16 +82,28 @@ TEST_F(VobSubLoading, only_forced_cues_are_shown_when_the_index_wants_that) {
     EXPECT_EQ(track->subtitleForTime(3100), track->cues()[1]);
 }
 
-TEST_F(VobSubLoading, a_subpicture_that_cannot_be_read_ends_the_track_there) {
+TEST_F(VobSubLoading, a_subpicture_that_cannot_be_read_ends_the_track_or_is_skipped_where_it_is_repaired) {
     vobsub::PairWriter pair;
     pair.addStream("en");
     pair.add(0, 1000, picture(90));
-    pair.addShifted(0, 2000, picture(90), 9);
+    pair.addShifted(0, 2000, picture(std::nullopt), 9);
     pair.addShifted(0, 3000, picture(90), 400);
     pair.add(0, 4000, picture(90));
+    pair.add(0, 9000, picture(std::nullopt));
     const auto track = tracks(pair).front();
-    load(*track);
-    EXPECT_EQ(track->count(), 2U);
+    const struct {
+        bool isRepairing;
+        std::size_t losses;
+        std::vector<ExpectedCue> cues;
+    } modes[] = {{false, 3, {{600, 1200, ""}, {1200, 1200, ""}}},
+                 // What was skipped ends what it would have ended; the last one stands for five seconds.
+                 {true, 1, {{600, 1200, ""}, {1200, 1800, ""}, {2400, 3014, ""}, {5400, 8400, ""}}}};
+    for (const auto& mode : modes) {
+        settings.defaults().setBool(mode.isRepairing, kQVSubtitlesRepair);
+        load(*track);
+        EXPECT_EQ(cuesOf(*track), mode.cues) << mode.isRepairing;
+        EXPECT_EQ(track->losses(), mode.losses) << mode.isRepairing;
+    }
 }
 
 TEST_F(VobSubLoading, a_data_file_that_has_vanished_is_told_of) {

@@ -26,9 +26,10 @@ Bytes withArea(Bytes unit, const Bytes& area) {
 }
 
 /// Codes as the decoder draws them; -1 where it draws nothing.
-std::vector<int> decoded(const Bytes& unit, std::array<std::uint16_t, 2> offset, int end, int width, int height) {
+std::vector<int> decoded(const Bytes& unit, std::array<std::uint16_t, 2> offset, int end, int width, int height,
+                         ReadingMode mode = ReadingMode::strict) {
     std::vector<int> codes(static_cast<std::size_t>(width * height), -1);
-    RunLengthDecoder(unit, offset, end).decode(width, height, [&](int x, int y, int count, std::uint32_t code) {
+    RunLengthDecoder(unit, offset, end, mode).decode(width, height, [&](int x, int y, int count, std::uint32_t code) {
         EXPECT_GE(x, 0);
         EXPECT_LE(x + count, width);
         std::fill_n(codes.begin() + y * width + x, count, static_cast<int>(code));
@@ -94,7 +95,7 @@ TEST(VobSubPacket, a_picture_is_cropped_to_what_is_visible) {
             subpicture.bitmap.fill(one.drawn.left, one.drawn.top, one.drawn.width(), one.drawn.height(), 1);
             auto packet = packetOf(vobsub::unit(subpicture));
             ASSERT_TRUE(packet) << one.name;
-            const QImage image = packet->decodeWithInfo(index)->expanded();
+            const QImage image = packet->decodeWithInfo(index, ReadingMode::strict)->expanded();
             EXPECT_EQ(packet->rect(), one.rect) << one.name;
             EXPECT_EQ(image.size(), QSize(one.rect.width(), one.rect.height())) << one.name;
             if (one.drawn.width() > 0) {
@@ -158,7 +159,7 @@ TEST(VobSubPacket, areas_that_make_no_sense_give_no_picture_or_a_bounded_one) {
     for (const Case& one : cases) {
         auto packet = packetOf(withArea(vobsub::unit(transparent), one.area));
         ASSERT_TRUE(packet) << one.name;
-        const auto image = packet->decodeWithInfo(plainIndex());
+        const auto image = packet->decodeWithInfo(plainIndex(), ReadingMode::strict);
         EXPECT_EQ(image != nullptr, one.size.isValid()) << one.name;
         if (image) {
             EXPECT_LT(image->memory(), 1000U) << one.name;
@@ -231,10 +232,28 @@ TEST(VobSubPacket, pixels_are_those_of_the_codes) {
                     continue; // too many short runs for one unit
                 auto packet = packetOf(unit);
                 ASSERT_TRUE(packet);
-                const auto image = packet->decodeWithInfo(index);
+                const auto image = packet->decodeWithInfo(index, ReadingMode::strict);
                 ASSERT_TRUE(image);
                 EXPECT_EQ(image->expanded(), expectedImage(subpicture, index)) << width << "x" << height;
             }
         }
+    }
+}
+
+TEST(VobSubPacket, a_run_in_more_nibbles_than_it_needs_keeps_its_length_where_it_is_repaired) {
+    const struct {
+        const char* what;
+        Bytes line; // of each field; 8 pixels wide
+        std::vector<int> strict, repaired;
+    } cases[] = {
+        {"2 in four nibbles, 6 in two", {0x00, 0x09, 0x1A}, {1, 1, 1, 1, 1, 1, 1, 1}, {1, 1, 2, 2, 2, 2, 2, 2}},
+        {"1 in four nibbles, the rest", {0x00, 0x05, 0x00, 0x02}, {1, 1, 1, 1, 1, 1, 1, 1}, {1, 2, 2, 2, 2, 2, 2, 2}},
+        {"the rest of the line", {0x00, 0x03}, {3, 3, 3, 3, 3, 3, 3, 3}, {3, 3, 3, 3, 3, 3, 3, 3}},
+        {"64 in four nibbles", {0x01, 0x01}, {1, 1, 1, 1, 1, 1, 1, 1}, {1, 1, 1, 1, 1, 1, 1, 1}},
+    };
+    for (const auto& one : cases) {
+        const auto end = static_cast<std::uint16_t>(one.line.size());
+        EXPECT_EQ(decoded(one.line, {0, end}, end, 8, 1), one.strict) << one.what;
+        EXPECT_EQ(decoded(one.line, {0, end}, end, 8, 1, ReadingMode::repairing), one.repaired) << one.what;
     }
 }

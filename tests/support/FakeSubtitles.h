@@ -31,6 +31,9 @@ public:
         : QVSubtitles(FakeTrackParts::settings, path, FakeTrackParts::owner, typeNone, 1.0F, Loading::atOnce)
         , _title(std::move(title))
         , _stream(stream) {}
+    bool loading = false;
+
+    bool isLoading() const override { return loading; }
     std::uint32_t streamIndex() const override { return _stream; }
     QString title() const override { return _title; }
     void setEncoding(std::uint32_t) override {}
