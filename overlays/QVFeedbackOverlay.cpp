@@ -4,6 +4,7 @@
 #include "platform/base/UserDefaults.h"
 #include "settings/SettingsKeys.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -28,4 +29,10 @@ void QVFeedbackOverlay::postFeedback(const QString& message) {
         return;
     setText(message);
     autopop();
+}
+
+double QVFeedbackOverlay::holdInterval() const {
+    constexpr double charactersASecond = 20;
+    const double ofStyle = fadingDelayInterval();
+    return text().contains(u'\n') ? std::max(static_cast<double>(text().size()) / charactersASecond, ofStyle) : ofStyle;
 }

@@ -21,5 +21,7 @@ public:
     double readingTime() const override { return fadingInInterval() + fadingDelayInterval(); }
 
 protected:
+    /// A message of several lines is held until it can have been read, however short the style's hold is.
+    double holdInterval() const override;
     const char* logName() const override { return "QVFeedbackOverlay"; }
 };

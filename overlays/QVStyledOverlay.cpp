@@ -148,13 +148,14 @@ void QVStyledOverlay::autopop() {
 
 void QVStyledOverlay::delay() {
     // Written so that an interval that is no number counts as none.
-    const double hold = _fadingDelayInterval > 0 ? _fadingDelayInterval : 0;
+    const double interval = holdInterval();
+    const double hold = interval > 0 ? interval : 0;
     if (_fadingState == FadingState::delaying && _fadingTimer && _fadingTimer->isValid()) {
         _fadingTimer->rearm(hold);
         return;
     }
     _fadingState = FadingState::delaying;
-    trace("%@: Start Fading DELAY, interval: %f", logName(), QString::number(_fadingDelayInterval, 'f', 6));
+    trace("%@: Start Fading DELAY, interval: %f", logName(), QString::number(interval, 'f', 6));
     setFadeTimer(_environment.loop.schedule(hold, false, [this] { postDelay(); }));
 }
 

@@ -76,6 +76,9 @@ protected:
     virtual void postFadeIn();
     virtual void postFadeOut();
 
+    /// Seconds for which what pops up is held.
+    virtual double holdInterval() const { return _fadingDelayInterval; }
+
     /// The opacity below which the overlay does not rest shown, whatever its style says.
     virtual float smallestShownAlpha() const { return 0; }
 

@@ -157,8 +157,14 @@ TEST(QVFeedbackOverlay, a_message_is_held_in_full_after_the_last_one) {
     EXPECT_EQ(feedback.alphaValue(), feedback.maxAlpha());
     rig.settings.runLoop.advance(3);
     EXPECT_FALSE(feedback.isVisible());
+    const QString lines = "one\n" + QString(76, 'x');
+    feedback.postFeedback(lines);
+    rig.settings.runLoop.advance(4.1);
+    EXPECT_EQ(feedback.alphaValue(), feedback.maxAlpha()) << "several lines went before they could be read";
+    rig.settings.runLoop.advance(0.7);
+    EXPECT_FALSE(feedback.isVisible());
     rig.settings.defaults().setBool(false, kQVDisplayFeedback);
     feedback.postFeedback("four");
-    EXPECT_EQ(feedback.text(), "three");
+    EXPECT_EQ(feedback.text(), lines);
     EXPECT_FALSE(feedback.isVisible());
 }
