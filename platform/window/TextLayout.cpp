@@ -20,8 +20,23 @@ constexpr double maximumSide = 8192;
 /// Pixels from which on glyphs are filled as outlines, not copied from a cache.
 constexpr double sizeOfOutlines = 64;
 
-/// The formats of the runs that reach into a paragraph.
-QList<QTextLayout::FormatRange> formatsOf(const std::vector<TextRun>& runs, qsizetype start, qsizetype length) {
+/// Whether there are italics for the text. Those of some families have fewer letters than the upright face: no Arabic
+/// ones, say; upright, too, they are read, as empty boxes they are not.
+bool hasItalics(const QString& text, const QFont& font) {
+    QFont italic(font);
+    italic.setItalic(true);
+    const QFontMetricsF slanted(italic);
+    const QFontMetricsF upright(font);
+    const QList<uint> characters = text.toUcs4();
+    return std::ranges::none_of(characters, [&](uint character) {
+        constexpr uint firstThatFontsLack = 0x80;
+        return character >= firstThatFontsLack && !slanted.inFontUcs4(character) && upright.inFontUcs4(character);
+    });
+}
+
+/// The formats of the runs that reach into a paragraph of the text.
+QList<QTextLayout::FormatRange> formatsOf(const std::vector<TextRun>& runs, const QString& text, const QFont& font,
+                                          qsizetype start, qsizetype length) {
     QList<QTextLayout::FormatRange> formats;
     for (const TextRun& run : runs) {
         const qsizetype from = std::max(run.start, start);
@@ -29,7 +44,7 @@ QList<QTextLayout::FormatRange> formatsOf(const std::vector<TextRun>& runs, qsiz
         if (from >= end)
             continue;
         QTextCharFormat format;
-        if (run.faces.testFlag(TextFace::italic))
+        if (run.faces.testFlag(TextFace::italic) && hasItalics(text.mid(from, end - from), font))
             format.setFontItalic(true);
         if (run.faces.testFlag(TextFace::bold))
             format.setFontWeight(QFont::Bold);
@@ -162,7 +177,8 @@ TextLayout::TextLayout(const StyledText& text, const QFont& font, const QSizeF& 
     while (!_full && start <= displayed.size()) {
         const qsizetype found = displayed.indexOf(u'\n', start);
         const qsizetype end = found < 0 ? displayed.size() : found;
-        addParagraph(displayed.mid(start, end - start), font, formatsOf(text.runs, start, end - start));
+        addParagraph(displayed.mid(start, end - start), font,
+                     formatsOf(text.runs, displayed, font, start, end - start));
         start = end + 1;
     }
     _size = QSizeF(std::min(std::ceil(_size.width()), _container.width()),

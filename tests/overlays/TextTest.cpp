@@ -275,6 +275,14 @@ TEST(TextLayout, marks_join_their_letter_and_scripts_run_their_way) {
     }
 }
 
+TEST(TextLayout, italics_of_letters_that_only_the_upright_font_has_stay_letters) {
+    // Empty boxes are of one width.
+    const auto italicWidth = [](const QString& text) {
+        return TextLayout({text, {{0, text.size(), TextFace::italic, {}}}}, font(), QSizeF(1e7, 1e7)).size().width();
+    };
+    EXPECT_LT(italicWidth(QStringLiteral("اااا")), italicWidth(QStringLiteral("شششش")));
+}
+
 TEST(Fonts, an_unknown_family_and_an_absurd_size_still_make_a_font) {
     const QString fallback = QFontInfo(fontWithFamilyName(QString(), 20)).family();
     EXPECT_EQ(QFontInfo(fontWithFamilyName("No Such Family", 20)).family(), fallback);
