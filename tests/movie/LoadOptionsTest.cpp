@@ -23,6 +23,7 @@ TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
     };
     for (const auto& c : cases) {
         platform::MovieInfo movie;
+        movie.url = QUrl(QStringLiteral("http://example.org/movie.mp4"));
         movie.quarterTurns = c.quarterTurns;
         movie.naturalSize = c.size;
         EXPECT_EQ(platform::loadOptions(movie, c.start).toStdString(), c.options);
@@ -46,4 +47,11 @@ TEST(LoadOptions, one_thread_decodes_what_it_can_decode_well_in_time) {
         movie.bitRate = c.bitRate;
         EXPECT_EQ(platform::isDecodedByOneThread(movie), c.expected) << c.frameRate << ' ' << c.bitRate;
     }
+}
+
+TEST(LoadOptions, a_local_movie_opens_nothing_but_itself) {
+    platform::MovieInfo movie;
+    movie.url = QUrl::fromLocalFile(QStringLiteral("/a/movie.mp4"));
+    EXPECT_EQ(platform::loadOptions(movie, 2.5).toStdString(),
+              "start=2.500000,access-references=no,demuxer-lavf-o=protocol_whitelist=none");
 }

@@ -11,6 +11,7 @@
 #include <cctype>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace harness {
@@ -37,12 +38,32 @@ void sendAll(int connection, const std::string& text, std::size_t from, std::siz
     }
 }
 
+std::string contentOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// The name after "/beside/" in the request; empty without one.
+std::string nameBeside(const std::string& request) {
+    const std::string prefix = " /beside/";
+    const auto at = request.find(prefix);
+    if (at == std::string::npos)
+        return {};
+    const std::string name = request.substr(at + prefix.size());
+    return std::filesystem::path(name.substr(0, name.find(' '))).filename().string();
+}
+
+const char* typeOf(const std::string& name) {
+    if (name.ends_with(".m3u8"))
+        return "application/vnd.apple.mpegurl";
+    return name.ends_with(".mpd") ? "application/dash+xml" : "video/mp4";
+}
+
 } // namespace
 
-HttpServer::HttpServer(std::filesystem::path file) {
-    std::ifstream stream(file, std::ios::binary);
-    _content.resize(std::size_t(std::filesystem::file_size(file)));
-    stream.read(_content.data(), std::streamsize(_content.size()));
+HttpServer::HttpServer(std::filesystem::path file)
+    : _folder(file.parent_path())
+    , _content(contentOf(file)) {
     _listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -100,30 +121,36 @@ void HttpServer::serve(int connection) {
         }
         return;
     }
-    if (!asksFor("/movie.mp4") && !asksFor("/early.mp4")) {
+    const std::string beside = nameBeside(request);
+    if (!beside.empty() && std::filesystem::exists(_folder / beside)) {
+        send(connection, request, contentOf(_folder / beside), typeOf(beside), false);
+    } else if (asksFor("/movie.mp4") || asksFor("/early.mp4")) {
+        send(connection, request, _content, "video/mp4", asksFor("/early.mp4"));
+    } else {
         const std::string answer = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
         sendAll(connection, answer, 0, answer.size(), _ending);
-        return;
     }
+}
+
+void HttpServer::send(int connection, const std::string& request, const std::string& content, const char* type,
+                      bool early) {
     std::size_t from = 0;
     std::string lower = request;
     std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return char(std::tolower(c)); });
     const auto range = lower.find("range: bytes=");
     if (range != std::string::npos)
-        from = std::min(_content.size(), std::size_t(std::strtoull(lower.c_str() + range + 13, nullptr, 10)));
-    const bool early = asksFor("/early.mp4");
+        from = std::min(content.size(), std::size_t(std::strtoull(lower.c_str() + range + 13, nullptr, 10)));
     std::string head = range == std::string::npos || early ? "HTTP/1.1 200 OK\r\n" : "HTTP/1.1 206 Partial Content\r\n";
     if (early)
         from = 0;
     else
         head += "Accept-Ranges: bytes\r\nContent-Range: bytes " + std::to_string(from) + "-" +
-                std::to_string(_content.size() - 1) + "/" + std::to_string(_content.size()) + "\r\n";
-    head +=
-        "Content-Type: video/mp4\r\nConnection: close\r\nContent-Length: " + std::to_string(_content.size() - from) +
-        "\r\n\r\n";
+                std::to_string(content.size() - 1) + "/" + std::to_string(content.size()) + "\r\n";
+    head += std::string("Content-Type: ") + type +
+            "\r\nConnection: close\r\nContent-Length: " + std::to_string(content.size() - from) + "\r\n\r\n";
     sendAll(connection, head, 0, head.size(), _ending);
     if (request.rfind("HEAD", 0) != 0)
-        sendAll(connection, _content, from, early ? _content.size() / 3 : _content.size() - from, _ending);
+        sendAll(connection, content, from, early ? content.size() / 3 : content.size() - from, _ending);
 }
 
 } // namespace harness

@@ -13,6 +13,7 @@ namespace harness {
 //   /movie.mp4    the file, with ranges        /missing.mp4  404
 //   /early.mp4    a third of the file, then the connection closes though all of it was promised
 //   /never.mp4    takes the request and never answers
+//   /beside/NAME  another file of the same folder
 // A thread a connection; ends with this object.
 class HttpServer {
 public:
@@ -26,7 +27,9 @@ public:
 private:
     void listen();
     void serve(int connection);
+    void send(int connection, const std::string& request, const std::string& content, const char* type, bool early);
 
+    std::filesystem::path _folder;
     std::string _content;
     int _listener = -1;
     int _port = 0;

@@ -2,7 +2,7 @@
 #include "platform/movie/mpv/FirstFrame.h"
 
 #include "platform/movie/mpv/Libraries.h"
-#include "platform/movie/mpv/MovieProbe.h"
+#include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/VideoStream.h"
 
 namespace platform {
@@ -16,7 +16,6 @@ constexpr int packetLimit = 64;
 constexpr std::int64_t maximumCoverPixels = 64'000'000;
 
 struct Freed {
-    void operator()(AVFormatContext* context) const { AvLibrary::get()->avformat_close_input(&context); }
     void operator()(AVCodecContext* context) const { AvLibrary::get()->avcodec_free_context(&context); }
     void operator()(AVPacket* packet) const { AvLibrary::get()->av_packet_free(&packet); }
     void operator()(AVFrame* frame) const { AvLibrary::get()->av_frame_free(&frame); }
@@ -54,15 +53,18 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     const AvLibrary* av = AvLibrary::get();
     if (!av || !url.isLocalFile())
         return nullptr;
-    AVFormatContext* context = av->avformat_alloc_context();
-    if (!context)
+    MovieInput movie;
+    if (!movie.context())
         return nullptr;
-    context->interrupt_callback = {&isCancelled, const_cast<std::atomic<bool>*>(&cancelled)};
-    if (av->avformat_open_input(&context, addressOf(url).constData(), nullptr, nullptr) < 0)
+    movie.context()->interrupt_callback = {&isCancelled, const_cast<std::atomic<bool>*>(&cancelled)};
+    AVDictionary* options = nullptr;
+    const int opened = movie.open(url, options);
+    av->av_dict_free(&options);
+    if (opened < 0)
         return nullptr;
-    const std::unique_ptr<AVFormatContext, Freed> input(context);
+    AVFormatContext* const input = movie.context();
 
-    const AVStream* video = wanted == PictureOf::cover ? coverStream(input.get()) : firstVideoStream(input.get());
+    const AVStream* video = wanted == PictureOf::cover ? coverStream(input) : firstVideoStream(input);
     const AVCodec* codec = video ? av->avcodec_find_decoder(video->codecpar->codec_id) : nullptr;
     const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
     if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)
@@ -86,7 +88,7 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
         return nullptr;
     }
     for (int i = 0; i < packetLimit && !cancelled.load(); ++i) {
-        const bool ended = av->av_read_frame(input.get(), packet.get()) < 0;
+        const bool ended = av->av_read_frame(input, packet.get()) < 0;
         const bool ours = !ended && packet->stream_index == video->index;
         if (ours)
             sent = av->avcodec_send_packet(decoder.get(), packet.get()) >= 0;

@@ -36,6 +36,8 @@ namespace platform {
     X(avformat_find_stream_info)                                                                                       \
     X(avformat_close_input)                                                                                            \
     X(avformat_free_context)                                                                                           \
+    X(avio_open2)                                                                                                      \
+    X(avio_closep)                                                                                                     \
     X(av_guess_sample_aspect_ratio)                                                                                    \
     X(avio_size)                                                                                                       \
     LUMARO_AV_SIDE_DATA_FUNCTION(X)                                                                                    \

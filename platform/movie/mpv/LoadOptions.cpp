@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/LoadOptions.h"
 
 #include "platform/movie/Movie.h"
+#include "platform/movie/mpv/MovieInput.h"
 
 #include <QByteArrayList>
 
@@ -23,6 +24,8 @@ QByteArray loadOptions(const MovieInfo& movie, double start) {
     QByteArrayList options;
     if (start > 0)
         options << "start=" + QByteArray::number(start, 'f', 6);
+    if (!isNetworkURL(movie.url))
+        options << "access-references=no" << QByteArray("demuxer-lavf-o=protocol_whitelist=") + localProtocols;
     // The player leaves turning to its renderers, and the software renderer crashes on a turned picture instead.
     static constexpr const char* turns[] = {nullptr, "lavfi=[transpose=clock]", "lavfi=[hflip,vflip]",
                                             "lavfi=[transpose=cclock]"};

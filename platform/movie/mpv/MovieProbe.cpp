@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/MovieProbe.h"
 
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/NetworkInput.h"
 #include "platform/movie/mpv/VideoStream.h"
 
@@ -13,7 +14,6 @@
 #include <chrono>
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <optional>
 
 namespace platform {
@@ -41,11 +41,6 @@ struct Deadline {
 
     std::int16_t error(const QUrl& url, int code) const;
 };
-
-struct CloseInput {
-    void operator()(AVFormatContext* context) const { AvLibrary::get()->avformat_close_input(&context); }
-};
-using Input = std::unique_ptr<AVFormatContext, CloseInput>;
 
 std::int16_t fileError(int code) {
     switch (code) {
@@ -212,14 +207,6 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream
 
 } // namespace
 
-bool isNetworkURL(const QUrl& url) {
-    return !url.isLocalFile() && !url.scheme().isEmpty();
-}
-
-QByteArray addressOf(const QUrl& url) {
-    return url.isLocalFile() ? "file:" + QFile::encodeName(url.toLocalFile()) : url.toEncoded();
-}
-
 OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled) {
     const AvLibrary* av = AvLibrary::get();
     if (!av)
@@ -232,26 +219,25 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
     Deadline deadline{Clock::now() +
                           std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(timeout)),
                       cancelled, std::nullopt};
-    AVFormatContext* context = av->avformat_alloc_context();
-    if (!context)
+    MovieInput movie;
+    if (!movie.context())
         return {std::nullopt, movieError::couldNotOpen};
-    context->interrupt_callback = {&Deadline::interrupt, &deadline};
+    movie.context()->interrupt_callback = {&Deadline::interrupt, &deadline};
     AVDictionary* options = nullptr;
     if (isNetworkURL(url)) {
-        deadline.network.emplace(*context);
+        deadline.network.emplace(*movie.context());
         av->av_dict_set(&options, "rw_timeout",
                         QByteArray::number(static_cast<qint64>(networkTimeout * 1e6)).constData(), 0);
     }
-    // On failure the context is freed by the library.
-    const int opened = av->avformat_open_input(&context, addressOf(url).constData(), nullptr, &options);
+    const int opened = movie.open(url, options);
     av->av_dict_free(&options);
     if (opened < 0)
         return {std::nullopt, deadline.error(url, opened)};
-    const Input input(context);
+    AVFormatContext* const input = movie.context();
 
-    const bool saysDuration = durationInSeconds(input.get()) > 0;
-    if (!isComplete(input.get())) {
-        const int found = av->avformat_find_stream_info(input.get(), nullptr);
+    const bool saysDuration = durationInSeconds(input) > 0;
+    if (!isComplete(input)) {
+        const int found = av->avformat_find_stream_info(input, nullptr);
         if (found < 0)
             return {std::nullopt, deadline.error(url, found)};
     }
@@ -259,13 +245,13 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
     if (deadline.network && deadline.network->needsRanges())
         return {std::nullopt, movieError::needsRanges};
 
-    const AVStream* video = firstVideoStream(input.get());
-    const AVStream* audio = firstSoundStream(input.get());
+    const AVStream* video = firstVideoStream(input);
+    const AVStream* audio = firstSoundStream(input);
     const bool seen = video && video->codecpar->width > 0 && av->avcodec_find_decoder(video->codecpar->codec_id);
     const bool heard = audio && av->avcodec_find_decoder(audio->codecpar->codec_id);
     if (!seen && !heard)
         return {std::nullopt, movieError::invalidMovie};
-    MovieInfo info = describe(input.get(), seen ? video : nullptr, heard ? audio : nullptr);
+    MovieInfo info = describe(input, seen ? video : nullptr, heard ? audio : nullptr);
     info.url = url;
     info.saysDuration = saysDuration;
     return {std::move(info), video && !seen ? movieError::cannotPlay : movieError::none};

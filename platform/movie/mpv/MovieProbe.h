@@ -14,11 +14,4 @@ namespace platform {
 /// anything from a server, or until `cancelled` is set.
 OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>& cancelled);
 
-/// Whether opening the URL may have to wait for a network.
-bool isNetworkURL(const QUrl& url);
-
-/// What the libraries take as the address: a path for local files (never taken for an option or a protocol), else the
-/// encoded URL.
-QByteArray addressOf(const QUrl& url);
-
 } // namespace platform

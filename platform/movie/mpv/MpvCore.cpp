@@ -3,6 +3,7 @@
 
 #include "platform/base/Log.h"
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/MovieInput.h"
 #include "platform/window/GraphicsDevice.h"
 #include "platform/window/VideoLayer.h"
 
@@ -82,6 +83,9 @@ std::unique_ptr<MpvCore> MpvCore::create() {
     };
     for (const Option& option : options)
         set(option);
+    // Of movies from a network; loadOptions says what local ones may open.
+    const QByteArray protocols = QByteArray("protocol_whitelist=[") + partProtocols + ']';
+    set({"demuxer-lavf-o", protocols.constData()});
     set({mpv->dialect().backgroundOption, "#000000"});
     // Without a graphics device there is no decoder in hardware to look for, which takes a while and loads the drivers.
     mpv->mpv_set_option_string(handle, "hwdec", hasGraphicsDevice() ? "auto-safe" : "no");

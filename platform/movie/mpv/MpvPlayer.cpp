@@ -5,7 +5,7 @@
 #include "platform/movie/Movie.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/LoadOptions.h"
-#include "platform/movie/mpv/MovieProbe.h"
+#include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/MpvCore.h"
 
 #include <QCoreApplication>

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/movie/mpv/MovieInput.h"
+
+#include "platform/movie/mpv/Libraries.h"
+
+#include <QFile>
+
+namespace platform {
+
+bool isNetworkURL(const QUrl& url) {
+    return !url.isLocalFile() && !url.scheme().isEmpty();
+}
+
+QByteArray addressOf(const QUrl& url) {
+    return url.isLocalFile() ? "file:" + QFile::encodeName(url.toLocalFile()) : url.toEncoded();
+}
+
+MovieInput::MovieInput()
+    : _context(AvLibrary::get()->avformat_alloc_context()) {}
+
+MovieInput::~MovieInput() {
+    const AvLibrary& av = *AvLibrary::get();
+    av.avformat_close_input(&_context);
+    av.avio_closep(&_file);
+}
+
+int MovieInput::open(const QUrl& url, AVDictionary*& options) {
+    const AvLibrary& av = *AvLibrary::get();
+    const QByteArray address = addressOf(url);
+    if (isNetworkURL(url)) {
+        const QByteArray protocols = partProtocols + (',' + url.scheme().toUtf8());
+        av.av_dict_set(&options, "protocol_whitelist", protocols.constData(), 0);
+    } else {
+        // Opened beforehand: for the context itself no protocol is left.
+        if (const int error =
+                av.avio_open2(&_file, address.constData(), AVIO_FLAG_READ, &_context->interrupt_callback, nullptr);
+            error < 0)
+            return error;
+        _context->pb = _file;
+        av.av_dict_set(&options, "protocol_whitelist", localProtocols, 0);
+    }
+    return av.avformat_open_input(&_context, address.constData(), nullptr, &options);
+}
+
+} // namespace platform
