@@ -4,7 +4,10 @@
 #include "tests/support/RarWriter.h"
 #include "tools/vobsub/VobSubWriter.h"
 
+#include <csignal>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 using namespace harness;
 
@@ -130,5 +133,41 @@ TEST_F(VobSub, the_chosen_language_follows_to_the_next_movie_and_the_picture_sca
         const Region box = blueBox();
         return box.width > 0 && box.width < full.width - 2 && box.height < full.height - 2;
     }));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(VobSub, an_archive_is_unpacked_beside_the_playing_movie_for_as_long_as_somebody_waits_for_it) {
+    const std::filesystem::path programs = user.folder() / "bin", temporary = user.folder() / "tmp";
+    std::filesystem::create_directory(programs);
+    std::filesystem::create_directory(temporary);
+    // The first program that looks into an archive never ends.
+    std::ofstream(programs / "lsar") << "#!/bin/sh\nexec sleep 1000\n";
+    std::filesystem::permissions(programs / "lsar", std::filesystem::perms::owner_all);
+    const std::string path = std::getenv("PATH");
+    ::setenv("PATH", (programs.string() + ':' + path).c_str(), 1);
+    ::setenv("TMPDIR", temporary.c_str(), 1);
+    const auto isClean = [&] { return waitUntil([&] { return std::filesystem::is_empty(temporary); }); };
+
+    const std::string slow = movie({{"idx", pair().index()}, {"rar", "Rar!\x1A\x07"}});
+    start({slow});
+    ASSERT_TRUE(logs("QVVobSubInfo: Launching UNRAR:"));
+    EXPECT_TRUE(frameBecomes([](int number) { return number > 10; }, "11")) << "it does not play meanwhile";
+    EXPECT_FALSE(std::filesystem::is_empty(temporary));
+    EXPECT_EQ(startAnother({numbered("2.mp4", green, 300)})->waitForExit(), 0);
+    ASSERT_TRUE(colorBecomes(green));
+    EXPECT_TRUE(isClean()) << "it goes on for a movie that is gone";
+    ASSERT_TRUE(quitsCleanly());
+
+    for (const int end : {SIGTERM, SIGKILL}) {
+        start({slow});
+        ASSERT_TRUE(logs("QVVobSubInfo: Launching UNRAR:"));
+        player->signal(end);
+        EXPECT_TRUE(player->waitForExit());
+        EXPECT_EQ(std::filesystem::is_empty(temporary), end == SIGTERM);
+    }
+    start({numbered("2.mp4", green, 300)});
+    EXPECT_TRUE(isClean()) << "what the killed player left stays";
+    ::setenv("PATH", path.c_str(), 1);
+    ::unsetenv("TMPDIR");
     ASSERT_TRUE(quitsCleanly());
 }
