@@ -171,3 +171,20 @@ TEST_F(VobSub, an_archive_is_unpacked_beside_the_playing_movie_for_as_long_as_so
     ::unsetenv("TMPDIR");
     ASSERT_TRUE(quitsCleanly());
 }
+
+TEST_F(VobSub, a_damaged_track_goes_on_where_it_is_repaired) {
+    vobsub::PairWriter writer;
+    writer.addStream("en");
+    writer.addShifted(0, 500, rectangle(300, 240, 60, 60), 400);
+    writer.add(0, 1000, rectangle(90, 400, 180, 40));
+    startStanding(movie({{"idx", writer.index()}, {"sub", dataOf(writer)}}));
+    jump(1, 2);
+    EXPECT_TRUE(nothingStands());
+    probe.tap(XK_r);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Repair: On"));
+    EXPECT_TRUE(standsAt(90, 400, 180, 40));
+    probe.tap(XK_r);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Repair: Off"));
+    EXPECT_TRUE(nothingStands());
+    ASSERT_TRUE(quitsCleanly());
+}
