@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <limits>
 #include <unistd.h>
 
 namespace {
@@ -30,13 +29,11 @@ DataFile::~DataFile() {
 }
 
 std::span<const std::uint8_t> DataFile::at(std::int64_t position, std::size_t count) {
-    constexpr std::int64_t lastPosition = std::numeric_limits<std::int64_t>::max() - 2 * std::int64_t{windowSize};
-    if (position < 0 || position > lastPosition)
+    if (position < 0 || position >= _size)
         return {};
-    count = std::min(count, windowSize);
+    count = std::min({count, windowSize, static_cast<std::size_t>(_size - position)});
     const auto filledTo = [this] { return _windowStart + static_cast<std::int64_t>(_windowFilled); };
-    const std::int64_t end = std::min(position + static_cast<std::int64_t>(count), _size);
-    if (position < _windowStart || end > filledTo())
+    if (position < _windowStart || position + static_cast<std::int64_t>(count) > filledTo())
         fill(std::max<std::int64_t>(0, position - lookedAtBefore));
     if (position >= filledTo())
         return {};
@@ -45,8 +42,8 @@ std::span<const std::uint8_t> DataFile::at(std::int64_t position, std::size_t co
 }
 
 void DataFile::fill(std::int64_t position) {
-    const auto left = static_cast<std::uint64_t>(std::max<std::int64_t>(0, _size - position));
-    _window.resize(std::min<std::uint64_t>(windowSize + static_cast<std::size_t>(lookedAtBefore), left));
+    constexpr std::size_t capacity = windowSize + static_cast<std::size_t>(lookedAtBefore);
+    _window.resize(std::min(capacity, static_cast<std::size_t>(_size - position)));
     _windowStart = position;
     _windowFilled = 0;
     while (_windowFilled < _window.size()) {

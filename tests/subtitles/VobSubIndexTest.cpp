@@ -146,7 +146,20 @@ TEST(VobSubIndex, delays_move_the_times_after_them) {
 TEST(VobSubIndex, values_may_be_short_or_strange) {
     EXPECT_EQ(indexOf("fadein/out:\n")._fadeOut, 0.05);
     EXPECT_EQ(indexOf("fadein/out: 10\n")._fadeIn, 0.01);
+    EXPECT_EQ(indexOf("fadein/out: 10, 20 or so\n")._fadeOut, 0.02);
+    const std::pair<const char*, std::int32_t> smooth[] = {{"OLD", 2}, {"2", 2},   {"On", 1}, {"1", 1},
+                                                           {"off", 0}, {"OFF", 0}, {"0", 0}};
+    for (const auto& [word, value] : smooth)
+        EXPECT_EQ(indexOf("smooth: 1\nsmooth: " + std::string(word) + '\n')._smooth, value) << word;
+    const std::tuple<const char*, std::int32_t, std::int32_t> alignments[] = {
+        {"LEFT CENTER", 0, 1}, {"right top", 2, 0}, {"CENTERED BOTTOM", 1, 2}};
+    for (const auto& [words, horizontal, vertical] : alignments) {
+        const VobSubIndex aligned = indexOf("align: ON at CENTER CENTER\nalign: 1 at " + std::string(words) + '\n');
+        EXPECT_EQ(std::pair(aligned._alignH, aligned._alignV), std::pair(horizontal, vertical)) << words;
+    }
     EXPECT_EQ(indexOf("time offset: 250\n")._timeOffset, 250U);
+    EXPECT_EQ(static_cast<std::int32_t>(indexOf("time offset: -250\n")._timeOffset), -250);
+    EXPECT_FALSE(indexOf("forced subs: ON\nforced subs: 0\n")._onlyForced);
     EXPECT_EQ(indexOf("time offset: 1:2\n")._timeOffset, 0U);
     EXPECT_EQ(indexOf("forced subs: One day\n")._onlyForced, true);
     EXPECT_EQ(indexOf("align: 0 at nowhere\n")._align, false);
@@ -166,13 +179,15 @@ TEST(VobSubIndex, values_may_be_short_or_strange) {
 }
 
 TEST(VobSubIndex, a_line_that_is_not_understood_spoils_the_index) {
-    const QString bad =
-        QLatin1String("colour: 3|no key at all|size: 720|size: 720 x 576|scale: 100%|smooth: maybe|"
-                      "fadein/out: now|align: ON|align: ON at LEFT|palette: 0, 1, 2|"
-                      "custom colors: ON, colors: 1, 2, 3, 4|custom colors: ON, tridx: 1000|"
-                      "custom colors: ON, tridx: 1000, colors: 1, 2, 3|id: en, index: 32|id: en, index: -1|"
-                      "id: en|id:en, index: 0|alt: nobody's|delay: 00:00:01:000|"
-                      "timestamp: 00:00:01:000, filepos: 0|# VobSub index file, v8");
+    const QString bad = QLatin1String(
+        "colour: 3|no key at all|size: 720|size: 720 x 576|scale: 100%|smooth: maybe|"
+        "fadein/out: now|fadein/out: 10 or so|align: ON|align: ON at LEFT|align: ON at LEFT below|forced subs: maybe|"
+        "custom colors: maybe, tridx: 1000, colors: 1, 2, 3, 4|langidx: en|alpha: high|"
+        "palette: 0, 1, 2|"
+        "custom colors: ON, colors: 1, 2, 3, 4|custom colors: ON, tridx: 1000|"
+        "custom colors: ON, tridx: 1000, colors: 1, 2, 3|id: en, index: 32|id: en, index: -1|"
+        "id: en|id:en, index: 0|alt: nobody's|delay: 00:00:01:000|"
+        "timestamp: 00:00:01:000, filepos: 0|# VobSub index file, v8");
     for (const QString& words : bad.split(u'|')) {
         const std::string line = words.toStdString() + '\n';
         const bool isHeader = line.front() == '#';

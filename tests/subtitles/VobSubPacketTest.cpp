@@ -108,6 +108,23 @@ TEST(VobSubPacket, a_picture_is_cropped_to_what_is_visible) {
     }
 }
 
+TEST(VobSubPacket, a_picture_is_the_part_that_it_is_said_to_be_wherever_that_cuts_its_runs) {
+    const vobsub::Subpicture subpicture = uncropped(randomBitmap(40, 20, 9, 1));
+    const Bytes unit = vobsub::unit(subpicture);
+    const QImage whole = expectedImage(subpicture, plainIndex());
+    const auto control = ControlSequences::parse(unit, unit[2] << 8 | unit[3]);
+    ASSERT_TRUE(control);
+    std::array<VobSubColor, 4> colors;
+    for (std::size_t code = 0; code < 4; ++code) {
+        colors[code] = plainIndex()._originalPalette[subpicture.colors[code]];
+        colors[code].alpha = static_cast<std::uint8_t>(subpicture.contrasts[code] * 17);
+    }
+    for (const Rect& crop : {Rect{0, 0, 40, 20}, {3, 4, 31, 15}, {0, 19, 40, 20}, {39, 0, 40, 20}, {7, 8, 9, 9}}) {
+        const VobSubImage part({unit, control->offset, unit[2] << 8 | unit[3], 40, 20, crop, colors});
+        EXPECT_EQ(part.expanded(), whole.copy(crop.left, crop.top, crop.width(), crop.height())) << crop.left;
+    }
+}
+
 TEST(VobSubPacket, run_lengths_stay_within_line_and_unit) {
     struct Case {
         const char* name;

@@ -46,6 +46,52 @@ protected:
 
 } // namespace
 
+TEST(VobSubStream, elements_are_as_long_as_they_say) {
+    using ProgramStream::Element;
+    const struct {
+        Bytes bytes;
+        std::optional<Element> element;
+    } elements[] = {
+        {{0, 0, 1, 0xB9}, Element{Element::end, 4}},
+        {{0, 0, 1, 0xBA, 0x44, 0, 0, 0, 0, 0, 0, 0, 0, 0xFB}, Element{Element::pack, 17}},
+        {{0, 0, 1, 0xBA, 0x44, 0, 0, 0, 0, 0, 0, 0, 0}, std::nullopt},
+        {{0, 0, 1, 0xBA, 0x2F, 0, 0, 0, 0, 0, 0, 0}, Element{Element::pack, 12}},
+        {{0, 0, 1, 0xBA, 0x2F, 0, 0, 0, 0, 0, 0}, std::nullopt},
+        {{0, 0, 1, 0xBA, 0x84, 0, 0, 0, 0, 0, 0, 0, 0, 0}, std::nullopt},
+        {{0, 0, 1, 0xE0, 1, 2}, Element{Element::packet, 264}},
+        {{0, 0, 1, 0xE0, 1}, std::nullopt},
+        {{0, 0, 1, 0xB8, 0, 0}, std::nullopt},
+        {{0, 0, 2, 0xE0, 0, 0}, std::nullopt},
+        {{0, 1, 1, 0xE0, 0, 0}, std::nullopt},
+        {{0, 0, 1, 0xBD, 0, 6, 0x81, 0, 2, 7, 7, 0x23}, Element{Element::privateStream1, 12, 0x23, 12}},
+        {{0, 0, 1, 0xBD, 0, 5, 0x81, 0, 2, 7, 7, 0x23}, std::nullopt},
+        {{0, 0, 1, 0xBD, 0, 6, 0x81, 0, 2, 7, 7}, std::nullopt},
+        {{0, 0, 1, 0xBD, 0, 6, 0x81, 0}, std::nullopt},
+        {{0, 0, 1, 0xBD, 0, 6, 0x41, 0, 2, 7, 7, 0x23}, std::nullopt},
+    };
+    for (const auto& [bytes, expected] : elements) {
+        const auto found = ProgramStream::elementAt(bytes);
+        ASSERT_EQ(found.has_value(), expected.has_value()) << testing::PrintToString(bytes);
+        if (!found)
+            continue;
+        EXPECT_EQ(found->kind, expected->kind);
+        EXPECT_EQ(found->length, expected->length);
+        EXPECT_EQ(found->subStream, expected->subStream);
+        EXPECT_EQ(found->payload, expected->payload);
+    }
+    const std::pair<Bytes, std::optional<std::size_t>> fills[] = {
+        {{}, 0},
+        {{0xFF, 0, 0, 0, 1, 0xBA}, 2},
+        {{0xFF, 0, 0, 1}, 4},
+        {{1}, 1},
+        {{0, 1, 0}, std::nullopt},
+        {{0xFF, 5}, std::nullopt},
+        {{0, 0, 1, 0xB8}, std::nullopt},
+    };
+    for (const auto& [bytes, length] : fills)
+        EXPECT_EQ(ProgramStream::fillLength(bytes), length) << testing::PrintToString(bytes);
+}
+
 TEST_F(VobSubPacks, units_are_put_together_from_packs_of_all_layouts) {
     struct Case {
         const char* name;
@@ -98,6 +144,9 @@ TEST_F(VobSubPacks, a_position_that_is_a_little_off_is_found_again) {
             EXPECT_EQ(read(*file, position + shift), unit) << shift;
         EXPECT_TRUE(read(*file, position + 60).empty());
         EXPECT_TRUE(read(*file, position - 60).empty());
+        PackReader reader(*file, 3, abort);
+        EXPECT_FALSE(reader.readByLengths(position - 17));
+        EXPECT_FALSE(reader.readByLengths(position + 14 + layout.stuffing + 17)) << "behind its packet";
     }
 }
 
