@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <unistd.h>
 
 namespace {
 
@@ -64,6 +65,14 @@ TEST(ToolProcess, limits_end_the_program_and_what_it_started) {
 }
 
 TEST(ToolProcess, status_and_output_come_back_and_what_cannot_be_started_is_nothing) {
+    // A program is started as any is, whatever this one has opened, holds back or ignores.
+    constexpr int leaked = 98;
+    ASSERT_EQ(::dup2(STDERR_FILENO, leaked), leaked);
+    sigset_t heldBack, before;
+    sigemptyset(&heldBack);
+    sigaddset(&heldBack, SIGTERM);
+    ::pthread_sigmask(SIG_BLOCK, &heldBack, &before);
+    const auto onPipe = std::signal(SIGPIPE, SIG_IGN);
     QByteArray said;
     const struct {
         const char* script;
@@ -74,6 +83,8 @@ TEST(ToolProcess, status_and_output_come_back_and_what_cannot_be_started_is_noth
         {"cat; pwd; echo $SOMETHING $HOME", 0, "/usr\nchanged /root-of-none\n"},
         {"kill -9 $$", 128 + SIGKILL, ""},
         {"kill -TERM $$", 128 + SIGTERM, ""},
+        {"kill -PIPE $$", 128 + SIGPIPE, ""},
+        {"! [ -e /proc/self/fd/98 ]", 0, ""},
         {"exec 1>&- 2>&-; sleep 0.1; exit 4", 4, ""},
     };
     for (const auto& one : cases) {
@@ -85,12 +96,17 @@ TEST(ToolProcess, status_and_output_come_back_and_what_cannot_be_started_is_noth
         EXPECT_EQ(platform::runTool(request), one.status) << one.script;
         EXPECT_EQ(said, QByteArray(one.output)) << one.script;
     }
+    ::close(leaked);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    std::signal(SIGPIPE, onPipe);
     auto request = shell("echo out; echo err >&2; head -c 300000 /dev/zero");
     request.dropsErrors = true;
     qsizetype length = 0;
     request.output = [&](const QByteArray& piece) { length += piece.size(); };
     EXPECT_EQ(platform::runTool(request), 0);
     EXPECT_EQ(length, 300'004);
+    request.folder = "/nowhere";
+    EXPECT_EQ(platform::runTool(request), 127);
     for (const char* program : {"", "no such program", "/nowhere/sh", "/etc/passwd"}) {
         request.program = program;
         EXPECT_EQ(platform::runTool(request), std::nullopt) << program;

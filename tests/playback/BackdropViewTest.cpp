@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "playback/BackdropView.h"
 
+#include "platform/window/ScreenScale.h"
 #include "playback/BackdropLayout.h"
 #include "tests/support/PlaybackRig.h"
 
@@ -79,8 +80,9 @@ TEST_F(Backdrop, shows_the_cover_of_the_current_movie_alone) {
 
 TEST_F(Backdrop, an_empty_player_says_how_to_open_a_movie_soon_after_the_launch) {
     backdrop.offerHint({"press", "drop"});
+    advance(0.4);
     EXPECT_EQ(said(), "|") << "a movie may be on its way";
-    advance(1);
+    advance(0.2);
     EXPECT_EQ(said(), "press|drop");
     see();
     EXPECT_EQ(said(), "|");
@@ -95,6 +97,22 @@ TEST_F(Backdrop, an_empty_player_says_how_to_open_a_movie_soon_after_the_launch)
     see();
     advance(1);
     EXPECT_TRUE(other.title().isEmpty());
+}
+
+TEST_F(Backdrop, a_long_title_keeps_off_the_edges_of_a_window_of_any_size) {
+    hear(QString(900, 'i'), "The Keepers", false);
+    for (const QSizeF& size : {QSizeF(1440, 900), QSizeF(3840, 2160)}) {
+        rig.window.setFrame(Rect(QPointF(0, 0), size));
+        double left = size.width();
+        double right = 0;
+        for (const platform::View* line : backdrop.subviews()) {
+            left = std::min(left, line->frame().width() > 0 ? line->frame().minX() : left);
+            right = std::max(right, line->frame().maxX());
+        }
+        const double edge = 24 * platform::screenScale(size.height());
+        EXPECT_NEAR(left, edge, edge / 3);
+        EXPECT_NEAR(size.width() - right, edge, edge / 3);
+    }
 }
 
 TEST_F(Backdrop, takes_what_is_dropped_wherever_there_is_no_picture) {

@@ -71,6 +71,8 @@ TEST(ControllerBar, it_shows_whether_it_plays_how_loud_and_where) {
     EXPECT_GT(brightness(drawn({.playing = false}), button), 200) << "a triangle";
     EXPECT_LT(brightness(drawn({.playing = true}), button), 50) << "between two bars";
 
+    EXPECT_EQ(drawn({}), drawn({.playing = false, .muted = false, .volume = 1, .position = 0})) << "without a movie";
+
     const auto speaker = [&](bool muted, double volume) {
         return drawn({.muted = muted, .volume = volume}).copy(ControllerBar::muteButton(size).toRect());
     };

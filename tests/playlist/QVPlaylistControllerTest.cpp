@@ -345,6 +345,21 @@ TEST(QVPlaylistController, many_files_come_in_parts_in_their_order) {
     for (int i = 0; i < 500; ++i)
         names.append(QString::number(i));
     EXPECT_EQ(rig.order(), names.join(u' '));
+
+    // What opens slowly comes a tenth of a second after it opened, the first one at once.
+    for (const QUrl& one : urls)
+        rig.toolkit.hanging.insert(one);
+    rig.playlist.addURLs(urls.first(6), Adding::replace, Starting::yes);
+    rig.settings.runLoop.runPending();
+    EXPECT_EQ(rig.toolkit.waiting(), 4) << "as many as a disk reads at a time";
+    rig.toolkit.answer(urls[0]);
+    rig.settings.runLoop.advance(0.02);
+    EXPECT_EQ(rig.playlist.count(), 1U);
+    rig.toolkit.answer(urls[1]);
+    rig.settings.runLoop.advance(0.08);
+    EXPECT_EQ(rig.playlist.count(), 1U);
+    rig.settings.runLoop.advance(0.06);
+    EXPECT_EQ(rig.playlist.count(), 2U);
 }
 
 TEST(QVPlaylistController, the_current_movie_stays_current_when_the_list_is_arranged) {
