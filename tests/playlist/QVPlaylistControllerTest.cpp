@@ -132,6 +132,7 @@ TEST(QVPlaylistController, an_empty_list_leads_to_the_open_panel) {
     rig.settings.runLoop.runPending();
     EXPECT_EQ(rig.openPanel.opens, 1);
     EXPECT_TRUE(rig.desktop.alerts.empty());
+    EXPECT_FALSE(rig.playlist.isFinished()) << "nothing was played to its end";
     // Folders without movies are named by the panel itself.
     rig.playlist.addURLs({}, Adding::replace, Starting::yes, nullptr,
                          {{url("empty"), OpeningReport::noMoviesInFolder}});
