@@ -154,3 +154,32 @@ TEST(EncodingDetection, nearly_all_old_files_in_forty_languages_are_read_right) 
         EXPECT_GE(tally.right, tally.files * floor) << cues << " cues, wrong:\n" << tally.wrong;
     }
 }
+
+TEST(EncodingDetection, files_of_old_and_other_machines_are_read_right) {
+    const struct {
+        const char* language;
+        std::vector<std::uint32_t> encodings;
+    } cases[] = {
+        {"French", {30}},
+        {"Czech", {9, 0x8000001D}},
+        {"Turkish", {0x80000414, 0x80000023}},
+        {"Lithuanian", {0x8000020D, 0x80000406, 0x80000204}},
+        {"Estonian", {0x8000020D, 0x8000020F, 0x80000204, 0x80000406}},
+        {"Russian", {0x80000A02, 0x80000205, 0x80000007, 0x80000413}},
+        {"Ukrainian", {0x80000A08, 0x80000205, 0x80000007}},
+        {"Bulgarian", {0x80000205, 0x8000041B, 0x80000007, 0x80000413}},
+        {"Greek", {0x80000207, 0x80000405, 0x8000041C}},
+        {"Hebrew", {0x80000208, 0x80000417}},
+        {"Arabic", {0x80000206}},
+        {"Japanese", {3}},
+        {"Thai", {0x8000020B}},
+        {"Traditional Chinese", {0x80000A06}},
+    };
+    for (const auto& [language, encodings] : cases) {
+        for (const std::uint32_t encoding : encodings) {
+            std::minstd_rand draw(3);
+            const SpokenFile file = spokenFile(textIn(language), encoding, 100, Markup::none, draw);
+            EXPECT_TRUE(readAutomatically(file.bytes) == file.text) << language << ' ' << encoding;
+        }
+    }
+}
