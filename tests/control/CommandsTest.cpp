@@ -63,6 +63,45 @@ TEST(Commands, a_tag_that_no_row_has_is_a_position_for_the_operation) {
     EXPECT_EQ(commandWithAction(noAction), nullptr);
 }
 
+TEST(Commands, their_codes_and_arguments_are_those_that_settings_and_other_inputs_know) {
+    const std::pair<std::int32_t, const char*> actions[] = {{0, "play-pause"},
+                                                            {1, "fast-rewind"},
+                                                            {2, "fast-forward"},
+                                                            {3, "step-backward"},
+                                                            {4, "step-forward"},
+                                                            {5, "jump-backward"},
+                                                            {6, "jump-forward"},
+                                                            {19, "volume-up"},
+                                                            {20, "volume-down"},
+                                                            {21, "option-up"},
+                                                            {22, "option-down"},
+                                                            {24, "next-subtitles"},
+                                                            {25, "previous-subtitles"},
+                                                            {29, "next-screen"},
+                                                            {30, "previous-screen"},
+                                                            {31, "sleep"},
+                                                            {32, "quit"}};
+    for (const auto& [code, name] : actions)
+        EXPECT_EQ(commandWithName(name)->action, code) << name;
+    const std::pair<std::int32_t, std::vector<const char*>> arguments[] = {
+        {1,
+         {"next-display", "forward", "step-forward", "jump-forward", "end", "next-movie", "next-looping",
+          "next-subtitles", "next-screen", "normal-size", "loop-one"}},
+        {-1,
+         {"previous-display", "rewind", "step-backward", "jump-backward", "beginning", "previous-movie",
+          "previous-looping", "no-subtitles", "previous-subtitles", "previous-screen"}},
+        {0, {"half-size", "looping-off"}},
+        {2, {"double-size", "loop-all"}},
+        {3, {"full-size"}},
+        {4, {"fit-width"}},
+        {5, {"fit-height"}},
+        {-2, {"bigger"}},
+        {-3, {"smaller"}}};
+    for (const auto& [argument, names] : arguments)
+        for (const char* name : names)
+            EXPECT_EQ(commandWithName(name)->argument, argument) << name;
+}
+
 TEST(Commands, keys_are_written_for_menus_and_for_people) {
     using namespace platform;
     const struct {

@@ -68,6 +68,8 @@ TEST(VobSubPacket, malformed_control_sequences_are_refused) {
         for (const std::int32_t dataSize : {1, 1000, 65535, -1})
             (void)ControlSequences::parse(unit, dataSize);
     }
+    for (const auto& color : ControlSequences::parse(Bytes{0, 0, 0, 4, 0, 0, 0, 4, 1, 0xFF}, 4)->pal)
+        EXPECT_EQ(color.pal + color.tr, 0) << "not visible without a command that says so";
 }
 
 TEST(VobSubPacket, a_picture_is_cropped_to_what_is_visible) {

@@ -294,6 +294,7 @@ TEST_F(VobSubPacks, what_cannot_be_read_is_said) {
         EXPECT_EQ(log.lines().size(), *line ? 1 : 0) << position;
         EXPECT_TRUE(!*line || log.lines().join(u' ').startsWith(QString::fromLatin1(line))) << position;
     }
+    EXPECT_EQ(DataFile::open(write({7, 8}))->at(0, 1)[0], 7);
     const QString pipe = folder.filePath(QStringLiteral("pipe"));
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_FALSE(DataFile::open(pipe));
