@@ -7,6 +7,7 @@
 #include "tests/support/ManualRunLoop.h"
 #include "tests/support/PlaybackRig.h"
 
+#include <chrono>
 #include <filesystem>
 #include <sys/stat.h>
 
@@ -28,6 +29,8 @@ TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
     movie->setTime(1200);
     EXPECT_EQ(times.count, 29);
     EXPECT_EQ(times.last->movie, movie);
+    EXPECT_EQ(movie->timeInSeconds(), 2);
+    EXPECT_EQ(movie->naturalFrame(900), platform::Rect(0, 420, 640, 480)) << "below the upper edge";
     EXPECT_FALSE(rig.desktop.userActive) << "a resting movie keeps no screen awake";
 
     // The end is told each time that it is reached anew: after a start, and after a jump.
@@ -141,4 +144,18 @@ TEST(SubtitleDiscovery, a_listing_is_kept_for_a_second_while_its_folder_stays_as
     seemUnchanged();
     clock.advance(1.1);
     EXPECT_EQ(found(), "film.de.srt film.en.srt film.srt") << "a second is over";
+
+    // One that has not changed for some seconds will say so when it does.
+    for (const auto& [restedSeconds, kept] : {std::pair(2, false), {3, true}}) {
+        const std::chrono::sys_seconds time(std::chrono::seconds(clock.date().toSecsSinceEpoch() - restedSeconds));
+        const auto changeThen = [&, time = std::chrono::file_clock::from_sys(time)] {
+            std::filesystem::last_write_time(folder.path().toStdString(), time);
+        };
+        changeThen();
+        const auto before = found();
+        writeFile(base + QString::number(restedSeconds) + ".srt");
+        changeThen();
+        clock.advance(10);
+        EXPECT_EQ(found() == before, kept) << restedSeconds;
+    }
 }

@@ -144,6 +144,11 @@ TEST(QVMovieView, edge_panning_runs_until_the_edge_or_until_its_area_is_left) {
     drag.deltaY = 50;
     EXPECT_TRUE(rig.view.mouseDragged(drag));
     EXPECT_EQ(rig.view.frame().y(), -50);
+    for (const platform::MouseButton button : {platform::MouseButton::right, platform::MouseButton::other}) {
+        drag.button = button;
+        EXPECT_FALSE(rig.view.mouseDragged(drag));
+        EXPECT_EQ(rig.view.frame().y(), -50);
+    }
 }
 
 TEST(QVMovieView, keys_that_the_commands_leave_step_and_play_the_movie_and_beep_without_one) {
@@ -181,6 +186,45 @@ TEST(QVMovieView, volume_texts_round_to_whole_percents) {
         rig.view.setVolume(volume);
         EXPECT_EQ(rig.view.volumeInfoAsString(), text);
     }
+    EXPECT_EQ(rig.view.mutedInfoAsString(), "Mute: Off");
     rig.view.setMuted(true);
     EXPECT_EQ(rig.view.volumeInfoAsString(), "Volume: Muted");
+    EXPECT_EQ(rig.view.mutedInfoAsString(), "Mute: On");
+}
+
+TEST(QVMovieView, a_wait_is_said_until_the_movie_goes_on_and_so_is_a_stall) {
+    PlaybackRig rig;
+    using Wait = platform::MoviePlayer::Wait;
+    const auto movie = rig.show();
+    const auto saidAfter = [&](double seconds) {
+        rig.confirmations.last.clear();
+        rig.settings.runLoop.advance(seconds);
+        return rig.confirmations.last;
+    };
+    rig.player().wait({Wait::What::beginning, 0});
+    EXPECT_EQ(saidAfter(0.6), "Loading: a.mp4");
+    rig.player().wait({Wait::What::more, 40});
+    EXPECT_EQ(saidAfter(3.9), "Buffering: 40 %");
+    EXPECT_EQ(saidAfter(1), "Stalled: no data from the server");
+    rig.player().wait({Wait::What::more, 41});
+    EXPECT_EQ(saidAfter(3.9), "Buffering: 41 %");
+    rig.player().wait({});
+    EXPECT_EQ(saidAfter(10), "");
+
+    Posts<QVMovieFailedNotification> failures(rig.settings.notifications);
+    rig.player().fail();
+    ASSERT_EQ(failures.count, 1);
+    EXPECT_EQ(failures.last->movie, movie);
+}
+
+TEST(QVMovieView, a_saved_state_is_played_on) {
+    PlaybackRig rig;
+    rig.show();
+    for (const float rate : {2.0F, 0.0F, 1.0F}) {
+        rig.view.setRate(rate);
+        rig.view.saveMovieState();
+        rig.view.setRate(rate == 0 ? 1 : 0);
+        rig.view.restoreMovieState();
+        EXPECT_EQ(rig.view.rate(), rate);
+    }
 }

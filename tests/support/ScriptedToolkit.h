@@ -26,6 +26,10 @@ public:
     /// Reports a new frame, to be shown now or whenever the view is drawn next.
     void showFrame(bool isDue) { isDue ? _observer->playerFrameDue() : _observer->playerFrameChanged(); }
 
+    /// Says what playing waits for, or that the movie cannot be played after all.
+    void wait(const Wait& wait) { _observer->playerWaitChanged(wait); }
+    void fail() { _observer->playerFailed(); }
+
     std::vector<int> steps;
     int loads = 0;
 
