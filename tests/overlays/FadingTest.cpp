@@ -84,6 +84,17 @@ TEST_F(Fading, intervals_too_short_for_a_step_or_absurd_fade_at_once) {
     }
 }
 
+TEST_F(Fading, a_style_changes_intervals_that_are_not_too_long_to_wait_for) {
+    const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    for (const auto& [interval, taken] : {std::pair(0.25, 0.25), {60, 60}, {61, 0}, {notANumber, 0}}) {
+        for (const QString& key : {kFadingInInterval, kFadingOutInterval, kFadingDelayInterval})
+            rig.change(key, interval);
+        for (const double own :
+             {overlay.fadingInInterval(), overlay.fadingOutInterval(), overlay.fadingDelayInterval()})
+            EXPECT_EQ(own, taken) << interval;
+    }
+}
+
 TEST_F(Fading, popping_up_shows_holds_and_hides) {
     overlay.autopop();
     EXPECT_EQ(overlay.fadingState(), State::fadingIn);
