@@ -19,11 +19,18 @@ std::size_t LineReader::pieceLength() const {
     return lineFeed ? static_cast<std::size_t>(static_cast<const char*>(lineFeed) - _rest.data()) + 1 : most;
 }
 
-std::size_t LineReader::lineLength() const {
+std::size_t LineReader::lineLength() {
     const std::size_t end = _rest.find_first_of("\r\n");
     if (end == std::string_view::npos)
         return _rest.size();
+    const char* const found = _rest.data() + end;
+    // Each of a run ends a line: looked through for each of them, a long run would take its length squared.
+    if (*found == '\r' && found < _bareReturnsEnd)
+        return end + 1;
     // Carriage returns before a line feed belong to it, however many.
-    const std::size_t next = _rest.find_first_not_of('\r', end);
-    return next != std::string_view::npos && _rest[next] == '\n' ? next + 1 : end + 1;
+    const std::size_t next = std::min(_rest.find_first_not_of('\r', end), _rest.size());
+    if (next < _rest.size() && _rest[next] == '\n')
+        return next + 1;
+    _bareReturnsEnd = _rest.data() + next;
+    return end + 1;
 }

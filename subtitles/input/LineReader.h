@@ -24,8 +24,10 @@ public:
 
 private:
     std::size_t pieceLength() const;
-    std::size_t lineLength() const;
+    std::size_t lineLength();
 
     std::string_view _rest;
     ReadingMode _mode;
+    /// Up to there carriage returns are followed by no line feed.
+    const char* _bareReturnsEnd = nullptr;
 };

@@ -137,6 +137,15 @@ TEST_F(HostileFiles, a_text_has_limited_lines_and_cues_limited_texts) {
             log.contains((std::string(name) + "\" has lines that are too long, their ends are left out.").c_str()));
 }
 
+TEST_F(HostileFiles, a_run_of_line_ends_is_looked_through_once) {
+    settings.defaults().setBool(true, kQVSubtitlesRepair);
+    // Looked through for each of them it would take minutes.
+    const std::string ends(1'000'000, '\r');
+    EXPECT_EQ(load("film.srt", "1\n00:00:01,000 --> 00:00:02,000\nA\n" + ends)->count(), 1U);
+    EXPECT_EQ(load("film.sub", "{1}{2}A\n" + ends + "{2}{3}B\n")->count(), 2U);
+    EXPECT_EQ(load("film.txt", "0:0:1:A\n" + ends + "\n0:0:2:B\n")->count(), 2U);
+}
+
 TEST_F(HostileFiles, a_text_has_a_limited_number_of_cues) {
     constexpr std::size_t maximum = 2'000'000;
     std::string lines;
