@@ -159,6 +159,11 @@ void writeMovie(const QString& path, QVMovie& movie, const platform::UserDefault
     json.endObject();
 }
 
+/// As it is when it is opened to be played; an invalid one for what is no address.
+QUrl urlOf(const QString& pathOrUrl) {
+    return isURLString(pathOrUrl) ? urlsWithURLStrings({pathOrUrl}).value(0) : QUrl::fromLocalFile(pathOrUrl);
+}
+
 } // namespace
 
 QStringList inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit, const MovieReader& readMovie,
@@ -173,7 +178,7 @@ QStringList inspectFiles(const Environment& environment, platform::MovieToolkit&
     CueImages images(subtitles.imagesFolder);
     json.beginArray();
     for (const QString& name : pathsOrUrls) {
-        const QUrl url = isURLString(name) ? QUrl(name) : QUrl::fromLocalFile(name);
+        const QUrl url = urlOf(name);
         const auto isSubtitleFile = [&] {
             return writeSubtitleFile(name, url.toLocalFile(), readers, owner, images, json);
         };

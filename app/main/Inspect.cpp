@@ -34,10 +34,20 @@ int inspect(int& count, char** arguments, const CommandLine& line) {
         defaults.setOverride(kQVSubtitlesDefaultFPS, line.frameRateChoice);
     const std::atomic<bool> isCancelled{false};
     const auto readMovie = [&](const QUrl& url) { return platform::probeMovie(url, openTimeout, isCancelled); };
-    platform::JsonWriter json(
-        [](QByteArrayView text) { std::fwrite(text.data(), 1, static_cast<std::size_t>(text.size()), stdout); });
-    const QStringList errors =
-        inspectFiles(run.environment(), toolkit, readMovie, line.files, json, {line.timeScale, line.imagesFolder});
+    QStringList errors;
+    bool isWritten = true;
+    const auto write = [&isWritten](QByteArrayView text) {
+        const auto size = static_cast<std::size_t>(text.size());
+        isWritten = isWritten && std::fwrite(text.data(), 1, size, stdout) == size;
+    };
+    {
+        platform::JsonWriter json(write);
+        errors =
+            inspectFiles(run.environment(), toolkit, readMovie, line.files, json, {line.timeScale, line.imagesFolder});
+    }
+    // What is cut off must not pass for the whole.
+    if (std::fflush(stdout) != 0 || !isWritten)
+        errors.append(QStringLiteral("the output cannot be written"));
     for (const QString& error : errors)
         complain(error);
     platform::PrivateSubfolder::waitUntilGone();

@@ -56,6 +56,14 @@ TEST_F(Inspection, the_cues_of_a_subtitle_file_are_listed_in_units_and_in_millis
     EXPECT_EQ(unscaled[0]["tracks"][0]["timeScale"].toInt(), 600) << "as most movies have it";
 }
 
+TEST_F(Inspection, an_address_of_a_file_may_name_this_machine) {
+    const QString path = writeFile(folder.filePath("a film.srt"), "00:00:01,500 --> 00:00:03,250\nHello\n\n");
+    const QString escaped = QString::fromUtf8(QUrl::fromLocalFile(path).toEncoded()).mid(7);
+    for (const QString& host : {QString(), QStringLiteral("localhost")})
+        EXPECT_EQ(inspect({QStringLiteral("file://") + host + escaped}).size(), 1) << host.toStdString();
+    EXPECT_TRUE(errors.isEmpty());
+}
+
 TEST_F(Inspection, a_movie_is_described_with_the_subtitles_beside_it_and_a_failure_is_a_line) {
     settings.defaults().setBool(true, kQVAutoloadSubtitles);
     const QString movie = writeFile(folder.filePath("film.mp4"));

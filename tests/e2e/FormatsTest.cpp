@@ -247,6 +247,17 @@ TEST_F(Formats, bad_files_do_not_keep_inspection_from_the_good_ones) {
     EXPECT_EQ(found.last().toObject()["frameCount"].toInt(), 300);
 }
 
+TEST_F(Formats, inspection_says_when_its_output_cannot_be_written) {
+    const std::string movie = numbered("red.mp4", red, 300);
+    for (const std::string target : {"/dev/full", "/dev/null"}) {
+        harness::ChildProcess::Options options;
+        options.arguments = {"/bin/sh", "-c", "exec '" LUMARO_PROGRAM "' --inspect \"$0\" >" + target, movie};
+        options.environment = {{"HOME", user.folder().string()}, {"LUMARO_RESOURCES", LUMARO_BINARY_DIR "/resources"}};
+        harness::ChildProcess process(options);
+        EXPECT_EQ(process.waitForExit(), target == "/dev/full" ? 1 : 0) << process.errorOutput();
+    }
+}
+
 TEST_F(Formats, a_movie_from_a_server_plays_and_jumps) {
     MediaFixture::Numbered served;
     served.frames = 900;
