@@ -54,7 +54,5 @@ private:
 
 /// The bytes' text, or none when they are not valid in the encoding. Any thread.
 std::optional<QString> stringWithData(std::string_view bytes, std::uint32_t encoding);
-/// The text's bytes, what the encoding lacks replaced by a substitute. None for an unknown encoding. Any thread.
-std::optional<QByteArray> lossyData(const QString& text, std::uint32_t encoding);
 
 } // namespace platform

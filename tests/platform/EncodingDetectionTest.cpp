@@ -3,6 +3,7 @@
 
 #include "platform/base/TextEncoding.h"
 #include "tests/platform/SpokenFiles.h"
+#include "tests/support/EncodedText.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 #include "tests/platform/SpokenFiles.h"
 
 #include "platform/base/TextEncoding.h"
+#include "tests/support/EncodedText.h"
 
 #include <QStringList>
 
@@ -10,7 +11,7 @@
 namespace {
 
 bool holds(std::uint32_t encoding, const QString& text) {
-    const auto bytes = platform::lossyData(text, encoding);
+    const auto bytes = lossyData(text, encoding);
     return bytes && platform::stringWithData({bytes->constData(), static_cast<std::size_t>(bytes->size())}, encoding)
                             .value_or(QString()) == text;
 }
@@ -77,7 +78,7 @@ SpokenFile spokenFile(const SpokenText& text, std::uint32_t encoding, std::size_
         file.text += QStringLiteral("%1\r\n%2,000 --> %3,500\r\n%4\r\n\r\n")
                          .arg(QString::number(cue + 1), time(3 * cue), time(3 * cue + 2), line);
     }
-    const QByteArray bytes = platform::lossyData(file.text, encoding).value_or(QByteArray());
+    const QByteArray bytes = lossyData(file.text, encoding).value_or(QByteArray());
     file.bytes.assign(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return file;
 }

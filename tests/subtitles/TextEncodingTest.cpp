@@ -7,6 +7,7 @@
 #include "tests/subtitles/EncodingTexts.h"
 #include "tests/subtitles/SubtitleFiles.h"
 #include "tests/support/CapturedLog.h"
+#include "tests/support/EncodedText.h"
 
 using namespace platform;
 
