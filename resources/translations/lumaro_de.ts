@@ -1063,4 +1063,263 @@
         <translation>Koreanisch (ISO 2022-KR)</translation>
     </message>
 </context>
+<context>
+    <name>Overlay styles</name>
+    <message id="StyleText">
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message id="StyleTextColor">
+        <source>&amp;Color:</source>
+        <translation>&amp;Farbe:</translation>
+    </message>
+    <message id="StyleTextColorTip">
+        <source>The color of the letters, and of the line around the panel</source>
+        <translation>Die Farbe der Buchstaben und der Linie um die Fläche</translation>
+    </message>
+    <message id="StyleTextFontName">
+        <source>&amp;Font:</source>
+        <translation>&amp;Schrift:</translation>
+    </message>
+    <message id="StyleTextFontNameTip">
+        <source>The family of the letters</source>
+        <translation>Die Familie der Buchstaben</translation>
+    </message>
+    <message id="StyleTextFontSize">
+        <source>Si&amp;ze:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message id="StyleTextFontSizeTip">
+        <source>In points of a screen 1080 points high; on a higher one, letters grow with it</source>
+        <translation>In Punkten eines 1080 Punkte hohen Bildschirms; auf einem höheren wachsen die Buchstaben mit</translation>
+    </message>
+    <message id="StyleShadow">
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message id="StyleShadowOn">
+        <source>Draw a &amp;shadow</source>
+        <translation>Schatten &amp;zeichnen</translation>
+    </message>
+    <message id="StyleShadowOnTip">
+        <source>A shadow keeps letters legible on any picture</source>
+        <translation>Ein Schatten hält Buchstaben auf jedem Bild lesbar</translation>
+    </message>
+    <message id="StyleShadowColor">
+        <source>Co&amp;lor:</source>
+        <translation>F&amp;arbe:</translation>
+    </message>
+    <message id="StyleShadowColorTip">
+        <source>The color of the shadow, and how much shows through it</source>
+        <translation>Die Farbe des Schattens, und wie viel durch ihn scheint</translation>
+    </message>
+    <message id="StyleShadowBlur">
+        <source>&amp;Blur:</source>
+        <translation>&amp;Weichheit:</translation>
+    </message>
+    <message id="StyleShadowBlurTip">
+        <source>How far the shadow’s edge is spread, in points</source>
+        <translation>Wie breit der Rand des Schattens verläuft, in Punkten</translation>
+    </message>
+    <message id="StyleShadowOffsetX">
+        <source>To the &amp;right:</source>
+        <translation>Nach &amp;rechts:</translation>
+    </message>
+    <message id="StyleShadowOffsetXTip">
+        <source>How far the shadow falls to the right, in points; below 0, to the left</source>
+        <translation>Wie weit der Schatten nach rechts fällt, in Punkten; unter 0 nach links</translation>
+    </message>
+    <message id="StyleShadowOffsetY">
+        <source>&amp;Upwards:</source>
+        <translation>Nach &amp;oben:</translation>
+    </message>
+    <message id="StyleShadowOffsetYTip">
+        <source>How far the shadow falls upwards, in points; below 0, downwards</source>
+        <translation>Wie weit der Schatten nach oben fällt, in Punkten; unter 0 nach unten</translation>
+    </message>
+    <message id="StylePosition">
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message id="StyleAlignmentVertical">
+        <source>&amp;Vertical:</source>
+        <translation>&amp;Vertikal:</translation>
+    </message>
+    <message id="StyleAlignmentVerticalTip">
+        <source>At what height it stands</source>
+        <translation>In welcher Höhe es steht</translation>
+    </message>
+    <message id="StyleAlignmentHorizontal">
+        <source>&amp;Horizontal:</source>
+        <translation>Horizonta&amp;l:</translation>
+    </message>
+    <message id="StyleAlignmentHorizontalTip">
+        <source>At which side of the screen it stands</source>
+        <translation>An welcher Seite des Bildschirms es steht</translation>
+    </message>
+    <message id="StyleLeft">
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message id="StyleCenter">
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message id="StyleRight">
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message id="StyleTop">
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message id="StyleMiddle">
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message id="StyleBottom">
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message id="StyleAbovePictureEdge">
+        <source>Inside the picture</source>
+        <translation>Im Bild</translation>
+    </message>
+    <message id="StyleOnPictureEdge">
+        <source>On the picture’s edge</source>
+        <translation>Am Bildrand</translation>
+    </message>
+    <message id="StyleBelowPicture">
+        <source>Below the picture</source>
+        <translation>Unter dem Bild</translation>
+    </message>
+    <message id="StylePanel">
+        <source>Panel</source>
+        <translation>Fläche</translation>
+    </message>
+    <message id="StyleBackground">
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message id="StyleBackgroundTip">
+        <source>The color around the picture</source>
+        <translation>Die Farbe um das Bild herum</translation>
+    </message>
+    <message id="StyleBackgroundOn">
+        <source>Draw a &amp;panel</source>
+        <translation>Fläche &amp;hinterlegen</translation>
+    </message>
+    <message id="StyleBackgroundOnTip">
+        <source>A panel behind the text</source>
+        <translation>Eine Fläche hinter dem Text</translation>
+    </message>
+    <message id="StyleBackgroundColor">
+        <source>Col&amp;or:</source>
+        <translation>Far&amp;be:</translation>
+    </message>
+    <message id="StyleBackgroundColorTip">
+        <source>The color of the panel, and how much shows through it</source>
+        <translation>Die Farbe der Fläche, und wie viel durch sie scheint</translation>
+    </message>
+    <message id="StyleBackgroundRounded">
+        <source>Rou&amp;nd corners</source>
+        <translation>Abger&amp;undete Ecken</translation>
+    </message>
+    <message id="StyleBackgroundRoundedTip">
+        <source>Corners of the panel are rounded</source>
+        <translation>Die Ecken der Fläche werden abgerundet</translation>
+    </message>
+    <message id="StyleBackgroundRadius">
+        <source>R&amp;adius:</source>
+        <translation>Rad&amp;ius:</translation>
+    </message>
+    <message id="StyleBackgroundRadiusTip">
+        <source>How far the corners are rounded, in points</source>
+        <translation>Wie weit die Ecken abgerundet werden, in Punkten</translation>
+    </message>
+    <message id="StyleFrameOn">
+        <source>Draw a fra&amp;me</source>
+        <translation>Rah&amp;men zeichnen</translation>
+    </message>
+    <message id="StyleFrameOnTip">
+        <source>A line around the panel, in the text’s color</source>
+        <translation>Eine Linie um die Fläche, in der Farbe des Texts</translation>
+    </message>
+    <message id="StyleFrameWidth">
+        <source>&amp;Width:</source>
+        <translation>Brei&amp;te:</translation>
+    </message>
+    <message id="StyleFrameWidthTip">
+        <source>How wide the line is, in points</source>
+        <translation>Wie breit die Linie ist, in Punkten</translation>
+    </message>
+    <message id="StyleFading">
+        <source>Fading and opacity</source>
+        <translation>Blenden und Deckkraft</translation>
+    </message>
+    <message id="StyleFadingIn">
+        <source>Fade &amp;in:</source>
+        <translation>&amp;Einblenden:</translation>
+    </message>
+    <message id="StyleFadingInTip">
+        <source>How long a whole fade takes when it appears; 0 shows it at once</source>
+        <translation>Wie lange das Einblenden von ganz durchsichtig bis ganz deckend dauert; 0 zeigt es sofort</translation>
+    </message>
+    <message id="StyleFadingOut">
+        <source>Fad&amp;e out:</source>
+        <translation>Ausble&amp;nden:</translation>
+    </message>
+    <message id="StyleFadingOutTip">
+        <source>How long a whole fade takes when it goes; 0 hides it at once</source>
+        <translation>Wie lange das Ausblenden von ganz deckend bis ganz durchsichtig dauert; 0 verbirgt es sofort</translation>
+    </message>
+    <message id="StyleFadingDelay">
+        <source>S&amp;tay:</source>
+        <translation>&amp;Dauer:</translation>
+    </message>
+    <message id="StyleFadingDelayTip">
+        <source>How long it stays between fading in and fading out</source>
+        <translation>Wie lange es zwischen Einblenden und Ausblenden bleibt</translation>
+    </message>
+    <message id="StyleMinAlpha">
+        <source>Opacity when hi&amp;dden:</source>
+        <translation>De&amp;ckkraft verborgen:</translation>
+    </message>
+    <message id="StyleMinAlphaTip">
+        <source>How much of it remains while it is hidden: 0 % is nothing</source>
+        <translation>Wie viel davon bleibt, während es verborgen ist: 0 % ist nichts</translation>
+    </message>
+    <message id="StyleMaxAlpha">
+        <source>Opacit&amp;y when shown:</source>
+        <translation>Dec&amp;kkraft sichtbar:</translation>
+    </message>
+    <message id="StyleMaxAlphaTip">
+        <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
+        <translation>Wie deckend es gezeigt wird: unter 100 % scheint das Bild durch</translation>
+    </message>
+    <message id="StyleSeconds">
+        <source>%@ s</source>
+        <translation>%@ s</translation>
+    </message>
+    <message id="StylePercent">
+        <source>%@ %</source>
+        <translation>%@ %</translation>
+    </message>
+    <message id="StyleSample">
+        <source>Sample</source>
+        <translation>Muster</translation>
+    </message>
+    <message id="StyleSampleTip">
+        <source>What it looks like over a light and a dark picture</source>
+        <translation>Wie es über einem hellen und einem dunklen Bild aussieht</translation>
+    </message>
+    <message id="StyleSampleSubtitle">
+        <source>What an evening!</source>
+        <translation>Was für ein Abend!</translation>
+    </message>
+    <message id="StyleSampleFeedback">
+        <source>Volume: 80 %</source>
+        <translation>Lautstärke: 80 %</translation>
+    </message>
+</context>
 </TS>

@@ -1063,4 +1063,263 @@
         <translation>Korean (ISO 2022-KR)</translation>
     </message>
 </context>
+<context>
+    <name>Overlay styles</name>
+    <message id="StyleText">
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message id="StyleTextColor">
+        <source>&amp;Color:</source>
+        <translation>&amp;Color:</translation>
+    </message>
+    <message id="StyleTextColorTip">
+        <source>The color of the letters, and of the line around the panel</source>
+        <translation>The color of the letters, and of the line around the panel</translation>
+    </message>
+    <message id="StyleTextFontName">
+        <source>&amp;Font:</source>
+        <translation>&amp;Font:</translation>
+    </message>
+    <message id="StyleTextFontNameTip">
+        <source>The family of the letters</source>
+        <translation>The family of the letters</translation>
+    </message>
+    <message id="StyleTextFontSize">
+        <source>Si&amp;ze:</source>
+        <translation>Si&amp;ze:</translation>
+    </message>
+    <message id="StyleTextFontSizeTip">
+        <source>In points of a screen 1080 points high; on a higher one, letters grow with it</source>
+        <translation>In points of a screen 1080 points high; on a higher one, letters grow with it</translation>
+    </message>
+    <message id="StyleShadow">
+        <source>Shadow</source>
+        <translation>Shadow</translation>
+    </message>
+    <message id="StyleShadowOn">
+        <source>Draw a &amp;shadow</source>
+        <translation>Draw a &amp;shadow</translation>
+    </message>
+    <message id="StyleShadowOnTip">
+        <source>A shadow keeps letters legible on any picture</source>
+        <translation>A shadow keeps letters legible on any picture</translation>
+    </message>
+    <message id="StyleShadowColor">
+        <source>Co&amp;lor:</source>
+        <translation>Co&amp;lor:</translation>
+    </message>
+    <message id="StyleShadowColorTip">
+        <source>The color of the shadow, and how much shows through it</source>
+        <translation>The color of the shadow, and how much shows through it</translation>
+    </message>
+    <message id="StyleShadowBlur">
+        <source>&amp;Blur:</source>
+        <translation>&amp;Blur:</translation>
+    </message>
+    <message id="StyleShadowBlurTip">
+        <source>How far the shadow’s edge is spread, in points</source>
+        <translation>How far the shadow’s edge is spread, in points</translation>
+    </message>
+    <message id="StyleShadowOffsetX">
+        <source>To the &amp;right:</source>
+        <translation>To the &amp;right:</translation>
+    </message>
+    <message id="StyleShadowOffsetXTip">
+        <source>How far the shadow falls to the right, in points; below 0, to the left</source>
+        <translation>How far the shadow falls to the right, in points; below 0, to the left</translation>
+    </message>
+    <message id="StyleShadowOffsetY">
+        <source>&amp;Upwards:</source>
+        <translation>&amp;Upwards:</translation>
+    </message>
+    <message id="StyleShadowOffsetYTip">
+        <source>How far the shadow falls upwards, in points; below 0, downwards</source>
+        <translation>How far the shadow falls upwards, in points; below 0, downwards</translation>
+    </message>
+    <message id="StylePosition">
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message id="StyleAlignmentVertical">
+        <source>&amp;Vertical:</source>
+        <translation>&amp;Vertical:</translation>
+    </message>
+    <message id="StyleAlignmentVerticalTip">
+        <source>At what height it stands</source>
+        <translation>At what height it stands</translation>
+    </message>
+    <message id="StyleAlignmentHorizontal">
+        <source>&amp;Horizontal:</source>
+        <translation>&amp;Horizontal:</translation>
+    </message>
+    <message id="StyleAlignmentHorizontalTip">
+        <source>At which side of the screen it stands</source>
+        <translation>At which side of the screen it stands</translation>
+    </message>
+    <message id="StyleLeft">
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message id="StyleCenter">
+        <source>Center</source>
+        <translation>Center</translation>
+    </message>
+    <message id="StyleRight">
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message id="StyleTop">
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message id="StyleMiddle">
+        <source>Middle</source>
+        <translation>Middle</translation>
+    </message>
+    <message id="StyleBottom">
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+    <message id="StyleAbovePictureEdge">
+        <source>Inside the picture</source>
+        <translation>Inside the picture</translation>
+    </message>
+    <message id="StyleOnPictureEdge">
+        <source>On the picture’s edge</source>
+        <translation>On the picture’s edge</translation>
+    </message>
+    <message id="StyleBelowPicture">
+        <source>Below the picture</source>
+        <translation>Below the picture</translation>
+    </message>
+    <message id="StylePanel">
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message id="StyleBackground">
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message id="StyleBackgroundTip">
+        <source>The color around the picture</source>
+        <translation>The color around the picture</translation>
+    </message>
+    <message id="StyleBackgroundOn">
+        <source>Draw a &amp;panel</source>
+        <translation>Draw a &amp;panel</translation>
+    </message>
+    <message id="StyleBackgroundOnTip">
+        <source>A panel behind the text</source>
+        <translation>A panel behind the text</translation>
+    </message>
+    <message id="StyleBackgroundColor">
+        <source>Col&amp;or:</source>
+        <translation>Col&amp;or:</translation>
+    </message>
+    <message id="StyleBackgroundColorTip">
+        <source>The color of the panel, and how much shows through it</source>
+        <translation>The color of the panel, and how much shows through it</translation>
+    </message>
+    <message id="StyleBackgroundRounded">
+        <source>Rou&amp;nd corners</source>
+        <translation>Rou&amp;nd corners</translation>
+    </message>
+    <message id="StyleBackgroundRoundedTip">
+        <source>Corners of the panel are rounded</source>
+        <translation>Corners of the panel are rounded</translation>
+    </message>
+    <message id="StyleBackgroundRadius">
+        <source>R&amp;adius:</source>
+        <translation>R&amp;adius:</translation>
+    </message>
+    <message id="StyleBackgroundRadiusTip">
+        <source>How far the corners are rounded, in points</source>
+        <translation>How far the corners are rounded, in points</translation>
+    </message>
+    <message id="StyleFrameOn">
+        <source>Draw a fra&amp;me</source>
+        <translation>Draw a fra&amp;me</translation>
+    </message>
+    <message id="StyleFrameOnTip">
+        <source>A line around the panel, in the text’s color</source>
+        <translation>A line around the panel, in the text’s color</translation>
+    </message>
+    <message id="StyleFrameWidth">
+        <source>&amp;Width:</source>
+        <translation>&amp;Width:</translation>
+    </message>
+    <message id="StyleFrameWidthTip">
+        <source>How wide the line is, in points</source>
+        <translation>How wide the line is, in points</translation>
+    </message>
+    <message id="StyleFading">
+        <source>Fading and opacity</source>
+        <translation>Fading and opacity</translation>
+    </message>
+    <message id="StyleFadingIn">
+        <source>Fade &amp;in:</source>
+        <translation>Fade &amp;in:</translation>
+    </message>
+    <message id="StyleFadingInTip">
+        <source>How long a whole fade takes when it appears; 0 shows it at once</source>
+        <translation>How long a whole fade takes when it appears; 0 shows it at once</translation>
+    </message>
+    <message id="StyleFadingOut">
+        <source>Fad&amp;e out:</source>
+        <translation>Fad&amp;e out:</translation>
+    </message>
+    <message id="StyleFadingOutTip">
+        <source>How long a whole fade takes when it goes; 0 hides it at once</source>
+        <translation>How long a whole fade takes when it goes; 0 hides it at once</translation>
+    </message>
+    <message id="StyleFadingDelay">
+        <source>S&amp;tay:</source>
+        <translation>S&amp;tay:</translation>
+    </message>
+    <message id="StyleFadingDelayTip">
+        <source>How long it stays between fading in and fading out</source>
+        <translation>How long it stays between fading in and fading out</translation>
+    </message>
+    <message id="StyleMinAlpha">
+        <source>Opacity when hi&amp;dden:</source>
+        <translation>Opacity when hi&amp;dden:</translation>
+    </message>
+    <message id="StyleMinAlphaTip">
+        <source>How much of it remains while it is hidden: 0 % is nothing</source>
+        <translation>How much of it remains while it is hidden: 0 % is nothing</translation>
+    </message>
+    <message id="StyleMaxAlpha">
+        <source>Opacit&amp;y when shown:</source>
+        <translation>Opacit&amp;y when shown:</translation>
+    </message>
+    <message id="StyleMaxAlphaTip">
+        <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
+        <translation>How opaque it is while it is shown: below 100 % the picture shows through</translation>
+    </message>
+    <message id="StyleSeconds">
+        <source>%@ s</source>
+        <translation>%@ s</translation>
+    </message>
+    <message id="StylePercent">
+        <source>%@ %</source>
+        <translation>%@ %</translation>
+    </message>
+    <message id="StyleSample">
+        <source>Sample</source>
+        <translation>Sample</translation>
+    </message>
+    <message id="StyleSampleTip">
+        <source>What it looks like over a light and a dark picture</source>
+        <translation>What it looks like over a light and a dark picture</translation>
+    </message>
+    <message id="StyleSampleSubtitle">
+        <source>What an evening!</source>
+        <translation>What an evening!</translation>
+    </message>
+    <message id="StyleSampleFeedback">
+        <source>Volume: 80 %</source>
+        <translation>Volume: 80 %</translation>
+    </message>
+</context>
 </TS>
