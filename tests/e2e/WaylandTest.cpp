@@ -37,6 +37,33 @@ protected:
         probe.movePointer(screenWidth / 2, screenHeight / 2);
         startOn("wayland-test", arguments);
         ASSERT_TRUE(frameBecomes(0));
+        // The compositor's pointer begins in the corner, wherever the screen's is, and follows its moves: in that
+        // corner the two come together. The menu bar tells that they did.
+        probe.movePointer(1, 1);
+        probe.movePointer(0, 0);
+        ASSERT_TRUE(becomes(1200, 8, true)) << "no pointer";
+        probe.movePointer(600, 200);
+        ASSERT_TRUE(becomes(1200, 8, false)) << "the menu bar stays";
+    }
+
+    bool becomes(int x, int y, bool covered) {
+        return probe.waitForPixel(x, y, [&](const Color& seen) { return seen.isNear(red) != covered; });
+    }
+
+    // The compositor draws the pointer into its screen.
+    bool pointerBecomes(int x, int y, const Color& background, bool shown) {
+        return waitUntil([&] {
+            const Picture around = probe.picture({x, y, 16, 16});
+            return (around.extentWhere([&](const Color& seen) { return !seen.isNear(background); }).width > 0) == shown;
+        });
+    }
+
+    // Every key is the menu's: none reached the player's own commands.
+    testing::AssertionResult gotNoKey() {
+        for (const std::string& line : player->errorLines())
+            if (line.find("Key: 0x") != std::string::npos)
+                return testing::AssertionFailure() << "the player took a key: " << line;
+        return testing::AssertionSuccess() << "no key";
     }
 
     std::unique_ptr<ChildProcess> compositor;
@@ -52,6 +79,48 @@ TEST_F(Wayland, fills_the_screen_and_takes_keys) {
     ASSERT_TRUE(frameBecomes(299)) << "ten seconds on";
     probe.tap(XK_Next);
     ASSERT_TRUE(colorBecomes(green));
+    probe.movePointer(300, 150);
+    EXPECT_TRUE(pointerBecomes(300, 150, green, true));
+    EXPECT_TRUE(pointerBecomes(300, 150, green, false)) << "the pointer stays";
+    probe.movePointer(500, 150);
+    EXPECT_TRUE(pointerBecomes(500, 150, green, true));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Wayland, keys_belong_to_the_menu_that_is_open) {
+    startStanding({numbered("red.mp4", red, 300)});
+    probe.click(300, 120, 3);
+    ASSERT_TRUE(becomes(320, 140, true)) << "no menu opened";
+    // Faster than the program answers, to the submenu of the first item and away from it, then from the menu.
+    for (const KeySym key : std::vector<KeySym>{XK_m, XK_Down, XK_Right, XK_Escape, XK_Escape})
+        probe.tap(key);
+    ASSERT_TRUE(becomes(320, 140, false)) << "the menu stays";
+    EXPECT_TRUE(gotNoKey());
+
+    // A click elsewhere closes it, and does nothing to the movie.
+    probe.click(300, 120, 3);
+    ASSERT_TRUE(becomes(320, 140, true)) << "no menu opened again";
+    probe.click(900, 600);
+    probe.click(900, 600);
+    ASSERT_TRUE(becomes(320, 140, false)) << "the menu stays at a click elsewhere";
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Wayland, the_menu_bar_comes_while_the_pointer_is_at_the_top) {
+    startStanding({numbered("red.mp4", red, 300)});
+    for (int round = 0; round < 3; ++round) {
+        probe.movePointer(640, 200);
+        probe.movePointer(640, 0);
+        ASSERT_TRUE(becomes(1200, 8, true)) << "no menu bar";
+        probe.click(20, 8);
+        ASSERT_TRUE(becomes(20, 40, true)) << "its menu does not open";
+        probe.tap(XK_Escape);
+        ASSERT_TRUE(becomes(20, 40, false)) << "its menu stays";
+        EXPECT_TRUE(gotNoKey());
+        probe.movePointer(640, 200);
+        ASSERT_TRUE(becomes(1200, 8, false)) << "the menu bar stays";
+    }
     ASSERT_TRUE(quitsCleanly());
 }
 

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QWindow>
 
 namespace platform {
@@ -16,6 +17,8 @@ namespace {
 
 /// The pointer within so many points of the top edge brings the bar.
 constexpr int barReach = 2;
+/// A mask that the bar has no part in.
+constexpr QRect nothingOfBar(-2, -2, 1, 1);
 
 MenuItem* itemWithShortcut(Menu& menu, const QKeySequence& keys) {
     for (int i = 0; i < menu.count(); ++i) {
@@ -28,6 +31,22 @@ MenuItem* itemWithShortcut(Menu& menu, const QKeySequence& keys) {
         }
     }
     return nullptr;
+}
+
+/// Whether the compositor places windows, in answer to presses that it checks.
+bool isWayland() {
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+/// Places the widget's window above the other. A popup that takes the pointer and the keyboard for itself must name, on
+/// Wayland, the user's last press, and is dismissed when another one came meanwhile: as a fast user and a busy machine
+/// have it. There a plain popup is asked for, which nobody dismisses, and the keyboard stays with the window.
+void standAbove(QWidget& widget, QWindow* parent) {
+    widget.winId();
+    QWindow& window = *widget.windowHandle();
+    window.setTransientParent(parent);
+    if (isWayland())
+        window.setFlags((window.flags() & ~Qt::WindowType_Mask) | Qt::ToolTip);
 }
 
 } // namespace
@@ -51,7 +70,10 @@ void QtMenus::fill(QMenu& menu, Menu& model) {
         if (item.submenu) {
             QMenu* submenu = menu.addMenu(item.title);
             Menu* shown = item.submenu.get();
-            QObject::connect(submenu, &QMenu::aboutToShow, submenu, [this, submenu, shown] { fill(*submenu, *shown); });
+            QObject::connect(submenu, &QMenu::aboutToShow, submenu, [this, &menu, submenu, shown] {
+                fill(*submenu, *shown);
+                standAbove(*submenu, menu.windowHandle());
+            });
             submenu->addSeparator(); // an empty menu would not open
             continue;
         }
@@ -81,25 +103,24 @@ MenuItem QtMenus::copyOf(const MenuItem& item) {
 void QtMenus::popUp(QPoint globalPosition) {
     _contextMenu = std::make_unique<QMenu>();
     fill(*_contextMenu, _menu);
-    standAboveWindow(*_contextMenu);
+    standAbove(*_contextMenu, &_window);
     _contextMenu->popup(globalPosition);
-}
-
-void QtMenus::standAboveWindow(QMenu& menu) {
-    menu.winId();
-    menu.windowHandle()->setTransientParent(&_window);
 }
 
 bool QtMenus::isBarShown() const {
     return _bar && _bar->isVisible();
 }
 
-void QtMenus::pointerMoved(QPoint position) {
-    if (position.y() <= barReach) {
+bool QtMenus::pointerMoved(const QMouseEvent& event) {
+    if (passToBar(event) || isMenuOpen())
+        return true;
+    const double y = event.position().y();
+    if (y <= barReach) {
         showBar();
-    } else if (isBarShown() && position.y() > _bar->height() && !_bar->activeAction()) {
+    } else if (isBarShown() && y > _bar->height()) {
         hideBar();
     }
+    return false;
 }
 
 void QtMenus::showBar() {
@@ -114,7 +135,7 @@ void QtMenus::showBar() {
                 continue;
             // Not the bar's children: they would stand above the bar's own window, which is none on the desktop.
             QMenu* menu = _barMenus.emplace_back(std::make_unique<QMenu>(item.title)).get();
-            standAboveWindow(*menu);
+            standAbove(*menu, &_window);
             _bar->addMenu(menu);
             Menu* model = item.submenu.get();
             QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu, model] { fill(*menu, *model); });
@@ -125,11 +146,51 @@ void QtMenus::showBar() {
         _bar->windowHandle()->setParent(&_window);
     }
     _bar->setGeometry(0, 0, _window.width(), _bar->sizeHint().height());
+    if (isWayland())
+        _bar->windowHandle()->setMask(nothingOfBar); // what of it has the pointer: an empty region would be all
     _bar->show();
 }
 
 void QtMenus::hideBar() {
+    // After Escape one of its titles stays marked, for the arrow keys.
+    QFocusEvent left(QEvent::FocusOut);
+    QCoreApplication::sendEvent(_bar.get(), &left);
     _bar->hide();
+}
+
+bool QtMenus::hasWindowsPointer() const {
+    return isWayland() && isBarShown();
+}
+
+bool QtMenus::isMenuOpen() const {
+    return QApplication::activePopupWidget();
+}
+
+bool QtMenus::passToBar(const QMouseEvent& event) {
+    if (!hasWindowsPointer() || event.position().y() >= _bar->height())
+        return false;
+    // The bar starts in the window's corner.
+    QMouseEvent passed(event.type(), event.position(), event.globalPosition(), event.button(), event.buttons(),
+                       event.modifiers());
+    QCoreApplication::sendEvent(_bar.get(), &passed);
+    return true;
+}
+
+bool QtMenus::pressed(const QMouseEvent& event) {
+    _tookPreviousPress = _tookPress;
+    _tookPress = passToBar(event);
+    if (_tookPress || !isMenuOpen())
+        return _tookPress;
+    while (QWidget* menu = QApplication::activePopupWidget())
+        if (!menu->close())
+            break;
+    return _tookPress = true;
+}
+
+bool QtMenus::released(const QMouseEvent& event) {
+    if (_tookPress)
+        passToBar(event);
+    return _tookPress;
 }
 
 bool QtMenus::passToOpenMenu(QKeyEvent& event) {

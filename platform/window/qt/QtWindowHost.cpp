@@ -194,6 +194,8 @@ void QtWindowHost::makeKeyAndOrderFront() {
 }
 
 void QtWindowHost::setPointerHidden(bool hidden) {
+    if (_menus && _menus->hasWindowsPointer())
+        hidden = false;
     if (hidden == _pointerHidden)
         return;
     _pointerHidden = hidden;
@@ -407,6 +409,8 @@ MouseEvent QtWindowHost::mouseEvent(const QMouseEvent& event) {
 
 void QtWindowHost::mousePressEvent(QMouseEvent* event) {
     setPointerHidden(false);
+    if (_menus && _menus->pressed(*event))
+        return;
     const MouseEvent translated = mouseEvent(*event);
     if (translated.button == MouseButton::right && _menus) {
         // The menu is told of their releases.
@@ -418,11 +422,14 @@ void QtWindowHost::mousePressEvent(QMouseEvent* event) {
 }
 
 void QtWindowHost::mouseDoubleClickEvent(QMouseEvent* event) {
-    _root.dispatchMouseDown(mouseEvent(*event));
+    if (!_menus || !_menus->tookDoubleClick())
+        _root.dispatchMouseDown(mouseEvent(*event));
 }
 
 void QtWindowHost::wheelEvent(QWheelEvent* event) {
     setPointerHidden(false);
+    if (_menus && _menus->isMenuOpen())
+        return;
     constexpr int step = QWheelEvent::DefaultDeltasPerStep;
     _wheelTurned += event->angleDelta().y();
     if (const int steps = _wheelTurned / step) {
@@ -432,13 +439,15 @@ void QtWindowHost::wheelEvent(QWheelEvent* event) {
 }
 
 void QtWindowHost::mouseReleaseEvent(QMouseEvent* event) {
+    if (_menus && _menus->released(*event))
+        return;
     _root.dispatchMouseUp(mouseEvent(*event));
 }
 
 void QtWindowHost::mouseMoveEvent(QMouseEvent* event) {
     setPointerHidden(false);
-    if (_menus)
-        _menus->pointerMoved(event->position().toPoint());
+    if (_menus && _menus->pointerMoved(*event))
+        return;
     const MouseEvent translated = mouseEvent(*event);
     if (event->buttons() & Qt::LeftButton)
         _root.dispatchMouseDragged(translated);
