@@ -49,8 +49,10 @@ protected:
     /// A second launch, which waits for its answer while this one runs its event loop.
     bool handOver(const HandOver& message) {
         auto launch = std::async(std::launch::async, [&] { return SingleInstance(path).handOver(message); });
+        const std::size_t before = received.size();
         waitFor([&] { return launch.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
-        return launch.get();
+        // The answer may come before the main thread has the message.
+        return launch.get() && waitFor([&] { return received.size() > before; });
     }
     /// A connection to the socket that says the bytes and waits.
     int connected(const QByteArray& bytes) const {
