@@ -105,6 +105,7 @@ platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const p
 
 int play(int& count, char** arguments, const CommandLine& line) {
     platform::SingleInstance instance(platform::SingleInstance::defaultSocketPath());
+    const bool wasTaken = instance.isTaken();
     if (const auto status = giveTo(instance, line))
         return *status;
     std::optional<platform::DisplayServer> display(std::in_place);
@@ -151,7 +152,11 @@ int play(int& count, char** arguments, const CommandLine& line) {
             desktop.setAssumedModifiers(0);
             host.makeKeyAndOrderFront();
         };
-        instance.listen(take);
+        // One that was started at the same moment may be ahead by now. Whoever was there before has been asked.
+        if (!instance.listen(take) && !wasTaken) {
+            if (const auto given = giveTo(instance, line))
+                return *given;
+        }
         // What a killed player unpacked may be large.
         platform::background::run([] { platform::PrivateFolder::sweep(); });
         if (!files.files.isEmpty())

@@ -3,9 +3,12 @@
 
 #include <signal.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <memory>
 #include <string>
+#include <vector>
 
 using namespace harness;
 
@@ -117,6 +120,25 @@ TEST_F(Player, automatic_quit_ends_the_program_after_the_list) {
     start({"--set", "QVPlaylistAutoQuit=1", numbered("short1.mp4", red, 25)});
     EXPECT_EQ(player->waitForExit(), 0);
     EXPECT_TRUE(logs("Playlist finished. Looping is Off. AutoQuit is ON. Terminating app."));
+}
+
+TEST_F(Player, of_players_that_are_started_at_once_one_stays) {
+    const std::string movie = numbered("1.mp4", red, 300);
+    std::vector<std::unique_ptr<LumaroProcess>> all;
+    for (int i = 0; i < 3; ++i)
+        all.push_back(startAnother({movie}));
+    const auto isRunning = [](const auto& one) { return one->isRunning(); };
+    EXPECT_TRUE(waitUntil([&] { return std::ranges::count_if(all, isRunning) == 1; }));
+    const auto stays = std::ranges::find_if(all, isRunning);
+    ASSERT_NE(stays, all.end());
+    player = std::move(*stays);
+    all.erase(stays);
+    for (const auto& one : all) {
+        EXPECT_EQ(one->waitForExit(), 0) << one->errorOutput();
+        EXPECT_TRUE(one->faults().empty()) << one->errorOutput();
+    }
+    ASSERT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(quitsCleanly());
 }
 
 TEST_F(Player, a_second_launch_hands_its_files_over) {

@@ -167,6 +167,7 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> receive) {
                        .arg(_path, QString::fromLocal8Bit(std::strerror(errno))));
         if (socket >= 0)
             ::close(socket);
+        ::close(std::exchange(_lock, -1)); // nobody is to ask here
         return false;
     }
     _listener = std::make_unique<HandOverListener>(socket, std::move(receive));
