@@ -183,4 +183,7 @@ TEST(EncodingDetection, files_of_old_and_other_machines_are_read_right) {
             EXPECT_TRUE(readAutomatically(file.bytes) == file.text) << language << ' ' << encoding;
         }
     }
+    // Two encodings have the same letters; only the usual one has these quotation marks.
+    const QString baltic = QStringLiteral("„Labas rytas“, – tarė jis, – kaip gyvuoji, šaunuoli?\nAš… nežinau.\n");
+    EXPECT_EQ(readAutomatically(encoded(baltic, windows1257)), baltic);
 }
