@@ -83,8 +83,14 @@ void HandOverListener::run() {
 
 void HandOverListener::acceptClient() {
     const int socket = ::accept4(_socket, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-    if (socket < 0)
+    if (socket < 0) {
+        // Without a free descriptor the caller goes on waiting, and would be told of again at once.
+        constexpr int pauseInMilliseconds = 50;
+        pollfd wake{_wake, POLLIN, 0};
+        if (errno == EMFILE || errno == ENFILE || errno == ENOMEM || errno == ENOBUFS)
+            ::poll(&wake, 1, pauseInMilliseconds);
         return;
+    }
     // A caller that never says anything must not keep others out.
     if (_clients.size() >= maximumClients)
         _clients.erase(_clients.begin());
