@@ -11,6 +11,8 @@
 #include "platform/window/SceneComposer.h"
 #include "platform/window/SceneGeometry.h"
 #include "platform/window/VideoLayer.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "tests/support/TestEnvironment.h"
@@ -72,6 +74,24 @@ void aNewSubtitleFromTextToComposed(benchmark::State& state) {
     }
 }
 BENCHMARK(aNewSubtitleFromTextToComposed)->ArgName("height")->Arg(1080)->Arg(2160)->Unit(benchmark::kMicrosecond);
+
+/// What a slider of the preferences costs the movie under it, with each step: the setting written, announced, read, and
+/// the subtitle drawn anew.
+void aSubtitleRestyledByADraggedSlider(benchmark::State& state) {
+    Scene scene(state.range(0));
+    QVTextOverlay overlay(scene.settings.environment, scene.root, kQVSubtitlesOverlayStyle);
+    overlay.setTextFontSize(45);
+    scene.show(overlay, subtitle(0));
+    auto style =
+        QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(scene.settings.defaults(), kQVSubtitlesOverlayStyle);
+    int step = 0;
+    for ([[maybe_unused]] const auto dragged : state) {
+        style->set(&OverlayStyle::shadowBlurRadius, static_cast<float>(++step % 40) * 0.5F);
+        scene.settings.notifications.post(QVPreferencesChangedNotification{kQVSubtitlesOverlayStyle, {kShadowRadius}});
+        scene.compose(scene.place(overlay));
+    }
+}
+BENCHMARK(aSubtitleRestyledByADraggedSlider)->ArgName("height")->Arg(1080)->Arg(2160)->Unit(benchmark::kMicrosecond);
 
 void tenThousandCharactersFromTextToComposed(benchmark::State& state) {
     Scene scene(state.range(0));

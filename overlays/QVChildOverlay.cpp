@@ -114,6 +114,14 @@ void QVChildOverlay::setFrame(const platform::Rect& frame) {
     _content.setFrame(contentView().bounds());
 }
 
+bool QVChildOverlay::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key == kQVOverlayDefaultPadding) { // of no style: every child overlay follows it
+        setPadding(environment().settings.floatForKey(kQVOverlayDefaultPadding));
+        return false;
+    }
+    return QVStyledOverlay::preferencesChanged(notification);
+}
+
 bool QVChildOverlay::takeStyle(const QString& key, const OverlayStyle& style) {
     using Overlay = QVChildOverlay;
     static const StyleTable<Overlay> table{

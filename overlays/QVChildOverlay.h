@@ -47,6 +47,8 @@ public:
 
     void setFrame(const platform::Rect& frame) override;
 
+    bool preferencesChanged(const QVPreferencesChangedNotification& notification) override;
+
 protected:
     const char* logName() const override { return "QVChildOverlay"; }
     bool takeStyle(const QString& key, const OverlayStyle& style) override;

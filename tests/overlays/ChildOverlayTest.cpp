@@ -89,6 +89,11 @@ TEST(QVChildOverlay, what_changes_the_margin_lays_it_out_again) {
     EXPECT_EQ(box.frame().size(), QSizeF(100, 20));
     box.setPadding(5);
     EXPECT_EQ(box.frame().origin(), QPointF(5, 5));
+    rig.settings.defaults().setFloat(30, kQVOverlayDefaultPadding);
+    rig.settings.notifications.post(QVPreferencesChangedNotification{kQVOverlayDefaultPadding});
+    EXPECT_EQ(box.frame().origin(), QPointF(30, 30)) << "every overlay follows the setting";
+    EXPECT_FALSE(box.preferencesChanged({kQVOverlayDefaultPadding, {}})) << "others follow it, too";
+    box.setPadding(5);
     rig.change(kAlignment, 0x101);
     EXPECT_EQ(box.frame(), platform::Rect(5, (768 - 20) / 2.0, 100, 20));
 }
