@@ -23,6 +23,7 @@ protected:
                              "--height=" + std::to_string(screenHeight),
                              "--socket=wayland-test",
                              "--no-config",
+                             "--output-count=" + std::to_string(outputs()),
                              "--idle-time=0"};
         options.environment = {{"DISPLAY", server.display()}, {"XDG_RUNTIME_DIR", user.runtimeFolder().string()}};
         compositor = std::make_unique<ChildProcess>(options);
@@ -30,6 +31,8 @@ protected:
             << compositor->errorOutput();
         ASSERT_TRUE(waitUntil([&] { return probe.hasVisibleWindow(); }));
     }
+
+    virtual int outputs() const { return 1; }
 
     void startStanding(const std::vector<std::string>& movies) {
         std::vector<std::string> arguments = {"--set", "QVPlaylistAutoPlay=0"};
@@ -67,6 +70,17 @@ protected:
     }
 
     std::unique_ptr<ChildProcess> compositor;
+};
+
+/// The second output's window lies on the first one's: it is the one seen.
+class TwoWaylandOutputs : public Wayland {
+protected:
+    int outputs() const override { return 2; }
+
+    // A movie that fades is darker, the desktop is grey.
+    bool desktopIsSeen() {
+        return probe.waitForPixel(900, 500, [&](const Color& seen) { return seen.green > 60 && seen.blue > 60; });
+    }
 };
 
 } // namespace
@@ -121,6 +135,18 @@ TEST_F(Wayland, the_menu_bar_comes_while_the_pointer_is_at_the_top) {
         probe.movePointer(640, 200);
         ASSERT_TRUE(becomes(1200, 8, false)) << "the menu bar stays";
     }
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(TwoWaylandOutputs, the_movie_fills_the_one_chosen_and_moves_to_the_other) {
+    startOn("wayland-test",
+            {"--set", "QVMainWindowScreen=1", "--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    probe.tap(XK_Tab);
+    EXPECT_TRUE(desktopIsSeen());
+    probe.tap(XK_Tab);
+    EXPECT_TRUE(frameBecomes(0));
+    EXPECT_TRUE(colorBecomes(red));
     ASSERT_TRUE(quitsCleanly());
 }
 

@@ -2,6 +2,7 @@
 #include "platform/window/qt/QtMenus.h"
 
 #include "platform/window/Menu.h"
+#include "platform/window/qt/WindowSystem.h"
 
 #include <QAction>
 #include <QApplication>
@@ -31,11 +32,6 @@ MenuItem* itemWithShortcut(Menu& menu, const QKeySequence& keys) {
         }
     }
     return nullptr;
-}
-
-/// Whether the compositor places windows, in answer to presses that it checks.
-bool isWayland() {
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 /// Places the widget's window above the other. A popup that takes the pointer and the keyboard for itself must name, on
@@ -159,7 +155,7 @@ void QtMenus::hideBar() {
 }
 
 bool QtMenus::hasWindowsPointer() const {
-    return isWayland() && isBarShown();
+    return isWayland() && (isBarShown() || isMenuOpen());
 }
 
 bool QtMenus::isMenuOpen() const {
@@ -167,7 +163,7 @@ bool QtMenus::isMenuOpen() const {
 }
 
 bool QtMenus::passToBar(const QMouseEvent& event) {
-    if (!hasWindowsPointer() || event.position().y() >= _bar->height())
+    if (!isWayland() || !isBarShown() || event.position().y() >= _bar->height())
         return false;
     // The bar starts in the window's corner.
     QMouseEvent passed(event.type(), event.position(), event.globalPosition(), event.button(), event.buttons(),

@@ -37,7 +37,7 @@ public:
     /// Performs the enabled item with the shortcut; true when there is one. Automatic repeats of a held key are taken
     /// without effect.
     bool performShortcut(const QKeySequence& keys, bool isRepeat);
-    /// Whether the window's pointer is at the menu bar, so that it must be seen.
+    /// Whether the window's pointer is for the menu bar or an open menu, so that it must be seen.
     bool hasWindowsPointer() const;
     /// Whether a menu, or another popup of the program, is open.
     bool isMenuOpen() const;

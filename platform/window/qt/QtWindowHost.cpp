@@ -7,6 +7,7 @@
 #include "platform/window/Window.h"
 #include "platform/window/qt/QtEvents.h"
 #include "platform/window/qt/QtMenus.h"
+#include "platform/window/qt/WindowSystem.h"
 
 #include <QBackingStore>
 #include <QCoreApplication>
@@ -136,10 +137,16 @@ void QtWindowHost::placeOnScreen() {
     for (QScreen* candidate : QGuiApplication::screens()) {
         if (candidate->geometry() != frame)
             continue;
-        // A whole screen is asked for as such: panels and docks then lie below.
+        // A whole screen is asked for as such: panels and docks then lie below. Wayland is told which screen when a
+        // window appears, not while it fills another one.
+        const bool appearsAnew = isWayland() && isVisible() && screen() != candidate;
+        if (appearsAnew)
+            setVisible(false);
         setScreen(candidate);
         setWindowStates(Qt::WindowFullScreen);
         setGeometry(frame);
+        if (appearsAnew)
+            setVisible(true);
         return;
     }
     setWindowStates(Qt::WindowNoState);
@@ -446,8 +453,10 @@ void QtWindowHost::mouseReleaseEvent(QMouseEvent* event) {
 
 void QtWindowHost::mouseMoveEvent(QMouseEvent* event) {
     setPointerHidden(false);
-    if (_menus && _menus->pointerMoved(*event))
+    if (_menus && _menus->pointerMoved(*event)) {
+        _root.dispatchMouseLeft();
         return;
+    }
     const MouseEvent translated = mouseEvent(*event);
     if (event->buttons() & Qt::LeftButton)
         _root.dispatchMouseDragged(translated);
