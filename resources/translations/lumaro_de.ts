@@ -1297,22 +1297,6 @@
         <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
         <translation>Wie deckend es gezeigt wird: unter 100 % scheint das Bild durch</translation>
     </message>
-    <message id="StyleTabSubtitles">
-        <source>Subtitles</source>
-        <translation>Untertitel</translation>
-    </message>
-    <message id="StyleTabFeedback">
-        <source>Feedback</source>
-        <translation>Meldungen</translation>
-    </message>
-    <message id="StyleTabOSD">
-        <source>On-screen display</source>
-        <translation>Anzeige im Bild</translation>
-    </message>
-    <message id="StyleTabWindow">
-        <source>Window</source>
-        <translation>Fenster</translation>
-    </message>
     <message id="StyleSeconds">
         <source>%@ s</source>
         <translation>%@ s</translation>

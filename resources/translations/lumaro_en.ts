@@ -1297,22 +1297,6 @@
         <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
         <translation>How opaque it is while it is shown: below 100 % the picture shows through</translation>
     </message>
-    <message id="StyleTabSubtitles">
-        <source>Subtitles</source>
-        <translation>Subtitles</translation>
-    </message>
-    <message id="StyleTabFeedback">
-        <source>Feedback</source>
-        <translation>Feedback</translation>
-    </message>
-    <message id="StyleTabOSD">
-        <source>On-screen display</source>
-        <translation>On-screen display</translation>
-    </message>
-    <message id="StyleTabWindow">
-        <source>Window</source>
-        <translation>Window</translation>
-    </message>
     <message id="StyleSeconds">
         <source>%@ s</source>
         <translation>%@ s</translation>

@@ -3,7 +3,6 @@
 #include "prefs/ColorWell.h"
 #include "prefs/FloatSlider.h"
 #include "prefs/QVOverlayStyleController.h"
-#include "prefs/StyleSections.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Posts.h"
@@ -391,32 +390,4 @@ TEST_F(OverlayStyleSection, the_sample_follows_the_style_at_once) {
         expectChange("opacity", [&] { drag("maxAlpha", 0.5); });
         EXPECT_EQ(picture(), before) << "nothing else moves it";
     }
-}
-
-TEST(StyleSections, each_style_has_a_tab_and_the_smallest_size_reaches_them_all) {
-    TestEnvironment settings;
-    settings.defaults().setBool(false, kQVDisplayFeedback);
-    StyleSections sections(settings.environment);
-    const auto announce = [&](const QString& key) {
-        settings.notifications.post(QVPreferencesChangedNotification{key});
-    };
-    const auto isEnabled = [&](const QString& key) {
-        return sections.findChild<QWidget*>(key)->findChild<QWidget*>("textColor")->isEnabled();
-    };
-    ASSERT_EQ(sections.count(), 4);
-    EXPECT_FALSE(isEnabled(kQVFeedbackOverlayStyle)) << "none is shown";
-    EXPECT_TRUE(isEnabled(kQVOSDOverlayStyle));
-    settings.defaults().setBool(true, kQVDisplayFeedback);
-    announce(kQVDisplayFeedback);
-    EXPECT_TRUE(isEnabled(kQVFeedbackOverlayStyle));
-    settings.defaults().setBool(false, kQVDisplayFeedback);
-    sections.syncWithModel();
-    EXPECT_FALSE(isEnabled(kQVFeedbackOverlayStyle));
-
-    settings.defaults().setInteger(60, kQVOverlayTextFontSizeMin);
-    announce(kQVOverlayTextFontSizeMin);
-    for (const QString& key : {kQVSubtitlesOverlayStyle, kQVFeedbackOverlayStyle, kQVOSDOverlayStyle})
-        EXPECT_EQ(QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(settings.defaults(), key)->values().textFontSize,
-                  60)
-            << key.toStdString();
 }
