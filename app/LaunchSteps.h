@@ -18,4 +18,7 @@ public:
     virtual void runHelpPanel() {}
     /// Shows the panel of the whole playlist until it is closed.
     virtual void runPlaylistPanel() {}
+    /// Shows the preferences, or brings them to the front. They stay until the user closes them, or closePreferences().
+    virtual void showPreferences() {}
+    virtual void closePreferences() {}
 };

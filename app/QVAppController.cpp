@@ -240,6 +240,11 @@ void QVAppController::showPlaylist() {
     _with.steps.runPlaylistPanel();
 }
 
+void QVAppController::showPreferences() {
+    trace("%@: Launching Preferences panel ...", className);
+    _with.steps.showPreferences();
+}
+
 void QVAppController::cycleDisplays(std::int32_t direction) {
     _with.display.cycleDisplays(direction);
 }
@@ -254,6 +259,7 @@ void QVAppController::preferencesChanged(const QVPreferencesChangedNotification&
 platform::ApplicationDelegate::TerminateReply QVAppController::applicationShouldTerminate() {
     const TraceScope scope("-[QVAppController applicationShouldTerminate:]");
     keepForNextLaunch();
+    _with.steps.closePreferences();
     if (_with.view.isPlaying())
         _with.view.stop();
     _with.window.setTerminating(true);

@@ -90,6 +90,7 @@ public:
     void doOpen() override;
     void showHelp() override;
     void showPlaylist() override;
+    void showPreferences() override;
     void cycleDisplays(std::int32_t direction) override;
 
 private:

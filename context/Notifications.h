@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+
 #include <memory>
 #include <vector>
 
@@ -39,6 +41,15 @@ struct QVMovieVolumeChangedNotification {
 /// An add kept at least one movie, or entries were moved or removed by hand.
 struct QVPlaylistChangedNotification {
     std::vector<std::shared_ptr<QVMovie>> movies;
+};
+
+/// The marks of QVVersionCheckNotification.
+inline const QString kQVVersionCheckBegin = QStringLiteral("QVVersionCheckBeginNotification");
+inline const QString kQVVersionCheckEnd = QStringLiteral("QVVersionCheckEndNotification");
+
+/// A check for a new version starts, or has ended.
+struct QVVersionCheckNotification {
+    QString mark;
 };
 
 /// Posted by the playlist each time a position is set, with the movie that is now the current one.

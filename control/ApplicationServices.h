@@ -18,6 +18,8 @@ public:
     virtual void showHelp() = 0;
     /// Shows the panel of the whole playlist until it is closed.
     virtual void showPlaylist() = 0;
+    /// Shows the preferences, which stay open beside the movie.
+    virtual void showPreferences() = 0;
     /// Moves the on-screen display to its next (+1) or previous (-1) type, around.
     virtual void cycleDisplays(std::int32_t direction) = 0;
     /// The main window became key, or no longer is.

@@ -104,6 +104,7 @@ private:
     void doOpen(std::int32_t, Feedback feedback);
     void showHelp(std::int32_t, Feedback feedback);
     void showPlaylist(std::int32_t, Feedback feedback);
+    void showPreferences(std::int32_t, Feedback feedback);
     void quit(std::int32_t, Feedback feedback);
     void sleep(std::int32_t, Feedback feedback);
 

@@ -240,6 +240,10 @@ void QVMovieController::showPlaylist(std::int32_t, Feedback) {
     _with.application.showPlaylist();
 }
 
+void QVMovieController::showPreferences(std::int32_t, Feedback) {
+    _with.application.showPreferences();
+}
+
 void QVMovieController::quit(std::int32_t, Feedback feedback) {
     performLater(feedback == Feedback::yes ? _with.feedback.readingTime() : 0.0, [this] { _with.desktop.terminate(); });
 }

@@ -19,10 +19,12 @@
 #include "platform/desktop/qt/QtDesktop.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
+#include "prefs/QVPreferencesController.h"
 #include "settings/Tracing.h"
 
 #include <QFileInfo>
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -78,6 +80,9 @@ platform::Renderer chosenRenderer(const CommandLine& line) {
 
 class Steps final : public LaunchSteps {
 public:
+    explicit Steps(platform::Desktop& desktop)
+        : _desktop(desktop) {}
+
     QWindow* window = nullptr;
     QVPlaylistController* playlist = nullptr;
     const Environment* environment = nullptr;
@@ -86,6 +91,20 @@ public:
         if (playlist && environment)
             ::runPlaylistPanel(*environment, *playlist, window);
     }
+    void showPreferences() override {
+        if (!_preferences && environment)
+            _preferences = std::make_unique<QVPreferencesController>(*environment, _desktop);
+        if (_preferences)
+            _preferences->showAbove(window);
+    }
+    void closePreferences() override {
+        if (_preferences)
+            _preferences->close();
+    }
+
+private:
+    platform::Desktop& _desktop;
+    std::unique_ptr<QVPreferencesController> _preferences; // made when they are first asked for
 };
 
 /// Both outlive the services.
@@ -136,7 +155,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
 
     int status = exitSuccess;
     {
-        Steps steps;
+        Steps steps(desktop);
         MainObjects player(run.environment(), {desktop, toolkit, platform::Bundle::main()}, steps);
         platform::QtWindowHost host(player.window(), chosenRenderer(line));
         host.setMainMenu(player.menu().bar(), player.controller());

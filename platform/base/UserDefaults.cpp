@@ -141,7 +141,12 @@ void UserDefaults::scheduleWrite() {
     _changed = true;
     // Not moved by later changes: what changes all the time is written all the same.
     if (!_writeTimer || !_writeTimer->isValid())
-        _writeTimer = RunLoop::main().schedule(writeDelay, false, [this] { synchronize(); });
+        _writeTimer = RunLoop::main().schedule(writeDelay, false, [this] {
+            // The handler may show an alert, whose event loop writes again.
+            const bool isWritten = synchronize();
+            if (const auto handler = _onWriteFailure; handler && !isWritten)
+                handler();
+        });
 }
 
 } // namespace platform

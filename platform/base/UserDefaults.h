@@ -8,7 +8,9 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace platform {
 
@@ -84,6 +86,9 @@ public:
     /// Writes the user's domain out if it changed since. Without it a change is written by itself about a second
     /// after it was made. False when it could not be written; the next change or call tries again.
     bool synchronize();
+    /// Called each time the settings could not be written after a change; null for nobody. Not when they are written on
+    /// request or at the end.
+    void setWriteFailureHandler(std::function<void()> handler) { _onWriteFailure = std::move(handler); }
 
 private:
     void scheduleWrite();
@@ -94,6 +99,7 @@ private:
     QVariantMap _registered;
     std::unique_ptr<Timer> _writeTimer;
     bool _changed = false;
+    std::function<void()> _onWriteFailure;
 };
 
 } // namespace platform

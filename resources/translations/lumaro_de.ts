@@ -786,17 +786,6 @@
     </message>
 </context>
 <context>
-    <name>Preferences</name>
-    <message id="More Encodings">
-        <source>More Encodings</source>
-        <translation>Weitere Kodierungen</translation>
-    </message>
-    <message id="%d sec.">
-        <source>%d sec.</source>
-        <translation>%d Sek.</translation>
-    </message>
-</context>
-<context>
     <name>Text encodings</name>
     <message id="Western (ASCII)">
         <source>Western (ASCII)</source>
@@ -1320,6 +1309,457 @@
     <message id="StyleSampleFeedback">
         <source>Volume: 80 %</source>
         <translation>Lautstärke: 80 %</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="&amp;Movie">
+        <source>&amp;Movie</source>
+        <translation>&amp;Film</translation>
+    </message>
+    <message id="Started Without a File">
+        <source>Started Without a File</source>
+        <translation>Start ohne Datei</translation>
+    </message>
+    <message id="Open &amp;nothing">
+        <source>Open &amp;nothing</source>
+        <translation>&amp;Nichts öffnen</translation>
+    </message>
+    <message id="Lumaro starts with an empty screen">
+        <source>Lumaro starts with an empty screen</source>
+        <translation>Lumaro beginnt mit leerem Bildschirm</translation>
+    </message>
+    <message id="Open the &amp;last playlist">
+        <source>Open the &amp;last playlist</source>
+        <translation>Letzte P&amp;laylist öffnen</translation>
+    </message>
+    <message id="The movies of the last time come back, at the place where they were left">
+        <source>The movies of the last time come back, at the place where they were left</source>
+        <translation>Die Filme vom letzten Mal kommen zurück, an der Stelle, an der sie verlassen wurden</translation>
+    </message>
+    <message id="Ask for &amp;files">
+        <source>Ask for &amp;files</source>
+        <translation>Nach &amp;Dateien fragen</translation>
+    </message>
+    <message id="Lumaro begins with the panel that opens movies">
+        <source>Lumaro begins with the panel that opens movies</source>
+        <translation>Lumaro beginnt mit dem Fenster, das Filme öffnet</translation>
+    </message>
+    <message id="Picture">
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message id="Si&amp;ze:">
+        <source>Si&amp;ze:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message id="How large movies are shown, from now on and at the next start">
+        <source>How large movies are shown, from now on and at the next start</source>
+        <translation>Wie groß Filme gezeigt werden, ab jetzt und beim nächsten Start</translation>
+    </message>
+    <message id="Custom Magnification">
+        <source>Custom Magnification</source>
+        <translation>Eigene Vergrößerung</translation>
+    </message>
+    <message id="&amp;Window:">
+        <source>&amp;Window:</source>
+        <translation>Fens&amp;ter:</translation>
+    </message>
+    <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
+        <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
+        <translation>Ob der Film über den Fenstern anderer Programme bleibt, solange Lumaro die Tastatur hat</translation>
+    </message>
+    <message id="Among other windows">
+        <source>Among other windows</source>
+        <translation>Zwischen anderen Fenstern</translation>
+    </message>
+    <message id="Above other windows">
+        <source>Above other windows</source>
+        <translation>Über anderen Fenstern</translation>
+    </message>
+    <message id="Show the controller &amp;bar">
+        <source>Show the controller &amp;bar</source>
+        <translation>Steuerleiste ze&amp;igen</translation>
+    </message>
+    <message id="The bar with play, time and volume below the picture">
+        <source>The bar with play, time and volume below the picture</source>
+        <translation>Die Leiste mit Wiedergabe, Zeit und Lautstärke unter dem Bild</translation>
+    </message>
+    <message id="Playing">
+        <source>Playing</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message id="&amp;Jump by:">
+        <source>&amp;Jump by:</source>
+        <translation>Sp&amp;rungweite:</translation>
+    </message>
+    <message id="How many seconds a jump goes forward or back">
+        <source>How many seconds a jump goes forward or back</source>
+        <translation>Um wie viele Sekunden ein Sprung vor- oder zurückgeht</translation>
+    </message>
+    <message id="seconds">
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message id="&amp;Keep the volume for the next start">
+        <source>&amp;Keep the volume for the next start</source>
+        <translation>Lautstär&amp;ke für den nächsten Start merken</translation>
+    </message>
+    <message id="Lumaro begins as loud as it ended">
+        <source>Lumaro begins as loud as it ended</source>
+        <translation>Lumaro beginnt so laut, wie es geendet hat</translation>
+    </message>
+    <message id="While Another Program Has the Keyboard">
+        <source>While Another Program Has the Keyboard</source>
+        <translation>Solange ein anderes Programm die Tastatur hat</translation>
+    </message>
+    <message id="Pa&amp;use the movie">
+        <source>Pa&amp;use the movie</source>
+        <translation>Film an&amp;halten</translation>
+    </message>
+    <message id="It goes on when you come back">
+        <source>It goes on when you come back</source>
+        <translation>Er läuft weiter, wenn Sie zurückkommen</translation>
+    </message>
+    <message id="&amp;Hide the window">
+        <source>&amp;Hide the window</source>
+        <translation>Fenster &amp;verbergen</translation>
+    </message>
+    <message id="The window is minimized, and comes back with Lumaro">
+        <source>The window is minimized, and comes back with Lumaro</source>
+        <translation>Das Fenster wird minimiert und kommt mit Lumaro zurück</translation>
+    </message>
+    <message id="&amp;Playlist">
+        <source>&amp;Playlist</source>
+        <translation>&amp;Playlist</translation>
+    </message>
+    <message id="Order">
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message id="As adde&amp;d">
+        <source>As adde&amp;d</source>
+        <translation>Wie hinzu&amp;gefügt</translation>
+    </message>
+    <message id="Movies play in the order in which they were given">
+        <source>Movies play in the order in which they were given</source>
+        <translation>Filme laufen in der Reihenfolge, in der sie gegeben wurden</translation>
+    </message>
+    <message id="Shu&amp;ffled">
+        <source>Shu&amp;ffled</source>
+        <translation>Ge&amp;mischt</translation>
+    </message>
+    <message id="Movies play in an order left to chance">
+        <source>Movies play in an order left to chance</source>
+        <translation>Filme laufen in zufälliger Reihenfolge</translation>
+    </message>
+    <message id="Sor&amp;ted">
+        <source>Sor&amp;ted</source>
+        <translation>Sor&amp;tiert</translation>
+    </message>
+    <message id="Movies play by their names">
+        <source>Movies play by their names</source>
+        <translation>Filme laufen nach ihren Namen</translation>
+    </message>
+    <message id="Compare &amp;numbers by value">
+        <source>Compare &amp;numbers by value</source>
+        <translation>Zah&amp;len nach ihrem Wert vergleichen</translation>
+    </message>
+    <message id="Part 2 comes before part 10">
+        <source>Part 2 comes before part 10</source>
+        <translation>Teil 2 kommt vor Teil 10</translation>
+    </message>
+    <message id="By the &amp;whole path">
+        <source>By the &amp;whole path</source>
+        <translation>Nach dem ganzen Pfa&amp;d</translation>
+    </message>
+    <message id="Folders stay together">
+        <source>Folders stay together</source>
+        <translation>Ordner bleiben zusammen</translation>
+    </message>
+    <message id="By the file name onl&amp;y">
+        <source>By the file name onl&amp;y</source>
+        <translation>Nur nach dem Datei&amp;namen</translation>
+    </message>
+    <message id="Whatever folders the movies lie in">
+        <source>Whatever folders the movies lie in</source>
+        <translation>In welchen Ordnern die Filme auch liegen</translation>
+    </message>
+    <message id="&amp;Looping:">
+        <source>&amp;Looping:</source>
+        <translation>W&amp;iederholung:</translation>
+    </message>
+    <message id="What is repeated, from now on and in new playlists">
+        <source>What is repeated, from now on and in new playlists</source>
+        <translation>Was wiederholt wird, ab jetzt und in neuen Playlists</translation>
+    </message>
+    <message id="&amp;Begin to play what is opened">
+        <source>&amp;Begin to play what is opened</source>
+        <translation>Geöffnetes &amp;abspielen</translation>
+    </message>
+    <message id="Else movies are shown and wait">
+        <source>Else movies are shown and wait</source>
+        <translation>Sonst werden Filme gezeigt und warten</translation>
+    </message>
+    <message id="&amp;Go on with the next movie">
+        <source>&amp;Go on with the next movie</source>
+        <translation>Mit dem nä&amp;chsten Film fortfahren</translation>
+    </message>
+    <message id="When one ends, the next in the list plays">
+        <source>When one ends, the next in the list plays</source>
+        <translation>Endet einer, spielt der nächste der Liste</translation>
+    </message>
+    <message id="&amp;Quit at the end of the list">
+        <source>&amp;Quit at the end of the list</source>
+        <translation>Am Ende der Liste &amp;beenden</translation>
+    </message>
+    <message id="Unless it is repeated">
+        <source>Unless it is repeated</source>
+        <translation>Sofern sie nicht wiederholt wird</translation>
+    </message>
+    <message id="&amp;Subtitles">
+        <source>&amp;Subtitles</source>
+        <translation>&amp;Untertitel</translation>
+    </message>
+    <message id="Showing">
+        <source>Showing</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message id="S&amp;how subtitles">
+        <source>S&amp;how subtitles</source>
+        <translation>Untertitel &amp;anzeigen</translation>
+    </message>
+    <message id="Also for movies opened later">
+        <source>Also for movies opened later</source>
+        <translation>Auch bei Filmen, die später geöffnet werden</translation>
+    </message>
+    <message id="Draw mark&amp;up">
+        <source>Draw mark&amp;up</source>
+        <translation>Auszeich&amp;nungen darstellen</translation>
+    </message>
+    <message id="Italics, colors and places in subtitle files act; else they are left out">
+        <source>Italics, colors and places in subtitle files act; else they are left out</source>
+        <translation>Kursives, Farben und Plätze in Untertiteldateien wirken; sonst werden sie weggelassen</translation>
+    </message>
+    <message id="Files">
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message id="&amp;Encoding:">
+        <source>&amp;Encoding:</source>
+        <translation>&amp;Kodierung:</translation>
+    </message>
+    <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
+        <source>How the letters of subtitle files are stored; Automatic tells it by the file</source>
+        <translation>Wie die Buchstaben von Untertiteldateien gespeichert sind; Automatisch erkennt es an der Datei</translation>
+    </message>
+    <message id="Encoding of subtitle files">
+        <source>Encoding of subtitle files</source>
+        <translation>Kodierung von Untertiteldateien</translation>
+    </message>
+    <message id="Frame ra&amp;te:">
+        <source>Frame ra&amp;te:</source>
+        <translation>&amp;Bildrate:</translation>
+    </message>
+    <message id="For subtitle files that count pictures instead of seconds">
+        <source>For subtitle files that count pictures instead of seconds</source>
+        <translation>Für Untertiteldateien, die Bilder statt Sekunden zählen</translation>
+    </message>
+    <message id="As the movie">
+        <source>As the movie</source>
+        <translation>Wie der Film</translation>
+    </message>
+    <message id="&amp;Find subtitle files beside movies">
+        <source>&amp;Find subtitle files beside movies</source>
+        <translation>Untertitel&amp;dateien neben Filmen suchen</translation>
+    </message>
+    <message id="When a movie is opened">
+        <source>When a movie is opened</source>
+        <translation>Wenn ein Film geöffnet wird</translation>
+    </message>
+    <message id="Repair &amp;damaged subtitle files">
+        <source>Repair &amp;damaged subtitle files</source>
+        <translation>Beschädigte Untertiteldateien &amp;reparieren</translation>
+    </message>
+    <message id="What is damaged is read as far as it can be">
+        <source>What is damaged is read as far as it can be</source>
+        <translation>Beschädigtes wird gelesen, so weit es geht</translation>
+    </message>
+    <message id="Appearance">
+        <source>Appearance</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message id="&amp;Overlays">
+        <source>&amp;Overlays</source>
+        <translation>&amp;Einblendungen</translation>
+    </message>
+    <message id="Smallest &amp;text size:">
+        <source>Smallest &amp;text size:</source>
+        <translation>&amp;Kleinste Schriftgröße:</translation>
+    </message>
+    <message id="No text over the movie is smaller">
+        <source>No text over the movie is smaller</source>
+        <translation>Kein Text über dem Film ist kleiner</translation>
+    </message>
+    <message id="Show &amp;feedback">
+        <source>Show &amp;feedback</source>
+        <translation>&amp;Rückmeldungen anzeigen</translation>
+    </message>
+    <message id="Commands say what they did">
+        <source>Commands say what they did</source>
+        <translation>Befehle sagen, was sie getan haben</translation>
+    </message>
+    <message id="&amp;Keep the display for the next start">
+        <source>&amp;Keep the display for the next start</source>
+        <translation>An&amp;zeige für den nächsten Start merken</translation>
+    </message>
+    <message id="The on-screen display chosen last is shown again">
+        <source>The on-screen display chosen last is shown again</source>
+        <translation>Die zuletzt gewählte Anzeige wird wieder gezeigt</translation>
+    </message>
+    <message id="How texts over the movie and the window look">
+        <source>How texts over the movie and the window look</source>
+        <translation>Wie Texte über dem Film und das Fenster aussehen</translation>
+    </message>
+    <message id="Overlay styles">
+        <source>Overlay styles</source>
+        <translation>Stile der Einblendungen</translation>
+    </message>
+    <message id="&amp;Advanced">
+        <source>&amp;Advanced</source>
+        <translation>Er&amp;weitert</translation>
+    </message>
+    <message id="Pointer">
+        <source>Pointer</source>
+        <translation>Mauszeiger</translation>
+    </message>
+    <message id="&amp;Hide after:">
+        <source>&amp;Hide after:</source>
+        <translation>&amp;Ausblenden nach:</translation>
+    </message>
+    <message id="How long the pointer rests before it is hidden">
+        <source>How long the pointer rests before it is hidden</source>
+        <translation>Wie lange der Mauszeiger ruht, bis er ausgeblendet wird</translation>
+    </message>
+    <message id="New Versions">
+        <source>New Versions</source>
+        <translation>Neue Versionen</translation>
+    </message>
+    <message id="Look for new &amp;versions">
+        <source>Look for new &amp;versions</source>
+        <translation>Nach neuen &amp;Versionen suchen</translation>
+    </message>
+    <message id="When Lumaro starts, as often as is set below">
+        <source>When Lumaro starts, as often as is set below</source>
+        <translation>Beim Start von Lumaro, so oft wie unten eingestellt</translation>
+    </message>
+    <message id="Also for &amp;beta versions">
+        <source>Also for &amp;beta versions</source>
+        <translation>Auch nach &amp;Betaversionen</translation>
+    </message>
+    <message id="Versions that are still being tried">
+        <source>Versions that are still being tried</source>
+        <translation>Versionen, die noch erprobt werden</translation>
+    </message>
+    <message id="Ho&amp;w often:">
+        <source>Ho&amp;w often:</source>
+        <translation>&amp;Häufigkeit:</translation>
+    </message>
+    <message id="How much time passes between two checks">
+        <source>How much time passes between two checks</source>
+        <translation>Wie viel Zeit zwischen zwei Prüfungen vergeht</translation>
+    </message>
+    <message id="At every start">
+        <source>At every start</source>
+        <translation>Bei jedem Start</translation>
+    </message>
+    <message id="Daily">
+        <source>Daily</source>
+        <translation>Täglich</translation>
+    </message>
+    <message id="Weekly">
+        <source>Weekly</source>
+        <translation>Wöchentlich</translation>
+    </message>
+    <message id="Every 30 days">
+        <source>Every 30 days</source>
+        <translation>Alle 30 Tage</translation>
+    </message>
+    <message id="Last check:">
+        <source>Last check:</source>
+        <translation>Letzte Prüfung:</translation>
+    </message>
+    <message id="Result:">
+        <source>Result:</source>
+        <translation>Ergebnis:</translation>
+    </message>
+    <message id="Check &amp;Now">
+        <source>Check &amp;Now</source>
+        <translation>&amp;Jetzt prüfen</translation>
+    </message>
+    <message id="Looks for a new version at once">
+        <source>Looks for a new version at once</source>
+        <translation>Sucht sofort nach einer neuen Version</translation>
+    </message>
+    <message id="Diagnosis">
+        <source>Diagnosis</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message id="&amp;Log what happens">
+        <source>&amp;Log what happens</source>
+        <translation>Ereignisse pr&amp;otokollieren</translation>
+    </message>
+    <message id="Lines for whoever looks for an error, in the system log or the terminal">
+        <source>Lines for whoever looks for an error, in the system log or the terminal</source>
+        <translation>Zeilen für die Fehlersuche, im Systemprotokoll oder Terminal</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="More Encodings">
+        <source>More Encodings</source>
+        <translation>Weitere Kodierungen</translation>
+    </message>
+    <message id="%d sec.">
+        <source>%d sec.</source>
+        <translation>%d Sek.</translation>
+    </message>
+    <message id="Search: %@">
+        <source>Search: %@</source>
+        <translation>Suche: %@</translation>
+    </message>
+    <message id="Type to search">
+        <source>Type to search</source>
+        <translation>Zum Suchen tippen</translation>
+    </message>
+    <message id="Change the preferences">
+        <source>Change the preferences</source>
+        <translation>Einstellungen ändern</translation>
+    </message>
+    <message id="Feedback style">
+        <source>Feedback</source>
+        <translation>Rückmeldungen</translation>
+    </message>
+    <message id="On-screen display style">
+        <source>On-Screen Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message id="Window style">
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message id="SettingsNotSavedMessage">
+        <source>The preferences can’t be saved.</source>
+        <translation>Die Einstellungen können nicht gesichert werden.</translation>
+    </message>
+    <message id="SettingsNotSavedDetails">
+        <source>What you change acts until Lumaro quits. The file “%@” can’t be written.</source>
+        <translation>Was Sie ändern, gilt, bis Lumaro beendet wird. Die Datei „%@“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 </TS>

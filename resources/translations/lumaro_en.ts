@@ -786,17 +786,6 @@
     </message>
 </context>
 <context>
-    <name>Preferences</name>
-    <message id="More Encodings">
-        <source>More Encodings</source>
-        <translation>More Encodings</translation>
-    </message>
-    <message id="%d sec.">
-        <source>%d sec.</source>
-        <translation>%d sec.</translation>
-    </message>
-</context>
-<context>
     <name>Text encodings</name>
     <message id="Western (ASCII)">
         <source>Western (ASCII)</source>
@@ -1320,6 +1309,457 @@
     <message id="StyleSampleFeedback">
         <source>Volume: 80 %</source>
         <translation>Volume: 80 %</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="&amp;Movie">
+        <source>&amp;Movie</source>
+        <translation>&amp;Movie</translation>
+    </message>
+    <message id="Started Without a File">
+        <source>Started Without a File</source>
+        <translation>Started Without a File</translation>
+    </message>
+    <message id="Open &amp;nothing">
+        <source>Open &amp;nothing</source>
+        <translation>Open &amp;nothing</translation>
+    </message>
+    <message id="Lumaro starts with an empty screen">
+        <source>Lumaro starts with an empty screen</source>
+        <translation>Lumaro starts with an empty screen</translation>
+    </message>
+    <message id="Open the &amp;last playlist">
+        <source>Open the &amp;last playlist</source>
+        <translation>Open the &amp;last playlist</translation>
+    </message>
+    <message id="The movies of the last time come back, at the place where they were left">
+        <source>The movies of the last time come back, at the place where they were left</source>
+        <translation>The movies of the last time come back, at the place where they were left</translation>
+    </message>
+    <message id="Ask for &amp;files">
+        <source>Ask for &amp;files</source>
+        <translation>Ask for &amp;files</translation>
+    </message>
+    <message id="Lumaro begins with the panel that opens movies">
+        <source>Lumaro begins with the panel that opens movies</source>
+        <translation>Lumaro begins with the panel that opens movies</translation>
+    </message>
+    <message id="Picture">
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message id="Si&amp;ze:">
+        <source>Si&amp;ze:</source>
+        <translation>Si&amp;ze:</translation>
+    </message>
+    <message id="How large movies are shown, from now on and at the next start">
+        <source>How large movies are shown, from now on and at the next start</source>
+        <translation>How large movies are shown, from now on and at the next start</translation>
+    </message>
+    <message id="Custom Magnification">
+        <source>Custom Magnification</source>
+        <translation>Custom Magnification</translation>
+    </message>
+    <message id="&amp;Window:">
+        <source>&amp;Window:</source>
+        <translation>&amp;Window:</translation>
+    </message>
+    <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
+        <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
+        <translation>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</translation>
+    </message>
+    <message id="Among other windows">
+        <source>Among other windows</source>
+        <translation>Among other windows</translation>
+    </message>
+    <message id="Above other windows">
+        <source>Above other windows</source>
+        <translation>Above other windows</translation>
+    </message>
+    <message id="Show the controller &amp;bar">
+        <source>Show the controller &amp;bar</source>
+        <translation>Show the controller &amp;bar</translation>
+    </message>
+    <message id="The bar with play, time and volume below the picture">
+        <source>The bar with play, time and volume below the picture</source>
+        <translation>The bar with play, time and volume below the picture</translation>
+    </message>
+    <message id="Playing">
+        <source>Playing</source>
+        <translation>Playing</translation>
+    </message>
+    <message id="&amp;Jump by:">
+        <source>&amp;Jump by:</source>
+        <translation>&amp;Jump by:</translation>
+    </message>
+    <message id="How many seconds a jump goes forward or back">
+        <source>How many seconds a jump goes forward or back</source>
+        <translation>How many seconds a jump goes forward or back</translation>
+    </message>
+    <message id="seconds">
+        <source>seconds</source>
+        <translation>seconds</translation>
+    </message>
+    <message id="&amp;Keep the volume for the next start">
+        <source>&amp;Keep the volume for the next start</source>
+        <translation>&amp;Keep the volume for the next start</translation>
+    </message>
+    <message id="Lumaro begins as loud as it ended">
+        <source>Lumaro begins as loud as it ended</source>
+        <translation>Lumaro begins as loud as it ended</translation>
+    </message>
+    <message id="While Another Program Has the Keyboard">
+        <source>While Another Program Has the Keyboard</source>
+        <translation>While Another Program Has the Keyboard</translation>
+    </message>
+    <message id="Pa&amp;use the movie">
+        <source>Pa&amp;use the movie</source>
+        <translation>Pa&amp;use the movie</translation>
+    </message>
+    <message id="It goes on when you come back">
+        <source>It goes on when you come back</source>
+        <translation>It goes on when you come back</translation>
+    </message>
+    <message id="&amp;Hide the window">
+        <source>&amp;Hide the window</source>
+        <translation>&amp;Hide the window</translation>
+    </message>
+    <message id="The window is minimized, and comes back with Lumaro">
+        <source>The window is minimized, and comes back with Lumaro</source>
+        <translation>The window is minimized, and comes back with Lumaro</translation>
+    </message>
+    <message id="&amp;Playlist">
+        <source>&amp;Playlist</source>
+        <translation>&amp;Playlist</translation>
+    </message>
+    <message id="Order">
+        <source>Order</source>
+        <translation>Order</translation>
+    </message>
+    <message id="As adde&amp;d">
+        <source>As adde&amp;d</source>
+        <translation>As adde&amp;d</translation>
+    </message>
+    <message id="Movies play in the order in which they were given">
+        <source>Movies play in the order in which they were given</source>
+        <translation>Movies play in the order in which they were given</translation>
+    </message>
+    <message id="Shu&amp;ffled">
+        <source>Shu&amp;ffled</source>
+        <translation>Shu&amp;ffled</translation>
+    </message>
+    <message id="Movies play in an order left to chance">
+        <source>Movies play in an order left to chance</source>
+        <translation>Movies play in an order left to chance</translation>
+    </message>
+    <message id="Sor&amp;ted">
+        <source>Sor&amp;ted</source>
+        <translation>Sor&amp;ted</translation>
+    </message>
+    <message id="Movies play by their names">
+        <source>Movies play by their names</source>
+        <translation>Movies play by their names</translation>
+    </message>
+    <message id="Compare &amp;numbers by value">
+        <source>Compare &amp;numbers by value</source>
+        <translation>Compare &amp;numbers by value</translation>
+    </message>
+    <message id="Part 2 comes before part 10">
+        <source>Part 2 comes before part 10</source>
+        <translation>Part 2 comes before part 10</translation>
+    </message>
+    <message id="By the &amp;whole path">
+        <source>By the &amp;whole path</source>
+        <translation>By the &amp;whole path</translation>
+    </message>
+    <message id="Folders stay together">
+        <source>Folders stay together</source>
+        <translation>Folders stay together</translation>
+    </message>
+    <message id="By the file name onl&amp;y">
+        <source>By the file name onl&amp;y</source>
+        <translation>By the file name onl&amp;y</translation>
+    </message>
+    <message id="Whatever folders the movies lie in">
+        <source>Whatever folders the movies lie in</source>
+        <translation>Whatever folders the movies lie in</translation>
+    </message>
+    <message id="&amp;Looping:">
+        <source>&amp;Looping:</source>
+        <translation>&amp;Looping:</translation>
+    </message>
+    <message id="What is repeated, from now on and in new playlists">
+        <source>What is repeated, from now on and in new playlists</source>
+        <translation>What is repeated, from now on and in new playlists</translation>
+    </message>
+    <message id="&amp;Begin to play what is opened">
+        <source>&amp;Begin to play what is opened</source>
+        <translation>&amp;Begin to play what is opened</translation>
+    </message>
+    <message id="Else movies are shown and wait">
+        <source>Else movies are shown and wait</source>
+        <translation>Else movies are shown and wait</translation>
+    </message>
+    <message id="&amp;Go on with the next movie">
+        <source>&amp;Go on with the next movie</source>
+        <translation>&amp;Go on with the next movie</translation>
+    </message>
+    <message id="When one ends, the next in the list plays">
+        <source>When one ends, the next in the list plays</source>
+        <translation>When one ends, the next in the list plays</translation>
+    </message>
+    <message id="&amp;Quit at the end of the list">
+        <source>&amp;Quit at the end of the list</source>
+        <translation>&amp;Quit at the end of the list</translation>
+    </message>
+    <message id="Unless it is repeated">
+        <source>Unless it is repeated</source>
+        <translation>Unless it is repeated</translation>
+    </message>
+    <message id="&amp;Subtitles">
+        <source>&amp;Subtitles</source>
+        <translation>&amp;Subtitles</translation>
+    </message>
+    <message id="Showing">
+        <source>Showing</source>
+        <translation>Showing</translation>
+    </message>
+    <message id="S&amp;how subtitles">
+        <source>S&amp;how subtitles</source>
+        <translation>S&amp;how subtitles</translation>
+    </message>
+    <message id="Also for movies opened later">
+        <source>Also for movies opened later</source>
+        <translation>Also for movies opened later</translation>
+    </message>
+    <message id="Draw mark&amp;up">
+        <source>Draw mark&amp;up</source>
+        <translation>Draw mark&amp;up</translation>
+    </message>
+    <message id="Italics, colors and places in subtitle files act; else they are left out">
+        <source>Italics, colors and places in subtitle files act; else they are left out</source>
+        <translation>Italics, colors and places in subtitle files act; else they are left out</translation>
+    </message>
+    <message id="Files">
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message id="&amp;Encoding:">
+        <source>&amp;Encoding:</source>
+        <translation>&amp;Encoding:</translation>
+    </message>
+    <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
+        <source>How the letters of subtitle files are stored; Automatic tells it by the file</source>
+        <translation>How the letters of subtitle files are stored; Automatic tells it by the file</translation>
+    </message>
+    <message id="Encoding of subtitle files">
+        <source>Encoding of subtitle files</source>
+        <translation>Encoding of subtitle files</translation>
+    </message>
+    <message id="Frame ra&amp;te:">
+        <source>Frame ra&amp;te:</source>
+        <translation>Frame ra&amp;te:</translation>
+    </message>
+    <message id="For subtitle files that count pictures instead of seconds">
+        <source>For subtitle files that count pictures instead of seconds</source>
+        <translation>For subtitle files that count pictures instead of seconds</translation>
+    </message>
+    <message id="As the movie">
+        <source>As the movie</source>
+        <translation>As the movie</translation>
+    </message>
+    <message id="&amp;Find subtitle files beside movies">
+        <source>&amp;Find subtitle files beside movies</source>
+        <translation>&amp;Find subtitle files beside movies</translation>
+    </message>
+    <message id="When a movie is opened">
+        <source>When a movie is opened</source>
+        <translation>When a movie is opened</translation>
+    </message>
+    <message id="Repair &amp;damaged subtitle files">
+        <source>Repair &amp;damaged subtitle files</source>
+        <translation>Repair &amp;damaged subtitle files</translation>
+    </message>
+    <message id="What is damaged is read as far as it can be">
+        <source>What is damaged is read as far as it can be</source>
+        <translation>What is damaged is read as far as it can be</translation>
+    </message>
+    <message id="Appearance">
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message id="&amp;Overlays">
+        <source>&amp;Overlays</source>
+        <translation>&amp;Overlays</translation>
+    </message>
+    <message id="Smallest &amp;text size:">
+        <source>Smallest &amp;text size:</source>
+        <translation>Smallest &amp;text size:</translation>
+    </message>
+    <message id="No text over the movie is smaller">
+        <source>No text over the movie is smaller</source>
+        <translation>No text over the movie is smaller</translation>
+    </message>
+    <message id="Show &amp;feedback">
+        <source>Show &amp;feedback</source>
+        <translation>Show &amp;feedback</translation>
+    </message>
+    <message id="Commands say what they did">
+        <source>Commands say what they did</source>
+        <translation>Commands say what they did</translation>
+    </message>
+    <message id="&amp;Keep the display for the next start">
+        <source>&amp;Keep the display for the next start</source>
+        <translation>&amp;Keep the display for the next start</translation>
+    </message>
+    <message id="The on-screen display chosen last is shown again">
+        <source>The on-screen display chosen last is shown again</source>
+        <translation>The on-screen display chosen last is shown again</translation>
+    </message>
+    <message id="How texts over the movie and the window look">
+        <source>How texts over the movie and the window look</source>
+        <translation>How texts over the movie and the window look</translation>
+    </message>
+    <message id="Overlay styles">
+        <source>Overlay styles</source>
+        <translation>Overlay styles</translation>
+    </message>
+    <message id="&amp;Advanced">
+        <source>&amp;Advanced</source>
+        <translation>&amp;Advanced</translation>
+    </message>
+    <message id="Pointer">
+        <source>Pointer</source>
+        <translation>Pointer</translation>
+    </message>
+    <message id="&amp;Hide after:">
+        <source>&amp;Hide after:</source>
+        <translation>&amp;Hide after:</translation>
+    </message>
+    <message id="How long the pointer rests before it is hidden">
+        <source>How long the pointer rests before it is hidden</source>
+        <translation>How long the pointer rests before it is hidden</translation>
+    </message>
+    <message id="New Versions">
+        <source>New Versions</source>
+        <translation>New Versions</translation>
+    </message>
+    <message id="Look for new &amp;versions">
+        <source>Look for new &amp;versions</source>
+        <translation>Look for new &amp;versions</translation>
+    </message>
+    <message id="When Lumaro starts, as often as is set below">
+        <source>When Lumaro starts, as often as is set below</source>
+        <translation>When Lumaro starts, as often as is set below</translation>
+    </message>
+    <message id="Also for &amp;beta versions">
+        <source>Also for &amp;beta versions</source>
+        <translation>Also for &amp;beta versions</translation>
+    </message>
+    <message id="Versions that are still being tried">
+        <source>Versions that are still being tried</source>
+        <translation>Versions that are still being tried</translation>
+    </message>
+    <message id="Ho&amp;w often:">
+        <source>Ho&amp;w often:</source>
+        <translation>Ho&amp;w often:</translation>
+    </message>
+    <message id="How much time passes between two checks">
+        <source>How much time passes between two checks</source>
+        <translation>How much time passes between two checks</translation>
+    </message>
+    <message id="At every start">
+        <source>At every start</source>
+        <translation>At every start</translation>
+    </message>
+    <message id="Daily">
+        <source>Daily</source>
+        <translation>Daily</translation>
+    </message>
+    <message id="Weekly">
+        <source>Weekly</source>
+        <translation>Weekly</translation>
+    </message>
+    <message id="Every 30 days">
+        <source>Every 30 days</source>
+        <translation>Every 30 days</translation>
+    </message>
+    <message id="Last check:">
+        <source>Last check:</source>
+        <translation>Last check:</translation>
+    </message>
+    <message id="Result:">
+        <source>Result:</source>
+        <translation>Result:</translation>
+    </message>
+    <message id="Check &amp;Now">
+        <source>Check &amp;Now</source>
+        <translation>Check &amp;Now</translation>
+    </message>
+    <message id="Looks for a new version at once">
+        <source>Looks for a new version at once</source>
+        <translation>Looks for a new version at once</translation>
+    </message>
+    <message id="Diagnosis">
+        <source>Diagnosis</source>
+        <translation>Diagnosis</translation>
+    </message>
+    <message id="&amp;Log what happens">
+        <source>&amp;Log what happens</source>
+        <translation>&amp;Log what happens</translation>
+    </message>
+    <message id="Lines for whoever looks for an error, in the system log or the terminal">
+        <source>Lines for whoever looks for an error, in the system log or the terminal</source>
+        <translation>Lines for whoever looks for an error, in the system log or the terminal</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="More Encodings">
+        <source>More Encodings</source>
+        <translation>More Encodings</translation>
+    </message>
+    <message id="%d sec.">
+        <source>%d sec.</source>
+        <translation>%d sec.</translation>
+    </message>
+    <message id="Search: %@">
+        <source>Search: %@</source>
+        <translation>Search: %@</translation>
+    </message>
+    <message id="Type to search">
+        <source>Type to search</source>
+        <translation>Type to search</translation>
+    </message>
+    <message id="Change the preferences">
+        <source>Change the preferences</source>
+        <translation>Change the preferences</translation>
+    </message>
+    <message id="Feedback style">
+        <source>Feedback</source>
+        <translation>Feedback</translation>
+    </message>
+    <message id="On-screen display style">
+        <source>On-Screen Display</source>
+        <translation>On-Screen Display</translation>
+    </message>
+    <message id="Window style">
+        <source>Window</source>
+        <translation>Window</translation>
+    </message>
+    <message id="SettingsNotSavedMessage">
+        <source>The preferences can’t be saved.</source>
+        <translation>The preferences can’t be saved.</translation>
+    </message>
+    <message id="SettingsNotSavedDetails">
+        <source>What you change acts until Lumaro quits. The file “%@” can’t be written.</source>
+        <translation>What you change acts until Lumaro quits. The file “%@” can’t be written.</translation>
     </message>
 </context>
 </TS>

@@ -64,6 +64,8 @@ public:
         void restoreState() override { take("restore"); }
         void saveState() override { take("save"); }
         void runHelpPanel() override { take("help"); }
+        void showPreferences() override { take("preferences"); }
+        void closePreferences() override { take("preferences close"); }
 
     private:
         void take(const char* step) {

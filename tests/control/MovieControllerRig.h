@@ -36,6 +36,7 @@ protected:
         void doOpen() override { calls << "open"; }
         void showHelp() override { calls << "help"; }
         void showPlaylist() override { calls << "playlist"; }
+        void showPreferences() override { calls << "preferences"; }
         void cycleDisplays(std::int32_t direction) override { calls << QString("display %1").arg(direction); }
         void windowDidBecomeKey(platform::Window&) override { calls << "became key"; }
         void windowDidResignKey(platform::Window&) override { calls << "resigned key"; }

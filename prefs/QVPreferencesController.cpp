@@ -1,0 +1,599 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "prefs/QVPreferencesController.h"
+
+#include "context/Notifications.h"
+#include "platform/base/Localization.h"
+#include "platform/base/RunLoop.h"
+#include "platform/base/SettingsFile.h"
+#include "platform/base/UserDefaults.h"
+#include "platform/desktop/Desktop.h"
+#include "prefs/EncodingMenu.h"
+#include "prefs/QVOverlayStyleController.h"
+#include "prefs/RecentEncodings.h"
+#include "settings/QVOverlayStyleDefaults.h"
+#include "settings/QVPreferencesChangedNotification.h"
+#include "settings/SettingsKeys.h"
+#include "settings/Tracing.h"
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QLocale>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QWindow>
+
+#include <algorithm>
+#include <array>
+#include <ui_Preferences.h>
+#include <utility>
+
+namespace {
+
+constexpr const char* className = "QVPreferencesController";
+
+/// The arrangement of the playlist by which its movies are sorted.
+constexpr std::int32_t sorted = 2;
+/// Above this many seconds the pointer is never hidden.
+constexpr std::int32_t maximumCursorHideDelay = 10;
+
+/// Selects the item, or button, of the tag; none where there is none.
+void selectTag(QComboBox& popUp, std::int32_t tag) {
+    popUp.setCurrentIndex(popUp.findData(tag));
+}
+
+void selectTag(QButtonGroup& group, std::int32_t tag) {
+    if (QAbstractButton* button = group.button(tag)) {
+        button->setChecked(true);
+    } else if (QAbstractButton* checked = group.checkedButton()) {
+        group.setExclusive(false);
+        checked->setChecked(false);
+        group.setExclusive(true);
+    }
+}
+
+/// The tags of the interface file become the values of the items and buttons.
+void takeTags(QComboBox& popUp) {
+    const QStringList tags = popUp.property("tags").toString().split(u' ', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < tags.size(); ++i)
+        popUp.setItemData(static_cast<int>(i), tags[i].toInt());
+}
+
+void takeTags(QButtonGroup& group) {
+    for (QAbstractButton* button : group.buttons())
+        group.setId(button, button->property("tag").toInt());
+}
+
+/// Large enough for the largest page, and for the names of all.
+QSize naturalSize(const Ui::Preferences& controls) {
+    const QTabWidget& pages = *controls._pages;
+    const QWidget& window = *pages.window();
+    const QSize around = window.sizeHint() - pages.currentWidget()->sizeHint();
+    QSize size(pages.tabBar()->sizeHint().width() + around.width(), 0);
+    for (int i = 0; i < pages.count(); ++i) {
+        QWidget* contents = static_cast<const QScrollArea*>(pages.widget(i))->widget();
+        contents->ensurePolished();
+        contents->layout()->activate();
+        size = size.expandedTo(contents->sizeHint() + around);
+    }
+    return size;
+}
+
+QString nameOfEncoding(std::uint32_t encoding) {
+    const QStringList names = JHStringEncodings::localizedNamesOfStringEncodings({encoding});
+    return names.isEmpty() ? QString() : names.first();
+}
+
+QString localized(const char* key) {
+    return platform::localizedString(QString::fromUtf8(key));
+}
+
+} // namespace
+
+QVPreferencesController::QVPreferencesController(const Environment& environment, platform::Desktop& desktop)
+    : _environment(environment)
+    , _desktop(desktop)
+    , _controls(std::make_unique<Ui::Preferences>()) {
+    auto window = std::make_unique<QDialog>();
+    _controls->setupUi(window.get());
+    _window = std::move(window);
+    _preferencesChanged = environment.notifications.observe<QVPreferencesChangedNotification>(
+        [this](const auto& notification) { preferencesChanged(notification); });
+    _versionCheck = environment.notifications.observe<QVVersionCheckNotification>(
+        [this](const auto& notification) { versionCheckInProgress(notification); });
+    awakeFromNib();
+}
+
+QVPreferencesController::~QVPreferencesController() {
+    _environment.settings.setWriteFailureHandler(nullptr);
+}
+
+// Setting up
+
+void QVPreferencesController::awakeFromNib() {
+    using Self = QVPreferencesController;
+    const auto& c = *_controls;
+    _plain = {{c._movieAutofetchSubtitles, kQVAutoloadSubtitles, &Self::changeAutofetchSubtitles},
+              {c._movieDefaultSize, kQVDefaultMovieSize, &Self::changeMovieDefaultSize},
+              {c._movieHideOnDeactivate, kQVHideOnDeactivate, &Self::changeHideOnDeactivate},
+              {c._movieOpenSavedPlaylist, kQVOnLaunchDefaultAction, &Self::changeOpenSavedPlaylist},
+              {c._moviePauseOnDeactivate, kQVPauseOnDeactivate, &Self::changePauseOnDeactivate},
+              {c._movieShowController, kQVControllerVisible, &Self::changeShowController},
+              {c._volumeSave, kQVVolumeSave, &Self::changeSaveVolume},
+              {c._mainWindowLayer, kQVMainWindowLayer, &Self::changeWindowLayer},
+              {c._playlistSort, kQVPlaylistDefaultArrangement, &Self::changePlaylistSort},
+              {c._playlistSortNumerically, kQVSortNumerically, &Self::changePlaylistSortNumerically},
+              {c._playlistSortOnlyFilenames, kQVSortOnlyFilenames, &Self::changePlaylistSortOnlyFilenames, true},
+              {c._playlistAutoPlay, kQVPlaylistAutoPlay, &Self::changePlaylistAutoPlay},
+              {c._playlistAutoNext, kQVPlaylistAutoNext, &Self::changePlaylistAutoNext},
+              {c._playlistAutoQuit, kQVPlaylistAutoQuit, &Self::changePlaylistAutoQuit},
+              {c._playlistDefaultLoop, kQVPlaylistDefaultLooping, &Self::changePlaylistDefaultLoop},
+              {c._subtitlesShow, kQVDisplaySubtitles, &Self::changeSubtitlesShow},
+              {c._subtitlesDefaultFPS, kQVSubtitlesDefaultFPS, &Self::changeSubtitlesDefaultFPS},
+              {c._subtitlesMarkup, kQVSubtitlesMarkup, &Self::changeSubtitlesMarkup},
+              {c._subtitlesRepair, kQVSubtitlesRepair, &Self::changeSubtitlesRepair},
+              {c._advancedEnableTrace, kQVEnableTrace, &Self::changeEnableTrace},
+              {c._overlayTextFontSizeMin, kQVOverlayTextFontSizeMin, &Self::changeOverlayTextSizeMin},
+              {c._feedbackShow, kQVDisplayFeedback, &Self::changeFeedbackShow},
+              {c._displaySaveState, kQVOSDStateSave, &Self::changeDisplaySaveState},
+              {c._versionCheck, kQVNewVersionShouldCheck, &Self::changeVersionCheck},
+              {c._versionCheckBeta, kQVNewVersionShouldCheckBeta, &Self::changeVersionCheckBeta},
+              {c._versionCheckPeriod, kQVNewVersionCheckingPeriod, &Self::changeVersionCheckPeriod}};
+
+    _subtitlesEncodings = std::make_unique<EncodingMenu>(
+        *c._subtitlesDefaultEncoding, [this](const QString&) { changeSubtitlesDefaultEncoding(); },
+        [this](const QString& title) { changeSubtitlesAvailableEncodings(title); });
+    _subtitlesEncodings->fill(JHStringEncodings::localizedNamesOfStringEncodings(RecentEncodings::fromSetting(
+                                  _environment.settings.arrayForKey(kQVSubtitlesEncodingsList))),
+                              _encodings.availableEncodings().keys());
+
+    setupStyles();
+    connectControls();
+    _environment.settings.setWriteFailureHandler([this] { settingsNotSaved(); });
+}
+
+void QVPreferencesController::setupStyles() {
+    const auto make = [this](std::unique_ptr<QVOverlayStyleController>& section, const QString& key) {
+        section = std::make_unique<QVOverlayStyleController>(_environment);
+        section->setupWithModelForKey(key);
+        return section->widget();
+    };
+    const auto& c = *_controls;
+    c._subtitlesStyleGroup->layout()->addWidget(make(_subtitlesStyleController, kQVSubtitlesOverlayStyle));
+    c._overlayStyles->addTab(make(_feedbackStyleController, kQVFeedbackOverlayStyle), localized("Feedback style"));
+    c._overlayStyles->addTab(make(_displayStyleController, kQVOSDOverlayStyle), localized("On-screen display style"));
+    c._overlayStyles->addTab(make(_mainWindowStyleController, kQVFullscreenOverlayStyle), localized("Window style"));
+}
+
+void QVPreferencesController::connectControls() {
+    const auto& c = *_controls;
+    // Signals of what the user does, not of what the program shows.
+    for (const PlainControl& plain : _plain) {
+        const auto act = [this, action = plain.action] { (this->*action)(); };
+        if (auto* box = qobject_cast<QCheckBox*>(plain.control)) {
+            connect(box, &QCheckBox::clicked, this, act);
+        } else if (auto* popUp = qobject_cast<QComboBox*>(plain.control)) {
+            takeTags(*popUp);
+            connect(popUp, &QComboBox::activated, this, act);
+        } else if (auto* group = qobject_cast<QButtonGroup*>(plain.control)) {
+            takeTags(*group);
+            connect(group, &QButtonGroup::idClicked, this, act);
+        }
+    }
+    connect(&c._jumpIntervalStepper->field(), &QLineEdit::textEdited, this,
+            [this] { changeJumpInterval(JumpControl::field); });
+    connect(c._jumpIntervalStepper, &QSpinBox::valueChanged, this,
+            [this] { changeJumpInterval(JumpControl::stepper); });
+    connect(c._advancedCursorHideDelay, &QSlider::valueChanged, this, [this] { changeCursorHideDelay(); });
+
+    auto* window = static_cast<QDialog*>(_window.get());
+    connect(c._close, &QPushButton::clicked, window, &QDialog::reject);
+    connect(new QShortcut(QKeySequence(QKeySequence::Close), window), &QShortcut::activated, window, &QDialog::reject);
+    connect(window, &QDialog::finished, this, [this] { windowWillClose(); });
+    // The pages are as light as what holds them.
+    for (auto* area : window->findChildren<QScrollArea*>()) {
+        area->viewport()->setAutoFillBackground(false);
+        area->widget()->setAutoFillBackground(false);
+    }
+    window->installEventFilter(this);
+    // A page that is scrolled by the wheel would change what passes under the pointer.
+    for (QWidget* control : window->findChildren<QWidget*>()) {
+        if (qobject_cast<QComboBox*>(control) || qobject_cast<QSlider*>(control) ||
+            qobject_cast<QAbstractSpinBox*>(control)) {
+            control->setFocusPolicy(Qt::StrongFocus);
+            control->installEventFilter(this);
+        }
+    }
+}
+
+bool QVPreferencesController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == _window.get()) {
+        // The player's own keys and menus may have changed something meanwhile.
+        if (event->type() == QEvent::WindowActivate)
+            syncWithDefaults();
+    } else if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+// The window
+
+void QVPreferencesController::showAbove(QWindow* owner) {
+    syncWithDefaults();
+    _window->winId();
+    if (owner) {
+        _window->windowHandle()->setTransientParent(owner);
+        _window->windowHandle()->setScreen(owner->screen());
+    }
+    if (!_window->isVisible()) {
+        QSize size = naturalSize(*_controls);
+        const QRect place = owner ? owner->geometry() : _window->screen()->availableGeometry();
+        size = size.boundedTo(place.size() * 9 / 10);
+        QRect frame(QPoint(), size);
+        frame.moveCenter(place.center());
+        _window->setGeometry(frame);
+    }
+    _window->show();
+    _window->raise();
+    _window->activateWindow();
+}
+
+void QVPreferencesController::close() {
+    _window->close();
+}
+
+void QVPreferencesController::windowWillClose() {
+    // Without a window manager nobody else gives the keyboard back.
+    if (const QWindow* handle = _window->windowHandle(); handle && handle->transientParent())
+        handle->transientParent()->requestActivate();
+}
+
+// Showing what is stored
+
+void QVPreferencesController::syncWithDefaults() {
+    const platform::UserDefaults& settings = _environment.settings;
+    const auto& c = *_controls;
+    for (const PlainControl& plain : _plain)
+        show(plain);
+    showTextSizeMin(settings.integerForKey(kQVOverlayTextFontSizeMin));
+    {
+        const QSignalBlocker shown(c._jumpIntervalStepper);
+        // What is being typed stays.
+        if (const std::int32_t interval = settings.integerForKey(kQVJumpInterval);
+            interval != c._jumpIntervalStepper->value())
+            c._jumpIntervalStepper->setValue(interval);
+    }
+    _playlistGroupSetEnabled(settings.integerForKey(kQVPlaylistDefaultArrangement) == sorted);
+    showEncoding(static_cast<std::uint32_t>(settings.integerForKey(kQVSubtitlesDefaultEncoding)));
+    _subtitlesGroupSetEnabled(settings.boolForKey(kQVDisplaySubtitles));
+    {
+        const QSignalBlocker shown(c._advancedCursorHideDelay);
+        c._advancedCursorHideDelay->setValue(settings.integerForKey(kQVCursorAutohideDelay));
+    }
+    _updateCursorHideDelayValue(c._advancedCursorHideDelay->value());
+    _updateLastCheckedStatus();
+    _versionGroupSetEnabled(settings.boolForKey(kQVNewVersionShouldCheck));
+    _feedbackStyleController->setEnabled(settings.boolForKey(kQVDisplayFeedback));
+    for (const auto* section :
+         {&_subtitlesStyleController, &_feedbackStyleController, &_displayStyleController, &_mainWindowStyleController})
+        (*section)->syncWithModel();
+}
+
+void QVPreferencesController::show(const PlainControl& plain) {
+    const platform::UserDefaults& settings = _environment.settings;
+    const std::int32_t tag = plain.isBoolean ? settings.boolForKey(plain.key) : settings.integerForKey(plain.key);
+    if (auto* box = qobject_cast<QCheckBox*>(plain.control))
+        box->setChecked(settings.boolForKey(plain.key));
+    else if (auto* popUp = qobject_cast<QComboBox*>(plain.control))
+        selectTag(*popUp, tag);
+    else if (auto* group = qobject_cast<QButtonGroup*>(plain.control))
+        selectTag(*group, tag);
+}
+
+/// A size that is not offered is added in its place.
+void QVPreferencesController::showTextSizeMin(std::int32_t size) {
+    QComboBox& popUp = *_controls->_overlayTextFontSizeMin;
+    if (popUp.findData(size) < 0) {
+        int place = 0;
+        while (place < popUp.count() && popUp.itemData(place).toInt() < size)
+            ++place;
+        popUp.insertItem(place, QString::number(size) + QStringLiteral(" pt"), size);
+    }
+    selectTag(popUp, size);
+}
+
+void QVPreferencesController::showEncoding(std::uint32_t encoding) {
+    const QString title = nameOfEncoding(encoding);
+    if (title == _subtitlesEncodings->titleOfSelectedItem() && !title.isEmpty())
+        return;
+    _subtitlesEncodings->setChecked(_subtitlesEncodings->titleOfSelectedItem(), false);
+    // One that the list has lost is the chosen one all the same.
+    if (!title.isEmpty())
+        _subtitlesEncodings->insertItem(title);
+    _subtitlesEncodings->selectItemWithTitle(title.isEmpty() ? localized("Unknown") : title);
+    _subtitlesEncodings->setChecked(title, true);
+}
+
+void QVPreferencesController::_playlistGroupSetEnabled(bool enabled) {
+    _controls->_playlistSortNumerically->setEnabled(enabled);
+    for (QAbstractButton* button : _controls->_playlistSortOnlyFilenames->buttons())
+        button->setEnabled(enabled);
+}
+
+void QVPreferencesController::_subtitlesGroupSetEnabled(bool enabled) {
+    _controls->_subtitlesDefaultEncoding->setEnabled(enabled);
+    _controls->_subtitlesDefaultFPS->setEnabled(enabled);
+    _subtitlesStyleController->setEnabled(enabled);
+}
+
+void QVPreferencesController::_versionGroupSetEnabled(bool enabled) {
+    _controls->_versionCheckBeta->setEnabled(enabled);
+    _controls->_versionCheckPeriod->setEnabled(enabled);
+}
+
+void QVPreferencesController::_updateCursorHideDelayValue(std::int32_t seconds) {
+    const QString text = seconds > maximumCursorHideDelay
+                             ? localized("Never")
+                             : platform::localizedFormat(QStringLiteral("%d sec."), {QString::number(seconds)});
+    _controls->_advancedCursorHideDelayValue->setText(text);
+    _controls->_advancedCursorHideDelay->setAccessibleDescription(text);
+}
+
+void QVPreferencesController::_updateLastCheckedStatus() {
+    const QDateTime date = _environment.settings.dateForKey(kQVNewVersionLastTimeChecked);
+    _controls->_versionCheckLastTime->setText(
+        date.isValid() ? QLocale().toString(date.toLocalTime(), QLocale::ShortFormat) : localized("Never"));
+    _controls->_versionCheckStatus->setText(date.isValid() ? _environment.settings.stringForKey(kQVNewVersionStatus)
+                                                           : localized("Unknown"));
+}
+
+// What the user changed
+
+void QVPreferencesController::store(const QVariant& value, const QString& key) {
+    _hasChosen = true;
+    _environment.settings.setChosenObject(value, key);
+}
+
+void QVPreferencesController::choose(const QVariant& value, const QString& key) {
+    store(value, key);
+    _environment.notifications.post(QVPreferencesChangedNotification{key, {}});
+}
+
+std::int32_t QVPreferencesController::valueOf(const PlainControl& plain) const {
+    if (const auto* box = qobject_cast<const QCheckBox*>(plain.control))
+        return box->isChecked();
+    if (const auto* popUp = qobject_cast<const QComboBox*>(plain.control))
+        return popUp->currentData().toInt();
+    return static_cast<const QButtonGroup*>(plain.control)->checkedId();
+}
+
+void QVPreferencesController::plainChange(const QObject* control) {
+    const PlainControl& plain = *std::ranges::find(_plain, control, &PlainControl::control);
+    const std::int32_t value = valueOf(plain);
+    trace("%@: %@ changed to: %d", className, plain.key, value);
+    const bool isBoolean = plain.isBoolean || qobject_cast<const QCheckBox*>(control);
+    choose(isBoolean ? QVariant(value != 0) : QVariant(value), plain.key);
+}
+
+void QVPreferencesController::changeAutofetchSubtitles() {
+    plainChange(_controls->_movieAutofetchSubtitles);
+}
+
+void QVPreferencesController::changeMovieDefaultSize() {
+    plainChange(_controls->_movieDefaultSize);
+}
+
+void QVPreferencesController::changeHideOnDeactivate() {
+    plainChange(_controls->_movieHideOnDeactivate);
+}
+
+void QVPreferencesController::changeOpenSavedPlaylist() {
+    plainChange(_controls->_movieOpenSavedPlaylist);
+}
+
+void QVPreferencesController::changePauseOnDeactivate() {
+    plainChange(_controls->_moviePauseOnDeactivate);
+}
+
+void QVPreferencesController::changeShowController() {
+    plainChange(_controls->_movieShowController);
+}
+
+void QVPreferencesController::changeSaveVolume() {
+    plainChange(_controls->_volumeSave);
+}
+
+void QVPreferencesController::changeWindowLayer() {
+    plainChange(_controls->_mainWindowLayer);
+}
+
+void QVPreferencesController::changePlaylistSort() {
+    _playlistGroupSetEnabled(_controls->_playlistSort->checkedId() == sorted);
+    plainChange(_controls->_playlistSort);
+}
+
+void QVPreferencesController::changePlaylistSortNumerically() {
+    plainChange(_controls->_playlistSortNumerically);
+}
+
+void QVPreferencesController::changePlaylistSortOnlyFilenames() {
+    plainChange(_controls->_playlistSortOnlyFilenames);
+}
+
+void QVPreferencesController::changePlaylistAutoPlay() {
+    plainChange(_controls->_playlistAutoPlay);
+}
+
+void QVPreferencesController::changePlaylistAutoNext() {
+    plainChange(_controls->_playlistAutoNext);
+}
+
+void QVPreferencesController::changePlaylistAutoQuit() {
+    plainChange(_controls->_playlistAutoQuit);
+}
+
+void QVPreferencesController::changePlaylistDefaultLoop() {
+    plainChange(_controls->_playlistDefaultLoop);
+}
+
+void QVPreferencesController::changeSubtitlesShow() {
+    _subtitlesGroupSetEnabled(_controls->_subtitlesShow->isChecked());
+    plainChange(_controls->_subtitlesShow);
+}
+
+void QVPreferencesController::changeSubtitlesDefaultFPS() {
+    plainChange(_controls->_subtitlesDefaultFPS);
+}
+
+void QVPreferencesController::changeSubtitlesMarkup() {
+    plainChange(_controls->_subtitlesMarkup);
+}
+
+void QVPreferencesController::changeSubtitlesRepair() {
+    plainChange(_controls->_subtitlesRepair);
+}
+
+void QVPreferencesController::changeEnableTrace() {
+    plainChange(_controls->_advancedEnableTrace);
+}
+
+void QVPreferencesController::changeOverlayTextSizeMin() {
+    plainChange(_controls->_overlayTextFontSizeMin);
+}
+
+void QVPreferencesController::changeFeedbackShow() {
+    _feedbackStyleController->setEnabled(_controls->_feedbackShow->isChecked());
+    plainChange(_controls->_feedbackShow);
+}
+
+void QVPreferencesController::changeDisplaySaveState() {
+    plainChange(_controls->_displaySaveState);
+}
+
+void QVPreferencesController::changeVersionCheck() {
+    _versionGroupSetEnabled(_controls->_versionCheck->isChecked());
+    plainChange(_controls->_versionCheck);
+}
+
+void QVPreferencesController::changeVersionCheckBeta() {
+    plainChange(_controls->_versionCheckBeta);
+}
+
+void QVPreferencesController::changeVersionCheckPeriod() {
+    plainChange(_controls->_versionCheckPeriod);
+}
+
+void QVPreferencesController::changeJumpInterval(JumpControl sender) {
+    JumpIntervalBox& stepper = *_controls->_jumpIntervalStepper;
+    if (sender == JumpControl::field) {
+        const QString text = stepper.field().text();
+        if (text.isEmpty())
+            return;
+        bool isNumber = false;
+        const int typed = stepper.locale().toInt(text, &isNumber);
+        const QSignalBlocker copied(&stepper);
+        if (isNumber && typed >= stepper.minimum() && typed <= stepper.maximum()) {
+            stepper.setValue(typed);
+        } else {
+            _desktop.beep();
+            stepper.setValue(stepper.value());
+        }
+    }
+    const std::int32_t interval = stepper.value();
+    if (interval == _environment.settings.integerForKey(kQVJumpInterval))
+        return;
+    trace("%@: %@ changed to: %d", className, kQVJumpInterval, interval);
+    choose(interval, kQVJumpInterval);
+}
+
+void QVPreferencesController::changeCursorHideDelay() {
+    const std::int32_t delay = _controls->_advancedCursorHideDelay->value();
+    if (delay == _environment.settings.integerForKey(kQVCursorAutohideDelay))
+        return;
+    trace("%@: %@ changed to: %d", className, kQVCursorAutohideDelay, delay);
+    _updateCursorHideDelayValue(delay);
+    choose(delay, kQVCursorAutohideDelay);
+}
+
+void QVPreferencesController::changeSubtitlesDefaultEncoding() {
+    platform::UserDefaults& settings = _environment.settings;
+    const QString title = _subtitlesEncodings->titleOfSelectedItem();
+    const std::uint32_t encoding = _encodings.encodingForLocalizedEncodingName(title);
+    const auto before = static_cast<std::uint32_t>(settings.integerForKey(kQVSubtitlesDefaultEncoding));
+    if (encoding == before || encoding == JHStringEncodings::noEncoding)
+        return;
+    _subtitlesEncodings->setChecked(nameOfEncoding(before), false);
+    _subtitlesEncodings->setChecked(title, true);
+    trace("%@: %@ changed to: %@", className, kQVSubtitlesDefaultEncoding, title);
+    const auto recent = RecentEncodings::fromSetting(settings.arrayForKey(kQVSubtitlesEncodingsList));
+    store(RecentEncodings::toSetting(RecentEncodings::withFirst(recent, encoding)), kQVSubtitlesEncodingsList);
+    choose(static_cast<std::int32_t>(encoding), kQVSubtitlesDefaultEncoding);
+}
+
+void QVPreferencesController::changeSubtitlesAvailableEncodings(const QString& title) {
+    platform::UserDefaults& settings = _environment.settings;
+    const std::uint32_t encoding = _encodings.encodingForLocalizedEncodingName(title);
+    if (encoding == static_cast<std::uint32_t>(settings.integerForKey(kQVSubtitlesDefaultEncoding)))
+        return;
+    if (!_subtitlesEncodings->hasItemWithTitle(title)) {
+        const auto [encodings, dropped] =
+            RecentEncodings::adding(RecentEncodings::fromSetting(settings.arrayForKey(kQVSubtitlesEncodingsList)),
+                                    encoding, settings.integerForKey(kQVSubtitlesEncodingsListSize));
+        for (const std::uint32_t old : dropped)
+            _subtitlesEncodings->removeItemWithTitle(nameOfEncoding(old));
+        store(RecentEncodings::toSetting(encodings), kQVSubtitlesEncodingsList);
+        _subtitlesEncodings->insertItem(title);
+    }
+    _subtitlesEncodings->selectItemWithTitle(title);
+    changeSubtitlesDefaultEncoding();
+}
+
+// What was changed elsewhere
+
+void QVPreferencesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key == kQVNewVersionLastTimeChecked) {
+        _updateLastCheckedStatus();
+        return;
+    }
+    static const std::array styles{&kQVSubtitlesOverlayStyle, &kQVFeedbackOverlayStyle, &kQVOSDOverlayStyle};
+    const auto isChanged = [&](const QString* style) { return notification.key == *style; };
+    if (std::ranges::none_of(styles, isChanged) ||
+        !notification.styleKeys.contains(OverlayStyle::keyOf(&OverlayStyle::textFontSize)))
+        return;
+    const auto style = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(_environment.settings, notification.key);
+    if (!style)
+        return;
+    // The minimum never stays above a size that the user has just chosen.
+    const auto size = static_cast<std::int32_t>(style->values().textFontSize);
+    if (_environment.settings.integerForKey(kQVOverlayTextFontSizeMin) > size) {
+        showTextSizeMin(size);
+        changeOverlayTextSizeMin();
+    }
+}
+
+void QVPreferencesController::versionCheckInProgress(const QVVersionCheckNotification& notification) {
+    const bool isRunning = notification.mark == kQVVersionCheckBegin;
+    _controls->_versionCheckNow->setEnabled(!isRunning);
+    if (!isRunning) {
+        _updateLastCheckedStatus();
+        return;
+    }
+    _controls->_versionCheckLastTime->setText(localized("Checking now..."));
+    _controls->_versionCheckNow->repaint();
+    _controls->_versionCheckLastTime->repaint();
+}
+
+/// Said once, and only to whoever changed something here.
+void QVPreferencesController::settingsNotSaved() {
+    if (!_hasChosen || std::exchange(_saidNotSaved, true))
+        return;
+    _desktop.runAlert(
+        {localized("SettingsNotSavedMessage"),
+         platform::localizedFormat(QStringLiteral("SettingsNotSavedDetails"), {platform::SettingsFile::defaultPath()}),
+         localized("OK"),
+         {},
+         {}});
+}
