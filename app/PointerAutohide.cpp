@@ -37,6 +37,8 @@ void PointerAutohide::scheduleCursorHide() {
 }
 
 void PointerAutohide::autohideCursor() {
-    hideCursor();
+    // "Never" may have been chosen while the timer ran.
+    if (_environment.settings.integerForKey(kQVCursorAutohideDelay) <= maximumDelay)
+        hideCursor();
     _autohide_cursor_timer.reset();
 }

@@ -15,7 +15,9 @@
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
+#include <QColorDialog>
 #include <QEvent>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QLocale>
 #include <QScreen>
@@ -78,6 +80,40 @@ QSize naturalSize(const Ui::Preferences& controls) {
         size = size.expandedTo(contents->sizeHint() + around);
     }
     return size;
+}
+
+/// The letter that, with Alt, goes to a control of this text.
+QChar mnemonicOf(const QString& text) {
+    const QKeySequence keys = QKeySequence::mnemonic(text);
+    return keys.isEmpty() ? QChar() : QChar(keys[0].key()).toLower();
+}
+
+/// A section's letters give way to those of the page around it: of two controls with the same one, neither would act.
+void yieldMnemonics(const QWidget& section, const QTabWidget& pages) {
+    QString taken;
+    for (int page = 0; page < pages.count(); ++page)
+        taken += mnemonicOf(pages.tabText(page));
+    const QWidget* page = section.parentWidget();
+    while (page && pages.indexOf(page) < 0)
+        page = page->parentWidget();
+    const auto visit = [](const auto& widgets, const auto& work) {
+        for (auto* widget : widgets)
+            work(*widget);
+    };
+    const auto take = [&](const auto& widget) {
+        if (!section.isAncestorOf(&widget))
+            taken += mnemonicOf(widget.text());
+    };
+    if (page) {
+        visit(page->findChildren<QLabel*>(), take);
+        visit(page->findChildren<QAbstractButton*>(), take);
+    }
+    const auto yield = [&](auto& widget) {
+        if (const QChar letter = mnemonicOf(widget.text()); !letter.isNull() && taken.contains(letter))
+            widget.setText(widget.text().remove(u'&'));
+    };
+    visit(section.findChildren<QLabel*>(), yield);
+    visit(section.findChildren<QAbstractButton*>(), yield);
 }
 
 QString nameOfEncoding(std::uint32_t encoding) {
@@ -164,6 +200,9 @@ void QVPreferencesController::setupStyles() {
     c._overlayStyles->addTab(make(_feedbackStyleController, kQVFeedbackOverlayStyle), localized("Feedback style"));
     c._overlayStyles->addTab(make(_displayStyleController, kQVOSDOverlayStyle), localized("On-screen display style"));
     c._overlayStyles->addTab(make(_mainWindowStyleController, kQVFullscreenOverlayStyle), localized("Window style"));
+    for (const auto* section :
+         {&_subtitlesStyleController, &_feedbackStyleController, &_displayStyleController, &_mainWindowStyleController})
+        yieldMnemonics(*(*section)->widget(), *c._pages);
 }
 
 void QVPreferencesController::connectControls() {
@@ -231,10 +270,11 @@ void QVPreferencesController::showAbove(QWindow* owner) {
     if (!_window->isVisible()) {
         QSize size = naturalSize(*_controls);
         const QRect place = owner ? owner->geometry() : _window->screen()->availableGeometry();
-        size = size.boundedTo(place.size() * 9 / 10);
+        size = size.boundedTo(place.size() * 19 / 20);
         QRect frame(QPoint(), size);
         frame.moveCenter(place.center());
         _window->setGeometry(frame);
+        _controls->_pages->tabBar()->setFocus();
     }
     _window->show();
     _window->raise();
@@ -246,6 +286,9 @@ void QVPreferencesController::close() {
 }
 
 void QVPreferencesController::windowWillClose() {
+    // A color that is being chosen stays as it was chosen last.
+    for (auto* panel : _window->findChildren<QColorDialog*>())
+        panel->accept();
     // Without a window manager nobody else gives the keyboard back.
     if (const QWindow* handle = _window->windowHandle(); handle && handle->transientParent())
         handle->transientParent()->requestActivate();

@@ -1545,6 +1545,14 @@
         <source>Italics, colors and places in subtitle files act; else they are left out</source>
         <translation>Kursives, Farben und Plätze in Untertiteldateien wirken; sonst werden sie weggelassen</translation>
     </message>
+    <message id="&amp;Find subtitle files beside movies">
+        <source>&amp;Find subtitle files beside movies</source>
+        <translation>Untertitel&amp;dateien neben Filmen suchen</translation>
+    </message>
+    <message id="When a movie is opened">
+        <source>When a movie is opened</source>
+        <translation>Wenn ein Film geöffnet wird</translation>
+    </message>
     <message id="Files">
         <source>Files</source>
         <translation>Dateien</translation>
@@ -1572,14 +1580,6 @@
     <message id="As the movie">
         <source>As the movie</source>
         <translation>Wie der Film</translation>
-    </message>
-    <message id="&amp;Find subtitle files beside movies">
-        <source>&amp;Find subtitle files beside movies</source>
-        <translation>Untertitel&amp;dateien neben Filmen suchen</translation>
-    </message>
-    <message id="When a movie is opened">
-        <source>When a movie is opened</source>
-        <translation>Wenn ein Film geöffnet wird</translation>
     </message>
     <message id="Repair &amp;damaged subtitle files">
         <source>Repair &amp;damaged subtitle files</source>

@@ -1545,6 +1545,14 @@
         <source>Italics, colors and places in subtitle files act; else they are left out</source>
         <translation>Italics, colors and places in subtitle files act; else they are left out</translation>
     </message>
+    <message id="&amp;Find subtitle files beside movies">
+        <source>&amp;Find subtitle files beside movies</source>
+        <translation>&amp;Find subtitle files beside movies</translation>
+    </message>
+    <message id="When a movie is opened">
+        <source>When a movie is opened</source>
+        <translation>When a movie is opened</translation>
+    </message>
     <message id="Files">
         <source>Files</source>
         <translation>Files</translation>
@@ -1572,14 +1580,6 @@
     <message id="As the movie">
         <source>As the movie</source>
         <translation>As the movie</translation>
-    </message>
-    <message id="&amp;Find subtitle files beside movies">
-        <source>&amp;Find subtitle files beside movies</source>
-        <translation>&amp;Find subtitle files beside movies</translation>
-    </message>
-    <message id="When a movie is opened">
-        <source>When a movie is opened</source>
-        <translation>When a movie is opened</translation>
     </message>
     <message id="Repair &amp;damaged subtitle files">
         <source>Repair &amp;damaged subtitle files</source>

@@ -187,7 +187,11 @@ TEST(AppController, the_pointer_hides_after_the_delay_and_mouse_moves_put_it_off
     rig.settings.runLoop.advance(10);
     EXPECT_TRUE(rig.host.pointerHidden);
 
+    rig.window.setKey(true);
+    rig.window.setKey(false);
     rig.settings.defaults().setInteger(11, kQVCursorAutohideDelay);
+    rig.settings.runLoop.advance(1000);
+    EXPECT_FALSE(rig.host.pointerHidden) << "never was chosen meanwhile";
     rig.window.setKey(true);
     rig.window.setKey(false);
     rig.app.applicationDidBecomeActive();
@@ -451,7 +455,9 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     choose("startStop");
     EXPECT_FALSE(rig.view.isPlaying());
     choose("showHelp");
-    EXPECT_EQ(rig.events, QStringList{"help"});
+    choose("showPreferences");
+    EXPECT_EQ(rig.events, (QStringList{"help", "preferences"}));
+    EXPECT_EQ(rig.steps.closedPreferences, 0);
     rig.objects->display().setDisplayType(2);
     choose("cycleDisplays", 1);
     EXPECT_EQ(rig.objects->display().displayType(), 3);

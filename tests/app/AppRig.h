@@ -65,7 +65,8 @@ public:
         void saveState() override { take("save"); }
         void runHelpPanel() override { take("help"); }
         void showPreferences() override { take("preferences"); }
-        void closePreferences() override { take("preferences close"); }
+        void closePreferences() override { ++closedPreferences; }
+        int closedPreferences = 0;
 
     private:
         void take(const char* step) {

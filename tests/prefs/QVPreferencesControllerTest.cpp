@@ -506,6 +506,12 @@ TEST_F(Preferences, every_control_has_a_name_a_tip_and_a_letter_of_its_own_in_ev
                 if (const auto* label = labelOf(*widget))
                     take(taken, label->text());
             }
+            // What else the page holds, the sections of styles, keeps off these letters.
+            for (const auto* label : pages.widget(page)->findChildren<QLabel*>()) {
+                const auto other = taken.find(letter(label->text()));
+                EXPECT_TRUE(letter(label->text()).isEmpty() || other == taken.end() || other->second == label->text())
+                    << language << ": " << label->text().toStdString();
+            }
         }
     }
 }
