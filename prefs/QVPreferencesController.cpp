@@ -8,6 +8,7 @@
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "prefs/EncodingMenu.h"
+#include "prefs/PreferencesPages.h"
 #include "prefs/QVOverlayStyleController.h"
 #include "prefs/RecentEncodings.h"
 #include "settings/QVOverlayStyleDefaults.h"
@@ -65,55 +66,6 @@ void takeTags(QComboBox& popUp) {
 void takeTags(QButtonGroup& group) {
     for (QAbstractButton* button : group.buttons())
         group.setId(button, button->property("tag").toInt());
-}
-
-/// Large enough for the largest page, and for the names of all.
-QSize naturalSize(const Ui::Preferences& controls) {
-    const QTabWidget& pages = *controls._pages;
-    const QWidget& window = *pages.window();
-    const QSize around = window.sizeHint() - pages.currentWidget()->sizeHint();
-    QSize size(pages.tabBar()->sizeHint().width() + around.width(), 0);
-    for (int i = 0; i < pages.count(); ++i) {
-        QWidget* contents = static_cast<const QScrollArea*>(pages.widget(i))->widget();
-        contents->ensurePolished();
-        contents->layout()->activate();
-        size = size.expandedTo(contents->sizeHint() + around);
-    }
-    return size;
-}
-
-/// The letter that, with Alt, goes to a control of this text.
-QChar mnemonicOf(const QString& text) {
-    const QKeySequence keys = QKeySequence::mnemonic(text);
-    return keys.isEmpty() ? QChar() : QChar(keys[0].key()).toLower();
-}
-
-/// A section's letters give way to those of the page around it: of two controls with the same one, neither would act.
-void yieldMnemonics(const QWidget& section, const QTabWidget& pages) {
-    QString taken;
-    for (int page = 0; page < pages.count(); ++page)
-        taken += mnemonicOf(pages.tabText(page));
-    const QWidget* page = section.parentWidget();
-    while (page && pages.indexOf(page) < 0)
-        page = page->parentWidget();
-    const auto visit = [](const auto& widgets, const auto& work) {
-        for (auto* widget : widgets)
-            work(*widget);
-    };
-    const auto take = [&](const auto& widget) {
-        if (!section.isAncestorOf(&widget))
-            taken += mnemonicOf(widget.text());
-    };
-    if (page) {
-        visit(page->findChildren<QLabel*>(), take);
-        visit(page->findChildren<QAbstractButton*>(), take);
-    }
-    const auto yield = [&](auto& widget) {
-        if (const QChar letter = mnemonicOf(widget.text()); !letter.isNull() && taken.contains(letter))
-            widget.setText(widget.text().remove(u'&'));
-    };
-    visit(section.findChildren<QLabel*>(), yield);
-    visit(section.findChildren<QAbstractButton*>(), yield);
 }
 
 QString nameOfEncoding(std::uint32_t encoding) {
@@ -202,7 +154,7 @@ void QVPreferencesController::setupStyles() {
     c._overlayStyles->addTab(make(_mainWindowStyleController, kQVFullscreenOverlayStyle), localized("Window style"));
     for (const auto* section :
          {&_subtitlesStyleController, &_feedbackStyleController, &_displayStyleController, &_mainWindowStyleController})
-        yieldMnemonics(*(*section)->widget(), *c._pages);
+        PreferencesPages::yieldMnemonics(*(*section)->widget(), *c._pages);
 }
 
 void QVPreferencesController::connectControls() {
@@ -268,7 +220,7 @@ void QVPreferencesController::showAbove(QWindow* owner) {
         _window->windowHandle()->setScreen(owner->screen());
     }
     if (!_window->isVisible()) {
-        QSize size = naturalSize(*_controls);
+        QSize size = PreferencesPages::naturalSize(*_controls->_pages);
         const QRect place = owner ? owner->geometry() : _window->screen()->availableGeometry();
         size = size.boundedTo(place.size() * 19 / 20);
         QRect frame(QPoint(), size);

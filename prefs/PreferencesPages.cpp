@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "prefs/PreferencesPages.h"
+
+#include <QAbstractButton>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLayout>
+#include <QScrollArea>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace PreferencesPages {
+
+namespace {
+
+/// The letter that, with Alt, goes to a control of this text.
+QChar mnemonicOf(const QString& text) {
+    const QKeySequence keys = QKeySequence::mnemonic(text);
+    return keys.isEmpty() ? QChar() : QChar(keys[0].key()).toLower();
+}
+
+} // namespace
+
+QSize naturalSize(const QTabWidget& pages) {
+    const QWidget& window = *pages.window();
+    const QSize around = window.sizeHint() - pages.currentWidget()->sizeHint();
+    QSize size(pages.tabBar()->sizeHint().width() + around.width(), 0);
+    for (int i = 0; i < pages.count(); ++i) {
+        QWidget* contents = static_cast<const QScrollArea*>(pages.widget(i))->widget();
+        contents->ensurePolished();
+        contents->layout()->activate();
+        size = size.expandedTo(contents->sizeHint() + around);
+    }
+    return size;
+}
+
+void yieldMnemonics(const QWidget& section, const QTabWidget& pages) {
+    QString taken;
+    for (int page = 0; page < pages.count(); ++page)
+        taken += mnemonicOf(pages.tabText(page));
+    const QWidget* page = section.parentWidget();
+    while (page && pages.indexOf(page) < 0)
+        page = page->parentWidget();
+    const auto visit = [](const auto& widgets, const auto& work) {
+        for (auto* widget : widgets)
+            work(*widget);
+    };
+    const auto take = [&](const auto& widget) {
+        if (!section.isAncestorOf(&widget))
+            taken += mnemonicOf(widget.text());
+    };
+    if (page) {
+        visit(page->findChildren<QLabel*>(), take);
+        visit(page->findChildren<QAbstractButton*>(), take);
+    }
+    const auto yield = [&](auto& widget) {
+        if (const QChar letter = mnemonicOf(widget.text()); !letter.isNull() && taken.contains(letter))
+            widget.setText(widget.text().remove(u'&'));
+    };
+    visit(section.findChildren<QLabel*>(), yield);
+    visit(section.findChildren<QAbstractButton*>(), yield);
+}
+
+} // namespace PreferencesPages
