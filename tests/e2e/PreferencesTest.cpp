@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/e2e/PlayerFixture.h"
+
+#include <algorithm>
+#include <csignal>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace harness;
+
+namespace {
+
+class Preferences : public PlayerFixture {
+protected:
+    bool isLogged(const std::string& text) {
+        return std::ranges::any_of(player->errorLines(),
+                                   [&](const std::string& line) { return line.find(text) != std::string::npos; });
+    }
+    std::size_t keysHeard() {
+        const std::vector<std::string> lines = player->errorLines();
+        return static_cast<std::size_t>(std::ranges::count_if(
+            lines, [](const std::string& line) { return line.find("Char:") != std::string::npos; }));
+    }
+    /// Whether the settings file gets the key's value ("<true/>").
+    testing::AssertionResult stores(const std::string& key, const std::string& value) {
+        const std::string entry = "<key>" + key + "</key>";
+        const auto isStored = [&] {
+            const std::string text = user.settingsText();
+            const auto at = text.find(entry);
+            return at != std::string::npos && text.find(value, at) == text.find('<', at + entry.size());
+        };
+        if (waitUntil(isStored))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << key << " is not stored as " << value << ":\n" << user.settingsText();
+    }
+    /// Opens the window by key over the middle of the screen.
+    testing::AssertionResult opens() {
+        _movie = probe.windowAt(screenWidth / 2, screenHeight / 2);
+        probe.tap(XK_comma, {XK_Control_L});
+        if (!waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != _movie; }))
+            return testing::AssertionFailure() << "no window opened";
+        // It has the keyboard when the player no longer hears of a key that nobody knows.
+        const bool hasKeyboard = waitUntil([&] {
+            const std::size_t heard = keysHeard();
+            probe.tap(XK_F8);
+            return staysTrue([&] { return keysHeard() == heard; }, Seconds(0.3));
+        });
+        return hasKeyboard ? testing::AssertionSuccess() : testing::AssertionFailure() << "it has not the keyboard";
+    }
+    bool closes() {
+        return waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) == _movie; });
+    }
+
+private:
+    WindowId _movie = 0;
+};
+
+} // namespace
+
+TEST_F(Preferences, are_changed_without_a_mouse_while_the_movie_plays_on) {
+    start({"--set", "QVPauseOnDeactivate=1", numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    ASSERT_TRUE(opens());
+    const std::size_t before = keysHeard();
+    probe.tap(XK_f, {XK_Alt_L});
+    EXPECT_TRUE(stores("QVOnLaunchDefaultAction", "<integer>2</integer>")) << "a radio button";
+    probe.tap(XK_z, {XK_Alt_L});
+    probe.tap(XK_Home);
+    EXPECT_TRUE(stores("QVDefaultMovieSize", "<integer>0</integer>")) << "a pop-up";
+    EXPECT_TRUE(probe.waitForColor(5, 5, Color{0, 0, 0})) << "the movie is half as large";
+    probe.tap(XK_Tab);
+    probe.tap(XK_Tab);
+    probe.tap(XK_space);
+    EXPECT_TRUE(stores("QVControllerVisible", "<true/>")) << "a check box";
+    EXPECT_TRUE(logs("Showing movie contoller."));
+    probe.tap(XK_Tab);
+    probe.tap(XK_3);
+    probe.tap(XK_5);
+    EXPECT_TRUE(stores("QVJumpInterval", "<integer>35</integer>")) << "a number";
+    EXPECT_EQ(keysHeard(), before) << "the player hears of no key";
+    EXPECT_FALSE(isLogged("Saved movie state")) << "its own window pauses the movie";
+
+    for (const bool byEscape : {true, false}) {
+        if (byEscape)
+            probe.tap(XK_Escape);
+        else
+            probe.tap(XK_w, {XK_Control_L});
+        EXPECT_TRUE(closes());
+        // The keyboard is the player's again.
+        EXPECT_TRUE(tapUntil(XK_m, [&] { return isLogged("Char: \"m\""); }));
+        EXPECT_TRUE(opens());
+    }
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, go_with_the_player) {
+    start({numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    ASSERT_TRUE(opens());
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
+    EXPECT_TRUE(player->faults().empty());
+}
