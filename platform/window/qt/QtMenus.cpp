@@ -148,8 +148,9 @@ void QtMenus::showBar() {
 }
 
 void QtMenus::hideBar() {
-    // A title stays marked that the pointer left by way of the window, or that Escape gave to the arrow keys.
-    _bar->setActiveAction(nullptr);
+    // After Escape one of its titles stays marked, for the arrow keys.
+    QFocusEvent left(QEvent::FocusOut);
+    QCoreApplication::sendEvent(_bar.get(), &left);
     _bar->hide();
 }
 
