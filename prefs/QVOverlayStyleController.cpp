@@ -268,7 +268,7 @@ void QVOverlayStyleController::_backgroundFrameWidthSetEnabled(bool enabled) {
 template <class Value>
 void QVOverlayStyleController::change(Value OverlayStyle::*field, const std::type_identity_t<Value>& value,
                                       const char* message, const QString& text) {
-    const QString& styleKey = OverlayStyle::keyOf(field);
+    const QString styleKey = OverlayStyle::keyOf(field);
     trace(message, className, styleKey, _key, text);
     if (_model)
         _model->set(field, value);
