@@ -32,7 +32,7 @@ struct OverlayStyleSection : testing::Test {
     }
     template <class Widget = QWidget>
     Widget& find(const char* name) const {
-        auto* widget = controller.widget()->findChild<Widget*>(name);
+        auto* widget = dynamic_cast<Widget*>(controller.widget()->findChild<QWidget*>(name));
         EXPECT_TRUE(widget) << name;
         return *widget;
     }
@@ -121,7 +121,8 @@ TEST_F(OverlayStyleSection, every_control_stores_its_value_and_announces_its_key
         const int before = posts.count;
         use();
         // A colour comes in parts when its opacity changes, too.
-        const int most = controller.widget()->findChild<ColorWell*>(control) ? 2 : 1;
+        const bool isWell = dynamic_cast<ColorWell*>(controller.widget()->findChild<QWidget*>(control)) != nullptr;
+        const int most = isWell ? 2 : 1;
         ASSERT_TRUE(posts.count > before && posts.count <= before + most);
         EXPECT_EQ(posts.last->key, kQVFeedbackOverlayStyle);
         EXPECT_EQ(posts.last->styleKeys, QStringList{key});
