@@ -55,8 +55,7 @@ LanguageModel::LanguageModel(const LanguageSample& sample)
         std::erase_if(letters, [](char16_t letter) { return letter != betweenWords && isASCII(letter); });
     }
     std::ranges::sort(letters);
-    const auto repeated = std::ranges::unique(letters);
-    letters.erase(repeated.begin(), repeated.end());
+    letters.erase(std::unique(letters.begin(), letters.end()), letters.end());
     _letters = std::move(letters);
     if (sample.writing != Writing::characters)
         count(text);

@@ -47,7 +47,7 @@ public:
         _bytes = std::move(bytes);
         _encoding = encodings[choice % std::size(encodings)];
         for (const bool isRepairing : {false, true}) {
-            _settings.setBool(isRepairing, kQVSubtitlesRepair);
+            _settings.setOverride(kQVSubtitlesRepair, isRepairing); // nothing is to be stored
             this->unload();
             this->preload();
             check(isRepairing);
