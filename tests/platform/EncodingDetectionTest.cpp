@@ -144,7 +144,7 @@ TEST(EncodingDetection, what_stands_between_the_lines_does_not_decide) {
 }
 
 TEST(EncodingDetection, nearly_all_old_files_in_forty_languages_are_read_right) {
-    for (const auto& [cues, floor] : {std::pair(std::size_t(200), 0.99), {std::size_t(10), 0.95}}) {
+    for (const auto& [cues, share] : {std::pair(std::size_t(200), 0.99), {std::size_t(10), 0.95}}) {
         Tally tally;
         std::minstd_rand draw(7);
         for (const SpokenText& text : spokenTexts())
@@ -152,7 +152,7 @@ TEST(EncodingDetection, nearly_all_old_files_in_forty_languages_are_read_right) 
                 for (const Markup markup : {Markup::none, Markup::tags})
                     tally.add(text, encoding, cues, markup, draw);
         EXPECT_GT(tally.files, 200);
-        EXPECT_GE(tally.right, tally.files * floor) << cues << " cues, wrong:\n" << tally.wrong;
+        EXPECT_GE(tally.right, tally.files * share) << cues << " cues, wrong:\n" << tally.wrong;
     }
 }
 

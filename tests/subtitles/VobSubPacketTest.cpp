@@ -68,7 +68,9 @@ TEST(VobSubPacket, malformed_control_sequences_are_refused) {
         for (const std::int32_t dataSize : {1, 1000, 65535, -1})
             (void)ControlSequences::parse(unit, dataSize);
     }
-    for (const auto& color : ControlSequences::parse(Bytes{0, 0, 0, 4, 0, 0, 0, 4, 1, 0xFF}, 4)->pal)
+    const auto silent = ControlSequences::parse(Bytes{0, 0, 0, 4, 0, 0, 0, 4, 1, 0xFF}, 4);
+    ASSERT_TRUE(silent);
+    for (const auto& color : silent->pal)
         EXPECT_EQ(color.pal + color.tr, 0) << "not visible without a command that says so";
 }
 
