@@ -167,6 +167,7 @@ TEST_F(VobSub, an_archive_is_unpacked_beside_the_playing_movie_for_as_long_as_so
     }
     start({numbered("2.mp4", green, 300)});
     EXPECT_TRUE(isClean()) << "what the killed player left stays";
+    ASSERT_TRUE(colorBecomes(green)) << "there is no window yet that takes keys";
     ::setenv("PATH", path.c_str(), 1);
     ::unsetenv("TMPDIR");
     ASSERT_TRUE(quitsCleanly());
