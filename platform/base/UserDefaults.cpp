@@ -126,6 +126,12 @@ void UserDefaults::setChosenObject(const QVariant& value, const QString& key) {
     setObject(value, key);
 }
 
+void UserDefaults::setOwnValues(const OwnValues& values, const QString& key) {
+    _overrides.remove(key);
+    setObject(values.user, key);
+    setOverride(key, values.override);
+}
+
 bool UserDefaults::hasStoredValue(const QString& key) const {
     return _overrides.contains(key) || _domain.contains(key);
 }

@@ -78,6 +78,15 @@ public:
     /// key, and takes the override's place.
     void setChosenObject(const QVariant& value, const QString& key);
 
+    /// What lies above the registered value of a key; invalid where nothing does.
+    struct OwnValues {
+        QVariant override;
+        QVariant user;
+    };
+    OwnValues ownValues(const QString& key) const { return {_overrides.value(key), _domain.value(key)}; }
+    /// Puts both in place by the user's choice; an invalid one takes away what is there.
+    void setOwnValues(const OwnValues& values, const QString& key);
+
     /// Whether the user's domain (or an override) holds a value of its own for the key.
     bool hasStoredValue(const QString& key) const;
     /// The user's domain: what was stored when this process began, with its own changes.
