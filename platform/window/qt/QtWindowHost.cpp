@@ -138,8 +138,10 @@ void QtWindowHost::placeOnScreen() {
         if (candidate->geometry() != frame)
             continue;
         // A whole screen is asked for as such: panels and docks then lie below. Wayland is told which screen when a
-        // window appears, not while it fills another one.
-        const bool appearsAnew = isWayland() && isVisible() && screen() != candidate;
+        // window appears, not while it fills another one. Which one it fills is what was asked for: Qt 6.8's screen()
+        // names the first one that the window touched while it appeared.
+        const bool appearsAnew = isWayland() && isVisible() && _filledScreen != candidate;
+        _filledScreen = candidate;
         if (appearsAnew)
             setVisible(false);
         setScreen(candidate);
@@ -149,6 +151,7 @@ void QtWindowHost::placeOnScreen() {
             setVisible(true);
         return;
     }
+    _filledScreen = nullptr;
     setWindowStates(Qt::WindowNoState);
     setGeometry(frame);
 }

@@ -8,7 +8,9 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QPointer>
 #include <QRegion>
+#include <QScreen>
 #include <QWindow>
 
 #include <memory>
@@ -87,7 +89,8 @@ private:
     QImage _canvas; // where the window's own pixels cannot be drawn into
     std::unique_ptr<OpenGL> _openGL;
     std::unique_ptr<QtMenus> _menus;
-    QRegion _dirty; // pixels
+    QRegion _dirty;                  // pixels
+    QPointer<QScreen> _filledScreen; // null while the window fills none
     bool _paintScheduled = false;
     bool _followingWindowSystem = false;
     bool _pointerHidden = false;
