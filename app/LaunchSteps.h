@@ -2,7 +2,7 @@
 #pragma once
 
 /// The steps of launch and termination that are components of their own: first-time configuration, donation prompt,
-/// version check, saved state. Those that do not exist do nothing. Main thread.
+/// version check, panels. Those that do not exist do nothing. Main thread.
 class LaunchSteps {
 public:
     virtual ~LaunchSteps() = default;
@@ -11,9 +11,6 @@ public:
     virtual void askDonation() {}
     virtual bool shouldCheckLatestVersion() { return false; }
     virtual void checkLatestVersion() {}
-    /// Puts the playlist and the place in it back.
-    virtual void restoreState() {}
-    virtual void saveState() {}
     /// Shows the help panel until it is closed.
     virtual void runHelpPanel() {}
     /// Shows the panel of the whole playlist until it is closed.

@@ -45,14 +45,18 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                               platform.desktop,
                               _commands,
                               _files,
-                              _feedback})
+                              _feedback,
+                              _memory})
     , _subtitleScene(environment, _window, _view)
     , _subtitles(environment, _subtitleScene)
+    , _heldSubtitles(environment, _subtitles)
+    , _state(environment, {_playlist, _view, _subtitles, _heldSubtitles})
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
     , _activation(environment, _window, _view, _pointer)
-    , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop,
-                                 _playlist, _subtitles, _commands, _display, _menu, _pointer, _files, _activation})
+    , _application(environment,
+                   {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop, _playlist,
+                    _subtitles, _commands, _display, _menu, _pointer, _files, _activation, _state})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
     _window.contentView().addSubview(_backdrop);

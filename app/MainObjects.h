@@ -5,10 +5,12 @@
 #include "app/CommandRelay.h"
 #include "app/CurrentTexts.h"
 #include "app/FileIntake.h"
+#include "app/HeldSubtitles.h"
 #include "app/MainMenu.h"
 #include "app/PointerAutohide.h"
 #include "app/QVAppController.h"
 #include "app/QVFullScreenWindow.h"
+#include "app/SavedState.h"
 #include "app/SubtitlesOverMovie.h"
 #include "context/Environment.h"
 #include "control/QVMovieController.h"
@@ -17,6 +19,7 @@
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
 #include "playback/SubtitleDiscovery.h"
+#include "playlist/MovieMemory.h"
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
 #include "subtitles/SubtitleRegistry.h"
@@ -64,10 +67,13 @@ private:
     SubtitleRegistry _subtitleReaders;
     SubtitleDiscovery _subtitleDiscovery;
     BackdropView _backdrop;
+    MovieMemory _memory;
     QVMovieView _view;
     QVPlaylistController _playlist;
     SubtitlesOverMovie _subtitleScene;
     QVSubtitlesController _subtitles;
+    HeldSubtitles _heldSubtitles;
+    SavedState _state;
     CurrentTexts _texts;
     OSDOnDemand _display;
     MainMenu _menu;

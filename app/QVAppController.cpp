@@ -7,6 +7,7 @@
 #include "app/MainMenu.h"
 #include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
+#include "app/SavedState.h"
 #include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
 #include "context/CommandTarget.h"
@@ -29,11 +30,6 @@
 namespace {
 
 constexpr const char* className = "QVAppController";
-
-namespace launchAction {
-constexpr std::int32_t restoreState = 1;
-constexpr std::int32_t openPanel = 2;
-} // namespace launchAction
 
 /// The screen that holds the middle of the window, else the main one; none without screens.
 std::optional<platform::Screen> screenOf(const platform::Window& window, const platform::Desktop& desktop) {
@@ -147,7 +143,7 @@ void QVAppController::runLaunchAction() {
         trace("%@: No movie files to open ...", className);
         switch (_environment.settings.integerForKey(kQVOnLaunchDefaultAction)) {
         case launchAction::restoreState:
-            _with.steps.restoreState();
+            restoreState();
             break;
         case launchAction::openPanel:
             doOpen();
@@ -156,7 +152,6 @@ void QVAppController::runLaunchAction() {
             break;
         }
     }
-    _is_state_restored = true;
 }
 
 void QVAppController::openFilesOfLaunch() {
@@ -193,6 +188,14 @@ void QVAppController::finishAddingFiles() {
 
 bool QVAppController::isLaunching() const {
     return _with.files.isLaunching();
+}
+
+void QVAppController::saveState() {
+    _with.state.saveState();
+}
+
+void QVAppController::restoreState() {
+    _with.state.restoreState(nullptr);
 }
 
 void QVAppController::doOpen() {
@@ -258,6 +261,7 @@ void QVAppController::preferencesChanged(const QVPreferencesChangedNotification&
 
 platform::ApplicationDelegate::TerminateReply QVAppController::applicationShouldTerminate() {
     const TraceScope scope("-[QVAppController applicationShouldTerminate:]");
+    endIntake();
     keepForNextLaunch();
     _with.steps.closePreferences();
     if (_with.view.isPlaying())
@@ -270,19 +274,20 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
     return TerminateReply::later;
 }
 
-/// What this run leaves to the next one, in the settings.
-void QVAppController::keepForNextLaunch() {
+void QVAppController::endIntake() {
     _is_terminating = true;
     _with.files.end();
-    if (_environment.settings.boolForKey(kQVVolumeSave)) {
-        if (_with.controller.forceMuted())
-            _with.controller.setForceMuted(false);
+    if (_environment.settings.boolForKey(kQVVolumeSave) && _with.controller.forceMuted())
+        _with.controller.setForceMuted(false);
+}
+
+/// What this run leaves to the next one, in the settings.
+void QVAppController::keepForNextLaunch() {
+    if (_environment.settings.boolForKey(kQVVolumeSave))
         _environment.settings.setFloat(_with.view.volume(), kQVVolumeSavedLevel);
-    }
     // What the launch has not put back yet is kept as it is.
-    if (_is_state_restored &&
-        _environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
-        _with.steps.saveState();
+    if (_environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState)
+        saveState();
     if (_is_display_restored && _environment.settings.boolForKey(kQVOSDStateSave))
         _environment.settings.setInteger(_with.display.displayType(), kQVOSDStateSavedType);
 }
@@ -290,6 +295,15 @@ void QVAppController::keepForNextLaunch() {
 void QVAppController::applicationLostDisplay() {
     const TraceScope scope("-[QVAppController applicationLostDisplay:]");
     // Whoever was told to end before has kept it already.
+    if (!_is_terminating) {
+        endIntake();
+        keepForNextLaunch();
+    }
+    _environment.settings.synchronize();
+}
+
+void QVAppController::applicationSavesSession() {
+    const TraceScope scope("-[QVAppController applicationSavesSession:]");
     if (!_is_terminating)
         keepForNextLaunch();
     _environment.settings.synchronize();

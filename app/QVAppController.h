@@ -29,6 +29,7 @@ class QVFullScreenWindow;
 class QVMovieView;
 class QVPlaylistController;
 class QVSubtitlesController;
+class SavedState;
 
 /// The application's delegate: launch, changes of the screens, termination. What is handed over, activation and
 /// the hiding of the pointer have objects of their own, to which it passes on what it is told. Main thread.
@@ -51,6 +52,7 @@ public:
         PointerAutohide& pointer;
         FileIntake& files;
         Activation& activation;
+        SavedState& state;
     };
     QVAppController(const Environment& environment, const Collaborators& collaborators);
     QVAppController(const QVAppController&) = delete;
@@ -74,6 +76,7 @@ public:
     void applicationDidChangeScreenParameters() override;
     TerminateReply applicationShouldTerminate() override;
     void applicationLostDisplay() override;
+    void applicationSavesSession() override;
     void applicationWillTerminate() override;
     void windowDidBecomeKey(platform::Window& window) override;
     void windowDidResignKey(platform::Window& window) override;
@@ -84,6 +87,9 @@ public:
     /// The launch's second half, once the window has faded in. Ends early where the program is told to end meanwhile.
     void finishLaunching();
     bool isLaunching() const;
+    /// What was being watched is kept for the next launch; and is put back, without waiting for it.
+    void saveState();
+    void restoreState();
     void hideCursor();
     void showCursor();
     void scheduleCursorHide();
@@ -94,6 +100,7 @@ public:
     void cycleDisplays(std::int32_t direction) override;
 
 private:
+    void endIntake();
     void keepForNextLaunch();
     void cleanup();
     // The steps of finishLaunching, in their order.
@@ -109,7 +116,6 @@ private:
     Environment _environment;
     Collaborators _with;
     std::unique_ptr<platform::Timer> _launchTimer;
-    bool _is_state_restored = false;
     bool _is_display_restored = false;
     bool _is_terminating = false;
     float _savedBrightness = 1.0F;

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -52,9 +53,11 @@ struct QVVersionCheckNotification {
     QString mark;
 };
 
-/// Posted by the playlist each time a position is set, with the movie that is now the current one.
+/// Posted by the playlist each time a position is set, with the movie that is now the current one, and the time at
+/// which one that was not current begins, in its units.
 struct QVPlaylistMovieChangedNotification {
     std::shared_ptr<QVMovie> movie;
+    std::int32_t time = 0;
 };
 
 struct QVPlaylistLoopingChangedNotification {

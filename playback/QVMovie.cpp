@@ -52,7 +52,8 @@ std::shared_ptr<QVMovie> QVMovie::movieWithOpened(const Environment& environment
 QVMovie::QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info)
     : Movie(std::move(info), services.toolkit.player())
     , _environment(environment)
-    , _services(services) {}
+    , _services(services)
+    , _address(url().toString(QUrl::FullyEncoded)) {}
 
 QVMovie::~QVMovie() {
     cancelCallbacks();

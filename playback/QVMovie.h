@@ -54,6 +54,8 @@ public:
     platform::Rect naturalFrame(double windowHeight) const;
     const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const override { return _subtitles; }
     QString description() const { return url().toString(); }
+    /// The absolute URL as it is saved: with everything encoded that a URL cannot hold.
+    const QString& address() const { return _address; }
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
     void setTime(std::int32_t time);
@@ -84,6 +86,7 @@ private:
 
     Environment _environment;
     MovieServices _services;
+    QString _address;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     /// That in which the files were looked for; none where they were not.
     std::optional<ReadingMode> _fetchedIn;

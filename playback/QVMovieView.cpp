@@ -309,9 +309,10 @@ bool QVMovieView::performDragOperation(const platform::DraggingInfo& info) {
 void QVMovieView::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
     // Loaded where it was left, the movie would show that place first.
     if (notification.movie && notification.movie != movie())
-        notification.movie->setTimeValue(0);
+        notification.movie->setTimeValue(notification.time);
     setMovie(notification.movie);
-    gotoBeginning();
+    if (notification.time == 0)
+        gotoBeginning();
 }
 
 void QVMovieView::preferencesChanged(const QVPreferencesChangedNotification& notification) {

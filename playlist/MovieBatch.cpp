@@ -26,16 +26,18 @@ constexpr double addressTimeout = 0.3;
 } // namespace
 
 MovieBatch::MovieBatch(const Environment& environment, const MovieServices& services, QList<QUrl> urls,
-                       Doubtful doubtful, Client& client)
+                       Doubtful doubtful, Client& client, First first)
     : _environment(environment)
     , _services(services)
     , _urls(std::move(urls))
     , _doubtful(doubtful)
     , _client(client)
-    , _items(static_cast<std::size_t>(_urls.size())) {
+    , _items(static_cast<std::size_t>(_urls.size()))
+    , _first(first) {
     _files.limit = maximumFiles;
     _addresses.limit = maximumAddresses;
-    for (std::size_t place = 0; place < _items.size(); ++place) {
+    for (std::size_t number = 0; number < _items.size(); ++number) {
+        const std::size_t place = inTurn(number);
         const bool isFile = _urls[static_cast<qsizetype>(place)].isLocalFile();
         (isFile ? _files : _addresses).places.push_back(place);
     }
@@ -50,7 +52,7 @@ void MovieBatch::begin() {
     }
     fill(_files);
     fill(_addresses);
-    if (!_addresses.places.empty()) {
+    if (!_addresses.places.empty() && _first.wait == First::Wait::aMoment) {
         _addressTimer = _environment.loop.schedule(addressTimeout, false, [this] {
             _waitsForFirst = false;
             if (!_undelivered.empty())
@@ -98,9 +100,9 @@ void MovieBatch::opened(std::size_t place, Lane& lane, std::shared_ptr<QVMovie> 
 }
 
 bool MovieBatch::isFirstOpen() {
-    while (_firstAwaited < _items.size() && _items[_firstAwaited].outcome == Outcome::failed)
+    while (_firstAwaited < _items.size() && _items[inTurn(_firstAwaited)].outcome == Outcome::failed)
         ++_firstAwaited;
-    return !_waitsForFirst || (_firstAwaited < _items.size() && _items[_firstAwaited].outcome == Outcome::open);
+    return !_waitsForFirst || (_firstAwaited < _items.size() && _items[inTurn(_firstAwaited)].outcome == Outcome::open);
 }
 
 void MovieBatch::deliver() {
@@ -136,4 +138,13 @@ QUrl MovieBatch::awaitedAddress() const {
             return _urls[static_cast<qsizetype>(place)];
     }
     return {};
+}
+
+std::vector<std::size_t> MovieBatch::awaitedPlaces() const {
+    std::vector<std::size_t> places;
+    for (std::size_t place = 0; place < _items.size(); ++place) {
+        if (_items[place].outcome == Outcome::awaited)
+            places.push_back(place);
+    }
+    return places;
 }

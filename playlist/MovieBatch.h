@@ -39,7 +39,7 @@ public:
     public:
         virtual ~Client() = default;
         /// These are open now, in their order. The first part holds the first movie of all that can be opened, unless
-        /// a network address holds that up.
+        /// a network address holds that up that need not be waited for.
         virtual void batchOpened(MovieBatch& batch, const std::vector<Entry>& entries) = 0;
         /// Nothing is under way any more; the batch may be destroyed here.
         virtual void batchEnded(MovieBatch& batch) = 0;
@@ -47,9 +47,16 @@ public:
     /// Whether movies that may not play as they should are kept back for a question, or told like the others.
     enum class Doubtful : bool { told, keptBack };
 
+    /// Which movie is the first: opened before the others, those after it following, then those before it. That of the
+    /// beginning is not waited for where it is one of a network.
+    struct First {
+        std::size_t place = 0;
+        enum class Wait : bool { aMoment, untilAnswered } wait = Wait::aMoment;
+    };
+
     /// The client outlives the batch, and hears nothing before begin() has returned.
     MovieBatch(const Environment& environment, const MovieServices& services, QList<QUrl> urls, Doubtful doubtful,
-               Client& client);
+               Client& client, First first);
     MovieBatch(const MovieBatch&) = delete;
     MovieBatch& operator=(const MovieBatch&) = delete;
     ~MovieBatch();
@@ -62,6 +69,8 @@ public:
     const std::vector<Entry>& doubtful() const { return _keptBack; }
     /// The network address that has been waited for longest; an empty one when there is none.
     QUrl awaitedAddress() const;
+    /// Those that are neither open nor given up.
+    std::vector<std::size_t> awaitedPlaces() const;
 
 private:
     enum class Outcome : std::uint8_t { awaited, open, failed };
@@ -80,6 +89,8 @@ private:
     void fill(Lane& lane);
     void opened(std::size_t place, Lane& lane, std::shared_ptr<QVMovie> movie, std::int16_t error);
     bool isFirstOpen();
+    /// Places in the order in which they are opened.
+    std::size_t inTurn(std::size_t number) const { return (_first.place + number) % _items.size(); }
     void deliver();
     void end();
 
@@ -92,7 +103,8 @@ private:
     Lane _files;
     Lane _addresses;
     std::size_t _answered = 0;
-    std::size_t _firstAwaited = 0; // none before it is open
+    First _first;
+    std::size_t _firstAwaited = 0; // none before it is open; counted from the first one
     std::vector<Entry> _undelivered;
     std::vector<Entry> _keptBack;
     bool _hasDelivered = false;

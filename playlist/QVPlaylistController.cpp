@@ -12,6 +12,7 @@
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
+#include "playlist/MovieMemory.h"
 #include "playlist/OpenPanel.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
@@ -109,8 +110,8 @@ QVPlaylistController::QVPlaylistController(const Environment& environment, const
 QStringList QVPlaylistController::arrayWithURLsAsStrings() const {
     QStringList strings;
     for (const auto& movie : _playlist) {
-        if (const QString text = movie->url().toString(QUrl::FullyEncoded); !text.isEmpty())
-            strings.append(text);
+        if (!movie->address().isEmpty())
+            strings.append(movie->address());
     }
     return strings;
 }
@@ -198,12 +199,17 @@ void QVPlaylistController::reset() {
 }
 
 void QVPlaylistController::setIndex(std::uint32_t index) {
+    selectAt(index, 0);
+}
+
+void QVPlaylistController::selectAt(std::uint32_t index, std::int32_t time) {
     const auto entry = movieAtIndex(index);
     if (!entry)
         return;
-    trace("%@: Next movie: %@", className, entry->url().toString(QUrl::FullyEncoded));
+    _with.memory.movieWillChange();
+    trace("%@: Next movie: %@", className, entry->address());
     _index = index;
-    _environment.notifications.post(QVPlaylistMovieChangedNotification{entry});
+    _environment.notifications.post(QVPlaylistMovieChangedNotification{entry, time});
 }
 
 void QVPlaylistController::play() {

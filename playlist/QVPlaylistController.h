@@ -27,6 +27,7 @@ class Desktop;
 
 class CommandTarget;
 class FeedbackDisplay;
+class MovieMemory;
 class OpenPanel;
 class QVMovie;
 class QVMovieView;
@@ -37,6 +38,16 @@ inline constexpr std::uint32_t NSNotFound = 0x7FFFFFFF;
 /// Whether an add takes the list's place or is appended, and whether it may start to play.
 enum class Adding : bool { append, replace };
 enum class Starting : bool { no, yes };
+
+/// What a saved list is put back with: the position of the current movie in it, where that stood, whether it played,
+/// and the looping mode. A time is in the movie's units; where that movie cannot be opened, another one begins at its
+/// beginning.
+struct SavedPlace {
+    std::uint32_t index = 0;
+    std::int32_t time = 0;
+    bool isPlaying = false;
+    std::int32_t looping = 0;
+};
 
 /// The ordered list of movies, the position in it, and what happens when a movie and the list end. Main thread.
 class QVPlaylistController final : private MovieBatch::Client {
@@ -49,6 +60,7 @@ public:
         CommandTarget& commands;
         OpenPanel& openPanel;
         FeedbackDisplay& feedback;
+        MovieMemory& memory;
     };
     QVPlaylistController(const Environment& environment, const Collaborators& collaborators);
     QVPlaylistController(const QVPlaylistController&) = delete;
@@ -63,10 +75,20 @@ public:
     /// beside each other, but a list that is replaced gives up those begun before.
     void addURLs(const QList<QUrl>& urls, Adding adding, Starting starting, Added added = nullptr,
                  QList<OpeningFailure> failures = {});
+    /// The same for a list that was saved, which takes the list's place: the current movie is opened first and found by
+    /// its address; where it cannot be opened the next one of the list that can is the current one, else the first. The
+    /// order is kept, whatever the arrangement.
+    void restoreURLs(const QList<QUrl>& urls, const SavedPlace& place, Added added);
 
     std::uint32_t count() const { return static_cast<std::uint32_t>(_playlist.size()); }
     /// The entries' URLs as absolute strings: the form in which the list is saved.
     QStringList arrayWithURLsAsStrings() const;
+    /// The same with those that are still being opened, in their places, and where the current entry stands among them.
+    struct Contents {
+        QStringList addresses;
+        std::uint32_t index = NSNotFound;
+    };
+    Contents contentsWithAwaited() const;
     std::uint32_t index() const { return _index; }
     std::shared_ptr<QVMovie> movie() const { return movieAtIndex(_index); }
     std::shared_ptr<QVMovie> movieAtIndex(std::uint32_t index) const;
@@ -108,12 +130,15 @@ public:
 
 private:
     struct Addition;
+    void begin(std::shared_ptr<Addition> addition, QList<QUrl> urls, MovieBatch::First first);
     void batchOpened(MovieBatch& batch, const std::vector<MovieBatch::Entry>& entries) override;
     void batchEnded(MovieBatch& batch) override;
     Addition& additionOf(const MovieBatch& batch) const;
     void takeIn(Addition& addition, const std::vector<MovieBatch::Entry>& entries);
     void overtake(const Addition& addition);
     void replaceBy(Addition& addition, const std::vector<MovieBatch::Entry>& entries);
+    void putBack(const SavedPlace& place, const std::vector<MovieBatch::Entry>& entries);
+    void selectAt(std::uint32_t index, std::int32_t time);
     void insert(Addition& addition, const std::vector<MovieBatch::Entry>& entries);
     std::uint32_t positionFor(const Addition& addition, std::size_t place) const;
     void keepFolders(const std::vector<MovieBatch::Entry>& entries);

@@ -10,6 +10,7 @@
 #include "platform/movie/Movie.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
+#include "playlist/MovieMemory.h"
 #include "playlist/OpenPanel.h"
 #include "playlist/OpeningReport.h"
 #include "settings/SettingsKeys.h"
@@ -33,6 +34,8 @@ struct QVPlaylistController::Addition {
     Added added;
     QList<OpeningFailure> failures;
     std::uint64_t number = 0;
+    /// Where the list that is put back stood.
+    std::optional<SavedPlace> saved;
     /// Whether the first part took the list's place.
     bool hasReplaced = false;
     /// Its movies by their places in the order given.
@@ -58,10 +61,27 @@ void QVPlaylistController::addURLs(const QList<QUrl>& urls, Adding adding, Start
     addition->reportsError = _reports_error;
     addition->added = std::move(added);
     addition->failures = std::move(failures);
+    begin(std::move(addition), std::move(ordered), {});
+}
+
+void QVPlaylistController::restoreURLs(const QList<QUrl>& urls, const SavedPlace& place, Added added) {
+    const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
+    auto addition = std::make_shared<Addition>();
+    addition->adding = Adding::replace;
+    addition->reportsError = _reports_error;
+    addition->added = std::move(added);
+    addition->saved = place;
+    if (addition->saved->index >= static_cast<std::uint64_t>(urls.size()))
+        addition->saved = SavedPlace{0, 0, place.isPlaying, place.looping}; // the time is of none of them
+    begin(std::move(addition), urls, {addition->saved->index, MovieBatch::First::Wait::untilAnswered});
+}
+
+void QVPlaylistController::begin(std::shared_ptr<Addition> addition, QList<QUrl> urls, MovieBatch::First first) {
     addition->number = ++_additionsMade;
     const auto doubtful = _reports_error ? MovieBatch::Doubtful::keptBack : MovieBatch::Doubtful::told;
     MovieBatch::Client& client = *this;
-    addition->batch = std::make_unique<MovieBatch>(_environment, _with.movies, std::move(ordered), doubtful, client);
+    addition->batch =
+        std::make_unique<MovieBatch>(_environment, _with.movies, std::move(urls), doubtful, client, first);
     _additions.push_back(addition);
     addition->batch->begin();
     sayWhatIsAwaited();
@@ -108,10 +128,55 @@ void QVPlaylistController::replaceBy(Addition& addition, const std::vector<Movie
         addition.movies[entry.place] = entry.movie;
     }
     _index = NSNotFound;
-    reset();
+    if (addition.saved) {
+        putBack(*addition.saved, entries);
+        return;
+    }
+    _finished = false;
+    selectAt(0, _with.memory.placeOf(*_playlist.front()));
     setLooping(_environment.settings.integerForKey(kQVPlaylistDefaultLooping));
     if (addition.starting == Starting::yes && _auto_play)
         play();
+}
+
+/// The first part holds the movie that the list is to stand at.
+void QVPlaylistController::putBack(const SavedPlace& place, const std::vector<MovieBatch::Entry>& entries) {
+    const auto found = std::ranges::lower_bound(entries, std::size_t{place.index}, {}, &MovieBatch::Entry::place);
+    const bool isSame = found != entries.end() && found->place == place.index;
+    _finished = false;
+    setLooping(place.looping);
+    selectAt(found == entries.end() ? 0 : static_cast<std::uint32_t>(found - entries.begin()), isSame ? place.time : 0);
+    if (place.isPlaying)
+        play();
+}
+
+QVPlaylistController::Contents QVPlaylistController::contentsWithAwaited() const {
+    // What is awaited stands before the entry of this position; what is to come at the end, at the list's count.
+    std::multimap<std::uint32_t, QString> awaited;
+    for (const auto& addition : _additions) {
+        std::optional<std::uint32_t> position;
+        std::size_t last = 0;
+        for (const std::size_t place : addition->batch->awaitedPlaces()) {
+            const auto between = addition->movies.lower_bound(last);
+            if (!position || (between != addition->movies.end() && between->first < place))
+                position = positionFor(*addition, place);
+            last = place;
+            awaited.emplace(*position,
+                            addition->batch->urls()[static_cast<qsizetype>(place)].toString(QUrl::FullyEncoded));
+        }
+    }
+    if (awaited.empty())
+        return {arrayWithURLsAsStrings(), _index};
+    Contents contents;
+    for (std::uint32_t position = 0; position <= count(); ++position) {
+        for (auto [next, end] = awaited.equal_range(position); next != end; ++next)
+            contents.addresses.append(next->second);
+        if (position == _index)
+            contents.index = static_cast<std::uint32_t>(contents.addresses.size());
+        if (position < count())
+            contents.addresses.append(_playlist[position]->address());
+    }
+    return contents;
 }
 
 /// What was asked for before does not come in the place of what has come since: a list that is replaced gives it up,

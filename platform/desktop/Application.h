@@ -25,6 +25,9 @@ public:
     virtual TerminateReply applicationShouldTerminate() = 0;
     /// There is nothing to draw on any longer, and the process ends when this returns: nobody is asked.
     virtual void applicationLostDisplay() = 0;
+    /// The session is about to end, or wants what is being done to be on the disk in case it does: nobody is asked, and
+    /// the application goes on until it is told to end.
+    virtual void applicationSavesSession() = 0;
     /// The event loop has ended.
     virtual void applicationWillTerminate() = 0;
 };

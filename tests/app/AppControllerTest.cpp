@@ -100,9 +100,11 @@ TEST(AppController, without_files_the_launch_does_what_the_settings_say) {
         const char* events;
         int panels;
     };
-    for (const Case& c : {Case{0, "configure donation", 0}, Case{1, "configure donation restore", 0},
+    for (const Case& c : {Case{0, "configure donation", 0}, Case{1, "configure donation open a.avi", 0},
                           Case{2, "configure donation open b.avi", 1}, Case{7, "configure donation", 0}}) {
-        AppRig rig({{kQVOnLaunchDefaultAction, c.launchAction}, {kNSNavLastRootDirectory, "~/movies"}});
+        AppRig rig({{kQVOnLaunchDefaultAction, c.launchAction},
+                    {kNSNavLastRootDirectory, "~/movies"},
+                    {kQVSavedState, QVariantMap{{"QVSavedPlaylist", QVariantList{"file:///movies/a.avi"}}}}});
         rig.desktop.openPanelAnswers.push_back({rig.file("b.avi")});
         rig.launch();
         EXPECT_EQ(rig.events.join(u' ').toStdString(), c.events) << c.launchAction;
@@ -501,12 +503,13 @@ TEST(AppController, quitting_stops_the_movie_hides_the_window_and_keeps_what_is_
         rig.fade();
         EXPECT_EQ(rig.window.alphaValue(), 0.0F);
         EXPECT_EQ(rig.desktop.terminationReplies, std::vector<bool>{true});
-        EXPECT_EQ(rig.events, keeps ? QStringList{"save"} : QStringList());
+        EXPECT_EQ(rig.events, QStringList());
 
         rig.app.applicationWillTerminate();
         const QVariantMap& kept = rig.settings.disk->domain;
         EXPECT_EQ(kept.value(kQVVolumeSavedLevel).toFloat(), keeps ? 0.25F : 0);
         EXPECT_EQ(kept.value(kQVOSDStateSavedType).toInt(), keeps ? 4 : 0);
+        EXPECT_EQ(kept.contains(kQVSavedState), keeps);
         EXPECT_EQ(rig.toolkit.exited, 1);
         rig.objects.reset();
         EXPECT_EQ(rig.settings.runLoop.pendingCount(), 0U);
@@ -523,7 +526,8 @@ TEST(AppController, without_a_screen_it_keeps_the_same_and_draws_nothing) {
     rig.objects->display().setDisplayType(4);
     for (int time = 0; time < 2; ++time) {
         rig.app.applicationLostDisplay();
-        EXPECT_EQ(rig.events, QStringList{"save"}) << "kept twice";
+        EXPECT_EQ(rig.settings.disk->domain.contains(kQVSavedState), time == 0) << "kept twice";
+        rig.settings.defaults().removeObjectForKey(kQVSavedState);
         EXPECT_EQ(rig.settings.disk->domain.value(kQVVolumeSavedLevel).toFloat(), 0.25F);
         EXPECT_EQ(rig.settings.disk->domain.value(kQVOSDStateSavedType).toInt(), 4);
         EXPECT_EQ(rig.window.alphaValue(), 1.0F);
@@ -540,9 +544,8 @@ TEST(AppController, told_to_end_during_the_launch_it_opens_nothing_more_and_keep
     for (const Case& c :
          {Case{"configure", false, "configure", 3}, Case{"configure", true, "configure", 3},
           Case{"donation", false, "configure donation", 3}, Case{"version", true, "configure donation version", 3},
-          Case{"restore", false, "configure donation version restore", 3},
           Case{"panel", false, "configure donation version", 3}, Case{"panel", true, "configure donation version", 3},
-          Case{"none", false, "configure donation version restore save", 4}}) {
+          Case{"none", false, "configure donation version", 4}}) {
         const QString step = c.step;
         AppRig rig(
             {{kQVOnLaunchDefaultAction, step == "panel" ? 2 : 1}, {kQVOSDStateSave, true}, {kQVOSDStateSavedType, 3}});

@@ -61,8 +61,6 @@ public:
         void askDonation() override { take("donation"); }
         bool shouldCheckLatestVersion() override { return checksVersion; }
         void checkLatestVersion() override { take("version"); }
-        void restoreState() override { take("restore"); }
-        void saveState() override { take("save"); }
         void runHelpPanel() override { take("help"); }
         void showPreferences() override { take("preferences"); }
         void closePreferences() override { ++closedPreferences; }

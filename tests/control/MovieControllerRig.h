@@ -6,6 +6,7 @@
 #include "control/ApplicationServices.h"
 #include "control/QVMovieController.h"
 #include "platform/base/Localization.h"
+#include "playlist/MovieMemory.h"
 #include "playlist/QVPlaylistController.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitlesController.h"
@@ -111,7 +112,9 @@ protected:
     RecordingMainWindow mainWindow;
     RecordingServices services;
     RecordingPointer pointer;
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel, confirmations}};
+    MovieMemory memory;
+    QVPlaylistController playlist{settings.environment,
+                                  {movies, view, desktop, commands, openPanel, confirmations, memory}};
     NoViews scene;
     RecordingSubtitles subtitles{settings.environment, scene};
     platform::Menu playlistMenu, subtitlesMenu;

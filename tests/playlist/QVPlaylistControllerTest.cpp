@@ -4,6 +4,7 @@
 #include "context/Notifications.h"
 #include "platform/base/Localization.h"
 #include "playlist/Arrangement.h"
+#include "playlist/MovieMemory.h"
 #include "playlist/OpeningReport.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/CapturedLog.h"
@@ -39,7 +40,9 @@ struct PlaylistRig : PlaybackRig {
         return names.join(u' ');
     }
 
-    QVPlaylistController playlist{settings.environment, {movies, view, desktop, commands, openPanel, confirmations}};
+    MovieMemory memory;
+    QVPlaylistController playlist{settings.environment,
+                                  {movies, view, desktop, commands, openPanel, confirmations, memory}};
 };
 
 } // namespace

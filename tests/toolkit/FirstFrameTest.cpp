@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace {
 
 std::filesystem::path pattern(const std::string& name, const std::string& size,
@@ -38,6 +40,35 @@ TEST(FirstFrame, is_the_one_that_the_player_shows_first) {
         rig.player().load(movie.get());
         EXPECT_TRUE(rig.waitFor([&] { return rig.screen.differenceTo(expected) < 3; }))
             << path << ": " << rig.screen.differenceTo(expected);
+    }
+}
+
+TEST(FirstFrame, of_a_time_is_the_one_that_the_player_shows_when_it_is_loaded_there) {
+    // A transport stream begins at another time than 0.
+    for (const std::string name : {"at.mp4", "at.mkv", "at.avi", "at.ts"}) {
+        harness::MediaFixture::Numbered numbered;
+        numbered.frames = 90;
+        const QUrl url = urlOf(media().makeNumbered(name, numbered));
+        for (const int number : {1, 29, 30, 50}) {
+            ToolkitRig rig;
+            const auto movie = rig.open(url);
+            ASSERT_TRUE(movie);
+            const auto time = static_cast<std::int32_t>(std::lround(number * movie->timeScale() / 30.0));
+            const std::atomic<bool> cancelled{false};
+            const auto first = platform::FirstFrame::decode(url, cancelled, platform::FirstFrame::PictureOf::movie,
+                                                            static_cast<double>(time) / movie->timeScale());
+            ASSERT_TRUE(first) << name << ' ' << number;
+            RenderedPicture decoded(rig.screen.size());
+            ASSERT_TRUE(first->render(decoded.size(), decoded.pixels(), decoded.stride()));
+            movie->setTimeValue(time);
+            rig.player().load(movie.get());
+            EXPECT_TRUE(rig.waitFor([&] { return rig.screen.number() == decoded.number(); })) << name << ' ' << number;
+            rig.settle();
+            EXPECT_EQ(rig.screen.number(), decoded.number()) << name;
+            if (name != "at.ts") {
+                EXPECT_EQ(rig.screen.number(), number) << name;
+            }
+        }
     }
 }
 

@@ -96,7 +96,9 @@ int QtDesktop::run(ApplicationDelegate& delegate) {
     connect(qApp, &QGuiApplication::screenAdded, this, screensChanged);
     connect(qApp, &QGuiApplication::screenRemoved, this, screensChanged);
     connect(qApp, &QGuiApplication::primaryScreenChanged, this, screensChanged);
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { terminate(); });
+    const auto sessionSaves = [this] { _delegate->applicationSavesSession(); };
+    connect(qApp, &QGuiApplication::commitDataRequest, this, sessionSaves);
+    connect(qApp, &QGuiApplication::saveStateRequest, this, sessionSaves);
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();

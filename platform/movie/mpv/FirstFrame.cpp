@@ -5,12 +5,20 @@
 #include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/VideoStream.h"
 
+#include <cmath>
+
 namespace platform {
 
 namespace {
 
 // A movie whose first picture does not come within this many packets has none that is worth waiting for.
 constexpr int packetLimit = 64;
+
+/// The player takes a picture that lies so little before a time for the one of that time. Seconds.
+constexpr double timeTolerance = 0.005;
+
+/// Pictures that no other one needs are left out as long as the time is further away than this. Seconds.
+constexpr double allPicturesMargin = 0.5;
 
 /// Pixels of a cover: more than any print has.
 constexpr std::int64_t maximumCoverPixels = 64'000'000;
@@ -42,6 +50,62 @@ int colorMatrix(const AVFrame* frame) {
     return frame->width >= 1280 || frame->height > 576 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
 }
 
+/// The caller's, or null.
+AVFrame* firstPicture(AVFormatContext* input, const AVStream* video, AVCodecContext* decoder,
+                      const std::atomic<bool>& cancelled) {
+    const AvLibrary* av = AvLibrary::get();
+    const std::unique_ptr<AVPacket, Freed> packet(av->av_packet_alloc());
+    std::unique_ptr<AVFrame, Freed> frame(av->av_frame_alloc());
+    bool sent = false;
+    for (int i = 0; i < packetLimit && !cancelled.load(); ++i) {
+        const bool ended = av->av_read_frame(input, packet.get()) < 0;
+        const bool ours = !ended && packet->stream_index == video->index;
+        if (ours)
+            sent = av->avcodec_send_packet(decoder, packet.get()) >= 0;
+        av->av_packet_unref(packet.get());
+        // The first picture is all that is wanted: the decoder is told that nothing follows it.
+        if ((ours && sent) || ended)
+            av->avcodec_send_packet(decoder, nullptr);
+        if (sent && av->avcodec_receive_frame(decoder, frame.get()) >= 0)
+            return frame.release();
+        if (ended || sent)
+            return nullptr;
+    }
+    return nullptr;
+}
+
+/// Its time counts from the beginning of the file, as the player counts it.
+AVFrame* pictureAt(AVFormatContext* input, const AVStream* video, AVCodecContext* decoder, double seconds,
+                   const std::atomic<bool>& cancelled) {
+    const AvLibrary* av = AvLibrary::get();
+    const double unit = static_cast<double>(video->time_base.num) / video->time_base.den;
+    const double target =
+        seconds + (input->start_time == AV_NOPTS_VALUE ? 0 : static_cast<double>(input->start_time) / AV_TIME_BASE);
+    if (av->av_seek_frame(input, video->index, std::llround(target / unit), AVSEEK_FLAG_BACKWARD) < 0)
+        return nullptr;
+    const std::unique_ptr<AVPacket, Freed> packet(av->av_packet_alloc());
+    std::unique_ptr<AVFrame, Freed> frame(av->av_frame_alloc());
+    for (bool ended = false; !ended && !cancelled.load();) {
+        ended = av->av_read_frame(input, packet.get()) < 0;
+        if (ended) {
+            av->avcodec_send_packet(decoder, nullptr);
+        } else if (packet->stream_index == video->index) {
+            const bool isFarBefore =
+                packet->pts != AV_NOPTS_VALUE && static_cast<double>(packet->pts) * unit < target - allPicturesMargin;
+            decoder->skip_frame = isFarBefore ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+            av->avcodec_send_packet(decoder, packet.get());
+        }
+        av->av_packet_unref(packet.get());
+        while (av->avcodec_receive_frame(decoder, frame.get()) >= 0) {
+            if (frame->best_effort_timestamp == AV_NOPTS_VALUE)
+                return nullptr;
+            if (static_cast<double>(frame->best_effort_timestamp) * unit >= target - timeTolerance)
+                return frame.release();
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 FirstFrame::~FirstFrame() {
@@ -49,7 +113,7 @@ FirstFrame::~FirstFrame() {
 }
 
 std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std::atomic<bool>& cancelled,
-                                                     PictureOf wanted) {
+                                                     PictureOf wanted, double seconds) {
     const AvLibrary* av = AvLibrary::get();
     if (!av || !url.isLocalFile())
         return nullptr;
@@ -60,7 +124,8 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     AVDictionary* options = nullptr;
     const int opened = movie.open(url, options);
     av->av_dict_free(&options);
-    if (opened < 0)
+    // Where a file begins in time is not known before.
+    if (opened < 0 || (seconds > 0 && av->avformat_find_stream_info(movie.context(), nullptr) < 0))
         return nullptr;
     AVFormatContext* const input = movie.context();
 
@@ -69,39 +134,30 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
     if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)
         return nullptr;
-    // With one thread and low delay the picture comes out with its packet where no reordering holds it back.
-    decoder->thread_count = 1;
-    decoder->flags |= AV_CODEC_FLAG_LOW_DELAY;
+    if (seconds > 0) {
+        decoder->thread_count = 0; // many have to be decoded
+    } else {
+        // With one thread and low delay the picture comes out with its packet where no reordering holds it back.
+        decoder->thread_count = 1;
+        decoder->flags |= AV_CODEC_FLAG_LOW_DELAY;
+    }
     if (wanted == PictureOf::cover)
         decoder->max_pixels = maximumCoverPixels;
     if (av->avcodec_open2(decoder.get(), codec, nullptr) < 0)
         return nullptr;
 
-    const std::unique_ptr<AVPacket, Freed> packet(av->av_packet_alloc());
     std::unique_ptr<AVFrame, Freed> frame(av->av_frame_alloc());
-    bool sent = false;
     if (wanted == PictureOf::cover) {
-        sent = av->avcodec_send_packet(decoder.get(), &video->attached_pic) >= 0;
+        const bool sent = av->avcodec_send_packet(decoder.get(), &video->attached_pic) >= 0;
         av->avcodec_send_packet(decoder.get(), nullptr);
         if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0 && isPlain(video, frame.get()))
             return std::make_shared<const FirstFrame>(frame.release());
         return nullptr;
     }
-    for (int i = 0; i < packetLimit && !cancelled.load(); ++i) {
-        const bool ended = av->av_read_frame(input, packet.get()) < 0;
-        const bool ours = !ended && packet->stream_index == video->index;
-        if (ours)
-            sent = av->avcodec_send_packet(decoder.get(), packet.get()) >= 0;
-        av->av_packet_unref(packet.get());
-        // The first picture is all that is wanted: the decoder is told that nothing follows it.
-        if ((ours && sent) || ended)
-            av->avcodec_send_packet(decoder.get(), nullptr);
-        if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0)
-            return isPlain(video, frame.get()) ? std::make_shared<const FirstFrame>(frame.release()) : nullptr;
-        if (ended || sent)
-            return nullptr;
-    }
-    return nullptr;
+    AVFrame* const found = seconds > 0 ? pictureAt(input, video, decoder.get(), seconds, cancelled)
+                                       : firstPicture(input, video, decoder.get(), cancelled);
+    frame.reset(found);
+    return found && isPlain(video, found) ? std::make_shared<const FirstFrame>(frame.release()) : nullptr;
 }
 
 QImage FirstFrame::image(const QSize& bounds) const {

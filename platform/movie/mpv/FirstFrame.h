@@ -13,15 +13,17 @@ struct AVFrame;
 
 namespace platform {
 
-/// The first picture of a movie, decoded without the player: it stands on the screen while the player is still
-/// starting.
+/// The first picture of a movie that is shown, decoded without the player: it stands on the screen while the player is
+/// still starting.
 class FirstFrame {
 public:
     /// Whose picture is wanted: the movie's, or that of the cover attached to it.
     enum class PictureOf { movie, cover };
-    /// Decodes it; null where that is not simple (rotated, high dynamic range, nothing decoded soon). Any thread.
+    /// Decodes it: the movie's first one, or the one that the player shows at a time, in seconds from the movie's
+    /// beginning, for which all pictures since the keyframe before it are decoded. Null where that is not simple
+    /// (rotated, high dynamic range, nothing decoded soon). Any thread.
     static std::shared_ptr<const FirstFrame> decode(const QUrl& url, const std::atomic<bool>& cancelled,
-                                                    PictureOf wanted = PictureOf::movie);
+                                                    PictureOf wanted = PictureOf::movie, double seconds = 0);
     explicit FirstFrame(AVFrame* frame)
         : _frame(frame) {}
     FirstFrame(const FirstFrame&) = delete;

@@ -5,12 +5,13 @@
 
 namespace platform {
 
-PreparedFrame FirstFrameDecoder::decode(const QUrl& url) {
+PreparedFrame FirstFrameDecoder::decode(const QUrl& url, std::int32_t time, double seconds) {
     cancel();
     _cancelled = std::make_shared<std::atomic<bool>>(false);
-    PreparedFrame prepared{url, std::make_shared<Delivery<std::shared_ptr<const FirstFrame>>>()};
-    background::run(
-        [prepared, cancelled = _cancelled] { prepared.frame->deliver(FirstFrame::decode(prepared.url, *cancelled)); });
+    PreparedFrame prepared{url, time, std::make_shared<Delivery<std::shared_ptr<const FirstFrame>>>()};
+    background::run([prepared, seconds, cancelled = _cancelled] {
+        prepared.frame->deliver(FirstFrame::decode(prepared.url, *cancelled, FirstFrame::PictureOf::movie, seconds));
+    });
     return prepared;
 }
 

@@ -7,13 +7,15 @@
 #include <QUrl>
 
 #include <atomic>
+#include <cstdint>
 #include <memory>
 
 namespace platform {
 
-/// A first frame that is being decoded ahead, of the movie at the URL; null where none comes.
+/// A first frame that is being decoded ahead, of the movie at the URL that begins at a time; null where none comes.
 struct PreparedFrame {
     QUrl url;
+    std::int32_t time = 0; // in the movie's units
     std::shared_ptr<Delivery<std::shared_ptr<const FirstFrame>>> frame;
 };
 
@@ -25,8 +27,8 @@ public:
     FirstFrameDecoder& operator=(const FirstFrameDecoder&) = delete;
     ~FirstFrameDecoder() { cancel(); }
 
-    /// The one before is given up.
-    PreparedFrame decode(const QUrl& url);
+    /// That of a time, in the movie's units and in seconds. The one before is given up.
+    PreparedFrame decode(const QUrl& url, std::int32_t time, double seconds);
     /// Gives up what is under way, without waiting for it.
     void cancel();
 

@@ -42,6 +42,7 @@ namespace platform {
     X(avio_size)                                                                                                       \
     LUMARO_AV_SIDE_DATA_FUNCTION(X)                                                                                    \
     X(av_read_frame)                                                                                                   \
+    X(av_seek_frame)                                                                                                   \
     X(avcodec_find_decoder)                                                                                            \
     X(avcodec_alloc_context3)                                                                                          \
     X(avcodec_free_context)                                                                                            \

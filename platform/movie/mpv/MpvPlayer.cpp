@@ -139,8 +139,8 @@ void MpvPlayer::load(Movie* movie) {
     _video.begin(movie ? movie->info().naturalSize : QSizeF(),
                  hasFrames ? MpvVideoLayer::LastFrame::stays : MpvVideoLayer::LastFrame::goes);
     apply(playerEvent::Load{facts, start});
-    if (hasFrames && start == 0)
-        prepareFrame();
+    if (hasFrames)
+        prepareFrame(start);
     else
         _firstFrames.cancel();
     showPreparedFrame();
@@ -161,10 +161,10 @@ void MpvPlayer::apply(const PlayerEvent& event) {
     }
 }
 
-void MpvPlayer::prepareFrame() {
-    const bool isPrepared = _prepared.url == _movie->url();
+void MpvPlayer::prepareFrame(std::int32_t time) {
+    const bool isPrepared = _prepared.url == _movie->url() && _prepared.time == time;
     if (!isPrepared && _movie->url().isLocalFile() && !_video.usesOpenGL())
-        setPreparedFrame(_firstFrames.decode(_movie->url()));
+        setPreparedFrame(_firstFrames.decode(_movie->url(), time, static_cast<double>(time) / _movie->timeScale()));
 }
 
 void MpvPlayer::setPreparedFrame(PreparedFrame prepared) {
@@ -192,7 +192,7 @@ void MpvPlayer::showPreparedFrame() {
         return;
     _prepared.url.clear(); // used up, also where it comes too late
     std::shared_ptr<const FirstFrame> first = std::exchange(_preparedFrame, nullptr);
-    if (time() != 0 || _video.hasCoreFrame())
+    if (time() != _prepared.time || _video.hasCoreFrame())
         return;
     _video.setFirst(std::move(first));
     if (_observer)

@@ -62,7 +62,7 @@ private:
     bool event(QEvent* event) override;
     void adoptCore();
     /// Decodes it beside the core, which takes three times as long for it.
-    void prepareFrame();
+    void prepareFrame(std::int32_t time);
     void showPreparedFrame();
     void handleEvents();
     void handle(const mpv_event& event);
@@ -85,7 +85,10 @@ private:
     void carryOut(const playerEffect::ArmTimer& effect);
     void carryOut(const playerEffect::CancelTimer& effect) { timer(effect.timer).reset(); }
     void carryOut(const playerEffect::CancelTimers&) { _timers = {}; }
-    void carryOut(const playerEffect::UseCoreFrame&) { _video.coreFrameReady(); }
+    void carryOut(const playerEffect::UseCoreFrame&) {
+        _firstFrames.cancel();
+        _video.coreFrameReady();
+    }
     void carryOut(const playerEffect::SkipFrame&) { _video.skip(); }
     void carryOut(const playerEffect::DropHeldFrame&) { _video.dropLastFrame(); }
 

@@ -26,7 +26,7 @@ MpvToolkit::~MpvToolkit() {
 void MpvToolkit::prepare(const QUrl& url) {
     _preparedUrl = url.isLocalFile() ? url : QUrl();
     _prepared = std::make_shared<Delivery<OpenedMovie>>();
-    _firstFrame = {_preparedUrl, std::make_shared<Delivery<std::shared_ptr<const FirstFrame>>>()};
+    _firstFrame = {_preparedUrl, 0, std::make_shared<Delivery<std::shared_ptr<const FirstFrame>>>()};
     background::run([cancelled = _cancelled, url = _preparedUrl, probed = _prepared, decoded = _firstFrame.frame] {
         AvLibrary::get();
         probed->deliver(url.isEmpty() ? OpenedMovie{} : probeMovie(url, openTimeout, *cancelled));
