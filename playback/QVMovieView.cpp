@@ -9,6 +9,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/window/VideoLayer.h"
 #include "platform/window/Window.h"
 #include "playback/DropTarget.h"
 #include "playback/MovieOrdering.h"
@@ -99,6 +100,15 @@ MovieSizing::Geometry QVMovieView::geometry() const {
     const platform::Window* window = this->window();
     return {shown ? shown->naturalBounds().size() : QSizeF(0, 0), window ? window->frame().size() : QSizeF(0, 0),
             isControllerVisible(), _environment.settings.floatForKey(kQVMovieCustomScale)};
+}
+
+QImage QVMovieView::still(const QSize& bounds) {
+    platform::VideoLayer* const layer = movie() ? videoLayer() : nullptr;
+    if (!layer)
+        return {};
+    QImage picture = layer->still(bounds);
+    setNeedsDisplay();
+    return picture;
 }
 
 unsigned QVMovieView::getControllerHeight() const {

@@ -3,6 +3,7 @@
 
 #include "context/Environment.h"
 #include "context/Notifications.h"
+#include "context/PictureSource.h"
 #include "overlays/PictureGeometry.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
@@ -25,7 +26,7 @@ class QVMovie;
 
 /// The view that shows the current movie: size codes, magnification, jumps, panning, volume. Frame and sizes are
 /// points. Main thread.
-class QVMovieView final : public platform::MovieView, public PictureGeometry {
+class QVMovieView final : public platform::MovieView, public PictureGeometry, public PictureSource {
 public:
     /// All outlive the view.
     struct Collaborators {
@@ -67,6 +68,7 @@ public:
     platform::Rect pictureFrame() const override { return frame(); }
     bool isControllerBarVisible() const override { return isControllerVisible(); }
     unsigned getControllerHeight() const override;
+    QImage still(const QSize& bounds) override;
     void toggleController();
     void setVolume(float volume) override;
     QString volumeInfoAsString() const;

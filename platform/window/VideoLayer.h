@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
 #include <QRect>
 #include <QSize>
 
@@ -45,8 +46,16 @@ public:
     /// OpenGL is left undefined.
     virtual bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) = 0;
 
+    /// A copy of what was rendered last, shrunk into `bounds` pixels where it is larger; a null image where no picture
+    /// stands. Renders once more, and may take a picture that was due: the target is to be rendered anew after it.
+    virtual QImage still(const QSize& bounds);
+
     /// A new picture is due since the last render. While the window is not shown the host calls skip() instead.
     virtual void skip() = 0;
 };
+
+inline QImage VideoLayer::still(const QSize&) {
+    return {};
+}
 
 } // namespace platform

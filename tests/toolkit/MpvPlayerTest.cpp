@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MpvPlayer.h"
 
+#include "platform/window/VideoLayer.h"
 #include "tests/toolkit/ToolkitRig.h"
 
+#include <QImage>
 #include <QPoint>
 #include <gtest/gtest.h>
 
@@ -44,6 +46,26 @@ TEST(MpvPlayer, plays_pictures_in_order_and_rests_on_the_one_of_its_time) {
     EXPECT_TRUE(std::ranges::all_of(rig.times, [](std::int32_t time) { return time % picture == 0; }));
     EXPECT_EQ(rig.screen.number(), rig.player().time() / picture);
     EXPECT_EQ(rig.ends + rig.jumps, 0);
+}
+
+TEST(MpvPlayer, a_still_is_the_picture_that_is_seen_and_leaves_it_as_it_is) {
+    ToolkitRig rig;
+    platform::VideoLayer& layer = *rig.player().videoLayer();
+    EXPECT_TRUE(layer.still(QSize(192, 108)).isNull());
+    const auto movie = rig.show(numberedMovie());
+    movie->setTimeValue(137 * picture);
+    ASSERT_TRUE(rig.shows(137));
+    rig.settle();
+    RenderedPicture copy(QSize(192, 108));
+    const QImage still = layer.still(copy.size());
+    ASSERT_EQ(still.size(), copy.size());
+    for (int y = 0; y < still.height(); ++y)
+        std::copy_n(still.constScanLine(y), copy.stride(), copy.pixels() + static_cast<std::size_t>(y) * copy.stride());
+    EXPECT_EQ(copy.number(), 137);
+    EXPECT_EQ(layer.still(QSize(100, 1000)).size(), QSize(100, 56)) << "within the bounds, in its shape";
+    EXPECT_EQ(layer.still(QSize(4000, 4000)).size(), rig.screen.size()) << "never enlarged";
+    movie->setTimeValue(138 * picture);
+    EXPECT_TRUE(rig.shows(138));
 }
 
 TEST(MpvPlayer, a_seek_answers_its_target_at_once_and_shows_its_picture) {

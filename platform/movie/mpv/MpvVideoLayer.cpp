@@ -151,15 +151,42 @@ bool MpvVideoLayer::renderOwn(const Shown& shown, unsigned char* target, std::si
     if (!_coreHasPicture)
         return renderFirst(picture, visible, target, stride);
     setCrop(picture, visible);
-    int size[2] = {visible.width(), visible.height()};
+    return renderCore(visible.size(), target, stride);
+}
+
+bool MpvVideoLayer::renderCore(const QSize& size, unsigned char* target, std::size_t stride) {
+    int sides[2] = {size.width(), size.height()};
     int block = 0;
-    mpv_render_param parameters[] = {{MPV_RENDER_PARAM_SW_SIZE, size},
+    mpv_render_param parameters[] = {{MPV_RENDER_PARAM_SW_SIZE, sides},
                                      {MPV_RENDER_PARAM_SW_FORMAT, const_cast<char*>("bgr0")},
                                      {MPV_RENDER_PARAM_SW_STRIDE, &stride},
                                      {MPV_RENDER_PARAM_SW_POINTER, target},
                                      {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},
                                      {MPV_RENDER_PARAM_INVALID, nullptr}};
     return MpvLibrary::get()->mpv_render_context_render(_core->renderContext(), parameters) >= 0;
+}
+
+QImage MpvVideoLayer::still(const QSize& bounds) {
+    // The core's crop is a matter of shares: it holds for the smaller target, too.
+    const QSize shown = _coreHasPicture ? _shown.visible.size() : _shown.picture.size();
+    if (shown.isEmpty() || (!_coreHasPicture && !_first))
+        return {};
+    const QSize size = shown.scaled(shown.boundedTo(bounds), Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    if (_gl && _coreHasPicture) {
+        if (!_gl->makeCurrent())
+            return {};
+        QOpenGLFramebufferObject target(size);
+        return target.isValid() && renderCoreGL(size, target.handle())
+                   ? target.toImage().convertToFormat(QImage::Format_RGB32)
+                   : QImage();
+    }
+    QImage still(size, QImage::Format_RGB32);
+    if (still.isNull())
+        return {};
+    const auto stride = static_cast<std::size_t>(still.bytesPerLine());
+    const bool rendered =
+        _coreHasPicture ? renderCore(size, still.bits(), stride) : _first->render(size, still.bits(), stride);
+    return rendered ? still : QImage();
 }
 
 void MpvVideoLayer::setCore(MpvCore* core) {
@@ -201,10 +228,16 @@ bool MpvVideoLayer::renderGL(const QRect& picture, const QSize& target, unsigned
 bool MpvVideoLayer::renderCoreGL(const QRect& picture, const QSize& target, unsigned framebuffer) {
     if (!_core->renderContext())
         return false;
+    setCrop(picture, QRect(QPoint(0, 0), target));
+    return renderCoreGL(target, framebuffer);
+}
+
+bool MpvVideoLayer::renderCoreGL(const QSize& target, unsigned framebuffer) {
+    if (!_core->renderContext())
+        return false;
     mpv_opengl_fbo fbo{static_cast<int>(framebuffer), target.width(), target.height(), 0};
     int flip = 1;
     int block = 0;
-    setCrop(picture, QRect(QPoint(0, 0), target));
     mpv_render_param parameters[] = {{MPV_RENDER_PARAM_OPENGL_FBO, &fbo},
                                      {MPV_RENDER_PARAM_FLIP_Y, &flip},
                                      {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},

@@ -46,6 +46,7 @@ public:
     bool beginGL(GLContext& context) override;
     void endGL() override;
     bool renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) override;
+    QImage still(const QSize& bounds) override;
     void skip() override;
 
 private:
@@ -60,7 +61,9 @@ private:
     /// The movie's own picture; `target` is the address of the visible part.
     bool renderOwn(const Shown& shown, unsigned char* target, std::size_t stride);
     bool renderFirst(const QRect& picture, const QRect& visible, unsigned char* target, std::size_t stride) const;
+    bool renderCore(const QSize& size, unsigned char* target, std::size_t stride);
     bool renderCoreGL(const QRect& picture, const QSize& target, unsigned framebuffer);
+    bool renderCoreGL(const QSize& target, unsigned framebuffer);
     void setCrop(const QRect& picture, const QRect& visible);
     void setProperty(const char* name, double value);
 
