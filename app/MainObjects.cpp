@@ -51,6 +51,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _subtitles(environment, _subtitleScene)
     , _heldSubtitles(environment, _subtitles)
     , _state(environment, {_playlist, _view, _subtitles, _heldSubtitles})
+    , _stylePreview(environment, _window, _view)
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
     , _activation(environment, _window, _view, _pointer)

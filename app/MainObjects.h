@@ -15,6 +15,7 @@
 #include "context/Environment.h"
 #include "control/QVMovieController.h"
 #include "overlays/OverlaysOnDemand.h"
+#include "overlays/StylePreview.h"
 #include "playback/BackdropView.h"
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
@@ -74,6 +75,7 @@ private:
     QVSubtitlesController _subtitles;
     HeldSubtitles _heldSubtitles;
     SavedState _state;
+    StylePreview _stylePreview;
     CurrentTexts _texts;
     OSDOnDemand _display;
     MainMenu _menu;

@@ -10,6 +10,7 @@
 class QVMovie;
 class QVMovieView;
 class QVPlaylistController;
+class QVStyledOverlay;
 class QVSubtitles;
 
 // The notifications by which the components meet. All are posted and delivered on the main thread. They stand here,
@@ -62,6 +63,19 @@ struct QVPlaylistMovieChangedNotification {
 
 struct QVPlaylistLoopingChangedNotification {
     QVPlaylistController* playlist;
+};
+
+/// A page on which a style is changed was opened, or closed.
+struct QVOverlayStyleEditedNotification {
+    /// The style selector key.
+    QString key;
+    enum class Page { opened, closed };
+    Page page;
+};
+
+/// An overlay that was hidden begins to show itself, or has faded out.
+struct QVOverlayVisibilityChangedNotification {
+    QVStyledOverlay* overlay;
 };
 
 /// A worker has read the selected track to its end.

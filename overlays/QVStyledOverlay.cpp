@@ -7,6 +7,7 @@
 #include "settings/Tracing.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -70,7 +71,9 @@ void QVStyledOverlay::show() {
             parent->childWaits(*this);
         return;
     }
-    _shownLast = true;
+    const bool wasShown = std::exchange(_shownLast, true);
+    if (!wasShown)
+        _environment.notifications.post(QVOverlayVisibilityChangedNotification{this});
     if (_fadingState == FadingState::fadingIn)
         return;
     _fadingState = FadingState::fadingIn;
@@ -102,6 +105,12 @@ void QVStyledOverlay::hide() {
     setFadeTimer(_environment.loop.schedule(fadingStep, true, [this, calculator] { doFadeOut(calculator); }));
 }
 
+void QVStyledOverlay::hideAtOnce() {
+    hide();
+    if (_fadingState == FadingState::fadingOut)
+        postFadeOut();
+}
+
 void QVStyledOverlay::doFadeIn(const QVFadeCalculator& calculator) {
     if (alphaValue() < restingAlpha())
         setAlphaValue(static_cast<float>(calculator.valueNow()));
@@ -129,6 +138,7 @@ void QVStyledOverlay::postFadeOut() {
     setFadeTimer(nullptr);
     _fadingState = FadingState::idle;
     _autopop = false;
+    _environment.notifications.post(QVOverlayVisibilityChangedNotification{this});
 }
 
 void QVStyledOverlay::autopop() {

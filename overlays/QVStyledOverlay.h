@@ -36,6 +36,8 @@ public:
     virtual void show();
     /// Fades out from the opacity that stands now.
     virtual void hide();
+    /// Hides without a fade.
+    void hideAtOnce();
     /// Shows, holds for fadingDelayInterval() and hides; while it is held, the hold starts again.
     void autopop();
     /// Starts the hold, or starts it again.
