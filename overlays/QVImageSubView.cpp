@@ -3,6 +3,7 @@
 
 #include "overlays/PictureGeometry.h"
 #include "overlays/SubtitlePlacement.h"
+#include "settings/QVOverlayStyleDefaults.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 
@@ -39,6 +40,42 @@ void QVImageSubView::postFadeOut() {
     QVImageOverlay::postFadeOut();
     if (!_subtitle)
         setImage(QImage());
+}
+
+void QVImageSubView::setMaxAlpha(float alpha) {
+    _ofTrack.maxAlpha = alpha;
+    takeFromTrack();
+}
+
+void QVImageSubView::setFadingInInterval(double seconds) {
+    _ofTrack.fadingInInterval = seconds;
+    takeFromTrack();
+}
+
+void QVImageSubView::setFadingOutInterval(double seconds) {
+    _ofTrack.fadingOutInterval = seconds;
+    takeFromTrack();
+}
+
+void QVImageSubView::takeFromTrack() {
+    const auto style = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(environment().settings, this->style());
+    const auto counts = [&](const auto& value, const QString& key) {
+        return value && !(style && style->isChosen(key));
+    };
+    if (counts(_ofTrack.maxAlpha, kMaxAlpha))
+        QVImageOverlay::setMaxAlpha(*_ofTrack.maxAlpha);
+    if (counts(_ofTrack.fadingInInterval, kFadingInInterval))
+        QVImageOverlay::setFadingInInterval(*_ofTrack.fadingInInterval);
+    if (counts(_ofTrack.fadingOutInterval, kFadingOutInterval))
+        QVImageOverlay::setFadingOutInterval(*_ofTrack.fadingOutInterval);
+}
+
+bool QVImageSubView::takeStyle(const QString& key, const OverlayStyle& style) {
+    const bool taken = QVImageOverlay::takeStyle(key, style);
+    // What was chosen may have been taken back.
+    if (key == kMaxAlpha || key == kFadingInInterval || key == kFadingOutInterval)
+        takeFromTrack();
+    return taken;
 }
 
 void QVImageSubView::currentSubtitlesChanged(const QVSubtitlesChangedNotification& notification) {

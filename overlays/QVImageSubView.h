@@ -4,6 +4,8 @@
 #include "overlays/QVImageOverlay.h"
 #include "subtitles/SubtitleView.h"
 
+#include <optional>
+
 class PictureGeometry;
 class QVVobSubInfo;
 
@@ -19,9 +21,10 @@ public:
     void show() override;
     void hide() override { QVImageOverlay::hide(); }
     void orderFront() override { QVImageOverlay::orderFront(); }
-    void setMaxAlpha(float alpha) override { QVImageOverlay::setMaxAlpha(alpha); }
-    void setFadingInInterval(double seconds) override { QVImageOverlay::setFadingInInterval(seconds); }
-    void setFadingOutInterval(double seconds) override { QVImageOverlay::setFadingOutInterval(seconds); }
+    // What the track asks for counts where the user chose nothing for the style.
+    void setMaxAlpha(float alpha) override;
+    void setFadingInInterval(double seconds) override;
+    void setFadingOutInterval(double seconds) override;
 
     void currentSubtitlesChanged(const QVSubtitlesChangedNotification& notification) override;
     void contentSizeChanged() override;
@@ -33,15 +36,22 @@ public:
 protected:
     const char* logName() const override { return "QVImageSubView"; }
     void postFadeOut() override;
+    bool takeStyle(const QString& key, const OverlayStyle& style) override;
 
 private:
     void _recalculateAspect();
     void _recalculateScale();
     bool hasImage() const;
+    void takeFromTrack();
 
     std::shared_ptr<QVSubtitle> _subtitle;
     float _aspect = 1.0F;
     const PictureGeometry& _picture;
+    struct {
+        std::optional<float> maxAlpha;
+        std::optional<double> fadingInInterval;
+        std::optional<double> fadingOutInterval;
+    } _ofTrack;
     /// Of the current track; gone with it, together with what was taken out of an archive.
     std::weak_ptr<const QVVobSubInfo> _info;
 };

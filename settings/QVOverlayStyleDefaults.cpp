@@ -44,6 +44,10 @@ OverlayStyle QVOverlayStyleDefaults::values() const {
     return style;
 }
 
+bool QVOverlayStyleDefaults::isChosen(const QString& styleKey) const {
+    return value::toDictionary(_defaults->dictionaryForKey(kQVOverlayStyles).value(_key)).contains(styleKey);
+}
+
 QVariant QVOverlayStyleDefaults::objectForKey(const QString& styleKey) const {
     const auto entryIn = [&](const QVariantMap& styles) {
         return value::toDictionary(styles.value(_key)).value(styleKey);

@@ -36,6 +36,8 @@ public:
         setObject(changed.stored(field), OverlayStyle::keyOf(field));
     }
 
+    /// Whether the user chose the entry.
+    bool isChosen(const QString& styleKey) const;
     /// One entry as it is stored: the user's, else the registered one.
     QVariant objectForKey(const QString& styleKey) const;
     /// Sets the user's entry; announces nothing. An invalid value is ignored: a change cannot be taken back.

@@ -20,6 +20,8 @@ protected:
     ImageSubView() {
         picture.aspect = 1.33F;
         picture.frame = {128, 0, 768, 576};
+        // From here on the user chose nothing, and the tracks say how their images come.
+        rig.settings.defaults().setObject(QVariantMap(), kQVOverlayStyles);
         view.setBackgroundOn(false);
         view.setFrameOn(false);
     }
@@ -129,4 +131,35 @@ TEST_F(ImageSubView, images_come_and_go_like_texts) {
     view.setSubtitle(std::make_shared<QVSubtitle>());
     rig.settings.runLoop.advance(2);
     EXPECT_EQ(view.alphaValue(), 0);
+}
+
+TEST_F(ImageSubView, what_the_user_chose_stands_above_what_the_track_asks_for) {
+    QVImageSubView shown(rig.settings.environment, rig.window, picture); // of the style that nobody has changed
+    shown.setMaxAlpha(0.6F);
+    shown.setFadingInInterval(0.3);
+    shown.setFadingOutInterval(0.4);
+    EXPECT_EQ(shown.maxAlpha(), 0.6F);
+    EXPECT_EQ(shown.fadingInInterval(), 0.3);
+    EXPECT_EQ(shown.fadingOutInterval(), 0.4);
+    const auto tell = [&](const QStringList& styleKeys) {
+        rig.settings.notifications.post(QVPreferencesChangedNotification{kQVVobSubOverlayStyle, styleKeys});
+    };
+    const auto choose = [&](const QString& styleKey, float value) {
+        QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(rig.settings.defaults(), kQVVobSubOverlayStyle)
+            ->setObject(value, styleKey);
+        tell({styleKey});
+    };
+    choose(kMaxAlpha, 0.8F);
+    EXPECT_EQ(shown.maxAlpha(), 0.8F);
+    EXPECT_EQ(shown.fadingInInterval(), 0.3) << "the track's, where nothing was chosen";
+    choose(kFadingInInterval, 2);
+    shown.setMaxAlpha(0.5F); // another track
+    shown.setFadingInInterval(0.1);
+    EXPECT_EQ(shown.maxAlpha(), 0.8F);
+    EXPECT_EQ(shown.fadingInInterval(), 2);
+    // Taken back, the track's count again.
+    rig.settings.defaults().setObject(QVariantMap(), kQVOverlayStyles);
+    tell({kMaxAlpha, kFadingInInterval});
+    EXPECT_EQ(shown.maxAlpha(), 0.5F);
+    EXPECT_EQ(shown.fadingInInterval(), 0.1);
 }
