@@ -28,6 +28,8 @@ QSize naturalSize(const QTabWidget& pages) {
     for (int i = 0; i < pages.count(); ++i) {
         QWidget* contents = static_cast<const QScrollArea*>(pages.widget(i))->widget();
         contents->ensurePolished();
+        for (auto* tabs : contents->findChildren<QTabWidget*>())
+            tabs->updateGeometry(); // tabs that nobody has seen yet do not tell that they were filled
         contents->layout()->activate();
         size = size.expandedTo(contents->sizeHint() + around);
     }

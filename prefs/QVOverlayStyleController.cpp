@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "prefs/QVOverlayStyleController.h"
 
+#include "context/Notifications.h"
 #include "overlays/OverlayPlacement.h"
 #include "platform/base/UserDefaults.h"
 #include "prefs/ColorWell.h"
 #include "prefs/FloatSlider.h"
+#include "prefs/SettingsReset.h"
 #include "prefs/StyleSample.h"
 #include "settings/ColorText.h"
 #include "settings/QVPreferencesChangedNotification.h"
@@ -13,14 +15,17 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLocale>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -97,21 +102,41 @@ private:
 
 } // namespace
 
-QVOverlayStyleController::QVOverlayStyleController(const Environment& environment)
+QVOverlayStyleController::QVOverlayStyleController(const Environment& environment, PictureSource& pictures)
     : _environment(environment)
     , _widget(new QWidget)
-    , _sample(new StyleSample(environment)) {
+    , _sample(new StyleSample(environment, pictures)) {
     auto* layout = new QHBoxLayout(_widget);
     layout->addWidget(new ControlsArea(_controls.controls));
     layout->addWidget(_sample, 1);
     awakeFromNib();
     connectControls();
+    connectReset();
+    _widget->installEventFilter(this);
     _onPreferences = environment.notifications.observe<QVPreferencesChangedNotification>(
         [this](const QVPreferencesChangedNotification& notification) { preferencesChanged(notification); });
 }
 
 QVOverlayStyleController::~QVOverlayStyleController() {
+    if (_widget)
+        _widget->removeEventFilter(this);
     delete _widget.data();
+    _widget = nullptr;
+    tellEditing();
+}
+
+bool QVOverlayStyleController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == _widget.data() && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
+        tellEditing();
+    return QObject::eventFilter(watched, event);
+}
+
+void QVOverlayStyleController::tellEditing() {
+    using Page = QVOverlayStyleEditedNotification::Page;
+    const bool isEditing = _widget && _widget->isVisible() && _enabled;
+    if (std::exchange(_isEditing, isEditing) != isEditing)
+        _environment.notifications.post(
+            QVOverlayStyleEditedNotification{_key, isEditing ? Page::opened : Page::closed});
 }
 
 void QVOverlayStyleController::awakeFromNib() {
@@ -162,6 +187,22 @@ void QVOverlayStyleController::connectControls() {
     slider(_controls.maxAlpha, &Self::changeMaxAlpha);
 }
 
+void QVOverlayStyleController::connectReset() {
+    const auto act = [this](const QPushButton& button, void (SettingsReset::*action)()) {
+        QObject::connect(&button, &QPushButton::clicked, &button, [this, action] {
+            if (_reset)
+                (_reset.get()->*action)();
+        });
+    };
+    act(*_controls.reset, &SettingsReset::reset);
+    act(*_controls.undoReset, &SettingsReset::undo);
+}
+
+void QVOverlayStyleController::showReset() {
+    _controls.reset->setEnabled(_enabled && _reset && _reset->isNeeded());
+    _controls.undoReset->setEnabled(_enabled && _reset && _reset->canUndo());
+}
+
 OverlayStyle QVOverlayStyleController::values() const {
     return _model ? _model->values() : OverlayStyle();
 }
@@ -169,6 +210,10 @@ OverlayStyle QVOverlayStyleController::values() const {
 void QVOverlayStyleController::setupWithModelForKey(const QString& key) {
     _key = key;
     _model = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(_environment.settings, key);
+    _reset = _model ? std::make_unique<SettingsReset>(_environment.settings,
+                                                      QList<SettingsReset::Setting>{{kQVOverlayStyles, _model->key()}},
+                                                      [this](const SettingsReset::Setting&) { wasReset(); })
+                    : nullptr;
     if (!_widget)
         return;
     const QSignalBlocker silently(_controls.alignmentVertical.control);
@@ -221,6 +266,7 @@ void QVOverlayStyleController::syncWithModel() {
     slide(_controls.minAlpha, static_cast<double>(style.minAlpha), percent);
     slide(_controls.maxAlpha, static_cast<double>(style.maxAlpha), percent);
     setEnabled(_enabled);
+    _sample->takeStill();
 }
 
 void QVOverlayStyleController::setEnabled(bool enabled) {
@@ -235,6 +281,17 @@ void QVOverlayStyleController::setEnabled(bool enabled) {
     _shadowGroupSetEnabled(enabled && _controls.shadowOn.control->isChecked());
     _backgroundGroupSetEnabled(enabled && isBackgroundOn());
     _sample->setEnabled(enabled);
+    showReset();
+    tellEditing();
+}
+
+/// Any value may have changed.
+void QVOverlayStyleController::wasReset() {
+    syncWithModel();
+    QStringList styleKeys;
+    for (const auto& entry : OverlayStyle::entries())
+        styleKeys.append(entry.key);
+    _environment.notifications.post(QVPreferencesChangedNotification{_key, styleKeys});
 }
 
 /// The window's colour has no switch.
@@ -380,15 +437,27 @@ void QVOverlayStyleController::changeFadingDelayInterval(const FloatSlider& send
 void QVOverlayStyleController::changeMinAlpha(const FloatSlider& sender) {
     StyleControls::showPercent(_controls.minAlpha);
     changeNumber(&OverlayStyle::minAlpha, sender);
+    if (FloatSlider& other = *_controls.maxAlpha.control; other.floatValue() < sender.floatValue()) {
+        other.setFloatValue(sender.floatValue());
+        changeMaxAlpha(other);
+    }
 }
 
 void QVOverlayStyleController::changeMaxAlpha(const FloatSlider& sender) {
     StyleControls::showPercent(_controls.maxAlpha);
     changeNumber(&OverlayStyle::maxAlpha, sender);
+    if (FloatSlider& other = *_controls.minAlpha.control; other.floatValue() > sender.floatValue()) {
+        other.setFloatValue(sender.floatValue());
+        changeMinAlpha(other);
+    }
 }
 
 void QVOverlayStyleController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
-    if (notification.key != kQVOverlayTextFontSizeMin || !_widget)
+    if (!_widget)
+        return;
+    if (notification.key == _key)
+        showReset();
+    if (notification.key != kQVOverlayTextFontSizeMin)
         return;
     const std::int32_t smallest = _environment.settings.integerForKey(kQVOverlayTextFontSizeMin);
     QComboBox& sizes = *_controls.textFontSize.control;

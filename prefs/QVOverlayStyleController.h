@@ -6,27 +6,31 @@
 #include "prefs/StyleControls.h"
 #include "settings/QVOverlayStyleDefaults.h"
 
+#include <QObject>
 #include <QPointer>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
-class QScrollArea;
+class PictureSource;
+class SettingsReset;
 class StyleSample;
 struct QVPreferencesChangedNotification;
 
 /// A section of the preferences in which one overlay style is edited, with a sample beside it. Each change is stored
 /// and announced at once with QVPreferencesChangedNotification (the selector key, and the style key that changed);
-/// showing the style does neither. A value that a control cannot show stays as it is until that control is used. Main
-/// thread.
-class QVOverlayStyleController {
+/// showing the style does neither. While the section can be used, the player shows the style
+/// (QVOverlayStyleEditedNotification). A value that a control cannot show stays as it is until that control is used.
+/// Main thread.
+class QVOverlayStyleController final : private QObject {
 public:
-    /// Made without a style, and with the fonts of the system.
-    explicit QVOverlayStyleController(const Environment& environment);
+    /// Made without a style, and with the fonts of the system. The source outlives the section.
+    QVOverlayStyleController(const Environment& environment, PictureSource& pictures);
     QVOverlayStyleController(const QVOverlayStyleController&) = delete;
     QVOverlayStyleController& operator=(const QVOverlayStyleController&) = delete;
     /// The section goes, too.
-    ~QVOverlayStyleController();
+    ~QVOverlayStyleController() override;
 
     /// The section, to be put into a window, which may destroy it first.
     QWidget* widget() const { return _widget; }
@@ -60,12 +64,19 @@ public:
     void changeFadingInInterval(const FloatSlider& sender);
     void changeFadingOutInterval(const FloatSlider& sender);
     void changeFadingDelayInterval(const FloatSlider& sender);
+    // Of the two opacities, the other one moves along where the smallest would lie above the largest.
     void changeMinAlpha(const FloatSlider& sender);
     void changeMaxAlpha(const FloatSlider& sender);
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void awakeFromNib();
     void connectControls();
+    void connectReset();
+    void showReset();
+    void wasReset();
+    /// Tells whether the section can be used, where that has changed.
+    void tellEditing();
     /// A text size below the smallest that any overlay may have is raised to that.
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
 
@@ -90,6 +101,8 @@ private:
     StyleSample* _sample;
     QString _key;
     std::optional<QVOverlayStyleDefaults> _model;
+    std::unique_ptr<SettingsReset> _reset;
     bool _enabled = true;
+    bool _isEditing = false;
     platform::Subscription _onPreferences;
 };

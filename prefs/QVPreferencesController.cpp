@@ -9,7 +9,6 @@
 #include "platform/desktop/Desktop.h"
 #include "prefs/EncodingMenu.h"
 #include "prefs/PreferencesPages.h"
-#include "prefs/QVOverlayStyleController.h"
 #include "prefs/RecentEncodings.h"
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/QVPreferencesChangedNotification.h"
@@ -79,10 +78,12 @@ QString localized(const char* key) {
 
 } // namespace
 
-QVPreferencesController::QVPreferencesController(const Environment& environment, platform::Desktop& desktop)
+QVPreferencesController::QVPreferencesController(const Environment& environment, platform::Desktop& desktop,
+                                                 PictureSource& pictures)
     : _environment(environment)
     , _desktop(desktop)
-    , _controls(std::make_unique<Ui::Preferences>()) {
+    , _controls(std::make_unique<Ui::Preferences>())
+    , _styles(environment, pictures) {
     auto window = std::make_unique<QDialog>();
     _controls->setupUi(window.get());
     _window = std::move(window);
@@ -136,25 +137,9 @@ void QVPreferencesController::awakeFromNib() {
                                   _environment.settings.arrayForKey(kQVSubtitlesEncodingsList))),
                               _encodings.availableEncodings().keys());
 
-    setupStyles();
+    _styles.addTo(*c._subtitlesStyles, *c._overlayStyles, *c._pages);
     connectControls();
     _environment.settings.setWriteFailureHandler([this] { settingsNotSaved(); });
-}
-
-void QVPreferencesController::setupStyles() {
-    const auto make = [this](std::unique_ptr<QVOverlayStyleController>& section, const QString& key) {
-        section = std::make_unique<QVOverlayStyleController>(_environment);
-        section->setupWithModelForKey(key);
-        return section->widget();
-    };
-    const auto& c = *_controls;
-    c._subtitlesStyleGroup->layout()->addWidget(make(_subtitlesStyleController, kQVSubtitlesOverlayStyle));
-    c._overlayStyles->addTab(make(_feedbackStyleController, kQVFeedbackOverlayStyle), localized("Feedback style"));
-    c._overlayStyles->addTab(make(_displayStyleController, kQVOSDOverlayStyle), localized("On-screen display style"));
-    c._overlayStyles->addTab(make(_mainWindowStyleController, kQVFullscreenOverlayStyle), localized("Window style"));
-    for (const auto* section :
-         {&_subtitlesStyleController, &_feedbackStyleController, &_displayStyleController, &_mainWindowStyleController})
-        PreferencesPages::yieldMnemonics(*(*section)->widget(), *c._pages);
 }
 
 void QVPreferencesController::connectControls() {
@@ -271,10 +256,8 @@ void QVPreferencesController::syncWithDefaults() {
     _updateCursorHideDelayValue(c._advancedCursorHideDelay->value());
     _updateLastCheckedStatus();
     _versionGroupSetEnabled(settings.boolForKey(kQVNewVersionShouldCheck));
-    _feedbackStyleController->setEnabled(settings.boolForKey(kQVDisplayFeedback));
-    for (const auto* section :
-         {&_subtitlesStyleController, &_feedbackStyleController, &_displayStyleController, &_mainWindowStyleController})
-        (*section)->syncWithModel();
+    _styles.setFeedbackEnabled(settings.boolForKey(kQVDisplayFeedback));
+    _styles.sync();
 }
 
 void QVPreferencesController::show(const PlainControl& plain) {
@@ -321,7 +304,7 @@ void QVPreferencesController::_playlistGroupSetEnabled(bool enabled) {
 void QVPreferencesController::_subtitlesGroupSetEnabled(bool enabled) {
     _controls->_subtitlesDefaultEncoding->setEnabled(enabled);
     _controls->_subtitlesDefaultFPS->setEnabled(enabled);
-    _subtitlesStyleController->setEnabled(enabled);
+    _styles.setSubtitlesEnabled(enabled);
 }
 
 void QVPreferencesController::_versionGroupSetEnabled(bool enabled) {
@@ -460,7 +443,7 @@ void QVPreferencesController::changeOverlayTextSizeMin() {
 }
 
 void QVPreferencesController::changeFeedbackShow() {
-    _feedbackStyleController->setEnabled(_controls->_feedbackShow->isChecked());
+    _styles.setFeedbackEnabled(_controls->_feedbackShow->isChecked());
     plainChange(_controls->_feedbackShow);
 }
 

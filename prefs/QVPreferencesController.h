@@ -3,6 +3,7 @@
 
 #include "context/Environment.h"
 #include "platform/base/NotificationCenter.h"
+#include "prefs/StyleSections.h"
 #include "subtitles/JHStringEncodings.h"
 
 #include <QObject>
@@ -13,7 +14,7 @@
 #include <vector>
 
 class EncodingMenu;
-class QVOverlayStyleController;
+class PictureSource;
 class QVariant;
 class QWidget;
 class QWindow;
@@ -36,8 +37,8 @@ class Desktop;
 /// Main thread.
 class QVPreferencesController final : public QObject {
 public:
-    /// Both outlive the controller.
-    QVPreferencesController(const Environment& environment, platform::Desktop& desktop);
+    /// All outlive the controller.
+    QVPreferencesController(const Environment& environment, platform::Desktop& desktop, PictureSource& pictures);
     QVPreferencesController(const QVPreferencesController&) = delete;
     QVPreferencesController& operator=(const QVPreferencesController&) = delete;
     ~QVPreferencesController() override;
@@ -98,7 +99,6 @@ private:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void awakeFromNib();
-    void setupStyles();
     void connectControls();
     void windowWillClose();
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
@@ -127,10 +127,7 @@ private:
     std::vector<PlainControl> _plain;
     JHStringEncodings _encodings;
     std::unique_ptr<EncodingMenu> _subtitlesEncodings;
-    std::unique_ptr<QVOverlayStyleController> _subtitlesStyleController;
-    std::unique_ptr<QVOverlayStyleController> _feedbackStyleController;
-    std::unique_ptr<QVOverlayStyleController> _displayStyleController;
-    std::unique_ptr<QVOverlayStyleController> _mainWindowStyleController;
+    StyleSections _styles;
     bool _hasChosen = false;
     bool _saidNotSaved = false;
     platform::Subscription _preferencesChanged;

@@ -13,6 +13,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLocale>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -205,8 +206,23 @@ StyleControls::StyleControls()
     _position = position.box();
     _panel = panel.box();
     _fading = fading.box();
-    auto* columns = new QHBoxLayout(controls);
-    columns->setContentsMargins(0, 0, 0, 0);
+    auto* layout = new QVBoxLayout(controls);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* columns = new QHBoxLayout;
+    layout->addLayout(columns);
+    auto* buttons = new QHBoxLayout;
+    const auto button = [&](const char* name, const char* title) {
+        auto* made = new QPushButton(localized(title));
+        made->setObjectName(QLatin1String(name));
+        made->setToolTip(localized((QByteArray(title) + "Tip").constData()));
+        made->setAutoDefault(false);
+        buttons->addWidget(made);
+        return made;
+    };
+    reset = button("reset", "StyleReset");
+    undoReset = button("undoReset", "StyleResetUndo");
+    buttons->addStretch(1);
+    layout->addLayout(buttons);
     for (const auto& boxes : {std::vector{_text, _shadow, _position}, std::vector{_panel, _fading}}) {
         auto* column = new QVBoxLayout;
         for (QGroupBox* box : boxes)

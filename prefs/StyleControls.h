@@ -9,6 +9,7 @@ class FloatSlider;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
+class QPushButton;
 class QWidget;
 
 /// A control with its caption and its read-out, where it has them.
@@ -66,6 +67,9 @@ struct StyleControls {
     StyleRow<FloatSlider> fadingDelayInterval;
     StyleRow<FloatSlider> minAlpha;
     StyleRow<FloatSlider> maxAlpha;
+
+    QPushButton* reset;
+    QPushButton* undoReset;
 
     /// Fills the read-out: plain points, and seconds and opacities with their units.
     static void showPoints(const StyleRow<FloatSlider>& row);

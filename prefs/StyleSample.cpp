@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "prefs/StyleSample.h"
 
+#include "context/Notifications.h"
+#include "context/PictureSource.h"
+#include "overlays/FadeDemonstration.h"
 #include "overlays/PictureGeometry.h"
-#include "overlays/QVTextOverlay.h"
-#include "overlays/QVTextSubView.h"
+#include "overlays/QVChildOverlay.h"
+#include "overlays/SampleOverlay.h"
 #include "platform/base/Localization.h"
 #include "platform/window/SceneComposer.h"
 #include "platform/window/Window.h"
 #include "platform/window/WindowHost.h"
 #include "prefs/SampleStill.h"
-#include "settings/QVOverlayStyleDefaults.h"
-#include "subtitles/QVSubtitle.h"
 
 #include <QEvent>
 #include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -31,13 +34,28 @@ constexpr float smallestWindowAlpha = 0.2F;
 /// A movie that fits the screen.
 class SamplePicture final : public PictureGeometry {
 public:
+    void setAspect(double aspect) { _size = QSizeF(aspect, 1).scaled(screenWidth, screenHeight, Qt::KeepAspectRatio); }
     platform::Rect pictureFrame() const override {
-        return {0, (screenHeight - pictureHeight) * 0.5, screenWidth, pictureHeight};
+        return {(screenWidth - _size.width()) * 0.5, (screenHeight - _size.height()) * 0.5, _size.width(),
+                _size.height()};
     }
-    QSizeF sizeForFitScreen(std::int32_t) const override { return {screenWidth, pictureHeight}; }
-    float aspectRatio() const override { return static_cast<float>(screenWidth / pictureHeight); }
+    QSizeF sizeForFitScreen(std::int32_t) const override { return _size; }
+    float aspectRatio() const override { return static_cast<float>(_size.width() / _size.height()); }
     bool isControllerBarVisible() const override { return false; }
     unsigned getControllerHeight() const override { return 0; }
+
+private:
+    QSizeF _size{screenWidth, pictureHeight};
+};
+
+/// The main window, as far as it shows its style by itself.
+class SampleWindow final : public QVStyledOverlay {
+public:
+    SampleWindow(const Environment& environment, const platform::Rect& frame)
+        : QVStyledOverlay(environment, frame, kQVFullscreenOverlayStyle) {}
+
+protected:
+    float smallestShownAlpha() const override { return smallestWindowAlpha; }
 };
 
 /// Has the widget painted anew.
@@ -61,46 +79,49 @@ private:
 
 } // namespace
 
-/// A screen with one overlay of a style on it.
+/// A screen with one overlay of a style on it, or with the main window alone.
 class StyleSample::Scene {
 public:
     Scene(const Environment& environment, QWidget& widget, const QString& key)
-        : _environment(environment)
-        , _key(key)
-        , _host(widget) {
-        _root.setHost(&_host);
-        _root.orderFront();
-        if (key == kQVSubtitlesOverlayStyle) {
-            auto subtitles = std::make_unique<QVTextSubView>(environment, _root, _picture, key);
-            subtitles->setSubtitle(std::make_shared<QVSubtitle>(sampleText("StyleSampleSubtitle"), 0, 1));
-            _overlay = std::move(subtitles);
-        } else if (key == kQVFullscreenOverlayStyle) {
-            _onPreferences = environment.notifications.observe<QVPreferencesChangedNotification>(
-                [&widget](const QVPreferencesChangedNotification&) { widget.update(); });
+        : _host(widget)
+        , _isWindow(key == kQVFullscreenOverlayStyle)
+        , _hasBars(_isWindow || key == kQVSubtitlesOverlayStyle)
+        , _root(_isWindow ? std::make_unique<SampleWindow>(environment, screenFrame)
+                          : std::make_unique<platform::Window>(screenFrame)) {
+        _root->setHost(&_host);
+        _root->orderFront();
+        QVStyledOverlay* shown = nullptr;
+        if (_isWindow) {
+            shown = static_cast<SampleWindow*>(_root.get());
+            shown->show();
         } else {
-            _overlay = std::make_unique<QVTextOverlay>(environment, _root, key);
-            _overlay->setText(
-                key == kQVOSDOverlayStyle
-                    ? platform::localizedFormat(QStringLiteral("Time: %@/%@"),
-                                                {QStringLiteral("0:42:17"), QStringLiteral("1:58:03")})
-                    : sampleText(key == kQVVobSubOverlayStyle ? "StyleSampleSubtitle" : "StyleSampleFeedback"));
-            _overlay->show();
+            _overlay = makeSampleOverlay(environment, *_root, _picture, key);
+            shown = _overlay.get();
         }
+        _fades.emplace(environment, *shown);
     }
-    ~Scene() { _root.setHost(nullptr); }
+    ~Scene() { _root->setHost(nullptr); }
 
-    void paint(QPainter& painter, const QRect& place, double pixelRatio, SampleStill still) {
+    void setAspect(double aspect) {
+        if (_picture.setAspect(aspect); _overlay)
+            _overlay->movieViewSizeChanged(QVMovieViewSizeChangedNotification{nullptr});
+    }
+
+    /// `paintPicture` puts a picture into a place.
+    template <class PaintPicture>
+    void paint(QPainter& painter, const QRect& place, double pixelRatio, SampleStill desktop,
+               PaintPicture paintPicture) {
         const double scale = place.width() / screenWidth;
         const QRectF screen(place);
-        const bool hasBars = _key == kQVSubtitlesOverlayStyle || !_overlay;
-        const QRectF picture(screen.x(), screen.y() + (screenHeight - pictureHeight) * 0.5 * scale, screen.width(),
-                             pictureHeight * scale);
-        if (!_overlay) {
-            paintWindow(painter, screen, picture, still);
+        const platform::Rect frame = _picture.pictureFrame();
+        const QRectF picture(screen.x() + frame.x() * scale, screen.y() + frame.y() * scale, frame.width() * scale,
+                             frame.height() * scale);
+        if (_isWindow) {
+            paintWindow(painter, screen, picture, desktop, paintPicture);
             return;
         }
         painter.fillRect(screen, Qt::black);
-        paintStill(painter, hasBars ? picture : screen, still);
+        paintPicture(_hasBars ? picture : screen);
         const double ratio = scale * pixelRatio;
         const QSize pixels(qRound(place.width() * pixelRatio), qRound(place.height() * pixelRatio));
         QImage layer(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -111,40 +132,41 @@ public:
         layer.setDevicePixelRatio(pixelRatio);
         painter.drawImage(place.topLeft(), layer);
     }
+    /// A movie stands on the screen as it is.
+    void showBars() { _hasBars = true; }
 
 private:
-    static QString sampleText(const char* identifier) {
-        return platform::localizedString(QString::fromLatin1(identifier));
-    }
-
-    /// The main window over a desktop: its colour around the movie, as opaque as it comes to be.
-    void paintWindow(QPainter& painter, const QRectF& screen, const QRectF& picture, SampleStill still) {
-        const auto defaults = QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(_environment.settings, _key);
-        const OverlayStyle style = defaults ? defaults->values() : OverlayStyle();
-        paintDesktop(painter, screen, still);
-        _root.setBackgroundColor(style.backgroundColor.value_or(QColor()));
+    /// The main window over a desktop: its colour around the movie, as opaque as it is now.
+    template <class PaintPicture>
+    void paintWindow(QPainter& painter, const QRectF& screen, const QRectF& picture, SampleStill desktop,
+                     PaintPicture paintPicture) {
+        paintDesktop(painter, screen, desktop);
         painter.save();
-        painter.setOpacity(
-            static_cast<double>(std::max(platform::Window::shownAlpha(style.maxAlpha), smallestWindowAlpha)));
-        const QColor bars = _composer.background();
-        painter.fillRect(QRectF(screen.topLeft(), picture.topRight()), bars);
-        painter.fillRect(QRectF(picture.bottomLeft(), screen.bottomRight()), bars);
-        paintStill(painter, picture, still);
+        painter.setOpacity(painter.opacity() * static_cast<double>(_root->alphaValue()));
+        QPainterPath bars;
+        bars.addRect(screen);
+        bars.addRect(picture);
+        painter.fillPath(bars, _composer.background());
+        paintPicture(picture);
         painter.restore();
     }
 
-    Environment _environment;
-    QString _key;
+    inline static const platform::Rect screenFrame{0, 0, screenWidth, screenHeight};
     SamplePicture _picture;
-    platform::Window _root{platform::Rect(0, 0, screenWidth, screenHeight)};
     SampleHost _host;
-    platform::SceneComposer _composer{_root};
-    std::unique_ptr<QVTextOverlay> _overlay; // none for the main window's style
-    platform::Subscription _onPreferences;
+    bool _isWindow;
+    bool _hasBars;
+    std::unique_ptr<platform::Window> _root;
+    platform::SceneComposer _composer{*_root};
+    std::unique_ptr<QVChildOverlay> _overlay; // none for the main window's style
+    std::optional<FadeDemonstration> _fades;
 };
 
-StyleSample::StyleSample(const Environment& environment)
-    : _environment(environment) {
+StyleSample::StyleSample(const Environment& environment, PictureSource& pictures)
+    : _environment(environment)
+    , _pictures(pictures)
+    , _onMovie(environment.notifications.observe<QVPlaylistMovieChangedNotification>(
+          [this](const QVPlaylistMovieChangedNotification&) { takeStillOfNewMovie(0); })) {
     setObjectName(QStringLiteral("sample"));
     setAccessibleName(platform::localizedString(QStringLiteral("StyleSample")));
     setToolTip(platform::localizedString(QStringLiteral("StyleSampleTip")));
@@ -157,7 +179,38 @@ StyleSample::~StyleSample() = default;
 
 void StyleSample::showStyle(const QString& key) {
     _scene = std::make_unique<Scene>(_environment, *this, key);
+    _still = QImage();
+    takeStill();
     update();
+}
+
+void StyleSample::takeStill() {
+    if (!isVisible() || !_scene)
+        return;
+    _still = _pictures.still(size() * devicePixelRatioF());
+    if (!_still.isNull()) {
+        _scene->setAspect(static_cast<double>(_still.width()) / _still.height());
+        _scene->showBars();
+    }
+    update();
+}
+
+/// Its first picture takes a moment.
+void StyleSample::takeStillOfNewMovie(int tries) {
+    constexpr int maximumTries = 10;
+    constexpr double pause = 0.3;
+    if (tries == maximumTries)
+        return;
+    _newMovie = _environment.loop.schedule(pause, false, [this, tries] {
+        takeStill();
+        if (_still.isNull())
+            takeStillOfNewMovie(tries + 1);
+    });
+}
+
+void StyleSample::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    takeStill();
 }
 
 QSize StyleSample::sizeHint() const {
@@ -178,14 +231,25 @@ void StyleSample::changeEvent(QEvent* event) {
 void StyleSample::paintEvent(QPaintEvent*) {
     if (!_scene)
         return;
-    // One above the other, as large as they both fit, at the top.
-    const int gap = fontMetrics().height() / 2;
-    const double height = std::min((this->height() - gap) * 0.5, width() * screenHeight / screenWidth);
-    const QSize size(static_cast<int>(height * screenWidth / screenHeight), static_cast<int>(height));
-    const int left = (width() - size.width()) / 2;
     QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!isEnabled())
         painter.setOpacity(0.4);
-    _scene->paint(painter, QRect(QPoint(left, 0), size), devicePixelRatioF(), SampleStill::light);
-    _scene->paint(painter, QRect(QPoint(left, size.height() + gap), size), devicePixelRatioF(), SampleStill::dark);
+    const auto paint = [&](int top, double height, SampleStill desktop, auto paintPicture) {
+        const QSize size(static_cast<int>(height * screenWidth / screenHeight), static_cast<int>(height));
+        const QRect place(QPoint((width() - size.width()) / 2, top), size);
+        _scene->paint(painter, place, devicePixelRatioF(), desktop, paintPicture);
+    };
+    // As large as fits, at the top.
+    const double whole = width() * screenHeight / screenWidth;
+    if (!_still.isNull()) {
+        paint(0, std::min<double>(height(), whole), SampleStill::light,
+              [&](const QRectF& place) { painter.drawImage(place, _still); });
+        return;
+    }
+    const int gap = fontMetrics().height() / 2;
+    const double half = std::min((height() - gap) * 0.5, whole);
+    for (const SampleStill still : {SampleStill::light, SampleStill::dark})
+        paint(still == SampleStill::light ? 0 : static_cast<int>(half) + gap, half, still,
+              [&](const QRectF& place) { paintStill(painter, place, still); });
 }

@@ -85,6 +85,7 @@ public:
 
     QWindow* window = nullptr;
     QVPlaylistController* playlist = nullptr;
+    PictureSource* pictures = nullptr;
     const Environment* environment = nullptr;
     void runHelpPanel() override { ::runHelpPanel(window); }
     void runPlaylistPanel() override {
@@ -92,8 +93,8 @@ public:
             ::runPlaylistPanel(*environment, *playlist, window);
     }
     void showPreferences() override {
-        if (!_preferences && environment)
-            _preferences = std::make_unique<QVPreferencesController>(*environment, _desktop);
+        if (!_preferences && environment && pictures)
+            _preferences = std::make_unique<QVPreferencesController>(*environment, _desktop, *pictures);
         if (_preferences)
             _preferences->showAbove(window);
     }
@@ -162,6 +163,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         desktop.setMainWindow(&host);
         steps.window = &host;
         steps.playlist = &player.playlist();
+        steps.pictures = &player.view();
         steps.environment = &run.environment();
 
         const auto take = [&](const platform::HandOver& message) {

@@ -1286,6 +1286,22 @@
         <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
         <translation>Wie deckend es gezeigt wird: unter 100 % scheint das Bild durch</translation>
     </message>
+    <message id="StyleReset">
+        <source>Reset to Defaults</source>
+        <translation>Auf Standard zurücksetzen</translation>
+    </message>
+    <message id="StyleResetTip">
+        <source>Takes this style back to what it was at first</source>
+        <translation>Bringt diesen Stil auf seine ursprünglichen Werte zurück</translation>
+    </message>
+    <message id="StyleResetUndo">
+        <source>Undo Reset</source>
+        <translation>Zurücksetzen rückgängig machen</translation>
+    </message>
+    <message id="StyleResetUndoTip">
+        <source>Brings back what the style was before</source>
+        <translation>Bringt den Stil zurück, wie er vorher war</translation>
+    </message>
     <message id="StyleSeconds">
         <source>%@ s</source>
         <translation>%@ s</translation>
@@ -1299,8 +1315,8 @@
         <translation>Muster</translation>
     </message>
     <message id="StyleSampleTip">
-        <source>What it looks like over a light and a dark picture</source>
-        <translation>Wie es über einem hellen und einem dunklen Bild aussieht</translation>
+        <source>What it looks like over the movie, or over a light and a dark picture</source>
+        <translation>Wie es über dem Film aussieht, oder über einem hellen und einem dunklen Bild</translation>
     </message>
     <message id="StyleSampleSubtitle">
         <source>What an evening!</source>
@@ -1589,10 +1605,6 @@
         <source>What is damaged is read as far as it can be</source>
         <translation>Beschädigtes wird gelesen, so weit es geht</translation>
     </message>
-    <message id="Appearance">
-        <source>Appearance</source>
-        <translation>Aussehen</translation>
-    </message>
     <message id="&amp;Overlays">
         <source>&amp;Overlays</source>
         <translation>&amp;Einblendungen</translation>
@@ -1628,6 +1640,14 @@
     <message id="Overlay styles">
         <source>Overlay styles</source>
         <translation>Stile der Einblendungen</translation>
+    </message>
+    <message id="How subtitles look">
+        <source>How subtitles look</source>
+        <translation>Wie Untertitel aussehen</translation>
+    </message>
+    <message id="Subtitle styles">
+        <source>Subtitle styles</source>
+        <translation>Stile der Untertitel</translation>
     </message>
     <message id="&amp;Advanced">
         <source>&amp;Advanced</source>
@@ -1744,6 +1764,14 @@
     <message id="Feedback style">
         <source>Feedback</source>
         <translation>Rückmeldungen</translation>
+    </message>
+    <message id="Text style">
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message id="Picture style">
+        <source>Bitmaps</source>
+        <translation>Bilder</translation>
     </message>
     <message id="On-screen display style">
         <source>On-Screen Display</source>

@@ -1286,6 +1286,22 @@
         <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
         <translation>How opaque it is while it is shown: below 100 % the picture shows through</translation>
     </message>
+    <message id="StyleReset">
+        <source>Reset to Defaults</source>
+        <translation>Reset to Defaults</translation>
+    </message>
+    <message id="StyleResetTip">
+        <source>Takes this style back to what it was at first</source>
+        <translation>Takes this style back to what it was at first</translation>
+    </message>
+    <message id="StyleResetUndo">
+        <source>Undo Reset</source>
+        <translation>Undo Reset</translation>
+    </message>
+    <message id="StyleResetUndoTip">
+        <source>Brings back what the style was before</source>
+        <translation>Brings back what the style was before</translation>
+    </message>
     <message id="StyleSeconds">
         <source>%@ s</source>
         <translation>%@ s</translation>
@@ -1299,8 +1315,8 @@
         <translation>Sample</translation>
     </message>
     <message id="StyleSampleTip">
-        <source>What it looks like over a light and a dark picture</source>
-        <translation>What it looks like over a light and a dark picture</translation>
+        <source>What it looks like over the movie, or over a light and a dark picture</source>
+        <translation>What it looks like over the movie, or over a light and a dark picture</translation>
     </message>
     <message id="StyleSampleSubtitle">
         <source>What an evening!</source>
@@ -1589,10 +1605,6 @@
         <source>What is damaged is read as far as it can be</source>
         <translation>What is damaged is read as far as it can be</translation>
     </message>
-    <message id="Appearance">
-        <source>Appearance</source>
-        <translation>Appearance</translation>
-    </message>
     <message id="&amp;Overlays">
         <source>&amp;Overlays</source>
         <translation>&amp;Overlays</translation>
@@ -1628,6 +1640,14 @@
     <message id="Overlay styles">
         <source>Overlay styles</source>
         <translation>Overlay styles</translation>
+    </message>
+    <message id="How subtitles look">
+        <source>How subtitles look</source>
+        <translation>How subtitles look</translation>
+    </message>
+    <message id="Subtitle styles">
+        <source>Subtitle styles</source>
+        <translation>Subtitle styles</translation>
     </message>
     <message id="&amp;Advanced">
         <source>&amp;Advanced</source>
@@ -1744,6 +1764,14 @@
     <message id="Feedback style">
         <source>Feedback</source>
         <translation>Feedback</translation>
+    </message>
+    <message id="Text style">
+        <source>Texts</source>
+        <translation>Texts</translation>
+    </message>
+    <message id="Picture style">
+        <source>Bitmaps</source>
+        <translation>Bitmaps</translation>
     </message>
     <message id="On-screen display style">
         <source>On-Screen Display</source>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "context/Notifications.h"
 #include "platform/base/Localization.h"
 #include "prefs/ColorWell.h"
 #include "prefs/FloatSlider.h"
@@ -6,6 +7,7 @@
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Posts.h"
+#include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <QApplication>
@@ -13,17 +15,19 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <set>
 
 namespace {
 
 struct OverlayStyleSection : testing::Test {
     explicit OverlayStyleSection(const QString& key = kQVFeedbackOverlayStyle)
-        : controller(settings.environment) {
+        : controller(settings.environment, pictures) {
         controller.setupWithModelForKey(key);
     }
 
@@ -63,6 +67,7 @@ struct OverlayStyleSection : testing::Test {
     }
 
     TestEnvironment settings;
+    StandingPicture pictures;
     QVOverlayStyleController controller;
     Posts<QVPreferencesChangedNotification> posts{settings.notifications};
 };
@@ -254,6 +259,110 @@ TEST_F(OverlayStyleSection, no_size_stays_below_the_smallest_of_all_texts) {
     }
 }
 
+TEST_F(OverlayStyleSection, of_the_two_opacities_the_other_moves_along) {
+    model().set(&OverlayStyle::minAlpha, 0.2F);
+    model().set(&OverlayStyle::maxAlpha, 0.8F);
+    controller.syncWithModel();
+    drag("minAlpha", 0.9);
+    EXPECT_EQ(model().values().maxAlpha, 0.9F);
+    EXPECT_EQ(text("maxAlphaValue"), "90 %");
+    EXPECT_EQ(posts.last->styleKeys, QStringList{kMaxAlpha});
+    EXPECT_EQ(posts.count, 2);
+    drag("maxAlpha", 0.4);
+    EXPECT_EQ(model().values().minAlpha, 0.4F);
+    EXPECT_EQ(find<FloatSlider>("minAlpha").floatValue(), 0.4);
+    drag("minAlpha", 0.1);
+    EXPECT_EQ(model().values().maxAlpha, 0.4F) << "only where they would cross";
+    // Such a pair in the file stays until one of the two is used.
+    model().set(&OverlayStyle::minAlpha, 0.7F);
+    controller.syncWithModel();
+    drag("fadingInInterval", 1);
+    EXPECT_EQ(model().values().minAlpha, 0.7F);
+    drag("maxAlpha", 0.5);
+    EXPECT_EQ(model().values().minAlpha, 0.5F);
+}
+
+TEST_F(OverlayStyleSection, a_reset_brings_back_the_registered_style_and_can_be_undone) {
+    const QVariant registered = model().objectForKey(kTextFontSize);
+    EXPECT_FALSE(isEnabled("reset"));
+    pick("textFontSize", 40);
+    drag("maxAlpha", 0.5);
+    EXPECT_TRUE(isEnabled("reset"));
+    EXPECT_FALSE(isEnabled("undoReset"));
+    find<QPushButton>("reset").click();
+    EXPECT_EQ(model().objectForKey(kTextFontSize), registered);
+    EXPECT_EQ(find<QComboBox>("textFontSize").currentData(), registered);
+    EXPECT_EQ(text("maxAlphaValue"), "100 %");
+    EXPECT_EQ(posts.last->key, kQVFeedbackOverlayStyle);
+    EXPECT_EQ(posts.last->styleKeys.size(), 19) << "the overlays take over all";
+    EXPECT_FALSE(isEnabled("reset"));
+    EXPECT_TRUE(isEnabled("undoReset"));
+    controller.setEnabled(false);
+    EXPECT_FALSE(isEnabled("undoReset"));
+    controller.setEnabled(true);
+    find<QPushButton>("undoReset").click();
+    EXPECT_EQ(model().objectForKey(kTextFontSize), 40);
+    EXPECT_EQ(text("maxAlphaValue"), "50 %");
+    EXPECT_TRUE(isEnabled("reset"));
+    EXPECT_FALSE(isEnabled("undoReset"));
+}
+
+TEST_F(OverlayStyleSection, tells_while_it_can_be_used) {
+    using Edited = QVOverlayStyleEditedNotification;
+    Posts<Edited> edited(settings.notifications);
+    const auto told = [&](Edited::Page page, const char* when) {
+        EXPECT_EQ(edited.count, 1) << when;
+        EXPECT_TRUE(edited.last && edited.last->key == kQVFeedbackOverlayStyle && edited.last->page == page) << when;
+        edited.count = 0;
+    };
+    controller.widget()->show();
+    told(Edited::Page::opened, "shown");
+    controller.syncWithModel();
+    EXPECT_EQ(edited.count, 0);
+    controller.setEnabled(false);
+    told(Edited::Page::closed, "disabled");
+    controller.setEnabled(true);
+    told(Edited::Page::opened, "enabled");
+    controller.widget()->hide();
+    told(Edited::Page::closed, "hidden");
+    auto page = std::make_unique<QWidget>();
+    controller.widget()->setParent(page.get());
+    controller.widget()->show();
+    page->show();
+    told(Edited::Page::opened, "shown in a window");
+    page.reset();
+    told(Edited::Page::closed, "gone with its window");
+}
+
+TEST_F(OverlayStyleSection, the_sample_stands_on_the_movie_that_is_shown) {
+    controller.widget()->resize(1000, 500);
+    const auto sample = [&] { return find("sample").grab().toImage(); };
+    const auto has = [&](const QColor& color) {
+        const QImage picture = sample();
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixelColor(x, y) == color)
+                    return true;
+        return false;
+    };
+    controller.widget()->show();
+    EXPECT_FALSE(has(Qt::magenta));
+    pictures.picture = QImage(64, 36, QImage::Format_RGB32);
+    pictures.picture.fill(Qt::magenta);
+    settings.notifications.post(QVPlaylistMovieChangedNotification{nullptr});
+    settings.runLoop.advance(1);
+    EXPECT_TRUE(has(Qt::magenta)) << "of a movie opened meanwhile";
+    EXPECT_EQ(pictures.asked, 2);
+    drag("maxAlpha", 0.5);
+    EXPECT_EQ(pictures.asked, 2) << "not for each change";
+    controller.widget()->hide();
+    pictures.picture.fill(Qt::green);
+    controller.syncWithModel();
+    EXPECT_EQ(pictures.asked, 2) << "nobody sees it";
+    controller.widget()->show();
+    EXPECT_TRUE(has(Qt::green));
+}
+
 TEST_F(OverlayStyleSection, a_colour_counts_while_it_is_tried_and_cancelling_brings_back_the_one_before) {
     const QVariant before = model().objectForKey(kTextColor);
     find<ColorWell>("textColor").click();
@@ -327,7 +436,7 @@ TEST_F(OverlayStyleSection, each_style_shows_what_it_has_a_use_for) {
 TEST_F(OverlayStyleSection, every_control_has_a_name_of_its_own_a_tip_and_a_mnemonic) {
     for (const QString& language : {QString("en"), QString("de")}) {
         platform::setLocalizationLanguages({language});
-        QVOverlayStyleController section(settings.environment);
+        QVOverlayStyleController section(settings.environment, pictures);
         section.setupWithModelForKey(kQVFeedbackOverlayStyle);
         std::set<QString> names;
         std::set<QChar> mnemonics;

@@ -11,6 +11,7 @@
 #include "subtitles/JHStringEncodings.h"
 #include "tests/support/CapturedLog.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <QAbstractButton>
@@ -53,7 +54,7 @@ protected:
     void show(const QVariantMap& values = {}) {
         for (auto value = values.begin(); value != values.end(); ++value)
             env.defaults().setObject(value.value(), value.key());
-        controller.emplace(env.environment, desktop);
+        controller.emplace(env.environment, desktop, pictures);
         controller->showAbove(nullptr);
     }
     template <class Control>
@@ -141,6 +142,7 @@ protected:
 
     TestEnvironment env;
     FakeDesktop desktop;
+    StandingPicture pictures;
     QStringList keys;
     std::optional<QVPreferencesController> controller;
 
