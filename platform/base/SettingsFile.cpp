@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/SettingsFile.h"
 
+#include "platform/base/Background.h"
+#include "platform/base/Delivery.h"
 #include "platform/base/Log.h"
 #include "platform/base/PropertyList.h"
 #include "platform/base/RegularFile.h"
@@ -10,11 +12,16 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <atomic>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <fcntl.h>
+#include <mutex>
+#include <optional>
 #include <sys/file.h>
 #include <unistd.h>
+#include <utility>
 
 namespace platform {
 
@@ -76,23 +83,36 @@ QString putAside(const QString& path) {
 
 } // namespace
 
-SettingsFile::SettingsFile(const QString& path)
-    : _path(behindLinks(path)) {}
+/// What the file's threads share.
+class SettingsFile::Contents {
+public:
+    explicit Contents(const QString& path)
+        : _path(behindLinks(path)) {}
 
-QString SettingsFile::defaultPath() {
-    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-    if (!QDir::isAbsolutePath(folder))
-        folder = QDir::homePath() + QStringLiteral("/.config");
-    return QDir::cleanPath(folder + QStringLiteral("/lumaro/org.lumaro.Lumaro.plist"));
-}
+    QVariantMap load() {
+        const std::scoped_lock lock(_mutex);
+        _known = read().value_or(QVariantMap());
+        return _known;
+    }
+    /// A number for each wish to store, in their order: of two, the later one is what is to stand in the file.
+    std::uint64_t nextTurn() { return ++_turns; }
+    bool store(const QVariantMap& domain, std::uint64_t turn);
 
-QVariantMap SettingsFile::load() {
-    _known = read().value_or(QVariantMap());
-    return _known;
-}
+private:
+    std::optional<QVariantMap> read();
+    QVariantMap merged(const QVariantMap& domain, QVariantMap stored) const;
+
+    const QString _path;
+    std::atomic<std::uint64_t> _turns = 0;
+    std::mutex _mutex; // guards what follows, and the file against this process
+    std::uint64_t _lastTurn = 0;
+    /// What this process loaded or stored last.
+    QVariantMap _known;
+    bool _writable = true;
+};
 
 /// None when there is no file, or none any more; not _writable when there is one that must stay as it is.
-std::optional<QVariantMap> SettingsFile::read() {
+std::optional<QVariantMap> SettingsFile::Contents::read() {
     const bool isKnown = !_writable; // and was reported
     _writable = true;
     int error = 0;
@@ -127,7 +147,7 @@ std::optional<QVariantMap> SettingsFile::read() {
 }
 
 /// What is stored now, with this process's changes.
-QVariantMap SettingsFile::merged(const QVariantMap& domain, QVariantMap stored) const {
+QVariantMap SettingsFile::Contents::merged(const QVariantMap& domain, QVariantMap stored) const {
     for (auto known = _known.begin(); known != _known.end(); ++known) {
         if (!domain.contains(known.key()))
             stored.remove(known.key());
@@ -140,7 +160,11 @@ QVariantMap SettingsFile::merged(const QVariantMap& domain, QVariantMap stored) 
     return stored;
 }
 
-bool SettingsFile::store(const QVariantMap& domain) {
+bool SettingsFile::Contents::store(const QVariantMap& domain, std::uint64_t turn) {
+    const std::scoped_lock guard(_mutex);
+    if (turn < _lastTurn)
+        return true; // a later one was quicker
+    _lastTurn = turn;
     const QFileInfo place(_path);
     QDir().mkpath(place.absolutePath());
     const FolderLock lock(place.absolutePath());
@@ -160,6 +184,41 @@ bool SettingsFile::store(const QVariantMap& domain) {
         logError(QStringLiteral("Can't write the settings to"), _path, file.errorString());
     }
     return isStored;
+}
+
+SettingsFile::SettingsFile(const QString& path)
+    : _contents(std::make_shared<Contents>(path)) {}
+
+SettingsFile::~SettingsFile() {
+    for (const auto& answer : _underWay)
+        answer->abandon();
+}
+
+QString SettingsFile::defaultPath() {
+    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+    if (!QDir::isAbsolutePath(folder))
+        folder = QDir::homePath() + QStringLiteral("/.config");
+    return QDir::cleanPath(folder + QStringLiteral("/lumaro/org.lumaro.Lumaro.plist"));
+}
+
+QVariantMap SettingsFile::load() {
+    return _contents->load();
+}
+
+bool SettingsFile::store(const QVariantMap& domain) {
+    return _contents->store(domain, _contents->nextTurn());
+}
+
+void SettingsFile::storeInBackground(const QVariantMap& domain, std::function<void(bool)> stored) {
+    const auto answer = std::make_shared<Delivery<bool>>();
+    _underWay.push_back(answer);
+    answer->receive([this, stored = std::move(stored), finished = answer.get()](bool isStored) {
+        std::erase_if(_underWay, [finished](const auto& one) { return one.get() == finished; });
+        stored(isStored);
+    });
+    background::run([contents = _contents, domain, turn = _contents->nextTurn(), answer] {
+        answer->deliver(contents->store(domain, turn));
+    });
 }
 
 } // namespace platform

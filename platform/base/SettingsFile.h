@@ -3,9 +3,14 @@
 
 #include "platform/base/UserDefaults.h"
 
-#include <optional>
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace platform {
+
+template <class Value>
+class Delivery;
 
 /// Settings in one XML property list. It is written whole to a temporary file beside it, synced, and renamed over it,
 /// so that a crash at any moment leaves the old or the new settings, never a mixture. Symbolic links and the
@@ -18,6 +23,7 @@ namespace platform {
 class SettingsFile final : public SettingsStorage {
 public:
     explicit SettingsFile(const QString& path);
+    ~SettingsFile() override;
 
     /// `$XDG_CONFIG_HOME/lumaro/org.lumaro.Lumaro.plist`, with ~/.config where the variable is unset or relative.
     static QString defaultPath();
@@ -26,14 +32,13 @@ public:
     /// Where the file is gone, or damaged by now, the whole domain is stored.
     bool store(const QVariantMap& domain) override;
 
-private:
-    std::optional<QVariantMap> read();
-    QVariantMap merged(const QVariantMap& domain, QVariantMap stored) const;
+    /// On a thread. One that waits for another's lock is left behind at the end of the process, like all of them.
+    void storeInBackground(const QVariantMap& domain, std::function<void(bool)> stored) override;
 
-    QString _path;
-    /// What this process loaded or stored last.
-    QVariantMap _known;
-    bool _writable = true;
+private:
+    class Contents;
+    std::shared_ptr<Contents> _contents;
+    std::vector<std::shared_ptr<Delivery<bool>>> _underWay;
 };
 
 } // namespace platform

@@ -138,21 +138,35 @@ bool UserDefaults::hasStoredValue(const QString& key) const {
 
 bool UserDefaults::synchronize() {
     _writeTimer.reset();
-    if (_changed && _storage->store(_domain))
+    // What is on its way to the disk may never get there.
+    if ((_changed || _isWriting) && !_storage->store(_domain))
+        _changed = true;
+    else
         _changed = false;
     return !_changed;
+}
+
+void UserDefaults::writeInBackground() {
+    _changed = false;
+    _isWriting = true;
+    _storage->storeInBackground(_domain, [this](bool isWritten) {
+        _isWriting = false;
+        if (isWritten && _changed)
+            scheduleWrite(); // it was changed meanwhile
+        if (isWritten)
+            return;
+        _changed = true;
+        // The handler may show an alert, whose event loop writes again.
+        if (const auto handler = _onWriteFailure)
+            handler();
+    });
 }
 
 void UserDefaults::scheduleWrite() {
     _changed = true;
     // Not moved by later changes: what changes all the time is written all the same.
-    if (!_writeTimer || !_writeTimer->isValid())
-        _writeTimer = RunLoop::main().schedule(writeDelay, false, [this] {
-            // The handler may show an alert, whose event loop writes again.
-            const bool isWritten = synchronize();
-            if (const auto handler = _onWriteFailure; handler && !isWritten)
-                handler();
-        });
+    if (!_isWriting && (!_writeTimer || !_writeTimer->isValid()))
+        _writeTimer = RunLoop::main().schedule(writeDelay, false, [this] { writeInBackground(); });
 }
 
 } // namespace platform

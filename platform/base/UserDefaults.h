@@ -28,6 +28,11 @@ public:
     /// that also after a crash, and what others stored meanwhile under other keys. False when it could not be stored
     /// (what was stored before is then untouched, and a message was logged).
     virtual bool store(const QVariantMap& domain) = 0;
+    /// The same without waiting for the disk: `stored` is called with the answer, from the run loop or at once, unless
+    /// the storage goes before. A store() that follows counts as the later one.
+    virtual void storeInBackground(const QVariantMap& domain, std::function<void(bool)> stored) {
+        stored(store(domain));
+    }
 };
 
 /// The layered key-value store of settings. A read is answered by the first of these that holds the key: this run's
@@ -93,7 +98,8 @@ public:
     const QVariantMap& persistentDomain() const { return _domain; }
 
     /// Writes the user's domain out if it changed since. Without it a change is written by itself about a second
-    /// after it was made. False when it could not be written; the next change or call tries again.
+    /// after it was made, without holding up the main thread. False when it could not be written; the next change or
+    /// call tries again.
     bool synchronize();
     /// Called each time the settings could not be written after a change; null for nobody. Not when they are written on
     /// request or at the end.
@@ -101,6 +107,7 @@ public:
 
 private:
     void scheduleWrite();
+    void writeInBackground();
 
     std::unique_ptr<SettingsStorage> _storage;
     QVariantMap _overrides;
@@ -108,6 +115,7 @@ private:
     QVariantMap _registered;
     std::unique_ptr<Timer> _writeTimer;
     bool _changed = false;
+    bool _isWriting = false;
     std::function<void()> _onWriteFailure;
 };
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/SettingsFile.h"
+#include "platform/base/Background.h"
 #include "tests/support/CapturedLog.h"
 #include "tests/support/Files.h"
+#include "tests/support/ManualRunLoop.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -178,6 +180,28 @@ TEST_F(SettingsFileTest, players_that_write_at_the_same_time_lose_nothing) {
     ASSERT_EQ(::flock(holder, LOCK_EX), 0);
     EXPECT_TRUE(SettingsFile(path).store(settings));
     ::close(holder);
+}
+
+TEST_F(SettingsFileTest, of_what_is_stored_in_the_background_the_last_one_stands) {
+    ManualRunLoop loop;
+    platform::RunLoop::setMain(&loop);
+    {
+        SettingsFile file(path);
+        int answers = 0;
+        const auto isStored = [&answers](bool stored) { answers += stored ? 1 : 100; };
+        for (int number = 1; number <= 20; ++number)
+            file.storeInBackground({{"number", number}}, isStored);
+        EXPECT_EQ(answers, 0) << "nobody waits for it";
+        while (answers < 20 && loop.runPosted()) {
+        }
+        EXPECT_EQ(answers, 20);
+        EXPECT_EQ(SettingsFile(path).load().value("number"), 20);
+        file.storeInBackground({{"number", 21}}, isStored);
+        EXPECT_TRUE(file.store({{"number", 22}}));
+    }
+    EXPECT_TRUE(platform::background::waitUntilIdle(30));
+    platform::RunLoop::setMain(nullptr);
+    EXPECT_EQ(SettingsFile(path).load().value("number"), 22);
 }
 
 TEST_F(SettingsFileTest, killed_at_any_moment_it_reads_back_whole) {

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -75,6 +78,38 @@ TEST_F(UserDefaultsTest, a_write_that_failed_is_tried_again) {
     defaults->setInteger(2, "a");
     defaults.reset();
     EXPECT_EQ(disk->domain["a"], 2) << "what was not written yet is written at the end";
+}
+
+TEST_F(UserDefaultsTest, what_changes_while_it_is_written_is_written_afterwards) {
+    struct SlowDisk final : MemorySettings {
+        using MemorySettings::MemorySettings;
+        std::vector<std::function<void(bool)>> waiting;
+        void storeInBackground(const QVariantMap&, std::function<void(bool)> stored) override {
+            waiting.push_back(std::move(stored));
+        }
+    };
+    auto slow = std::make_unique<SlowDisk>(disk);
+    auto& waiting = slow->waiting;
+    defaults = std::make_unique<platform::UserDefaults>(std::move(slow));
+    int failures = 0;
+    defaults->setWriteFailureHandler([&] { ++failures; });
+    defaults->setInteger(1, "a");
+    loop.advance(1.1);
+    ASSERT_EQ(waiting.size(), 1U);
+    defaults->setInteger(2, "a");
+    loop.advance(5);
+    EXPECT_EQ(waiting.size(), 1U) << "one at a time";
+    EXPECT_EQ(disk->stores, 0);
+    waiting[0](true);
+    loop.advance(1.1);
+    ASSERT_EQ(waiting.size(), 2U);
+    // Who wants it on the disk now does not rely on what may never end.
+    EXPECT_TRUE(defaults->synchronize());
+    EXPECT_EQ(disk->domain["a"], 2);
+    waiting[1](false);
+    EXPECT_EQ(failures, 1);
+    EXPECT_TRUE(defaults->synchronize());
+    EXPECT_EQ(disk->stores, 2) << "it is tried again";
 }
 
 TEST_F(UserDefaultsTest, values_are_read_as_the_type_that_is_asked_for) {

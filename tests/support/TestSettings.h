@@ -6,7 +6,7 @@
 
 /// Settings that lie in memory. The disk is shared with the test, which may look at it, and outlives the storage, so
 /// that a second storage over it plays the next run of the program.
-class MemorySettings final : public platform::SettingsStorage {
+class MemorySettings : public platform::SettingsStorage {
 public:
     struct Disk {
         QVariantMap domain;

@@ -44,7 +44,7 @@ TEST(FirstFrame, is_the_one_that_the_player_shows_first) {
 }
 
 TEST(FirstFrame, of_a_time_is_the_one_that_the_player_shows_when_it_is_loaded_there) {
-    // A transport stream begins at another time than 0.
+    // The last two begin at another time than 0.
     for (const std::string name : {"at.mp4", "at.mkv", "at.avi", "at.ts"}) {
         harness::MediaFixture::Numbered numbered;
         numbered.frames = 90;
@@ -65,7 +65,7 @@ TEST(FirstFrame, of_a_time_is_the_one_that_the_player_shows_when_it_is_loaded_th
             EXPECT_TRUE(rig.waitFor([&] { return rig.screen.number() == decoded.number(); })) << name << ' ' << number;
             rig.settle();
             EXPECT_EQ(rig.screen.number(), decoded.number()) << name;
-            if (name != "at.ts") {
+            if (name == "at.mp4" || name == "at.mkv") {
                 EXPECT_EQ(rig.screen.number(), number) << name;
             }
         }
