@@ -47,8 +47,13 @@ void yieldMnemonics(const QWidget& section, const QTabWidget& pages) {
         for (auto* widget : widgets)
             work(*widget);
     };
+    // Of sections on tabs of their own, one at a time can be used.
+    const QWidget* tabs = section.parentWidget();
+    while (tabs && !qobject_cast<const QTabWidget*>(tabs))
+        tabs = tabs->parentWidget();
     const auto take = [&](const auto& widget) {
-        if (!section.isAncestorOf(&widget))
+        const bool isOnOtherTab = tabs && tabs != &pages && tabs->isAncestorOf(&widget);
+        if (!section.isAncestorOf(&widget) && !isOnOtherTab)
             taken += mnemonicOf(widget.text());
     };
     if (page) {

@@ -50,16 +50,22 @@ void addTags(QComboBox& popUp, std::initializer_list<std::pair<const char*, int>
         popUp.addItem(localized(title), tag);
 }
 
+/// By which numbers are written. The process's own writes them for the libraries.
+QLocale textLocale() {
+    const QStringList languages = platform::localizationLanguages();
+    return languages.isEmpty() ? QLocale() : QLocale(languages.front());
+}
+
 QString percentText(double value) {
     constexpr double percent = 100;
     // A value of single precision may lie a little below the whole number that it stands for.
     constexpr double singlePrecision = 1e-5;
     return platform::localizedFormat(QStringLiteral("StylePercent"),
-                                     {QLocale().toString(static_cast<int>(value * percent + singlePrecision))});
+                                     {textLocale().toString(static_cast<int>(value * percent + singlePrecision))});
 }
 
 QString numberText(double value) {
-    return QLocale().toString(value, 'g', 6);
+    return textLocale().toString(value, 'g', 6);
 }
 
 QString secondsText(double value) {
@@ -172,7 +178,7 @@ StyleControls::StyleControls()
     text.add(textFontName, "textFontName", "StyleTextFontName");
     text.add(textFontSize, "textFontSize", "StyleTextFontSize");
     for (const int size : textSizes)
-        textFontSize.control->addItem(QLocale().toString(size), size);
+        textFontSize.control->addItem(textLocale().toString(size), size);
 
     Group shadow("StyleShadow", guard);
     shadow.add(shadowOn, "shadowOn", "StyleShadowOn");

@@ -104,3 +104,28 @@ TEST_F(Preferences, go_with_the_player) {
     EXPECT_EQ(player->waitForExit(), 0);
     EXPECT_TRUE(player->faults().empty());
 }
+
+TEST_F(Preferences, show_a_style_on_the_screen_while_it_is_changed) {
+    start({"--set", "QVPauseOnDeactivate=0", numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    ASSERT_TRUE(opens());
+    // The right end of the panel that confirmations stand on, beside the window.
+    constexpr int x = 1249, y = 50;
+    const Color panel{74, 14, 18};
+    EXPECT_TRUE(probe.pixel(x, y).isNear(red));
+    probe.tap(XK_o, {XK_Alt_L});
+    EXPECT_TRUE(probe.waitForColor(x, y, panel)) << "a sample";
+    probe.tap(XK_y, {XK_Alt_L});
+    probe.tap(XK_Home);
+    EXPECT_TRUE(probe.waitForColor(x, y, red)) << "without any opacity";
+    probe.tap(XK_End);
+    EXPECT_TRUE(probe.waitForColor(x, y, panel));
+    probe.tap(XK_s, {XK_Alt_L});
+    EXPECT_TRUE(probe.waitForColor(x, y, red)) << "another page";
+    probe.tap(XK_o, {XK_Alt_L});
+    EXPECT_TRUE(probe.waitForColor(x, y, panel));
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    EXPECT_TRUE(probe.waitForColor(x, y, red)) << "closed";
+    ASSERT_TRUE(quitsCleanly());
+}

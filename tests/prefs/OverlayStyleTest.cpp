@@ -282,6 +282,13 @@ TEST_F(OverlayStyleSection, of_the_two_opacities_the_other_moves_along) {
     EXPECT_EQ(model().values().minAlpha, 0.5F);
 }
 
+TEST_F(OverlayStyleSection, numbers_are_written_as_in_the_language_of_the_texts) {
+    platform::setLocalizationLanguages({"de"});
+    drag("fadingInInterval", 0.35);
+    EXPECT_EQ(text("fadingInIntervalValue"), "0,35 s");
+    platform::setLocalizationLanguages({});
+}
+
 TEST_F(OverlayStyleSection, a_reset_brings_back_the_registered_style_and_can_be_undone) {
     const QVariant registered = model().objectForKey(kTextFontSize);
     EXPECT_FALSE(isEnabled("reset"));
