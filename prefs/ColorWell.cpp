@@ -85,6 +85,9 @@ void ColorWell::openDialog() {
     _dialog->setCurrentColor(_color);
     connect(_dialog, &QColorDialog::currentColorChanged, this, [this](const QColor& color) { choose(color); });
     connect(_dialog, &QColorDialog::rejected, this, [this, before = _color] { choose(before); });
+    // Without a window manager nobody else gives the keyboard, or takes it back.
+    connect(_dialog, &QColorDialog::finished, this, [this] { window()->activateWindow(); });
     _dialog->setModal(false);
     _dialog->show();
+    _dialog->activateWindow();
 }

@@ -79,7 +79,7 @@ void show(const StyleRow<FloatSlider>& row, Write write) {
     row.control->setAccessibleDescription(row.value->text());
 }
 
-// What the sliders offer, in points and seconds. A shadow falls no farther than an overlay's window reaches.
+// What the sliders offer, in points and seconds. Farther away a shadow looks like another text.
 struct Offer {
     double smallest;
     double largest;
@@ -87,7 +87,7 @@ struct Offer {
     Write write;
 };
 constexpr Offer blur{0, 20, 0.5, numberText};
-constexpr Offer shift{-20, 20, 0.5, numberText};
+constexpr Offer shift{-12, 12, 0.5, numberText};
 constexpr Offer corner{0, 40, 1, numberText};
 constexpr Offer line{0.5, 10, 0.5, numberText};
 constexpr Offer fade{0, 5, 0.05, secondsText};

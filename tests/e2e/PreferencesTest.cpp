@@ -120,6 +120,16 @@ TEST_F(Preferences, show_a_style_on_the_screen_while_it_is_changed) {
     EXPECT_TRUE(probe.waitForColor(x, y, red)) << "without any opacity";
     probe.tap(XK_End);
     EXPECT_TRUE(probe.waitForColor(x, y, panel));
+    // The window of a colour has the keyboard, and gives it back.
+    const WindowId preferences = probe.windowAt(screenWidth / 2, screenHeight / 2);
+    const auto isInFront = [&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) == preferences; };
+    probe.tap(XK_c, {XK_Alt_L});
+    probe.tap(XK_space);
+    EXPECT_TRUE(waitUntil([&] { return !isInFront(); }));
+    EXPECT_TRUE(staysTrue([&] { return !isInFront(); }, Seconds(0.5)));
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(waitUntil(isInFront));
+    EXPECT_TRUE(staysTrue(isInFront, Seconds(0.5)));
     probe.tap(XK_s, {XK_Alt_L});
     EXPECT_TRUE(probe.waitForColor(x, y, red)) << "another page";
     probe.tap(XK_o, {XK_Alt_L});

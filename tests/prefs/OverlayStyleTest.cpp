@@ -175,7 +175,7 @@ TEST_F(OverlayStyleSection, a_style_is_shown_whole_and_showing_it_tells_and_stor
     EXPECT_EQ(find<QComboBox>("alignmentVertical").currentIndex(), -1);
     EXPECT_EQ(find<QComboBox>("alignmentHorizontal").currentIndex(), -1);
     const std::pair<const char*, const char*> readOuts[] = {
-        {"shadowBlurRadiusValue", "3.3"},  {"shadowOffsetXValue", "-20"},       {"shadowOffsetYValue", "1.2"},
+        {"shadowBlurRadiusValue", "3.3"},  {"shadowOffsetXValue", "-12"},       {"shadowOffsetYValue", "1.2"},
         {"backgroungRadiusValue", "0"},    {"backgroungFrameWidthValue", "10"}, {"fadingInIntervalValue", "1.234 s"},
         {"fadingOutIntervalValue", "5 s"}, {"fadingDelayIntervalValue", "0 s"}, {"minAlphaValue", "45 %"},
         {"maxAlphaValue", "100 %"}};
