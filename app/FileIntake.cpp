@@ -6,13 +6,10 @@
 #include "platform/base/Delivery.h"
 #include "platform/base/Localization.h"
 #include "platform/base/PathNames.h"
-#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Events.h"
-#include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -21,16 +18,14 @@
 
 namespace {
 
-constexpr const char* className = "QVAppController";
-
 /// So many are looked at at once; more are work for a thread.
 constexpr qsizetype fewFiles = 20;
+
+} // namespace
 
 Adding addingFor(std::uint32_t modifiers) {
     return modifiers & platform::modifier::option ? Adding::append : Adding::replace;
 }
-
-} // namespace
 
 /// A thread walks the folders; where it hangs it is left behind.
 struct FileIntake::Search {
@@ -142,44 +137,4 @@ void FileIntake::end() {
 void FileIntake::give(const FoundMovies& movies, Adding adding) {
     if (!_has_ended)
         _sink(movies, adding);
-}
-
-void FileIntake::doOpen() {
-    trace("%@: Launching File Open panel ...", className);
-    QString folder = _environment.settings.stringForKey(kNSNavLastRootDirectory);
-    if (folder.startsWith(QLatin1Char('~')))
-        folder.replace(0, 1, QDir::homePath());
-    const QStringList chosen = _desktop.runOpenPanel(_types, folder);
-    if (chosen.isEmpty())
-        return;
-    const Adding adding = addingFor(QVGetModifierFlags(_desktop));
-    take(chosen, adding);
-}
-
-std::uint32_t FileIntake::draggingEntered(const platform::DraggingInfo& info) {
-    using namespace platform;
-    if (!info.offersFileNames && !info.offersURL)
-        return dragOperation::none;
-    if (info.sourceOperationMask & dragOperation::generic)
-        return dragOperation::generic;
-    return info.sourceOperationMask & dragOperation::copy ? dragOperation::copy : dragOperation::none;
-}
-
-std::uint32_t FileIntake::draggingUpdated(const platform::DraggingInfo& info) {
-    return draggingEntered(info);
-}
-
-bool FileIntake::performDragOperation(const platform::DraggingInfo& info) {
-    using namespace platform;
-    // A source limits itself to copying while the Option key is held.
-    const bool append =
-        !(info.sourceOperationMask & dragOperation::generic) && (info.sourceOperationMask & dragOperation::copy);
-    const Adding adding = append ? Adding::append : Adding::replace;
-    if (info.offersFileNames) {
-        if (!info.fileNames.isEmpty())
-            take(info.fileNames, adding);
-    } else if (info.offersURL) {
-        give({urlsWithURLStrings(info.urlStrings), {}}, adding);
-    }
-    return true;
 }

@@ -4,13 +4,12 @@
 #include "app/OpeningFiles.h"
 #include "context/Environment.h"
 #include "platform/base/RunLoop.h"
-#include "playback/DropTarget.h"
 #include "playback/StandingMessage.h"
-#include "playlist/OpenPanel.h"
 #include "playlist/QVPlaylistController.h"
 
 #include <QStringList>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -21,9 +20,13 @@ class Desktop;
 
 class FeedbackDisplay;
 
+/// Option held appends, by the masks of platform::modifier.
+Adding addingFor(std::uint32_t modifiers);
+
 /// Takes what the user hands over, and gives it to the playlist as URLs: files opened with the application, which come
-/// one by one and are collected in a batch, those chosen in the open panel, and those dragged in. Main thread.
-class FileIntake final : public OpenPanel, public DropTarget {
+/// one by one and are collected in a batch, those chosen in panels (OpenPanels), and those dragged in (Drops). Main
+/// thread.
+class FileIntake final {
 public:
     /// Takes movies that are to be added and played.
     using Sink = std::function<void(const FoundMovies& movies, Adding adding)>;
@@ -32,7 +35,9 @@ public:
     /// are taken.
     FileIntake(const Environment& environment, platform::Desktop& desktop, FeedbackDisplay& feedback, QStringList types,
                Sink sink);
-    ~FileIntake() override;
+    FileIntake(const FileIntake&) = delete;
+    FileIntake& operator=(const FileIntake&) = delete;
+    ~FileIntake();
 
     /// Adds a path or URL to the batch, and opens one when there is none.
     void openFile(const QString& pathOrUrl);
@@ -48,18 +53,16 @@ public:
     /// Ends the walks through folders that are under way: what they found is taken. False when there is none.
     bool endSearches();
 
-    void doOpen() override;
-
-    std::uint32_t draggingEntered(const platform::DraggingInfo& info) override;
-    std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
-    bool performDragOperation(const platform::DraggingInfo& info) override;
+    /// Looks for the movies among paths and URLs, folders beside the player, and gives them to the playlist. Whatever
+    /// replaces the list ends the walks that are under way.
+    void take(const QStringList& pathsOrUrls, Adding adding);
+    /// Gives movies that need not be looked for.
+    void give(const FoundMovies& movies, Adding adding);
 
 private:
     struct Search;
-    void take(const QStringList& pathsOrUrls, Adding adding);
     void search(const QStringList& pathsOrUrls, Adding adding);
     void searchEnded(const std::shared_ptr<Search>& search, const FoundMovies& found);
-    void give(const FoundMovies& movies, Adding adding);
 
     Environment _environment;
     platform::Desktop& _desktop;

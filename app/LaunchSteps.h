@@ -1,6 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QStringList>
+
+#include <cstdint>
+
+/// How an Open URL panel was answered.
+struct OpenURLAnswer {
+    static constexpr std::int32_t accepted = 1;
+    std::int32_t code = 0;
+    /// As they were entered.
+    QStringList strings;
+    /// Whether the panel's check box says so.
+    bool isAddingChosen = false;
+};
+
 /// The steps of launch and termination that are components of their own: first-time configuration, donation prompt,
 /// version check, panels. Those that do not exist do nothing. Main thread.
 class LaunchSteps {
@@ -15,6 +29,8 @@ public:
     virtual void runHelpPanel() {}
     /// Shows the panel of the whole playlist until it is closed.
     virtual void runPlaylistPanel() {}
+    /// Shows the panel for one address (0), or for several (1), until it is answered.
+    virtual OpenURLAnswer runOpenURLPanel(std::int32_t) { return {}; }
     /// Shows the preferences, or brings them to the front. They stay until the user closes them, or closePreferences().
     virtual void showPreferences() {}
     virtual void closePreferences() {}

@@ -32,19 +32,22 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
              [this](const FoundMovies& movies, Adding adding) {
                  _playlist.addURLs(movies.urls, adding, Starting::yes, nullptr, movies.failures);
              })
+    , _openPanels(environment, {platform.desktop, _files, steps}, supportedFileTypes(platform.bundle))
     , _window(environment,
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },
                [this](int direction) { _view.stopAutoscroll(direction); }, [this] { return _files.endSearches(); }})
     , _feedback(environment, _window)
     , _subtitleReaders(subtitleReaders(environment))
     , _subtitleDiscovery(environment.loop)
-    , _backdrop(environment, {platform.toolkit, _files})
-    , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _files})
+    , _drops(environment, {_files, _feedback}, supportedFileTypes(platform.bundle),
+             _subtitleReaders.subtitleUnfilteredFileTypes())
+    , _backdrop(environment, {platform.toolkit, _drops})
+    , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _drops})
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
                               _view,
                               platform.desktop,
                               _commands,
-                              _files,
+                              _openPanels,
                               _feedback,
                               _memory})
     , _subtitleScene(environment, _window, _view)
@@ -57,7 +60,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _activation(environment, _window, _view, _pointer)
     , _application(environment,
                    {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop, _playlist,
-                    _subtitles, _commands, _display, _menu, _pointer, _files, _activation, _state})
+                    _subtitles, _commands, _display, _menu, _pointer, _files, _openPanels, _activation, _state})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
     _window.contentView().addSubview(_backdrop);

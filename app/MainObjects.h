@@ -4,9 +4,11 @@
 #include "app/Activation.h"
 #include "app/CommandRelay.h"
 #include "app/CurrentTexts.h"
+#include "app/Drops.h"
 #include "app/FileIntake.h"
 #include "app/HeldSubtitles.h"
 #include "app/MainMenu.h"
+#include "app/OpenPanels.h"
 #include "app/PointerAutohide.h"
 #include "app/QVAppController.h"
 #include "app/QVFullScreenWindow.h"
@@ -63,10 +65,12 @@ private:
     CommandRelay _commands;
     PointerAutohide _pointer;
     FileIntake _files;
+    OpenPanels _openPanels;
     QVFullScreenWindow _window;
     FeedbackOnDemand _feedback;
     SubtitleRegistry _subtitleReaders;
     SubtitleDiscovery _subtitleDiscovery;
+    Drops _drops;
     BackdropView _backdrop;
     MovieMemory _memory;
     QVMovieView _view;

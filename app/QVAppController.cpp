@@ -5,6 +5,7 @@
 #include "app/FileIntake.h"
 #include "app/LaunchSteps.h"
 #include "app/MainMenu.h"
+#include "app/OpenPanels.h"
 #include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
 #include "app/SavedState.h"
@@ -199,7 +200,15 @@ void QVAppController::restoreState() {
 }
 
 void QVAppController::doOpen() {
-    _with.files.doOpen();
+    _with.panels.doOpen();
+}
+
+void QVAppController::doOpenFolder() {
+    _with.panels.doOpenFolder();
+}
+
+void QVAppController::doOpenURL(std::int32_t type) {
+    _with.panels.doOpenURL(type);
 }
 
 void QVAppController::applicationWillBecomeActive() {

@@ -24,6 +24,7 @@ class FileIntake;
 class LaunchSteps;
 class MainMenu;
 class OnScreenDisplay;
+class OpenPanels;
 class PointerAutohide;
 class QVFullScreenWindow;
 class QVMovieView;
@@ -51,6 +52,7 @@ public:
         MainMenu& menu;
         PointerAutohide& pointer;
         FileIntake& files;
+        OpenPanels& panels;
         Activation& activation;
         SavedState& state;
     };
@@ -94,6 +96,8 @@ public:
     void showCursor();
     void scheduleCursorHide();
     void doOpen() override;
+    void doOpenFolder() override;
+    void doOpenURL(std::int32_t type) override;
     void showHelp() override;
     void showPlaylist() override;
     void showPreferences() override;

@@ -10,6 +10,8 @@ public:
 
     /// Shows a message for a while, unless feedback is switched off in the settings.
     virtual void postFeedback(const QString& message) = 0;
+    /// Takes that message away where it is what is shown.
+    virtual void withdrawFeedback(const QString& message) = 0;
     /// How long a message takes to be read, from when it is posted: until it has faded in and stood its time. Seconds.
     virtual double readingTime() const = 0;
 };

@@ -14,6 +14,9 @@ public:
 
     /// Shows the open panel; the files chosen go to the playlist.
     virtual void doOpen() = 0;
+    /// The same for folders, and for addresses: one (type 0), or several (1).
+    virtual void doOpenFolder() = 0;
+    virtual void doOpenURL(std::int32_t type) = 0;
     /// Shows the help panel until it is closed.
     virtual void showHelp() = 0;
     /// Shows the panel of the whole playlist until it is closed.

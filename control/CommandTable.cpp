@@ -22,6 +22,7 @@ struct CommandTable {
     static constexpr std::uint32_t command = platform::modifier::command;
 
     // Operations of several commands.
+    static constexpr Operation openURL{"doOpenURL", &Self::doOpenURL};
     static constexpr Operation changeSize{"changeSize", &Self::changeSize, &Self::validateSize, Feedback::no};
     static constexpr Operation toggleController{"toggleController", &Self::toggleController, nullptr, Feedback::no};
     static constexpr Operation cycleDisplays{"cycleDisplays", &Self::cycleDisplays};
@@ -43,8 +44,29 @@ struct CommandTable {
          .operation = {"doOpen", &Self::doOpen},
          .keys = {{{u'o', control, consumed, KeyTaker::menu}}},
          .section = Section::file,
-         .menu = {"Open...", Separator::after},
+         .menu = {"Open..."},
          .help = "Open movies"},
+        {.name = "open-folder",
+         .operation = {"doOpenFolder", &Self::doOpenFolder},
+         .keys = {{{u'o', control | shift, consumed, KeyTaker::menu}}},
+         .section = Section::file,
+         .menu = {"Open Folder..."},
+         .help = "Open folders of movies"},
+        // The argument is the panel's type.
+        {.name = "open-url",
+         .operation = openURL,
+         .argument = 0,
+         .keys = {{{u'u', control, consumed, KeyTaker::menu}}},
+         .section = Section::file,
+         .menu = {"Open URL..."},
+         .help = "Open an address, several addresses"},
+        {.name = "open-urls",
+         .operation = openURL,
+         .argument = 1,
+         .keys = {{{u'u', control | shift, consumed, KeyTaker::menu}}},
+         .section = Section::file,
+         .menu = {"Open URLs...", Separator::after},
+         .help = "Open an address, several addresses"},
         {.name = "preferences",
          .operation = {"showPreferences", &Self::showPreferences},
          .keys = {{{u',', control, consumed, KeyTaker::menu}}},

@@ -102,6 +102,8 @@ private:
     void toggleRepair(std::int32_t, Feedback feedback);
     void switchScreen(std::int32_t direction, Feedback feedback);
     void doOpen(std::int32_t, Feedback feedback);
+    void doOpenFolder(std::int32_t, Feedback feedback);
+    void doOpenURL(std::int32_t type, Feedback feedback);
     void showHelp(std::int32_t, Feedback feedback);
     void showPlaylist(std::int32_t, Feedback feedback);
     void showPreferences(std::int32_t, Feedback feedback);

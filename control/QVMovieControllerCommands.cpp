@@ -232,6 +232,14 @@ void QVMovieController::doOpen(std::int32_t, Feedback) {
     _with.application.doOpen();
 }
 
+void QVMovieController::doOpenFolder(std::int32_t, Feedback) {
+    _with.application.doOpenFolder();
+}
+
+void QVMovieController::doOpenURL(std::int32_t type, Feedback) {
+    _with.application.doOpenURL(type);
+}
+
 void QVMovieController::showHelp(std::int32_t, Feedback) {
     _with.application.showHelp();
 }

@@ -20,6 +20,11 @@ void FeedbackOnDemand::postFeedback(const QString& message) {
     overlay().postFeedback(message);
 }
 
+void FeedbackOnDemand::withdrawFeedback(const QString& message) {
+    if (_overlay)
+        _overlay->withdrawFeedback(message);
+}
+
 double FeedbackOnDemand::readingTime() const {
     return overlay().readingTime();
 }

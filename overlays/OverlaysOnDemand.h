@@ -25,6 +25,7 @@ public:
     ~FeedbackOnDemand() override;
 
     void postFeedback(const QString& message) override;
+    void withdrawFeedback(const QString& message) override;
     double readingTime() const override;
     /// Makes the overlay where there is none yet.
     QVFeedbackOverlay& overlay() const;

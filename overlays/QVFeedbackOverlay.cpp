@@ -31,6 +31,11 @@ void QVFeedbackOverlay::postFeedback(const QString& message) {
     autopop();
 }
 
+void QVFeedbackOverlay::withdrawFeedback(const QString& message) {
+    if (isVisible() && text() == message)
+        hide();
+}
+
 double QVFeedbackOverlay::holdInterval() const {
     constexpr double charactersASecond = 20;
     const double ofStyle = fadingDelayInterval();

@@ -18,6 +18,7 @@ public:
 
     /// The switch is QVDisplayFeedback.
     void postFeedback(const QString& message) override;
+    void withdrawFeedback(const QString& message) override;
     double readingTime() const override { return fadingInInterval() + fadingDelayInterval(); }
 
 protected:

@@ -133,6 +133,10 @@ std::uint32_t BackdropView::draggingUpdated(const platform::DraggingInfo& info) 
     return _with.drops.draggingUpdated(info);
 }
 
+void BackdropView::draggingExited() {
+    _with.drops.draggingExited();
+}
+
 bool BackdropView::performDragOperation(const platform::DraggingInfo& info) {
     return _with.drops.performDragOperation(info);
 }

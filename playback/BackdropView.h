@@ -46,6 +46,7 @@ public:
     platform::Rect drawnRect() const override { return {}; }
     std::uint32_t draggingEntered(const platform::DraggingInfo& info) override;
     std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
+    void draggingExited() override;
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
 private:

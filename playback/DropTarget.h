@@ -14,5 +14,7 @@ public:
 
     virtual std::uint32_t draggingEntered(const platform::DraggingInfo& info) = 0;
     virtual std::uint32_t draggingUpdated(const platform::DraggingInfo& info) = 0;
+    /// What was dragged over it has gone without being dropped.
+    virtual void draggingExited() = 0;
     virtual bool performDragOperation(const platform::DraggingInfo& info) = 0;
 };

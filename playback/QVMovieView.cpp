@@ -312,6 +312,10 @@ std::uint32_t QVMovieView::draggingUpdated(const platform::DraggingInfo& info) {
     return _drops.draggingUpdated(info);
 }
 
+void QVMovieView::draggingExited() {
+    _drops.draggingExited();
+}
+
 bool QVMovieView::performDragOperation(const platform::DraggingInfo& info) {
     return _drops.performDragOperation(info);
 }

@@ -85,6 +85,7 @@ public:
     bool mouseDragged(const platform::MouseEvent& event) override;
     std::uint32_t draggingEntered(const platform::DraggingInfo& info) override;
     std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
+    void draggingExited() override;
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
 protected:

@@ -28,6 +28,19 @@ void StandingMessage::show(const QString& text) {
         post();
 }
 
+void StandingMessage::showAtOnce(const QString& text) {
+    if (_isShown && text == _text)
+        return;
+    _text = text;
+    post();
+}
+
+void StandingMessage::withdraw() {
+    if (_isShown)
+        _display.withdrawFeedback(_text);
+    end();
+}
+
 void StandingMessage::post() {
     _isShown = true;
     _display.postFeedback(_text);

@@ -25,6 +25,10 @@ public:
 
     /// Shows the text from half a second after the first show() on. Another text takes its place at once.
     void show(const QString& text);
+    /// Shows it without delay, for as long as the user is about what it says.
+    void showAtOnce(const QString& text);
+    /// Takes it away at once.
+    void withdraw();
     /// The wait is over: what stands fades as other feedback does.
     void end();
 

@@ -41,7 +41,8 @@ const char* keyOfReason(std::int16_t error) {
         {needsRanges, "OpenErrorRanges"},        {serverAsksForLogin, "OpenErrorLogin"},
         {serverForbids, "OpenErrorForbidden"},   {serverHasNoSuchFile, "OpenErrorNotFound"},
         {serverRefuses, "OpenErrorRejected"},    {serverFails, "OpenErrorServer"},
-        {noMoviesInFolder, "OpenErrorNoMovies"},
+        {noMoviesInFolder, "OpenErrorNoMovies"}, {subtitlesAlone, "OpenErrorSubtitles"},
+        {notAnAddress, "OpenErrorNotAnAddress"},
     };
     const auto* known = std::ranges::find(reasons, error, [](const auto& entry) { return entry.error; });
     return known == std::end(reasons) ? nullptr : known->key;

@@ -15,6 +15,9 @@ namespace OpeningReport {
 
 /// A folder that was handed over and holds no movie; beside the codes of namespace platform::movieError.
 inline constexpr std::int16_t noMoviesInFolder = -6100;
+/// Files of subtitles that came without a movie, and what was entered as an address and is none.
+inline constexpr std::int16_t subtitlesAlone = -6101;
+inline constexpr std::int16_t notAnAddress = -6102;
 
 /// The cause in a sentence.
 QString reason(std::int16_t error);

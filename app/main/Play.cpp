@@ -9,11 +9,13 @@
 #include "app/main/Terminal.h"
 #include "app/panels/HelpPanel.h"
 #include "app/panels/PlaylistPanel.h"
+#include "app/panels/QVOpenURLPanel.h"
 #include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/desktop/linux/Backlight.h"
 #include "platform/desktop/linux/DisplayServer.h"
+#include "platform/desktop/linux/FileChooserPortal.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
 #include "platform/desktop/qt/QtDesktop.h"
@@ -92,6 +94,14 @@ public:
         if (playlist && environment)
             ::runPlaylistPanel(*environment, *playlist, window);
     }
+    OpenURLAnswer runOpenURLPanel(std::int32_t type) override {
+        if (!_openURLPanel && environment)
+            _openURLPanel = std::make_unique<QVOpenURLPanel>(*environment);
+        if (!_openURLPanel)
+            return {};
+        const std::int32_t code = _openURLPanel->runModalWithType(type, window);
+        return {code, _openURLPanel->urlStrings(), _openURLPanel->isAddingChosen()};
+    }
     void showPreferences() override {
         if (!_preferences && environment && pictures)
             _preferences = std::make_unique<QVPreferencesController>(*environment, _desktop, *pictures);
@@ -105,7 +115,9 @@ public:
 
 private:
     platform::Desktop& _desktop;
-    std::unique_ptr<QVPreferencesController> _preferences; // made when they are first asked for
+    // Made when they are first asked for.
+    std::unique_ptr<QVPreferencesController> _preferences;
+    std::unique_ptr<QVOpenURLPanel> _openURLPanel;
 };
 
 /// Both outlive the services.
@@ -118,7 +130,10 @@ platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const p
         return value;
     };
     return {[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }, brightness,
-            [&backlight](const QString& screen, float value) { backlight.setBrightness(screen, value); }};
+            [&backlight](const QString& screen, float value) { backlight.setBrightness(screen, value); },
+            [](const platform::FileQuestion& question, const QString& parent, auto answered) {
+                return std::make_shared<platform::FileChooserPortal>(question, parent, std::move(answered));
+            }};
 }
 
 } // namespace

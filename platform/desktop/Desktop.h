@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/base/Rect.h"
+#include "platform/desktop/FileChoice.h"
 #include "platform/desktop/UserActivity.h"
 
 #include <QString>
@@ -38,9 +39,8 @@ public:
     /// one. Closing it counts as the other button where there is one, else as the alternate, else as the default.
     virtual int runAlert(const Alert& alert) = 0;
 
-    /// A modal panel to choose files and folders; empty when it was cancelled. `extensions` without dots limits the
-    /// files offered; an empty `folder` lets the panel choose.
-    virtual QStringList runOpenPanel(const QStringList& extensions, const QString& folder) = 0;
+    /// A modal panel to choose files or folders. Cancelled when the application ends meanwhile.
+    virtual FileChoice runOpenPanel(const FileQuestion& question) = 0;
 
     virtual void beep() = 0;
 

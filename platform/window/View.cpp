@@ -117,6 +117,8 @@ std::uint32_t View::draggingUpdated(const DraggingInfo&) {
     return dragOperation::none;
 }
 
+void View::draggingExited() {}
+
 bool View::performDragOperation(const DraggingInfo&) {
     return false;
 }

@@ -80,6 +80,7 @@ public:
     virtual bool mouseUp(const MouseEvent& event);
     virtual std::uint32_t draggingEntered(const DraggingInfo& info);
     virtual std::uint32_t draggingUpdated(const DraggingInfo& info);
+    virtual void draggingExited();
     virtual bool performDragOperation(const DraggingInfo& info);
     virtual void concludeDragOperation(const DraggingInfo& info);
 

@@ -1790,4 +1790,87 @@
         <translation>Was Sie ändern, gilt, bis Lumaro beendet wird. Die Datei „%@“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
+<context>
+    <name>Opening</name>
+    <message id="Open Movies">
+        <source>Open Movies</source>
+        <translation>Filme öffnen</translation>
+    </message>
+    <message id="Open Folder">
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message id="Open Folder...">
+        <source>Open Folder...</source>
+        <translation>Ordner öffnen …</translation>
+    </message>
+    <message id="Movies and Sound">
+        <source>Movies and Sound</source>
+        <translation>Filme und Musik</translation>
+    </message>
+    <message id="All Files">
+        <source>All Files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message id="Add to Playlist">
+        <source>Add to Playlist</source>
+        <translation>Zur Playlist hinzufügen</translation>
+    </message>
+    <message id="Open folders of movies">
+        <source>Open folders of movies</source>
+        <translation>Ordner mit Filmen öffnen</translation>
+    </message>
+    <message id="Open an address, several addresses">
+        <source>Open an address, several addresses</source>
+        <translation>Eine Adresse öffnen, mehrere Adressen öffnen</translation>
+    </message>
+    <message id="Open URL">
+        <source>Open URL</source>
+        <translation>URL öffnen</translation>
+    </message>
+    <message id="Open URLs">
+        <source>Open URLs</source>
+        <translation>URLs öffnen</translation>
+    </message>
+    <message id="&amp;Address or path of a movie:">
+        <source>&amp;Address or path of a movie:</source>
+        <translation>&amp;Adresse oder Pfad eines Films:</translation>
+    </message>
+    <message id="&amp;Addresses or paths of movies, one in each line:">
+        <source>&amp;Addresses or paths of movies, one in each line:</source>
+        <translation>&amp;Adressen oder Pfade von Filmen, je Zeile einer:</translation>
+    </message>
+    <message id="Address">
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="Addresses">
+        <source>Addresses</source>
+        <translation>Adressen</translation>
+    </message>
+    <message id="Add to &amp;Playlist">
+        <source>Add to &amp;Playlist</source>
+        <translation>Zur &amp;Playlist hinzufügen</translation>
+    </message>
+    <message id="What plays now goes on; holding Alt does the same">
+        <source>What plays now goes on; holding Alt does the same</source>
+        <translation>Was gerade läuft, läuft weiter; dasselbe bewirkt die gehaltene Alt-Taste</translation>
+    </message>
+    <message id="Replace the Playlist">
+        <source>Replace the Playlist</source>
+        <translation>Playlist ersetzen</translation>
+    </message>
+    <message id="Add to the Playlist">
+        <source>Add to the Playlist</source>
+        <translation>Zur Playlist hinzufügen</translation>
+    </message>
+    <message id="OpenErrorSubtitles">
+        <source>It holds subtitles. They are shown by themselves when they lie beside their movie and begin with its name.</source>
+        <translation>Die Datei enthält Untertitel. Sie werden von selbst gezeigt, wenn sie neben ihrem Film liegen und ihr Name mit dessen Namen beginnt.</translation>
+    </message>
+    <message id="OpenErrorNotAnAddress">
+        <source>It is neither an address nor the path of a file.</source>
+        <translation>Das ist weder eine Adresse noch der Pfad einer Datei.</translation>
+    </message>
+</context>
 </TS>

@@ -1790,4 +1790,87 @@
         <translation>What you change acts until Lumaro quits. The file “%@” can’t be written.</translation>
     </message>
 </context>
+<context>
+    <name>Opening</name>
+    <message id="Open Movies">
+        <source>Open Movies</source>
+        <translation>Open Movies</translation>
+    </message>
+    <message id="Open Folder">
+        <source>Open Folder</source>
+        <translation>Open Folder</translation>
+    </message>
+    <message id="Open Folder...">
+        <source>Open Folder...</source>
+        <translation>Open Folder...</translation>
+    </message>
+    <message id="Movies and Sound">
+        <source>Movies and Sound</source>
+        <translation>Movies and Sound</translation>
+    </message>
+    <message id="All Files">
+        <source>All Files</source>
+        <translation>All Files</translation>
+    </message>
+    <message id="Add to Playlist">
+        <source>Add to Playlist</source>
+        <translation>Add to Playlist</translation>
+    </message>
+    <message id="Open folders of movies">
+        <source>Open folders of movies</source>
+        <translation>Open folders of movies</translation>
+    </message>
+    <message id="Open an address, several addresses">
+        <source>Open an address, several addresses</source>
+        <translation>Open an address, several addresses</translation>
+    </message>
+    <message id="Open URL">
+        <source>Open URL</source>
+        <translation>Open URL</translation>
+    </message>
+    <message id="Open URLs">
+        <source>Open URLs</source>
+        <translation>Open URLs</translation>
+    </message>
+    <message id="&amp;Address or path of a movie:">
+        <source>&amp;Address or path of a movie:</source>
+        <translation>&amp;Address or path of a movie:</translation>
+    </message>
+    <message id="&amp;Addresses or paths of movies, one in each line:">
+        <source>&amp;Addresses or paths of movies, one in each line:</source>
+        <translation>&amp;Addresses or paths of movies, one in each line:</translation>
+    </message>
+    <message id="Address">
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+    <message id="Addresses">
+        <source>Addresses</source>
+        <translation>Addresses</translation>
+    </message>
+    <message id="Add to &amp;Playlist">
+        <source>Add to &amp;Playlist</source>
+        <translation>Add to &amp;Playlist</translation>
+    </message>
+    <message id="What plays now goes on; holding Alt does the same">
+        <source>What plays now goes on; holding Alt does the same</source>
+        <translation>What plays now goes on; holding Alt does the same</translation>
+    </message>
+    <message id="Replace the Playlist">
+        <source>Replace the Playlist</source>
+        <translation>Replace the Playlist</translation>
+    </message>
+    <message id="Add to the Playlist">
+        <source>Add to the Playlist</source>
+        <translation>Add to the Playlist</translation>
+    </message>
+    <message id="OpenErrorSubtitles">
+        <source>It holds subtitles. They are shown by themselves when they lie beside their movie and begin with its name.</source>
+        <translation>It holds subtitles. They are shown by themselves when they lie beside their movie and begin with its name.</translation>
+    </message>
+    <message id="OpenErrorNotAnAddress">
+        <source>It is neither an address nor the path of a file.</source>
+        <translation>It is neither an address nor the path of a file.</translation>
+    </message>
+</context>
 </TS>

@@ -62,6 +62,11 @@ public:
         bool shouldCheckLatestVersion() override { return checksVersion; }
         void checkLatestVersion() override { take("version"); }
         void runHelpPanel() override { take("help"); }
+        OpenURLAnswer runOpenURLPanel(std::int32_t type) override {
+            _events << QStringLiteral("open URL %1").arg(type);
+            return openURLAnswer;
+        }
+        OpenURLAnswer openURLAnswer;
         void showPreferences() override { take("preferences"); }
         void closePreferences() override { ++closedPreferences; }
         int closedPreferences = 0;

@@ -31,8 +31,11 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
         titles.append(menu.bar().itemAt(index).title);
     EXPECT_EQ(titles.join(u' ').toStdString(), "File Movie Playback Volume Playlist Subtitles Window Help");
     const auto shown = [&](int index) { return written(*menu.bar().itemAt(index).submenu).toStdString(); };
-    EXPECT_EQ(shown(0),
-              "Open... doOpen 0 [Ctrl+O]\n-\nPreferences... showPreferences 0 [Ctrl+,]\n-\nQuit quit 0 [Ctrl+Q]");
+    EXPECT_EQ(
+        shown(0),
+        "Open... doOpen 0 [Ctrl+O]\nOpen Folder... doOpenFolder 0 [Ctrl+Shift+O]\nOpen URL... doOpenURL 0 [Ctrl+U]\n"
+        "Open URLs... doOpenURL 1 [Ctrl+Shift+U]\n-\nPreferences... showPreferences 0 [Ctrl+,]\n-\nQuit quit 0 "
+        "[Ctrl+Q]");
     EXPECT_EQ(shown(1),
               "Half Size changeSize 0 (0)\nNormal Size changeSize 1 (1)\nDouble Size changeSize 2 (2)\n"
               "Full Size changeSize 3 (3)\nFit Width changeSize 4 (4)\nFit Height changeSize 5 (5)\n-\n"

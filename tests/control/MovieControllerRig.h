@@ -35,6 +35,8 @@ protected:
     public:
         QStringList calls;
         void doOpen() override { calls << "open"; }
+        void doOpenFolder() override { calls << "open folder"; }
+        void doOpenURL(std::int32_t type) override { calls << QString("open URL %1").arg(type); }
         void showHelp() override { calls << "help"; }
         void showPlaylist() override { calls << "playlist"; }
         void showPreferences() override { calls << "preferences"; }

@@ -172,12 +172,15 @@ TEST_F(MovieController, Keys_with_modifiers_jump_and_go_to_the_ends_of_the_movie
 
 TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
     perform("doOpen", 0);
+    perform("doOpenFolder", 0);
+    perform("doOpenURL", 1);
     perform("showHelp", 0);
     perform("showPreferences", 0);
     perform("cycleDisplays", -1);
     controller.windowDidBecomeKey(window);
     controller.windowDidResignKey(window);
-    EXPECT_EQ(services.calls, (QStringList{"open", "help", "preferences", "display -1", "became key", "resigned key"}));
+    EXPECT_EQ(services.calls, (QStringList{"open", "open folder", "open URL 1", "help", "preferences", "display -1",
+                                           "became key", "resigned key"}));
 }
 
 TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_sound_back) {

@@ -15,8 +15,10 @@ namespace {
 class AllDrops final : public DropTarget {
 public:
     int performed = 0;
+    int exited = 0;
     std::uint32_t draggingEntered(const platform::DraggingInfo&) override { return platform::dragOperation::copy; }
     std::uint32_t draggingUpdated(const platform::DraggingInfo&) override { return platform::dragOperation::copy; }
+    void draggingExited() override { ++exited; }
     bool performDragOperation(const platform::DraggingInfo&) override { return ++performed > 0; }
 };
 
@@ -123,6 +125,8 @@ TEST_F(Backdrop, takes_what_is_dropped_wherever_there_is_no_picture) {
     const platform::DraggingInfo info;
     EXPECT_EQ(target->draggingEntered(info), platform::dragOperation::copy);
     EXPECT_EQ(target->draggingUpdated(info), platform::dragOperation::copy);
+    target->draggingExited();
+    EXPECT_EQ(drops.exited, 1);
     EXPECT_TRUE(target->performDragOperation(info));
     EXPECT_EQ(drops.performed, 1);
 }

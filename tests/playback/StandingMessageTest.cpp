@@ -12,10 +12,26 @@ class RecordedFeedback final : public FeedbackDisplay {
 public:
     QStringList posted;
     void postFeedback(const QString& message) override { posted << message; }
+    void withdrawFeedback(const QString& message) override { posted << "no " + message; }
     double readingTime() const override { return 1.5; }
 };
 
 } // namespace
+
+TEST(StandingMessage, what_the_user_is_about_is_said_at_once_and_taken_away_at_once) {
+    TestEnvironment settings;
+    RecordedFeedback display;
+    StandingMessage message(settings.environment, display);
+    message.withdraw();
+    message.showAtOnce("Replace");
+    message.showAtOnce("Replace");
+    EXPECT_EQ(display.posted, QStringList("Replace"));
+    message.showAtOnce("Add");
+    message.withdraw();
+    message.withdraw();
+    settings.runLoop.advance(5);
+    EXPECT_EQ(display.posted, (QStringList{"Replace", "Add", "no Add"}));
+}
 
 TEST(StandingMessage, a_wait_is_said_when_it_lasts_and_again_before_the_message_fades) {
     TestEnvironment settings;

@@ -26,9 +26,10 @@ public:
     std::function<void()> whileAlertIsUp;
     std::function<void()> whileOpenPanelIsUp;
 
-    /// The folders that open panels began in, and the extensions that they offered.
+    /// What open panels asked, and the folders that they began in.
+    QList<platform::FileQuestion> openPanels;
     QStringList openPanelFolders;
-    QList<QStringList> openPanelExtensions;
+    bool isOpenPanelOptionOn = false;
     QList<QStringList> openPanelAnswers;
 
     int beeps = 0;
@@ -52,12 +53,12 @@ public:
             whileAlertIsUp();
         return taken(alertAnswers, 1);
     }
-    QStringList runOpenPanel(const QStringList& extensions, const QString& folder) override {
-        openPanelExtensions.append(extensions);
-        openPanelFolders.append(folder);
+    platform::FileChoice runOpenPanel(const platform::FileQuestion& question) override {
+        openPanels.append(question);
+        openPanelFolders.append(question.folder);
         if (whileOpenPanelIsUp)
             whileOpenPanelIsUp();
-        return taken(openPanelAnswers, {});
+        return {taken(openPanelAnswers, {}), isOpenPanelOptionOn};
     }
     void beep() override { ++beeps; }
     std::vector<platform::Screen> screens() const override { return screenList; }

@@ -21,6 +21,7 @@
 class NoDrops final : public DropTarget {
     std::uint32_t draggingEntered(const platform::DraggingInfo&) override { return platform::dragOperation::none; }
     std::uint32_t draggingUpdated(const platform::DraggingInfo&) override { return platform::dragOperation::none; }
+    void draggingExited() override {}
     bool performDragOperation(const platform::DraggingInfo&) override { return false; }
 };
 
@@ -29,6 +30,10 @@ class RecordedFeedback final : public FeedbackDisplay {
 public:
     QString last;
     void postFeedback(const QString& message) override { last = message; }
+    void withdrawFeedback(const QString& message) override {
+        if (last == message)
+            last.clear();
+    }
     double readingTime() const override { return 1.5; }
 };
 

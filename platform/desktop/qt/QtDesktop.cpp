@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/qt/QtDesktop.h"
 
+#include "platform/base/Localization.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/qt/LostDisplay.h"
+#include "platform/desktop/qt/PanelPlacement.h"
 #include "platform/window/SceneGeometry.h"
+#include "platform/window/qt/ForeignPanel.h"
 #include "platform/window/qt/QtEvents.h"
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QGridLayout>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QSessionManager>
 #include <QSocketNotifier>
+#include <QTranslator>
 #include <QWindow>
 
 #include <fcntl.h>
@@ -35,21 +40,26 @@ void signalArrived(int) {
     [[maybe_unused]] const ssize_t written = ::write(sSignalPipe[1], &byte, 1);
 }
 
+/// The texts of Qt's own panels, in the user's language where they are installed.
+void translateOwnTexts(QApplication& application) {
+    for (const QString& language : localizationLanguages()) {
+        auto translation = std::make_unique<QTranslator>();
+        if (language.startsWith(QStringLiteral("en")))
+            return;
+        if (translation->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
+                              QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+            translation->setParent(&application);
+            QApplication::installTranslator(translation.release());
+            return;
+        }
+    }
+}
+
 /// By itself a box is as wide as its title, and breaks what is said into short lines.
 void widen(QMessageBox& box) {
     constexpr int width = 420;
     if (auto* layout = qobject_cast<QGridLayout*>(box.layout()))
         layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
-}
-
-void standAbove(QWidget& panel, QWindow* window) {
-    panel.winId();
-    if (window)
-        panel.windowHandle()->setTransientParent(window);
-    panel.setWindowModality(Qt::ApplicationModal);
-    // Without a window manager nobody else gives a new window the keyboard.
-    QMetaObject::invokeMethod(
-        &panel, [&panel] { panel.activateWindow(); }, Qt::QueuedConnection);
 }
 
 } // namespace
@@ -60,6 +70,7 @@ QtDesktop::QtDesktop(int& argumentCount, char** arguments, const QString& applic
         qputenv("QT_NO_GLIB", "1");
     _application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setApplicationName(applicationName);
+    translateOwnTexts(*_application);
     QApplication::setDesktopFileName(QStringLiteral("org.lumaro.Lumaro"));
     QApplication::setQuitOnLastWindowClosed(false);
 }
@@ -82,7 +93,7 @@ int QtDesktop::run(ApplicationDelegate& delegate) {
         if (state == Qt::ApplicationActive) {
             _delegate->applicationWillBecomeActive();
             _delegate->applicationDidBecomeActive();
-        } else if (!_terminationPending) {
+        } else if (!_terminationPending && !ForeignPanel::isUp()) {
             _delegate->applicationWillResignActive();
         }
     });
@@ -155,21 +166,16 @@ int QtDesktop::runAlert(const Alert& alert) {
     return box.clickedButton() ? 1 : withoutAnswer; // none: the application is ending
 }
 
-QStringList QtDesktop::runOpenPanel(const QStringList& extensions, const QString& folder) {
+FileChoice QtDesktop::runOpenPanel(const FileQuestion& question) {
     if (_terminationPending)
         return {};
-    QFileDialog dialog;
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    QStringList patterns;
-    for (const QString& extension : extensions)
-        patterns.append(QStringLiteral("*.") + extension);
-    if (!patterns.isEmpty())
-        dialog.setNameFilter(QCoreApplication::applicationName() + QStringLiteral(" (") +
-                             patterns.join(QLatin1Char(' ')) + QLatin1Char(')'));
-    if (!folder.isEmpty())
-        dialog.setDirectory(folder);
-    standAbove(dialog, _mainWindow);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+    if (_services.askForFiles) {
+        if (const auto choice = runForeignPanel(_services.askForFiles, question, _mainWindow))
+            return *choice;
+        if (_terminationPending)
+            return {};
+    }
+    return runQtPanel(question, _mainWindow);
 }
 
 void QtDesktop::beep() {

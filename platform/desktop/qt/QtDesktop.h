@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/desktop/Desktop.h"
+#include "platform/desktop/qt/OpenPanels.h"
 
 #include <QObject>
 
@@ -28,6 +29,8 @@ public:
         /// By the screen's name; 0 to 1, infinity for unknown.
         std::function<float(const QString&)> brightness;
         std::function<void(const QString&, float)> setBrightness;
+        /// The panel that the desktop itself offers; none for Qt's own.
+        ForeignFilePanel askForFiles;
     };
     /// The arguments stay the caller's, for as long as this lives.
     QtDesktop(int& argumentCount, char** arguments, const QString& applicationName);
@@ -43,7 +46,7 @@ public:
     int run(ApplicationDelegate& delegate);
 
     int runAlert(const Alert& alert) override;
-    QStringList runOpenPanel(const QStringList& extensions, const QString& folder) override;
+    FileChoice runOpenPanel(const FileQuestion& question) override;
     void beep() override;
     std::vector<Screen> screens() const override;
     float brightness(const Screen& screen) const override;

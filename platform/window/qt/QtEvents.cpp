@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/qt/QtEvents.h"
 
+#include "platform/base/AddressText.h"
+
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -126,23 +128,34 @@ MouseButton mouseButton(Qt::MouseButton button) {
     }
 }
 
+std::uint32_t dragOperations(const QDropEvent& event) {
+    const Qt::DropActions actions = event.possibleActions();
+    if (actions == Qt::IgnoreAction)
+        return dragOperation::none;
+    // A drag with Alt or Ctrl held asks for a copy, as a source does that can do nothing else.
+    if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier))
+        return dragOperation::copy;
+    return dragOperation::generic | (actions & Qt::CopyAction ? dragOperation::copy : dragOperation::none);
+}
+
+Qt::DropAction dropAction(std::uint32_t operation, Qt::DropActions possible) {
+    // Never a move, after which its source deletes what was dropped.
+    return operation == dragOperation::generic && (possible & Qt::LinkAction) ? Qt::LinkAction : Qt::CopyAction;
+}
+
 DraggingInfo draggingInfo(const QDropEvent& event) {
     DraggingInfo info;
     for (const QUrl& url : event.mimeData()->urls()) {
-        if (url.isLocalFile()) {
+        if (url.isLocalFile())
             info.fileNames.append(url.toLocalFile());
-        } else if (url.isValid()) {
-            info.urlStrings.append(url.toString());
-        }
+        else if (url.isValid() && !url.scheme().isEmpty())
+            info.urlStrings.append(url.toString(QUrl::FullyEncoded));
     }
+    if (info.fileNames.isEmpty() && info.urlStrings.isEmpty() && event.mimeData()->hasText())
+        info.urlStrings = addressesIn(event.mimeData()->text());
     info.offersFileNames = !info.fileNames.isEmpty();
     info.offersURL = !info.urlStrings.isEmpty();
-    // A drag with Alt held asks for a copy, as a source does that can do nothing else.
-    const Qt::DropActions actions = event.possibleActions();
-    if (actions & Qt::CopyAction)
-        info.sourceOperationMask |= dragOperation::copy;
-    if (!(event.modifiers() & Qt::AltModifier) && actions != Qt::IgnoreAction)
-        info.sourceOperationMask |= dragOperation::generic;
+    info.sourceOperationMask = dragOperations(event);
     return info;
 }
 

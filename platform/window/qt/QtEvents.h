@@ -18,6 +18,10 @@ KeyEvent keyEvent(const QKeyEvent& event, bool isRepeat);
 /// The key as a shortcut would be written ("Ctrl+O").
 QKeySequence shortcut(const QKeyEvent& event);
 MouseButton mouseButton(Qt::MouseButton button);
+/// Reading what is dragged asks its source, which takes a while; the operations that it allows now are at hand.
 DraggingInfo draggingInfo(const QDropEvent& event);
+std::uint32_t dragOperations(const QDropEvent& event);
+/// How an answer of platform::dragOperation is told to the source: by a link, or a copy.
+Qt::DropAction dropAction(std::uint32_t operation, Qt::DropActions possible);
 
 } // namespace platform::qtEvents

@@ -5,6 +5,7 @@
 #include "platform/window/SceneGeometry.h"
 #include "platform/window/VideoLayer.h"
 #include "platform/window/Window.h"
+#include "platform/window/qt/ForeignPanel.h"
 #include "platform/window/qt/QtEvents.h"
 #include "platform/window/qt/QtMenus.h"
 #include "platform/window/qt/WindowSystem.h"
@@ -200,6 +201,14 @@ void QtWindowHost::makeKeyAndOrderFront() {
     if (windowStates() & Qt::WindowMinimized)
         setWindowStates(windowStates() & ~Qt::WindowMinimized);
     raise();
+    // A panel that waits for its answer stays above, and keeps the keyboard.
+    if (QWindow* const panel = QGuiApplication::modalWindow()) {
+        if (panel->isVisible()) {
+            panel->raise();
+            panel->requestActivate();
+        }
+        return;
+    }
     requestActivate();
 }
 
@@ -343,7 +352,11 @@ bool QtWindowHost::event(QEvent* event) {
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:
-        return dragEvent(*static_cast<QDropEvent*>(event), event->type());
+        dragEvent(*static_cast<QDropEvent*>(event));
+        return true;
+    case QEvent::DragLeave:
+        dragLeft();
+        return true;
     case QEvent::Leave:
         _root.dispatchMouseLeft();
         break;
@@ -477,10 +490,10 @@ void QtWindowHost::focusOutEvent(QFocusEvent*) {
     followKeyboard();
 }
 
-/// A menu or panel of ours that has the keyboard leaves the window the user's; only another program takes it, and
-/// minimising gives it away.
+/// A menu or panel of ours (or one of the desktop's on our behalf) that has the keyboard leaves the window the user's;
+/// only another program takes it, and minimising gives it away.
 void QtWindowHost::followKeyboard() {
-    const bool isOurs = QGuiApplication::applicationState() == Qt::ApplicationActive;
+    const bool isOurs = QGuiApplication::applicationState() == Qt::ApplicationActive || ForeignPanel::isUp();
     const bool isMinimized = windowStates() & Qt::WindowMinimized;
     if (!isOurs || isMinimized)
         _root.setKey(false);
@@ -490,22 +503,36 @@ void QtWindowHost::followKeyboard() {
         requestActivate(); // brought back
 }
 
-bool QtWindowHost::dragEvent(QDropEvent& event, QEvent::Type type) {
-    const DraggingInfo info = qtEvents::draggingInfo(event);
-    View* target = _root.contentView().hitTest(sceneGeometry::flipped(event.position(), _root.frame().size()));
-    if (!target)
-        target = &_root.contentView();
+View& QtWindowHost::dragTarget() const {
+    View* const target = _root.contentView().hitTest(sceneGeometry::flipped(_dragPosition, _root.frame().size()));
+    return target ? *target : _root.contentView();
+}
+
+void QtWindowHost::dragEvent(QDropEvent& event) {
+    if (event.type() == QEvent::DragMove && _dragged)
+        _dragged->sourceOperationMask = qtEvents::dragOperations(event);
+    else
+        _dragged = qtEvents::draggingInfo(event);
+    _dragPosition = event.position();
+    View& target = dragTarget();
     const std::uint32_t answer =
-        type == QEvent::DragMove ? target->draggingUpdated(info) : target->draggingEntered(info);
+        event.type() == QEvent::DragMove ? target.draggingUpdated(*_dragged) : target.draggingEntered(*_dragged);
     if (answer == dragOperation::none) {
         event.ignore();
-        return true;
+        return;
     }
-    event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction : event.proposedAction());
+    event.setDropAction(qtEvents::dropAction(answer, event.possibleActions()));
     event.accept();
-    if (type == QEvent::Drop && target->performDragOperation(info))
-        target->concludeDragOperation(info);
-    return true;
+    if (event.type() != QEvent::Drop)
+        return;
+    const DraggingInfo info = *std::exchange(_dragged, std::nullopt);
+    if (target.performDragOperation(info))
+        target.concludeDragOperation(info);
+}
+
+void QtWindowHost::dragLeft() {
+    if (std::exchange(_dragged, std::nullopt))
+        dragTarget().draggingExited();
 }
 
 } // namespace platform

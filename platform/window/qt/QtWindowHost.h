@@ -14,6 +14,7 @@
 #include <QWindow>
 
 #include <memory>
+#include <optional>
 
 class QBackingStore;
 class QDropEvent;
@@ -23,6 +24,7 @@ namespace platform {
 class Menu;
 class MenuTarget;
 class QtMenus;
+class View;
 class Window;
 
 /// Which way pictures come to the screen. Automatic takes OpenGL where hardware draws it, else software.
@@ -81,7 +83,9 @@ private:
     void releaseKeys();
     void followKeyboard();
     MouseEvent mouseEvent(const QMouseEvent& event);
-    bool dragEvent(QDropEvent& event, QEvent::Type type);
+    View& dragTarget() const;
+    void dragEvent(QDropEvent& event);
+    void dragLeft();
 
     platform::Window& _root; // QSurface has a Window of its own
     SceneComposer _composer;
@@ -96,6 +100,8 @@ private:
     bool _pointerHidden = false;
     bool _minimized = false; // by the root, not by the user
     QPointF _lastPointer;
+    std::optional<DraggingInfo> _dragged; // over the window
+    QPointF _dragPosition;
     HeldKeys _heldKeys;
     int _wheelTurned = 0; // eighths of a degree, less than a step
 };

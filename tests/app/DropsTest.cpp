@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Drops.h"
+
+#include "overlays/QVFeedbackOverlay.h"
+#include "platform/base/Localization.h"
+#include "platform/window/Events.h"
+#include "settings/SettingsKeys.h"
+#include "tests/app/AppRig.h"
+
+using namespace platform::dragOperation;
+
+namespace {
+
+class DropsRig : public testing::Test {
+protected:
+    DropsRig() {
+        platform::setLocalizationLanguages({"en"});
+        rig.launch();
+    }
+    ~DropsRig() override { platform::setLocalizationLanguages({}); }
+    /// What the screen says; empty when it says nothing.
+    std::string said() {
+        const QVFeedbackOverlay& overlay = QVFeedbackOverlay::sharedFeedbackOverlay();
+        return overlay.isVisible() ? overlay.text().toStdString() : "";
+    }
+    static platform::DraggingInfo files(const QStringList& paths, std::uint32_t mask = generic | copy) {
+        return {.offersFileNames = true,
+                .offersURL = false,
+                .fileNames = paths,
+                .urlStrings = {},
+                .sourceOperationMask = mask};
+    }
+    AppRig rig{{{kQVOnLaunchDefaultAction, 0}}};
+    platform::View& view = rig.view;
+};
+
+} // namespace
+
+TEST_F(DropsRig, the_screen_says_what_a_drop_would_do_until_it_is_done_or_leaves) {
+    view.draggingEntered(files({"/a.mp4"}));
+    EXPECT_EQ(said(), "Replace the Playlist");
+    rig.settings.runLoop.advance(20);
+    EXPECT_EQ(said(), "Replace the Playlist") << "as long as it hovers";
+    view.draggingUpdated(files({"/a.mp4"}, copy));
+    EXPECT_EQ(said(), "Add to the Playlist") << "with the key pressed meanwhile";
+    view.draggingExited();
+    EXPECT_EQ(said(), "");
+    rig.settings.runLoop.advance(20);
+    EXPECT_EQ(said(), "");
+
+    view.draggingEntered(files({"/a.mp4"}));
+    EXPECT_EQ(view.draggingUpdated(files({}, none)), none);
+    EXPECT_EQ(said(), "") << "what cannot be dropped";
+    view.draggingEntered(files({rig.file("a.mp4")}));
+    view.performDragOperation(files({rig.file("a.mp4")}));
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(rig.listed(), "a.mp4");
+}
+
+TEST_F(DropsRig, a_folder_and_subtitles_beside_a_movie_are_dropped_with_it) {
+    rig.file("films/a.mp4");
+    view.performDragOperation(files({rig.folder.filePath("films"), rig.file("b.mp4"), rig.file("b.srt")}));
+    EXPECT_TRUE(rig.settings.runLoop.runPosted());
+    EXPECT_EQ(rig.listed(), "a.mp4 b.mp4");
+    EXPECT_TRUE(rig.desktop.alerts.empty());
+}
+
+TEST_F(DropsRig, subtitles_alone_are_told_where_they_belong) {
+    view.performDragOperation(files({rig.file("a.mp4")}));
+    EXPECT_EQ(rig.listed(), "a.mp4");
+    for (const char* name : {"one.srt", "two.SUB", "three.idx"}) {
+        rig.desktop.alerts.clear();
+        view.performDragOperation(files({rig.file(name)}));
+        EXPECT_EQ(rig.listed(), "a.mp4");
+        ASSERT_EQ(rig.desktop.alerts.size(), 1U) << name;
+        EXPECT_TRUE(rig.desktop.alerts[0].message.contains("It holds subtitles.")) << name;
+    }
+    rig.desktop.alerts.clear();
+    view.performDragOperation(files({rig.file("notes.txt")}));
+    rig.settings.runLoop.advance(0.02);
+    ASSERT_FALSE(rig.desktop.alerts.empty());
+    EXPECT_FALSE(rig.desktop.alerts[0].message.contains("subtitles"));
+}
