@@ -109,6 +109,7 @@ void QVPreferencesController::awakeFromNib() {
               {c._movieOpenSavedPlaylist, kQVOnLaunchDefaultAction, &Self::changeOpenSavedPlaylist},
               {c._moviePauseOnDeactivate, kQVPauseOnDeactivate, &Self::changePauseOnDeactivate},
               {c._movieShowController, kQVControllerVisible, &Self::changeShowController},
+              {c._openVideoPages, kQVOpenVideoPages, &Self::changeOpenVideoPages},
               {c._volumeSave, kQVVolumeSave, &Self::changeSaveVolume},
               {c._mainWindowLayer, kQVMainWindowLayer, &Self::changeWindowLayer},
               {c._playlistSort, kQVPlaylistDefaultArrangement, &Self::changePlaylistSort},
@@ -378,6 +379,10 @@ void QVPreferencesController::changePauseOnDeactivate() {
 
 void QVPreferencesController::changeShowController() {
     plainChange(_controls->_movieShowController);
+}
+
+void QVPreferencesController::changeOpenVideoPages() {
+    plainChange(_controls->_openVideoPages);
 }
 
 void QVPreferencesController::changeSaveVolume() {

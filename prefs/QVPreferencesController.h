@@ -59,6 +59,7 @@ public:
     void changeOpenSavedPlaylist();
     void changePauseOnDeactivate();
     void changeShowController();
+    void changeOpenVideoPages();
     /// Which of the two controls of the jump interval was changed. What is typed counts at once; beyond the bounds it
     /// sounds the beep, and the stepper's value comes back. An empty field waits for what is typed next.
     enum class JumpControl { field, stepper };

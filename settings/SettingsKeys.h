@@ -55,6 +55,7 @@ inline const QString kQVSubtitlesOverlayStyle = QStringLiteral("QVSubtitlesOverl
 inline const QString kQVVobSubOverlayStyle = QStringLiteral("QVVobSubOverlayStyle");
 inline const QString kQVFullscreenOverlayStyle = QStringLiteral("QVFullscreenOverlayStyle");
 inline const QString kQVSavedState = QStringLiteral("QVSavedState");
+inline const QString kQVOpenVideoPages = QStringLiteral("QVOpenVideoPages");
 inline const QString kQVOpenURLRecentListS = QStringLiteral("QVOpenURLRecentListS");
 inline const QString kQVOpenURLRecentListM = QStringLiteral("QVOpenURLRecentListM");
 inline const QString kQVOpenURLRecentListSSize = QStringLiteral("QVOpenURLRecentListSSize");

@@ -13,6 +13,7 @@
 #include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/linux/Backlight.h"
 #include "platform/desktop/linux/DisplayServer.h"
 #include "platform/desktop/linux/FileChooserPortal.h"
@@ -22,6 +23,7 @@
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
 #include "prefs/QVPreferencesController.h"
+#include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
 #include <QFileInfo>
@@ -160,6 +162,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
     RunEnvironment run;
     if (!run.settings().apply(line))
         return exitUsage;
+
+    toolkit.setOpensPages([&run] { return run.environment().settings.boolForKey(kQVOpenVideoPages); });
 
     platform::SessionBus bus;
     const platform::Backlight backlight(platform::Backlight::systemFolder(),

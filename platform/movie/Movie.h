@@ -17,6 +17,9 @@ class MoviePlayer;
 /// What opening a movie found out, without decoding a picture.
 struct MovieInfo {
     QUrl url;
+    /// What is played, where the URL is that of a page which shows it; else empty.
+    QUrl stream;
+    const QUrl& source() const { return stream.isEmpty() ? url : stream; }
     /// Units a second of every time value of the movie: the video track's own where the duration fits 31 bits in it,
     /// else a smaller one; 600 without video.
     std::int32_t timeScale = 600;

@@ -1792,6 +1792,14 @@
 </context>
 <context>
     <name>Opening</name>
+    <message id="Open pages of video sites with &amp;yt-dlp">
+        <source>Open pages of video sites with &amp;yt-dlp</source>
+        <translation>Seiten von Videoportalen mit &amp;yt-dlp öffnen</translation>
+    </message>
+    <message id="An address that is no movie is asked of the program yt-dlp, where it is installed">
+        <source>An address that is no movie is asked of the program yt-dlp, where it is installed</source>
+        <translation>Nach einer Adresse, die kein Film ist, wird das Programm yt-dlp gefragt, wo es installiert ist</translation>
+    </message>
     <message id="Open Movies">
         <source>Open Movies</source>
         <translation>Filme öffnen</translation>

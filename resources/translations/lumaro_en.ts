@@ -1792,6 +1792,14 @@
 </context>
 <context>
     <name>Opening</name>
+    <message id="Open pages of video sites with &amp;yt-dlp">
+        <source>Open pages of video sites with &amp;yt-dlp</source>
+        <translation>Open pages of video sites with &amp;yt-dlp</translation>
+    </message>
+    <message id="An address that is no movie is asked of the program yt-dlp, where it is installed">
+        <source>An address that is no movie is asked of the program yt-dlp, where it is installed</source>
+        <translation>An address that is no movie is asked of the program yt-dlp, where it is installed</translation>
+    </message>
     <message id="Open Movies">
         <source>Open Movies</source>
         <translation>Open Movies</translation>

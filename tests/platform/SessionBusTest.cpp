@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/linux/SessionBus.h"
 #include "tests/support/CapturedLog.h"
-#include "tests/support/Files.h"
 #include "tests/support/ManualRunLoop.h"
+#include "tests/support/PrivateBus.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -10,14 +10,10 @@
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusVirtualObject>
-#include <QDeadlineTimer>
-#include <QProcess>
 
-#include <csignal>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <sys/prctl.h>
 
 using platform::SessionBus;
 
@@ -58,36 +54,14 @@ public:
     std::optional<QDBusMessage> unanswered;
 };
 
-/// A message bus of the test's own, which knows no service but the fake ones, as both the session's and the system's.
+/// Knows no service but the fake ones.
 class SessionBusTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        application = std::make_unique<QCoreApplication>(argumentCount, arguments);
-        daemon = std::make_unique<QProcess>();
-        const QTemporaryDir folder;
-        const QString configuration = writeFile(
-            folder.filePath("bus.conf"), "<busconfig><type>custom</type><listen>unix:tmpdir=/tmp</listen>"
-                                         "<auth>EXTERNAL</auth><policy context=\"default\"><allow own=\"*\"/>"
-                                         "<allow eavesdrop=\"true\"/>"
-                                         "<allow send_destination=\"*\" eavesdrop=\"true\"/></policy></busconfig>");
-        daemon->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        daemon->start("dbus-daemon", {"--config-file=" + configuration, "--nofork", "--print-address"});
-        while (!daemon->canReadLine() && daemon->waitForReadyRead()) {
-        }
-        const QByteArray address = daemon->readLine().trimmed();
-        ASSERT_FALSE(address.isEmpty()) << "dbus-daemon doesn't run";
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
+        daemon = std::make_unique<PrivateBus>();
+        ASSERT_TRUE(daemon->isRunning()) << "dbus-daemon doesn't run";
     }
-    static void TearDownTestSuite() {
-        QDBusConnection::disconnectFromBus("services");
-        QDBusConnection::disconnectFromBus("qt_default_session_bus");
-        QDBusConnection::disconnectFromBus("qt_default_system_bus");
-        daemon->kill();
-        daemon->waitForFinished();
-        daemon.reset();
-        application.reset();
-    }
+    static void TearDownTestSuite() { daemon.reset(); }
 
     SessionBusTest() {
         platform::RunLoop::setMain(&runLoop);
@@ -106,12 +80,7 @@ protected:
         ASSERT_TRUE(servicesBus.registerService(service));
         offered.append(service);
     }
-    static bool waitFor(const std::function<bool()>& done) {
-        const QDeadlineTimer deadline(10000);
-        while (!done() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        return done();
-    }
+    static bool waitFor(const std::function<bool()>& done) { return PrivateBus::waitFor(done); }
     bool waitForCalls(qsizetype count) {
         return waitFor([&] { return services.calls.size() >= count; });
     }
@@ -124,18 +93,12 @@ protected:
         EXPECT_TRUE(services.calls.takeLast().contains("SetBrightness"));
     }
 
-    static inline std::unique_ptr<QProcess> daemon;
-    // Connections live as long as the application they were made in.
-    static inline std::unique_ptr<QCoreApplication> application;
-    static inline int argumentCount = 1;
-    static inline char name[5] = "test";
-    static inline char* arguments[2] = {name, nullptr};
+    static inline std::unique_ptr<PrivateBus> daemon;
     ManualRunLoop runLoop;
     CapturedLog log;
     FakeServices services;
     QStringList offered;
-    QDBusConnection servicesBus =
-        QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), "services");
+    QDBusConnection servicesBus = PrivateBus::connection();
     std::unique_ptr<SessionBus> bus = std::make_unique<SessionBus>();
     const QString inhibit = "/org/freedesktop/ScreenSaver org.freedesktop.ScreenSaver.Inhibit(Lumaro|Playing a movie)";
     const QString release = "/org/freedesktop/ScreenSaver org.freedesktop.ScreenSaver.UnInhibit(7)";

@@ -168,6 +168,7 @@ const Plain plainControls[] = {
     {"_movieOpenSavedPlaylist", kQVOnLaunchDefaultAction, false, {1, 2, 0}},
     {"_moviePauseOnDeactivate", kQVPauseOnDeactivate, true, {0, 1}},
     {"_movieShowController", kQVControllerVisible, true, {0, 1}},
+    {"_openVideoPages", kQVOpenVideoPages, true, {0, 1}},
     {"_volumeSave", kQVVolumeSave, true, {1, 0}},
     {"_mainWindowLayer", kQVMainWindowLayer, false, {0, 3}},
     {"_playlistSort", kQVPlaylistDefaultArrangement, false, {0, 1, 2}},

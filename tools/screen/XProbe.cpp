@@ -195,6 +195,16 @@ void XProbe::click(int x, int y, unsigned button) {
     XSync(_display, False);
 }
 
+void XProbe::pressButton(unsigned button) {
+    XTestFakeButtonEvent(_display, button, True, CurrentTime);
+    XSync(_display, False);
+}
+
+void XProbe::releaseButton(unsigned button) {
+    XTestFakeButtonEvent(_display, button, False, CurrentTime);
+    XSync(_display, False);
+}
+
 void XProbe::drag(int fromX, int fromY, int toX, int toY, unsigned button) {
     movePointer(fromX, fromY);
     XTestFakeButtonEvent(_display, button, True, CurrentTime);

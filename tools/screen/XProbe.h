@@ -76,6 +76,8 @@ public:
     // The pointer. Buttons: 1 left, 2 middle, 3 right.
     void movePointer(int x, int y);
     void click(int x, int y, unsigned button = 1);
+    void pressButton(unsigned button = 1);
+    void releaseButton(unsigned button = 1);
     void drag(int fromX, int fromY, int toX, int toY, unsigned button = 1);
     // Whether the pointer has any picture; one that a program hid has none.
     bool pointerShows();

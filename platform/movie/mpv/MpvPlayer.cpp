@@ -282,7 +282,7 @@ void MpvPlayer::framesDue() {
 
 void MpvPlayer::carryOut(const playerEffect::LoadFile& effect) {
     // The player takes an absolute path as it stands, whatever characters are in it.
-    const QUrl& url = _movie->url();
+    const QUrl& url = _movie->info().source();
     const QByteArray address = url.isLocalFile() ? QFile::encodeName(url.toLocalFile()) : addressOf(url);
     const QByteArray options = loadOptions(_movie->info(), effect.start);
     if (options.isEmpty())

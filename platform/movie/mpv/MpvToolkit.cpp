@@ -6,6 +6,7 @@
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
+#include "platform/movie/mpv/VideoPage.h"
 
 #include <clocale>
 #include <utility>
@@ -88,8 +89,19 @@ std::unique_ptr<MovieOpening> MpvToolkit::openAsync(const QUrl& url, std::functi
         _preparedUrl.clear();
         return std::make_unique<PreparedOpening>(_prepared, std::move(completion));
     }
-    return _opener.open([url](const std::atomic<bool>& cancelled) { return probeMovie(url, openTimeout, cancelled); },
-                        std::move(completion));
+    return _opener.open(
+        [url, opensPages = _opensPages && _opensPages()](const std::atomic<bool>& cancelled) {
+            OpenedMovie opened = probeMovie(url, openTimeout, cancelled);
+            if (!opensPages || cancelled || !mayBePage(url, opened))
+                return opened;
+            if (const auto stream = streamOfPage(url, cancelled)) {
+                opened = probeMovie(*stream, openTimeout, cancelled);
+                if (opened.info)
+                    opened.info->stream = std::exchange(opened.info->url, url);
+            }
+            return opened;
+        },
+        std::move(completion));
 }
 
 std::unique_ptr<MovieOpening> MpvToolkit::coverAsync(const QUrl& url, std::function<void(QImage)> completion) {

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <thread>
+#include <utility>
 
 namespace platform {
 
@@ -21,6 +22,10 @@ public:
     /// Starts to load the libraries on a thread and, with a URL, to open it and decode its first picture: what the
     /// first opening and load will ask for. Needs no application object yet; call it as early as possible.
     void prepare(const QUrl& url);
+
+    /// Whether the addresses of pages are opened, too (VideoPage); asked on the main thread at each opening. They are
+    /// not at first.
+    void setOpensPages(std::function<bool()> opensPages) { _opensPages = std::move(opensPages); }
 
     /// enter() needs the application object: the player's core is made on a thread from here on. Before it and after
     /// exit() the player takes what it is asked, and plays nothing.
@@ -35,6 +40,7 @@ private:
 
     const std::shared_ptr<std::atomic<bool>> _cancelled = std::make_shared<std::atomic<bool>>(false);
     bool _entered = false;
+    std::function<bool()> _opensPages;
     QUrl _preparedUrl; // until it is opened
     std::shared_ptr<Delivery<OpenedMovie>> _prepared;
     PreparedFrame _firstFrame;

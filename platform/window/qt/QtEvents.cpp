@@ -129,7 +129,8 @@ MouseButton mouseButton(Qt::MouseButton button) {
 }
 
 std::uint32_t dragOperations(const QDropEvent& event) {
-    const Qt::DropActions actions = event.possibleActions();
+    // What can only be moved is left alone: its source would delete it.
+    const Qt::DropActions actions = event.possibleActions() & (Qt::CopyAction | Qt::LinkAction);
     if (actions == Qt::IgnoreAction)
         return dragOperation::none;
     // A drag with Alt or Ctrl held asks for a copy, as a source does that can do nothing else.
@@ -139,8 +140,8 @@ std::uint32_t dragOperations(const QDropEvent& event) {
 }
 
 Qt::DropAction dropAction(std::uint32_t operation, Qt::DropActions possible) {
-    // Never a move, after which its source deletes what was dropped.
-    return operation == dragOperation::generic && (possible & Qt::LinkAction) ? Qt::LinkAction : Qt::CopyAction;
+    const Qt::DropAction wanted = operation == dragOperation::generic ? Qt::LinkAction : Qt::CopyAction;
+    return possible & wanted ? wanted : wanted == Qt::LinkAction ? Qt::CopyAction : Qt::LinkAction;
 }
 
 DraggingInfo draggingInfo(const QDropEvent& event) {

@@ -21,7 +21,7 @@ MouseButton mouseButton(Qt::MouseButton button);
 /// Reading what is dragged asks its source, which takes a while; the operations that it allows now are at hand.
 DraggingInfo draggingInfo(const QDropEvent& event);
 std::uint32_t dragOperations(const QDropEvent& event);
-/// How an answer of platform::dragOperation is told to the source: by a link, or a copy.
+/// How an answer of platform::dragOperation is told to the source: as a link or a copy, never as a move.
 Qt::DropAction dropAction(std::uint32_t operation, Qt::DropActions possible);
 
 } // namespace platform::qtEvents

@@ -357,6 +357,10 @@ bool QtWindowHost::event(QEvent* event) {
     case QEvent::DragLeave:
         dragLeft();
         return true;
+    case QEvent::WindowBlocked:
+        // The panel that stands is told of their releases, one without a window of ours, too.
+        releaseKeys();
+        break;
     case QEvent::Leave:
         _root.dispatchMouseLeft();
         break;

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Asking for movies and dropping them, on the real program.
+#include "tests/e2e/PlayerFixture.h"
+
+#include <X11/keysym.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+using namespace harness;
+
+namespace {
+
+constexpr Color sourceColor{250, 0, 250};
+
+std::unique_ptr<ChildProcess> startProgram(const char* program, const std::vector<std::string>& arguments,
+                                           const std::map<std::string, std::string>& environment) {
+    ChildProcess::Options options;
+    options.arguments = {program};
+    options.arguments.insert(options.arguments.end(), arguments.begin(), arguments.end());
+    options.environment = environment;
+    options.withoutEnvironment = {"QT_QPA_PLATFORM"};
+    return std::make_unique<ChildProcess>(options);
+}
+
+/// Two movies of the user's in one folder.
+class Opening : public PlayerFixture {
+protected:
+    void SetUp() override {
+        std::filesystem::copy_file(numbered("red.mp4", red, 900), redMovie());
+        std::filesystem::copy_file(numbered("green.mp4", green, 1200), greenMovie());
+    }
+    std::string redMovie() const { return user.folder() / "red.mp4"; }
+    std::string greenMovie() const { return user.folder() / "green.mp4"; }
+
+    void type(const std::string& text) {
+        for (const char letter : text) {
+            const bool isUpper = (letter >= 'A' && letter <= 'Z') || letter == ':' || letter == '_';
+            probe.tap(static_cast<KeySym>(letter), isUpper ? std::vector<KeySym>{XK_Shift_L} : std::vector<KeySym>{});
+        }
+    }
+    std::size_t heard(const std::string& text) const {
+        const std::vector<std::string> lines = player->errorLines();
+        return static_cast<std::size_t>(std::ranges::count_if(
+            lines, [&](const std::string& line) { return line.find(text) != std::string::npos; }));
+    }
+    /// Opens a panel by key; it has the keyboard when the player hears of a key no longer.
+    testing::AssertionResult opens(KeySym key, const std::vector<KeySym>& modifiers) {
+        const WindowId movie = probe.windowAt(screenWidth / 2, screenHeight / 2);
+        probe.tap(key, modifiers);
+        if (!waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != movie; }))
+            return testing::AssertionFailure() << "no panel";
+        const bool hasKeyboard = waitUntil([&] {
+            const std::size_t before = heard("Char:");
+            probe.tap(XK_F8);
+            return staysTrue([&] { return heard("Char:") == before; }, Seconds(0.3));
+        });
+        return hasKeyboard ? testing::AssertionSuccess() : testing::AssertionFailure() << "it has not the keyboard";
+    }
+    /// Whether the next movie is of the colour.
+    testing::AssertionResult isFollowedBy(const Color& color) {
+        if (!tapUntil(XK_Next, [&] { return probe.pixel(screenWidth / 4, screenHeight * 5 / 6).isNear(color); }))
+            return testing::AssertionFailure() << "no such movie follows";
+        return testing::AssertionSuccess();
+    }
+};
+
+/// The same on a session with a message bus, on which a portal may be played.
+class OpeningByPortal : public Opening {
+protected:
+    void SetUp() override {
+        Opening::SetUp();
+        std::filesystem::create_directories(user.runtimeFolder());
+        // Where programs look for it that were told of none.
+        const std::string socket = user.runtimeFolder() / "bus";
+        _bus = startProgram("dbus-daemon", {"--session", "--nofork", "--address=unix:path=" + socket}, {});
+        ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(socket); })) << _bus->errorOutput();
+    }
+    void startPortal(const std::vector<std::string>& arguments) {
+        portal = startProgram(LUMARO_FAKE_PORTAL, arguments,
+                              {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + (user.runtimeFolder() / "bus").string()}});
+        ASSERT_TRUE(portal->waitForErrorLine("ready")) << portal->errorOutput();
+    }
+    std::unique_ptr<ChildProcess> portal;
+
+private:
+    std::unique_ptr<ChildProcess> _bus;
+};
+
+} // namespace
+
+TEST_F(OpeningByPortal, the_desktops_own_panel_is_asked_and_its_check_box_adds) {
+    startPortal({"0", "true", "file://" + greenMovie()});
+    start({"--set", "QVPauseOnDeactivate=1", redMovie()});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    probe.tap(XK_o, {XK_Control_L});
+    ASSERT_TRUE(portal->waitForErrorLine("OpenFile(x11:"));
+    ASSERT_TRUE(logs("Adding to playlist movie file: file://" + greenMovie()));
+    EXPECT_TRUE(colorBecomes(red)) << "it plays on";
+    EXPECT_TRUE(isFollowedBy(green));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(OpeningByPortal, a_panel_that_stands_holds_up_neither_another_launch_nor_the_end) {
+    startPortal({"4", "false"});
+    start({"--set", "QVPauseOnDeactivate=1", "--set", "QVHideOnDeactivate=1", redMovie()});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    probe.tap(XK_o, {XK_Control_L});
+    ASSERT_TRUE(portal->waitForErrorLine("OpenFile("));
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(staysTrue([&] { return player->isRunning(); }, Seconds(0.5))) << "keys are the panel's";
+    EXPECT_EQ(startAnother({greenMovie()})->waitForExit(), 0);
+    EXPECT_TRUE(colorBecomes(green));
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
+    EXPECT_TRUE(portal->waitForErrorLine("Close()")) << "the panel goes with the player";
+}
+
+TEST_F(OpeningByPortal, where_the_portal_cannot_ask_the_players_own_panel_does) {
+    startPortal({"3", "false"});
+    start({redMovie()});
+    ASSERT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(opens(XK_o, {XK_Control_L}));
+    type("green.mp4"); // in the folder of the movie opened last
+    probe.tap(XK_Return);
+    EXPECT_TRUE(colorBecomes(green));
+    // Alt held at the answer adds.
+    ASSERT_TRUE(opens(XK_o, {XK_Control_L}));
+    type("red.mp4");
+    const std::size_t before = player->lineCount();
+    probe.tap(XK_Return, {XK_Alt_L});
+    ASSERT_TRUE(logs("Adding to playlist movie file:", before));
+    EXPECT_TRUE(colorBecomes(green));
+    EXPECT_TRUE(isFollowedBy(red));
+    ASSERT_TRUE(opens(XK_o, {XK_Control_L, XK_Shift_L}));
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
+}
+
+TEST_F(Opening, an_entered_path_is_opened_and_kept_for_the_next_time) {
+    start({redMovie()});
+    ASSERT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(opens(XK_u, {XK_Control_L}));
+    type(greenMovie());
+    probe.tap(XK_Return);
+    EXPECT_TRUE(colorBecomes(green));
+    EXPECT_TRUE(logs("QVOpenURLPanel: Opening URLs: ("));
+    ASSERT_TRUE(opens(XK_u, {XK_Control_L, XK_Shift_L}));
+    type(redMovie());
+    probe.tap(XK_Return);
+    probe.tap(XK_Return, {XK_Control_L});
+    EXPECT_TRUE(colorBecomes(red));
+    ASSERT_TRUE(quitsCleanly());
+    EXPECT_NE(user.settingsText().find("<string>" + greenMovie() + "</string>"), std::string::npos);
+    EXPECT_NE(user.settingsText().find("<string>" + redMovie() + "\n</string>"), std::string::npos);
+}
+
+namespace {
+
+class Dropping : public Opening {
+protected:
+    void startSource(const std::string& actions, const std::vector<std::string>& things) {
+        std::vector<std::string> arguments = {actions, "900", "500"};
+        arguments.insert(arguments.end(), things.begin(), things.end());
+        source =
+            startProgram(LUMARO_DRAG_SOURCE, arguments, {{"DISPLAY", server.display()}, {"QT_QPA_PLATFORM", "xcb"}});
+        ASSERT_TRUE(probe.waitForColor(950, 540, sourceColor)) << source->errorOutput();
+    }
+    /// Drags from the source to the place, and holds it there.
+    void dragTo(int x, int y) {
+        probe.movePointer(950, 540);
+        probe.pressButton();
+        // Slowly, as a hand does: the source asks after each place.
+        for (int step = 1; step <= 10; ++step) {
+            probe.movePointer(950 + (x - 950) * step / 10, 540 + (y - 540) * step / 10);
+            std::this_thread::sleep_for(Seconds(0.02));
+        }
+    }
+    std::unique_ptr<ChildProcess> source;
+};
+
+} // namespace
+
+TEST_F(Dropping, what_hovers_is_said_and_taken_as_a_copy_or_a_link_but_never_moved) {
+    start({"--set", "QVPlaylistAutoPlay=0", redMovie()});
+    ASSERT_TRUE(frameBecomes(0));
+    for (const auto& [actions, how] :
+         {std::pair{"move", "nothing"}, {"copy,move", "copy"}, {"copy,move,link", "link"}}) {
+        startSource(actions, {greenMovie()});
+        dragTo(400, 600);
+        if (actions != std::string("move")) {
+            EXPECT_TRUE(logs("Set Text: Replace the Playlist")) << actions;
+        }
+        probe.releaseButton();
+        EXPECT_TRUE(source->waitForErrorLine(std::string("dropped as ") + how)) << actions << source->errorOutput();
+        EXPECT_TRUE(colorBecomes(actions == std::string("move") ? red : green)) << actions;
+        source.reset();
+        EXPECT_EQ(startAnother({redMovie()})->waitForExit(), 0);
+        ASSERT_TRUE(colorBecomes(red));
+    }
+    // With Alt it is added, and what leaves again is not said any more.
+    startSource("copy", {"see " + greenMovie() + " and file://" + greenMovie() + ", too"});
+    probe.press(XK_Alt_L);
+    dragTo(400, 600);
+    EXPECT_TRUE(logs("Set Text: Add to the Playlist"));
+    probe.movePointer(950, 540);
+    EXPECT_TRUE(logs("Start Fading OUT"));
+    probe.movePointer(500, 600);
+    probe.movePointer(400, 600);
+    const std::size_t before = player->lineCount();
+    probe.releaseButton();
+    probe.release(XK_Alt_L);
+    ASSERT_TRUE(logs("Adding to playlist movie file: file://" + greenMovie(), before)) << "the address in a text";
+    EXPECT_TRUE(colorBecomes(red));
+    source.reset();
+    EXPECT_TRUE(isFollowedBy(green));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Dropping, on_a_panel_falls_not_through_to_the_movie) {
+    start({"--set", "QVPlaylistAutoPlay=0", redMovie()});
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(opens(XK_comma, {XK_Control_L}));
+    startSource("copy", {greenMovie()});
+    dragTo(screenWidth / 2, screenHeight / 2);
+    probe.releaseButton();
+    EXPECT_TRUE(source->waitForErrorLine("dropped as nothing"));
+    EXPECT_TRUE(colorBecomes(red));
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
+}
