@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QRegularExpression>
+
 namespace {
 
 CommandLine parse(const char* words) {
@@ -71,4 +74,25 @@ TEST(CommandLine, wrong_usage_names_what_is_wrong) {
             << c.words << ": " << line.error.toStdString();
     }
     EXPECT_FALSE(CommandLine::parse({QString()}, "/").error.isEmpty()) << "an empty name";
+}
+
+TEST(CommandLine, shells_complete_every_option) {
+    struct Shell {
+        const char* file;
+        const char* spelled;
+    };
+    for (const Shell& shell :
+         {Shell{"lumaro.bash", "--%1\\b"}, Shell{"_lumaro", "--%1\\["}, Shell{"lumaro.fish", "-l %1 "}}) {
+        QFile file(QString::fromUtf8(LUMARO_SOURCE_DIR "/packaging/completions/%1").arg(QLatin1String(shell.file)));
+        ASSERT_TRUE(file.open(QFile::ReadOnly)) << shell.file;
+        const QString text = QString::fromUtf8(file.readAll());
+        auto options = QRegularExpression("^ +--([a-z-]+)", QRegularExpression::MultilineOption)
+                           .globalMatch(CommandLine::helpText());
+        ASSERT_TRUE(options.hasNext());
+        while (options.hasNext()) {
+            const QString name = options.next().captured(1);
+            EXPECT_TRUE(text.contains(QRegularExpression(QString::fromLatin1(shell.spelled).arg(name))))
+                << shell.file << " lacks " << name.toStdString();
+        }
+    }
 }
