@@ -56,6 +56,7 @@ public:
     QString description() const { return url().toString(); }
     /// The absolute URL as it is saved: with everything encoded that a URL cannot hold.
     const QString& address() const { return _address; }
+    QString fileName() const override { return url().fileName(); }
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
     void setTime(std::int32_t time);

@@ -37,6 +37,8 @@ inline const QString kQVSubtitlesEncodingsListSize = QStringLiteral("QVSubtitles
 inline const QString kQVSubtitlesDefaultFPS = QStringLiteral("QVSubtitlesDefaultFPS");
 inline const QString kQVSubtitlesMarkup = QStringLiteral("QVSubtitlesMarkup");
 inline const QString kQVSubtitlesRepair = QStringLiteral("QVSubtitlesRepair");
+/// The languages of subtitles and sound, the preferred one first; an empty list stands for the user's.
+inline const QString kQVPreferredLanguages = QStringLiteral("QVPreferredLanguages");
 inline const QString kQVSubtitlesColor = QStringLiteral("QVSubtitlesColor");
 inline const QString kQVSubtitlesFontName = QStringLiteral("QVSubtitlesFontName");
 inline const QString kQVSubtitlesSizeMin = QStringLiteral("QVSubtitlesSizeMin");

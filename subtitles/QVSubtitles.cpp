@@ -6,6 +6,7 @@
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/CueTiming.h"
+#include "subtitles/SubtitleFileName.h"
 
 #include <algorithm>
 #include <new>
@@ -180,6 +181,10 @@ float QVSubtitles::actualFrameRate(std::int32_t choice) const {
 
 QString QVSubtitles::title() const {
     return platform::lastPathComponent(path());
+}
+
+QString QVSubtitles::language() const {
+    return SubtitleFileName::languageOf(platform::lastPathComponent(path()), _owner.fileName());
 }
 
 QString QVSubtitles::description() const {

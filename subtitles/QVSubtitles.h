@@ -91,6 +91,8 @@ public:
     /// For the user: the file's name, unless the reader knows better.
     virtual QString title() const;
     QString description() const;
+    /// The tag ("de", "pt-BR") of the language, as far as it is known; empty otherwise.
+    virtual QString language() const;
 
     virtual bool isTextBased() const = 0;
     virtual bool isImageBased() const = 0;

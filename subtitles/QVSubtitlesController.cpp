@@ -3,13 +3,18 @@
 
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/UserDefaults.h"
+#include "settings/PreferredLanguages.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/QVSubtitle.h"
+#include "subtitles/SubtitleFileName.h"
 #include "subtitles/SubtitleView.h"
 
 #include <algorithm>
+#include <optional>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -49,12 +54,34 @@ std::shared_ptr<QVSubtitles> QVSubtitlesController::preferredSubtitles() const {
             return track.path() == _savedPath && track.streamIndex() == _savedIndex;
         });
     }
+    if (!preferred)
+        preferred = trackOfWantedLanguage();
     if (!preferred && _preferredType != -1) {
         preferred = first([this](const QVSubtitles& track) {
             return track.type() == _preferredType && track.streamIndex() == _preferredIndex;
         });
     }
     return preferred || _subtitles.empty() ? preferred : _subtitles.front();
+}
+
+/// None where no track is known to be of a wanted language.
+std::shared_ptr<QVSubtitles> QVSubtitlesController::trackOfWantedLanguage() const {
+    const QStringList wanted = QStringList(_chosenLanguage) + PreferredLanguages::of(_environment.settings);
+    const QString movie = _movie ? _movie->fileName() : QString();
+    std::shared_ptr<QVSubtitles> best;
+    std::tuple<int, bool, bool> bestRank;
+    for (const auto& track : _subtitles) {
+        const std::optional<int> language = PreferredLanguages::rank(track->language(), wanted);
+        if (!language)
+            continue;
+        const std::tuple rank(*language, track->isImageBased(),
+                              SubtitleFileName::isForced(platform::lastPathComponent(track->path()), movie));
+        if (!best || rank < bestRank) {
+            best = track;
+            bestRank = rank;
+        }
+    }
+    return best;
 }
 
 void QVSubtitlesController::setSavedPath(const QString& path, std::uint32_t index) {
@@ -168,6 +195,7 @@ void QVSubtitlesController::setCurrenWithIndex(std::int32_t index) {
         // A copy: whoever follows the selection may change the list.
         const auto track = _subtitles[static_cast<std::size_t>(index)];
         setCurrent(track);
+        _chosenLanguage = track->language();
     }
 }
 
@@ -280,6 +308,15 @@ void QVSubtitlesController::followReadingMode() {
         _index = none;
 }
 
+/// What is wanted now comes before what was taken by hand; without a track of these languages the selection stays.
+void QVSubtitlesController::followPreferredLanguages() {
+    _chosenLanguage.clear();
+    const auto track = trackOfWantedLanguage();
+    // What is switched off is chosen when it comes back.
+    if (track && track != _current)
+        setCurrent(_subtitlesOn ? track : nullptr);
+}
+
 void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key == kQVDisplaySubtitles) {
         const bool isOn = _environment.settings.boolForKey(kQVDisplaySubtitles);
@@ -290,6 +327,8 @@ void QVSubtitlesController::preferencesChanged(const QVPreferencesChangedNotific
             setDisplaySubtitles(isOn);
     } else if (notification.key == kQVSubtitlesRepair) {
         followReadingMode();
+    } else if (notification.key == kQVPreferredLanguages) {
+        followPreferredLanguages();
     } else if (notification.key == kQVSubtitlesDefaultEncoding && _current) {
         _current->setEncoding(QVSubtitles::defaultEncoding(_environment.settings));
         if (_subtitlesOn) {

@@ -27,8 +27,9 @@ public:
     QVSubtitlesController& operator=(const QVSubtitlesController&) = delete;
     virtual ~QVSubtitlesController();
 
-    /// The track that the current movie is to begin with: the one restored, else one of the kind chosen last, else the
-    /// first; none without tracks.
+    /// The track that the current movie is to begin with: the one restored, else the one of the language wanted most
+    /// (that of the track that the user took last, then those of kQVPreferredLanguages), a text before images, else one
+    /// of the kind chosen last, else the first; none without tracks.
     std::shared_ptr<QVSubtitles> preferredSubtitles() const;
     /// The selected track, or none. It is of the current movie.
     std::shared_ptr<QVSubtitles> current() const { return _current; }
@@ -62,6 +63,8 @@ private:
     void movieInterestingTime(const QVMovieInterestingTimeNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
     void followReadingMode();
+    std::shared_ptr<QVSubtitles> trackOfWantedLanguage() const;
+    void followPreferredLanguages();
     void loadingWentOn();
     void keepLoaded(const std::shared_ptr<QVSubtitles>& track);
     SubtitleView* viewFor(const QVSubtitles& track) const;
@@ -89,6 +92,8 @@ private:
     std::shared_ptr<QVSubtitles> _cached;
     QString _savedPath;
     std::uint32_t _savedIndex = 0;
+    /// Of the track that the user took last in this run; empty where that is not known.
+    QString _chosenLanguage;
     std::int32_t _preferredType = -1;
     std::uint32_t _preferredIndex = 0;
     platform::Subscription _onMovie;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -17,6 +19,8 @@ public:
     /// Pictures a second; 0 without video.
     virtual float frameRate() = 0;
     virtual std::int32_t time() const = 0;
+    /// The name of its file, with the extension; empty where it has none.
+    virtual QString fileName() const { return {}; }
     /// The tracks found for it; they must not be used once it is gone.
     virtual const std::vector<std::shared_ptr<QVSubtitles>>& subtitles() const {
         static const std::vector<std::shared_ptr<QVSubtitles>> none;

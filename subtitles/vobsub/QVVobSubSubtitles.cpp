@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 
+#include "platform/base/LanguageNames.h"
 #include "platform/base/PathNames.h"
 #include "subtitles/input/LineReader.h"
 #include "subtitles/vobsub/IndexParser.h"
@@ -55,6 +56,11 @@ std::optional<ImageAppearance> QVVobSubSubtitles::appearance() const {
 
 float QVVobSubSubtitles::aspectRatio() const {
     return static_cast<float>(size().width()) / static_cast<float>(size().height());
+}
+
+QString QVVobSubSubtitles::language() const {
+    const QString tag = platform::languageTagOf(streamInfo()._languageID);
+    return tag.isEmpty() ? QVSubtitles::language() : tag;
 }
 
 QString QVVobSubSubtitles::title() const {

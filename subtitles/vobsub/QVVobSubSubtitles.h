@@ -44,6 +44,7 @@ public:
     void setEncoding(std::uint32_t) override {}
 
     QString title() const override;
+    QString language() const override;
     std::uint32_t streamIndex() const override { return _idx; }
     bool isTextBased() const override { return false; }
     bool isImageBased() const override { return true; }

@@ -231,6 +231,58 @@ TEST_F(SubtitlesController, the_next_movie_keeps_to_the_kind_of_track_chosen_las
     EXPECT_EQ(info(), QStringLiteral("other (2/2)")) << "the restored choice goes on as the kind chosen last";
 }
 
+TEST_F(SubtitlesController, a_movie_begins_with_the_first_track_of_the_first_wanted_language) {
+    const struct {
+        const char* name;
+        QStringList wanted, tracks;
+        const char* selected;
+    } cases[] = {
+        {"the user's language", {}, {"0-0 x.fr.srt", "0-0 x.en.srt"}, "x.en.srt (2/2)"},
+        {"the order of the languages", {"fr", "de"}, {"0-0 x.de.srt", "0-0 x.fr.srt"}, "x.fr.srt (2/2)"},
+        {"the next one", {"fr", "de"}, {"0-0 x.en.srt", "0-0 x.de.srt"}, "x.de.srt (2/2)"},
+        {"none of them", {"fr"}, {"0-0 x.en.srt", "0-0 x.de.srt"}, "x.en.srt (1/2)"},
+        {"the first of several", {"de"}, {"0-0 x.srt", "0-0 x.ger.srt", "0-0 x.de.srt"}, "x.ger.srt (2/3)"},
+        {"a text before images", {"de"}, {"2-0 x.de.idx", "1-0 x.Deutsch.sub"}, "x.Deutsch.sub (2/2)"},
+        {"all that is said", {"de"}, {"0-0 x.de.forced.srt", "0-0 x.de.srt"}, "x.de.srt (2/2)"},
+        {"the country", {"pt-BR"}, {"0-0 x.pt-PT.srt", "0-0 x.pt.srt", "0-0 x.pt_br.srt"}, "x.pt_br.srt (3/3)"},
+        {"no country before another", {"pt-BR"}, {"0-0 x.pt-PT.srt", "0-0 x.pt.srt"}, "x.pt.srt (2/2)"},
+        {"for the hard of hearing", {"en", "hi"}, {"0-0 x.hi.srt", "0-0 x.en.hi.srt"}, "x.en.hi.srt (2/2)"},
+        {"a title's word is no language", {"no"}, {"0-0 x.srt", "0-0 Dr.No.1962.srt"}, "x.srt (1/2)"},
+    };
+    platform::setLocalizationLanguages({QStringLiteral("en-US"), QStringLiteral("en")});
+    for (const auto& c : cases) {
+        rig.settings.defaults().setObject(c.wanted, kQVPreferredLanguages);
+        play(c.tracks);
+        EXPECT_EQ(info().toStdString(), c.selected) << c.name;
+    }
+    platform::setLocalizationLanguages({});
+}
+
+TEST_F(SubtitlesController, a_language_taken_by_hand_holds_until_others_are_wanted) {
+    const QStringList german{QStringLiteral("0-0 x.en.srt"), QStringLiteral("0-0 x.de.srt")};
+    const auto want = [&](const QStringList& languages) {
+        rig.settings.defaults().setObject(languages, kQVPreferredLanguages);
+        rig.changePreference(kQVPreferredLanguages);
+    };
+    want({QStringLiteral("en")});
+    play(german);
+    controller.cycleSubtitles(1);
+    play({QStringLiteral("0-0 y.fr.srt"), QStringLiteral("0-0 y.en.srt"), QStringLiteral("0-0 y.de.srt")});
+    EXPECT_EQ(info(), QStringLiteral("y.de.srt (3/3)"));
+    want({QStringLiteral("fr"), QStringLiteral("en")});
+    EXPECT_EQ(info(), QStringLiteral("y.fr.srt (1/3)")) << "at once";
+    want({QStringLiteral("ja")});
+    EXPECT_EQ(info(), QStringLiteral("y.fr.srt (1/3)")) << "there is none";
+    controller.toggleSubtitles();
+    want({QStringLiteral("en")});
+    EXPECT_EQ(info(), QStringLiteral("Off"));
+    controller.toggleSubtitles();
+    EXPECT_EQ(info(), QStringLiteral("y.en.srt (2/3)"));
+    controller.setSavedPath(QStringLiteral("0-0 x.de.srt"), 0);
+    play(german);
+    EXPECT_EQ(info(), QStringLiteral("x.de.srt (2/2)")) << "what is restored comes first";
+}
+
 TEST_F(SubtitlesController, a_movie_that_comes_while_display_is_off_is_shown_with_its_own_tracks) {
     std::weak_ptr<QVMovie> gone = play(three);
     controller.setCurrenWithIndex(1);
@@ -374,6 +426,7 @@ TEST_F(SubtitlesController, an_index_says_how_its_images_come_and_go) {
     writeFile(folder.filePath(QStringLiteral("a.sub")));
     writeFile(path, "# VobSub index file, v7 (do not modify this line!)\n"
                     "alpha: 75%\nfadein/out: 100, 250\nid: en, index: 0\n");
+    rig.settings.defaults().setObject(QStringList{QStringLiteral("fr")}, kQVPreferredLanguages);
     // The view is made for a cue of the first track, and takes on the look of the second.
     const auto shown = play({QStringLiteral("2-0 first"), path});
     rig.view.setMovie(shown);
