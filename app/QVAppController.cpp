@@ -9,7 +9,6 @@
 #include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
 #include "app/SavedState.h"
-#include "app/ScreenBrightness.h"
 #include "app/SystemVersion.h"
 #include "context/CommandTarget.h"
 #include "control/CommandHelp.h"
@@ -58,7 +57,8 @@ QVAppController* gAppController = nullptr;
 
 QVAppController::QVAppController(const Environment& environment, const Collaborators& collaborators)
     : _environment(environment)
-    , _with(collaborators) {
+    , _with(collaborators)
+    , _brightness(environment, collaborators.desktop, [this] { return screenOf(_with.window, _with.desktop); }) {
     gTracingEnabled = environment.settings.boolForKey(kQVEnableTrace);
     if (gTracingEnabled) {
         trace("Lumaro %@(v%@)", infoText("CFBundleShortVersionString"), infoText("CFBundleVersion"));
@@ -98,11 +98,7 @@ void QVAppController::applicationWillFinishLaunching() {
     // The movie menu's check mark follows the view's size code, which is read from QVDefaultMovieSize.
     if (_environment.settings.boolForKey(kQVVolumeSave))
         _with.view.setVolume(_environment.settings.floatForKey(kQVVolumeSavedLevel));
-    if (const auto screen = screenOf(_with.window, _with.desktop)) {
-        _savedBrightness = brightnessOf(_with.desktop, *screen);
-        if (_environment.settings.boolForKey(kQVForceScreenBrightness))
-            setBrightnessOf(_with.desktop, *screen, _environment.settings.floatForKey(kQVScreenBrightness));
-    }
+    _brightness.begin();
     _with.window.show();
 }
 
@@ -277,9 +273,7 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
         _with.view.stop();
     _with.window.setTerminating(true);
     _with.window.hide();
-    if (const auto screen = screenOf(_with.window, _with.desktop);
-        screen && _savedBrightness != brightnessOf(_with.desktop, *screen))
-        setBrightnessOf(_with.desktop, *screen, _savedBrightness);
+    _brightness.end();
     return TerminateReply::later;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/ForcedBrightness.h"
 #include "context/Environment.h"
 #include "control/ApplicationServices.h"
 #include "platform/base/NotificationCenter.h"
@@ -122,7 +123,7 @@ private:
     std::unique_ptr<platform::Timer> _launchTimer;
     bool _is_display_restored = false;
     bool _is_terminating = false;
-    float _savedBrightness = 1.0F;
+    ForcedBrightness _brightness;
     platform::Subscription _preferencesChanged;
 };
 

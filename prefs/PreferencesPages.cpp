@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "prefs/PreferencesPages.h"
 
+#include "prefs/WheelGuard.h"
+
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
+#include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -18,8 +23,6 @@ QChar mnemonicOf(const QString& text) {
     const QKeySequence keys = QKeySequence::mnemonic(text);
     return keys.isEmpty() ? QChar() : QChar(keys[0].key()).toLower();
 }
-
-} // namespace
 
 QSize naturalSize(const QTabWidget& pages) {
     const QWidget& window = *pages.window();
@@ -36,10 +39,33 @@ QSize naturalSize(const QTabWidget& pages) {
     return size;
 }
 
+} // namespace
+
+QRect frameIn(const QRect& place, const QTabWidget& pages) {
+    QRect frame(QPoint(), naturalSize(pages).boundedTo(place.size() * 19 / 20));
+    frame.moveCenter(place.center());
+    return frame;
+}
+
+void prepare(QWidget& window) {
+    for (auto* area : window.findChildren<QScrollArea*>()) {
+        area->viewport()->setAutoFillBackground(false);
+        area->widget()->setAutoFillBackground(false);
+    }
+    auto* guard = new WheelGuard(&window);
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        if (qobject_cast<QComboBox*>(control) || qobject_cast<QSlider*>(control) ||
+            qobject_cast<QAbstractSpinBox*>(control))
+            guard->watch(*control);
+    }
+}
+
 void yieldMnemonics(const QWidget& section, const QTabWidget& pages) {
     QString taken;
     for (int page = 0; page < pages.count(); ++page)
         taken += mnemonicOf(pages.tabText(page));
+    for (const auto* button : pages.window()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly))
+        taken += mnemonicOf(button->text());
     const QWidget* page = section.parentWidget();
     while (page && pages.indexOf(page) < 0)
         page = page->parentWidget();

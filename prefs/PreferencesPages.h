@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QSize>
+#include <QRect>
 
 class QTabWidget;
 class QWidget;
@@ -9,11 +9,16 @@ class QWidget;
 /// What concerns the pages of the preferences, each of them a scroll area, as a whole. Main thread.
 namespace PreferencesPages {
 
-/// That of their window, large enough for the largest page, and for the names of all.
-QSize naturalSize(const QTabWidget& pages);
+/// Where their window stands: in the middle of the place, large enough for the largest page, and for the names of all,
+/// as far as the place is.
+QRect frameIn(const QRect& place, const QTabWidget& pages);
 
-/// Takes from a section the letters, to be pressed with Alt, that the page around it or the pages' names have: of two
-/// controls with the same one, neither would act.
+/// Makes the window's pages as light as what holds them, and keeps the wheel from changing what passes under the
+/// pointer while they are scrolled.
+void prepare(QWidget& window);
+
+/// Takes from a section the letters, to be pressed with Alt, that the page around it, the pages' names or the
+/// window's own buttons have: of two controls with the same one, neither would act.
 void yieldMnemonics(const QWidget& section, const QTabWidget& pages);
 
 } // namespace PreferencesPages

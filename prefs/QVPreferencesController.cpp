@@ -8,8 +8,12 @@
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "prefs/EncodingMenu.h"
+#include "prefs/LanguageList.h"
+#include "prefs/PageReset.h"
+#include "prefs/PreferencesFilter.h"
 #include "prefs/PreferencesPages.h"
 #include "prefs/RecentEncodings.h"
+#include "prefs/SettingSlider.h"
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
@@ -28,6 +32,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <ui_Preferences.h>
 #include <utility>
 
@@ -39,33 +44,6 @@ constexpr const char* className = "QVPreferencesController";
 constexpr std::int32_t sorted = 2;
 /// Above this many seconds the pointer is never hidden.
 constexpr std::int32_t maximumCursorHideDelay = 10;
-
-/// Selects the item, or button, of the tag; none where there is none.
-void selectTag(QComboBox& popUp, std::int32_t tag) {
-    popUp.setCurrentIndex(popUp.findData(tag));
-}
-
-void selectTag(QButtonGroup& group, std::int32_t tag) {
-    if (QAbstractButton* button = group.button(tag)) {
-        button->setChecked(true);
-    } else if (QAbstractButton* checked = group.checkedButton()) {
-        group.setExclusive(false);
-        checked->setChecked(false);
-        group.setExclusive(true);
-    }
-}
-
-/// The tags of the interface file become the values of the items and buttons.
-void takeTags(QComboBox& popUp) {
-    const QStringList tags = popUp.property("tags").toString().split(u' ', Qt::SkipEmptyParts);
-    for (qsizetype i = 0; i < tags.size(); ++i)
-        popUp.setItemData(static_cast<int>(i), tags[i].toInt());
-}
-
-void takeTags(QButtonGroup& group) {
-    for (QAbstractButton* button : group.buttons())
-        group.setId(button, button->property("tag").toInt());
-}
 
 QString nameOfEncoding(std::uint32_t encoding) {
     const QStringList names = JHStringEncodings::localizedNamesOfStringEncodings({encoding});
@@ -103,33 +81,34 @@ QVPreferencesController::~QVPreferencesController() {
 void QVPreferencesController::awakeFromNib() {
     using Self = QVPreferencesController;
     const auto& c = *_controls;
-    _plain = {{c._movieAutofetchSubtitles, kQVAutoloadSubtitles, &Self::changeAutofetchSubtitles},
-              {c._movieDefaultSize, kQVDefaultMovieSize, &Self::changeMovieDefaultSize},
-              {c._movieHideOnDeactivate, kQVHideOnDeactivate, &Self::changeHideOnDeactivate},
-              {c._movieOpenSavedPlaylist, kQVOnLaunchDefaultAction, &Self::changeOpenSavedPlaylist},
-              {c._moviePauseOnDeactivate, kQVPauseOnDeactivate, &Self::changePauseOnDeactivate},
-              {c._movieShowController, kQVControllerVisible, &Self::changeShowController},
-              {c._openVideoPages, kQVOpenVideoPages, &Self::changeOpenVideoPages},
-              {c._volumeSave, kQVVolumeSave, &Self::changeSaveVolume},
-              {c._mainWindowLayer, kQVMainWindowLayer, &Self::changeWindowLayer},
-              {c._playlistSort, kQVPlaylistDefaultArrangement, &Self::changePlaylistSort},
-              {c._playlistSortNumerically, kQVSortNumerically, &Self::changePlaylistSortNumerically},
-              {c._playlistSortOnlyFilenames, kQVSortOnlyFilenames, &Self::changePlaylistSortOnlyFilenames, true},
-              {c._playlistAutoPlay, kQVPlaylistAutoPlay, &Self::changePlaylistAutoPlay},
-              {c._playlistAutoNext, kQVPlaylistAutoNext, &Self::changePlaylistAutoNext},
-              {c._playlistAutoQuit, kQVPlaylistAutoQuit, &Self::changePlaylistAutoQuit},
-              {c._playlistDefaultLoop, kQVPlaylistDefaultLooping, &Self::changePlaylistDefaultLoop},
-              {c._subtitlesShow, kQVDisplaySubtitles, &Self::changeSubtitlesShow},
-              {c._subtitlesDefaultFPS, kQVSubtitlesDefaultFPS, &Self::changeSubtitlesDefaultFPS},
-              {c._subtitlesMarkup, kQVSubtitlesMarkup, &Self::changeSubtitlesMarkup},
-              {c._subtitlesRepair, kQVSubtitlesRepair, &Self::changeSubtitlesRepair},
-              {c._advancedEnableTrace, kQVEnableTrace, &Self::changeEnableTrace},
-              {c._overlayTextFontSizeMin, kQVOverlayTextFontSizeMin, &Self::changeOverlayTextSizeMin},
-              {c._feedbackShow, kQVDisplayFeedback, &Self::changeFeedbackShow},
-              {c._displaySaveState, kQVOSDStateSave, &Self::changeDisplaySaveState},
-              {c._versionCheck, kQVNewVersionShouldCheck, &Self::changeVersionCheck},
-              {c._versionCheckBeta, kQVNewVersionShouldCheckBeta, &Self::changeVersionCheckBeta},
-              {c._versionCheckPeriod, kQVNewVersionCheckingPeriod, &Self::changeVersionCheckPeriod}};
+    _plain = {{{c._movieAutofetchSubtitles, kQVAutoloadSubtitles}, &Self::changeAutofetchSubtitles},
+              {{c._movieDefaultSize, kQVDefaultMovieSize}, &Self::changeMovieDefaultSize},
+              {{c._movieHideOnDeactivate, kQVHideOnDeactivate}, &Self::changeHideOnDeactivate},
+              {{c._movieOpenSavedPlaylist, kQVOnLaunchDefaultAction}, &Self::changeOpenSavedPlaylist},
+              {{c._moviePauseOnDeactivate, kQVPauseOnDeactivate}, &Self::changePauseOnDeactivate},
+              {{c._movieShowController, kQVControllerVisible}, &Self::changeShowController},
+              {{c._openVideoPages, kQVOpenVideoPages}, &Self::changeOpenVideoPages},
+              {{c._volumeSave, kQVVolumeSave}, &Self::changeSaveVolume},
+              {{c._mainWindowLayer, kQVMainWindowLayer}, &Self::changeWindowLayer},
+              {{c._playlistSort, kQVPlaylistDefaultArrangement}, &Self::changePlaylistSort},
+              {{c._playlistSortNumerically, kQVSortNumerically}, &Self::changePlaylistSortNumerically},
+              {{c._playlistSortOnlyFilenames, kQVSortOnlyFilenames, true}, &Self::changePlaylistSortOnlyFilenames},
+              {{c._playlistAutoPlay, kQVPlaylistAutoPlay}, &Self::changePlaylistAutoPlay},
+              {{c._playlistAutoNext, kQVPlaylistAutoNext}, &Self::changePlaylistAutoNext},
+              {{c._playlistAutoQuit, kQVPlaylistAutoQuit}, &Self::changePlaylistAutoQuit},
+              {{c._playlistDefaultLoop, kQVPlaylistDefaultLooping}, &Self::changePlaylistDefaultLoop},
+              {{c._subtitlesShow, kQVDisplaySubtitles}, &Self::changeSubtitlesShow},
+              {{c._subtitlesDefaultFPS, kQVSubtitlesDefaultFPS}, &Self::changeSubtitlesDefaultFPS},
+              {{c._subtitlesMarkup, kQVSubtitlesMarkup}, &Self::changeSubtitlesMarkup},
+              {{c._subtitlesRepair, kQVSubtitlesRepair}, &Self::changeSubtitlesRepair},
+              {{c._advancedEnableTrace, kQVEnableTrace}, &Self::changeEnableTrace},
+              {{c._overlayTextFontSizeMin, kQVOverlayTextFontSizeMin}, &Self::changeOverlayTextSizeMin},
+              {{c._feedbackShow, kQVDisplayFeedback}, &Self::changeFeedbackShow},
+              {{c._displaySaveState, kQVOSDStateSave}, &Self::changeDisplaySaveState},
+              {{c._versionCheck, kQVNewVersionShouldCheck}, &Self::changeVersionCheck},
+              {{c._versionCheckBeta, kQVNewVersionShouldCheckBeta}, &Self::changeVersionCheckBeta},
+              {{c._versionCheckPeriod, kQVNewVersionCheckingPeriod}, &Self::changeVersionCheckPeriod},
+              {{c._screenForceBrightness, kQVForceScreenBrightness}, &Self::changeForceBrightness}};
 
     _subtitlesEncodings = std::make_unique<EncodingMenu>(
         *c._subtitlesDefaultEncoding, [this](const QString&) { changeSubtitlesDefaultEncoding(); },
@@ -138,25 +117,70 @@ void QVPreferencesController::awakeFromNib() {
                                   _environment.settings.arrayForKey(kQVSubtitlesEncodingsList))),
                               _encodings.availableEncodings().keys());
 
+    setupSliders();
+    _languages = std::make_unique<LanguageList>(
+        LanguageList::Parts{*c._languages, *c._languageAdd, *c._languageUp, *c._languageDown, *c._languageRemove},
+        [this](const QVariant& value, const QString& key) { choose(value, key); });
     _styles.addTo(*c._subtitlesStyles, *c._overlayStyles, *c._pages);
+    setupWholeWindow();
     connectControls();
     _environment.settings.setWriteFailureHandler([this] { settingsNotSaved(); });
+}
+
+void QVPreferencesController::setupSliders() {
+    const auto& c = *_controls;
+    constexpr double percent = 0.01;
+    const auto choosing = [this](const QVariant& value, const QString& key) {
+        trace("%@: %@ changed to: %@", className, key, value.toString());
+        choose(value, key);
+    };
+    _padding = std::make_unique<SettingSlider>(
+        SettingSlider::Parts{*c._overlayPadding, *c._overlayPaddingValue, kQVOverlayDefaultPadding, 1, "%d pt"},
+        choosing);
+    _brightness = std::make_unique<SettingSlider>(SettingSlider::Parts{*c._screenBrightness, *c._screenBrightnessValue,
+                                                                       kQVScreenBrightness, percent, "StylePercent"},
+                                                  choosing);
+    const std::vector<platform::Screen> screens = _desktop.screens();
+    _hasBrightness = std::ranges::any_of(
+        screens, [this](const platform::Screen& screen) { return std::isfinite(_desktop.brightness(screen)); });
+    if (!_hasBrightness) {
+        for (QWidget* control :
+             {static_cast<QWidget*>(c._screenForceBrightness), static_cast<QWidget*>(c._screenBrightness)})
+            control->setToolTip(localized("The brightness of this screen can’t be set"));
+    }
+}
+
+/// What belongs to no page.
+void QVPreferencesController::setupWholeWindow() {
+    const auto& c = *_controls;
+    _reset =
+        std::make_unique<PageReset>(_environment, PageReset::Parts{*c._pages, *c._resetPage, *c._undoReset}, [this] {
+            _hasChosen = true;
+            syncWithDefaults();
+        });
+    for (const PlainRow& row : _plain)
+        _reset->add(*row.plain.widget(), row.plain.key);
+    _reset->add(*c._jumpIntervalStepper, kQVJumpInterval);
+    _reset->add(*c._screenBrightness, kQVScreenBrightness);
+    _reset->add(*c._subtitlesDefaultEncoding, kQVSubtitlesDefaultEncoding);
+    _reset->add(*c._languages, kQVPreferredLanguages);
+    _reset->add(*c._overlayPadding, kQVOverlayDefaultPadding);
+    _reset->add(*c._advancedCursorHideDelay, kQVCursorAutohideDelay);
+    _filter = std::make_unique<PreferencesFilter>(*c._pages);
 }
 
 void QVPreferencesController::connectControls() {
     const auto& c = *_controls;
     // Signals of what the user does, not of what the program shows.
-    for (const PlainControl& plain : _plain) {
-        const auto act = [this, action = plain.action] { (this->*action)(); };
-        if (auto* box = qobject_cast<QCheckBox*>(plain.control)) {
+    for (const auto& [plain, action] : _plain) {
+        plain.takeTags();
+        const auto act = [this, done = action] { (this->*done)(); };
+        if (auto* box = qobject_cast<QCheckBox*>(plain.control))
             connect(box, &QCheckBox::clicked, this, act);
-        } else if (auto* popUp = qobject_cast<QComboBox*>(plain.control)) {
-            takeTags(*popUp);
+        else if (auto* popUp = qobject_cast<QComboBox*>(plain.control))
             connect(popUp, &QComboBox::activated, this, act);
-        } else if (auto* group = qobject_cast<QButtonGroup*>(plain.control)) {
-            takeTags(*group);
+        else if (auto* group = qobject_cast<QButtonGroup*>(plain.control))
             connect(group, &QButtonGroup::idClicked, this, act);
-        }
     }
     connect(&c._jumpIntervalStepper->field(), &QLineEdit::textEdited, this,
             [this] { changeJumpInterval(JumpControl::field); });
@@ -168,31 +192,14 @@ void QVPreferencesController::connectControls() {
     connect(c._close, &QPushButton::clicked, window, &QDialog::reject);
     connect(new QShortcut(QKeySequence(QKeySequence::Close), window), &QShortcut::activated, window, &QDialog::reject);
     connect(window, &QDialog::finished, this, [this] { windowWillClose(); });
-    // The pages are as light as what holds them.
-    for (auto* area : window->findChildren<QScrollArea*>()) {
-        area->viewport()->setAutoFillBackground(false);
-        area->widget()->setAutoFillBackground(false);
-    }
     window->installEventFilter(this);
-    // A page that is scrolled by the wheel would change what passes under the pointer.
-    for (QWidget* control : window->findChildren<QWidget*>()) {
-        if (qobject_cast<QComboBox*>(control) || qobject_cast<QSlider*>(control) ||
-            qobject_cast<QAbstractSpinBox*>(control)) {
-            control->setFocusPolicy(Qt::StrongFocus);
-            control->installEventFilter(this);
-        }
-    }
+    PreferencesPages::prepare(*window);
 }
 
 bool QVPreferencesController::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == _window.get()) {
-        // The player's own keys and menus may have changed something meanwhile.
-        if (event->type() == QEvent::WindowActivate)
-            syncWithDefaults();
-    } else if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
+    // The player's own keys and menus may have changed something meanwhile.
+    if (event->type() == QEvent::WindowActivate)
+        syncWithDefaults();
     return QObject::eventFilter(watched, event);
 }
 
@@ -206,12 +213,9 @@ void QVPreferencesController::showAbove(QWindow* owner) {
         _window->windowHandle()->setScreen(owner->screen());
     }
     if (!_window->isVisible()) {
-        QSize size = PreferencesPages::naturalSize(*_controls->_pages);
-        const QRect place = owner ? owner->geometry() : _window->screen()->availableGeometry();
-        size = size.boundedTo(place.size() * 19 / 20);
-        QRect frame(QPoint(), size);
-        frame.moveCenter(place.center());
-        _window->setGeometry(frame);
+        _window->setGeometry(PreferencesPages::frameIn(
+            owner ? owner->geometry() : _window->screen()->availableGeometry(), *_controls->_pages));
+        _filter->clear();
         _controls->_pages->tabBar()->setFocus();
     }
     _window->show();
@@ -237,8 +241,12 @@ void QVPreferencesController::windowWillClose() {
 void QVPreferencesController::syncWithDefaults() {
     const platform::UserDefaults& settings = _environment.settings;
     const auto& c = *_controls;
-    for (const PlainControl& plain : _plain)
-        show(plain);
+    for (const PlainRow& row : _plain)
+        row.plain.show(settings);
+    _padding->show(settings);
+    _brightness->show(settings);
+    _brightnessGroupSetEnabled(settings.boolForKey(kQVForceScreenBrightness));
+    _languages->show(settings);
     showTextSizeMin(settings.integerForKey(kQVOverlayTextFontSizeMin));
     {
         const QSignalBlocker shown(c._jumpIntervalStepper);
@@ -259,17 +267,7 @@ void QVPreferencesController::syncWithDefaults() {
     _versionGroupSetEnabled(settings.boolForKey(kQVNewVersionShouldCheck));
     _styles.setFeedbackEnabled(settings.boolForKey(kQVDisplayFeedback));
     _styles.sync();
-}
-
-void QVPreferencesController::show(const PlainControl& plain) {
-    const platform::UserDefaults& settings = _environment.settings;
-    const std::int32_t tag = plain.isBoolean ? settings.boolForKey(plain.key) : settings.integerForKey(plain.key);
-    if (auto* box = qobject_cast<QCheckBox*>(plain.control))
-        box->setChecked(settings.boolForKey(plain.key));
-    else if (auto* popUp = qobject_cast<QComboBox*>(plain.control))
-        selectTag(*popUp, tag);
-    else if (auto* group = qobject_cast<QButtonGroup*>(plain.control))
-        selectTag(*group, tag);
+    _reset->update();
 }
 
 /// A size that is not offered is added in its place.
@@ -281,7 +279,7 @@ void QVPreferencesController::showTextSizeMin(std::int32_t size) {
             ++place;
         popUp.insertItem(place, QString::number(size) + QStringLiteral(" pt"), size);
     }
-    selectTag(popUp, size);
+    popUp.setCurrentIndex(popUp.findData(size));
 }
 
 void QVPreferencesController::showEncoding(std::uint32_t encoding) {
@@ -313,6 +311,11 @@ void QVPreferencesController::_versionGroupSetEnabled(bool enabled) {
     _controls->_versionCheckPeriod->setEnabled(enabled);
 }
 
+void QVPreferencesController::_brightnessGroupSetEnabled(bool enabled) {
+    _controls->_screenForceBrightness->setEnabled(_hasBrightness);
+    _brightness->setEnabled(_hasBrightness && enabled);
+}
+
 void QVPreferencesController::_updateCursorHideDelayValue(std::int32_t seconds) {
     const QString text = seconds > maximumCursorHideDelay
                              ? localized("Never")
@@ -341,20 +344,11 @@ void QVPreferencesController::choose(const QVariant& value, const QString& key) 
     _environment.notifications.post(QVPreferencesChangedNotification{key, {}});
 }
 
-std::int32_t QVPreferencesController::valueOf(const PlainControl& plain) const {
-    if (const auto* box = qobject_cast<const QCheckBox*>(plain.control))
-        return box->isChecked();
-    if (const auto* popUp = qobject_cast<const QComboBox*>(plain.control))
-        return popUp->currentData().toInt();
-    return static_cast<const QButtonGroup*>(plain.control)->checkedId();
-}
-
 void QVPreferencesController::plainChange(const QObject* control) {
-    const PlainControl& plain = *std::ranges::find(_plain, control, &PlainControl::control);
-    const std::int32_t value = valueOf(plain);
-    trace("%@: %@ changed to: %d", className, plain.key, value);
-    const bool isBoolean = plain.isBoolean || qobject_cast<const QCheckBox*>(control);
-    choose(isBoolean ? QVariant(value != 0) : QVariant(value), plain.key);
+    const PlainControl& plain =
+        std::ranges::find(_plain, control, [](const PlainRow& row) { return row.plain.control; })->plain;
+    trace("%@: %@ changed to: %d", className, plain.key, plain.value());
+    choose(plain.stored(), plain.key);
 }
 
 void QVPreferencesController::changeAutofetchSubtitles() {
@@ -467,6 +461,11 @@ void QVPreferencesController::changeVersionCheckBeta() {
 
 void QVPreferencesController::changeVersionCheckPeriod() {
     plainChange(_controls->_versionCheckPeriod);
+}
+
+void QVPreferencesController::changeForceBrightness() {
+    _brightnessGroupSetEnabled(_controls->_screenForceBrightness->isChecked());
+    plainChange(_controls->_screenForceBrightness);
 }
 
 void QVPreferencesController::changeJumpInterval(JumpControl sender) {

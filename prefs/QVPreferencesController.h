@@ -3,6 +3,7 @@
 
 #include "context/Environment.h"
 #include "platform/base/NotificationCenter.h"
+#include "prefs/PlainControl.h"
 #include "prefs/StyleSections.h"
 #include "subtitles/JHStringEncodings.h"
 
@@ -14,10 +15,14 @@
 #include <vector>
 
 class EncodingMenu;
+class LanguageList;
+class PageReset;
 class PictureSource;
+class PreferencesFilter;
 class QVariant;
 class QWidget;
 class QWindow;
+class SettingSlider;
 struct QVPreferencesChangedNotification;
 struct QVVersionCheckNotification;
 
@@ -87,27 +92,24 @@ public:
     void changeVersionCheck();
     void changeVersionCheckBeta();
     void changeVersionCheckPeriod();
+    void changeForceBrightness();
 
 private:
-    /// A control whose value is stored as it is: that of a check box, or the tag of the selected item or button.
-    struct PlainControl {
-        QObject* control;
-        QString key;
+    struct PlainRow {
+        PlainControl plain;
         void (QVPreferencesController::*action)();
-        /// The tag of a group of two, stored as a boolean.
-        bool isBoolean = false;
     };
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void awakeFromNib();
+    void setupSliders();
+    void setupWholeWindow();
     void connectControls();
     void windowWillClose();
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
     void versionCheckInProgress(const QVVersionCheckNotification& notification);
 
     void plainChange(const QObject* control);
-    std::int32_t valueOf(const PlainControl& plain) const;
-    void show(const PlainControl& plain);
     /// Stores what the user chose, and announces it.
     void choose(const QVariant& value, const QString& key);
     void store(const QVariant& value, const QString& key);
@@ -118,6 +120,7 @@ private:
     void _playlistGroupSetEnabled(bool enabled);
     void _subtitlesGroupSetEnabled(bool enabled);
     void _versionGroupSetEnabled(bool enabled);
+    void _brightnessGroupSetEnabled(bool enabled);
     void _updateCursorHideDelayValue(std::int32_t seconds);
     void _updateLastCheckedStatus();
 
@@ -125,10 +128,17 @@ private:
     platform::Desktop& _desktop;
     std::unique_ptr<QWidget> _window;
     std::unique_ptr<Ui::Preferences> _controls;
-    std::vector<PlainControl> _plain;
+    std::vector<PlainRow> _plain;
     JHStringEncodings _encodings;
     std::unique_ptr<EncodingMenu> _subtitlesEncodings;
     StyleSections _styles;
+    std::unique_ptr<SettingSlider> _brightness;
+    std::unique_ptr<SettingSlider> _padding;
+    std::unique_ptr<LanguageList> _languages;
+    std::unique_ptr<PageReset> _reset;
+    std::unique_ptr<PreferencesFilter> _filter;
+    /// Whether a screen lets its brightness be set.
+    bool _hasBrightness = false;
     bool _hasChosen = false;
     bool _saidNotSaved = false;
     platform::Subscription _preferencesChanged;

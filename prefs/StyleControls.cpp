@@ -4,6 +4,7 @@
 #include "platform/base/Localization.h"
 #include "prefs/ColorWell.h"
 #include "prefs/FloatSlider.h"
+#include "prefs/WheelGuard.h"
 #include "settings/SettingsKeys.h"
 
 #include <QCheckBox>
@@ -30,19 +31,6 @@ QString plain(QString title) {
     title.remove(u'&');
     return title.endsWith(u':') ? title.chopped(1) : title;
 }
-
-/// Scrolling over a control that nobody chose scrolls the page, and changes nothing.
-class WheelGuard final : public QObject {
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        const auto* widget = static_cast<QWidget*>(watched);
-        if (event->type() != QEvent::Wheel || widget->hasFocus())
-            return false;
-        event->ignore();
-        return true;
-    }
-};
 
 void addTags(QComboBox& popUp, std::initializer_list<std::pair<const char*, int>> items) {
     popUp.clear();

@@ -35,7 +35,10 @@ QStringList distinct(const QStringList& tags) {
 QStringList of(const platform::UserDefaults& settings) {
     QStringList chosen = settings.stringArrayForKey(kQVPreferredLanguages);
     chosen.removeDuplicates();
-    return chosen.isEmpty() ? distinct(platform::localizationLanguages()) : chosen;
+    if (chosen.isEmpty())
+        chosen = distinct(platform::localizationLanguages());
+    // A system set up for no language has English texts.
+    return chosen.isEmpty() ? QStringList(QStringLiteral("en")) : chosen;
 }
 
 std::optional<int> rank(const QString& tag, const QStringList& preferred) {

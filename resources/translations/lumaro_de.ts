@@ -1405,6 +1405,26 @@
         <source>The bar with play, time and volume below the picture</source>
         <translation>Die Leiste mit Wiedergabe, Zeit und Lautstärke unter dem Bild</translation>
     </message>
+    <message id="Set the screen’s bri&amp;ghtness:">
+        <source>Set the screen’s bri&amp;ghtness:</source>
+        <translation>&amp;Bildschirmhelligkeit festlegen:</translation>
+    </message>
+    <message id="As long as Lumaro runs; then the screen is as bright as before">
+        <source>As long as Lumaro runs; then the screen is as bright as before</source>
+        <translation>Solange Lumaro läuft; danach ist der Bildschirm so hell wie zuvor</translation>
+    </message>
+    <message id="How bright the screen is while Lumaro runs">
+        <source>How bright the screen is while Lumaro runs</source>
+        <translation>Wie hell der Bildschirm ist, solange Lumaro läuft</translation>
+    </message>
+    <message id="Brightness of the screen">
+        <source>Brightness of the screen</source>
+        <translation>Helligkeit des Bildschirms</translation>
+    </message>
+    <message id="The brightness of this screen can’t be set">
+        <source>The brightness of this screen can’t be set</source>
+        <translation>Die Helligkeit dieses Bildschirms lässt sich nicht einstellen</translation>
+    </message>
     <message id="Playing">
         <source>Playing</source>
         <translation>Wiedergabe</translation>
@@ -1605,6 +1625,50 @@
         <source>What is damaged is read as far as it can be</source>
         <translation>Beschädigtes wird gelesen, so weit es geht</translation>
     </message>
+    <message id="Preferred Languages">
+        <source>Preferred Languages</source>
+        <translation>Bevorzugte Sprachen</translation>
+    </message>
+    <message id="Preferred languages">
+        <source>Preferred languages</source>
+        <translation>Bevorzugte Sprachen</translation>
+    </message>
+    <message id="Movies begin with subtitles of the first of these that there are. At first these are the languages of your system.">
+        <source>Movies begin with subtitles of the first of these that there are. At first these are the languages of your system.</source>
+        <translation>Filme beginnen mit Untertiteln in der ersten dieser Sprachen, die es gibt. Anfangs sind es die Sprachen Ihres Systems.</translation>
+    </message>
+    <message id="Add a language">
+        <source>Add a language</source>
+        <translation>Sprache hinzufügen</translation>
+    </message>
+    <message id="Adds a language to the list">
+        <source>Adds a language to the list</source>
+        <translation>Fügt der Liste eine Sprache hinzu</translation>
+    </message>
+    <message id="Hi&amp;gher">
+        <source>Hi&amp;gher</source>
+        <translation>&amp;Höher</translation>
+    </message>
+    <message id="Moves the language up the list">
+        <source>Moves the language up the list</source>
+        <translation>Rückt die Sprache in der Liste nach oben</translation>
+    </message>
+    <message id="Lo&amp;wer">
+        <source>Lo&amp;wer</source>
+        <translation>T&amp;iefer</translation>
+    </message>
+    <message id="Moves the language down the list">
+        <source>Moves the language down the list</source>
+        <translation>Rückt die Sprache in der Liste nach unten</translation>
+    </message>
+    <message id="Remo&amp;ve">
+        <source>Remo&amp;ve</source>
+        <translation>En&amp;tfernen</translation>
+    </message>
+    <message id="Takes the language off the list">
+        <source>Takes the language off the list</source>
+        <translation>Nimmt die Sprache aus der Liste</translation>
+    </message>
     <message id="&amp;Overlays">
         <source>&amp;Overlays</source>
         <translation>&amp;Einblendungen</translation>
@@ -1616,6 +1680,14 @@
     <message id="No text over the movie is smaller">
         <source>No text over the movie is smaller</source>
         <translation>Kein Text über dem Film ist kleiner</translation>
+    </message>
+    <message id="&amp;Distance from the edges:">
+        <source>&amp;Distance from the edges:</source>
+        <translation>Abstan&amp;d vom Rand:</translation>
+    </message>
+    <message id="How far what is shown over the movie keeps from the edges of the window">
+        <source>How far what is shown over the movie keeps from the edges of the window</source>
+        <translation>Wie weit das, was über dem Film gezeigt wird, vom Rand des Fensters entfernt bleibt</translation>
     </message>
     <message id="Show &amp;feedback">
         <source>Show &amp;feedback</source>
@@ -1737,6 +1809,38 @@
         <source>Lines for whoever looks for an error, in the system log or the terminal</source>
         <translation>Zeilen für die Fehlersuche, im Systemprotokoll oder Terminal</translation>
     </message>
+    <message id="&amp;Reset Page">
+        <source>&amp;Reset Page</source>
+        <translation>&amp;Seite zurücksetzen</translation>
+    </message>
+    <message id="Takes the settings of this page back to what they were at first. Styles have a button of their own.">
+        <source>Takes the settings of this page back to what they were at first. Styles have a button of their own.</source>
+        <translation>Setzt die Einstellungen dieser Seite auf die anfänglichen zurück. Stile haben eine eigene Schaltfläche dafür.</translation>
+    </message>
+    <message id="Undo Reset">
+        <source>Undo Reset</source>
+        <translation>Zurücksetzen rückgängig machen</translation>
+    </message>
+    <message id="Brings the settings of this page back (Ctrl+Z)">
+        <source>Brings the settings of this page back (Ctrl+Z)</source>
+        <translation>Holt die Einstellungen dieser Seite zurück (Strg+Z)</translation>
+    </message>
+    <message id="Find a setting">
+        <source>Find a setting</source>
+        <translation>Einstellung suchen</translation>
+    </message>
+    <message id="Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.">
+        <source>Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.</source>
+        <translation>Sucht eine Einstellung nach ihren Wörtern (Strg+F). Auf und Ab führen zu den anderen, die Eingabetaste zur Einstellung selbst.</translation>
+    </message>
+    <message id="PreferencesFound">
+        <source>%d of %d</source>
+        <translation>%d von %d</translation>
+    </message>
+    <message id="Nothing found">
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
     <message id="Close">
         <source>Close</source>
         <translation>Schließen</translation>
@@ -1748,6 +1852,10 @@
     <message id="%d sec.">
         <source>%d sec.</source>
         <translation>%d Sek.</translation>
+    </message>
+    <message id="%d pt">
+        <source>%d pt</source>
+        <translation>%d pt</translation>
     </message>
     <message id="Search: %@">
         <source>Search: %@</source>

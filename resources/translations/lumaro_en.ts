@@ -1405,6 +1405,26 @@
         <source>The bar with play, time and volume below the picture</source>
         <translation>The bar with play, time and volume below the picture</translation>
     </message>
+    <message id="Set the screen’s bri&amp;ghtness:">
+        <source>Set the screen’s bri&amp;ghtness:</source>
+        <translation>Set the screen’s bri&amp;ghtness:</translation>
+    </message>
+    <message id="As long as Lumaro runs; then the screen is as bright as before">
+        <source>As long as Lumaro runs; then the screen is as bright as before</source>
+        <translation>As long as Lumaro runs; then the screen is as bright as before</translation>
+    </message>
+    <message id="How bright the screen is while Lumaro runs">
+        <source>How bright the screen is while Lumaro runs</source>
+        <translation>How bright the screen is while Lumaro runs</translation>
+    </message>
+    <message id="Brightness of the screen">
+        <source>Brightness of the screen</source>
+        <translation>Brightness of the screen</translation>
+    </message>
+    <message id="The brightness of this screen can’t be set">
+        <source>The brightness of this screen can’t be set</source>
+        <translation>The brightness of this screen can’t be set</translation>
+    </message>
     <message id="Playing">
         <source>Playing</source>
         <translation>Playing</translation>
@@ -1605,6 +1625,50 @@
         <source>What is damaged is read as far as it can be</source>
         <translation>What is damaged is read as far as it can be</translation>
     </message>
+    <message id="Preferred Languages">
+        <source>Preferred Languages</source>
+        <translation>Preferred Languages</translation>
+    </message>
+    <message id="Preferred languages">
+        <source>Preferred languages</source>
+        <translation>Preferred languages</translation>
+    </message>
+    <message id="Movies begin with subtitles of the first of these that there are. At first these are the languages of your system.">
+        <source>Movies begin with subtitles of the first of these that there are. At first these are the languages of your system.</source>
+        <translation>Movies begin with subtitles of the first of these that there are. At first these are the languages of your system.</translation>
+    </message>
+    <message id="Add a language">
+        <source>Add a language</source>
+        <translation>Add a language</translation>
+    </message>
+    <message id="Adds a language to the list">
+        <source>Adds a language to the list</source>
+        <translation>Adds a language to the list</translation>
+    </message>
+    <message id="Hi&amp;gher">
+        <source>Hi&amp;gher</source>
+        <translation>Hi&amp;gher</translation>
+    </message>
+    <message id="Moves the language up the list">
+        <source>Moves the language up the list</source>
+        <translation>Moves the language up the list</translation>
+    </message>
+    <message id="Lo&amp;wer">
+        <source>Lo&amp;wer</source>
+        <translation>Lo&amp;wer</translation>
+    </message>
+    <message id="Moves the language down the list">
+        <source>Moves the language down the list</source>
+        <translation>Moves the language down the list</translation>
+    </message>
+    <message id="Remo&amp;ve">
+        <source>Remo&amp;ve</source>
+        <translation>Remo&amp;ve</translation>
+    </message>
+    <message id="Takes the language off the list">
+        <source>Takes the language off the list</source>
+        <translation>Takes the language off the list</translation>
+    </message>
     <message id="&amp;Overlays">
         <source>&amp;Overlays</source>
         <translation>&amp;Overlays</translation>
@@ -1616,6 +1680,14 @@
     <message id="No text over the movie is smaller">
         <source>No text over the movie is smaller</source>
         <translation>No text over the movie is smaller</translation>
+    </message>
+    <message id="&amp;Distance from the edges:">
+        <source>&amp;Distance from the edges:</source>
+        <translation>&amp;Distance from the edges:</translation>
+    </message>
+    <message id="How far what is shown over the movie keeps from the edges of the window">
+        <source>How far what is shown over the movie keeps from the edges of the window</source>
+        <translation>How far what is shown over the movie keeps from the edges of the window</translation>
     </message>
     <message id="Show &amp;feedback">
         <source>Show &amp;feedback</source>
@@ -1737,6 +1809,38 @@
         <source>Lines for whoever looks for an error, in the system log or the terminal</source>
         <translation>Lines for whoever looks for an error, in the system log or the terminal</translation>
     </message>
+    <message id="&amp;Reset Page">
+        <source>&amp;Reset Page</source>
+        <translation>&amp;Reset Page</translation>
+    </message>
+    <message id="Takes the settings of this page back to what they were at first. Styles have a button of their own.">
+        <source>Takes the settings of this page back to what they were at first. Styles have a button of their own.</source>
+        <translation>Takes the settings of this page back to what they were at first. Styles have a button of their own.</translation>
+    </message>
+    <message id="Undo Reset">
+        <source>Undo Reset</source>
+        <translation>Undo Reset</translation>
+    </message>
+    <message id="Brings the settings of this page back (Ctrl+Z)">
+        <source>Brings the settings of this page back (Ctrl+Z)</source>
+        <translation>Brings the settings of this page back (Ctrl+Z)</translation>
+    </message>
+    <message id="Find a setting">
+        <source>Find a setting</source>
+        <translation>Find a setting</translation>
+    </message>
+    <message id="Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.">
+        <source>Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.</source>
+        <translation>Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.</translation>
+    </message>
+    <message id="PreferencesFound">
+        <source>%d of %d</source>
+        <translation>%d of %d</translation>
+    </message>
+    <message id="Nothing found">
+        <source>Nothing found</source>
+        <translation>Nothing found</translation>
+    </message>
     <message id="Close">
         <source>Close</source>
         <translation>Close</translation>
@@ -1748,6 +1852,10 @@
     <message id="%d sec.">
         <source>%d sec.</source>
         <translation>%d sec.</translation>
+    </message>
+    <message id="%d pt">
+        <source>%d pt</source>
+        <translation>%d pt</translation>
     </message>
     <message id="Search: %@">
         <source>Search: %@</source>

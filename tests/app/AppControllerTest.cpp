@@ -81,6 +81,32 @@ TEST(AppController, what_the_settings_do_not_keep_stays_as_it_is_found_at_launch
     EXPECT_EQ(alone.desktop.brightnessLevels[1], 1);
 }
 
+TEST(AppController, a_changed_brightness_is_on_the_screen_at_once) {
+    AppRig rig({{kQVScreenBrightness, 0.75}});
+    rig.desktop.brightnessLevels[1] = 0.25F;
+    const auto change = [&](const QString& key, const QVariant& value) {
+        rig.settings.defaults().setObject(value, key);
+        rig.settings.notifications.post(QVPreferencesChangedNotification{key, {}});
+        return rig.desktop.brightnessLevels.value(1);
+    };
+    EXPECT_EQ(change(kQVForceScreenBrightness, true), 0.25F) << "not before the launch";
+    change(kQVForceScreenBrightness, false);
+    rig.launch();
+    EXPECT_EQ(change(kQVScreenBrightness, 0.5), 0.25F) << "it is not forced";
+    EXPECT_EQ(change(kQVForceScreenBrightness, true), 0.5F);
+    EXPECT_EQ(change(kQVScreenBrightness, 0.9), 0.9F);
+    EXPECT_EQ(change(kQVForceScreenBrightness, false), 0.25F) << "as it was found";
+    change(kQVForceScreenBrightness, true);
+    rig.app.applicationShouldTerminate();
+    EXPECT_EQ(rig.desktop.brightnessLevels[1], 0.25F);
+    EXPECT_EQ(change(kQVScreenBrightness, 0.4), 0.25F) << "it has ended";
+    // One that cannot be read is left alone when it is no longer forced.
+    AppRig unknown;
+    unknown.launch();
+    unknown.settings.notifications.post(QVPreferencesChangedNotification{kQVForceScreenBrightness, {}});
+    EXPECT_TRUE(unknown.desktop.brightnessLevels.isEmpty());
+}
+
 TEST(AppController, tracing_follows_its_setting_from_the_launch_on) {
     for (const bool on : {true, false}) {
         AppRig rig(quiet({{kQVEnableTrace, on}}));

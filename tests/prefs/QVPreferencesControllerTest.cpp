@@ -189,6 +189,7 @@ const Plain plainControls[] = {
     {"_versionCheck", kQVNewVersionShouldCheck, true, {0, 1}},
     {"_versionCheckBeta", kQVNewVersionShouldCheckBeta, true, {0, 1}},
     {"_versionCheckPeriod", kQVNewVersionCheckingPeriod, false, {0, 1, 2, 3}},
+    {"_screenForceBrightness", kQVForceScreenBrightness, true, {0, 1}},
 };
 
 } // namespace
@@ -496,6 +497,7 @@ TEST_F(Preferences, every_control_has_a_name_a_tip_and_a_letter_of_its_own_in_ev
         };
         for (int page = 0; page < pages.count(); ++page)
             take(everywhere, pages.tabText(page));
+        take(everywhere, control<QPushButton>("_resetPage").text());
         for (int page = 0; page < pages.count(); ++page) {
             std::map<QString, QString> taken = everywhere;
             for (QWidget* widget : ownControls(*pages.widget(page))) {
