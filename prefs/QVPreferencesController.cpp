@@ -117,23 +117,23 @@ void QVPreferencesController::awakeFromNib() {
                                   _environment.settings.arrayForKey(kQVSubtitlesEncodingsList))),
                               _encodings.availableEncodings().keys());
 
-    setupSliders();
-    _languages = std::make_unique<LanguageList>(
-        LanguageList::Parts{*c._languages, *c._languageAdd, *c._languageUp, *c._languageDown, *c._languageRemove},
-        [this](const QVariant& value, const QString& key) { choose(value, key); });
+    setupOwnRows();
     _styles.addTo(*c._subtitlesStyles, *c._overlayStyles, *c._pages);
     setupWholeWindow();
     connectControls();
     _environment.settings.setWriteFailureHandler([this] { settingsNotSaved(); });
 }
 
-void QVPreferencesController::setupSliders() {
+void QVPreferencesController::setupOwnRows() {
     const auto& c = *_controls;
     constexpr double percent = 0.01;
     const auto choosing = [this](const QVariant& value, const QString& key) {
-        trace("%@: %@ changed to: %@", className, key, value.toString());
+        trace("%@: %@ changed to: %@", className, key, value.toStringList().join(u' '));
         choose(value, key);
     };
+    _languages = std::make_unique<LanguageList>(
+        LanguageList::Parts{*c._languages, *c._languageAdd, *c._languageUp, *c._languageDown, *c._languageRemove},
+        choosing);
     _padding = std::make_unique<SettingSlider>(
         SettingSlider::Parts{*c._overlayPadding, *c._overlayPaddingValue, kQVOverlayDefaultPadding, 1, "%d pt"},
         choosing);
@@ -578,4 +578,6 @@ void QVPreferencesController::settingsNotSaved() {
          localized("OK"),
          {},
          {}});
+    // Without a window manager nobody else gives the keyboard back.
+    _window->activateWindow();
 }

@@ -102,7 +102,7 @@ private:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void awakeFromNib();
-    void setupSliders();
+    void setupOwnRows();
     void setupWholeWindow();
     void connectControls();
     void windowWillClose();

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -47,6 +49,13 @@ protected:
             return staysTrue([&] { return keysHeard() == heard; }, Seconds(0.3));
         });
         return hasKeyboard ? testing::AssertionSuccess() : testing::AssertionFailure() << "it has not the keyboard";
+    }
+    /// What the settings file holds before the player starts.
+    void writeSettings(const std::string& entries) {
+        std::filesystem::create_directories(user.settingsFile().parent_path());
+        std::ofstream(user.settingsFile())
+            << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>" << entries
+            << "</dict></plist>\n";
     }
     bool closes() {
         return waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) == _movie; });
@@ -94,6 +103,91 @@ TEST_F(Preferences, are_changed_without_a_mouse_while_the_movie_plays_on) {
     probe.tap(XK_Escape);
     EXPECT_TRUE(closes());
     ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, act_at_once_on_what_is_drawn_and_played) {
+    const std::string movie = (user.folder() / "film.mp4").string();
+    std::filesystem::copy_file(numbered("red.mp4", red, 900), movie);
+    for (const char* language : {"de", "en"})
+        std::ofstream(user.folder() / ("film." + std::string(language) + ".srt"))
+            << "1\n00:00:00,000 --> 00:01:00,000\n<i>" << language << "</i>\n";
+    writeSettings("<key>QVPreferredLanguages</key><array><string>en</string><string>de</string></array>");
+    start({movie});
+    ASSERT_TRUE(logs("Switching to subtitles stream: \"film.en.srt\""));
+    ASSERT_TRUE(opens());
+    struct Row {
+        KeySym page, control;
+        std::vector<KeySym> then;
+        std::string key, value, acts;
+    };
+    // Changed by the letters of the page and of the control; what the player says that it did.
+    const std::vector<Row> rows{
+        {XK_s, XK_h, {}, "QVDisplaySubtitles", "<false/>", "Turning subtitles OFF"},
+        {XK_s, XK_h, {}, "QVDisplaySubtitles", "<true/>", "Turning subtitles ON"},
+        {XK_s, XK_u, {}, "QVSubtitlesMarkup", "<false/>", "Set Text: <i>en</i>"},
+        {XK_s, XK_d, {}, "QVSubtitlesRepair", "<true/>", "Added 1 subtitles stream(s) from file \"film.de.srt\""},
+        {XK_s, XK_w, {}, "QVPreferredLanguages", "<array>", "Switching to subtitles stream: \"film.de.srt\""},
+        {XK_o, XK_d, {XK_End}, "QVOverlayDefaultPadding", "<real>120</real>", "Overlay Frame After Recalc: x:120"},
+        {XK_o, XK_t, {XK_End}, "QVOverlayTextFontSizeMin", "<integer>72</integer>", "Changed minimum text size to: 72"},
+        {XK_o, XK_r, {}, "QVDisplayFeedback", "", "Overlay Frame After Recalc: x:24"}, // the page as it was
+        {XK_p, XK_t, {}, "QVPlaylistDefaultArrangement", "<integer>2</integer>", "Playlist after sort:"},
+        {XK_m, XK_b, {}, "QVControllerVisible", "<true/>", "Showing movie contoller."},
+    };
+    for (const Row& row : rows) {
+        const std::size_t before = player->errorLines().size();
+        probe.tap(row.page, {XK_Alt_L});
+        probe.tap(row.control, {XK_Alt_L});
+        for (const KeySym key : row.then)
+            probe.tap(key);
+        EXPECT_TRUE(logs(row.acts, before)) << row.key;
+    }
+    // The last value of each; the page that went back holds none.
+    EXPECT_TRUE(stores("QVControllerVisible", "<true/>"));
+    for (const Row& row : rows) {
+        const bool isLast = &row == &rows.back() || row.key != (&row + 1)->key;
+        if (row.page == XK_o) {
+            EXPECT_EQ(user.settingsText().find("<key>" + row.key + "</key>"), std::string::npos) << row.key;
+        } else if (isLast) {
+            EXPECT_TRUE(stores(row.key, row.value)) << row.key;
+        }
+    }
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, show_odd_values_without_touching_them_and_say_once_that_nothing_can_be_stored) {
+    const std::vector<std::pair<std::string, std::string>> odd{
+        {"QVJumpInterval", "<integer>9999</integer>"},     {"QVCursorAutohideDelay", "<integer>60</integer>"},
+        {"QVMainWindowLayer", "<integer>77</integer>"},    {"QVPlaylistDefaultLooping", "<string>?</string>"},
+        {"QVOverlayDefaultPadding", "<real>500.5</real>"}, {"QVSubtitlesEncodingsList", "<integer>3</integer>"},
+        {"QVPreferredLanguages", "<string>de</string>"}};
+    std::string entries;
+    for (const auto& [key, value] : odd)
+        entries += "<key>" + key + "</key>" + value;
+    writeSettings(entries);
+    start({numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    ASSERT_TRUE(opens());
+    for (const KeySym page : std::vector<KeySym>{XK_p, XK_s, XK_o, XK_a, XK_m})
+        probe.tap(page, {XK_Alt_L});
+    EXPECT_TRUE(staysTrue([&] { return !isLogged(" changed to: "); }, Seconds(1.5)));
+    for (const auto& [key, value] : odd)
+        EXPECT_TRUE(stores(key, value));
+
+    // From here on the settings cannot be written: a folder lies in the file's place.
+    std::filesystem::rename(user.settingsFile(), user.folder() / "away");
+    std::filesystem::create_directories(user.settingsFile() / "in the way");
+    const WindowId window = probe.windowAt(screenWidth / 2, screenHeight / 2);
+    probe.tap(XK_b, {XK_Alt_L});
+    EXPECT_TRUE(logs("Showing movie contoller.")) << "it acts all the same";
+    const auto hasAlert = [&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != window; };
+    ASSERT_TRUE(waitUntil(hasAlert));
+    EXPECT_TRUE(tapUntil(XK_Return, [&] { return !hasAlert(); }));
+    EXPECT_TRUE(tapUntil(XK_space, [&] { return isLogged("Hiding movie contoller."); })) << "the keyboard is back";
+    EXPECT_TRUE(staysTrue([&] { return !hasAlert(); }, Seconds(2)));
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
 }
 
 TEST_F(Preferences, go_with_the_player) {

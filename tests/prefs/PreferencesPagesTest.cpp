@@ -4,6 +4,7 @@
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <QApplication>
@@ -38,7 +39,7 @@ protected:
     void show(const QVariantMap& values = {}) {
         for (auto value = values.begin(); value != values.end(); ++value)
             env.defaults().setObject(value.value(), value.key());
-        controller.emplace(env.environment, desktop);
+        controller.emplace(env.environment, desktop, pictures);
         controller->showAbove(nullptr);
     }
     template <class Control>
@@ -56,6 +57,7 @@ protected:
 
     TestEnvironment env;
     FakeDesktop desktop;
+    StandingPicture pictures;
     QStringList keys;
     std::optional<QVPreferencesController> controller;
 
