@@ -26,8 +26,8 @@ constexpr std::int32_t single = 0;
 constexpr std::int32_t multiple = 1;
 constexpr std::int32_t okTag = 1;
 
-/// A panel is as wide as addresses are long.
 constexpr int smallestWidth = 560;
+constexpr int maximumCharacters = 120;
 
 std::int32_t tagOf(const QObject& button) {
     return button.property("tag").toInt();
@@ -105,7 +105,9 @@ std::int32_t QVOpenURLPanel::runModalWithType(std::int32_t type, QWindow* above)
     _panel->winId();
     if (above)
         _panel->windowHandle()->setTransientParent(above);
-    const int half = above ? above->width() / 2 : 0;
+    // As wide as long addresses are, on a large screen too.
+    const int wide = maximumCharacters * _panel->fontMetrics().averageCharWidth();
+    const int half = above ? std::min(above->width() / 2, wide) : 0;
     _panel->resize(std::max(smallestWidth, half), _panel->sizeHint().height());
     // Without a window manager nobody else gives a new window the keyboard.
     QMetaObject::invokeMethod(

@@ -183,6 +183,14 @@ protected:
             std::this_thread::sleep_for(Seconds(0.02));
         }
     }
+    /// The same until the player says what a drop would do, and the source knows that.
+    testing::AssertionResult hovers(int x, int y) {
+        const std::size_t before = player->lineCount();
+        dragTo(x, y);
+        const testing::AssertionResult said = logs("QVFeedbackOverlay: Start Fading IN", before);
+        std::this_thread::sleep_for(Seconds(0.2));
+        return said;
+    }
     std::unique_ptr<ChildProcess> source;
 };
 
@@ -194,10 +202,10 @@ TEST_F(Dropping, what_hovers_is_said_and_taken_as_a_copy_or_a_link_but_never_mov
     for (const auto& [actions, how] :
          {std::pair{"move", "nothing"}, {"copy,move", "copy"}, {"copy,move,link", "link"}}) {
         startSource(actions, {greenMovie()});
-        dragTo(400, 600);
-        if (actions != std::string("move")) {
-            EXPECT_TRUE(logs("Set Text: Replace the Playlist")) << actions;
-        }
+        if (actions == std::string("move"))
+            dragTo(400, 600);
+        else
+            ASSERT_TRUE(hovers(400, 600)) << actions;
         probe.releaseButton();
         EXPECT_TRUE(source->waitForErrorLine(std::string("dropped as ") + how)) << actions << source->errorOutput();
         EXPECT_TRUE(colorBecomes(actions == std::string("move") ? red : green)) << actions;
@@ -208,14 +216,16 @@ TEST_F(Dropping, what_hovers_is_said_and_taken_as_a_copy_or_a_link_but_never_mov
     // With Alt it is added, and what leaves again is not said any more.
     startSource("copy", {"see " + greenMovie() + " and file://" + greenMovie() + ", too"});
     probe.press(XK_Alt_L);
-    dragTo(400, 600);
+    EXPECT_TRUE(logs("Set Text: Replace the Playlist"));
+    ASSERT_TRUE(hovers(400, 600));
     EXPECT_TRUE(logs("Set Text: Add to the Playlist"));
+    std::size_t before = player->lineCount();
     probe.movePointer(950, 540);
-    EXPECT_TRUE(logs("Start Fading OUT"));
-    probe.movePointer(500, 600);
-    probe.movePointer(400, 600);
-    const std::size_t before = player->lineCount();
+    EXPECT_TRUE(logs("Start Fading OUT", before));
+    before = player->lineCount();
+    ASSERT_TRUE(hovers(400, 600));
     probe.releaseButton();
+    EXPECT_TRUE(source->waitForErrorLine("dropped as copy"));
     probe.release(XK_Alt_L);
     ASSERT_TRUE(logs("Adding to playlist movie file: file://" + greenMovie(), before)) << "the address in a text";
     EXPECT_TRUE(colorBecomes(red));
@@ -232,7 +242,7 @@ TEST_F(Dropping, on_a_panel_falls_not_through_to_the_movie) {
     dragTo(screenWidth / 2, screenHeight / 2);
     probe.releaseButton();
     EXPECT_TRUE(source->waitForErrorLine("dropped as nothing"));
-    EXPECT_TRUE(colorBecomes(red));
+    EXPECT_TRUE(probe.waitForColor(20, 20, red));
     player->signal(SIGTERM);
     EXPECT_EQ(player->waitForExit(), 0);
 }
