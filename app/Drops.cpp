@@ -58,12 +58,12 @@ bool Drops::performDragOperation(const DraggingInfo& info) {
             QList<OpeningFailure> failures;
             for (const QString& path : info.fileNames)
                 failures.append({QUrl::fromLocalFile(path), OpeningReport::subtitlesAlone});
-            _with.files.give({{}, failures}, adding);
+            _with.files.takeNone(failures, adding);
         } else if (!info.fileNames.isEmpty()) {
             _with.files.take(info.fileNames, adding);
         }
     } else if (info.offersURL) {
-        _with.files.give({urlsWithURLStrings(info.urlStrings), {}}, adding);
+        _with.files.take(info.urlStrings, adding);
     }
     return true;
 }

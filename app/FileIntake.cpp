@@ -1,16 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/FileIntake.h"
 
+#include "app/OpeningFiles.h"
 #include "control/ModifierFlags.h"
 #include "platform/base/Background.h"
 #include "platform/base/Delivery.h"
 #include "platform/base/Localization.h"
+#include "platform/base/PartDelivery.h"
 #include "platform/base/PathNames.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Events.h"
+#include "playlist/Arrangement.h"
+#include "playlist/files/ListFile.h"
+#include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
 #include <QFileInfo>
+#include <QLocale>
 
 #include <algorithm>
 #include <atomic>
@@ -20,6 +27,9 @@ namespace {
 
 /// So many are looked at at once; more are work for a thread.
 constexpr qsizetype fewFiles = 20;
+/// Seconds.
+constexpr double partDelay = 0.1;
+constexpr double shuffleDelay = 0.3;
 
 } // namespace
 
@@ -27,23 +37,44 @@ Adding addingFor(std::uint32_t modifiers) {
     return modifiers & platform::modifier::option ? Adding::append : Adding::replace;
 }
 
-/// A thread walks the folders; where it hangs it is left behind.
+/// A thread walks folders and reads lists; where it hangs it is left behind.
 struct FileIntake::Search {
-    Adding adding;
-    const std::shared_ptr<std::atomic<bool>> cancelled = std::make_shared<std::atomic<bool>>(false);
-    const std::shared_ptr<platform::Delivery<FoundMovies>> answer = std::make_shared<platform::Delivery<FoundMovies>>();
+    using Delivery = platform::PartDelivery<MovieSource>;
 
-    void giveUp() const {
+    QString text; // of what was handed over
+    std::unique_ptr<MoviesInParts> movies;
+    qsizetype count = 0;
+    const std::shared_ptr<std::atomic<bool>> cancelled = std::make_shared<std::atomic<bool>>(false);
+    const std::shared_ptr<Delivery> found = std::make_shared<Delivery>();
+    /// There when the last of the movies is.
+    const std::shared_ptr<platform::Delivery<QList<OpeningFailure>>> failures =
+        std::make_shared<platform::Delivery<QList<OpeningFailure>>>();
+    std::unique_ptr<platform::Timer> pause;
+
+    /// What was taken stays.
+    void giveUp() {
         *cancelled = true;
-        answer->abandon();
+        found->abandon();
+        failures->abandon();
+        pause.reset();
+        movies.reset();
+    }
+    /// What came since. Whether those were the last.
+    bool takeFound() {
+        Delivery::Part part = found->take();
+        QList<MovieSource> sources(part.values.begin(), part.values.end());
+        count += sources.size();
+        if (!sources.isEmpty())
+            movies->add(sources);
+        return part.isLast;
     }
 };
 
 FileIntake::FileIntake(const Environment& environment, platform::Desktop& desktop, FeedbackDisplay& feedback,
-                       QStringList types, Sink sink)
+                       MovieFinder::Means means, Sink sink)
     : _environment(environment)
     , _desktop(desktop)
-    , _types(std::move(types))
+    , _means(std::make_shared<const MovieFinder::Means>(std::move(means)))
     , _sink(std::move(sink))
     , _searchMessage(environment, feedback) {}
 
@@ -53,48 +84,104 @@ FileIntake::~FileIntake() {
 }
 
 void FileIntake::take(const QStringList& pathsOrUrls, Adding adding) {
+    if (_has_ended)
+        return;
     if (adding == Adding::replace) {
         // What is looked for would take the place of what is handed over now.
         for (const auto& search : std::exchange(_searches, {}))
             search->giveUp();
         _searchMessage.end();
     }
-    const auto isFolder = [](const QString& text) { return !isURLString(text) && QFileInfo(text).isDir(); };
-    if (pathsOrUrls.size() > fewFiles || std::ranges::any_of(pathsOrUrls, isFolder))
+    const auto takesTime = [](const QString& text) {
+        const bool isList = listFile::isListName(isURLString(text) ? QUrl(text).path() : text);
+        return isList || (!isURLString(text) && QFileInfo(text).isDir());
+    };
+    if (pathsOrUrls.size() > fewFiles || std::ranges::any_of(pathsOrUrls, takesTime)) {
         search(pathsOrUrls, adding);
-    else
-        give(findMovies(pathsOrUrls, _types), adding);
+        return;
+    }
+    QList<MovieSource> movies;
+    const std::atomic<bool> cancelled = false;
+    MovieFinder finder(*_means, cancelled, [&movies](MovieSource movie) { movies.append(std::move(movie)); });
+    const QList<OpeningFailure> failures = finder.find(pathsOrUrls);
+    const std::unique_ptr<MoviesInParts> parts = _sink(adding);
+    parts->add(movies);
+    parts->end(failures);
+}
+
+void FileIntake::takeNone(const QList<OpeningFailure>& failures, Adding adding) {
+    if (!_has_ended)
+        _sink(adding)->end(failures);
 }
 
 void FileIntake::search(const QStringList& pathsOrUrls, Adding adding) {
     const auto search = std::make_shared<Search>();
-    search->adding = adding;
-    search->answer->receive([this, weak = std::weak_ptr(search)](const FoundMovies& found) {
-        if (const auto ended = weak.lock())
-            searchEnded(ended, found);
-    });
+    search->text = platform::localizedFormat(QStringLiteral("Looking for Movies: %@"),
+                                             {platform::lastPathComponent(pathsOrUrls.front())});
+    search->movies = _sink(adding);
     _searches.push_back(search);
-    _searchMessage.show(platform::localizedFormat(QStringLiteral("Looking for Movies: %@"),
-                                                  {platform::lastPathComponent(pathsOrUrls.front())}));
-    platform::background::run([answer = search->answer, cancelled = search->cancelled, pathsOrUrls, types = _types] {
-        answer->deliver(findMovies(pathsOrUrls, types, *cancelled));
+    sayHowMany();
+    // Which of a shuffled list comes first is drawn from what there is by then.
+    const bool isShuffled = _environment.settings.integerForKey(kQVPlaylistDefaultArrangement) == Arrangement::shuffled;
+    awaitMore(search, isShuffled ? shuffleDelay : 0);
+    platform::background::run([found = search->found, failures = search->failures, cancelled = search->cancelled,
+                               pathsOrUrls, means = _means] {
+        MovieFinder finder(*means, *cancelled, [&found](MovieSource movie) { found->add(std::move(movie)); });
+        failures->deliver(finder.find(pathsOrUrls));
+        found->end();
     });
 }
 
-void FileIntake::searchEnded(const std::shared_ptr<Search>& search, const FoundMovies& found) {
+/// Not before so many seconds, so that they come in parts.
+void FileIntake::awaitMore(const std::shared_ptr<Search>& search, double delay) {
+    const auto await = [this, weak = std::weak_ptr(search)] {
+        if (const auto waiting = weak.lock())
+            waiting->found->whenReady([this, weak] {
+                if (const auto ready = weak.lock())
+                    takeFound(ready);
+            });
+    };
+    if (delay > 0)
+        search->pause = _environment.loop.schedule(delay, false, await);
+    else
+        await();
+}
+
+void FileIntake::takeFound(const std::shared_ptr<Search>& search) {
+    if (search->takeFound()) {
+        searchEnded(search);
+        return;
+    }
+    sayHowMany();
+    awaitMore(search, partDelay);
+}
+
+void FileIntake::searchEnded(const std::shared_ptr<Search>& search) {
     std::erase(_searches, search);
     if (_searches.empty())
         _searchMessage.end();
-    // One that was ended at once found nothing to speak of.
-    if (!*search->cancelled || !found.urls.isEmpty())
-        give(found, search->adding);
+    search->failures->receive([&search](const QList<OpeningFailure>& failures) { search->movies->end(failures); });
+}
+
+void FileIntake::sayHowMany() {
+    qsizetype count = 0;
+    for (const auto& search : _searches)
+        count += search->count;
+    if (count == 0)
+        _searchMessage.show(_searches.back()->text);
+    else
+        _searchMessage.show(platform::localizedFormat(QStringLiteral("FilesFoundMessage"), {QLocale().toString(count)},
+                                                      static_cast<int>(count)));
 }
 
 bool FileIntake::endSearches() {
-    bool ended = false;
-    for (const auto& search : _searches)
-        ended = !search->cancelled->exchange(true) || ended;
-    return ended;
+    const auto searches = std::exchange(_searches, {});
+    for (const auto& search : searches) {
+        search->takeFound();
+        search->giveUp();
+    }
+    _searchMessage.end();
+    return !searches.empty();
 }
 
 void FileIntake::openFile(const QString& pathOrUrl) {
@@ -132,9 +219,6 @@ void FileIntake::finishLaunching() {
 
 void FileIntake::end() {
     _has_ended = true;
-}
-
-void FileIntake::give(const FoundMovies& movies, Adding adding) {
-    if (!_has_ended)
-        _sink(movies, adding);
+    for (const auto& search : std::exchange(_searches, {}))
+        search->giveUp();
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/OpeningFiles.h"
+#include "app/MovieFinder.h"
 #include "context/Environment.h"
 #include "platform/base/RunLoop.h"
 #include "playback/StandingMessage.h"
@@ -9,7 +9,6 @@
 
 #include <QStringList>
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -28,13 +27,12 @@ Adding addingFor(std::uint32_t modifiers);
 /// thread.
 class FileIntake final {
 public:
-    /// Takes movies that are to be added and played.
-    using Sink = std::function<void(const FoundMovies& movies, Adding adding)>;
+    /// Begins to add movies, which are to be played.
+    using Sink = std::function<std::unique_ptr<MoviesInParts>(Adding adding)>;
 
-    /// `types` are the file types that are taken (supportedFileTypes). The feedback is not used before the first files
-    /// are taken.
-    FileIntake(const Environment& environment, platform::Desktop& desktop, FeedbackDisplay& feedback, QStringList types,
-               Sink sink);
+    /// `means` says which file types are taken. The feedback is not used before the first files are taken.
+    FileIntake(const Environment& environment, platform::Desktop& desktop, FeedbackDisplay& feedback,
+               MovieFinder::Means means, Sink sink);
     FileIntake(const FileIntake&) = delete;
     FileIntake& operator=(const FileIntake&) = delete;
     ~FileIntake();
@@ -50,23 +48,27 @@ public:
     bool isLaunching() const { return _is_launching; }
     /// Takes nothing from here on, also not what a panel that is up is answered: the program ends.
     void end();
-    /// Ends the walks through folders that are under way: what they found is taken. False when there is none.
+    /// Ends the searches that are under way, through folders, lists and networks: what they found stays. False when
+    /// there is none.
     bool endSearches();
 
-    /// Looks for the movies among paths and URLs, folders beside the player, and gives them to the playlist. Whatever
-    /// replaces the list ends the walks that are under way.
+    /// Looks for the movies among paths and URLs, folders, lists and many files beside the player, and gives them to
+    /// the playlist as they are found. Whatever replaces the list ends the searches that are under way.
     void take(const QStringList& pathsOrUrls, Adding adding);
-    /// Gives movies that need not be looked for.
-    void give(const FoundMovies& movies, Adding adding);
+    /// Has it said that nothing of what came is a movie.
+    void takeNone(const QList<OpeningFailure>& failures, Adding adding);
 
 private:
     struct Search;
     void search(const QStringList& pathsOrUrls, Adding adding);
-    void searchEnded(const std::shared_ptr<Search>& search, const FoundMovies& found);
+    void takeFound(const std::shared_ptr<Search>& search);
+    void awaitMore(const std::shared_ptr<Search>& search, double delay);
+    void searchEnded(const std::shared_ptr<Search>& search);
+    void sayHowMany();
 
     Environment _environment;
     platform::Desktop& _desktop;
-    QStringList _types;
+    const std::shared_ptr<const MovieFinder::Means> _means;
     Sink _sink;
     bool _is_adding_files = false;
     bool _is_should_replace = true;

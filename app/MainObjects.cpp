@@ -28,10 +28,9 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                    if (_window.host())
                        _window.host()->setPointerHidden(hidden);
                })
-    , _files(environment, platform.desktop, _feedback, supportedFileTypes(platform.bundle),
-             [this](const FoundMovies& movies, Adding adding) {
-                 _playlist.addURLs(movies.urls, adding, Starting::yes, nullptr, movies.failures);
-             })
+    , _files(environment, platform.desktop, _feedback,
+             {supportedFileTypes(platform.bundle), platform.toolkit.fileFetcher()},
+             [this](Adding adding) { return _playlist.addInParts(adding, Starting::yes); })
     , _openPanels(environment, {platform.desktop, _files, steps}, supportedFileTypes(platform.bundle))
     , _window(environment,
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },

@@ -2,6 +2,7 @@
 #include "app/OpenPanels.h"
 
 #include "app/LaunchSteps.h"
+#include "app/OpeningFiles.h"
 #include "control/ModifierFlags.h"
 #include "platform/base/AddressText.h"
 #include "platform/base/Localization.h"
@@ -105,7 +106,7 @@ void OpenPanels::doOpenURL(std::int32_t type) {
         }
     }
     if (addresses.isEmpty())
-        _with.files.give({{}, others}, added);
+        _with.files.takeNone(others, added);
     else
         _with.files.take(addresses, added);
 }

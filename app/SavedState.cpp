@@ -97,6 +97,8 @@ void SavedState::saveState() {
     if (!_with.playlist.movie())
         return;
     const bool isFinished = _with.playlist.isFinished();
+    // The view still shows the one before.
+    const bool isAwaited = _with.view.movie() != _with.playlist.movie();
     QVPlaylistController::Contents contents = _with.playlist.contentsWithAwaited();
     QVariantList addresses;
     addresses.reserve(contents.addresses.size());
@@ -105,7 +107,7 @@ void SavedState::saveState() {
     QVariantMap state{{key::playlist, addresses},
                       {key::index, static_cast<qlonglong>(isFinished ? 0 : contents.index)},
                       {key::isPlaying, isFinished || _with.view.isPlaying()},
-                      {key::time, static_cast<qlonglong>(isFinished ? 0 : _with.view.time())},
+                      {key::time, static_cast<qlonglong>(isFinished || isAwaited ? 0 : _with.view.time())},
                       {key::looping, static_cast<qlonglong>(_with.playlist.looping())}};
     if (const auto track = _with.subtitles.current(); track && !track->path().isEmpty()) {
         state.insert(key::subtitles, track->path());

@@ -6,7 +6,6 @@
 #include "control/Commands.h"
 #include "platform/base/Localization.h"
 #include "platform/base/UserDefaults.h"
-#include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"
@@ -147,7 +146,7 @@ void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {
     const std::uint32_t first = std::min(current - std::min(current, menuReach), count - shown);
     for (std::uint32_t position = first; position < first + shown; ++position) {
         const std::shared_ptr<QVMovie> movie = _with.playlist.movieAtIndex(position);
-        menu.addItem(shortenedInTheMiddle(fileNameOfURL(movie->url())), QString::fromLatin1(changeMovieOperation),
+        menu.addItem(shortenedInTheMiddle(movie->displayName()), QString::fromLatin1(changeMovieOperation),
                      static_cast<int>(position));
         _menuMovies[static_cast<std::int32_t>(position)] = movie;
     }

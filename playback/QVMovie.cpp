@@ -49,6 +49,50 @@ std::shared_ptr<QVMovie> QVMovie::movieWithOpened(const Environment& environment
     return movie;
 }
 
+std::shared_ptr<QVMovie> QVMovie::unopened(const Environment& environment, const MovieServices& services,
+                                           const QUrl& url) {
+    platform::MovieInfo info;
+    info.url = url;
+    auto movie = std::make_shared<QVMovie>(environment, services, std::move(info));
+    movie->_isOpened = false;
+    return movie;
+}
+
+std::unique_ptr<platform::MovieOpening> QVMovie::open(std::function<void(std::int16_t error)> completion) {
+    return _services.toolkit.openAsync(
+        url(), [weak = weak_from_this(), completion = std::move(completion)](platform::OpenedMovie opened) {
+            const std::shared_ptr<QVMovie> movie = weak.lock();
+            if (!movie)
+                return;
+            movie->takeOpened(std::move(opened.info), opened.error);
+            completion(opened.error);
+        });
+}
+
+void QVMovie::takeOpened(std::optional<platform::MovieInfo> found, std::int16_t error) {
+    if (error != platform::movieError::none)
+        logAlways("ERROR: in [QVMovie initWithURL:byReference:] QT Sticky Error Code %d\n", error);
+    if (!found)
+        return;
+    setInfo(*std::move(found));
+    _isOpened = true;
+    if (_environment.settings.boolForKey(kQVAutoloadSubtitles))
+        fetchSubtitleFiles();
+}
+
+void QVMovie::setSaid(const QString& title, std::int32_t seconds) {
+    _saidTitle = title;
+    _saidSeconds = seconds;
+}
+
+QString QVMovie::displayName() const {
+    return _saidTitle.isEmpty() ? fileNameOfURL(url()) : _saidTitle;
+}
+
+std::int32_t QVMovie::knownSeconds() const {
+    return duration() > 0 ? durationInSeconds() : _saidSeconds;
+}
+
 QVMovie::QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info)
     : Movie(std::move(info), services.toolkit.player())
     , _environment(environment)

@@ -34,9 +34,24 @@ public:
     /// The movie that the toolkit opened; none when it could not.
     static std::shared_ptr<QVMovie> movieWithOpened(const Environment& environment, const MovieServices& services,
                                                     platform::OpenedMovie opened);
+    /// One that is opened only when it is needed: it has its address alone, and no facts. Lists are long.
+    static std::shared_ptr<QVMovie> unopened(const Environment& environment, const MovieServices& services,
+                                             const QUrl& url);
     /// From what the toolkit found; neither logs nor looks for subtitles.
     QVMovie(const Environment& environment, const MovieServices& services, platform::MovieInfo info);
     ~QVMovie() override;
+
+    bool isOpened() const { return _isOpened; }
+    /// Opens one that is not yet, as movieWithURL() does; isOpened() answers whether it could be. The movie may go
+    /// meanwhile.
+    [[nodiscard]] std::unique_ptr<platform::MovieOpening> open(std::function<void(std::int16_t error)> completion);
+
+    /// What whoever named it calls it, and how long they said that it lasts (-1: not at all).
+    void setSaid(const QString& title, std::int32_t seconds);
+    /// What lists and texts call it: that title, else the name of its file.
+    QString displayName() const;
+    /// How long it lasts, in seconds, as far as that is known by now; -1 where it is not.
+    std::int32_t knownSeconds() const;
 
     std::int32_t time() const override { return platform::Movie::time(); }
     std::int32_t timeScale() const override { return platform::Movie::timeScale(); }
@@ -75,6 +90,7 @@ public:
     void cancelCallbacks();
 
 private:
+    void takeOpened(std::optional<platform::MovieInfo> found, std::int16_t error);
     QStringList filesBeside() const;
     void _scheduleStopCallback();
     void _scheduleInterestingTimeCallback();
@@ -91,6 +107,9 @@ private:
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     /// That in which the files were looked for; none where they were not.
     std::optional<ReadingMode> _fetchedIn;
+    bool _isOpened = true;
+    QString _saidTitle;
+    std::int32_t _saidSeconds = -1;
     std::uint32_t _frameCount = 0;
     float _frameRate = 0;
 };

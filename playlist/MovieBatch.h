@@ -3,12 +3,15 @@
 
 #include "context/Environment.h"
 #include "playback/MovieServices.h"
+#include "playlist/MovieSource.h"
 
 #include <QList>
+#include <QStringList>
 #include <QUrl>
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -23,11 +26,14 @@ class QVMovie;
 struct OpeningFailure {
     QUrl url;
     std::int16_t error = 0;
+    /// Where the failure is that of several things within `url`: how many, and the first of them.
+    qsizetype count = 0;
+    QStringList names = {};
 };
 
 /// Movies that are opened together: side by side, and without waiting for those that hang. What is open is told in
-/// parts, the first of them as soon as the first movie stands. Destroying the batch gives up what is under way. Main
-/// thread.
+/// parts, the first of them as soon as the first movie stands. Of many only the first are opened here; the others are
+/// told as they are, to be opened when they are needed. Destroying the batch gives up what is under way. Main thread.
 class MovieBatch {
 public:
     /// An open movie and its place in the order that was given.
@@ -54,27 +60,36 @@ public:
         enum class Wait : bool { aMoment, untilAnswered } wait = Wait::aMoment;
     };
 
-    /// The client outlives the batch, and hears nothing before begin() has returned.
-    MovieBatch(const Environment& environment, const MovieServices& services, QList<QUrl> urls, Doubtful doubtful,
-               Client& client, First first);
+    /// So many are opened at once. More nobody looks at before they play, and probing each takes a disk its time.
+    static constexpr std::size_t maximumOpened = 100;
+
+    /// The client outlives the batch, and hears nothing before the call that adds or closes has returned.
+    MovieBatch(const Environment& environment, const MovieServices& services, Doubtful doubtful, Client& client,
+               First first);
     MovieBatch(const MovieBatch&) = delete;
     MovieBatch& operator=(const MovieBatch&) = delete;
     ~MovieBatch();
-    void begin();
+    /// Their places follow those of the movies before. A batch with a first one of its own takes all at once.
+    void add(const QList<MovieSource>& sources);
+    /// No more are added: the batch ends with those that are there.
+    void close();
 
-    const QList<QUrl>& urls() const { return _urls; }
+    /// How many were added.
+    std::size_t count() const { return _items.size(); }
     /// Those that could not be opened, in the order given.
     QList<OpeningFailure> failures() const;
     /// Those that were kept back.
     const std::vector<Entry>& doubtful() const { return _keptBack; }
     /// The network address that has been waited for longest; an empty one when there is none.
     QUrl awaitedAddress() const;
-    /// Those that are neither open nor given up.
+    /// Those that are not told yet, and not given up.
     std::vector<std::size_t> awaitedPlaces() const;
+    const QUrl& urlAt(std::size_t place) const { return _items[place].source.url; }
 
 private:
     enum class Outcome : std::uint8_t { awaited, open, failed };
     struct Item {
+        MovieSource source;
         Outcome outcome = Outcome::awaited;
         std::int16_t error = 0;
         std::unique_ptr<platform::MovieOpening> opening;
@@ -89,26 +104,35 @@ private:
     void fill(Lane& lane);
     void opened(std::size_t place, Lane& lane, std::shared_ptr<QVMovie> movie, std::int16_t error);
     bool isFirstOpen();
+    bool isDone() const;
+    void takeUnopened();
+    void skipOpened();
     /// Places in the order in which they are opened.
     std::size_t inTurn(std::size_t number) const { return (_first.place + number) % _items.size(); }
+    bool isOpenedHere(std::size_t place) const {
+        return (place + _items.size() - _first.place) % _items.size() < maximumOpened;
+    }
+    void scheduleDelivery();
     void deliver();
     void end();
 
     Environment _environment;
     MovieServices _services;
-    QList<QUrl> _urls;
     Doubtful _doubtful;
     Client& _client;
-    std::vector<Item> _items;
+    std::deque<Item> _items;
     Lane _files;
     Lane _addresses;
     std::size_t _answered = 0;
+    std::size_t _nextUnopened = 0; // none before it is to be told yet
     First _first;
     std::size_t _firstAwaited = 0; // none before it is open; counted from the first one
     std::vector<Entry> _undelivered;
     std::vector<Entry> _keptBack;
     bool _hasDelivered = false;
     bool _waitsForFirst = true;
+    bool _isClosed = false;
+    bool _hasEnded = false;
     std::unique_ptr<platform::Timer> _partTimer;
     std::unique_ptr<platform::Timer> _addressTimer;
 };

@@ -6,6 +6,7 @@
 #include "playback/MovieOrdering.h"
 
 #include <QDir>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -32,32 +33,67 @@ const char* keyOfReason(std::int16_t error) {
         std::int16_t error;
         const char* key;
     } reasons[] = {
-        {fileNotFound, "OpenErrorMissing"},      {fileEmpty, "OpenErrorEmpty"},
-        {notAFile, "OpenErrorNotAFile"},         {permissionDenied, "OpenErrorPermission"},
-        {invalidMovie, "OpenErrorNotAMovie"},    {timedOut, "OpenErrorTimeout"},
-        {noMediaHandler, "OpenErrorLibraries"},  {unknownScheme, "OpenErrorScheme"},
-        {unknownHost, "OpenErrorUnknownHost"},   {hostUnreachable, "OpenErrorUnreachable"},
-        {connectionRefused, "OpenErrorRefused"}, {connectionFailed, "OpenErrorConnection"},
-        {needsRanges, "OpenErrorRanges"},        {serverAsksForLogin, "OpenErrorLogin"},
-        {serverForbids, "OpenErrorForbidden"},   {serverHasNoSuchFile, "OpenErrorNotFound"},
-        {serverRefuses, "OpenErrorRejected"},    {serverFails, "OpenErrorServer"},
-        {noMoviesInFolder, "OpenErrorNoMovies"}, {subtitlesAlone, "OpenErrorSubtitles"},
+        {fileNotFound, "OpenErrorMissing"},
+        {fileEmpty, "OpenErrorEmpty"},
+        {notAFile, "OpenErrorNotAFile"},
+        {permissionDenied, "OpenErrorPermission"},
+        {invalidMovie, "OpenErrorNotAMovie"},
+        {timedOut, "OpenErrorTimeout"},
+        {noMediaHandler, "OpenErrorLibraries"},
+        {unknownScheme, "OpenErrorScheme"},
+        {unknownHost, "OpenErrorUnknownHost"},
+        {hostUnreachable, "OpenErrorUnreachable"},
+        {connectionRefused, "OpenErrorRefused"},
+        {connectionFailed, "OpenErrorConnection"},
+        {needsRanges, "OpenErrorRanges"},
+        {serverAsksForLogin, "OpenErrorLogin"},
+        {serverForbids, "OpenErrorForbidden"},
+        {serverHasNoSuchFile, "OpenErrorNotFound"},
+        {serverRefuses, "OpenErrorRejected"},
+        {serverFails, "OpenErrorServer"},
+        {noMoviesInFolder, "OpenErrorNoMovies"},
+        {subtitlesAlone, "OpenErrorSubtitles"},
         {notAnAddress, "OpenErrorNotAnAddress"},
+        {notAList, "OpenErrorNotAList"},
+        {listEmpty, "OpenErrorListEmpty"},
+        {listTooLarge, "OpenErrorListTooLarge"},
+        {listTooLong, "OpenErrorListTooLong"},
+        {listTooDeep, "OpenErrorListTooDeep"},
+        {listNamesDrives, "OpenErrorListDrives"},
+        {listNamesLocalFiles, "OpenErrorListLocal"},
+        {listNamesNothing, "OpenErrorListNothing"},
+        {unreadableFolders, "OpenErrorFolders"},
     };
     const auto* known = std::ranges::find(reasons, error, [](const auto& entry) { return entry.error; });
     return known == std::end(reasons) ? nullptr : known->key;
 }
 
-/// The first so many, and how many more there are.
-QString listOf(const QStringList& lines) {
-    if (lines.size() <= maximumLines)
-        return lines.join(u'\n');
-    return lines.first(maximumLines - 1).join(u'\n') + u'\n' +
-           localized("AndMoreMessage", {QString::number(lines.size() - maximumLines + 1)});
+/// The first so many, and how many more there are. `line` makes the text of one: of thousands only few are shown.
+template <class Things, class Line>
+QString listOf(const Things& things, Line line) {
+    const bool isCut = things.size() > maximumLines;
+    QStringList lines;
+    for (const auto& thing : things.first(isCut ? maximumLines - 1 : things.size()))
+        lines.append(line(thing));
+    if (isCut)
+        lines.append(localized("AndMoreMessage", {QString::number(things.size() - maximumLines + 1)}));
+    return lines.join(u'\n');
+}
+
+/// The cause of one that may stand for several: how many they are, and which.
+QString reasonOf(const OpeningFailure& failure) {
+    if (failure.count == 0)
+        return reason(failure.error);
+    QString names = failure.names.join(QStringLiteral(", "));
+    if (failure.count > failure.names.size())
+        names += QStringLiteral(", …");
+    return localized(keyOfReason(failure.error), {QLocale().toString(failure.count), names});
 }
 
 QString lineOf(const OpeningFailure& failure) {
-    return localized("UnableToOpenLine", {fileNameOfURL(failure.url), reason(failure.error), place(failure.url)});
+    if (failure.error == unreadableFolders)
+        return reasonOf(failure);
+    return localized("UnableToOpenLine", {fileNameOfURL(failure.url), reasonOf(failure), place(failure.url)});
 }
 
 } // namespace
@@ -79,16 +115,16 @@ QString place(const QUrl& url) {
 }
 
 platform::Desktop::Alert failed(const QList<OpeningFailure>& failures) {
+    if (failures.size() == 1 && failures.front().error == unreadableFolders)
+        return {localized("UnreadableFoldersMessage"), reasonOf(failures.front()), localized("OK"), QString(),
+                QString()};
     if (failures.size() == 1) {
         const OpeningFailure& failure = failures.front();
         return {localized("QTUnableToOpenFileError", {fileNameOfURL(failure.url)}),
-                reason(failure.error) + QStringLiteral("\n\n") + place(failure.url), localized("OK"), QString(),
-                QString()};
+                reasonOf(failure) + QStringLiteral("\n\n") + place(failure.url), localized("OK"), QString(), QString()};
     }
-    QStringList lines;
-    std::ranges::transform(failures, std::back_inserter(lines), lineOf);
-    return {localized("UnableToOpenFilesMessage", {QString::number(failures.size())}), listOf(lines), localized("OK"),
-            QString(), QString()};
+    return {localized("UnableToOpenFilesMessage", {QString::number(failures.size())}), listOf(failures, lineOf),
+            localized("OK"), QString(), QString()};
 }
 
 platform::Desktop::Alert mayNotPlay(const QList<QUrl>& urls) {
@@ -97,10 +133,9 @@ platform::Desktop::Alert mayNotPlay(const QList<QUrl>& urls) {
     if (urls.size() == 1)
         return {localized("QTUnableToPlayFileError", {fileNameOfURL(urls.front())}), details, localized("Continue"),
                 QString(), localized("Cancel")};
-    QStringList lines;
-    std::ranges::transform(urls, std::back_inserter(lines), fileNameOfURL);
     return {localized("UnableToPlayFilesMessage", {QString::number(urls.size())}),
-            listOf(lines) + QStringLiteral("\n\n") + details, localized("Continue"), QString(), localized("Cancel")};
+            listOf(urls, fileNameOfURL) + QStringLiteral("\n\n") + details, localized("Continue"), QString(),
+            localized("Cancel")};
 }
 
 platform::Desktop::Alert nothingToPlay(const QList<OpeningFailure>& failures) {
@@ -110,7 +145,8 @@ platform::Desktop::Alert nothingToPlay(const QList<OpeningFailure>& failures) {
             folders.append(failure.url.toLocalFile());
     }
     const QString details = folders.isEmpty() ? localized("NoPlayableMoviesInListDetails")
-                                              : localized("NoMoviesInFoldersDetails") + u'\n' + listOf(folders);
+                                              : localized("NoMoviesInFoldersDetails") + u'\n' +
+                                                    listOf(folders, [](const QString& folder) { return folder; });
     return {localized("NoPlayableMoviesInListMessage"), details, localized("Open..."), localized("Cancel"), QString()};
 }
 

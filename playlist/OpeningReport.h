@@ -18,6 +18,17 @@ inline constexpr std::int16_t noMoviesInFolder = -6100;
 /// Files of subtitles that came without a movie, and what was entered as an address and is none.
 inline constexpr std::int16_t subtitlesAlone = -6101;
 inline constexpr std::int16_t notAnAddress = -6102;
+/// Of lists of movies: what they are not, and what of them is left out. The last three, and the folders, come with a
+/// count and names.
+inline constexpr std::int16_t notAList = -6111;
+inline constexpr std::int16_t listEmpty = -6112;
+inline constexpr std::int16_t listTooLarge = -6113;
+inline constexpr std::int16_t listTooLong = -6114;
+inline constexpr std::int16_t listTooDeep = -6115;
+inline constexpr std::int16_t listNamesDrives = -6116;
+inline constexpr std::int16_t listNamesLocalFiles = -6117;
+inline constexpr std::int16_t listNamesNothing = -6118;
+inline constexpr std::int16_t unreadableFolders = -6119;
 
 /// The cause in a sentence.
 QString reason(std::int16_t error);

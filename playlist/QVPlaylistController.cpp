@@ -31,16 +31,16 @@ QString localized(const char* key) {
     return platform::localizedString(QString::fromUtf8(key));
 }
 
-QString addressOfEntry(const QUrl& url) {
-    return url.toString();
+QString addressOfEntry(const MovieSource& source) {
+    return source.url.toString();
 }
 
 QString addressOfEntry(const std::shared_ptr<QVMovie>& movie) {
     return movie->description();
 }
 
-const QUrl& urlOfEntry(const QUrl& url) {
-    return url;
+const QUrl& urlOfEntry(const MovieSource& source) {
+    return source.url;
 }
 
 const QUrl& urlOfEntry(const std::shared_ptr<QVMovie>& movie) {
@@ -134,7 +134,7 @@ QString QVPlaylistController::currentInfoAsString() const {
     if (!current)
         return localized("None");
     return platform::formatted(QStringLiteral("%@ (%d/%d)"),
-                               {fileNameOfURL(current->url()), QString::number(_index + 1), QString::number(count())});
+                               {current->displayName(), QString::number(_index + 1), QString::number(count())});
 }
 
 QString QVPlaylistController::loopingInfoAsString() const {
@@ -189,8 +189,8 @@ void QVPlaylistController::rearrange() {
         _index = indexOfMovie(*current);
 }
 
-void QVPlaylistController::arrange(QList<QUrl>& urls) const {
-    arrangeBy(_environment.settings, urls);
+void QVPlaylistController::arrange(QList<MovieSource>& sources) const {
+    arrangeBy(_environment.settings, sources);
 }
 
 void QVPlaylistController::reset() {
@@ -208,12 +208,20 @@ void QVPlaylistController::selectAt(std::uint32_t index, std::int32_t time) {
         return;
     _with.memory.movieWillChange();
     trace("%@: Next movie: %@", className, entry->address());
+    _direction = index + 1 == _index ? Direction::back : Direction::forth;
     _index = index;
-    _environment.notifications.post(QVPlaylistMovieChangedNotification{entry, time});
+    _playsWhenOpened = false;
+    _startTime = time;
+    if (entry->isOpened())
+        showCurrent();
+    else
+        openCurrent();
 }
 
 void QVPlaylistController::play() {
-    if (_index < count())
+    if (_isCurrentAwaited)
+        _playsWhenOpened = true;
+    else if (_index < count())
         _with.view.start();
 }
 
@@ -306,6 +314,9 @@ void QVPlaylistController::onPlaylistEnd() {
 
 void QVPlaylistController::movieDidComplete(const QVMovieCompleteNotification&) {
     trace("%@: Current movie finished.", className);
+    // The next one is on its way already.
+    if (_isCurrentAwaited)
+        return;
     _environment.loop.perform([this, alive = std::weak_ptr<bool>(_alive)] {
         if (!alive.expired())
             onMovieEnd();

@@ -23,6 +23,7 @@
 
 namespace platform {
 class Desktop;
+class MovieOpening;
 } // namespace platform
 
 class CommandTarget;
@@ -49,7 +50,20 @@ struct SavedPlace {
     std::int32_t looping = 0;
 };
 
-/// The ordered list of movies, the position in it, and what happens when a movie and the list end. Main thread.
+/// Movies that are added to the playlist as they are found. Letting go of it before the end gives up looking: what is
+/// there stays, and nothing is said. Main thread.
+class MoviesInParts {
+public:
+    virtual ~MoviesInParts() = default;
+    virtual void add(const QList<MovieSource>& movies) = 0;
+    /// No more come. `failures` are those that whoever found them knows to be no movies. Once.
+    virtual void end(const QList<OpeningFailure>& failures) = 0;
+};
+
+/// The ordered list of movies, the position in it, and what happens when a movie and the list end. Entries far down a
+/// long list are opened when they become the current one, or the one that follows it:
+/// QVPlaylistMovieChangedNotification then comes when that is done, and one that cannot be opened is left out,
+/// reported, and passed over. Main thread.
 class QVPlaylistController final : private MovieBatch::Client {
 public:
     /// All outlive the playlist.
@@ -75,6 +89,10 @@ public:
     /// beside each other, but a list that is replaced gives up those begun before.
     void addURLs(const QList<QUrl>& urls, Adding adding, Starting starting, Added added = nullptr,
                  QList<OpeningFailure> failures = {});
+
+    /// The same for movies that are still being looked for.
+    std::unique_ptr<MoviesInParts> addInParts(Adding adding, Starting starting, Added added = nullptr);
+
     /// The same for a list that was saved, which takes the list's place: the current movie is opened first and found by
     /// its address; where it cannot be opened the next one of the list that can is the current one, else the first. The
     /// order is kept, whatever the arrangement.
@@ -130,7 +148,18 @@ public:
 
 private:
     struct Addition;
-    void begin(std::shared_ptr<Addition> addition, QList<QUrl> urls, MovieBatch::First first);
+    class Parts;
+    Addition& beginAddition(Adding adding, Starting starting, Added added, MovieBatch::First first = {});
+    Addition* additionNumbered(std::uint64_t number) const;
+    void giveUp(const Addition& addition);
+    void arrangeParts(const Addition& addition);
+    void openCurrent();
+    void currentOpened(std::int16_t error);
+    void askForCurrent(const std::shared_ptr<QVMovie>& current);
+    void showCurrent();
+    void skipCurrent();
+    void openAhead();
+    void reportSkipped();
     void batchOpened(MovieBatch& batch, const std::vector<MovieBatch::Entry>& entries) override;
     void batchEnded(MovieBatch& batch) override;
     Addition& additionOf(const MovieBatch& batch) const;
@@ -150,7 +179,7 @@ private:
     void finish(Addition& addition);
     void sayWhatIsAwaited();
     void offerToOpenOthers(const QList<OpeningFailure>& failures, bool failed, bool reportsError);
-    void arrange(QList<QUrl>& urls) const;
+    void arrange(QList<MovieSource>& sources) const;
     Arrangement::Place place() const { return {_index, count(), _looping}; }
     void movieDidComplete(const QVMovieCompleteNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
@@ -171,6 +200,17 @@ private:
     std::deque<std::function<void()>> _reports;
     bool _is_reporting = false;
     std::uint64_t _additionsMade = 0;
+    /// The current movie while it is being opened, and one that may be played next.
+    std::unique_ptr<platform::MovieOpening> _currentOpening;
+    std::unique_ptr<platform::MovieOpening> _aheadOpening;
+    bool _isCurrentAwaited = false;
+    /// Where the current one begins, in its units.
+    std::int32_t _startTime = 0;
+    bool _playsWhenOpened = false;
+    /// Where a movie that cannot be opened leads on to.
+    enum class Direction : bool { back, forth } _direction = Direction::forth;
+    std::weak_ptr<QVMovie> _shown;
+    QList<OpeningFailure> _skipped;
     StandingMessage _loadingMessage;
     /// Ends what was put off to the next pass when the playlist goes away.
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);

@@ -7,7 +7,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
-#include "platform/movie/Movie.h"
+#include "platform/movie/MovieToolkit.h"
 #include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playlist/MovieMemory.h"
@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace {
@@ -38,6 +39,8 @@ struct QVPlaylistController::Addition {
     std::optional<SavedPlace> saved;
     /// Whether the first part took the list's place.
     bool hasReplaced = false;
+    /// Its movies came one after the other.
+    bool hasParts = false;
     /// Its movies by their places in the order given.
     std::map<std::size_t, std::weak_ptr<QVMovie>> movies;
     std::unique_ptr<MovieBatch> batch;
@@ -47,48 +50,114 @@ struct QVPlaylistController::Addition {
 
 QVPlaylistController::~QVPlaylistController() = default;
 
+/// Does nothing once the add was given up, or the playlist has gone.
+class QVPlaylistController::Parts final : public MoviesInParts {
+public:
+    Parts(QVPlaylistController& playlist, std::uint64_t number)
+        : _playlist(playlist)
+        , _alive(playlist._alive)
+        , _number(number) {}
+    ~Parts() override {
+        const Addition* addition = this->addition();
+        if (!addition)
+            return;
+        if (addition->batch->count() > 0)
+            end({});
+        else
+            _playlist.giveUp(*addition);
+    }
+
+    void add(const QList<MovieSource>& movies) override {
+        Addition* addition = this->addition();
+        if (!addition)
+            return;
+        QList<MovieSource> ordered = movies;
+        if (addition->adding == Adding::replace)
+            _playlist.arrange(ordered);
+        addition->hasParts = addition->batch->count() > 0;
+        addition->batch->add(ordered);
+        _playlist.sayWhatIsAwaited();
+    }
+    void end(const QList<OpeningFailure>& failures) override {
+        Addition* addition = this->addition();
+        if (!addition)
+            return;
+        _alive.reset();
+        addition->failures = failures;
+        addition->batch->close();
+    }
+
+private:
+    Addition* addition() const { return _alive.expired() ? nullptr : _playlist.additionNumbered(_number); }
+
+    QVPlaylistController& _playlist;
+    std::weak_ptr<bool> _alive;
+    std::uint64_t _number;
+};
+
+std::unique_ptr<MoviesInParts> QVPlaylistController::addInParts(Adding adding, Starting starting, Added added) {
+    const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
+    return std::make_unique<Parts>(*this, beginAddition(adding, starting, std::move(added)).number);
+}
+
 void QVPlaylistController::addURLs(const QList<QUrl>& urls, Adding adding, Starting starting, Added added,
                                    QList<OpeningFailure> failures) {
     const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
-    // A list that nothing stands in is replaced, too.
-    const Adding kind = _playlist.empty() && _additions.empty() ? Adding::replace : adding;
-    QList<QUrl> ordered = urls;
-    if (kind == Adding::replace)
+    Addition& addition = beginAddition(adding, starting, std::move(added));
+    addition.failures = std::move(failures);
+    QList<MovieSource> ordered = sourcesOf(urls);
+    if (addition.adding == Adding::replace)
         arrange(ordered); // so that what is to play first is opened first
-    auto addition = std::make_shared<Addition>();
-    addition->adding = kind;
-    addition->starting = starting;
-    addition->reportsError = _reports_error;
-    addition->added = std::move(added);
-    addition->failures = std::move(failures);
-    begin(std::move(addition), std::move(ordered), {});
+    addition.batch->add(ordered);
+    addition.batch->close();
+    sayWhatIsAwaited();
 }
 
 void QVPlaylistController::restoreURLs(const QList<QUrl>& urls, const SavedPlace& place, Added added) {
     const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
-    auto addition = std::make_shared<Addition>();
-    addition->adding = Adding::replace;
-    addition->reportsError = _reports_error;
-    addition->added = std::move(added);
-    addition->saved = place;
-    if (addition->saved->index >= static_cast<std::uint64_t>(urls.size()))
-        addition->saved = SavedPlace{0, 0, place.isPlaying, place.looping}; // the time is of none of them
-    begin(std::move(addition), urls, {addition->saved->index, MovieBatch::First::Wait::untilAnswered});
+    SavedPlace saved = place;
+    if (place.index >= static_cast<std::uint64_t>(urls.size()))
+        saved = {0, 0, place.isPlaying, place.looping}; // the time is of none of them
+    Addition& addition = beginAddition(Adding::replace, Starting::no, std::move(added),
+                                       {saved.index, MovieBatch::First::Wait::untilAnswered});
+    addition.saved = saved;
+    addition.batch->add(sourcesOf(urls));
+    addition.batch->close();
+    sayWhatIsAwaited();
 }
 
-void QVPlaylistController::begin(std::shared_ptr<Addition> addition, QList<QUrl> urls, MovieBatch::First first) {
+QVPlaylistController::Addition& QVPlaylistController::beginAddition(Adding adding, Starting starting, Added added,
+                                                                    MovieBatch::First first) {
+    auto addition = std::make_shared<Addition>();
+    // A list that nothing stands in is replaced, too.
+    addition->adding = _playlist.empty() && _additions.empty() ? Adding::replace : adding;
+    addition->starting = starting;
+    addition->reportsError = _reports_error;
+    addition->added = std::move(added);
     addition->number = ++_additionsMade;
     const auto doubtful = _reports_error ? MovieBatch::Doubtful::keptBack : MovieBatch::Doubtful::told;
     MovieBatch::Client& client = *this;
-    addition->batch =
-        std::make_unique<MovieBatch>(_environment, _with.movies, std::move(urls), doubtful, client, first);
+    addition->batch = std::make_unique<MovieBatch>(_environment, _with.movies, doubtful, client, first);
     _additions.push_back(addition);
-    addition->batch->begin();
-    sayWhatIsAwaited();
+    return *addition;
+}
+
+QVPlaylistController::Addition* QVPlaylistController::additionNumbered(std::uint64_t number) const {
+    const auto found = std::ranges::find(_additions, number, [](const auto& addition) { return addition->number; });
+    return found == _additions.end() ? nullptr : found->get();
 }
 
 QVPlaylistController::Addition& QVPlaylistController::additionOf(const MovieBatch& batch) const {
     return **std::ranges::find(_additions, &batch, [](const auto& addition) { return addition->batch.get(); });
+}
+
+/// Nothing of it was added, and nothing is said.
+void QVPlaylistController::giveUp(const Addition& addition) {
+    const auto place = std::ranges::find(_additions, &addition, [](const auto& other) { return other.get(); });
+    const std::shared_ptr<Addition> held = *place;
+    _additions.erase(place);
+    if (held->added)
+        held->added(false);
 }
 
 void QVPlaylistController::batchOpened(MovieBatch& batch, const std::vector<MovieBatch::Entry>& entries) {
@@ -105,7 +174,25 @@ void QVPlaylistController::batchEnded(MovieBatch& batch) {
     sayWhatIsAwaited();
     if (addition->hasAdded() && !addition->hasReplaced)
         rearrange();
+    else if (addition->hasParts && addition->adding == Adding::replace)
+        arrangeParts(*addition);
     report([this, addition] { finish(*addition); });
+}
+
+/// Each part was arranged by itself when it came. What is shuffled anew is what has not been played yet.
+void QVPlaylistController::arrangeParts(const Addition& addition) {
+    if (!addition.hasReplaced)
+        return;
+    const std::int32_t arrangement = _environment.settings.integerForKey(kQVPlaylistDefaultArrangement);
+    if (arrangement == Arrangement::sorted) {
+        rearrange();
+    } else if (arrangement == Arrangement::shuffled && _index + 1 < count()) {
+        std::span rest(_playlist.begin() + _index + 1, _playlist.end());
+        Arrangement::shuffle(rest, Arrangement::drawFromSystem);
+    } else {
+        return;
+    }
+    _environment.notifications.post(QVPlaylistChangedNotification{_playlist});
 }
 
 void QVPlaylistController::takeIn(Addition& addition, const std::vector<MovieBatch::Entry>& entries) {
@@ -133,7 +220,7 @@ void QVPlaylistController::replaceBy(Addition& addition, const std::vector<Movie
         return;
     }
     _finished = false;
-    selectAt(0, _with.memory.placeOf(*_playlist.front()));
+    selectAt(0, _playlist.front()->isOpened() ? _with.memory.placeOf(*_playlist.front()) : 0);
     setLooping(_environment.settings.integerForKey(kQVPlaylistDefaultLooping));
     if (addition.starting == Starting::yes && _auto_play)
         play();
@@ -161,8 +248,7 @@ QVPlaylistController::Contents QVPlaylistController::contentsWithAwaited() const
             if (!position || (between != addition->movies.end() && between->first < place))
                 position = positionFor(*addition, place);
             last = place;
-            awaited.emplace(*position,
-                            addition->batch->urls()[static_cast<qsizetype>(place)].toString(QUrl::FullyEncoded));
+            awaited.emplace(*position, addition->batch->urlAt(place).toString(QUrl::FullyEncoded));
         }
     }
     if (awaited.empty())
@@ -240,15 +326,10 @@ std::uint32_t QVPlaylistController::positionFor(const Addition& addition, std::s
 }
 
 void QVPlaylistController::keepFolders(const std::vector<MovieBatch::Entry>& entries) {
-    QString lastFolder;
-    for (const MovieBatch::Entry& entry : entries) {
-        if (!entry.movie->url().isLocalFile())
-            continue;
-        if (const QString folder = OpeningReport::place(entry.movie->url()); folder != lastFolder) {
-            lastFolder = folder;
-            _environment.settings.setObject(folder, kNSNavLastRootDirectory);
-        }
-    }
+    const auto last = std::find_if(entries.rbegin(), entries.rend(),
+                                   [](const auto& entry) { return entry.movie->url().isLocalFile(); });
+    if (last != entries.rend())
+        _environment.settings.setObject(OpeningReport::place(last->movie->url()), kNSNavLastRootDirectory);
 }
 
 void QVPlaylistController::movieFailed(const QVMovieFailedNotification& notification) {
@@ -278,7 +359,7 @@ void QVPlaylistController::report(std::function<void()> work) {
 
 void QVPlaylistController::finish(Addition& addition) {
     const QList<OpeningFailure> failures = addition.failures + addition.batch->failures();
-    const bool wasAsked = !addition.batch->urls().isEmpty() || !addition.failures.isEmpty();
+    const bool wasAsked = addition.batch->count() > 0 || !addition.failures.isEmpty();
     if (addition.reportsError) {
         const auto isFolder = [](const auto& failure) { return failure.error == OpeningReport::noMoviesInFolder; };
         const bool isSaidBelow = _playlist.empty() && std::ranges::all_of(failures, isFolder);
@@ -309,6 +390,10 @@ void QVPlaylistController::askForDoubtful(Addition& addition) {
 }
 
 void QVPlaylistController::sayWhatIsAwaited() {
+    if (const auto current = movie(); current && _isCurrentAwaited) {
+        _loadingMessage.show(platform::localizedFormat(QStringLiteral("Loading: %@"), {current->displayName()}));
+        return;
+    }
     for (auto addition = _additions.rbegin(); addition != _additions.rend(); ++addition) {
         if (const QUrl url = (*addition)->batch->awaitedAddress(); !url.isEmpty()) {
             const QString name = fileNameOfURL(url);

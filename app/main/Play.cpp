@@ -22,6 +22,7 @@
 #include "platform/desktop/qt/QtDesktop.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
+#include "playlist/files/ListFile.h"
 #include "prefs/QVPreferencesController.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
@@ -70,7 +71,8 @@ std::optional<int> giveToAny(const CommandLine& line) {
 }
 
 QUrl firstMovie(const QStringList& files) {
-    return !files.isEmpty() && !isURLString(files.first()) && QFileInfo(files.first()).isFile()
+    return !files.isEmpty() && !isURLString(files.first()) && !listFile::isListName(files.first()) &&
+                   QFileInfo(files.first()).isFile()
                ? QUrl::fromLocalFile(files.first())
                : QUrl();
 }

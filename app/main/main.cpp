@@ -4,8 +4,10 @@
 #include "app/main/Terminal.h"
 #include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
+#include "platform/base/PathNames.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <clocale>
 #include <csignal>
@@ -27,13 +29,23 @@ void pinNumericLocale() {
     std::setlocale(LC_ALL, "");
 }
 
+/// A file's name that is no text becomes its URL, in which nothing is lost.
+QString wordOf(const char* argument) {
+    const QByteArray bytes(argument);
+    const QString text = QString::fromLocal8Bit(argument);
+    if (bytes.startsWith('-') || text.toLocal8Bit() == bytes)
+        return text;
+    const QByteArray folder = QFile::encodeName(QDir::currentPath()) + '/';
+    return platform::textOfNativePath(bytes.startsWith('/') ? bytes : folder + bytes);
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
     pinNumericLocale();
     QStringList words;
     for (int i = 1; i < count; ++i)
-        words.append(QString::fromLocal8Bit(arguments[i]));
+        words.append(wordOf(arguments[i]));
     const CommandLine line = CommandLine::parse(words, QDir::currentPath());
     if (!line.error.isEmpty()) {
         complain(line.error + QStringLiteral("; try --help"));

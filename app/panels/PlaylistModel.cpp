@@ -2,7 +2,6 @@
 #include "app/panels/PlaylistModel.h"
 
 #include "context/Notifications.h"
-#include "playback/MovieOrdering.h"
 #include "playback/QVMovie.h"
 #include "playlist/OpeningReport.h"
 #include "playlist/QVPlaylistController.h"
@@ -39,7 +38,7 @@ void PlaylistModel::listChanged() {
     _names.reserve(static_cast<qsizetype>(_playlist.count()));
     for (std::uint32_t position = 0; position < _playlist.count(); ++position) {
         _movies.push_back(_playlist.movieAtIndex(position));
-        _names.append(fileNameOfURL(_movies.back()->url()));
+        _names.append(_movies.back()->displayName());
     }
     choose();
     endResetModel();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+#include <QUrl>
 
 namespace platform {
 
@@ -13,5 +15,17 @@ QString pathExtension(const QString& path);
 
 /// The path without its extension and the dot. Any thread.
 QString pathWithoutExtension(const QString& path);
+
+/// The URL of a file by its absolute path, in the file system's own bytes: they need not be UTF-8. One such path has
+/// one URL, and nativePath() finds the bytes again. Any thread.
+QUrl urlOfNativePath(const QByteArray& path);
+
+/// The path of a local file's URL in the bytes of the file system, which QUrl::toLocalFile() answers for names of UTF-8
+/// alone. Any thread.
+QByteArray nativePath(const QUrl& url);
+
+/// A text for a path of the file system as the user's hand-overs are kept: the path, or where that is no UTF-8, its
+/// URL. Any thread.
+QString textOfNativePath(const QByteArray& path);
 
 } // namespace platform

@@ -14,7 +14,11 @@
 namespace platform {
 
 OpenedFile openRegularFile(const QString& path) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    return openRegularFileAt(QFile::encodeName(path));
+}
+
+OpenedFile openRegularFileAt(const QByteArray& nativePath) {
+    const int descriptor = ::open(nativePath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor < 0)
         return {-1, 0, errno};
     struct stat facts {};
@@ -32,9 +36,9 @@ namespace {
 /// Reads at most so many bytes of a file in pieces. `keep` is given each piece where it lies behind what was kept
 /// before, and answers how much of it stays.
 template <class Keep>
-std::optional<QByteArray> readInPieces(const QString& path, qsizetype limit, qsizetype pieceSize, int* error,
+std::optional<QByteArray> readInPieces(const QByteArray& nativePath, qsizetype limit, qsizetype pieceSize, int* error,
                                        Keep keep) {
-    const OpenedFile file = openRegularFile(path);
+    const OpenedFile file = openRegularFileAt(nativePath);
     int code = file.error;
     // Pages that nothing is ever written to take no memory.
     QByteArray bytes(std::min<qsizetype>(limit, file.size), Qt::Uninitialized);
@@ -146,13 +150,17 @@ private:
 } // namespace
 
 std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit, int* error) {
-    return readInPieces(path, limit, limit, error, [](const char*, qsizetype count) { return count; });
+    return readRegularFileAt(QFile::encodeName(path), limit, error);
+}
+
+std::optional<QByteArray> readRegularFileAt(const QByteArray& nativePath, qsizetype limit, int* error) {
+    return readInPieces(nativePath, limit, limit, error, [](const char*, qsizetype count) { return count; });
 }
 
 std::optional<TextFile> readTextFile(const QString& path, qsizetype limit, qsizetype maximumLine) {
     constexpr qsizetype pieceSize = 256 * 1024; // stays in a cache of the processor
     LineCutter cutter(maximumLine);
-    auto bytes = readInPieces(path, limit, pieceSize, nullptr,
+    auto bytes = readInPieces(QFile::encodeName(path), limit, pieceSize, nullptr,
                               [&](char* piece, qsizetype count) { return cutter.keep(piece, count); });
     if (!bytes)
         return std::nullopt;

@@ -22,10 +22,15 @@ struct OpenedFile {
 /// Opens a file for reading. Pipes and devices are refused and never waited for. Any thread.
 OpenedFile openRegularFile(const QString& path);
 
+/// The same by a path in the file system's own bytes.
+OpenedFile openRegularFileAt(const QByteArray& nativePath);
+
 /// The beginning of a file, at most so many bytes, read once in one go. None when it cannot be opened or read, or is no
 /// regular file; `error`, where given, then says why, as OpenedFile::error does. A file that shrinks meanwhile gives
 /// what is left. Any thread.
 std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit, int* error = nullptr);
+
+std::optional<QByteArray> readRegularFileAt(const QByteArray& nativePath, qsizetype limit, int* error = nullptr);
 
 /// A text as far as its lines are of a length that somebody may have written.
 struct TextFile {

@@ -26,6 +26,11 @@ Movie::Movie(MovieInfo info, MoviePlayer& player)
     , _player(player)
     , _needsTimeTable(!_info.saysDuration) {}
 
+void Movie::setInfo(MovieInfo info) {
+    _info = std::move(info);
+    _needsTimeTable = !_info.saysDuration;
+}
+
 Movie::~Movie() {
     _stopped = nullptr;
     _timePasses = nullptr;

@@ -127,6 +127,9 @@ public:
     void cancelTimePasses() { _timePasses = nullptr; }
     void cancelTimeJumps() { _timeJumps = nullptr; }
 
+    /// Takes the facts of a movie that was made of its address alone. It is not loaded in the player.
+    void setInfo(MovieInfo info);
+
     /// Called by the player: the time moved on to `time`, that of the picture shown where there is one.
     void playerShowedFrame(std::int32_t time);
     void playerJumped();

@@ -3,11 +3,12 @@
 
 #include "platform/movie/Movie.h"
 
+#include <QByteArray>
+#include <QImage>
 #include <QUrl>
 
-#include <QImage>
+#include <atomic>
 #include <cstdint>
-
 #include <functional>
 #include <memory>
 #include <optional>
@@ -23,6 +24,19 @@ struct OpenedMovie {
     /// Why not (namespace movieError), or what else there is to say (movieError::cannotPlay).
     std::int16_t error = movieError::none;
 };
+
+/// A small file of a network, as far as it was read.
+struct FetchedFile {
+    QByteArray bytes;
+    /// Where it was in the end: servers send on to others.
+    QUrl url;
+    /// Why there is none (namespace movieError).
+    std::int16_t error = movieError::none;
+};
+
+/// Fetches at most `limit` bytes of a file by HTTP. Blocks, at most 20 seconds and 10 without anything from the server,
+/// or until `cancelled` is set. Any thread but the main one; holds nothing of whoever gave it.
+using FetchFile = std::function<FetchedFile(const QUrl& url, qsizetype limit, const std::atomic<bool>& cancelled)>;
 
 /// A movie being opened. Destroying it gives that up: its completion is not called any more.
 class MovieOpening {
@@ -56,6 +70,8 @@ public:
     [[nodiscard]] virtual std::unique_ptr<MovieOpening> coverAsync(const QUrl& url,
                                                                    std::function<void(QImage)> completion) = 0;
     static constexpr int maximumCoverSide = 1280;
+
+    virtual FetchFile fileFetcher() const = 0;
 
     virtual MoviePlayer& player() = 0;
 };

@@ -103,6 +103,46 @@
         <source>There is no movie in this folder.</source>
         <translation>In diesem Ordner ist kein Film.</translation>
     </message>
+    <message id="OpenErrorNotAList">
+        <source>The file is not a playlist.</source>
+        <translation>Die Datei ist keine Wiedergabeliste.</translation>
+    </message>
+    <message id="OpenErrorListEmpty">
+        <source>The playlist names no movies.</source>
+        <translation>Die Wiedergabeliste nennt keine Filme.</translation>
+    </message>
+    <message id="OpenErrorListTooLarge">
+        <source>The playlist is larger than 32 MB.</source>
+        <translation>Die Wiedergabeliste ist größer als 32 MB.</translation>
+    </message>
+    <message id="OpenErrorListTooLong">
+        <source>The playlist is too long. Only its first 100,000 entries were opened.</source>
+        <translation>Die Wiedergabeliste ist zu lang. Nur die ersten 100.000 Einträge wurden geöffnet.</translation>
+    </message>
+    <message id="OpenErrorListTooDeep">
+        <source>Too many playlists name each other. This one was left out.</source>
+        <translation>Zu viele Wiedergabelisten verweisen aufeinander. Diese wurde ausgelassen.</translation>
+    </message>
+    <message id="OpenErrorListDrives">
+        <source>Entries on drives of Windows were left out (%@): %@.</source>
+        <translation>Einträge auf Windows-Laufwerken wurden ausgelassen (%@): %@.</translation>
+    </message>
+    <message id="OpenErrorListLocal">
+        <source>The playlist comes from a network. Entries that name files of this computer were left out (%@): %@.</source>
+        <translation>Die Wiedergabeliste kommt aus einem Netz. Einträge, die Dateien dieses Computers nennen, wurden ausgelassen (%@): %@.</translation>
+    </message>
+    <message id="OpenErrorListNothing">
+        <source>Entries that name neither a file nor an address were left out (%@): %@.</source>
+        <translation>Einträge, die weder eine Datei noch eine Adresse nennen, wurden ausgelassen (%@): %@.</translation>
+    </message>
+    <message id="OpenErrorFolders">
+        <source>Folders that may not be read (%@): %@.</source>
+        <translation>Ordner, die nicht gelesen werden dürfen (%@): %@.</translation>
+    </message>
+    <message id="UnreadableFoldersMessage">
+        <source>Not everything could be searched.</source>
+        <translation>Nicht alles konnte durchsucht werden.</translation>
+    </message>
     <message id="AndMoreMessage">
         <source>… and %@ more.</source>
         <translation>… und %@ weitere.</translation>
@@ -138,6 +178,13 @@
     <message id="Looking for Movies: %@">
         <source>Looking for movies: %@</source>
         <translation>Sucht Filme: %@</translation>
+    </message>
+    <message id="FilesFoundMessage" numerus="yes">
+        <source>%@ file found…</source>
+        <translation>
+            <numerusform>%@ Datei gefunden …</numerusform>
+            <numerusform>%@ Dateien gefunden …</numerusform>
+        </translation>
     </message>
     <message id="OK">
         <source>OK</source>

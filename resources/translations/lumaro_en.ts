@@ -103,6 +103,46 @@
         <source>There is no movie in this folder.</source>
         <translation>There is no movie in this folder.</translation>
     </message>
+    <message id="OpenErrorNotAList">
+        <source>The file is not a playlist.</source>
+        <translation>The file is not a playlist.</translation>
+    </message>
+    <message id="OpenErrorListEmpty">
+        <source>The playlist names no movies.</source>
+        <translation>The playlist names no movies.</translation>
+    </message>
+    <message id="OpenErrorListTooLarge">
+        <source>The playlist is larger than 32 MB.</source>
+        <translation>The playlist is larger than 32 MB.</translation>
+    </message>
+    <message id="OpenErrorListTooLong">
+        <source>The playlist is too long. Only its first 100,000 entries were opened.</source>
+        <translation>The playlist is too long. Only its first 100,000 entries were opened.</translation>
+    </message>
+    <message id="OpenErrorListTooDeep">
+        <source>Too many playlists name each other. This one was left out.</source>
+        <translation>Too many playlists name each other. This one was left out.</translation>
+    </message>
+    <message id="OpenErrorListDrives">
+        <source>Entries on drives of Windows were left out (%@): %@.</source>
+        <translation>Entries on drives of Windows were left out (%@): %@.</translation>
+    </message>
+    <message id="OpenErrorListLocal">
+        <source>The playlist comes from a network. Entries that name files of this computer were left out (%@): %@.</source>
+        <translation>The playlist comes from a network. Entries that name files of this computer were left out (%@): %@.</translation>
+    </message>
+    <message id="OpenErrorListNothing">
+        <source>Entries that name neither a file nor an address were left out (%@): %@.</source>
+        <translation>Entries that name neither a file nor an address were left out (%@): %@.</translation>
+    </message>
+    <message id="OpenErrorFolders">
+        <source>Folders that may not be read (%@): %@.</source>
+        <translation>Folders that may not be read (%@): %@.</translation>
+    </message>
+    <message id="UnreadableFoldersMessage">
+        <source>Not everything could be searched.</source>
+        <translation>Not everything could be searched.</translation>
+    </message>
     <message id="AndMoreMessage">
         <source>… and %@ more.</source>
         <translation>… and %@ more.</translation>
@@ -138,6 +178,13 @@
     <message id="Looking for Movies: %@">
         <source>Looking for movies: %@</source>
         <translation>Looking for movies: %@</translation>
+    </message>
+    <message id="FilesFoundMessage" numerus="yes">
+        <source>%@ file found…</source>
+        <translation>
+            <numerusform>%@ file found…</numerusform>
+            <numerusform>%@ files found…</numerusform>
+        </translation>
     </message>
     <message id="OK">
         <source>OK</source>

@@ -4,48 +4,16 @@
 #include "context/Notifications.h"
 #include "platform/base/Localization.h"
 #include "playlist/Arrangement.h"
-#include "playlist/MovieMemory.h"
 #include "playlist/OpeningReport.h"
 #include "settings/SettingsKeys.h"
+#include "tests/playlist/PlaylistRig.h"
 #include "tests/support/CapturedLog.h"
-#include "tests/support/PlaybackRig.h"
 
 #include <QDir>
 
 #include <gtest/gtest.h>
 
 using platform::localizedFormat;
-
-namespace {
-
-QUrl url(const QString& name) {
-    return QUrl::fromLocalFile(QStringLiteral("/movies/") + name);
-}
-
-struct PlaylistRig : PlaybackRig {
-    using PlaybackRig::PlaybackRig;
-    bool add(const QStringList& names, Adding adding = Adding::replace, Starting starting = Starting::yes) {
-        QList<QUrl> urls;
-        for (const QString& name : names)
-            urls.append(url(name));
-        bool answer = false;
-        playlist.addURLs(urls, adding, starting, [&](bool added) { answer = added; });
-        settings.runLoop.advance(0.2);
-        return answer;
-    }
-    QString order() const {
-        QStringList names;
-        for (const QString& text : playlist.arrayWithURLsAsStrings())
-            names.append(QUrl(text).fileName().section(u'.', 0, 0));
-        return names.join(u' ');
-    }
-
-    MovieMemory memory;
-    QVPlaylistController playlist{settings.environment,
-                                  {movies, view, desktop, commands, openPanel, confirmations, memory}};
-};
-
-} // namespace
 
 TEST(QVPlaylistController, added_movies_are_announced_and_start_to_play) {
     PlaylistRig rig;
@@ -86,7 +54,10 @@ TEST(QVPlaylistController, files_that_fail_are_reported_together_while_the_rest_
     rig.toolkit.scripts[url("strange.avi")] = {-2010, true};
     const QStringList names{"broken.avi", "doubtful.avi", "strange.avi", "gone.avi", "odd.avi", "good.avi"};
     QStringList meanwhile;
-    rig.desktop.whileAlertIsUp = [&] { meanwhile << rig.order() + (rig.view.isPlaying() ? " plays" : ""); };
+    rig.desktop.whileAlertIsUp = [&] {
+        rig.settings.runLoop.advance(0.5);
+        meanwhile << rig.order() + (rig.view.isPlaying() ? " plays" : "");
+    };
     rig.desktop.alertAnswers = {1, 1};
     const CapturedLog log;
     EXPECT_TRUE(rig.add(names));
@@ -329,15 +300,15 @@ TEST(QVPlaylistController, many_files_come_in_parts_in_their_order) {
     QList<QUrl> urls;
     for (int i = 0; i < 500; ++i)
         urls.append(url(QStringLiteral("%1.avi").arg(i)));
-    const QUrl last = urls.last();
-    rig.toolkit.hanging = {last};
+    const QUrl late = urls[50];
+    rig.toolkit.hanging = {late};
     Posts<QVPlaylistChangedNotification> changes(rig.settings.notifications);
     bool ended = false;
     rig.playlist.addURLs(urls, Adding::replace, Starting::yes, [&](bool) { ended = true; });
     rig.settings.runLoop.advance(1);
     EXPECT_EQ(rig.playlist.count(), 499U);
     EXPECT_FALSE(ended);
-    rig.toolkit.answer(last);
+    rig.toolkit.answer(late);
     rig.settings.runLoop.advance(1);
     EXPECT_TRUE(ended);
     EXPECT_LT(changes.count, 5);

@@ -99,6 +99,15 @@ public:
     QList<QUrl> coversAsked;
     std::unique_ptr<platform::MovieOpening> coverAsync(const QUrl& url,
                                                        std::function<void(QImage)> completion) override;
+    /// What fetching an address gives; others are not found. Read by other threads.
+    QHash<QUrl, platform::FetchedFile> fetched;
+    platform::FetchFile fileFetcher() const override {
+        return [fetched = fetched](const QUrl& url, qsizetype limit, const std::atomic<bool>&) {
+            platform::FetchedFile file = fetched.value(url, {{}, url, platform::movieError::serverHasNoSuchFile});
+            file.bytes.truncate(limit);
+            return file;
+        };
+    }
     platform::MoviePlayer& player() override { return scriptedPlayer; }
 
 private:

@@ -8,6 +8,7 @@ extern "C" {
 #include <libavformat/avformat.h>
 #include <libavutil/display.h>
 #include <libavutil/imgutils.h>
+#include <libavutil/opt.h>
 #include <libswscale/swscale.h>
 }
 #include <mpv/client.h>
@@ -39,6 +40,7 @@ namespace platform {
     X(avio_open2)                                                                                                      \
     X(avio_closep)                                                                                                     \
     X(av_guess_sample_aspect_ratio)                                                                                    \
+    X(avio_read)                                                                                                       \
     X(avio_size)                                                                                                       \
     LUMARO_AV_SIDE_DATA_FUNCTION(X)                                                                                    \
     X(av_read_frame)                                                                                                   \
@@ -56,6 +58,8 @@ namespace platform {
     X(av_frame_alloc)                                                                                                  \
     X(av_frame_free)                                                                                                   \
     X(av_display_rotation_get)                                                                                         \
+    X(av_free)                                                                                                         \
+    X(av_opt_get)                                                                                                      \
     X(av_rescale_q)                                                                                                    \
     X(av_dict_get)                                                                                                     \
     X(av_dict_set)                                                                                                     \

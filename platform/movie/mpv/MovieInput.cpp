@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MovieInput.h"
 
+#include "platform/base/PathNames.h"
 #include "platform/movie/mpv/Libraries.h"
-
-#include <QFile>
 
 namespace platform {
 
@@ -12,7 +11,7 @@ bool isNetworkURL(const QUrl& url) {
 }
 
 QByteArray addressOf(const QUrl& url) {
-    return url.isLocalFile() ? "file:" + QFile::encodeName(url.toLocalFile()) : url.toEncoded();
+    return url.isLocalFile() ? "file:" + nativePath(url) : url.toEncoded();
 }
 
 MovieInput::MovieInput()

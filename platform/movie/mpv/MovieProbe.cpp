@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MovieProbe.h"
 
+#include "platform/base/PathNames.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/NetworkInput.h"
 #include "platform/movie/mpv/VideoStream.h"
-
-#include <QFile>
 
 #include <sys/stat.h>
 
@@ -73,7 +72,7 @@ std::int16_t Deadline::error(const QUrl& url, int code) const {
 /// writer.
 std::int16_t checkFile(const QUrl& url) {
     struct stat status {};
-    if (::stat(QFile::encodeName(url.toLocalFile()).constData(), &status) != 0)
+    if (::stat(nativePath(url).constData(), &status) != 0)
         return fileError(AVERROR(errno));
     if (!S_ISREG(status.st_mode) && !S_ISBLK(status.st_mode))
         return movieError::notAFile;

@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/MpvPlayer.h"
 
 #include "platform/base/Log.h"
+#include "platform/base/PathNames.h"
 #include "platform/movie/Movie.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/LoadOptions.h"
@@ -11,7 +12,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QEvent>
-#include <QFile>
 #include <QFileInfo>
 
 #include <cstdlib>
@@ -283,7 +283,7 @@ void MpvPlayer::framesDue() {
 void MpvPlayer::carryOut(const playerEffect::LoadFile& effect) {
     // The player takes an absolute path as it stands, whatever characters are in it.
     const QUrl& url = _movie->info().source();
-    const QByteArray address = url.isLocalFile() ? QFile::encodeName(url.toLocalFile()) : addressOf(url);
+    const QByteArray address = url.isLocalFile() ? nativePath(url) : addressOf(url);
     const QByteArray options = loadOptions(_movie->info(), effect.start);
     if (options.isEmpty())
         command({"loadfile", address.constData(), "replace"});

@@ -3,6 +3,7 @@
 
 #include "platform/base/Background.h"
 #include "platform/base/Delivery.h"
+#include "platform/movie/mpv/FileFetch.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
@@ -57,6 +58,10 @@ void MpvToolkit::exit() {
     if (_coreMaker.joinable())
         _coreMaker.join();
     _player.dropCore();
+}
+
+FetchFile MpvToolkit::fileFetcher() const {
+    return &fetchFile;
 }
 
 MoviePlayer& MpvToolkit::player() {

@@ -2,6 +2,7 @@
 #include "platform/window/qt/QtEvents.h"
 
 #include "platform/base/AddressText.h"
+#include "platform/base/PathNames.h"
 
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -148,7 +149,7 @@ DraggingInfo draggingInfo(const QDropEvent& event) {
     DraggingInfo info;
     for (const QUrl& url : event.mimeData()->urls()) {
         if (url.isLocalFile())
-            info.fileNames.append(url.toLocalFile());
+            info.fileNames.append(textOfNativePath(nativePath(url)));
         else if (url.isValid() && !url.scheme().isEmpty())
             info.urlStrings.append(url.toString(QUrl::FullyEncoded));
     }

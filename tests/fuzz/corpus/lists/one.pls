@@ -1,0 +1,5 @@
+[playlist]
+File1=a.avi
+Title1=A
+Length1=5
+NumberOfEntries=1
