@@ -4,6 +4,7 @@
 #include "app/LaunchSteps.h"
 #include "app/MainObjects.h"
 #include "overlays/OnScreenDisplay.h"
+#include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/Files.h"
@@ -40,6 +41,12 @@ public:
     void fade() { settings.runLoop.advance(std::max(window.fadingInInterval(), window.fadingOutInterval()) + 0.05); }
     /// Makes an empty file, which the toolkit opens as a movie, and answers its path.
     QString file(const QString& name) { return writeFile(folder.filePath(name)); }
+    /// Until the threads that look for movies have ended, and what they found is in the list.
+    void waitForSearches() {
+        EXPECT_TRUE(settings.runLoop.runPosted());
+        EXPECT_TRUE(platform::background::waitUntilIdle(30));
+        settings.runLoop.advance(1);
+    }
     /// What the playlist holds once everything was opened, as file names.
     QString listed() {
         settings.runLoop.advance(0.02);

@@ -60,7 +60,7 @@ TEST_F(DropsRig, the_screen_says_what_a_drop_would_do_until_it_is_done_or_leaves
 TEST_F(DropsRig, a_folder_and_subtitles_beside_a_movie_are_dropped_with_it) {
     rig.file("films/a.mp4");
     view.performDragOperation(files({rig.folder.filePath("films"), rig.file("b.mp4"), rig.file("b.srt")}));
-    EXPECT_TRUE(rig.settings.runLoop.runPosted());
+    rig.waitForSearches();
     EXPECT_EQ(rig.listed(), "a.mp4 b.mp4");
     EXPECT_TRUE(rig.desktop.alerts.empty());
 }

@@ -28,9 +28,7 @@ TEST(FileIntake, folders_are_walked_beside_the_player_and_escape_ends_that) {
     rig.app.openFile(rig.folder.filePath("films"));
     rig.settings.runLoop.runPending();
     EXPECT_EQ(rig.listed(), "") << "not by the main thread";
-    EXPECT_TRUE(rig.settings.runLoop.runPosted());
-    ASSERT_TRUE(platform::background::waitUntilIdle(30));
-    rig.settings.runLoop.advance(1);
+    rig.waitForSearches();
     EXPECT_EQ(rig.listed().toStdString(), "a.mp4 b.mp4");
 
     // Escape while it is walked: what was found is taken, and the player goes on.
