@@ -5,7 +5,9 @@
 #include "overlays/QVFeedbackOverlay.h"
 #include "overlays/QVOSDOverlay.h"
 #include "platform/base/Bundle.h"
+#include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/desktop/RecentlyUsed.h"
 #include "platform/movie/MovieToolkit.h"
 #include "platform/window/WindowHost.h"
 #include "subtitles/formats/SubtitleFormats.h"
@@ -42,6 +44,10 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
              _subtitleReaders.subtitleUnfilteredFileTypes())
     , _backdrop(environment, {platform.toolkit, _drops})
     , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _drops})
+    , _memory(environment,
+              {platform.movies, platform.recentlyUsed, _view, _feedback, [this] { return _subtitles.current(); },
+               [this](const QString& path, std::uint32_t index) { _heldSubtitles.hold(path, index); }})
+    , _recent(_memory, [this](const QString& address) { _application.openFile(address); })
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
                               _view,
                               platform.desktop,
@@ -57,11 +63,12 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
     , _activation(environment, _window, _view, _pointer)
-    , _application(environment,
-                   {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop, _playlist,
-                    _subtitles, _commands, _display, _menu, _pointer, _files, _openPanels, _activation, _state})
+    , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop,
+                                 _playlist, _subtitles, _commands, _display, _menu, _pointer, _files, _openPanels,
+                                 _activation, _state, _memory, _recent})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
+    _menu.recentMenu().setFiller([this](platform::Menu& menu) { _recent.fill(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);

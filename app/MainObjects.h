@@ -12,6 +12,8 @@
 #include "app/PointerAutohide.h"
 #include "app/QVAppController.h"
 #include "app/QVFullScreenWindow.h"
+#include "app/RecentMovies.h"
+#include "app/RememberedMovies.h"
 #include "app/SavedState.h"
 #include "app/SubtitlesOverMovie.h"
 #include "context/Environment.h"
@@ -22,7 +24,6 @@
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
 #include "playback/SubtitleDiscovery.h"
-#include "playlist/MovieMemory.h"
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
 #include "subtitles/SubtitleRegistry.h"
@@ -37,6 +38,9 @@ public:
         platform::Desktop& desktop;
         platform::MovieToolkit& toolkit;
         const platform::Bundle& bundle;
+        /// Of what is remembered of movies.
+        platform::SettingsStorage& movies;
+        platform::RecentlyUsed& recentlyUsed;
     };
     MainObjects(const Environment& environment, const Platform& platform, LaunchSteps& steps);
     MainObjects(const MainObjects&) = delete;
@@ -72,8 +76,9 @@ private:
     SubtitleDiscovery _subtitleDiscovery;
     Drops _drops;
     BackdropView _backdrop;
-    MovieMemory _memory;
     QVMovieView _view;
+    RememberedMovies _memory;
+    RecentMovies _recent;
     QVPlaylistController _playlist;
     SubtitlesOverMovie _subtitleScene;
     QVSubtitlesController _subtitles;

@@ -8,6 +8,8 @@
 #include "app/OpenPanels.h"
 #include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
+#include "app/RecentMovies.h"
+#include "app/RememberedMovies.h"
 #include "app/SavedState.h"
 #include "app/SystemVersion.h"
 #include "context/CommandTarget.h"
@@ -207,6 +209,18 @@ void QVAppController::doOpenURL(std::int32_t type) {
     _with.panels.doOpenURL(type);
 }
 
+void QVAppController::openRecent(std::int32_t position) {
+    _with.recent.open(position);
+}
+
+void QVAppController::clearRecent() {
+    _with.recent.clear();
+}
+
+bool QVAppController::hasRecent() const {
+    return !_with.recent.isEmpty();
+}
+
 void QVAppController::applicationWillBecomeActive() {
     _with.activation.applicationWillBecomeActive();
 }
@@ -286,6 +300,7 @@ void QVAppController::endIntake() {
 
 /// What this run leaves to the next one, in the settings.
 void QVAppController::keepForNextLaunch() {
+    _with.memory.keep();
     if (_environment.settings.boolForKey(kQVVolumeSave))
         _environment.settings.setFloat(_with.view.volume(), kQVVolumeSavedLevel);
     // What the launch has not put back yet is kept as it is.

@@ -31,6 +31,8 @@ class QVFullScreenWindow;
 class QVMovieView;
 class QVPlaylistController;
 class QVSubtitlesController;
+class RecentMovies;
+class RememberedMovies;
 class SavedState;
 
 /// The application's delegate: launch, changes of the screens, termination. What is handed over, activation and
@@ -56,6 +58,8 @@ public:
         OpenPanels& panels;
         Activation& activation;
         SavedState& state;
+        RememberedMovies& memory;
+        RecentMovies& recent;
     };
     QVAppController(const Environment& environment, const Collaborators& collaborators);
     QVAppController(const QVAppController&) = delete;
@@ -99,6 +103,9 @@ public:
     void doOpen() override;
     void doOpenFolder() override;
     void doOpenURL(std::int32_t type) override;
+    void openRecent(std::int32_t position) override;
+    void clearRecent() override;
+    bool hasRecent() const override;
     void showHelp() override;
     void showPlaylist() override;
     void showPreferences() override;

@@ -17,6 +17,11 @@ public:
     /// The same for folders, and for addresses: one (type 0), or several (1).
     virtual void doOpenFolder() = 0;
     virtual void doOpenURL(std::int32_t type) = 0;
+    /// Opens the movie of a position in the menu of those seen last, which was filled before.
+    virtual void openRecent(std::int32_t position) = 0;
+    /// Empties that menu, and forgets what is remembered of its movies.
+    virtual void clearRecent() = 0;
+    virtual bool hasRecent() const = 0;
     /// Shows the help panel until it is closed.
     virtual void showHelp() = 0;
     /// Shows the panel of the whole playlist until it is closed.

@@ -80,6 +80,8 @@ struct MenuPlace {
     Separator separator = Separator::none;
     /// The command whose key is shown beside the item, where it is another.
     std::string_view keyOf = {};
+    /// Whether a menu of its own opens beside it.
+    enum class Opens : bool { nothing, menu } opens = Opens::nothing;
 };
 
 inline constexpr std::int32_t noAction = -1;
@@ -110,6 +112,9 @@ std::span<const Command> commands();
 /// Of the playlist menu's items, which are made as it opens.
 inline constexpr const char* changeMovieOperation = "changeMovie";
 inline constexpr const char* showPlaylistOperation = "showPlaylist";
+/// Of the items of the movies that were seen last, and of the one below them.
+inline constexpr const char* openRecentOperation = "openRecent";
+inline constexpr const char* clearRecentOperation = "clearRecent";
 /// Of the subtitles menu's last item.
 inline constexpr const char* toggleRepairOperation = "toggleRepair";
 

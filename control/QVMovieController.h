@@ -104,6 +104,9 @@ private:
     void doOpen(std::int32_t, Feedback feedback);
     void doOpenFolder(std::int32_t, Feedback feedback);
     void doOpenURL(std::int32_t type, Feedback feedback);
+    void openRecent(std::int32_t position, Feedback feedback);
+    void clearRecent(std::int32_t, Feedback feedback);
+    bool validateClearRecent(platform::MenuItem& item) const;
     void showHelp(std::int32_t, Feedback feedback);
     void showPlaylist(std::int32_t, Feedback feedback);
     void showPreferences(std::int32_t, Feedback feedback);

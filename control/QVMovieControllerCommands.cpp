@@ -240,6 +240,14 @@ void QVMovieController::doOpenURL(std::int32_t type, Feedback) {
     _with.application.doOpenURL(type);
 }
 
+void QVMovieController::openRecent(std::int32_t position, Feedback) {
+    _with.application.openRecent(position);
+}
+
+void QVMovieController::clearRecent(std::int32_t, Feedback) {
+    _with.application.clearRecent();
+}
+
 void QVMovieController::showHelp(std::int32_t, Feedback) {
     _with.application.showHelp();
 }

@@ -3,7 +3,9 @@
 #include "control/QVMovieController.h"
 
 #include "context/Notifications.h"
+#include "control/ApplicationServices.h"
 #include "control/Commands.h"
+#include "control/MenuTitles.h"
 #include "platform/base/Localization.h"
 #include "platform/base/UserDefaults.h"
 #include "playback/QVMovie.h"
@@ -21,21 +23,6 @@ namespace {
 
 /// So many movies before the current one, and after it, stand in the playlist menu.
 constexpr std::uint32_t menuReach = 10;
-/// A menu that is wider hides the movie. Characters.
-constexpr qsizetype longestTitle = 60;
-
-/// Names differ in their beginnings and ends.
-QString shortenedInTheMiddle(const QString& name) {
-    if (name.size() <= longestTitle)
-        return name;
-    qsizetype head = longestTitle / 2;
-    qsizetype tail = longestTitle - head - 1;
-    // Not through the middle of a character.
-    head -= name[head - 1].isHighSurrogate() ? 1 : 0;
-    tail -= name[name.size() - tail].isLowSurrogate() ? 1 : 0;
-    return name.left(head) + QChar(0x2026) + name.right(tail);
-}
-
 /// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator. The tracks follow, and
 /// the item that repairs them.
 constexpr int fixedSubtitlesItems = 2;
@@ -105,6 +92,10 @@ bool QVMovieController::validateSubtitles(MenuItem& item) const {
     const bool hasTracks = _with.subtitles.count() > 0;
     item.state = hasTracks && static_cast<std::uint32_t>(item.tag) == _with.subtitles.index();
     return hasTracks;
+}
+
+bool QVMovieController::validateClearRecent(MenuItem&) const {
+    return _with.application.hasRecent();
 }
 
 bool QVMovieController::validateRepair(MenuItem& item) const {

@@ -85,6 +85,7 @@ void QVPreferencesController::awakeFromNib() {
               {{c._movieDefaultSize, kQVDefaultMovieSize}, &Self::changeMovieDefaultSize},
               {{c._movieHideOnDeactivate, kQVHideOnDeactivate}, &Self::changeHideOnDeactivate},
               {{c._movieOpenSavedPlaylist, kQVOnLaunchDefaultAction}, &Self::changeOpenSavedPlaylist},
+              {{c._movieRemember, kQVRememberMovies}, &Self::changeMovieRemember},
               {{c._moviePauseOnDeactivate, kQVPauseOnDeactivate}, &Self::changePauseOnDeactivate},
               {{c._movieShowController, kQVControllerVisible}, &Self::changeShowController},
               {{c._openVideoPages, kQVOpenVideoPages}, &Self::changeOpenVideoPages},
@@ -357,6 +358,10 @@ void QVPreferencesController::changeAutofetchSubtitles() {
 
 void QVPreferencesController::changeMovieDefaultSize() {
     plainChange(_controls->_movieDefaultSize);
+}
+
+void QVPreferencesController::changeMovieRemember() {
+    plainChange(_controls->_movieRemember);
 }
 
 void QVPreferencesController::changeHideOnDeactivate() {

@@ -61,6 +61,7 @@ public:
     void changeAutofetchSubtitles();
     void changeMovieDefaultSize();
     void changeHideOnDeactivate();
+    void changeMovieRemember();
     void changeOpenSavedPlaylist();
     void changePauseOnDeactivate();
     void changeShowController();

@@ -56,6 +56,7 @@ inline const QString kQVOSDOverlayStyle = QStringLiteral("QVOSDOverlayStyle");
 inline const QString kQVSubtitlesOverlayStyle = QStringLiteral("QVSubtitlesOverlayStyle");
 inline const QString kQVVobSubOverlayStyle = QStringLiteral("QVVobSubOverlayStyle");
 inline const QString kQVFullscreenOverlayStyle = QStringLiteral("QVFullscreenOverlayStyle");
+inline const QString kQVRememberMovies = QStringLiteral("QVRememberMovies");
 inline const QString kQVSavedState = QStringLiteral("QVSavedState");
 inline const QString kQVOpenVideoPages = QStringLiteral("QVOpenVideoPages");
 inline const QString kQVOpenURLRecentListS = QStringLiteral("QVOpenURLRecentListS");

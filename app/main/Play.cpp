@@ -13,10 +13,12 @@
 #include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
+#include "platform/base/SettingsFile.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/linux/Backlight.h"
 #include "platform/desktop/linux/DisplayServer.h"
 #include "platform/desktop/linux/FileChooserPortal.h"
+#include "platform/desktop/linux/RecentlyUsedFile.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
 #include "platform/desktop/qt/QtDesktop.h"
@@ -167,6 +169,10 @@ int play(int& count, char** arguments, const CommandLine& line) {
 
     toolkit.setOpensPages([&run] { return run.environment().settings.boolForKey(kQVOpenVideoPages); });
 
+    platform::SettingsFile movies(platform::SettingsFile::statePath(QStringLiteral("movies.plist")),
+                                  {QStringLiteral("remembered movies"), rememberedMoviesVersion});
+    movies.readAhead();
+    platform::RecentlyUsedFile recentlyUsed(platform::RecentlyUsedFile::defaultPath());
     platform::SessionBus bus;
     const platform::Backlight backlight(platform::Backlight::systemFolder(),
                                         [&bus](const QString& light, unsigned level) {
@@ -178,7 +184,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
     int status = exitSuccess;
     {
         Steps steps(desktop);
-        MainObjects player(run.environment(), {desktop, toolkit, platform::Bundle::main()}, steps);
+        MainObjects player(run.environment(), {desktop, toolkit, platform::Bundle::main(), movies, recentlyUsed},
+                           steps);
         platform::QtWindowHost host(player.window(), chosenRenderer(line));
         host.setMainMenu(player.menu().bar(), player.controller());
         desktop.setMainWindow(&host);

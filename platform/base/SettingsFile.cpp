@@ -5,6 +5,7 @@
 #include "platform/base/Delivery.h"
 #include "platform/base/Log.h"
 #include "platform/base/PropertyList.h"
+#include "platform/base/PropertyValue.h"
 #include "platform/base/RegularFile.h"
 
 #include <QDateTime>
@@ -29,6 +30,8 @@ namespace {
 
 constexpr qsizetype maximumBytes = 16 * 1024 * 1024;
 constexpr int maximumLinks = 40;
+
+const QString versionKey = QStringLiteral("Version");
 
 void logError(const QString& what, const QString& path, const QString& why) {
     Log::write(QStringLiteral("ERROR: SettingsFile: %1 %2: %3.").arg(what, path, why));
@@ -86,13 +89,23 @@ QString putAside(const QString& path) {
 /// What the file's threads share.
 class SettingsFile::Contents {
 public:
-    explicit Contents(const QString& path)
-        : _path(behindLinks(path)) {}
+    Contents(const QString& path, SettingsFormat format)
+        : _path(behindLinks(path))
+        , _format(std::move(format)) {}
 
     QVariantMap load() {
         const std::scoped_lock lock(_mutex);
-        _known = read().value_or(QVariantMap());
+        if (!std::exchange(_isReadAhead, false))
+            _known = read().value_or(QVariantMap());
+        _isLoaded = true;
         return _known;
+    }
+    void readAhead() {
+        const std::scoped_lock lock(_mutex);
+        if (_isLoaded)
+            return;
+        _known = read().value_or(QVariantMap());
+        _isReadAhead = true;
     }
     /// A number for each wish to store, in their order: of two, the later one is what is to stand in the file.
     std::uint64_t nextTurn() { return ++_turns; }
@@ -103,12 +116,15 @@ private:
     QVariantMap merged(const QVariantMap& domain, QVariantMap stored) const;
 
     const QString _path;
+    const SettingsFormat _format;
     std::atomic<std::uint64_t> _turns = 0;
     std::mutex _mutex; // guards what follows, and the file against this process
     std::uint64_t _lastTurn = 0;
     /// What this process loaded or stored last.
     QVariantMap _known;
     bool _writable = true;
+    bool _isReadAhead = false; // and not loaded since
+    bool _isLoaded = false;
 };
 
 /// None when there is no file, or none any more; not _writable when there is one that must stay as it is.
@@ -127,22 +143,32 @@ std::optional<QVariantMap> SettingsFile::Contents::read() {
         // There may be good settings in it.
         _writable = false;
         if (!isKnown)
-            logError(QStringLiteral("Can't read the settings in"), _path,
+            logError(QStringLiteral("Can't read the %1 in").arg(_format.contents), _path,
                      QString::fromLocal8Bit(std::strerror(error)) +
-                         QStringLiteral(". The settings of this run will not be kept"));
+                         QStringLiteral(". The %1 of this run will not be kept").arg(_format.contents));
         return std::nullopt;
     }
     const auto root = propertyList::parse(*bytes);
-    if (root && root->typeId() == QMetaType::QVariantMap)
-        return root->toMap();
+    if (root && root->typeId() == QMetaType::QVariantMap) {
+        const QVariantMap stored = root->toMap();
+        if (_format.version == 0 || propertyValue::toInteger(stored.value(versionKey)) <= _format.version)
+            return stored;
+        _writable = false;
+        if (!isKnown)
+            logError(QStringLiteral("A later version of Lumaro wrote the %1 in").arg(_format.contents), _path,
+                     QStringLiteral("The %1 of this run will not be kept").arg(_format.contents));
+        return std::nullopt;
+    }
 
     const QString aside = putAside(_path);
     _writable = !aside.isEmpty();
     if (_writable)
-        logError(QStringLiteral("Damaged settings in"), _path, QStringLiteral("They are kept as ") + aside);
+        logError(QStringLiteral("Damaged %1 in").arg(_format.contents), _path,
+                 QStringLiteral("They are kept as ") + aside);
     else if (!isKnown)
-        logError(QStringLiteral("Damaged settings in"), _path,
-                 QStringLiteral("The file can't be renamed. The settings of this run will not be kept"));
+        logError(
+            QStringLiteral("Damaged %1 in").arg(_format.contents), _path,
+            QStringLiteral("The file can't be renamed. The %1 of this run will not be kept").arg(_format.contents));
     return std::nullopt;
 }
 
@@ -172,7 +198,10 @@ bool SettingsFile::Contents::store(const QVariantMap& domain, std::uint64_t turn
     if (!_writable)
         return false;
     QSaveFile file(_path);
-    const QByteArray bytes = propertyList::toXml(stored ? merged(domain, *stored) : domain);
+    QVariantMap whole = stored ? merged(domain, *stored) : domain;
+    if (_format.version > 0)
+        whole.insert(versionKey, _format.version);
+    const QByteArray bytes = propertyList::toXml(whole);
     // A file that stood there lends its permissions; a new one is for its owner alone.
     const bool isStored = file.open(QIODevice::WriteOnly) &&
                           (place.exists() || file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)) &&
@@ -181,13 +210,13 @@ bool SettingsFile::Contents::store(const QVariantMap& domain, std::uint64_t turn
         _known = domain;
         lock.syncFolder();
     } else {
-        logError(QStringLiteral("Can't write the settings to"), _path, file.errorString());
+        logError(QStringLiteral("Can't write the %1 to").arg(_format.contents), _path, file.errorString());
     }
     return isStored;
 }
 
-SettingsFile::SettingsFile(const QString& path)
-    : _contents(std::make_shared<Contents>(path)) {}
+SettingsFile::SettingsFile(const QString& path, const SettingsFormat& format)
+    : _contents(std::make_shared<Contents>(path, format)) {}
 
 SettingsFile::~SettingsFile() {
     for (const auto& answer : _underWay)
@@ -199,6 +228,17 @@ QString SettingsFile::defaultPath() {
     if (!QDir::isAbsolutePath(folder))
         folder = QDir::homePath() + QStringLiteral("/.config");
     return QDir::cleanPath(folder + QStringLiteral("/lumaro/org.lumaro.Lumaro.plist"));
+}
+
+QString SettingsFile::statePath(const QString& name) {
+    QString folder = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(folder))
+        folder = QDir::homePath() + QStringLiteral("/.local/state");
+    return QDir::cleanPath(folder + QStringLiteral("/lumaro/") + name);
+}
+
+void SettingsFile::readAhead() {
+    background::run([contents = _contents] { contents->readAhead(); });
 }
 
 QVariantMap SettingsFile::load() {

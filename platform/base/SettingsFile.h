@@ -3,6 +3,7 @@
 
 #include "platform/base/UserDefaults.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -11,6 +12,13 @@ namespace platform {
 
 template <class Value>
 class Delivery;
+
+/// What a file of settings holds, as messages call it, and which version of it is understood: kept under "Version"
+/// where it is not 0. One of a later version is left alone.
+struct SettingsFormat {
+    QString contents = QStringLiteral("settings");
+    std::int32_t version = 0;
+};
 
 /// Settings in one XML property list. It is written whole to a temporary file beside it, synced, and renamed over it,
 /// so that a crash at any moment leaves the old or the new settings, never a mixture. Symbolic links and the
@@ -22,11 +30,15 @@ class Delivery;
 /// the longest.
 class SettingsFile final : public SettingsStorage {
 public:
-    explicit SettingsFile(const QString& path);
+    explicit SettingsFile(const QString& path, const SettingsFormat& format = {});
     ~SettingsFile() override;
 
     /// `$XDG_CONFIG_HOME/lumaro/org.lumaro.Lumaro.plist`, with ~/.config where the variable is unset or relative.
     static QString defaultPath();
+    /// A file of what a program keeps and no user chooses: `$XDG_STATE_HOME/lumaro/NAME`, with ~/.local/state.
+    static QString statePath(const QString& name);
+    /// Begins to read it on a thread; load() has less to wait for then. Once, before load().
+    void readAhead();
 
     QVariantMap load() override;
     /// Where the file is gone, or damaged by now, the whole domain is stored.

@@ -175,6 +175,12 @@
         <source>Loading: %@</source>
         <translation>Lädt: %@</translation>
     </message>
+    <message id="ResumedAt">
+        <source>Resumed at %@
+%@: From the Beginning</source>
+        <translation>Fortgesetzt bei %@
+%@: Von Anfang an</translation>
+    </message>
     <message id="Looking for Movies: %@">
         <source>Looking for movies: %@</source>
         <translation>Sucht Filme: %@</translation>
@@ -201,6 +207,14 @@
     <message id="Open...">
         <source>Open...</source>
         <translation>Öffnen …</translation>
+    </message>
+    <message id="Open Recent">
+        <source>Open Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message id="ClearRecent">
+        <source>Clear Menu and Forget Places</source>
+        <translation>Menü leeren und Positionen vergessen</translation>
     </message>
     <message id="Open">
         <source>Open</source>
@@ -1515,6 +1529,14 @@
     <message id="The window is minimized, and comes back with Lumaro">
         <source>The window is minimized, and comes back with Lumaro</source>
         <translation>Das Fenster wird minimiert und kommt mit Lumaro zurück</translation>
+    </message>
+    <message id="Go on where a mo&amp;vie was left">
+        <source>Go on where a mo&amp;vie was left</source>
+        <translation>Filme f&amp;ortsetzen, wo sie verlassen wurden</translation>
+    </message>
+    <message id="The places and subtitles of the last thousand movies are remembered, and the menu Open Recent lists them">
+        <source>The places and subtitles of the last thousand movies are remembered, and the menu Open Recent lists them</source>
+        <translation>Positionen und Untertitel der letzten tausend Filme werden gemerkt, und das Menü „Zuletzt geöffnet“ führt sie auf</translation>
     </message>
     <message id="&amp;Playlist">
         <source>&amp;Playlist</source>

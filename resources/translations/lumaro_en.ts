@@ -175,6 +175,12 @@
         <source>Loading: %@</source>
         <translation>Loading: %@</translation>
     </message>
+    <message id="ResumedAt">
+        <source>Resumed at %@
+%@: From the Beginning</source>
+        <translation>Resumed at %@
+%@: From the Beginning</translation>
+    </message>
     <message id="Looking for Movies: %@">
         <source>Looking for movies: %@</source>
         <translation>Looking for movies: %@</translation>
@@ -201,6 +207,14 @@
     <message id="Open...">
         <source>Open...</source>
         <translation>Open...</translation>
+    </message>
+    <message id="Open Recent">
+        <source>Open Recent</source>
+        <translation>Open Recent</translation>
+    </message>
+    <message id="ClearRecent">
+        <source>Clear Menu and Forget Places</source>
+        <translation>Clear Menu and Forget Places</translation>
     </message>
     <message id="Open">
         <source>Open</source>
@@ -1515,6 +1529,14 @@
     <message id="The window is minimized, and comes back with Lumaro">
         <source>The window is minimized, and comes back with Lumaro</source>
         <translation>The window is minimized, and comes back with Lumaro</translation>
+    </message>
+    <message id="Go on where a mo&amp;vie was left">
+        <source>Go on where a mo&amp;vie was left</source>
+        <translation>Go on where a mo&amp;vie was left</translation>
+    </message>
+    <message id="The places and subtitles of the last thousand movies are remembered, and the menu Open Recent lists them">
+        <source>The places and subtitles of the last thousand movies are remembered, and the menu Open Recent lists them</source>
+        <translation>The places and subtitles of the last thousand movies are remembered, and the menu Open Recent lists them</translation>
     </message>
     <message id="&amp;Playlist">
         <source>&amp;Playlist</source>

@@ -6,6 +6,7 @@
 #include "overlays/OnScreenDisplay.h"
 #include "platform/base/Background.h"
 #include "platform/base/Bundle.h"
+#include "platform/desktop/RecentlyUsed.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/Files.h"
 #include "tests/support/Posts.h"
@@ -94,8 +95,18 @@ public:
     QTemporaryDir folder;
     RecordingHost host;
     RecordingSteps steps;
+    /// What earlier runs remembered of movies.
+    std::shared_ptr<MemorySettings::Disk> moviesDisk = std::make_shared<MemorySettings::Disk>();
+    MemorySettings movies{moviesDisk};
+    class FakeRecentlyUsed final : public platform::RecentlyUsed {
+    public:
+        QStringList names;
+        void add(const QUrl& file) override { names << file.fileName(); }
+        void removeAll() override { names << "none"; }
+    } recentlyUsed;
     std::unique_ptr<MainObjects> objects = std::make_unique<MainObjects>(
-        settings.environment, MainObjects::Platform{desktop, toolkit, platform::Bundle::main()}, steps);
+        settings.environment, MainObjects::Platform{desktop, toolkit, platform::Bundle::main(), movies, recentlyUsed},
+        steps);
     QVFullScreenWindow& window = objects->window();
     QVMovieView& view = objects->view();
     QVAppController& app = objects->application();

@@ -141,6 +141,7 @@ TEST(Architecture, libraries_stay_in_their_place) {
                                                                     {"unicode/", "platform/base"},
                                                                     {"libevdev", "platform/desktop/linux"},
                                                                     {"libudev", "platform/desktop/linux"},
+                                                                    {"glib", "platform/desktop/linux"},
                                                                     {"linux/", "platform/desktop/linux"},
                                                                     {"X11/", "platform"},
                                                                     {"xcb/", "platform"}};

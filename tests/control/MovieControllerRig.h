@@ -37,6 +37,9 @@ protected:
         void doOpen() override { calls << "open"; }
         void doOpenFolder() override { calls << "open folder"; }
         void doOpenURL(std::int32_t type) override { calls << QString("open URL %1").arg(type); }
+        void openRecent(std::int32_t position) override { calls << QString("recent %1").arg(position); }
+        void clearRecent() override { calls << "clear"; }
+        bool hasRecent() const override { return calls.isEmpty(); }
         void showHelp() override { calls << "help"; }
         void showPlaylist() override { calls << "playlist"; }
         void showPreferences() override { calls << "preferences"; }

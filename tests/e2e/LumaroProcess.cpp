@@ -18,6 +18,8 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
                                   "LC_ALL"};
     options.environment = {{"HOME", user.folder().string()},
                            {"XDG_CONFIG_HOME", (user.folder() / "config").string()},
+                           {"XDG_STATE_HOME", (user.folder() / "state").string()},
+                           {"XDG_DATA_HOME", (user.folder() / "data").string()},
                            {"XDG_RUNTIME_DIR", user.runtimeFolder().string()},
                            {"LUMARO_RESOURCES", LUMARO_BINARY_DIR "/resources"},
                            {"LC_ALL", "C.UTF-8"}};

@@ -82,6 +82,31 @@ TEST_F(Recall, the_last_list_comes_back_at_its_picture_and_shows_no_other) {
     ASSERT_TRUE(quitsCleanly());
 }
 
+TEST_F(Recall, a_movie_that_is_opened_again_goes_on_and_shows_no_other_picture) {
+    const std::string movie = numbered("long.mp4", blue, 240 * 30);
+    start({movie});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 5; }, "playing"));
+    for (int jumps = 0; jumps < 8; ++jumps)
+        probe.tap(XK_Right, {XK_Control_L});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 75 * 30; }, "far from its beginning"));
+    probe.tap(XK_space);
+    const std::optional<int> left = settledFrame();
+    ASSERT_TRUE(left);
+    ASSERT_TRUE(quitsCleanly());
+
+    start({"--set", "QVPlaylistAutoPlay=0", "--set", "QVDisplayFeedback=0", movie});
+    EXPECT_EQ(shownUntilItStands(), std::set<int>{*left});
+    probe.tap(XK_Left, {XK_Alt_L});
+    EXPECT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(quitsCleanly());
+    const std::filesystem::path file = user.folder() / "state/lumaro/movies.plist";
+    EXPECT_EQ(std::filesystem::status(file).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    start({"--set", "QVPlaylistAutoPlay=0", movie});
+    EXPECT_TRUE(frameBecomes(0)) << "it was begun again";
+    ASSERT_TRUE(quitsCleanly());
+}
+
 // LUMARO_KILLS=100 for a thorough run.
 TEST_F(Recall, killed_at_any_moment_it_comes_back_near_the_place) {
     const char* asked = std::getenv("LUMARO_KILLS");

@@ -166,6 +166,7 @@ const Plain plainControls[] = {
     {"_movieDefaultSize", kQVDefaultMovieSize, false, {0, 1, 2, 3, 4, 6, 5}},
     {"_movieHideOnDeactivate", kQVHideOnDeactivate, true, {0, 1}},
     {"_movieOpenSavedPlaylist", kQVOnLaunchDefaultAction, false, {1, 2, 0}},
+    {"_movieRemember", kQVRememberMovies, true, {1, 0}},
     {"_moviePauseOnDeactivate", kQVPauseOnDeactivate, true, {0, 1}},
     {"_movieShowController", kQVControllerVisible, true, {0, 1}},
     {"_openVideoPages", kQVOpenVideoPages, true, {0, 1}},

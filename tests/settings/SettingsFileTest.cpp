@@ -241,6 +241,24 @@ TEST_F(SettingsFileTest, a_disk_that_is_full_leaves_the_old_settings_and_nothing
     EXPECT_EQ(names(), QStringList{"settings.plist"});
 }
 
+TEST_F(SettingsFileTest, one_of_a_later_version_is_left_alone) {
+    const platform::SettingsFormat format{"places", 2};
+    ASSERT_TRUE(SettingsFile(path, {"places", 1}).store({{"a", 1}}));
+    SettingsFile earlier(path, format);
+    earlier.readAhead();
+    EXPECT_EQ(earlier.load(), (QVariantMap{{"a", 1}, {"Version", 1}}));
+    EXPECT_TRUE(earlier.store({{"a", 2}}));
+    EXPECT_EQ(SettingsFile(path).load(), (QVariantMap{{"a", 2}, {"Version", 2}}));
+    ASSERT_TRUE(SettingsFile(path, {"places", 3}).store({{"a", 3}}));
+    const QByteArray later = contents(path);
+    SettingsFile file(path, format);
+    EXPECT_TRUE(file.load().isEmpty());
+    EXPECT_FALSE(file.store({{"a", 4}}));
+    EXPECT_FALSE(file.store({{"a", 5}}));
+    EXPECT_EQ(contents(path), later);
+    EXPECT_EQ(log.count("ERROR: SettingsFile: A later version of Lumaro wrote the places in "), 1);
+}
+
 TEST_F(SettingsFileTest, a_new_file_is_for_its_owner_alone) {
     const mode_t before = ::umask(0);
     const QString fresh = folder.filePath("new/folders/settings.plist");

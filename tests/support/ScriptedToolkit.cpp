@@ -112,10 +112,12 @@ platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
 }
 
 platform::OpenedMovie ScriptedToolkit::answerOf(const QUrl& url) const {
+    platform::MovieInfo movie = plainMovie(url);
+    movie.duration = duration;
     const auto script = scripts.constFind(url);
     if (script == scripts.cend())
-        return {plainMovie(url), platform::movieError::none};
-    return {script->opens ? std::optional(plainMovie(url)) : std::nullopt, script->error};
+        return {movie, platform::movieError::none};
+    return {script->opens ? std::optional(movie) : std::nullopt, script->error};
 }
 
 std::unique_ptr<platform::MovieOpening>

@@ -71,6 +71,8 @@ public:
     /// One minute at 25 pictures a second, 640 by 480, 600 units a second.
     static platform::MovieInfo plainMovie(const QUrl& url);
 
+    /// Of the movies that are opened from here on.
+    std::int32_t duration = 60 * 600;
     /// URLs that leave an error behind when they are opened, and whether they open nevertheless.
     struct Script {
         std::int16_t error;
