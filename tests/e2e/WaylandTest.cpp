@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/e2e/PlayerFixture.h"
 
+#include <csignal>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
 
 using namespace harness;
@@ -152,6 +154,34 @@ TEST_F(TwoWaylandOutputs, the_movie_fills_the_one_chosen_and_moves_to_the_other)
     EXPECT_TRUE(frameBecomes(0));
     EXPECT_TRUE(colorBecomes(red));
     ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Wayland, what_is_dragged_in_replaces_the_movie) {
+    startStanding({numbered("red.mp4", red, 300)});
+    ChildProcess::Options options;
+    options.arguments = {LUMARO_DRAG_SOURCE, "copy,move", "0", "0", numbered("green.mp4", green, 1200)};
+    options.environment = {{"XDG_RUNTIME_DIR", user.runtimeFolder().string()},
+                           {"WAYLAND_DISPLAY", "wayland-test"},
+                           {"QT_QPA_PLATFORM", "wayland"}};
+    ChildProcess source(options);
+    // Where the compositor put it.
+    Region at;
+    ASSERT_TRUE(waitUntil([&] { return (at = probe.extentOf({250, 0, 250}, 10)).width >= 100; }));
+    const int x = at.x + at.width / 2, y = at.y + at.height / 2;
+    probe.movePointer(x, y);
+    probe.pressButton();
+    for (int step = 1; step <= 10; ++step) {
+        probe.movePointer(x + (200 - x) * step / 10, y + ((y < 360 ? 650 : 100) - y) * step / 10);
+        std::this_thread::sleep_for(Seconds(0.02));
+    }
+    EXPECT_TRUE(logs("Set Text: Replace the Playlist"));
+    std::this_thread::sleep_for(Seconds(0.2)); // its source hears of it, too
+    probe.releaseButton();
+    EXPECT_TRUE(source.waitForErrorLine("dropped as copy")) << source.errorOutput();
+    EXPECT_TRUE(logs("green.mp4"));
+    EXPECT_TRUE(probe.waitForPixel(20, 100, [](const Color& seen) { return seen.isNear(green); }));
+    player->signal(SIGTERM);
+    EXPECT_EQ(player->waitForExit(), 0);
 }
 
 TEST_F(Wayland, what_quitting_keeps_is_kept_when_the_compositor_dies) {
