@@ -183,11 +183,11 @@ protected:
             std::this_thread::sleep_for(Seconds(0.02));
         }
     }
-    /// The same until the player says what a drop would do, and the source knows that.
+    /// The same until what a drop would do stands on the screen, and the source knows it.
     testing::AssertionResult hovers(int x, int y) {
         const std::size_t before = player->lineCount();
         dragTo(x, y);
-        const testing::AssertionResult said = logs("QVFeedbackOverlay: Start Fading IN", before);
+        const testing::AssertionResult said = logs("QVFeedbackOverlay: Start Fading DELAY", before);
         std::this_thread::sleep_for(Seconds(0.2));
         return said;
     }
