@@ -12,13 +12,16 @@
 #include "platform/window/WindowHost.h"
 #include "subtitles/formats/SubtitleFormats.h"
 
-MainObjects::Publication::Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display) {
+MainObjects::Publication::Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display,
+                                      AppleRemote& remote) {
     gAppController = &application;
     QVFeedbackOverlay::setShared([&feedback]() -> QVFeedbackOverlay& { return feedback.overlay(); });
     QVOSDOverlay::setShared([&display]() -> QVOSDOverlay& { return display.overlay(); });
+    AppleRemote::setShared(&remote);
 }
 
 MainObjects::Publication::~Publication() {
+    AppleRemote::setShared(nullptr);
     QVOSDOverlay::setShared(nullptr);
     QVFeedbackOverlay::setShared(nullptr);
     gAppController = nullptr;
@@ -67,7 +70,10 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                                  _playlist, _subtitles, _commands, _display, _menu, _pointer, _files, _openPanels,
                                  _activation, _state, _memory, _recent})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
-                                _application, _menu.playlistMenu(), _menu.subtitlesMenu()}) {
+                                _application, _menu.playlistMenu(), _menu.subtitlesMenu()})
+    , _remote(platform.desktop.remotes())
+    , _remoteControl(environment, _remote, _controller)
+    , _computerSleep(environment, {platform.desktop.power(), _view, _controller, _feedback}) {
     _menu.recentMenu().setFiller([this](platform::Menu& menu) { _recent.fill(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);

@@ -17,7 +17,10 @@
 #include "app/SavedState.h"
 #include "app/SubtitlesOverMovie.h"
 #include "context/Environment.h"
+#include "control/AppleRemote.h"
+#include "control/ComputerSleep.h"
 #include "control/QVMovieController.h"
+#include "control/RemoteControl.h"
 #include "overlays/OverlaysOnDemand.h"
 #include "overlays/StylePreview.h"
 #include "playback/BackdropView.h"
@@ -60,7 +63,8 @@ private:
     /// What the process-wide accessors answer while it lives.
     class Publication {
     public:
-        Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display);
+        Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display,
+                    AppleRemote& remote);
         Publication(const Publication&) = delete;
         Publication& operator=(const Publication&) = delete;
         ~Publication();
@@ -91,5 +95,8 @@ private:
     Activation _activation;
     QVAppController _application;
     QVMovieController _controller;
-    Publication _publication{_application, _feedback, _display};
+    AppleRemote _remote;
+    RemoteControl _remoteControl;
+    ComputerSleep _computerSleep;
+    Publication _publication{_application, _feedback, _display, _remote};
 };

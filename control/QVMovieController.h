@@ -3,6 +3,7 @@
 
 #include "context/CommandTarget.h"
 #include "context/Environment.h"
+#include "control/AppleRemote.h"
 #include "control/KeyboardMap.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
@@ -33,7 +34,10 @@ struct QVPlaylistMovieChangedNotification;
 
 /// The one place where commands become effects: action codes, keys, menu items. It is the main window's delegate. What
 /// the commands are says their table (control/CommandTable.cpp). Main thread.
-class QVMovieController final : public CommandTarget, public platform::MenuTarget, public platform::WindowDelegate {
+class QVMovieController final : public CommandTarget,
+                                public platform::MenuTarget,
+                                public platform::WindowDelegate,
+                                public AppleRemoteDelegate {
 public:
     /// All outlive the controller.
     struct Collaborators {
@@ -61,6 +65,9 @@ public:
     void processMouseGesture(MouseGesture gesture) override;
     bool forceMuted() const override { return _forceMuted; }
     void setForceMuted(bool muted) override;
+
+    void appleRemoteButton(std::int32_t button, bool pressedDown) override;
+    void remoteKeyPressed(platform::RemoteKey key) override;
 
     /// Performs the action at once and then every `interval` seconds, in place of what was repeated before.
     void startRepeatingAction(std::int32_t action, double interval, Feedback feedback);

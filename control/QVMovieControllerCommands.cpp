@@ -265,5 +265,5 @@ void QVMovieController::quit(std::int32_t, Feedback feedback) {
 }
 
 void QVMovieController::sleep(std::int32_t, Feedback) {
-    performLater(_with.feedback.readingTime(), [this] { _with.desktop.sleep(); });
+    performLater(_with.feedback.readingTime(), [this] { _with.desktop.power().sleep(); });
 }

@@ -12,6 +12,7 @@ inline const QString kQVOpenSavedPlaylist = QStringLiteral("QVOpenSavedPlaylist"
 inline const QString kQVPauseOnDeactivate = QStringLiteral("QVPauseOnDeactivate");
 inline const QString kQVHideOnDeactivate = QStringLiteral("QVHideOnDeactivate");
 inline const QString kQVCursorAutohideDelay = QStringLiteral("QVCursorAutohideDelay");
+inline const QString kQVUseRemote = QStringLiteral("QVUseRemote");
 inline const QString kQVVolumeSave = QStringLiteral("QVVolumeSave");
 inline const QString kQVVolumeSavedLevel = QStringLiteral("QVVolumeSavedLevel");
 inline const QString kQVForceScreenBrightness = QStringLiteral("QVForceScreenBrightness");

@@ -4,6 +4,7 @@
 #include "app/LaunchSteps.h"
 #include "app/MainObjects.h"
 #include "app/OpeningFiles.h"
+#include "app/main/InputDevicesOfRun.h"
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
 #include "app/main/Terminal.h"
@@ -19,8 +20,10 @@
 #include "platform/desktop/linux/DisplayServer.h"
 #include "platform/desktop/linux/FileChooserPortal.h"
 #include "platform/desktop/linux/RecentlyUsedFile.h"
+#include "platform/desktop/linux/RemoteReceivers.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
+#include "platform/desktop/linux/SystemPower.h"
 #include "platform/desktop/qt/QtDesktop.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
@@ -126,8 +129,9 @@ private:
     std::unique_ptr<QVOpenURLPanel> _openURLPanel;
 };
 
-/// Both outlive the services.
-platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const platform::Backlight& backlight) {
+/// All outlive the services.
+platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const platform::Backlight& backlight,
+                                              platform::Power& power, platform::RemoteSource& remotes) {
     const auto brightness = [&backlight](const QString& screen) {
         int error = 0;
         const float value = backlight.brightness(screen, error);
@@ -135,11 +139,14 @@ platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const p
             logAlways("%@: ERROR: Retrieving brightness for current screen: %d", "Screen", error);
         return value;
     };
-    return {[&bus](bool active) { bus.setInhibited(active); }, [&bus] { bus.suspend(); }, brightness,
+    return {[&bus](bool active) { bus.setInhibited(active); },
+            brightness,
             [&backlight](const QString& screen, float value) { backlight.setBrightness(screen, value); },
             [](const platform::FileQuestion& question, const QString& parent, auto answered) {
                 return std::make_shared<platform::FileChooserPortal>(question, parent, std::move(answered));
-            }};
+            },
+            &power,
+            &remotes};
 }
 
 } // namespace
@@ -179,7 +186,10 @@ int play(int& count, char** arguments, const CommandLine& line) {
                                             bus.setBacklight(light, level);
                                             return true;
                                         });
-    desktop.setServices(desktopServices(bus, backlight));
+    platform::SystemPower power;
+    const std::unique_ptr<platform::InputDevices> inputDevices = makeInputDevices();
+    platform::RemoteReceivers remotes(*inputDevices);
+    desktop.setServices(desktopServices(bus, backlight, power, remotes));
 
     int status = exitSuccess;
     {

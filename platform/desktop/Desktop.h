@@ -3,6 +3,8 @@
 
 #include "platform/base/Rect.h"
 #include "platform/desktop/FileChoice.h"
+#include "platform/desktop/Power.h"
+#include "platform/desktop/RemoteSource.h"
 #include "platform/desktop/UserActivity.h"
 
 #include <QString>
@@ -56,8 +58,8 @@ public:
     /// The modifier keys held now, in the masks of platform::modifier.
     virtual std::uint32_t modifierFlags() const = 0;
 
-    /// Puts the computer to sleep, as far as the user may.
-    virtual void sleep() = 0;
+    virtual Power& power() = 0;
+    virtual RemoteSource& remotes() = 0;
 
     /// Asks the application to end; the answer comes through the application's delegate.
     virtual void terminate() = 0;

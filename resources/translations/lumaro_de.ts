@@ -382,6 +382,10 @@
         <source>Sleep</source>
         <translation>Ruhezustand</translation>
     </message>
+    <message id="Sleep failed: %@">
+        <source>Sleep failed: %@</source>
+        <translation>Der Ruhezustand ist fehlgeschlagen: %@</translation>
+    </message>
     <message id="Size: Half">
         <source>Size: Half</source>
         <translation>Halbe Größe</translation>

@@ -382,6 +382,10 @@
         <source>Sleep</source>
         <translation>Sleep</translation>
     </message>
+    <message id="Sleep failed: %@">
+        <source>Sleep failed: %@</source>
+        <translation>Sleep failed: %@</translation>
+    </message>
     <message id="Size: Half">
         <source>Size: Half</source>
         <translation>Size: Half</translation>

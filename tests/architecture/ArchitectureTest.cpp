@@ -188,6 +188,7 @@ TEST(Architecture, collaborators_are_handed_in) {
         {"sharedManager", {"subtitles/JHStringEncodings"}},
         {"sharedOSDOverlay", {"overlays/QVOSDOverlay"}},
         {"sharedFeedbackOverlay", {"overlays/QVFeedbackOverlay"}},
+        {"sharedRemote", {"control/AppleRemote"}},
         {"gAppController", {"app/QVAppController", "app/MainObjects"}}};
     for (const auto& [file, lines] : productSources()) {
         if (isIn(file, "platform") || isIn(file, "app/main"))

@@ -7,7 +7,10 @@ namespace {
 namespace key = platform::functionKey;
 namespace held = platform::modifier;
 
-class MovieController : public MovieControllerRig {};
+class MovieController : public MovieControllerRig {
+protected:
+    qsizetype sleeps() const { return std::ranges::count(desktop.computer.commands, platform::PowerCommand::sleep); }
+};
 
 } // namespace
 
@@ -41,7 +44,8 @@ TEST_F(MovieController, Codes_act_and_confirm_as_asked_and_other_codes_do_nothin
         player().steps.clear();
         subtitles.calls.clear();
         mainWindow.calls.clear();
-        desktop.sleeps = desktop.terminations = 0;
+        desktop.computer.commands.clear();
+        desktop.terminations = 0;
         controller.setForceMuted(false);
         view.setRate(0);
         view.setTime(12000);
@@ -62,7 +66,7 @@ TEST_F(MovieController, Codes_act_and_confirm_as_asked_and_other_codes_do_nothin
         view.setRate(0);
         settings.runLoop.advance(confirmations.readingTime() + 0.11);
         done << mainWindow.calls;
-        done << QStringList(desktop.sleeps, "sleep") << QStringList(desktop.terminations, "quit");
+        done << QStringList(sleeps(), "sleep") << QStringList(desktop.terminations, "quit");
         settings.runLoop.advance(1);
         return done.join(u' ').toStdString();
     };
@@ -325,10 +329,10 @@ TEST_F(MovieController, Sleep_and_quit_wait_until_their_confirmation_is_read_and
     controller.performAction(action::sleep, Feedback::no);
     controller.performAction(action::quit, Feedback::yes);
     settings.runLoop.advance(reading - 0.01);
-    EXPECT_EQ(desktop.sleeps, 0);
+    EXPECT_EQ(sleeps(), 0);
     EXPECT_EQ(desktop.terminations, 0);
     settings.runLoop.advance(0.02);
-    EXPECT_EQ(desktop.sleeps, 1);
+    EXPECT_EQ(sleeps(), 1);
     EXPECT_EQ(desktop.terminations, 1);
     EXPECT_FALSE(controller.windowShouldClose(window));
     settings.runLoop.runPending();

@@ -21,6 +21,8 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
                            {"XDG_STATE_HOME", (user.folder() / "state").string()},
                            {"XDG_DATA_HOME", (user.folder() / "data").string()},
                            {"XDG_RUNTIME_DIR", user.runtimeFolder().string()},
+                           // Never the machine's own: it could be sent to sleep.
+                           {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent"},
                            {"LUMARO_RESOURCES", LUMARO_BINARY_DIR "/resources"},
                            {"LC_ALL", "C.UTF-8"}};
     if (display.starts_with("wayland")) {

@@ -36,6 +36,10 @@ public:
     LumaroProcess(const LumaroUser& user, const std::string& display, const std::vector<std::string>& arguments,
                   const std::string& workingDirectory = {})
         : ChildProcess(optionsFor(user, display, arguments, workingDirectory)) {}
+    // Another program, or environment, on top of that.
+    LumaroProcess(const LumaroUser& user, const std::string& display, const std::vector<std::string>& arguments,
+                  const std::string& program, const std::map<std::string, std::string>& environment)
+        : ChildProcess(optionsOf(program, environment, optionsFor(user, display, arguments, {}))) {}
 
     // The lines that say that something went wrong in the program itself: sanitizers, failed assertions, and what the
     // libraries complain of.
@@ -44,4 +48,11 @@ public:
 private:
     static Options optionsFor(const LumaroUser& user, const std::string& display,
                               const std::vector<std::string>& arguments, const std::string& workingDirectory);
+    static Options optionsOf(const std::string& program, const std::map<std::string, std::string>& environment,
+                             Options options) {
+        options.arguments.front() = program;
+        for (const auto& [name, value] : environment)
+            options.environment[name] = value;
+        return options;
+    }
 };

@@ -49,6 +49,13 @@ LumaroProcess& PlayerFixture::startOn(const std::string& display, const std::vec
     return *player;
 }
 
+LumaroProcess& PlayerFixture::startRecorded(const std::string& program,
+                                            const std::map<std::string, std::string>& environment,
+                                            const std::vector<std::string>& arguments) {
+    player = std::make_unique<LumaroProcess>(user, server.display(), withQuietLaunch(arguments), program, environment);
+    return *player;
+}
+
 std::unique_ptr<LumaroProcess> PlayerFixture::startAnother(const std::vector<std::string>& arguments,
                                                            const std::string& workingDirectory) {
     return std::make_unique<LumaroProcess>(user, server.display(), arguments, workingDirectory);

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,6 +31,9 @@ protected:
     LumaroProcess& start(const std::vector<std::string>& arguments, const std::string& workingDirectory = {});
     // The same on another display (of LumaroProcess).
     LumaroProcess& startOn(const std::string& display, const std::vector<std::string>& arguments);
+    // The same with another program and environment.
+    LumaroProcess& startRecorded(const std::string& program, const std::map<std::string, std::string>& environment,
+                                 const std::vector<std::string>& arguments);
     // Another launch by the same user, with these options alone: settings are for the first one.
     std::unique_ptr<LumaroProcess> startAnother(const std::vector<std::string>& arguments,
                                                 const std::string& workingDirectory = {});

@@ -10,6 +10,45 @@
 #include <utility>
 #include <vector>
 
+/// A computer that goes to sleep when a test says so, and records what it is asked.
+class FakePower final : public platform::Power {
+public:
+    std::vector<platform::PowerCommand> commands;
+    platform::PowerListener* listener = nullptr;
+
+    bool sleep() override { return take(platform::PowerCommand::sleep); }
+    bool restart() override { return take(platform::PowerCommand::restart); }
+    bool shutDown() override { return take(platform::PowerCommand::shutDown); }
+    bool logOut() override { return take(platform::PowerCommand::logOut); }
+    void setPowerListener(platform::PowerListener* wanted) override { listener = wanted; }
+
+private:
+    bool take(platform::PowerCommand command) {
+        commands.push_back(command);
+        return true;
+    }
+};
+
+/// Receivers whose events the test makes.
+class FakeRemotes final : public platform::RemoteSource {
+public:
+    bool available = true;
+    platform::RemoteStart result = platform::RemoteStart::listening;
+    platform::RemoteAccess access = platform::RemoteAccess::withOthers;
+    platform::RemoteListener* listener = nullptr;
+    int starts = 0;
+
+    bool isAvailable() const override { return available; }
+    platform::RemoteStart start(platform::RemoteAccess wanted, platform::RemoteListener& told) override {
+        ++starts;
+        access = wanted;
+        if (result == platform::RemoteStart::listening)
+            listener = &told;
+        return result;
+    }
+    void stop() override { listener = nullptr; }
+};
+
 /// A desktop that records what it is asked and answers as the test says.
 class FakeDesktop final : public platform::Desktop {
 public:
@@ -43,7 +82,8 @@ public:
     std::uint32_t heldModifiers = 0;
     bool userActive = false;
     int userActiveChanges = 0;
-    int sleeps = 0;
+    FakePower computer;
+    FakeRemotes receivers;
     int terminations = 0;
     std::vector<bool> terminationReplies;
 
@@ -77,7 +117,8 @@ public:
         userActive = active;
         ++userActiveChanges;
     }
-    void sleep() override { ++sleeps; }
+    platform::Power& power() override { return computer; }
+    platform::RemoteSource& remotes() override { return receivers; }
     void terminate() override { ++terminations; }
     void replyToApplicationShouldTerminate(bool terminate) override { terminationReplies.push_back(terminate); }
 

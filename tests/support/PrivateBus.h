@@ -14,21 +14,11 @@
 #include <sys/prctl.h>
 
 /// A message bus of the test's own, as both the session's and the system's, and the application that connections live
-/// in. One at a time.
+/// in. One at a time; the daemon stays for the process, in which the library reads the addresses once.
 class PrivateBus {
 public:
     PrivateBus() {
-        const QTemporaryDir folder;
-        const QString configuration = writeFile(
-            folder.filePath("bus.conf"), "<busconfig><type>custom</type><listen>unix:tmpdir=/tmp</listen>"
-                                         "<auth>EXTERNAL</auth><policy context=\"default\"><allow own=\"*\"/>"
-                                         "<allow eavesdrop=\"true\"/>"
-                                         "<allow send_destination=\"*\" eavesdrop=\"true\"/></policy></busconfig>");
-        _daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        _daemon.start("dbus-daemon", {"--config-file=" + configuration, "--nofork", "--print-address"});
-        while (!_daemon.canReadLine() && _daemon.waitForReadyRead()) {
-        }
-        const QByteArray address = _daemon.readLine().trimmed();
+        static const QByteArray address = startDaemon();
         _isRunning = !address.isEmpty();
         qputenv("DBUS_SESSION_BUS_ADDRESS", address);
         qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
@@ -36,8 +26,6 @@ public:
     ~PrivateBus() {
         for (const char* name : {"services", "qt_default_session_bus", "qt_default_system_bus"})
             QDBusConnection::disconnectFromBus(name);
-        _daemon.kill();
-        _daemon.waitForFinished();
     }
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
@@ -55,10 +43,25 @@ public:
     }
 
 private:
+    /// The kernel ends it with the test.
+    static QByteArray startDaemon() {
+        static auto* const daemon = new QProcess;
+        const QTemporaryDir folder;
+        const QString configuration = writeFile(
+            folder.filePath("bus.conf"), "<busconfig><type>custom</type><listen>unix:tmpdir=/tmp</listen>"
+                                         "<auth>EXTERNAL</auth><policy context=\"default\"><allow own=\"*\"/>"
+                                         "<allow eavesdrop=\"true\"/>"
+                                         "<allow send_destination=\"*\" eavesdrop=\"true\"/></policy></busconfig>");
+        daemon->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        daemon->start("dbus-daemon", {"--config-file=" + configuration, "--nofork", "--print-address"});
+        while (!daemon->canReadLine() && daemon->waitForReadyRead()) {
+        }
+        return daemon->readLine().trimmed();
+    }
+
     int _argumentCount = 1;
     char _name[5] = "test";
     char* _arguments[2] = {_name, nullptr};
     QCoreApplication _application{_argumentCount, _arguments};
-    QProcess _daemon;
     bool _isRunning = false;
 };

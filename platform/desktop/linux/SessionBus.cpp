@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/linux/SessionBus.h"
 
-#include "platform/base/Log.h"
-
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
@@ -111,19 +109,6 @@ void SessionBus::setBacklight(const QString& light, unsigned level) {
         QStringLiteral("org.freedesktop.login1.Session"), QStringLiteral("SetBrightness"));
     call << QStringLiteral("backlight") << light << static_cast<quint32>(level);
     QDBusConnection::systemBus().send(call);
-}
-
-void SessionBus::suspend() {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),
-        QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Suspend"));
-    call << true;
-    auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher] {
-        watcher->deleteLater();
-        if (watcher->isError())
-            Log::write(QStringLiteral("ERROR: SessionBus: Can't suspend: %1").arg(watcher->error().message()));
-    });
 }
 
 } // namespace platform

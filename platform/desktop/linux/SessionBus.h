@@ -13,8 +13,8 @@ class QDBusPendingCallWatcher;
 
 namespace platform {
 
-/// What the user's session offers over D-Bus: keeping the screen saver away, and sleep. Calls return at once; a session
-/// without the service is left alone. Main thread.
+/// What the user's session offers over D-Bus: keeping the screen saver away, and the backlight. Calls return at once; a
+/// session without the service is left alone. Main thread.
 class SessionBus final : public QObject {
 public:
     SessionBus();
@@ -22,8 +22,6 @@ public:
 
     /// Keeps screen saver and sleep away while set.
     void setInhibited(bool inhibited);
-    /// Suspends the computer through the login manager.
-    void suspend();
     /// Has the login manager set the level of a light of the kernel's backlight class.
     void setBacklight(const QString& light, unsigned level);
 

@@ -225,11 +225,6 @@ void QtDesktop::setUserActive(bool active) {
         _services.setUserActive(active);
 }
 
-void QtDesktop::sleep() {
-    if (_services.sleep)
-        _services.sleep();
-}
-
 void QtDesktop::terminate() {
     if (_terminationPending || !_delegate)
         return;

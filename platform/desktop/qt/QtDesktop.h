@@ -25,12 +25,14 @@ public:
     /// What needs the session's services.
     struct Services {
         std::function<void(bool)> setUserActive;
-        std::function<void()> sleep;
         /// By the screen's name; 0 to 1, infinity for unknown.
         std::function<float(const QString&)> brightness;
         std::function<void(const QString&, float)> setBrightness;
         /// The panel that the desktop itself offers; none for Qt's own.
         ForeignFilePanel askForFiles;
+        /// Both outlive the desktop's use.
+        Power* power = nullptr;
+        RemoteSource* remotes = nullptr;
     };
     /// The arguments stay the caller's, for as long as this lives.
     QtDesktop(int& argumentCount, char** arguments, const QString& applicationName);
@@ -54,7 +56,9 @@ public:
     bool openURL(const QUrl& url) override;
     std::uint32_t modifierFlags() const override;
     void setUserActive(bool active) override;
-    void sleep() override;
+    /// The services must have been set.
+    Power& power() override { return *_services.power; }
+    RemoteSource& remotes() override { return *_services.remotes; }
     void terminate() override;
     void replyToApplicationShouldTerminate(bool terminate) override;
 

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "control/ComputerSleep.h"
+
+#include "context/FeedbackDisplay.h"
+#include "control/QVMovieController.h"
+#include "platform/base/Localization.h"
+#include "playback/QVMovieView.h"
+
+#include <utility>
+
+ComputerSleep::ComputerSleep(const Environment& environment, const Collaborators& collaborators)
+    : _with(collaborators)
+    , _beginning(environment, [this] { _with.power.setPowerListener(this); }) {}
+
+ComputerSleep::~ComputerSleep() {
+    _with.power.setPowerListener(nullptr);
+}
+
+void ComputerSleep::computerWillSleep() {
+    _with.controller.stopRepeatingAction(); // a held key would set it going again
+    _hasPaused = _with.view.isPlaying();
+    if (_hasPaused)
+        _with.view.stop();
+}
+
+void ComputerSleep::computerDidWake() {
+    if (std::exchange(_hasPaused, false) && !_with.view.isPlaying())
+        _with.feedback.postFeedback(platform::localizedString(QStringLiteral("Movie: Pause")));
+}
+
+void ComputerSleep::powerCommandFailed(platform::PowerCommand command, const QString& reason) {
+    if (command == platform::PowerCommand::sleep)
+        _with.feedback.postFeedback(platform::localizedFormat(QStringLiteral("Sleep failed: %@"), {reason}));
+}

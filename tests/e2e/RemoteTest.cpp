@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/e2e/PlayerFixture.h"
+#include "tests/support/FakeServices.h"
+#include "tests/support/RecordedEvents.h"
+
+#include <sys/stat.h>
+
+using namespace harness;
+
+namespace {
+
+/// The program with a recorded remote, on a message bus of the test's own.
+class Remote : public PlayerFixture {
+protected:
+    Remote() {
+        std::filesystem::create_directories(user.folder() / "input");
+        EXPECT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+        _pipe = ::open(pipe.c_str(), O_RDWR | O_CLOEXEC); // with a reader of its own it never ends by itself
+    }
+    ~Remote() override { unplug(); }
+
+    void startRemote(const std::vector<std::string>& arguments) {
+        startRecorded(LUMARO_RECORDED_PROGRAM,
+                      {{"LUMARO_RECORDED_INPUT", pipe.parent_path().string()},
+                       {"DBUS_SESSION_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS").toStdString()},
+                       {"DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SYSTEM_BUS_ADDRESS").toStdString()}},
+                      arguments);
+    }
+    void send(std::uint16_t code, std::int32_t value, std::uint32_t scanCode = 0) {
+        for (const input_event& event : recorded::key(code, value, scanCode))
+            EXPECT_EQ(::write(_pipe, &event, sizeof event), static_cast<ssize_t>(sizeof event));
+    }
+    void unplug() {
+        if (_pipe >= 0)
+            ::close(std::exchange(_pipe, -1));
+    }
+    /// Waits for what the log says of the button from where the last one was found.
+    testing::AssertionResult says(const std::string& text) {
+        const auto found = player->waitForErrorLine(text, _from);
+        if (!found)
+            return logs(text, _from);
+        _from = *found;
+        return testing::AssertionSuccess();
+    }
+    testing::AssertionResult saysButton(const std::string& name) {
+        return says("QVMovieController: Apple Remote Button: " + name);
+    }
+    void tap(std::uint16_t code) {
+        send(code, 1);
+        send(code, 0);
+    }
+
+    const std::filesystem::path pipe = user.folder() / "input/remote";
+    PrivateBus bus;
+
+private:
+    int _pipe = -1;
+    std::size_t _from = 0;
+};
+
+} // namespace
+
+TEST_F(Remote, each_button_acts_on_the_running_program) {
+    startRemote({"--set", "QVPlaylistAutoPlay=0", "--set", "QVJumpInterval=3", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    // Volume Up and Down, held: at once, then again until the release.
+    send(KEY_VOLUMEUP, 1, 0x87EE2A0B);
+    ASSERT_TRUE(says("Unmapped event for Apple Remote button 10")) << "its identity comes first";
+    ASSERT_TRUE(saysButton("Volume Up (down)"));
+    send(KEY_VOLUMEUP, 0);
+    ASSERT_TRUE(saysButton("Volume Up (up)"));
+    tap(KEY_DOWN);
+    ASSERT_TRUE(saysButton("Volume Down (down)"));
+    ASSERT_TRUE(saysButton("Volume Down (up)"));
+    tap(KEY_MENU);
+    ASSERT_TRUE(saysButton("Menu (down)"));
+    // Right and Left jump, held they step while the movie rests.
+    tap(KEY_RIGHT);
+    ASSERT_TRUE(saysButton("Right (down)"));
+    ASSERT_TRUE(frameBecomes(90));
+    tap(KEY_LEFT);
+    ASSERT_TRUE(saysButton("Left (down)"));
+    ASSERT_TRUE(frameBecomes(0));
+    send(KEY_RIGHT, 1);
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen >= 3; }, "stepped to while Right is held"));
+    send(KEY_RIGHT, 0);
+    ASSERT_TRUE(saysButton("Right holding (up)"));
+    const auto stepped = settledFrame();
+    ASSERT_TRUE(stepped);
+    send(KEY_LEFT, 1);
+    ASSERT_TRUE(frameBecomes([&](int seen) { return seen < *stepped; }, "stepped back to"));
+    send(KEY_LEFT, 0);
+    ASSERT_TRUE(saysButton("Left holding (up)"));
+    // Play, and while it plays the same holding is fast motion.
+    tap(KEY_PLAYPAUSE);
+    ASSERT_TRUE(saysButton("Play/Pause (down)"));
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 10; }, "playing"));
+    send(KEY_RIGHT, 1);
+    ASSERT_TRUE(says("QVMovieController: Fast Forward with rate: x2"));
+    send(KEY_RIGHT, 0);
+    send(KEY_LEFT, 1);
+    ASSERT_TRUE(says("QVMovieController: Fast Rewind with rate: x2"));
+    send(KEY_LEFT, 0);
+    tap(KEY_OK);
+    ASSERT_TRUE(says("Restoring normal playback."));
+    tap(KEY_OK);
+    ASSERT_TRUE(settledFrame());
+    tap(KEY_STOP);
+    ASSERT_TRUE(frameBecomes(0)) << "keys beside the table act, too";
+    // Menu, held, quits.
+    send(KEY_MENU, 1);
+    ASSERT_TRUE(saysButton("Menu holding (down)"));
+    EXPECT_EQ(player->waitForExit(), 0);
+}
+
+TEST_F(Remote, that_is_unplugged_while_it_is_held_stops_and_the_setting_switches_it_off) {
+    startRemote({"--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    send(KEY_RIGHT, 1);
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen >= 2; }, "stepped to"));
+    unplug();
+    ASSERT_TRUE(saysButton("Right holding (up)"));
+    ASSERT_TRUE(settledFrame());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Remote, play_held_puts_the_computer_to_sleep_and_the_movie_rests_meanwhile) {
+    FakeServices services;
+    QDBusConnection connection = PrivateBus::connection();
+    ASSERT_TRUE(connection.registerVirtualObject("/", &services, QDBusConnection::SubPath));
+    ASSERT_TRUE(connection.registerService("org.freedesktop.login1"));
+    const auto served = [&](const std::function<bool()>& done) {
+        return waitUntil([&] {
+            QCoreApplication::processEvents();
+            return done();
+        });
+    };
+    startRemote({numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 5; }, "playing"));
+    ASSERT_TRUE(served([&] { return services.calls.filter("Inhibit(sleep|").size() == 1; }));
+    ASSERT_TRUE(served([&] { return services.isDelayed(); }));
+    services.refusals["Suspend"] = QDBusError::NotSupported;
+    send(KEY_PLAYPAUSE, 1);
+    ASSERT_TRUE(saysButton("Play (sleep mode) (down)"));
+    send(KEY_PLAYPAUSE, 0);
+    ASSERT_TRUE(served([&] { return services.calls.filter("Manager.Suspend(true)").size() == 1; }));
+    ASSERT_TRUE(says("ERROR: SystemPower: Can't sleep: not now"));
+    // Somebody else sends it to sleep.
+    QDBusMessage signal =
+        QDBusMessage::createSignal("/org/freedesktop/login1", "org.freedesktop.login1.Manager", "PrepareForSleep");
+    signal << true;
+    connection.send(signal);
+    ASSERT_TRUE(served([&] { return !services.isDelayed(); })) << "sleep is let go on";
+    const auto stood = settledFrame();
+    ASSERT_TRUE(stood);
+    signal.setArguments({false});
+    connection.send(signal);
+    ASSERT_TRUE(served([&] { return services.calls.filter("Inhibit(sleep|").size() == 2; }));
+    EXPECT_TRUE(staysTrue([&] { return frame() == stood; }, Seconds(0.5))) << "it plays on when the user wants";
+    ASSERT_TRUE(quitsCleanly());
+}
