@@ -35,6 +35,8 @@ constexpr const char* command = "lumaro %u";
     X(g_bookmark_file_has_application)                                                                                 \
     X(g_bookmark_file_remove_application)                                                                              \
     X(g_bookmark_file_get_uris)                                                                                        \
+    X(g_bookmark_file_get_applications)                                                                                \
+    X(g_bookmark_file_remove_item)                                                                                     \
     X(g_strfreev)                                                                                                      \
     X(g_error_free)
 
@@ -140,10 +142,14 @@ void RecentlyUsedFile::removeAll() {
             bool isAnyGone = false;
             char** const addresses = glib.g_bookmark_file_get_uris(list, nullptr);
             for (char** address = addresses; address && *address; ++address) {
-                // An entry that no other application has goes with it.
-                if (glib.g_bookmark_file_has_application(list, *address, application, nullptr))
-                    isAnyGone =
-                        glib.g_bookmark_file_remove_application(list, *address, application, nullptr) || isAnyGone;
+                if (!glib.g_bookmark_file_has_application(list, *address, application, nullptr))
+                    continue;
+                gsize count = 0;
+                glib.g_strfreev(glib.g_bookmark_file_get_applications(list, *address, &count, nullptr));
+                const bool isGone = count > 1
+                                        ? glib.g_bookmark_file_remove_application(list, *address, application, nullptr)
+                                        : glib.g_bookmark_file_remove_item(list, *address, nullptr);
+                isAnyGone = isGone || isAnyGone;
             }
             glib.g_strfreev(addresses);
             return isAnyGone;
