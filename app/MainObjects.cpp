@@ -58,6 +58,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                               _openPanels,
                               _feedback,
                               _memory})
+    , _saving(environment, platform.desktop, _playlist)
     , _subtitleScene(environment, _window, _view)
     , _subtitles(environment, _subtitleScene)
     , _heldSubtitles(environment, _subtitles)
@@ -66,9 +67,10 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
     , _activation(environment, _window, _view, _pointer)
-    , _application(environment, {platform.desktop, platform.toolkit, platform.bundle, steps, _window, _view, _backdrop,
-                                 _playlist, _subtitles, _commands, _display, _menu, _pointer, _files, _openPanels,
-                                 _activation, _state, _memory, _recent})
+    , _application(environment,
+                   {platform.desktop, platform.toolkit, platform.bundle, steps,    _window, _view,    _backdrop,
+                    _playlist,        _subtitles,       _commands,       _display, _menu,   _pointer, _files,
+                    _openPanels,      _saving,          _activation,     _state,   _memory, _recent})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu()})
     , _remote(platform.desktop.remotes())

@@ -9,6 +9,7 @@
 #include "app/HeldSubtitles.h"
 #include "app/MainMenu.h"
 #include "app/OpenPanels.h"
+#include "app/PlaylistSaving.h"
 #include "app/PointerAutohide.h"
 #include "app/QVAppController.h"
 #include "app/QVFullScreenWindow.h"
@@ -84,6 +85,7 @@ private:
     RememberedMovies _memory;
     RecentMovies _recent;
     QVPlaylistController _playlist;
+    PlaylistSaving _saving;
     SubtitlesOverMovie _subtitleScene;
     QVSubtitlesController _subtitles;
     HeldSubtitles _heldSubtitles;

@@ -6,6 +6,7 @@
 #include "app/LaunchSteps.h"
 #include "app/MainMenu.h"
 #include "app/OpenPanels.h"
+#include "app/PlaylistSaving.h"
 #include "app/PointerAutohide.h"
 #include "app/QVFullScreenWindow.h"
 #include "app/RecentMovies.h"
@@ -219,6 +220,10 @@ void QVAppController::clearRecent() {
 
 bool QVAppController::hasRecent() const {
     return !_with.recent.isEmpty();
+}
+
+void QVAppController::savePlaylist() {
+    _with.saving.savePlaylist();
 }
 
 void QVAppController::applicationWillBecomeActive() {

@@ -27,6 +27,7 @@ class MainMenu;
 class OnScreenDisplay;
 class OpenPanels;
 class PointerAutohide;
+class PlaylistSaving;
 class QVFullScreenWindow;
 class QVMovieView;
 class QVPlaylistController;
@@ -56,6 +57,7 @@ public:
         PointerAutohide& pointer;
         FileIntake& files;
         OpenPanels& panels;
+        PlaylistSaving& saving;
         Activation& activation;
         SavedState& state;
         RememberedMovies& memory;
@@ -106,6 +108,7 @@ public:
     void openRecent(std::int32_t position) override;
     void clearRecent() override;
     bool hasRecent() const override;
+    void savePlaylist() override;
     void showHelp() override;
     void showPlaylist() override;
     void showPreferences() override;

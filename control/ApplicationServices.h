@@ -22,6 +22,8 @@ public:
     /// Empties that menu, and forgets what is remembered of its movies.
     virtual void clearRecent() = 0;
     virtual bool hasRecent() const = 0;
+    /// Asks for a file, and writes the playlist into it.
+    virtual void savePlaylist() = 0;
     /// Shows the help panel until it is closed.
     virtual void showHelp() = 0;
     /// Shows the panel of the whole playlist until it is closed.

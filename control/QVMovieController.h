@@ -114,6 +114,8 @@ private:
     void openRecent(std::int32_t position, Feedback feedback);
     void clearRecent(std::int32_t, Feedback feedback);
     bool validateClearRecent(platform::MenuItem& item) const;
+    void savePlaylist(std::int32_t, Feedback feedback);
+    bool validateSavePlaylist(platform::MenuItem& item) const;
     void showHelp(std::int32_t, Feedback feedback);
     void showPlaylist(std::int32_t, Feedback feedback);
     void showPreferences(std::int32_t, Feedback feedback);

@@ -248,6 +248,10 @@ void QVMovieController::clearRecent(std::int32_t, Feedback) {
     _with.application.clearRecent();
 }
 
+void QVMovieController::savePlaylist(std::int32_t, Feedback) {
+    _with.application.savePlaylist();
+}
+
 void QVMovieController::showHelp(std::int32_t, Feedback) {
     _with.application.showHelp();
 }

@@ -83,6 +83,10 @@ bool QVMovieController::validateStartStop(MenuItem& item) const {
     return true;
 }
 
+bool QVMovieController::validateSavePlaylist(MenuItem&) const {
+    return _with.playlist.count() > 0;
+}
+
 bool QVMovieController::validateMovie(MenuItem& item) const {
     item.state = static_cast<std::uint32_t>(item.tag) == _with.playlist.index();
     return true;

@@ -41,7 +41,7 @@ public:
     /// one. Closing it counts as the other button where there is one, else as the alternate, else as the default.
     virtual int runAlert(const Alert& alert) = 0;
 
-    /// A modal panel to choose files or folders. Cancelled when the application ends meanwhile.
+    /// A modal panel to choose files or folders, or to name a new file. Cancelled when the application ends meanwhile.
     virtual FileChoice runOpenPanel(const FileQuestion& question) = 0;
 
     virtual void beep() = 0;

@@ -6,9 +6,10 @@
 
 namespace platform {
 
-/// What an open panel is to ask. The texts are the user's own language's.
+/// What a panel for files is to ask. The texts are the user's own language's.
 struct FileQuestion {
-    enum class Kind { files, folders };
+    /// A new file is one to be written: the panel asks whether one that is there may be replaced.
+    enum class Kind { files, folders, newFile };
     Kind kind = Kind::files;
     QString title;
     QString accept;
@@ -20,8 +21,10 @@ struct FileQuestion {
     QString nameOfAllFiles;
     /// Where the panel begins; its own choice when empty.
     QString folder;
-    /// The text of a check box in the panel, off at first.
+    /// The text of a check box in the panel, off at first; none where it is empty.
     QString option;
+    /// The name that is offered for a new file.
+    QString name = {};
 };
 
 /// What was chosen: paths, or the addresses of what is no local file. Empty when the panel was cancelled.

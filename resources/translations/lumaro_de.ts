@@ -566,6 +566,50 @@
         <source>Open URLs...</source>
         <translation>URLs öffnen …</translation>
     </message>
+    <message id="Save Playlist...">
+        <source>Save Playlist...</source>
+        <translation>Wiedergabeliste sichern …</translation>
+    </message>
+    <message id="Save Playlist">
+        <source>Save Playlist</source>
+        <translation>Wiedergabeliste sichern</translation>
+    </message>
+    <message id="Save">
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message id="Playlist File">
+        <source>Playlist</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message id="Save the playlist to a file">
+        <source>Save the playlist to a file</source>
+        <translation>Die Wiedergabeliste in eine Datei sichern</translation>
+    </message>
+    <message id="SaveErrorMessage">
+        <source>“%@” can’t be saved.</source>
+        <translation>„%@“ kann nicht gesichert werden.</translation>
+    </message>
+    <message id="SaveErrorPermission">
+        <source>You don’t have the permission to write there.</source>
+        <translation>Sie haben dort keine Schreibberechtigung.</translation>
+    </message>
+    <message id="SaveErrorReadOnly">
+        <source>The disk can’t be written to.</source>
+        <translation>Der Datenträger kann nicht beschrieben werden.</translation>
+    </message>
+    <message id="SaveErrorFull">
+        <source>The disk is full.</source>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message id="SaveErrorFolder">
+        <source>The folder doesn’t exist.</source>
+        <translation>Den Ordner gibt es nicht.</translation>
+    </message>
+    <message id="SaveErrorIsFolder">
+        <source>This is a folder.</source>
+        <translation>Das ist ein Ordner.</translation>
+    </message>
     <message id="Preferences...">
         <source>Preferences...</source>
         <translation>Einstellungen …</translation>

@@ -566,6 +566,50 @@
         <source>Open URLs...</source>
         <translation>Open URLs...</translation>
     </message>
+    <message id="Save Playlist...">
+        <source>Save Playlist...</source>
+        <translation>Save Playlist...</translation>
+    </message>
+    <message id="Save Playlist">
+        <source>Save Playlist</source>
+        <translation>Save Playlist</translation>
+    </message>
+    <message id="Save">
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message id="Playlist File">
+        <source>Playlist</source>
+        <translation>Playlist</translation>
+    </message>
+    <message id="Save the playlist to a file">
+        <source>Save the playlist to a file</source>
+        <translation>Save the playlist to a file</translation>
+    </message>
+    <message id="SaveErrorMessage">
+        <source>“%@” can’t be saved.</source>
+        <translation>“%@” can’t be saved.</translation>
+    </message>
+    <message id="SaveErrorPermission">
+        <source>You don’t have the permission to write there.</source>
+        <translation>You don’t have the permission to write there.</translation>
+    </message>
+    <message id="SaveErrorReadOnly">
+        <source>The disk can’t be written to.</source>
+        <translation>The disk can’t be written to.</translation>
+    </message>
+    <message id="SaveErrorFull">
+        <source>The disk is full.</source>
+        <translation>The disk is full.</translation>
+    </message>
+    <message id="SaveErrorFolder">
+        <source>The folder doesn’t exist.</source>
+        <translation>The folder doesn’t exist.</translation>
+    </message>
+    <message id="SaveErrorIsFolder">
+        <source>This is a folder.</source>
+        <translation>This is a folder.</translation>
+    </message>
     <message id="Preferences...">
         <source>Preferences...</source>
         <translation>Preferences...</translation>

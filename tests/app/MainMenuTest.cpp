@@ -34,8 +34,8 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_EQ(
         shown(0),
         "Open... doOpen 0 [Ctrl+O]\nOpen Folder... doOpenFolder 0 [Ctrl+Shift+O]\nOpen URL... doOpenURL 0 [Ctrl+U]\n"
-        "Open URLs... doOpenURL 1 [Ctrl+Shift+U]\nOpen Recent  0\n-\nPreferences... showPreferences 0 "
-        "[Ctrl+,]\n-\nQuit quit 0 "
+        "Open URLs... doOpenURL 1 [Ctrl+Shift+U]\nOpen Recent  0\n-\nSave Playlist... savePlaylist 0 [Ctrl+S]\n-\n"
+        "Preferences... showPreferences 0 [Ctrl+,]\n-\nQuit quit 0 "
         "[Ctrl+Q]");
     EXPECT_EQ(shown(1),
               "Half Size changeSize 0 (0)\nNormal Size changeSize 1 (1)\nDouble Size changeSize 2 (2)\n"

@@ -40,7 +40,7 @@ TEST_F(OpenPanelsRig, the_open_panel_asks_for_files_or_folders_where_the_user_ch
     rig.app.doOpen();
     rig.app.doOpen();
     rig.app.doOpenFolder();
-    EXPECT_TRUE(rig.settings.runLoop.runPosted());
+    rig.waitForSearches();
     EXPECT_EQ(rig.listed(), "a.mp4") << "a folder is walked";
     rig.app.doOpenFolder();
     EXPECT_EQ(rig.desktop.openPanelFolders,
@@ -92,7 +92,7 @@ TEST_F(OpenPanelsRig, entered_addresses_and_paths_are_opened_and_what_is_neither
     rig.file("films/a.mp4");
     rig.steps.openURLAnswer = {1, {rig.folder.filePath("films"), "no address"}, false};
     rig.app.doOpenURL(0);
-    EXPECT_TRUE(rig.settings.runLoop.runPosted());
+    rig.waitForSearches();
     EXPECT_EQ(rig.listed(), "a.mp4");
     EXPECT_TRUE(rig.desktop.alerts.empty()) << "beside an address it is dropped";
 

@@ -40,6 +40,7 @@ protected:
         void openRecent(std::int32_t position) override { calls << QString("recent %1").arg(position); }
         void clearRecent() override { calls << "clear"; }
         bool hasRecent() const override { return calls.isEmpty(); }
+        void savePlaylist() override { calls << "save playlist"; }
         void showHelp() override { calls << "help"; }
         void showPlaylist() override { calls << "playlist"; }
         void showPreferences() override { calls << "preferences"; }

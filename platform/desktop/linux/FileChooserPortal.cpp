@@ -129,9 +129,13 @@ QVariantMap optionsOf(const FileQuestion& question, const QString& token) {
     const bool isForFolders = question.kind == FileQuestion::Kind::folders;
     QVariantMap options{{QStringLiteral("handle_token"), token},
                         {QStringLiteral("accept_label"), question.accept},
-                        {QStringLiteral("modal"), true},
-                        {QStringLiteral("multiple"), true},
-                        {QStringLiteral("directory"), isForFolders}};
+                        {QStringLiteral("modal"), true}};
+    if (question.kind == FileQuestion::Kind::newFile) {
+        options[QStringLiteral("current_name")] = question.name;
+    } else {
+        options[QStringLiteral("multiple")] = true;
+        options[QStringLiteral("directory")] = isForFolders;
+    }
     if (!question.option.isEmpty()) {
         options[QStringLiteral("choices")] =
             QVariant::fromValue(QList<PortalChoice>{{optionName, question.option, {}, QStringLiteral("false")}});
@@ -198,7 +202,9 @@ void FileChooserPortal::follow(const QString& request) {
 }
 
 void FileChooserPortal::ask(const FileQuestion& question, const QString& parent) {
-    QDBusMessage call = QDBusMessage::createMethodCall(service, path, chooser, QStringLiteral("OpenFile"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        service, path, chooser,
+        question.kind == FileQuestion::Kind::newFile ? QStringLiteral("SaveFile") : QStringLiteral("OpenFile"));
     call << parent << question.title << optionsOf(question, _token);
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, startTimeout), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

@@ -86,7 +86,11 @@ FileChoice runQtPanel(const FileQuestion& question, QWindow* above) {
     dialog.setOption(QFileDialog::DontUseNativeDialog); // theirs have no place for the check box
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     const bool isForFolders = question.kind == FileQuestion::Kind::folders;
-    dialog.setFileMode(isForFolders ? QFileDialog::Directory : QFileDialog::ExistingFiles);
+    const bool isNew = question.kind == FileQuestion::Kind::newFile;
+    dialog.setAcceptMode(isNew ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(isForFolders ? QFileDialog::Directory
+                       : isNew      ? QFileDialog::AnyFile
+                                    : QFileDialog::ExistingFiles);
     dialog.setOption(QFileDialog::ShowDirsOnly, isForFolders);
     if (!isForFolders)
         dialog.setNameFilters(nameFilters(question));
@@ -94,11 +98,16 @@ FileChoice runQtPanel(const FileQuestion& question, QWindow* above) {
     dialog.setLabelText(QFileDialog::Reject, question.cancel);
     if (!question.folder.isEmpty())
         dialog.setDirectory(question.folder);
+    if (isNew && !question.extensions.isEmpty())
+        dialog.setDefaultSuffix(question.extensions.front());
+    if (isNew)
+        dialog.selectFile(question.name);
     placeSidebar(dialog);
     if (isForFolders)
         selectSeveral(dialog);
     showWholeColumns(dialog);
     auto* option = new QCheckBox(question.option, &dialog);
+    option->setHidden(question.option.isEmpty());
     option->setObjectName(QStringLiteral("option"));
     if (auto* layout = qobject_cast<QGridLayout*>(dialog.layout()))
         layout->addWidget(option, layout->rowCount(), 0, 1, layout->columnCount());
