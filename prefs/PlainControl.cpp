@@ -2,6 +2,7 @@
 #include "prefs/PlainControl.h"
 
 #include "platform/base/UserDefaults.h"
+#include "prefs/PreferencesPages.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -49,6 +50,7 @@ void PlainControl::show(const platform::UserDefaults& settings) const {
         checked->setChecked(false);
         group->setExclusive(true);
     }
+    PreferencesPages::stopAtChecked(*group);
 }
 
 QWidget* PlainControl::widget() const {

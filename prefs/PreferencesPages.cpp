@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QKeySequence>
 #include <QLabel>
@@ -49,6 +50,7 @@ QRect frameIn(const QRect& place, const QTabWidget& pages) {
 
 void prepare(QWidget& window) {
     for (auto* area : window.findChildren<QScrollArea*>()) {
+        area->setFocusPolicy(Qt::NoFocus);
         area->viewport()->setAutoFillBackground(false);
         area->widget()->setAutoFillBackground(false);
     }
@@ -92,6 +94,31 @@ void yieldMnemonics(const QWidget& section, const QTabWidget& pages) {
     };
     visit(section.findChildren<QLabel*>(), yield);
     visit(section.findChildren<QAbstractButton*>(), yield);
+}
+
+void orderTabs(const QTabWidget& pages) {
+    QWidget* before = pages.tabBar();
+    const auto follow = [&before](QWidget* next) {
+        QWidget::setTabOrder(before, next);
+        before = next;
+    };
+    // The chain as it stands, before it is changed.
+    QList<QWidget*> chain;
+    for (QWidget* next = before->nextInFocusChain(); next != before; next = next->nextInFocusChain())
+        chain << next;
+    const auto takesKeys = [](const QWidget* widget) { return widget->focusPolicy() != Qt::NoFocus; };
+    for (int page = 0; page < pages.count(); ++page)
+        for (QWidget* widget : chain)
+            if (pages.widget(page)->isAncestorOf(widget) && takesKeys(widget) && !widget->focusProxy())
+                follow(widget);
+    for (QWidget* widget : chain)
+        if (!pages.isAncestorOf(widget) && takesKeys(widget))
+            follow(widget);
+}
+
+void stopAtChecked(const QButtonGroup& group) {
+    for (QAbstractButton* button : group.buttons())
+        button->setFocusPolicy(button->isChecked() || !group.checkedButton() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 } // namespace PreferencesPages

@@ -3,6 +3,7 @@
 
 #include <QRect>
 
+class QButtonGroup;
 class QTabWidget;
 class QWidget;
 
@@ -20,5 +21,13 @@ void prepare(QWidget& window);
 /// Takes from a section the letters, to be pressed with Alt, that the page around it, the pages' names or the
 /// window's own buttons have: of two controls with the same one, neither would act.
 void yieldMnemonics(const QWidget& section, const QTabWidget& pages);
+
+/// Has Tab go through each page from its first control to its last, and on to what stands below the pages, also where
+/// controls were put into a page later than others.
+void orderTabs(const QTabWidget& pages);
+
+/// Has Tab stop once in a group of radio buttons, at the one that is checked. By itself the group learns of that when
+/// one of its buttons has had the keyboard.
+void stopAtChecked(const QButtonGroup& group);
 
 } // namespace PreferencesPages

@@ -126,7 +126,10 @@ public:
         row.value->setObjectName(QLatin1String(name) + QStringLiteral("Value"));
         row.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         // Nothing moves while a slider is dragged.
-        const auto width = [&](double value) { return row.value->fontMetrics().horizontalAdvance(offer.write(value)); };
+        const auto width = [&](double value) {
+            row.value->setText(offer.write(value));
+            return row.value->sizeHint().width();
+        };
         row.value->setMinimumWidth(
             std::max({width(offer.smallest + offer.step), width(offer.largest), width(offer.largest - offer.step)}));
         _grid->addWidget(row.control, _row, 1);
