@@ -1,16 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "context/Environment.h"
 #include "control/Commands.h"
+#include "control/CurrentCommands.h"
+#include "platform/base/NotificationCenter.h"
 #include "platform/window/Menu.h"
 
 #include <array>
 
 /// The menu bar as a model, made from the table of commands: a menu for each section, an item for each command that has
-/// a place in it. The items' actions and tags are those that QVMovieController takes. Main thread.
+/// a place in it, with the key that the command has now. The items' actions and tags are those that QVMovieController
+/// takes. Main thread.
 class MainMenu {
 public:
-    MainMenu();
+    /// The commands outlive the menu, and were made before.
+    MainMenu(const Environment& environment, const CurrentCommands& commands);
 
     /// The menus of the bar, each a submenu.
     platform::Menu& bar() { return _bar; }
@@ -23,9 +28,11 @@ public:
 private:
     platform::Menu& menu(Section section) { return *_menus[static_cast<std::size_t>(section)]; }
     void addItem(const Command& command);
-    static void addPlainItem(platform::Menu& menu, const QString& title, const Command& command);
+    void showKeys();
 
+    const CurrentCommands& _commands;
     platform::Menu _bar;
     std::array<platform::Menu*, sections.size()> _menus{};
     platform::Menu* _recentMenu = nullptr;
+    platform::Subscription _keysChanged;
 };

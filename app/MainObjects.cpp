@@ -28,7 +28,8 @@ MainObjects::Publication::~Publication() {
 }
 
 MainObjects::MainObjects(const Environment& environment, const Platform& platform, LaunchSteps& steps)
-    : _pointer(environment,
+    : _currentCommands(environment)
+    , _pointer(environment,
                [this](bool hidden) {
                    if (_window.host())
                        _window.host()->setPointerHidden(hidden);
@@ -47,9 +48,9 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
              _subtitleReaders.subtitleUnfilteredFileTypes())
     , _backdrop(environment, {platform.toolkit, _drops})
     , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _drops})
-    , _memory(environment,
-              {platform.movies, platform.recentlyUsed, _view, _feedback, [this] { return _subtitles.current(); },
-               [this](const QString& path, std::uint32_t index) { _heldSubtitles.hold(path, index); }})
+    , _memory(environment, {platform.movies, platform.recentlyUsed, _view, _feedback, _currentCommands,
+                            [this] { return _subtitles.current(); },
+                            [this](const QString& path, std::uint32_t index) { _heldSubtitles.hold(path, index); }})
     , _recent(_memory, [this](const QString& address) { _application.openFile(address); })
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
                               _view,
@@ -66,13 +67,14 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _stylePreview(environment, _window, _view)
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
+    , _menu(environment, _currentCommands)
     , _activation(environment, _window, _view, _pointer)
     , _application(environment,
                    {platform.desktop, platform.toolkit, platform.bundle, steps,    _window, _view,    _backdrop,
                     _playlist,        _subtitles,       _commands,       _display, _menu,   _pointer, _files,
-                    _openPanels,      _saving,          _activation,     _state,   _memory, _recent})
+                    _openPanels,      _saving,          _activation,     _state,   _memory, _recent,  _currentCommands})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
-                                _application, _menu.playlistMenu(), _menu.subtitlesMenu()})
+                                _application, _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands})
     , _remote(platform.desktop.remotes())
     , _remoteControl(environment, _remote, _controller)
     , _computerSleep(environment, {platform.desktop.power(), _view, _controller, _feedback}) {

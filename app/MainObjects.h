@@ -20,6 +20,7 @@
 #include "context/Environment.h"
 #include "control/AppleRemote.h"
 #include "control/ComputerSleep.h"
+#include "control/CurrentCommands.h"
 #include "control/QVMovieController.h"
 #include "control/RemoteControl.h"
 #include "overlays/OverlaysOnDemand.h"
@@ -59,6 +60,7 @@ public:
     OnScreenDisplay& display() { return _display; }
     QVAppController& application() { return _application; }
     QVMovieController& controller() { return _controller; }
+    const CurrentCommands& commands() const { return _currentCommands; }
 
 private:
     /// What the process-wide accessors answer while it lives.
@@ -71,6 +73,7 @@ private:
         ~Publication();
     };
 
+    CurrentCommands _currentCommands;
     CommandRelay _commands;
     PointerAutohide _pointer;
     FileIntake _files;

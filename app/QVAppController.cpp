@@ -14,7 +14,8 @@
 #include "app/SavedState.h"
 #include "app/SystemVersion.h"
 #include "context/CommandTarget.h"
-#include "control/CommandHelp.h"
+#include "control/CurrentCommands.h"
+#include "control/KeyText.h"
 #include "overlays/OnScreenDisplay.h"
 #include "platform/base/Bundle.h"
 #include "platform/base/Localization.h"
@@ -44,14 +45,16 @@ std::optional<platform::Screen> screenOf(const platform::Window& window, const p
     return screens.empty() ? std::nullopt : std::optional(screens.front());
 }
 
-/// How to open a movie, by the keys of the commands.
-BackdropView::Hint openingHint() {
-    const auto keyOf = [](std::string_view command) {
-        const Command* row = commandWithName(command);
-        return row ? readableKeyText(row->keys.front()) : QString();
+/// How to open a movie, by the keys of the commands; by the menu where they have none.
+BackdropView::Hint openingHint(const CurrentCommands& commands) {
+    const auto hint = [&commands](std::string_view command, const char* withKey, const char* withoutKey) {
+        const Command* row = commands.withName(command);
+        const QString key = row && row->keys.front().character ? readableKeyText(row->keys.front().chord()) : QString();
+        return key.isEmpty() ? platform::localizedString(QString::fromUtf8(withoutKey))
+                             : platform::localizedFormat(QString::fromUtf8(withKey), {key});
     };
-    return {platform::localizedFormat(QStringLiteral("Press %@ to open a movie"), {keyOf("open")}),
-            platform::localizedFormat(QStringLiteral("or drop files here. %@ shows all keys."), {keyOf("help")})};
+    return {hint("open", "Press %@ to open a movie", "Open a movie from the menu"),
+            hint("help", "or drop files here. %@ shows all keys.", "or drop files here.")};
 }
 
 } // namespace
@@ -111,7 +114,7 @@ void QVAppController::applicationDidFinishLaunching() {
 
 void QVAppController::finishLaunching() {
     const TraceScope scope("-[QVAppController finishLaunching]");
-    _with.backdrop.offerHint(openingHint());
+    _with.backdrop.offerHint(openingHint(_with.commands));
     using Step = void (QVAppController::*)();
     for (const Step step :
          {&QVAppController::runFirstTimeConfig, &QVAppController::askDonation, &QVAppController::checkVersionAtLaunch,
@@ -279,6 +282,8 @@ void QVAppController::cycleDisplays(std::int32_t direction) {
 void QVAppController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
     if (notification.key == kQVEnableTrace)
         gTracingEnabled = _environment.settings.boolForKey(kQVEnableTrace);
+    else if (notification.key == kQVCommandKeys && _is_display_restored)
+        _with.backdrop.offerHint(openingHint(_with.commands));
 }
 
 // Termination

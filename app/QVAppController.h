@@ -19,6 +19,7 @@ class MovieToolkit;
 } // namespace platform
 
 class Activation;
+class CurrentCommands;
 class BackdropView;
 class CommandTarget;
 class FileIntake;
@@ -62,6 +63,7 @@ public:
         SavedState& state;
         RememberedMovies& memory;
         RecentMovies& recent;
+        const CurrentCommands& commands;
     };
     QVAppController(const Environment& environment, const Collaborators& collaborators);
     QVAppController(const QVAppController&) = delete;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/RememberedMovies.h"
 
-#include "control/CommandHelp.h"
+#include "control/CurrentCommands.h"
+#include "control/KeyText.h"
 #include "overlays/ClockText.h"
 #include "platform/base/Localization.h"
 #include "platform/base/PropertyValue.h"
@@ -129,13 +130,16 @@ std::int32_t RememberedMovies::placeOf(const QVMovie& movie) {
 
 /// Once the movie is there.
 void RememberedMovies::sayWhereItGoesOn(double seconds) {
-    const Command* command = commandWithName("beginning");
-    const QString key = command ? readableKeyText(command->keys.front()) : QString();
-    _environment.loop.perform([this, seconds, key, alive = std::weak_ptr<bool>(_alive)] {
-        if (!alive.expired())
-            _with.feedback.postFeedback(
-                platform::localizedFormat(QStringLiteral("ResumedAt"),
-                                          {stringWithTimeIntervalInSeconds(static_cast<std::int32_t>(seconds)), key}));
+    _environment.loop.perform([this, seconds, alive = std::weak_ptr<bool>(_alive)] {
+        if (alive.expired())
+            return;
+        const QString time = stringWithTimeIntervalInSeconds(static_cast<std::int32_t>(seconds));
+        const Command* command = _with.commands.withName("beginning");
+        const bool hasKey = command && command->keys.front().character;
+        _with.feedback.postFeedback(
+            hasKey ? platform::localizedFormat(QStringLiteral("ResumedAt"),
+                                               {time, readableKeyText(command->keys.front().chord())})
+                   : platform::localizedFormat(QStringLiteral("Resumed at %@"), {time}));
     });
 }
 

@@ -23,6 +23,7 @@ class RecentlyUsed;
 class SettingsStorage;
 } // namespace platform
 
+class CurrentCommands;
 class QVMovieView;
 class QVSubtitles;
 
@@ -46,6 +47,7 @@ public:
         platform::RecentlyUsed& desktop;
         QVMovieView& view;
         FeedbackDisplay& feedback;
+        const CurrentCommands& commands;
         std::function<std::shared_ptr<QVSubtitles>()> currentSubtitles;
         /// The track that the next movie is to come with: its file, and its place among the file's tracks.
         std::function<void(const QString& path, std::uint32_t index)> holdSubtitles;

@@ -19,6 +19,14 @@ std::string_view sectionTitle(Section section) {
     return titles[static_cast<std::size_t>(section)];
 }
 
+std::string_view keyTitleOf(const Command& command) {
+    return command.title.empty() ? command.menu.title : command.title;
+}
+
+bool hasChangeableKeys(const Command& command) {
+    return command.operation.perform && command.menu.opens == MenuPlace::Opens::nothing && !keyTitleOf(command).empty();
+}
+
 const Command* commandWithAction(std::int32_t action) {
     return action == noAction ? nullptr
                               : firstCommand([=](const Command& command) { return command.action == action; });

@@ -36,6 +36,16 @@ enum class KeyRepeat {
 /// them, and because no second command may take them.
 enum class KeyTaker { keyboardMap, movieView, window, menu };
 
+/// A key with the modifiers that are held with it, apart from what it means.
+struct KeyChord {
+    /// What the key types, in lower case, or one of platform::functionKey. 0: no key.
+    char16_t character = 0;
+    /// Masks of platform::modifier.
+    std::uint32_t modifiers = 0;
+
+    friend bool operator==(const KeyChord&, const KeyChord&) = default;
+};
+
 /// A key that a command answers to.
 struct CommandKey {
     /// What the key types, in lower case, or one of platform::functionKey. 0: no key.
@@ -50,6 +60,8 @@ struct CommandKey {
     std::uint8_t during = motion::any;
     /// Another way to type the key before it, which need not be shown.
     enum class Shown : bool { no, yes } shown = Shown::yes;
+
+    constexpr KeyChord chord() const { return {character, modifiers}; }
 };
 
 /// The menus of the bar, in their order, and the groups of the help.
@@ -86,6 +98,9 @@ struct MenuPlace {
 
 inline constexpr std::int32_t noAction = -1;
 
+/// So many keys a command may have; a key may fill two places, with another meaning while the movie rests.
+inline constexpr std::size_t maximumKeys = 4;
+
 /// One command of the player.
 struct Command {
     /// An identifier, in lower case with hyphens.
@@ -98,16 +113,25 @@ struct Command {
     /// none.
     std::string_view confirmation = {};
     /// The first one is shown in the menu, but one that the menu takes goes before.
-    std::array<CommandKey, 3> keys = {};
+    std::array<CommandKey, 2 * maximumKeys> keys = {};
     MouseGesture gesture = MouseGesture::none;
     Section section = Section::file;
     MenuPlace menu = {};
     /// The key of the localized text that says what its keys do. Commands of a section with the same text share a line.
     std::string_view help = {};
+    /// The key of the localized title where keys are changed, if that of the menu's item is none, or says too little.
+    std::string_view title = {};
+    /// The command whose keys it has, too, while the movie moves as its own row says.
+    std::string_view keysOf = {};
 };
 
 /// Every command, in the order of menus and help. A command is added as a row here and a function that the row names.
 std::span<const Command> commands();
+
+/// The key of the localized title under which its keys are changed; empty for none.
+std::string_view keyTitleOf(const Command& command);
+/// Whether its keys can be changed: it does something by itself, and has a title.
+bool hasChangeableKeys(const Command& command);
 
 /// Of the playlist menu's items, which are made as it opens.
 inline constexpr const char* changeMovieOperation = "changeMovie";

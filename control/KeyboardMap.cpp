@@ -48,12 +48,18 @@ KeyMeaning repeated(const Command& command, KeyRepeat repeat, const KeyboardStat
     return {Kind::consume};
 }
 
+/// What the movie view does by itself with keys that nobody takes before.
+bool isViewKey(char16_t character) {
+    namespace fnkey = platform::functionKey;
+    return character == fnkey::space || character == fnkey::left || character == fnkey::right;
+}
+
 } // namespace
 
 KeyboardMap::KeyboardMap(std::span<const Command> commands) {
     for (const Command& command : commands)
         for (const CommandKey& key : command.keys)
-            if (key.character && key.taker == KeyTaker::keyboardMap)
+            if (key.character && (key.taker == KeyTaker::keyboardMap || key.taker == KeyTaker::movieView))
                 _entries.push_back({key, &command});
     std::ranges::stable_sort(_entries, [](const Entry& one, const Entry& other) {
         return one.key.character != other.key.character ? one.key.character < other.key.character
@@ -74,8 +80,11 @@ KeyMeaning KeyboardMap::meaning(const KeyEvent& event, const KeyboardState& stat
         const bool isHeld = (event.modifierFlags & entry.key.modifiers) == entry.key.modifiers;
         if (!isHeld || !(entry.key.during & now))
             continue;
+        if (entry.key.taker == KeyTaker::movieView)
+            return {Kind::passOn};
         return event.isRepeat ? repeated(*entry.command, entry.key.repeat, state)
                               : pressed(*entry.command, entry.key.repeat);
     }
-    return {Kind::passOn};
+    // A key of the view that its command has lost is nobody's.
+    return {isViewKey(character) ? Kind::consume : Kind::passOn};
 }

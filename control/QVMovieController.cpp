@@ -6,6 +6,7 @@
 #include "context/MainWindow.h"
 #include "context/Notifications.h"
 #include "control/ApplicationServices.h"
+#include "control/CurrentCommands.h"
 #include "platform/base/Localization.h"
 #include "playback/QVMovieView.h"
 #include "settings/QVPreferencesChangedNotification.h"
@@ -25,7 +26,8 @@ constexpr double repeatInterval = 0.2;
 
 QVMovieController::QVMovieController(const Environment& environment, const Collaborators& collaborators)
     : _environment(environment)
-    , _with(collaborators) {
+    , _with(collaborators)
+    , _keyboardMap(collaborators.commands.all()) {
     _movieChanged = _environment.notifications.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
     // After the subtitles controller, which was made before: the movie has its tracks of the new mode.
@@ -33,6 +35,8 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
         _environment.notifications.observe<QVPreferencesChangedNotification>([this](const auto& changed) {
             if (changed.key == kQVSubtitlesRepair)
                 listSubtitles(_listedMovie.lock());
+            else if (changed.key == kQVCommandKeys)
+                _keyboardMap = KeyboardMap(_with.commands.all());
         });
     _subtitlesLoaded = _environment.notifications.observe<QVSubtitlesLoadedNotification>([this](const auto& loaded) {
         if (loaded.current == _chosenSubtitles.lock())

@@ -22,6 +22,7 @@ class Desktop;
 } // namespace platform
 
 class ApplicationServices;
+class CurrentCommands;
 class FeedbackDisplay;
 class MainWindow;
 class PointerHiding;
@@ -54,6 +55,8 @@ public:
         /// The menus that are filled from the playlist, and from the movie's subtitle tracks.
         platform::Menu& playlistMenu;
         platform::Menu& subtitlesMenu;
+        /// Made before.
+        const CurrentCommands& commands;
     };
     QVMovieController(const Environment& environment, const Collaborators& collaborators);
     QVMovieController(const QVMovieController&) = delete;
@@ -155,7 +158,7 @@ private:
     std::unique_ptr<platform::Timer> _repeatingActionTimer;
     std::int32_t _repeatingAction = noAction;
     Feedback _repeatingActionFeedback = Feedback::no;
-    KeyboardMap _keyboardMap{commands()};
+    KeyboardMap _keyboardMap;
     PacedTimes _pacedTimes;
     std::vector<std::unique_ptr<platform::Timer>> _delayedWork;
     platform::Subscription _movieChanged;

@@ -4,7 +4,7 @@
 
 #include "context/Notifications.h"
 #include "control/ApplicationServices.h"
-#include "control/Commands.h"
+#include "control/CurrentCommands.h"
 #include "control/MenuTitles.h"
 #include "platform/base/Localization.h"
 #include "platform/base/UserDefaults.h"
@@ -126,9 +126,9 @@ void QVMovieController::listSubtitles(const std::shared_ptr<QVMovie>& movie) {
             menu.addItem(track->title(), QStringLiteral("changeSubtitles"), index++);
         menu.addSeparator();
     }
-    MenuItem& repair =
-        menu.addItem(localizedString(QStringLiteral("Repair")), QString::fromLatin1(toggleRepairOperation), 0);
-    repair.keyHint = QStringLiteral("R");
+    _with.commands.showKey(
+        menu.addItem(localizedString(QStringLiteral("Repair")), QString::fromLatin1(toggleRepairOperation), 0),
+        "repair-subtitles");
 }
 
 void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {
@@ -148,9 +148,9 @@ void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {
     if (count == 0)
         return;
     menu.addSeparator();
-    platform::MenuItem& more =
-        menu.addItem(localizedString(QStringLiteral("More...")), QString::fromLatin1(showPlaylistOperation), 0);
-    more.keyHint = QStringLiteral("P");
+    _with.commands.showKey(
+        menu.addItem(localizedString(QStringLiteral("More...")), QString::fromLatin1(showPlaylistOperation), 0),
+        "show-playlist");
 }
 
 std::int32_t QVMovieController::positionOfMenuMovie(std::int32_t tag) const {

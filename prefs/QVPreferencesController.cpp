@@ -8,6 +8,7 @@
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "prefs/EncodingMenu.h"
+#include "prefs/KeysPage.h"
 #include "prefs/LanguageList.h"
 #include "prefs/PageReset.h"
 #include "prefs/PreferencesFilter.h"
@@ -120,6 +121,9 @@ void QVPreferencesController::awakeFromNib() {
 
     setupOwnRows();
     _styles.addTo(*c._subtitlesStyles, *c._overlayStyles, *c._pages);
+    _keys = std::make_unique<KeysPage>(_environment,
+                                       [this](const QVariant& value, const QString& key) { choose(value, key); });
+    c._keysPageLayout->addWidget(_keys->widget());
     setupWholeWindow();
     connectControls();
     _environment.settings.setWriteFailureHandler([this] { settingsNotSaved(); });
@@ -167,6 +171,7 @@ void QVPreferencesController::setupWholeWindow() {
     _reset->add(*c._languages, kQVPreferredLanguages);
     _reset->add(*c._overlayPadding, kQVOverlayDefaultPadding);
     _reset->add(*c._advancedCursorHideDelay, kQVCursorAutohideDelay);
+    _reset->add(*c._keysPageContents, kQVCommandKeys);
     _filter = std::make_unique<PreferencesFilter>(*c._pages);
 }
 
@@ -195,6 +200,7 @@ void QVPreferencesController::connectControls() {
     connect(window, &QDialog::finished, this, [this] { windowWillClose(); });
     window->installEventFilter(this);
     PreferencesPages::prepare(*window);
+    PreferencesPages::orderTabs(*c._pages);
 }
 
 bool QVPreferencesController::eventFilter(QObject* watched, QEvent* event) {

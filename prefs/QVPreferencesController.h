@@ -15,6 +15,7 @@
 #include <vector>
 
 class EncodingMenu;
+class KeysPage;
 class LanguageList;
 class PageReset;
 class PictureSource;
@@ -133,6 +134,7 @@ private:
     JHStringEncodings _encodings;
     std::unique_ptr<EncodingMenu> _subtitlesEncodings;
     StyleSections _styles;
+    std::unique_ptr<KeysPage> _keys;
     std::unique_ptr<SettingSlider> _brightness;
     std::unique_ptr<SettingSlider> _padding;
     std::unique_ptr<LanguageList> _languages;

@@ -22,6 +22,7 @@ inline const QString kQVMainWindowLayer = QStringLiteral("QVMainWindowLayer");
 inline const QString kQVDefaultMovieSize = QStringLiteral("QVDefaultMovieSize");
 inline const QString kQVControllerVisible = QStringLiteral("QVControllerVisible");
 inline const QString kQVJumpInterval = QStringLiteral("QVJumpInterval");
+inline const QString kQVCommandKeys = QStringLiteral("QVCommandKeys");
 inline const QString kQVAutoloadSubtitles = QStringLiteral("QVAutoloadSubtitles");
 inline const QString kQVSortNumerically = QStringLiteral("QVSortNumerically");
 inline const QString kQVSortOnlyFilenames = QStringLiteral("QVSortOnlyFilenames");

@@ -98,7 +98,11 @@ public:
     QVPlaylistController* playlist = nullptr;
     PictureSource* pictures = nullptr;
     const Environment* environment = nullptr;
-    void runHelpPanel() override { ::runHelpPanel(window); }
+    const CurrentCommands* commands = nullptr;
+    void runHelpPanel() override {
+        if (commands)
+            ::runHelpPanel(commands->all(), window);
+    }
     void runPlaylistPanel() override {
         if (playlist && environment)
             ::runPlaylistPanel(*environment, *playlist, window);
@@ -203,6 +207,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         steps.playlist = &player.playlist();
         steps.pictures = &player.view();
         steps.environment = &run.environment();
+        steps.commands = &player.commands();
 
         const auto take = [&](const platform::HandOver& message) {
             desktop.setAssumedModifiers(message.append ? platform::modifier::option : 0);

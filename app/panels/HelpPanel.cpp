@@ -25,12 +25,12 @@ QLabel* boldLabel(const QString& text) {
     return label;
 }
 
-QGridLayout* gridOfCommands() {
+QGridLayout* gridOf(std::span<const Command> commands) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(24);
     int row = 0;
     const HelpLine* before = nullptr;
-    const std::vector<HelpLine> lines = helpLines(commands());
+    const std::vector<HelpLine> lines = helpLines(commands);
     for (const HelpLine& line : lines) {
         if (!before || before->section != line.section)
             grid->addWidget(boldLabel(localized(sectionTitle(line.section))), row++, 0, 1, 2);
@@ -43,11 +43,11 @@ QGridLayout* gridOfCommands() {
 
 } // namespace
 
-void runHelpPanel(QWindow* window) {
+void runHelpPanel(std::span<const Command> commands, QWindow* window) {
     QDialog panel;
     panel.setWindowTitle(platform::localizedString(QStringLiteral("Help")));
     auto* layout = new QVBoxLayout(&panel);
-    layout->addLayout(gridOfCommands());
+    layout->addLayout(gridOf(commands));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &panel, &QDialog::reject);
     layout->addWidget(buttons);

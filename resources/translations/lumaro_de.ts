@@ -1634,8 +1634,8 @@
         <source>Folders stay together</source>
         <translation>Ordner bleiben zusammen</translation>
     </message>
-    <message id="By the file name onl&amp;y">
-        <source>By the file name onl&amp;y</source>
+    <message id="By the f&amp;ile name only">
+        <source>By the f&amp;ile name only</source>
         <translation>Nur nach dem Datei&amp;namen</translation>
     </message>
     <message id="Whatever folders the movies lie in">
@@ -2014,6 +2014,166 @@
         <source>What you change acts until Lumaro quits. The file “%@” can’t be written.</source>
         <translation>Was Sie ändern, gilt, bis Lumaro beendet wird. Die Datei „%@“ kann nicht geschrieben werden.</translation>
     </message>
+    <message id="Short&amp;cuts">
+        <source>Short&amp;cuts</source>
+        <translation>Tastenk&amp;ürzel</translation>
+    </message>
+    <message id="S&amp;earch:">
+        <source>S&amp;earch:</source>
+        <translation>Su&amp;chen:</translation>
+    </message>
+    <message id="Words of a command, or its key">
+        <source>Words of a command, or its key</source>
+        <translation>Wörter eines Befehls oder seine Taste</translation>
+    </message>
+    <message id="The commands by menu; bold ones have keys of your own">
+        <source>The commands by menu; bold ones have keys of your own</source>
+        <translation>Die Befehle nach Menüs; fett sind solche mit eigenen Tasten</translation>
+    </message>
+    <message id="Commands and their keys">
+        <source>Commands and their keys</source>
+        <translation>Befehle und ihre Tasten</translation>
+    </message>
+    <message id="Command">
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message id="Keys">
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message id="&amp;Keys of the command:">
+        <source>&amp;Keys of the command:</source>
+        <translation>&amp;Tasten des Befehls:</translation>
+    </message>
+    <message id="The keys of the command that is marked">
+        <source>The keys of the command that is marked</source>
+        <translation>Die Tasten des markierten Befehls</translation>
+    </message>
+    <message id="A&amp;dd Key...">
+        <source>A&amp;dd Key...</source>
+        <translation>Taste &amp;hinzufügen ...</translation>
+    </message>
+    <message id="Then press the key, with Ctrl, Alt, Shift or Super if you like">
+        <source>Then press the key, with Ctrl, Alt, Shift or Super if you like</source>
+        <translation>Danach die Taste drücken, auch mit Strg, Alt, Umschalt oder Super</translation>
+    </message>
+    <message id="Remo&amp;ve Key">
+        <source>Remo&amp;ve Key</source>
+        <translation>Taste entfer&amp;nen</translation>
+    </message>
+    <message id="The marked key means nothing any more">
+        <source>The marked key means nothing any more</source>
+        <translation>Die markierte Taste bedeutet nichts mehr</translation>
+    </message>
+    <message id="Rese&amp;t Command">
+        <source>Rese&amp;t</source>
+        <translation>Befehl zu&amp;rücksetzen</translation>
+    </message>
+    <message id="The command gets back the keys that Lumaro came with">
+        <source>The command gets back the keys that Lumaro came with</source>
+        <translation>Der Befehl bekommt die Tasten zurück, mit denen Lumaro ausgeliefert wird</translation>
+    </message>
+    <message id="Reset A&amp;ll Keys">
+        <source>Reset A&amp;ll</source>
+        <translation>A&amp;lle zurücksetzen</translation>
+    </message>
+    <message id="Every command gets back the keys that Lumaro came with">
+        <source>Every command gets back the keys that Lumaro came with</source>
+        <translation>Jeder Befehl bekommt die Tasten zurück, mit denen Lumaro ausgeliefert wird</translation>
+    </message>
+    <message id="&amp;Undo Key Change">
+        <source>&amp;Undo</source>
+        <translation>Rück&amp;gängig</translation>
+    </message>
+    <message id="Takes back the last change of a key">
+        <source>Takes back the last change of a key</source>
+        <translation>Nimmt die letzte Änderung einer Taste zurück</translation>
+    </message>
+    <message id="Take &amp;It Over">
+        <source>Take &amp;It Over</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message id="The key means the marked command from now on">
+        <source>The key means the marked command from now on</source>
+        <translation>Die Taste bedeutet von nun an den markierten Befehl</translation>
+    </message>
+    <message id="Ca&amp;ncel Key">
+        <source>Ca&amp;ncel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message id="The key keeps its meaning">
+        <source>The key keeps its meaning</source>
+        <translation>Die Taste behält ihre Bedeutung</translation>
+    </message>
+    <message id="Press a key for “%@”. Esc goes back.">
+        <source>Press a key for “%@”. Esc goes back.</source>
+        <translation>Drücken Sie eine Taste für „%@“. Esc bricht ab.</translation>
+    </message>
+    <message id="Lumaro does not know this key.">
+        <source>Lumaro does not know this key.</source>
+        <translation>Diese Taste kennt Lumaro nicht.</translation>
+    </message>
+    <message id="Esc closes windows and ends Lumaro; that can’t be changed.">
+        <source>Esc closes windows and ends Lumaro; that can’t be changed.</source>
+        <translation>Esc schließt Fenster und beendet Lumaro; das lässt sich nicht ändern.</translation>
+    </message>
+    <message id="%@ belongs to the desktop.">
+        <source>%@ belongs to the desktop.</source>
+        <translation>%@ gehört der Arbeitsumgebung.</translation>
+    </message>
+    <message id="%@ means “%@” already.">
+        <source>%@ means “%@” already.</source>
+        <translation>%@ bedeutet schon „%@“.</translation>
+    </message>
+    <message id="“%@” has as many keys as it can have; remove one first.">
+        <source>“%@” has as many keys as it can have; remove one first.</source>
+        <translation>„%@“ hat so viele Tasten wie möglich; entfernen Sie erst eine.</translation>
+    </message>
+    <message id="%@ means “%@” now.">
+        <source>%@ means “%@” now.</source>
+        <translation>%@ bedeutet jetzt „%@“.</translation>
+    </message>
+    <message id="Stop">
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message id="Next Looping">
+        <source>Next Looping</source>
+        <translation>Nächste Wiederholung</translation>
+    </message>
+    <message id="Previous Looping">
+        <source>Previous Looping</source>
+        <translation>Vorherige Wiederholung</translation>
+    </message>
+    <message id="Show Playlist">
+        <source>Show Playlist</source>
+        <translation>Playlist zeigen</translation>
+    </message>
+    <message id="Next Subtitles">
+        <source>Next Subtitles</source>
+        <translation>Nächste Untertitel</translation>
+    </message>
+    <message id="Previous Subtitles">
+        <source>Previous Subtitles</source>
+        <translation>Vorherige Untertitel</translation>
+    </message>
+    <message id="No Subtitles">
+        <source>No Subtitles</source>
+        <translation>Keine Untertitel</translation>
+    </message>
+    <message id="Open a movie from the menu">
+        <source>Open a movie from the menu</source>
+        <translation>Im Menü einen Film öffnen</translation>
+    </message>
+    <message id="or drop files here.">
+        <source>or drop files here.</source>
+        <translation>oder Dateien hierher ziehen.</translation>
+    </message>
+    <message id="Keys of the command">
+        <source>Keys of the command</source>
+        <translation>Tasten des Befehls</translation>
+    </message>
 </context>
 <context>
     <name>Opening</name>
@@ -2104,6 +2264,10 @@
     <message id="OpenErrorNotAnAddress">
         <source>It is neither an address nor the path of a file.</source>
         <translation>Das ist weder eine Adresse noch der Pfad einer Datei.</translation>
+    </message>
+    <message id="Resumed at %@">
+        <source>Resumed at %@</source>
+        <translation>Fortgesetzt bei %@</translation>
     </message>
 </context>
 </TS>

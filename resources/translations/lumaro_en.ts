@@ -1634,9 +1634,9 @@
         <source>Folders stay together</source>
         <translation>Folders stay together</translation>
     </message>
-    <message id="By the file name onl&amp;y">
-        <source>By the file name onl&amp;y</source>
-        <translation>By the file name onl&amp;y</translation>
+    <message id="By the f&amp;ile name only">
+        <source>By the f&amp;ile name only</source>
+        <translation>By the f&amp;ile name only</translation>
     </message>
     <message id="Whatever folders the movies lie in">
         <source>Whatever folders the movies lie in</source>
@@ -2014,6 +2014,166 @@
         <source>What you change acts until Lumaro quits. The file “%@” can’t be written.</source>
         <translation>What you change acts until Lumaro quits. The file “%@” can’t be written.</translation>
     </message>
+    <message id="Short&amp;cuts">
+        <source>Short&amp;cuts</source>
+        <translation>Short&amp;cuts</translation>
+    </message>
+    <message id="S&amp;earch:">
+        <source>S&amp;earch:</source>
+        <translation>S&amp;earch:</translation>
+    </message>
+    <message id="Words of a command, or its key">
+        <source>Words of a command, or its key</source>
+        <translation>Words of a command, or its key</translation>
+    </message>
+    <message id="The commands by menu; bold ones have keys of your own">
+        <source>The commands by menu; bold ones have keys of your own</source>
+        <translation>The commands by menu; bold ones have keys of your own</translation>
+    </message>
+    <message id="Commands and their keys">
+        <source>Commands and their keys</source>
+        <translation>Commands and their keys</translation>
+    </message>
+    <message id="Command">
+        <source>Command</source>
+        <translation>Command</translation>
+    </message>
+    <message id="Keys">
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message id="&amp;Keys of the command:">
+        <source>&amp;Keys of the command:</source>
+        <translation>&amp;Keys of the command:</translation>
+    </message>
+    <message id="The keys of the command that is marked">
+        <source>The keys of the command that is marked</source>
+        <translation>The keys of the command that is marked</translation>
+    </message>
+    <message id="A&amp;dd Key...">
+        <source>A&amp;dd Key...</source>
+        <translation>A&amp;dd Key...</translation>
+    </message>
+    <message id="Then press the key, with Ctrl, Alt, Shift or Super if you like">
+        <source>Then press the key, with Ctrl, Alt, Shift or Super if you like</source>
+        <translation>Then press the key, with Ctrl, Alt, Shift or Super if you like</translation>
+    </message>
+    <message id="Remo&amp;ve Key">
+        <source>Remo&amp;ve Key</source>
+        <translation>Remo&amp;ve Key</translation>
+    </message>
+    <message id="The marked key means nothing any more">
+        <source>The marked key means nothing any more</source>
+        <translation>The marked key means nothing any more</translation>
+    </message>
+    <message id="Rese&amp;t Command">
+        <source>Rese&amp;t</source>
+        <translation>Rese&amp;t</translation>
+    </message>
+    <message id="The command gets back the keys that Lumaro came with">
+        <source>The command gets back the keys that Lumaro came with</source>
+        <translation>The command gets back the keys that Lumaro came with</translation>
+    </message>
+    <message id="Reset A&amp;ll Keys">
+        <source>Reset A&amp;ll</source>
+        <translation>Reset A&amp;ll</translation>
+    </message>
+    <message id="Every command gets back the keys that Lumaro came with">
+        <source>Every command gets back the keys that Lumaro came with</source>
+        <translation>Every command gets back the keys that Lumaro came with</translation>
+    </message>
+    <message id="&amp;Undo Key Change">
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message id="Takes back the last change of a key">
+        <source>Takes back the last change of a key</source>
+        <translation>Takes back the last change of a key</translation>
+    </message>
+    <message id="Take &amp;It Over">
+        <source>Take &amp;It Over</source>
+        <translation>Take &amp;It Over</translation>
+    </message>
+    <message id="The key means the marked command from now on">
+        <source>The key means the marked command from now on</source>
+        <translation>The key means the marked command from now on</translation>
+    </message>
+    <message id="Ca&amp;ncel Key">
+        <source>Ca&amp;ncel</source>
+        <translation>Ca&amp;ncel</translation>
+    </message>
+    <message id="The key keeps its meaning">
+        <source>The key keeps its meaning</source>
+        <translation>The key keeps its meaning</translation>
+    </message>
+    <message id="Press a key for “%@”. Esc goes back.">
+        <source>Press a key for “%@”. Esc goes back.</source>
+        <translation>Press a key for “%@”. Esc goes back.</translation>
+    </message>
+    <message id="Lumaro does not know this key.">
+        <source>Lumaro does not know this key.</source>
+        <translation>Lumaro does not know this key.</translation>
+    </message>
+    <message id="Esc closes windows and ends Lumaro; that can’t be changed.">
+        <source>Esc closes windows and ends Lumaro; that can’t be changed.</source>
+        <translation>Esc closes windows and ends Lumaro; that can’t be changed.</translation>
+    </message>
+    <message id="%@ belongs to the desktop.">
+        <source>%@ belongs to the desktop.</source>
+        <translation>%@ belongs to the desktop.</translation>
+    </message>
+    <message id="%@ means “%@” already.">
+        <source>%@ means “%@” already.</source>
+        <translation>%@ means “%@” already.</translation>
+    </message>
+    <message id="“%@” has as many keys as it can have; remove one first.">
+        <source>“%@” has as many keys as it can have; remove one first.</source>
+        <translation>“%@” has as many keys as it can have; remove one first.</translation>
+    </message>
+    <message id="%@ means “%@” now.">
+        <source>%@ means “%@” now.</source>
+        <translation>%@ means “%@” now.</translation>
+    </message>
+    <message id="Stop">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="Next Looping">
+        <source>Next Looping</source>
+        <translation>Next Looping</translation>
+    </message>
+    <message id="Previous Looping">
+        <source>Previous Looping</source>
+        <translation>Previous Looping</translation>
+    </message>
+    <message id="Show Playlist">
+        <source>Show Playlist</source>
+        <translation>Show Playlist</translation>
+    </message>
+    <message id="Next Subtitles">
+        <source>Next Subtitles</source>
+        <translation>Next Subtitles</translation>
+    </message>
+    <message id="Previous Subtitles">
+        <source>Previous Subtitles</source>
+        <translation>Previous Subtitles</translation>
+    </message>
+    <message id="No Subtitles">
+        <source>No Subtitles</source>
+        <translation>No Subtitles</translation>
+    </message>
+    <message id="Open a movie from the menu">
+        <source>Open a movie from the menu</source>
+        <translation>Open a movie from the menu</translation>
+    </message>
+    <message id="or drop files here.">
+        <source>or drop files here.</source>
+        <translation>or drop files here.</translation>
+    </message>
+    <message id="Keys of the command">
+        <source>Keys of the command</source>
+        <translation>Keys of the command</translation>
+    </message>
 </context>
 <context>
     <name>Opening</name>
@@ -2104,6 +2264,10 @@
     <message id="OpenErrorNotAnAddress">
         <source>It is neither an address nor the path of a file.</source>
         <translation>It is neither an address nor the path of a file.</translation>
+    </message>
+    <message id="Resumed at %@">
+        <source>Resumed at %@</source>
+        <translation>Resumed at %@</translation>
     </message>
 </context>
 </TS>

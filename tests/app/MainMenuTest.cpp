@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/MainMenu.h"
 #include "platform/base/Localization.h"
+#include "settings/QVPreferencesChangedNotification.h"
+#include "settings/SettingsKeys.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +28,9 @@ QString written(const platform::Menu& menu) {
 
 TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_them) {
     platform::setLocalizationLanguages({"en"});
-    MainMenu menu;
+    TestEnvironment env;
+    const CurrentCommands commands(env.environment);
+    MainMenu menu(env.environment, commands);
     QStringList titles;
     for (int index = 0; index < menu.bar().count(); ++index)
         titles.append(menu.bar().itemAt(index).title);
@@ -54,5 +59,17 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(), "None changeSubtitles -1 (S)\n-\nRepair toggleRepair 0 (R)");
     EXPECT_EQ(shown(6), "Next Screen switchScreen 1 (Tab)\nPrevious Screen switchScreen -1 (Shift+Tab)");
     EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 [F1]");
+    // The user gives Ctrl+Q to the help, X to looping off, F2 to the opening of files, and nothing to bigger.
+    env.defaults().setObject(QVariantMap{{"help", QVariantList{"Ctrl+Q"}},
+                                         {"looping-off", QVariantList{"X"}},
+                                         {"open", QVariantList{"F2", "Ctrl+O"}},
+                                         {"bigger", QVariantList{}}},
+                             kQVCommandKeys);
+    env.notifications.post(QVPreferencesChangedNotification{kQVCommandKeys});
+    EXPECT_TRUE(shown(0).starts_with("Open... doOpen 0 [Ctrl+O]\n"));
+    EXPECT_TRUE(shown(0).ends_with("Quit quit 0 (Esc)"));
+    EXPECT_NE(shown(1).find("Bigger changeSize -2\n"), std::string::npos);
+    EXPECT_NE(shown(2).find("Looping Off changeLooping 0 (X)\n"), std::string::npos);
+    EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 (Ctrl+Q)");
     platform::setLocalizationLanguages({});
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/Commands.h"
 #include "control/CommandHelp.h"
+#include "control/KeyText.h"
 #include "platform/base/Localization.h"
 #include "platform/window/Events.h"
 
@@ -114,8 +115,8 @@ TEST(Commands, keys_are_written_for_menus_and_for_people) {
         {{u'-', modifier::option | modifier::shift}, "Alt+Shift+-", "Alt+Shift+\u2212"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(portableKeyText(c.key).toStdString(), c.portable);
-        EXPECT_EQ(readableKeyText(c.key).toStdString(), c.readable);
+        EXPECT_EQ(portableKeyText(c.key.chord()).toStdString(), c.portable);
+        EXPECT_EQ(readableKeyText(c.key.chord()).toStdString(), c.readable);
     }
 }
 
@@ -162,7 +163,8 @@ TEST(Commands, every_text_of_a_command_is_translated) {
     platform::setLocalizationLanguages({"de"});
     std::set<std::string_view> texts;
     for (const Command& command : commands())
-        texts.insert({sectionTitle(command.section), command.menu.title, command.help, command.confirmation});
+        texts.insert(
+            {sectionTitle(command.section), command.menu.title, command.help, command.confirmation, command.title});
     texts.erase("");
     texts.erase("Playlist"); // the same in German
     for (const std::string_view text : texts)

@@ -4,6 +4,7 @@
 #include "context/MainWindow.h"
 #include "context/Notifications.h"
 #include "control/ApplicationServices.h"
+#include "control/CurrentCommands.h"
 #include "control/QVMovieController.h"
 #include "platform/base/Localization.h"
 #include "playlist/MovieMemory.h"
@@ -124,7 +125,8 @@ protected:
     NoViews scene;
     RecordingSubtitles subtitles{settings.environment, scene};
     platform::Menu playlistMenu, subtitlesMenu;
+    CurrentCommands currentCommands{settings.environment};
     QVMovieController controller{settings.environment,
                                  {window, mainWindow, view, playlist, subtitles, confirmations, pointer, desktop,
-                                  services, playlistMenu, subtitlesMenu}};
+                                  services, playlistMenu, subtitlesMenu, currentCommands}};
 };

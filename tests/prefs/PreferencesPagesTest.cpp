@@ -204,7 +204,7 @@ TEST_F(PreferencesWindow, a_control_is_found_by_its_words) {
         const char *language, *typed, *page, *result;
         const char* found; // what Return goes to
     } cases[] = {
-        {"en", "volume", "_moviePage", "1 of 2", "_volumeSave"},
+        {"en", "volume", "_moviePage", "1 of 3", "_volumeSave"},               // commands, too
         {"en", "LOOP one", "_playlistPage", "1 of 1", "_playlistDefaultLoop"}, // an item
         {"en", "paragraph", "_moviePage", "Nothing found", ""},
         {"en", "pointer hide", "_advancedPage", "1 of 1", "_advancedCursorHideDelay"}, // group and label

@@ -528,7 +528,8 @@ TEST(PreferencesInterface, every_text_of_the_interface_file_is_a_message_of_the_
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
         return QString::fromUtf8(file.readAll());
     };
-    const QString interface = contentsOf(LUMARO_SOURCE_DIR "/resources/interface/Preferences.ui");
+    const QString interface = contentsOf(LUMARO_SOURCE_DIR "/resources/interface/Preferences.ui") +
+                              contentsOf(LUMARO_SOURCE_DIR "/resources/interface/Keys.ui");
     const QString english = contentsOf(LUMARO_SOURCE_DIR "/resources/translations/lumaro_en.ts");
     auto texts = QRegularExpression("<string>([^<]*)</string>").globalMatch(interface);
     EXPECT_TRUE(texts.hasNext());

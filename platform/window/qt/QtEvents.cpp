@@ -23,8 +23,19 @@ QString characters(const QKeyEvent& event) {
         return QChar(functionKey::left);
     case Qt::Key_Right:
         return QChar(functionKey::right);
-    case Qt::Key_F1:
-        return QChar(functionKey::f1);
+    case Qt::Key_Insert:
+        return QChar(functionKey::insert);
+    case Qt::Key_Delete:
+        return QChar(functionKey::remove);
+    case Qt::Key_Home:
+        return QChar(functionKey::home);
+    case Qt::Key_End:
+        return QChar(functionKey::end);
+    case Qt::Key_Backspace:
+        return QChar(functionKey::backspace);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return QChar(functionKey::enter);
     case Qt::Key_PageUp:
         return QChar(functionKey::pageUp);
     case Qt::Key_PageDown:
@@ -54,6 +65,8 @@ QString characters(const QKeyEvent& event) {
     default:
         break;
     }
+    if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12)
+        return QChar(static_cast<char16_t>(functionKey::f1 + (event.key() - Qt::Key_F1)));
     // The key rather than its text: Control turns a letter's text into a control character.
     if (event.key() >= Qt::Key_Space && event.key() < 0x10000)
         return QChar(static_cast<char16_t>(event.key()));
