@@ -9,6 +9,8 @@
 #include <cmath>
 
 ColorWell::ColorWell() {
+    // In a dialog Return would open the colors of the first one, whichever control has the keyboard.
+    setAutoDefault(false);
     connect(this, &QPushButton::clicked, this, [this] { openDialog(); });
 }
 

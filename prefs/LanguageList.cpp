@@ -2,6 +2,7 @@
 #include "prefs/LanguageList.h"
 
 #include "platform/base/LanguageNames.h"
+#include "platform/base/UserDefaults.h"
 #include "settings/PreferredLanguages.h"
 #include "settings/SettingsKeys.h"
 
@@ -55,8 +56,12 @@ void LanguageList::offerLanguages() {
 }
 
 void LanguageList::show(const platform::UserDefaults& settings) {
-    if (const QStringList now = PreferredLanguages::of(settings); now != tags() || now.isEmpty())
+    const QStringList now = PreferredLanguages::of(settings);
+    _isSystems = settings.stringArrayForKey(kQVPreferredLanguages).isEmpty();
+    if (now != tags())
         show(now, std::max(0, _parts.list.currentRow()));
+    else
+        enableButtons();
 }
 
 void LanguageList::show(const QStringList& tags, qsizetype selected) {
@@ -114,7 +119,15 @@ void LanguageList::remove() {
 
 void LanguageList::enableButtons() {
     const int row = _parts.list.currentRow();
-    _parts.up.setEnabled(row > 0);
-    _parts.down.setEnabled(row >= 0 && row + 1 < _parts.list.count());
-    _parts.remove.setEnabled(row >= 0);
+    const int count = _parts.list.count();
+    const auto enable = [this](QPushButton& button, bool enabled) {
+        // The keyboard would go on to the next button, which does the opposite.
+        if (!enabled && button.window()->focusWidget() == &button)
+            _parts.list.setFocus();
+        button.setEnabled(enabled);
+    };
+    enable(_parts.up, row > 0);
+    enable(_parts.down, row >= 0 && row + 1 < count);
+    // The only language of the system would come back.
+    enable(_parts.remove, row >= 0 && (count > 1 || !_isSystems));
 }

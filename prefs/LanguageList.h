@@ -47,4 +47,6 @@ private:
 
     Parts _parts;
     Choose _choose;
+    /// Whether the languages shown are the system's.
+    bool _isSystems = true;
 };

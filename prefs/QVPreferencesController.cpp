@@ -138,7 +138,10 @@ void QVPreferencesController::setupOwnRows() {
     };
     _languages = std::make_unique<LanguageList>(
         LanguageList::Parts{*c._languages, *c._languageAdd, *c._languageUp, *c._languageDown, *c._languageRemove},
-        choosing);
+        [this, choosing](const QVariant& value, const QString& key) {
+            choosing(value, key);
+            _languages->show(_environment.settings); // an emptied list is the system's again
+        });
     _padding = std::make_unique<SettingSlider>(
         SettingSlider::Parts{*c._overlayPadding, *c._overlayPaddingValue, kQVOverlayDefaultPadding, 1, "%d pt"},
         choosing);

@@ -145,8 +145,19 @@ TEST_F(PreferencesWindow, languages_are_added_moved_and_removed) {
     EXPECT_EQ(stored(kQVPreferredLanguages), QStringList{"en-US"});
     click("_languageRemove");
     EXPECT_EQ(stored(kQVPreferredLanguages), QStringList());
-    controller->syncWithDefaults();
     EXPECT_EQ(shown(), "English (US) German") << "the system's again";
+    // At the end of the list the keyboard stays with it, and does not go on to the button that moves back.
+    openPage("_subtitlesPage");
+    control<QPushButton>("_languageDown").setFocus();
+    click("_languageDown");
+    EXPECT_EQ(controller->window().focusWidget(), &list);
+    EXPECT_EQ(shown(), "German English (US)");
+
+    platform::setLocalizationLanguages({"en"});
+    show({{kQVPreferredLanguages, QVariantList()}});
+    EXPECT_FALSE(control<QPushButton>("_languageRemove").isEnabled()) << "it would come back";
+    show({{kQVPreferredLanguages, QVariantList{"en"}}});
+    EXPECT_TRUE(control<QPushButton>("_languageRemove").isEnabled());
     show({{kQVPreferredLanguages, QVariantList{"xx-unknown", 7, "pt-BR"}}});
     EXPECT_EQ(control<QListWidget>("_languages").count(), 2);
     EXPECT_EQ(control<QListWidget>("_languages").item(0)->text(), "xx-unknown");
@@ -227,6 +238,8 @@ TEST_F(PreferencesWindow, a_control_is_found_by_its_words) {
         }
         EXPECT_EQ(keys, QStringList()) << "finding changes nothing";
     }
+    for (const auto* button : controller->window().findChildren<QPushButton*>())
+        EXPECT_FALSE(button->autoDefault()) << "Return would press " << button->objectName().toStdString();
     auto& field = control<QLineEdit>("_find");
     const auto& result = control<QLabel>("_findResult");
     field.setText("film");
