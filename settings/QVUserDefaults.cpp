@@ -2,11 +2,19 @@
 #include "settings/QVUserDefaults.h"
 
 #include "platform/base/Bundle.h"
+#include "platform/base/Log.h"
 #include "platform/base/PropertyList.h"
 #include "platform/base/PropertyValue.h"
 #include "settings/ColorText.h"
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/SettingsKeys.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -21,13 +29,36 @@ constexpr std::int32_t kBuildWithNewMirrorList = 38;
 constexpr std::int32_t showOpenPanel = 2;
 constexpr std::int32_t orderOfAdding = 0;
 
+/// What lies over the shipped values, from the bottom: what packages add to the resources, in the order of the names,
+/// and what the system's administrator says, in the system's configuration folders.
+QStringList filesOfDistribution() {
+    QStringList files;
+    const QDir additions(platform::Bundle::main().resourcePath() + QStringLiteral("/UserDefaults.d"));
+    for (const QString& name : additions.entryList({QStringLiteral("*.plist")}, QDir::Files, QDir::Name))
+        files.append(additions.filePath(name));
+    const QString given = qEnvironmentVariable("XDG_CONFIG_DIRS");
+    QStringList folders = (given.isEmpty() ? QStringLiteral("/etc/xdg") : given).split(u':', Qt::SkipEmptyParts);
+    std::reverse(folders.begin(), folders.end()); // the first of them counts most
+    for (const QString& folder : std::as_const(folders)) {
+        if (const QString path = folder + QStringLiteral("/lumaro/UserDefaults.plist");
+            QDir::isAbsolutePath(folder) && QFileInfo::exists(path))
+            files.append(path);
+    }
+    return files;
+}
+
 void registerShippedDefaults(UserDefaults& defaults) {
     const QString path =
         platform::Bundle::main().pathForResource(QStringLiteral("UserDefaults"), QStringLiteral("plist"));
-    if (path.isEmpty())
-        return;
-    if (const auto shipped = platform::propertyList::readDictionary(path))
+    if (const auto shipped =
+            path.isEmpty() ? std::optional<QVariantMap>() : platform::propertyList::readDictionary(path))
         defaults.registerDefaults(*shipped);
+    for (const QString& file : filesOfDistribution()) {
+        if (const auto values = platform::propertyList::readDictionary(file))
+            defaults.registerDefaults(*values);
+        else
+            platform::Log::write(QStringLiteral("WARNING: The settings in %1 can't be read.").arg(file));
+    }
 }
 
 /// Sets `key` when the old switch was turned off by the user, and drops the switch.

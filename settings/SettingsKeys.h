@@ -76,6 +76,9 @@ inline const QString kQVAskDonationAfter = QStringLiteral("QVAskDonationAfter");
 // Named otherwise than their keys.
 inline const QString kQVMovieCustomScale = QStringLiteral("QVDefaultMovieSizeScale");
 inline const QString kQVNewVersionSkipToBuild = QStringLiteral("QVNewVersionSkipTo");
+/// The root addresses of the version check's mirrors, the one that answered last first, and the path of its data.
+inline const QString kVersionMirrorsKey = QStringLiteral("org.lumaro.VersionMirrors");
+inline const QString kVersionDataKey = QStringLiteral("org.lumaro.VersionData");
 /// Where builds before 38 kept the mirror list of the version check.
 inline const QString kLegacyVersionMirrorsKey = QStringLiteral("org.lumaro.VersionMirrorSites");
 /// The folder in which the next open panel starts.

@@ -71,7 +71,7 @@ std::unique_ptr<ChildProcess> Player::start(const std::string& display, const st
         child.environment["QT_QPA_PLATFORM"] = "xcb";
         arguments = {LUMARO_PROGRAM, "--software", "--set", "QVOnLaunchDefaultAction=0",
                      // What a run before this one showed is kept.
-                     "--set", "QVOSDStateSavedType=0"};
+                     "--set", "QVOSDStateSavedType=0", "--set", "QVLastVersionSeen=1000000"};
         break;
     }
     append(arguments, options);

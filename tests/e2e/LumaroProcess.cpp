@@ -15,11 +15,12 @@ harness::ChildProcess::Options LumaroProcess::optionsFor(const LumaroUser& user,
     options.workingDirectory = workingDirectory;
     options.withoutEnvironment = {"DISPLAY",         "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
                                   "QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "LANG",
-                                  "LC_ALL"};
+                                  "LC_ALL",          "http_proxy"};
     options.environment = {{"HOME", user.folder().string()},
                            {"XDG_CONFIG_HOME", (user.folder() / "config").string()},
                            {"XDG_STATE_HOME", (user.folder() / "state").string()},
                            {"XDG_DATA_HOME", (user.folder() / "data").string()},
+                           {"XDG_CONFIG_DIRS", user.systemFolder().string()},
                            {"XDG_RUNTIME_DIR", user.runtimeFolder().string()},
                            // Never the machine's own: it could be sent to sleep.
                            {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent"},

@@ -15,8 +15,18 @@
 // them, as on a real desktop. Movies of the test's own may lie there too.
 class LumaroUser {
 public:
+    LumaroUser() { configureSystem("<key>QVLastVersionSeen</key><integer>1000000</integer>"); }
     std::filesystem::path folder() const { return _folder.path().toStdString(); }
     std::filesystem::path settingsFile() const { return folder() / "config/lumaro/org.lumaro.Lumaro.plist"; }
+    // Where the system's administrator configures the player for every user.
+    std::filesystem::path systemFolder() const { return folder() / "etc"; }
+    // Keys and values of a property list. To begin with there is one entry: the questions of a first launch are
+    // answered.
+    void configureSystem(const std::string& entries) const {
+        std::filesystem::create_directories(systemFolder() / "lumaro");
+        std::ofstream file(systemFolder() / "lumaro/UserDefaults.plist");
+        file << "<plist version=\"1.0\"><dict>" << entries << "</dict></plist>\n";
+    }
     // What the settings file holds; empty without one.
     std::string settingsText() const {
         std::ifstream file(settingsFile());

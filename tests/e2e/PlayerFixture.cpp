@@ -22,8 +22,7 @@ namespace {
 
 std::vector<std::string> withQuietLaunch(const std::vector<std::string>& arguments) {
     std::vector<std::string> all;
-    for (const char* setting :
-         {"QVEnableTrace=1", "QVOnLaunchDefaultAction=0", "QVAskDonation=0", "QVNewVersionShouldCheck=0"})
+    for (const char* setting : {"QVEnableTrace=1", "QVOnLaunchDefaultAction=0"})
         all.insert(all.end(), {"--set", setting});
     all.insert(all.end(), arguments.begin(), arguments.end());
     return all;

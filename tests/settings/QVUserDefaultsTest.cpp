@@ -4,6 +4,7 @@
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/CapturedLog.h"
+#include "tests/support/Files.h"
 #include "tests/support/TestSettings.h"
 
 #include <gtest/gtest.h>
@@ -73,4 +74,36 @@ TEST(QVUserDefaults, the_shipped_values_keep_to_their_ranges_and_every_style_is_
         EXPECT_GT(values.maxAlpha, values.minAlpha);
     }
     EXPECT_TRUE(log.lines().isEmpty());
+}
+
+TEST(QVUserDefaults, a_distribution_lays_values_over_the_shipped_ones_and_the_administrator_over_those) {
+    QTemporaryDir folder;
+    auto& bundle = platform::Bundle::main();
+    const QString resources = bundle.resourcePath();
+    const auto write = [&](const QString& name, const char* entries) {
+        writeFile(folder.filePath(name), QByteArray("<plist><dict>") + entries + "</dict></plist>");
+    };
+    write("share/UserDefaults.plist", "<key>a</key><integer>1</integer><key>b</key><integer>1</integer>"
+                                      "<key>c</key><integer>1</integer><key>d</key><integer>1</integer>");
+    write("share/UserDefaults.d/20-later.plist", "<key>b</key><integer>3</integer>");
+    write("share/UserDefaults.d/10-first.plist", "<key>b</key><integer>2</integer><key>c</key><integer>2</integer>");
+    write("share/UserDefaults.d/read.me", "<key>a</key><integer>9</integer>");
+    write("share/UserDefaults.d/30-bad.plist", "<key>");
+    write("far/lumaro/UserDefaults.plist", "<key>c</key><integer>4</integer><key>d</key><integer>4</integer>");
+    write("near/lumaro/UserDefaults.plist", "<key>d</key><integer>5</integer>");
+    const QByteArray before = qgetenv("XDG_CONFIG_DIRS");
+    qputenv("XDG_CONFIG_DIRS", (folder.filePath("near") + "::relative:" + folder.filePath("far")).toUtf8());
+    bundle.setResourcePath(folder.filePath("share"));
+    {
+        const CapturedLog log;
+        TestSettings settings;
+        for (const auto& [key, value] : {std::pair{"a", 1}, std::pair{"b", 3}, std::pair{"c", 4}, std::pair{"d", 5}})
+            EXPECT_EQ(settings.defaults().integerForKey(key), value) << key;
+        EXPECT_EQ(log.lines().size(), 1) << log.lines().join('\n').toStdString();
+        EXPECT_TRUE(log.contains("30-bad.plist can't be read."));
+        settings.defaults().setInteger(7, "d");
+        EXPECT_EQ(settings.defaults().integerForKey("d"), 7) << "the user's own value";
+    }
+    bundle.setResourcePath(resources);
+    before.isEmpty() ? qunsetenv("XDG_CONFIG_DIRS") : qputenv("XDG_CONFIG_DIRS", before);
 }
