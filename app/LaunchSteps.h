@@ -23,7 +23,10 @@ public:
 
     virtual void runFirstTimeConfig() {}
     virtual void askDonation() {}
+    virtual void donate() {}
+    virtual bool canDonate() const { return false; }
     virtual bool shouldCheckLatestVersion() { return false; }
+    /// Begins it; the launch goes on meanwhile.
     virtual void checkLatestVersion() {}
     /// Shows the help panel until it is closed.
     virtual void runHelpPanel() {}

@@ -114,11 +114,11 @@ void QVAppController::applicationDidFinishLaunching() {
 
 void QVAppController::finishLaunching() {
     const TraceScope scope("-[QVAppController finishLaunching]");
-    _with.backdrop.offerHint(openingHint(_with.commands));
     using Step = void (QVAppController::*)();
     for (const Step step :
          {&QVAppController::runFirstTimeConfig, &QVAppController::askDonation, &QVAppController::checkVersionAtLaunch,
-          &QVAppController::runLaunchAction, &QVAppController::openFilesOfLaunch, &QVAppController::restoreDisplay}) {
+          &QVAppController::offerHint, &QVAppController::runLaunchAction, &QVAppController::openFilesOfLaunch,
+          &QVAppController::restoreDisplay}) {
         // The step before may have waited in a panel while the program was told to end.
         if (_is_terminating)
             return;
@@ -135,10 +135,13 @@ void QVAppController::askDonation() {
 }
 
 void QVAppController::checkVersionAtLaunch() {
-    if (!_with.steps.shouldCheckLatestVersion())
-        return;
-    const TraceScope check("-[QVAppController checkLatestVersion:]");
-    _with.steps.checkLatestVersion();
+    if (_with.steps.shouldCheckLatestVersion())
+        _with.steps.checkLatestVersion();
+}
+
+/// Not behind the questions: whoever named a movie need not be told how to open one.
+void QVAppController::offerHint() {
+    _with.backdrop.offerHint(openingHint(_with.commands));
 }
 
 void QVAppController::runLaunchAction() {
@@ -273,6 +276,14 @@ void QVAppController::showPlaylist() {
 void QVAppController::showPreferences() {
     trace("%@: Launching Preferences panel ...", className);
     _with.steps.showPreferences();
+}
+
+void QVAppController::donate() {
+    _with.steps.donate();
+}
+
+bool QVAppController::canDonate() const {
+    return _with.steps.canDonate();
 }
 
 void QVAppController::cycleDisplays(std::int32_t direction) {

@@ -114,6 +114,8 @@ public:
     void showHelp() override;
     void showPlaylist() override;
     void showPreferences() override;
+    void donate() override;
+    bool canDonate() const override;
     void cycleDisplays(std::int32_t direction) override;
 
 private:
@@ -124,6 +126,7 @@ private:
     void runFirstTimeConfig();
     void askDonation();
     void checkVersionAtLaunch();
+    void offerHint();
     void runLaunchAction();
     void openFilesOfLaunch();
     void restoreDisplay();

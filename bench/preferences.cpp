@@ -4,6 +4,7 @@
 // is what the program itself does; what the wall clock has beside it is the screen's.
 #include "prefs/QVPreferencesController.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeVersions.h"
 #include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -43,9 +44,11 @@ void openingTheFirstTime(benchmark::State& state) {
     TestEnvironment settings;
     FakeDesktop desktop;
     StandingPicture pictures;
+    FakeVersions versions;
     FirstPicture picture;
     for (auto _ : state) {
-        std::optional<QVPreferencesController> preferences(std::in_place, settings.environment, desktop, pictures);
+        std::optional<QVPreferencesController> preferences(std::in_place, settings.environment, desktop, pictures,
+                                                           versions);
         picture.show(*preferences);
         state.PauseTiming();
         preferences.reset();
@@ -57,8 +60,9 @@ void openingAgain(benchmark::State& state) {
     TestEnvironment settings;
     FakeDesktop desktop;
     StandingPicture pictures;
+    FakeVersions versions;
     FirstPicture picture;
-    QVPreferencesController preferences(settings.environment, desktop, pictures);
+    QVPreferencesController preferences(settings.environment, desktop, pictures, versions);
     picture.show(preferences);
     for (auto _ : state) {
         state.PauseTiming();

@@ -30,6 +30,10 @@ public:
     virtual void showPlaylist() = 0;
     /// Shows the preferences, which stay open beside the movie.
     virtual void showPreferences() = 0;
+    /// Opens the page for donations, in the browser.
+    virtual void donate() = 0;
+    /// Whether there is one.
+    virtual bool canDonate() const = 0;
     /// Moves the on-screen display to its next (+1) or previous (-1) type, around.
     virtual void cycleDisplays(std::int32_t direction) = 0;
     /// The main window became key, or no longer is.

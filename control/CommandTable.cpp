@@ -447,6 +447,10 @@ struct CommandTable {
          .section = Section::help,
          .menu = {"Lumaro Help"},
          .help = "Lumaro Help"},
+        {.name = "donate",
+         .operation = {"donate", &Self::donate, &Self::validateDonation},
+         .section = Section::help,
+         .menu = {"Donate..."}},
     };
 };
 

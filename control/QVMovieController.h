@@ -122,6 +122,7 @@ private:
     void showHelp(std::int32_t, Feedback feedback);
     void showPlaylist(std::int32_t, Feedback feedback);
     void showPreferences(std::int32_t, Feedback feedback);
+    void donate(std::int32_t, Feedback feedback);
     void quit(std::int32_t, Feedback feedback);
     void sleep(std::int32_t, Feedback feedback);
 
@@ -134,6 +135,7 @@ private:
     bool validateMovie(platform::MenuItem& item) const;
     bool validateSubtitles(platform::MenuItem& item) const;
     bool validateRepair(platform::MenuItem& item) const;
+    bool validateDonation(platform::MenuItem& item) const;
 
     void perform(const Command& command, std::int32_t argument, Feedback feedback);
     void restorePlayback();

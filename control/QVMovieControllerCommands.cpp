@@ -264,6 +264,10 @@ void QVMovieController::showPreferences(std::int32_t, Feedback) {
     _with.application.showPreferences();
 }
 
+void QVMovieController::donate(std::int32_t, Feedback) {
+    _with.application.donate();
+}
+
 void QVMovieController::quit(std::int32_t, Feedback feedback) {
     performLater(feedback == Feedback::yes ? _with.feedback.readingTime() : 0.0, [this] { _with.desktop.terminate(); });
 }

@@ -107,6 +107,11 @@ bool QVMovieController::validateRepair(MenuItem& item) const {
     return true;
 }
 
+bool QVMovieController::validateDonation(MenuItem& item) const {
+    item.hidden = !_with.application.canDonate();
+    return !item.hidden;
+}
+
 void QVMovieController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
     listSubtitles(notification.movie);
 }

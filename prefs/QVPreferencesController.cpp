@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "prefs/QVPreferencesController.h"
 
-#include "context/Notifications.h"
 #include "platform/base/Localization.h"
 #include "platform/base/RunLoop.h"
 #include "platform/base/SettingsFile.h"
@@ -15,6 +14,7 @@
 #include "prefs/PreferencesPages.h"
 #include "prefs/RecentEncodings.h"
 #include "prefs/SettingSlider.h"
+#include "prefs/VersionCheckGroup.h"
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
@@ -24,7 +24,6 @@
 #include <QEvent>
 #include <QKeySequence>
 #include <QLineEdit>
-#include <QLocale>
 #include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -58,7 +57,7 @@ QString localized(const char* key) {
 } // namespace
 
 QVPreferencesController::QVPreferencesController(const Environment& environment, platform::Desktop& desktop,
-                                                 PictureSource& pictures)
+                                                 PictureSource& pictures, VersionChecking& versions)
     : _environment(environment)
     , _desktop(desktop)
     , _controls(std::make_unique<Ui::Preferences>())
@@ -66,10 +65,9 @@ QVPreferencesController::QVPreferencesController(const Environment& environment,
     auto window = std::make_unique<QDialog>();
     _controls->setupUi(window.get());
     _window = std::move(window);
+    _versionGroup = std::make_unique<VersionCheckGroup>(environment, *_controls, versions);
     _preferencesChanged = environment.notifications.observe<QVPreferencesChangedNotification>(
         [this](const auto& notification) { preferencesChanged(notification); });
-    _versionCheck = environment.notifications.observe<QVVersionCheckNotification>(
-        [this](const auto& notification) { versionCheckInProgress(notification); });
     awakeFromNib();
 }
 
@@ -273,8 +271,7 @@ void QVPreferencesController::syncWithDefaults() {
         c._advancedCursorHideDelay->setValue(settings.integerForKey(kQVCursorAutohideDelay));
     }
     _updateCursorHideDelayValue(c._advancedCursorHideDelay->value());
-    _updateLastCheckedStatus();
-    _versionGroupSetEnabled(settings.boolForKey(kQVNewVersionShouldCheck));
+    _versionGroup->sync();
     _styles.setFeedbackEnabled(settings.boolForKey(kQVDisplayFeedback));
     _styles.sync();
     _reset->update();
@@ -317,8 +314,7 @@ void QVPreferencesController::_subtitlesGroupSetEnabled(bool enabled) {
 }
 
 void QVPreferencesController::_versionGroupSetEnabled(bool enabled) {
-    _controls->_versionCheckBeta->setEnabled(enabled);
-    _controls->_versionCheckPeriod->setEnabled(enabled);
+    _versionGroup->setEnabled(enabled);
 }
 
 void QVPreferencesController::_brightnessGroupSetEnabled(bool enabled) {
@@ -332,14 +328,6 @@ void QVPreferencesController::_updateCursorHideDelayValue(std::int32_t seconds) 
                              : platform::localizedFormat(QStringLiteral("%d sec."), {QString::number(seconds)});
     _controls->_advancedCursorHideDelayValue->setText(text);
     _controls->_advancedCursorHideDelay->setAccessibleDescription(text);
-}
-
-void QVPreferencesController::_updateLastCheckedStatus() {
-    const QDateTime date = _environment.settings.dateForKey(kQVNewVersionLastTimeChecked);
-    _controls->_versionCheckLastTime->setText(
-        date.isValid() ? QLocale().toString(date.toLocalTime(), QLocale::ShortFormat) : localized("Never"));
-    _controls->_versionCheckStatus->setText(date.isValid() ? _environment.settings.stringForKey(kQVNewVersionStatus)
-                                                           : localized("Unknown"));
 }
 
 // What the user changed
@@ -550,10 +538,6 @@ void QVPreferencesController::changeSubtitlesAvailableEncodings(const QString& t
 // What was changed elsewhere
 
 void QVPreferencesController::preferencesChanged(const QVPreferencesChangedNotification& notification) {
-    if (notification.key == kQVNewVersionLastTimeChecked) {
-        _updateLastCheckedStatus();
-        return;
-    }
     static const std::array styles{&kQVSubtitlesOverlayStyle, &kQVFeedbackOverlayStyle, &kQVOSDOverlayStyle};
     const auto isChanged = [&](const QString* style) { return notification.key == *style; };
     if (std::ranges::none_of(styles, isChanged) ||
@@ -568,18 +552,6 @@ void QVPreferencesController::preferencesChanged(const QVPreferencesChangedNotif
         showTextSizeMin(size);
         changeOverlayTextSizeMin();
     }
-}
-
-void QVPreferencesController::versionCheckInProgress(const QVVersionCheckNotification& notification) {
-    const bool isRunning = notification.mark == kQVVersionCheckBegin;
-    _controls->_versionCheckNow->setEnabled(!isRunning);
-    if (!isRunning) {
-        _updateLastCheckedStatus();
-        return;
-    }
-    _controls->_versionCheckLastTime->setText(localized("Checking now..."));
-    _controls->_versionCheckNow->repaint();
-    _controls->_versionCheckLastTime->repaint();
 }
 
 /// Said once, and only to whoever changed something here.

@@ -20,12 +20,13 @@ class LanguageList;
 class PageReset;
 class PictureSource;
 class PreferencesFilter;
+class VersionCheckGroup;
+class VersionChecking;
 class QVariant;
 class QWidget;
 class QWindow;
 class SettingSlider;
 struct QVPreferencesChangedNotification;
-struct QVVersionCheckNotification;
 
 namespace Ui {
 class Preferences;
@@ -44,7 +45,8 @@ class Desktop;
 class QVPreferencesController final : public QObject {
 public:
     /// All outlive the controller.
-    QVPreferencesController(const Environment& environment, platform::Desktop& desktop, PictureSource& pictures);
+    QVPreferencesController(const Environment& environment, platform::Desktop& desktop, PictureSource& pictures,
+                            VersionChecking& versions);
     QVPreferencesController(const QVPreferencesController&) = delete;
     QVPreferencesController& operator=(const QVPreferencesController&) = delete;
     ~QVPreferencesController() override;
@@ -109,7 +111,6 @@ private:
     void connectControls();
     void windowWillClose();
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
-    void versionCheckInProgress(const QVVersionCheckNotification& notification);
 
     void plainChange(const QObject* control);
     /// Stores what the user chose, and announces it.
@@ -124,7 +125,6 @@ private:
     void _versionGroupSetEnabled(bool enabled);
     void _brightnessGroupSetEnabled(bool enabled);
     void _updateCursorHideDelayValue(std::int32_t seconds);
-    void _updateLastCheckedStatus();
 
     Environment _environment;
     platform::Desktop& _desktop;
@@ -142,8 +142,8 @@ private:
     std::unique_ptr<PreferencesFilter> _filter;
     /// Whether a screen lets its brightness be set.
     bool _hasBrightness = false;
+    std::unique_ptr<VersionCheckGroup> _versionGroup;
     bool _hasChosen = false;
     bool _saidNotSaved = false;
     platform::Subscription _preferencesChanged;
-    platform::Subscription _versionCheck;
 };

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The composition of the player: the platform's real objects, and the player's own on top of them.
 #include "app/CommandLine.h"
+#include "app/LaunchQuestions.h"
 #include "app/LaunchSteps.h"
 #include "app/MainObjects.h"
 #include "app/OpeningFiles.h"
+#include "app/VersionCheck.h"
 #include "app/main/InputDevicesOfRun.h"
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
@@ -15,6 +17,7 @@
 #include "platform/base/Bundle.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/base/SettingsFile.h"
+#include "platform/base/ToolDownloads.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/linux/Backlight.h"
 #include "platform/desktop/linux/DisplayServer.h"
@@ -94,6 +97,13 @@ public:
     explicit Steps(platform::Desktop& desktop)
         : _desktop(desktop) {}
 
+    /// Once the player stands.
+    void join(const Environment& running, QVAppController& application, CommandTarget& target) {
+        environment = &running;
+        _questions.emplace(running, _desktop, platform::Bundle::main(), [&application] { application.showHelp(); });
+        _versions.emplace(running, VersionCheck::Collaborators{_downloads, _desktop, target, platform::Bundle::main()});
+    }
+
     QWindow* window = nullptr;
     QVPlaylistController* playlist = nullptr;
     PictureSource* pictures = nullptr;
@@ -102,6 +112,24 @@ public:
     void runHelpPanel() override {
         if (commands)
             ::runHelpPanel(commands->all(), window);
+    }
+    void runFirstTimeConfig() override {
+        if (_questions)
+            _questions->runFirstTimeConfig();
+    }
+    void askDonation() override {
+        if (_questions)
+            _questions->askDonation();
+    }
+    void donate() override {
+        if (_questions)
+            _questions->donate();
+    }
+    bool canDonate() const override { return _questions && _questions->canDonate(); }
+    bool shouldCheckLatestVersion() override { return _versions && _versions->shouldCheckLatestVersion(); }
+    void checkLatestVersion() override {
+        if (_versions)
+            _versions->checkLatestVersion(VersionCheck::Sender::none);
     }
     void runPlaylistPanel() override {
         if (playlist && environment)
@@ -116,8 +144,8 @@ public:
         return {code, _openURLPanel->urlStrings(), _openURLPanel->isAddingChosen()};
     }
     void showPreferences() override {
-        if (!_preferences && environment && pictures)
-            _preferences = std::make_unique<QVPreferencesController>(*environment, _desktop, *pictures);
+        if (!_preferences && environment && pictures && _versions)
+            _preferences = std::make_unique<QVPreferencesController>(*environment, _desktop, *pictures, *_versions);
         if (_preferences)
             _preferences->showAbove(window);
     }
@@ -128,6 +156,9 @@ public:
 
 private:
     platform::Desktop& _desktop;
+    platform::ToolDownloads _downloads{platform::Bundle::main()};
+    std::optional<LaunchQuestions> _questions;
+    std::optional<VersionCheck> _versions;
     // Made when they are first asked for.
     std::unique_ptr<QVPreferencesController> _preferences;
     std::unique_ptr<QVOpenURLPanel> _openURLPanel;
@@ -206,8 +237,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
         steps.window = &host;
         steps.playlist = &player.playlist();
         steps.pictures = &player.view();
-        steps.environment = &run.environment();
         steps.commands = &player.commands();
+        steps.join(run.environment(), player.application(), player.controller());
 
         const auto take = [&](const platform::HandOver& message) {
             desktop.setAssumedModifiers(message.append ? platform::modifier::option : 0);

@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace platform {
@@ -29,6 +30,7 @@ struct Screen {
 /// What the desktop around the application offers. Main thread.
 class Desktop : public UserActivity {
 public:
+    enum class AlertIcon { warning, information, question };
     struct Alert {
         QString title;
         QString message;
@@ -36,10 +38,14 @@ public:
         /// Empty for none.
         QString alternateButton;
         QString otherButton;
+        AlertIcon icon = AlertIcon::warning;
     };
     /// Shows a modal alert above everything and answers 1 for the default button, 0 for the alternate, -1 for the other
     /// one. Closing it counts as the other button where there is one, else as the alternate, else as the default.
     virtual int runAlert(const Alert& alert) = 0;
+    /// Calls `work` once, from the run loop, as soon as no modal panel and no menu is up; not any more once the
+    /// application is ending.
+    virtual void whenNoPanelStands(std::function<void()> work) = 0;
 
     /// A modal panel to choose files or folders, or to name a new file. Cancelled when the application ends meanwhile.
     virtual FileChoice runOpenPanel(const FileQuestion& question) = 0;
@@ -63,6 +69,8 @@ public:
 
     /// Asks the application to end; the answer comes through the application's delegate.
     virtual void terminate() = 0;
+    /// Whether it was asked and has not refused: panels are closed then without an answer.
+    virtual bool isTerminating() const = 0;
     /// The answer to a termination that was put off.
     virtual void replyToApplicationShouldTerminate(bool terminate) = 0;
 };

@@ -20,6 +20,7 @@ struct MenuItem {
     int tag = 0;
     bool separator = false;
     bool state = false; // the check mark
+    bool hidden = false;
     /// The shortcut as Qt's portable text ("Ctrl+O"); empty for none. It acts while no menu is open, too.
     QString shortcut;
     /// A key shown beside the item that the key map handles, not the menu ("Space").
@@ -61,8 +62,8 @@ private:
 class MenuTarget {
 public:
     virtual ~MenuTarget() = default;
-    /// Called before an item is shown or its shortcut acts: may change state and title, and answers whether it is
-    /// enabled.
+    /// Called before an item is shown or its shortcut acts: may change state, title and whether it is hidden, and
+    /// answers whether it is enabled.
     virtual bool validateMenuItem(MenuItem& item) = 0;
     virtual void performMenuItem(const MenuItem& item) = 0;
 };

@@ -253,12 +253,12 @@
         <translation>%@-Version %@ kann jetzt geladen werden.</translation>
     </message>
     <message id="Download Now...">
-        <source>Download Now...</source>
-        <translation>Jetzt laden …</translation>
+        <source>&amp;Download Now...</source>
+        <translation>&amp;Jetzt laden …</translation>
     </message>
     <message id="Skip Version">
-        <source>Skip Version</source>
-        <translation>Diese Version überspringen</translation>
+        <source>&amp;Skip Version</source>
+        <translation>Diese Version &amp;überspringen</translation>
     </message>
     <message id="Later">
         <source>Later</source>
@@ -1857,6 +1857,10 @@
     <message id="New Versions">
         <source>New Versions</source>
         <translation>Neue Versionen</translation>
+    </message>
+    <message id="The packages of your system keep Lumaro up to date.">
+        <source>The packages of your system keep Lumaro up to date.</source>
+        <translation>Die Pakete Ihres Systems halten Lumaro auf dem neuesten Stand.</translation>
     </message>
     <message id="Look for new &amp;versions">
         <source>Look for new &amp;versions</source>

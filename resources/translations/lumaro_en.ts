@@ -253,12 +253,12 @@
         <translation>%@ version %@ can be downloaded now.</translation>
     </message>
     <message id="Download Now...">
-        <source>Download Now...</source>
-        <translation>Download Now...</translation>
+        <source>&amp;Download Now...</source>
+        <translation>&amp;Download Now...</translation>
     </message>
     <message id="Skip Version">
-        <source>Skip Version</source>
-        <translation>Skip Version</translation>
+        <source>&amp;Skip Version</source>
+        <translation>&amp;Skip Version</translation>
     </message>
     <message id="Later">
         <source>Later</source>
@@ -1857,6 +1857,10 @@
     <message id="New Versions">
         <source>New Versions</source>
         <translation>New Versions</translation>
+    </message>
+    <message id="The packages of your system keep Lumaro up to date.">
+        <source>The packages of your system keep Lumaro up to date.</source>
+        <translation>The packages of your system keep Lumaro up to date.</translation>
     </message>
     <message id="Look for new &amp;versions">
         <source>Look for new &amp;versions</source>

@@ -58,7 +58,7 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_EQ(written(menu.playlistMenu()).toStdString(), "");
     EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(), "None changeSubtitles -1 (S)\n-\nRepair toggleRepair 0 (R)");
     EXPECT_EQ(shown(6), "Next Screen switchScreen 1 (Tab)\nPrevious Screen switchScreen -1 (Shift+Tab)");
-    EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 [F1]");
+    EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 [F1]\nDonate... donate 0");
     // The user gives Ctrl+Q to the help, X to looping off, F2 to the opening of files, and nothing to bigger.
     env.defaults().setObject(QVariantMap{{"help", QVariantList{"Ctrl+Q"}},
                                          {"looping-off", QVariantList{"X"}},
@@ -70,6 +70,6 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_TRUE(shown(0).ends_with("Quit quit 0 (Esc)"));
     EXPECT_NE(shown(1).find("Bigger changeSize -2\n"), std::string::npos);
     EXPECT_NE(shown(2).find("Looping Off changeLooping 0 (X)\n"), std::string::npos);
-    EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 (Ctrl+Q)");
+    EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 (Ctrl+Q)\nDonate... donate 0");
     platform::setLocalizationLanguages({});
 }

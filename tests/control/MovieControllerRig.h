@@ -45,6 +45,9 @@ protected:
         void showHelp() override { calls << "help"; }
         void showPlaylist() override { calls << "playlist"; }
         void showPreferences() override { calls << "preferences"; }
+        bool hasDonationPage = false;
+        void donate() override { calls << "donate"; }
+        bool canDonate() const override { return hasDonationPage; }
         void cycleDisplays(std::int32_t direction) override { calls << QString("display %1").arg(direction); }
         void windowDidBecomeKey(platform::Window&) override { calls << "became key"; }
         void windowDidResignKey(platform::Window&) override { calls << "resigned key"; }

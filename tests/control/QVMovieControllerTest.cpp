@@ -180,11 +180,19 @@ TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
     perform("doOpenURL", 1);
     perform("showHelp", 0);
     perform("showPreferences", 0);
+    perform("donate", 0);
     perform("cycleDisplays", -1);
     controller.windowDidBecomeKey(window);
     controller.windowDidResignKey(window);
-    EXPECT_EQ(services.calls, (QStringList{"open", "open folder", "open URL 1", "help", "preferences", "display -1",
-                                           "became key", "resigned key"}));
+    EXPECT_EQ(services.calls, (QStringList{"open", "open folder", "open URL 1", "help", "preferences", "donate",
+                                           "display -1", "became key", "resigned key"}));
+    for (const bool hasPage : {true, false}) {
+        services.hasDonationPage = hasPage;
+        platform::MenuItem item;
+        item.action = "donate";
+        EXPECT_EQ(controller.validateMenuItem(item), hasPage);
+        EXPECT_EQ(item.hidden, !hasPage);
+    }
 }
 
 TEST_F(MovieController, Play_or_pause_first_leaves_fast_motion_and_brings_the_sound_back) {

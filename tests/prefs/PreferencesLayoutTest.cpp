@@ -4,6 +4,7 @@
 #include "prefs/QVPreferencesController.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeVersions.h"
 #include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -46,7 +47,7 @@ protected:
     }
 
     QTabWidget& pages() { return *controller->window().findChild<QTabWidget*>("_pages"); }
-    QVPreferencesController& make() { return controller.emplace(env.environment, desktop, pictures); }
+    QVPreferencesController& make() { return controller.emplace(env.environment, desktop, pictures, versions); }
     void show() {
         (controller ? *controller : make()).showAbove(nullptr);
         QApplication::processEvents();
@@ -137,6 +138,7 @@ protected:
     FakeDesktop desktop;
     StandingPicture pictures;
     const QFont font = QApplication::font();
+    FakeVersions versions;
     std::optional<QVPreferencesController> controller;
 };
 

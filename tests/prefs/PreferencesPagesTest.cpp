@@ -4,6 +4,7 @@
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeVersions.h"
 #include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -39,7 +40,7 @@ protected:
     void show(const QVariantMap& values = {}) {
         for (auto value = values.begin(); value != values.end(); ++value)
             env.defaults().setObject(value.value(), value.key());
-        controller.emplace(env.environment, desktop, pictures);
+        controller.emplace(env.environment, desktop, pictures, versions);
         controller->showAbove(nullptr);
     }
     template <class Control>
@@ -59,6 +60,7 @@ protected:
     FakeDesktop desktop;
     StandingPicture pictures;
     QStringList keys;
+    FakeVersions versions;
     std::optional<QVPreferencesController> controller;
 
 private:

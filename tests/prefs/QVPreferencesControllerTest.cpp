@@ -11,6 +11,7 @@
 #include "subtitles/JHStringEncodings.h"
 #include "tests/support/CapturedLog.h"
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/FakeVersions.h"
 #include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -18,6 +19,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
+
 #include <QComboBox>
 #include <QFile>
 #include <QKeyEvent>
@@ -54,7 +56,7 @@ protected:
     void show(const QVariantMap& values = {}) {
         for (auto value = values.begin(); value != values.end(); ++value)
             env.defaults().setObject(value.value(), value.key());
-        controller.emplace(env.environment, desktop, pictures);
+        controller.emplace(env.environment, desktop, pictures, versions);
         controller->showAbove(nullptr);
     }
     template <class Control>
@@ -143,6 +145,7 @@ protected:
     TestEnvironment env;
     FakeDesktop desktop;
     StandingPicture pictures;
+    FakeVersions versions;
     QStringList keys;
     std::optional<QVPreferencesController> controller;
 
@@ -341,7 +344,6 @@ TEST_F(Preferences, controls_that_need_another_one_are_enabled_with_it) {
             controller->syncWithDefaults();
         }
     }
-    EXPECT_FALSE(isEnabled("_versionCheckNow")) << "there is nobody yet to check";
 }
 
 TEST_F(Preferences, a_recent_encoding_becomes_the_default_and_the_latest) {
@@ -435,12 +437,39 @@ TEST_F(Preferences, the_lines_of_the_version_check_follow_it) {
     const QDateTime date(QDate(2026, 3, 14), QTime(15, 9));
     env.defaults().setObject(date, kQVNewVersionLastTimeChecked);
     env.defaults().setObject("This is the latest version.", kQVNewVersionStatus);
-    const QString after = QLocale().toString(date, QLocale::ShortFormat) + "|This is the latest version.";
+    const QString after = QLocale::system().toString(date, QLocale::ShortFormat) + "|This is the latest version.";
     env.notifications.post(QVPreferencesChangedNotification{kQVNewVersionLastTimeChecked, {}});
     EXPECT_EQ(lines(), after);
     env.notifications.post(QVVersionCheckNotification{kQVVersionCheckEnd});
     EXPECT_EQ(lines(), after);
     EXPECT_TRUE(isEnabled("_versionCheckNow"));
+    control<QPushButton>("_versionCheckNow").click();
+    EXPECT_EQ(versions.checks, 1);
+    // One that began before the window was opened.
+    versions.checking = true;
+    controller->syncWithDefaults();
+    EXPECT_EQ(control<QLabel>("_versionCheckLastTime").text(), "Checking now...");
+    EXPECT_FALSE(isEnabled("_versionCheckNow"));
+}
+
+TEST_F(Preferences, without_a_mirror_the_systems_packages_are_named) {
+    const QStringList controls{"_versionCheck",
+                               "_versionCheckBeta",
+                               "_versionCheckPeriodLabel",
+                               "_versionCheckPeriod",
+                               "_versionCheckLastTimeLabel",
+                               "_versionCheckLastTime",
+                               "_versionCheckStatusLabel",
+                               "_versionCheckStatus",
+                               "_versionCheckNow"};
+    show();
+    for (const bool hasMirrors : {true, false, true}) {
+        versions.mirrors = hasMirrors;
+        controller->syncWithDefaults();
+        for (const QString& name : controls)
+            EXPECT_EQ(control<QWidget>(name.toUtf8().constData()).isHidden(), !hasMirrors) << name.toStdString();
+        EXPECT_EQ(control<QLabel>("_versionCheckByPackages").isHidden(), hasMirrors);
+    }
 }
 
 TEST_F(Preferences, what_is_chosen_by_hand_is_stored_though_this_run_has_a_value_of_its_own) {

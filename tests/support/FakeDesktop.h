@@ -87,6 +87,22 @@ public:
     int terminations = 0;
     std::vector<bool> terminationReplies;
 
+    /// What waits for panels, run by closePanels().
+    bool panelStands = false;
+    std::vector<std::function<void()>> waitingForPanels;
+    void closePanels() {
+        panelStands = false;
+        for (const auto& work : std::exchange(waitingForPanels, {}))
+            work();
+    }
+    bool terminating = false;
+
+    void whenNoPanelStands(std::function<void()> work) override {
+        waitingForPanels.push_back(std::move(work));
+        if (!panelStands)
+            closePanels();
+    }
+    bool isTerminating() const override { return terminating; }
     int runAlert(const Alert& alert) override {
         alerts.push_back(alert);
         if (whileAlertIsUp)

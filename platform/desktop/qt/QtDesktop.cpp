@@ -62,6 +62,18 @@ void widen(QMessageBox& box) {
         layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
 }
 
+QMessageBox::Icon iconOf(Desktop::AlertIcon icon) {
+    switch (icon) {
+    case Desktop::AlertIcon::information:
+        return QMessageBox::Information;
+    case Desktop::AlertIcon::question:
+        return QMessageBox::Question;
+    case Desktop::AlertIcon::warning:
+        break;
+    }
+    return QMessageBox::Warning;
+}
+
 } // namespace
 
 QtDesktop::QtDesktop(int& argumentCount, char** arguments, const QString& applicationName) {
@@ -145,7 +157,7 @@ int QtDesktop::runAlert(const Alert& alert) {
     if (_terminationPending)
         return withoutAnswer;
     QMessageBox box;
-    box.setIcon(QMessageBox::Warning);
+    box.setIcon(iconOf(alert.icon));
     box.setText(alert.title);
     box.setInformativeText(alert.message);
     box.setTextFormat(Qt::PlainText); // file names are no markup
@@ -229,6 +241,7 @@ void QtDesktop::terminate() {
     if (_terminationPending || !_delegate)
         return;
     _terminationPending = true;
+    _panelQueue.clear();
     switch (_delegate->applicationShouldTerminate()) {
     case ApplicationDelegate::TerminateReply::cancel:
         _terminationPending = false;

@@ -3,6 +3,7 @@
 
 #include "platform/desktop/Desktop.h"
 #include "platform/desktop/qt/OpenPanels.h"
+#include "platform/desktop/qt/PanelQueue.h"
 
 #include <QObject>
 
@@ -48,6 +49,7 @@ public:
     int run(ApplicationDelegate& delegate);
 
     int runAlert(const Alert& alert) override;
+    void whenNoPanelStands(std::function<void()> work) override { _panelQueue.add(std::move(work)); }
     FileChoice runOpenPanel(const FileQuestion& question) override;
     void beep() override;
     std::vector<Screen> screens() const override;
@@ -60,12 +62,14 @@ public:
     Power& power() override { return *_services.power; }
     RemoteSource& remotes() override { return *_services.remotes; }
     void terminate() override;
+    bool isTerminating() const override { return _terminationPending; }
     void replyToApplicationShouldTerminate(bool terminate) override;
 
 private:
     void followSignals();
 
     std::unique_ptr<QApplication> _application;
+    PanelQueue _panelQueue;
     Services _services;
     ApplicationDelegate* _delegate = nullptr;
     QWindow* _mainWindow = nullptr;

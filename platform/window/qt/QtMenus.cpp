@@ -74,6 +74,8 @@ void QtMenus::fill(QMenu& menu, Menu& model) {
             continue;
         }
         const bool enabled = _target.validateMenuItem(item);
+        if (item.hidden)
+            continue;
         // A title may hold the ampersand that a menu would take for an underline.
         QString title = QString(item.title).replace(QLatin1Char('&'), QStringLiteral("&&"));
         const QString key = item.shortcut.isEmpty() ? item.keyHint : item.shortcut;
