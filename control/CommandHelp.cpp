@@ -5,6 +5,8 @@
 #include "platform/base/Localization.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -43,4 +45,28 @@ std::vector<HelpLine> helpLines(std::span<const Command> commands) {
         }
     }
     return lines;
+}
+
+std::vector<HelpGroup> helpGroups(std::span<const Command> commands) {
+    constexpr std::pair<Section, std::string_view> titles[] = {
+        {Section::playback, "Watch and move through the movie"},
+        {Section::volume, "Louder, softer, silent"},
+        {Section::subtitles, "Read along"},
+        {Section::movie, "See the picture larger, and what is playing"},
+        {Section::playlist, "Choose among the movies"},
+        {Section::window, "Move to another screen"},
+        {Section::file, "Open, set up and quit"},
+        {Section::help, "Find help"},
+    };
+    static_assert(std::size(titles) == sections.size());
+    const std::vector<HelpLine> lines = helpLines(commands);
+    std::vector<HelpGroup> groups;
+    for (const auto& [section, title] : titles) {
+        HelpGroup group{title, {}};
+        std::ranges::copy_if(lines, std::back_inserter(group.lines),
+                             [wanted = section](const HelpLine& line) { return line.section == wanted; });
+        if (!group.lines.empty())
+            groups.push_back(std::move(group));
+    }
+    return groups;
 }

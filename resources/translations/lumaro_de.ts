@@ -554,6 +554,50 @@
         <source>Window</source>
         <translation>Fenster</translation>
     </message>
+    <message id="HelpIntroduction">
+        <source>Type what you look for. Every command also stands in the menu: at the top edge of the screen, or under the right mouse button.</source>
+        <translation>Tippen Sie, was Sie suchen. Jeder Befehl steht auch im Menü: am oberen Rand des Bildschirms oder unter der rechten Maustaste.</translation>
+    </message>
+    <message id="What do you want to do?">
+        <source>What do you want to do?</source>
+        <translation>Was möchten Sie tun?</translation>
+    </message>
+    <message id="No command holds these words.">
+        <source>No command holds these words.</source>
+        <translation>Kein Befehl enthält diese Wörter.</translation>
+    </message>
+    <message id="Watch and move through the movie">
+        <source>Watch and move through the movie</source>
+        <translation>Ansehen und im Film bewegen</translation>
+    </message>
+    <message id="Louder, softer, silent">
+        <source>Louder, softer, silent</source>
+        <translation>Lauter, leiser, stumm</translation>
+    </message>
+    <message id="Read along">
+        <source>Read along</source>
+        <translation>Mitlesen</translation>
+    </message>
+    <message id="See the picture larger, and what is playing">
+        <source>See the picture larger, and what is playing</source>
+        <translation>Das Bild größer sehen, und was läuft</translation>
+    </message>
+    <message id="Choose among the movies">
+        <source>Choose among the movies</source>
+        <translation>Zwischen den Filmen wählen</translation>
+    </message>
+    <message id="Move to another screen">
+        <source>Move to another screen</source>
+        <translation>Auf einen anderen Bildschirm wechseln</translation>
+    </message>
+    <message id="Open, set up and quit">
+        <source>Open, set up and quit</source>
+        <translation>Öffnen, einrichten und beenden</translation>
+    </message>
+    <message id="Find help">
+        <source>Find help</source>
+        <translation>Hilfe finden</translation>
+    </message>
     <message id="Help">
         <source>Help</source>
         <translation>Hilfe</translation>

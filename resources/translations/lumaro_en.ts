@@ -554,6 +554,50 @@
         <source>Window</source>
         <translation>Window</translation>
     </message>
+    <message id="HelpIntroduction">
+        <source>Type what you look for. Every command also stands in the menu: at the top edge of the screen, or under the right mouse button.</source>
+        <translation>Type what you look for. Every command also stands in the menu: at the top edge of the screen, or under the right mouse button.</translation>
+    </message>
+    <message id="What do you want to do?">
+        <source>What do you want to do?</source>
+        <translation>What do you want to do?</translation>
+    </message>
+    <message id="No command holds these words.">
+        <source>No command holds these words.</source>
+        <translation>No command holds these words.</translation>
+    </message>
+    <message id="Watch and move through the movie">
+        <source>Watch and move through the movie</source>
+        <translation>Watch and move through the movie</translation>
+    </message>
+    <message id="Louder, softer, silent">
+        <source>Louder, softer, silent</source>
+        <translation>Louder, softer, silent</translation>
+    </message>
+    <message id="Read along">
+        <source>Read along</source>
+        <translation>Read along</translation>
+    </message>
+    <message id="See the picture larger, and what is playing">
+        <source>See the picture larger, and what is playing</source>
+        <translation>See the picture larger, and what is playing</translation>
+    </message>
+    <message id="Choose among the movies">
+        <source>Choose among the movies</source>
+        <translation>Choose among the movies</translation>
+    </message>
+    <message id="Move to another screen">
+        <source>Move to another screen</source>
+        <translation>Move to another screen</translation>
+    </message>
+    <message id="Open, set up and quit">
+        <source>Open, set up and quit</source>
+        <translation>Open, set up and quit</translation>
+    </message>
+    <message id="Find help">
+        <source>Find help</source>
+        <translation>Find help</translation>
+    </message>
     <message id="Help">
         <source>Help</source>
         <translation>Help</translation>

@@ -139,6 +139,23 @@ TEST(Commands, help_puts_the_keys_of_commands_with_the_same_text_on_one_line_by_
     EXPECT_EQ(written.join(u'\n').toStdString(), "\u2190 C/D Two\nA One\nO Two");
 }
 
+TEST(Commands, every_line_of_the_help_stands_in_one_group) {
+    QStringList all, grouped;
+    for (const HelpLine& line : helpLines(commands()))
+        all << line.keys.join(' ') + QString::fromUtf8(line.text);
+    QStringList titles;
+    for (const HelpGroup& group : helpGroups(commands())) {
+        titles << platform::localizedString(QString::fromUtf8(group.title));
+        for (const HelpLine& line : group.lines)
+            grouped << line.keys.join(' ') + QString::fromUtf8(line.text);
+    }
+    EXPECT_TRUE(grouped.first().contains("Play")) << "what is needed first";
+    all.sort();
+    grouped.sort();
+    EXPECT_EQ(grouped, all);
+    EXPECT_EQ(titles.removeDuplicates(), 0);
+}
+
 TEST(Commands, the_table_of_keys_in_the_readme_is_the_one_that_the_commands_make) {
     platform::setLocalizationLanguages({"en"});
     const auto localized = [](std::string_view key) { return platform::localizedString(QString::fromUtf8(key)); };
