@@ -35,7 +35,7 @@ void StylePreview::open(const QString& key) {
     _return = nullptr;
     _fades.reset();
     if (_sample)
-        _sample->hideAtOnce(); // those beside it take the room that it leaves
+        _sample->hideAtOnce(); // those beside it take the space that it leaves
     _key = key;
     _sample = makeSampleOverlay(_environment, _window, _picture, key);
     if (!_sample)
