@@ -24,7 +24,11 @@ QString localized(std::string_view key) {
 
 QString titleOf(const Command& command) {
     QString title = localized(keyTitleOf(command));
-    return title.endsWith(QStringLiteral("...")) ? title.chopped(3) : title;
+    // What asks for more before it acts ends in dots, spaced as the language has it.
+    for (const QStringView dots : {u"...", u"\u2026"})
+        if (title.endsWith(dots))
+            title.chop(dots.size());
+    return title.trimmed();
 }
 
 QString readableTexts(const std::vector<KeyChord>& keys) {
@@ -70,6 +74,12 @@ KeysPage::~KeysPage() = default;
 
 void KeysPage::connectControls() {
     const auto& c = *_controls;
+    // Nothing moves when they come and go.
+    for (QPushButton* button : {c._keysTakeOver, c._keysLeave}) {
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(policy);
+    }
     connect(c._keysSearch, &QLineEdit::textChanged, this, [this](const QString& words) { search(words); });
     connect(c._keysCommands, &QTreeWidget::currentItemChanged, this, [this] {
         leaveConflict();

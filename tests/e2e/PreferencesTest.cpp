@@ -190,6 +190,55 @@ TEST_F(Preferences, show_odd_values_without_touching_them_and_say_once_that_noth
     EXPECT_EQ(player->waitForExit(), 0);
 }
 
+TEST_F(Preferences, are_entered_by_tab_from_the_names_of_the_pages) {
+    start({numbered("red.mp4", red, 900), "--set", "QVPlaylistAutoPlay=0"});
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(opens());
+    probe.tap(XK_Tab); // the radio button that is on
+    probe.tap(XK_Down);
+    EXPECT_TRUE(stores("QVOnLaunchDefaultAction", "<integer>")) << "another one";
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, give_a_command_another_key_which_acts_at_once_and_at_the_next_start) {
+    const std::string movie = numbered("red.mp4", red, 900);
+    start({"--set", "QVPlaylistAutoPlay=0", movie});
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(opens());
+    // Each key changes the window, and what it does is waited for: a button that is pressed by its letter acts a
+    // moment after it shows that.
+    const auto tap = [this](KeySym key, const std::vector<KeySym>& modifiers = {}) {
+        const Picture before = probe.screen();
+        probe.tap(key, modifiers);
+        const bool hasChanged = waitUntil([&] { return probe.screen().pixels != before.pixels; });
+        return hasChanged && waitUntil([&] {
+                   const Picture now = probe.screen();
+                   return staysTrue([&] { return probe.screen().pixels == now.pixels; }, Seconds(0.25));
+               });
+    };
+    EXPECT_TRUE(tap(XK_c, {XK_Alt_L})) << "the page";
+    EXPECT_TRUE(tap(XK_e, {XK_Alt_L})) << "its search";
+    for (const KeySym letter : std::vector<KeySym>{XK_m, XK_u, XK_t, XK_e})
+        EXPECT_TRUE(tap(letter));
+    EXPECT_TRUE(tap(XK_d, {XK_Alt_L})) << "a key is asked for";
+    EXPECT_TRUE(tap(XK_s)) << "which means the next subtitles";
+    EXPECT_TRUE(tap(XK_space)) << "taken over";
+    EXPECT_TRUE(stores("mute", "<array>"));
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    for (const bool isNextStart : {false, true}) {
+        if (isNextStart) {
+            start({"--set", "QVPlaylistAutoPlay=0", movie});
+            ASSERT_TRUE(frameBecomes(0));
+        }
+        EXPECT_TRUE(tapUntil(XK_s, [&] { return isLogged("Set Text: Mute"); })) << isNextStart;
+        EXPECT_FALSE(isLogged("Set Text: Subtitles")) << isNextStart;
+        ASSERT_TRUE(quitsCleanly());
+    }
+}
+
 TEST_F(Preferences, go_with_the_player) {
     start({numbered("red.mp4", red, 900)});
     ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
