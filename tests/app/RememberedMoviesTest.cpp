@@ -6,6 +6,8 @@
 #include "settings/SettingsKeys.h"
 #include "tests/app/AppRig.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -160,7 +162,7 @@ TEST(RememberedMovies, what_is_odd_in_the_file_is_survived_and_what_is_not_known
 
 TEST(RememberedMovies, the_last_thousand_are_kept) {
     auto disk = std::make_shared<MemorySettings::Disk>();
-    const QDateTime begin = QDateTime(QDate(2020, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime begin = QDate(2020, 1, 1).startOfDay(QTimeZone::utc());
     for (int number = 0; number < 1000; ++number)
         disk->domain.insert(QStringLiteral("file:///%1.mp4").arg(number),
                             QVariantMap{{"Used", begin.addSecs(number)}, {"Size", 1}});

@@ -13,6 +13,8 @@
 #include "tests/support/RecordingCommands.h"
 #include "tests/support/TestEnvironment.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -76,7 +78,7 @@ private:
 } // namespace
 
 TEST(VersionData, a_check_is_due_when_its_period_has_passed) {
-    const QDateTime now(QDate(2026, 3, 29), QTime(12, 0), Qt::UTC);
+    const QDateTime now(QDate(2026, 3, 29), QTime(12, 0), QTimeZone::utc());
     constexpr qint64 hour = 3600, day = 86400;
     const struct {
         int period;

@@ -266,7 +266,7 @@ TEST_F(Preferences, show_a_style_on_the_screen_while_it_is_changed) {
     // The window of a colour has the keyboard, and gives it back.
     const WindowId preferences = probe.windowAt(screenWidth / 2, screenHeight / 2);
     const auto isInFront = [&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) == preferences; };
-    probe.tap(XK_c, {XK_Alt_L});
+    probe.tap(XK_l, {XK_Alt_L});
     probe.tap(XK_space);
     EXPECT_TRUE(waitUntil([&] { return !isInFront(); }));
     EXPECT_TRUE(staysTrue([&] { return !isInFront(); }, Seconds(0.5)));
