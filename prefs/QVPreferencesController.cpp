@@ -101,6 +101,7 @@ void QVPreferencesController::awakeFromNib() {
               {{c._subtitlesDefaultFPS, kQVSubtitlesDefaultFPS}, &Self::changeSubtitlesDefaultFPS},
               {{c._subtitlesMarkup, kQVSubtitlesMarkup}, &Self::changeSubtitlesMarkup},
               {{c._subtitlesRepair, kQVSubtitlesRepair}, &Self::changeSubtitlesRepair},
+              {{c._useRemote, kQVUseRemote}, &Self::changeUseRemote},
               {{c._advancedEnableTrace, kQVEnableTrace}, &Self::changeEnableTrace},
               {{c._overlayTextFontSizeMin, kQVOverlayTextFontSizeMin}, &Self::changeOverlayTextSizeMin},
               {{c._feedbackShow, kQVDisplayFeedback}, &Self::changeFeedbackShow},
@@ -379,6 +380,10 @@ void QVPreferencesController::changeShowController() {
 
 void QVPreferencesController::changeOpenVideoPages() {
     plainChange(_controls->_openVideoPages);
+}
+
+void QVPreferencesController::changeUseRemote() {
+    plainChange(_controls->_useRemote);
 }
 
 void QVPreferencesController::changeSaveVolume() {

@@ -69,6 +69,7 @@ public:
     void changePauseOnDeactivate();
     void changeShowController();
     void changeOpenVideoPages();
+    void changeUseRemote();
     /// Which of the two controls of the jump interval was changed. What is typed counts at once; beyond the bounds it
     /// sounds the beep, and the stepper's value comes back. An empty field waits for what is typed next.
     enum class JumpControl { field, stepper };

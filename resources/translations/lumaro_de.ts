@@ -1966,6 +1966,18 @@
         <source>Diagnosis</source>
         <translation>Diagnose</translation>
     </message>
+    <message id="Remote">
+        <source>Remote</source>
+        <translation>Fernbedienung</translation>
+    </message>
+    <message id="Act on in&amp;frared remotes">
+        <source>Act on in&amp;frared remotes</source>
+        <translation>Auf &amp;Infrarot-Fernbedienungen hören</translation>
+    </message>
+    <message id="Their buttons are the player's alone while it runs">
+        <source>Their buttons are the player's alone while it runs</source>
+        <translation>Ihre Tasten gehören dem Player allein, solange er läuft</translation>
+    </message>
     <message id="&amp;Log what happens">
         <source>&amp;Log what happens</source>
         <translation>Ereignisse pr&amp;otokollieren</translation>

@@ -1966,6 +1966,18 @@
         <source>Diagnosis</source>
         <translation>Diagnosis</translation>
     </message>
+    <message id="Remote">
+        <source>Remote</source>
+        <translation>Remote</translation>
+    </message>
+    <message id="Act on in&amp;frared remotes">
+        <source>Act on in&amp;frared remotes</source>
+        <translation>Act on in&amp;frared remotes</translation>
+    </message>
+    <message id="Their buttons are the player's alone while it runs">
+        <source>Their buttons are the player's alone while it runs</source>
+        <translation>Their buttons are the player's alone while it runs</translation>
+    </message>
     <message id="&amp;Log what happens">
         <source>&amp;Log what happens</source>
         <translation>&amp;Log what happens</translation>

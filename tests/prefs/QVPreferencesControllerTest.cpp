@@ -186,6 +186,7 @@ const Plain plainControls[] = {
     {"_subtitlesDefaultFPS", kQVSubtitlesDefaultFPS, false, {0, 1, 2, 3, 4, 5}},
     {"_subtitlesMarkup", kQVSubtitlesMarkup, true, {1, 0}},
     {"_subtitlesRepair", kQVSubtitlesRepair, true, {0, 1}},
+    {"_useRemote", kQVUseRemote, true, {1, 0}},
     {"_advancedEnableTrace", kQVEnableTrace, true, {0, 1}},
     {"_overlayTextFontSizeMin", kQVOverlayTextFontSizeMin, false, {8, 14, 18, 20}},
     {"_feedbackShow", kQVDisplayFeedback, true, {1, 0}},
