@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CurrentTexts.h"
 
+#include "playback/Chapters.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"
@@ -17,7 +18,12 @@ std::int32_t CurrentTexts::durationInSeconds() const {
 }
 
 QString CurrentTexts::currentMovieInfo() const {
-    return _playlist.currentInfoAsString();
+    const auto movie = _view.movie();
+    const QString chapter =
+        movie ? Chapters::text(movie->info().chapters, Chapters::positionAt(movie->info().chapters, movie->time()))
+              : QString();
+    const QString text = _playlist.currentInfoAsString();
+    return chapter.isEmpty() ? text : text + u'\n' + chapter;
 }
 
 QString CurrentTexts::currentSubtitlesInfo() const {

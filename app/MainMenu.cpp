@@ -23,7 +23,7 @@ void MainMenu::addItem(const Command& command) {
     platform::Menu& menu = this->menu(command.section);
     const QString title = platform::localizedString(QString::fromUtf8(command.menu.title));
     if (command.menu.opens == MenuPlace::Opens::menu)
-        _recentMenu = &menu.addSubmenu(title);
+        _submenus[command.name] = &menu.addSubmenu(title);
     else
         _commands.showKey(menu.addItem(title, QString::fromUtf8(command.operation.name), command.argument),
                           command.name);

@@ -8,6 +8,8 @@
 #include "platform/window/Menu.h"
 
 #include <array>
+#include <map>
+#include <string_view>
 
 /// The menu bar as a model, made from the table of commands: a menu for each section, an item for each command that has
 /// a place in it, with the key that the command has now. The items' actions and tags are those that QVMovieController
@@ -23,7 +25,9 @@ public:
     platform::Menu& playlistMenu() { return menu(Section::playlist); }
     platform::Menu& subtitlesMenu() { return menu(Section::subtitles); }
     /// That of the movies seen last, which is filled as it opens.
-    platform::Menu& recentMenu() { return *_recentMenu; }
+    platform::Menu& recentMenu() { return submenu("open-recent"); }
+    /// That of a command which opens one, to be filled as it opens.
+    platform::Menu& submenu(std::string_view command) { return *_submenus.at(command); }
 
 private:
     platform::Menu& menu(Section section) { return *_menus[static_cast<std::size_t>(section)]; }
@@ -33,6 +37,6 @@ private:
     const CurrentCommands& _commands;
     platform::Menu _bar;
     std::array<platform::Menu*, sections.size()> _menus{};
-    platform::Menu* _recentMenu = nullptr;
+    std::map<std::string_view, platform::Menu*> _submenus;
     platform::Subscription _keysChanged;
 };

@@ -79,6 +79,8 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _remoteControl(environment, _remote, _controller)
     , _computerSleep(environment, {platform.desktop.power(), _view, _controller, _feedback}) {
     _menu.recentMenu().setFiller([this](platform::Menu& menu) { _recent.fill(menu); });
+    _menu.submenu("speed").setFiller([this](platform::Menu& menu) { _controller.fillSpeedMenu(menu); });
+    _menu.submenu("chapters").setFiller([this](platform::Menu& menu) { _controller.fillChaptersMenu(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);

@@ -2,6 +2,7 @@
 // The table of commands. A new command is one row here and one function of QVMovieController that the row names.
 #include "control/Commands.h"
 #include "control/QVMovieController.h"
+#include "control/SpeedSteps.h"
 #include "control/VolumeSteps.h"
 #include "platform/window/Events.h"
 #include "playback/MovieSizing.h"
@@ -38,6 +39,9 @@ struct CommandTable {
     static constexpr Operation cycleSubtitles{"cycleSubtitles", &Self::cycleSubtitles};
     static constexpr Operation toggleRepair{toggleRepairOperation, &Self::toggleRepair, &Self::validateRepair};
     static constexpr Operation switchScreen{"switchScreen", &Self::switchScreen};
+
+    static constexpr Operation changeSpeed{changeSpeedOperation, &Self::changeSpeed, &Self::validateSpeed};
+    static constexpr Operation stepChapter{"stepChapter", &Self::stepChapter, &Self::validateChapter};
 
     static constexpr Command rows[] = {
         {.name = "open",
@@ -279,6 +283,65 @@ struct CommandTable {
          .section = Section::playback,
          .menu = {"End", Separator::after},
          .help = "Beginning and end of the movie"},
+        // The argument is a speed in hundredths; the items are made when the menu opens.
+        {.name = "speed",
+         .operation = {setSpeedOperation, &Self::changeSpeed, &Self::validateSpeed},
+         .section = Section::playback,
+         .menu = {.title = "Speed", .opens = MenuPlace::Opens::menu}},
+        {.name = "slower",
+         .operation = changeSpeed,
+         .argument = speedStep::slower,
+         .keys = {{{u'['}}},
+         .section = Section::playback,
+         .help = "Slower and faster, the pitch kept; half and twice as fast",
+         .title = "Slower"},
+        {.name = "faster",
+         .operation = changeSpeed,
+         .argument = speedStep::faster,
+         .keys = {{{u']'}}},
+         .section = Section::playback,
+         .help = "Slower and faster, the pitch kept; half and twice as fast",
+         .title = "Faster"},
+        {.name = "half-as-fast",
+         .operation = changeSpeed,
+         .argument = speedStep::half,
+         .keys = {{{u'{', none, consumed}}},
+         .section = Section::playback,
+         .help = "Slower and faster, the pitch kept; half and twice as fast",
+         .title = "Half as Fast"},
+        {.name = "twice-as-fast",
+         .operation = changeSpeed,
+         .argument = speedStep::twice,
+         .keys = {{{u'}', none, consumed}}},
+         .section = Section::playback,
+         .help = "Slower and faster, the pitch kept; half and twice as fast",
+         .title = "Twice as Fast"},
+        {.name = "original-speed",
+         .operation = changeSpeed,
+         .argument = 100,
+         .keys = {{{fnkey::backspace, none, consumed}}},
+         .section = Section::playback,
+         .help = "As fast as the movie was made",
+         .title = "Original Speed"},
+        // The argument is a position among the movie's chapters; the items are made when the menu opens.
+        {.name = "chapters",
+         .operation = {gotoChapterOperation, &Self::gotoChapter, &Self::validateChapter},
+         .section = Section::playback,
+         .menu = {.title = "Chapters", .opens = MenuPlace::Opens::menu}},
+        {.name = "next-chapter",
+         .operation = stepChapter,
+         .argument = 1,
+         .keys = {{{fnkey::pageDown, shift}}},
+         .section = Section::playback,
+         .menu = {"Next Chapter"},
+         .help = "Next and previous chapter"},
+        {.name = "previous-chapter",
+         .operation = stepChapter,
+         .argument = -1,
+         .keys = {{{fnkey::pageUp, shift}}},
+         .section = Section::playback,
+         .menu = {"Previous Chapter", Separator::after},
+         .help = "Next and previous chapter"},
         {.name = "next-movie",
          .operation = playPrevNext,
          .argument = 1,

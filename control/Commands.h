@@ -139,6 +139,10 @@ inline constexpr const char* showPlaylistOperation = "showPlaylist";
 /// Of the items of the movies that were seen last, and of the one below them.
 inline constexpr const char* openRecentOperation = "openRecent";
 inline constexpr const char* clearRecentOperation = "clearRecent";
+/// Of the items of the menus of speeds and of chapters.
+inline constexpr const char* setSpeedOperation = "setSpeed";
+inline constexpr const char* changeSpeedOperation = "changeSpeed";
+inline constexpr const char* gotoChapterOperation = "gotoChapter";
 /// Of the subtitles menu's last item.
 inline constexpr const char* toggleRepairOperation = "toggleRepair";
 

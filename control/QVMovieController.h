@@ -80,6 +80,10 @@ public:
     bool validateMenuItem(platform::MenuItem& item) override;
     void performMenuItem(const platform::MenuItem& item) override;
 
+    /// Fill the menus of speeds and of chapters.
+    void fillSpeedMenu(platform::Menu& menu);
+    void fillChaptersMenu(platform::Menu& menu);
+
     void windowDidBecomeKey(platform::Window& window) override;
     void windowDidResignKey(platform::Window& window) override;
     void windowDidResize(platform::Window& window) override;
@@ -111,6 +115,11 @@ private:
     void cycleSubtitles(std::int32_t direction, Feedback feedback);
     void toggleRepair(std::int32_t, Feedback feedback);
     void switchScreen(std::int32_t direction, Feedback feedback);
+    void changeSpeed(std::int32_t argument, Feedback feedback);
+    bool validateSpeed(platform::MenuItem& item) const;
+    void gotoChapter(std::int32_t position, Feedback feedback);
+    void stepChapter(std::int32_t direction, Feedback feedback);
+    bool validateChapter(platform::MenuItem& item) const;
     void doOpen(std::int32_t, Feedback feedback);
     void doOpenFolder(std::int32_t, Feedback feedback);
     void doOpenURL(std::int32_t type, Feedback feedback);

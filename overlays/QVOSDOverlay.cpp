@@ -28,8 +28,13 @@ QVOSDOverlay::QVOSDOverlay(const Environment& environment, platform::Window& par
     , _texts(texts) {
     orderFront();
     platform::NotificationCenter& center = environment.notifications;
-    _onMovieTime = center.observe<QVMovieInterestingTimeNotification>(
-        [this](const QVMovieInterestingTimeNotification&) { updateDisplayOfType(playingTime); });
+    _onMovieTime =
+        center.observe<QVMovieInterestingTimeNotification>([this](const QVMovieInterestingTimeNotification&) {
+            updateDisplayOfType(playingTime);
+            // The movie's text names its chapter.
+            if (_type == currentMovie && textOfType(currentMovie) != text())
+                updateDisplay();
+        });
     _onSubtitles = center.observe<QVSubtitlesChangedNotification>(
         [this](const QVSubtitlesChangedNotification& notification) { currentSubtitlesChanged(notification); });
     _onVolume = center.observe<QVMovieVolumeChangedNotification>(

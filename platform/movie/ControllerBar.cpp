@@ -51,6 +51,13 @@ void drawSlider(QPainter& painter, const QRectF& slider, double value) {
     painter.drawEllipse(QPointF(at, middle), knob, knob);
 }
 
+void drawMarks(QPainter& painter, const QRectF& slider, std::span<const double> marks) {
+    painter.setBrush(QColor(255, 255, 255, 170));
+    for (const double mark : marks)
+        painter.drawRect(
+            QRectF(slider.left() + knob + mark * trackLength(slider) - 0.5, slider.center().y() - 4, 1, 8));
+}
+
 void drawSpeaker(QPainter& painter, const QRectF& button, const ControllerBar::State& state) {
     const QPointF c = button.center();
     const bool silent = state.muted || state.volume <= 0;
@@ -102,7 +109,8 @@ ControllerBar::State ControllerBar::shownState(const State& state, const QSizeF&
     return shown;
 }
 
-void ControllerBar::draw(QPainter& painter, const QSizeF& size, const State& state) const {
+void ControllerBar::draw(QPainter& painter, const QSizeF& size, const State& state,
+                         std::span<const double> marks) const {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(QRectF(QPointF(0, 0), size), QColor(24, 24, 26, 215));
@@ -118,6 +126,7 @@ void ControllerBar::draw(QPainter& painter, const QSizeF& size, const State& sta
     }
     drawSpeaker(painter, muteButton(size), state);
     drawSlider(painter, volumeSlider(size), state.volume);
+    drawMarks(painter, timeSlider(size), marks);
     drawSlider(painter, timeSlider(size), state.position);
     painter.restore();
 }

@@ -4,6 +4,7 @@
 #include <QRectF>
 
 #include <optional>
+#include <span>
 
 class QPainter;
 
@@ -37,7 +38,8 @@ public:
     /// The state as coarsely as a bar of the size shows it: states that are equal after it look the same.
     static State shownState(const State& state, const QSizeF& size);
 
-    void draw(QPainter& painter, const QSizeF& size, const State& state) const;
+    /// `marks` are places of the time slider, 0 to 1.
+    void draw(QPainter& painter, const QSizeF& size, const State& state, std::span<const double> marks) const;
     Command press(QPointF point, const QSizeF& size);
     Command drag(QPointF point, const QSizeF& size);
     void release();

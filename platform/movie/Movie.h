@@ -9,10 +9,19 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace platform {
 
 class MoviePlayer;
+
+/// A part of a movie that its file names; it lasts until the next one.
+struct Chapter {
+    std::int32_t start = 0;
+    /// One line; may be empty.
+    QString title;
+    friend bool operator==(const Chapter&, const Chapter&) = default;
+};
 
 /// What opening a movie found out, without decoding a picture.
 struct MovieInfo {
@@ -37,6 +46,8 @@ struct MovieInfo {
     bool saysDuration = true;
     /// Units of timeScale that one picture stays on average; 0 when not known.
     double frameDuration = 0;
+    /// By their starts, which lie within the movie, each its own.
+    std::vector<Chapter> chapters;
     /// Of all that the file holds, a second on average; 0 when not known.
     double bitRate = 0;
 

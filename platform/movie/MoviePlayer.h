@@ -56,6 +56,12 @@ public:
     /// 0 while paused. A rate that is not 0 plays; 0 pauses. Backwards, the movie stops at its beginning.
     virtual float rate() const = 0;
     virtual void setRate(float rate) = 0;
+    /// How fast rate 1 plays: a factor, kept within 0.25 to 4. It stays from movie to movie; the pitch of the sound is
+    /// kept.
+    virtual double speed() const = 0;
+    virtual void setSpeed(double speed) = 0;
+    static constexpr double minimumSpeed = 0.25;
+    static constexpr double maximumSpeed = 4.0;
 
     /// The time asked for last while a move to it is still under way.
     virtual std::int32_t time() const = 0;

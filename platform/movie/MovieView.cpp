@@ -139,7 +139,7 @@ void MovieView::draw(QPainter& painter, const Rect& dirty) {
     painter.save();
     painter.translate(0, bounds().height() - bar.height());
     painter.scale(scale, scale);
-    _bar.draw(painter, barSize(), _shownState);
+    _bar.draw(painter, barSize(), _shownState, marks());
     painter.restore();
 }
 
@@ -251,6 +251,15 @@ void MovieView::performController(const ControllerBar::Command& command) {
         }
         break;
     }
+}
+
+std::vector<double> MovieView::marks() const {
+    std::vector<double> marks;
+    if (_movie && _movie->duration() > 0)
+        for (const Chapter& chapter : _movie->info().chapters)
+            if (chapter.start > 0)
+                marks.push_back(static_cast<double>(chapter.start) / _movie->duration());
+    return marks;
 }
 
 ControllerBar::State MovieView::controllerState() const {

@@ -6,6 +6,7 @@
 #include "platform/window/View.h"
 
 #include <memory>
+#include <vector>
 
 namespace platform {
 
@@ -27,6 +28,9 @@ public:
     bool isPlaying() const;
     float rate() const;
     void setRate(float rate);
+    /// Of rate 1 (MoviePlayer::speed).
+    double speed() const { return _player.speed(); }
+    void setSpeed(double speed) { _player.setSpeed(speed); }
     float volume() const;
     virtual void setVolume(float volume);
     bool isMuted() const;
@@ -75,6 +79,8 @@ private:
     QPointF inBar(QPointF point) const;
     void performController(const ControllerBar::Command& command);
     ControllerBar::State controllerState() const;
+    /// Where the chapters begin, in shares of the duration.
+    std::vector<double> marks() const;
 
     MoviePlayer& _player;
     std::shared_ptr<Movie> _movie;

@@ -2330,4 +2330,75 @@
         <translation>Fortgesetzt bei %@</translation>
     </message>
 </context>
+<context>
+    <name>Watching</name>
+    <message id="Speed">
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="Speed: %@">
+        <source>Speed: %@</source>
+        <translation>Tempo: %@</translation>
+    </message>
+    <message id="%@x">
+        <source>%@x</source>
+        <translation>%@×</translation>
+    </message>
+    <message id="Slower">
+        <source>Slower</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message id="Faster">
+        <source>Faster</source>
+        <translation>Schneller</translation>
+    </message>
+    <message id="Half as Fast">
+        <source>Half as Fast</source>
+        <translation>Halb so schnell</translation>
+    </message>
+    <message id="Twice as Fast">
+        <source>Twice as Fast</source>
+        <translation>Doppelt so schnell</translation>
+    </message>
+    <message id="Original Speed">
+        <source>Original Speed</source>
+        <translation>Ursprüngliches Tempo</translation>
+    </message>
+    <message id="Slower and faster, the pitch kept; half and twice as fast">
+        <source>Slower and faster, the pitch kept; half and twice as fast</source>
+        <translation>Langsamer und schneller in gleicher Tonhöhe; halb und doppelt so schnell</translation>
+    </message>
+    <message id="As fast as the movie was made">
+        <source>As fast as the movie was made</source>
+        <translation>So schnell, wie der Film gemacht ist</translation>
+    </message>
+    <message id="Chapters">
+        <source>Chapters</source>
+        <translation>Kapitel</translation>
+    </message>
+    <message id="No Chapters">
+        <source>No Chapters</source>
+        <translation>Keine Kapitel</translation>
+    </message>
+    <message id="Chapter %d of %d">
+        <source>Chapter %d of %d</source>
+        <translation>Kapitel %d von %d</translation>
+    </message>
+    <message id="Chapter %d of %d: %@">
+        <source>Chapter %d of %d: %@</source>
+        <translation>Kapitel %d von %d: %@</translation>
+    </message>
+    <message id="Next Chapter">
+        <source>Next Chapter</source>
+        <translation>Nächstes Kapitel</translation>
+    </message>
+    <message id="Previous Chapter">
+        <source>Previous Chapter</source>
+        <translation>Vorheriges Kapitel</translation>
+    </message>
+    <message id="Next and previous chapter">
+        <source>Next and previous chapter</source>
+        <translation>Nächstes und vorheriges Kapitel</translation>
+    </message>
+</context>
 </TS>

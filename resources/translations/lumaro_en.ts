@@ -2330,4 +2330,75 @@
         <translation>Resumed at %@</translation>
     </message>
 </context>
+<context>
+    <name>Watching</name>
+    <message id="Speed">
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message id="Speed: %@">
+        <source>Speed: %@</source>
+        <translation>Speed: %@</translation>
+    </message>
+    <message id="%@x">
+        <source>%@x</source>
+        <translation>%@x</translation>
+    </message>
+    <message id="Slower">
+        <source>Slower</source>
+        <translation>Slower</translation>
+    </message>
+    <message id="Faster">
+        <source>Faster</source>
+        <translation>Faster</translation>
+    </message>
+    <message id="Half as Fast">
+        <source>Half as Fast</source>
+        <translation>Half as Fast</translation>
+    </message>
+    <message id="Twice as Fast">
+        <source>Twice as Fast</source>
+        <translation>Twice as Fast</translation>
+    </message>
+    <message id="Original Speed">
+        <source>Original Speed</source>
+        <translation>Original Speed</translation>
+    </message>
+    <message id="Slower and faster, the pitch kept; half and twice as fast">
+        <source>Slower and faster, the pitch kept; half and twice as fast</source>
+        <translation>Slower and faster, the pitch kept; half and twice as fast</translation>
+    </message>
+    <message id="As fast as the movie was made">
+        <source>As fast as the movie was made</source>
+        <translation>As fast as the movie was made</translation>
+    </message>
+    <message id="Chapters">
+        <source>Chapters</source>
+        <translation>Chapters</translation>
+    </message>
+    <message id="No Chapters">
+        <source>No Chapters</source>
+        <translation>No Chapters</translation>
+    </message>
+    <message id="Chapter %d of %d">
+        <source>Chapter %d of %d</source>
+        <translation>Chapter %d of %d</translation>
+    </message>
+    <message id="Chapter %d of %d: %@">
+        <source>Chapter %d of %d: %@</source>
+        <translation>Chapter %d of %d: %@</translation>
+    </message>
+    <message id="Next Chapter">
+        <source>Next Chapter</source>
+        <translation>Next Chapter</translation>
+    </message>
+    <message id="Previous Chapter">
+        <source>Previous Chapter</source>
+        <translation>Previous Chapter</translation>
+    </message>
+    <message id="Next and previous chapter">
+        <source>Next and previous chapter</source>
+        <translation>Next and previous chapter</translation>
+    </message>
+</context>
 </TS>

@@ -50,7 +50,9 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_EQ(shown(2), "Play startStop 0 (Space)\nFast Forward fastForwardRewind 1 (Right)\n"
                         "Rewind fastForwardRewind -1 (Left)\n-\nJump Forward jump 1 (Ctrl+Right)\n"
                         "Jump Backward jump -1 (Ctrl+Left)\n-\nBeginning beginningEnd -1 (Alt+Left)\n"
-                        "End beginningEnd 1 (Alt+Right)\n-\nNext Movie playPrevNext 1 [PgDown]\n"
+                        "End beginningEnd 1 (Alt+Right)\n-\nSpeed  0\nChapters  0\n"
+                        "Next Chapter stepChapter 1 (Shift+PgDown)\nPrevious Chapter stepChapter -1 (Shift+PgUp)\n-\n"
+                        "Next Movie playPrevNext 1 [PgDown]\n"
                         "Previous Movie playPrevNext -1 [PgUp]\n-\nLooping Off changeLooping 0 (L)\n"
                         "Loop One changeLooping 1\nLoop All changeLooping 2");
     EXPECT_EQ(shown(3), "Volume Up changeVolume 0 (Up)\nVolume Down changeVolume 1 (Down)\n-\n"

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/ScreenWalk.h"
+#include "control/SpeedSteps.h"
 #include "control/VolumeSteps.h"
+
+#include "platform/base/Localization.h"
 
 #include <gtest/gtest.h>
 
@@ -46,4 +49,23 @@ TEST(ScreenWalk, The_walk_takes_the_first_real_screen_around_the_list) {
         EXPECT_EQ(nextScreen(screens, c.start, 1), c.next) << c.kinds << c.start;
         EXPECT_EQ(nextScreen(screens, c.start, -1), c.previous) << c.kinds << c.start;
     }
+}
+
+TEST(SpeedSteps, Steps_go_to_the_next_round_speed_within_the_limits) {
+    using namespace speedStep;
+    const struct {
+        std::int32_t argument, before, after;
+    } cases[] = {
+        {faster, 100, 105}, {faster, 102, 105}, {faster, 195, 200}, {faster, 200, 210}, {faster, 395, 400},
+        {faster, 400, 400}, {slower, 100, 95},  {slower, 102, 100}, {slower, 210, 200}, {slower, 200, 195},
+        {slower, 30, 25},   {slower, 25, 25},   {twice, 125, 250},  {twice, 250, 400},  {half, 125, 62},
+        {half, 40, 25},     {100, 62, 100},     {125, 400, 125},    {7, 100, 25},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(steppedSpeed(c.argument, c.before), c.after) << c.argument << " from " << c.before;
+    for (const auto& [language, text] : {std::pair{"en", "1.25x"}, std::pair{"de", "1,25\u00d7"}}) {
+        platform::setLocalizationLanguages({language});
+        EXPECT_EQ(speedText(125).toStdString(), text);
+    }
+    platform::setLocalizationLanguages({});
 }

@@ -157,6 +157,23 @@ TEST(PlayerState, rates_up_to_four_are_the_cores_and_others_a_run_of_keyframes) 
     EXPECT_EQ(player.rate(), 0);
 }
 
+TEST(PlayerState, the_speed_is_a_factor_of_every_rate_and_stays_from_movie_to_movie) {
+    PlayerScript player = PlayerScript::showing(tenSeconds, 500);
+    EXPECT_EQ(player(SetSpeed{1.25, 0}), "| state") << "it rests";
+    EXPECT_EQ(player(Play{}), "speed 1.25, go | state");
+    EXPECT_EQ(player.rate(), 1) << "so that the space bar pauses";
+    EXPECT_EQ(player(SetSpeed{3, 0}), "speed 3 | state");
+    EXPECT_EQ(player(SetRate{2, 1}), "arm scrub 0.0833333, speed 1, pause | state") << "six times";
+    EXPECT_EQ(player(SetSpeed{1.5, 1.5}), "seek 8 keyframe, cancel scrub, speed 3 | state, frame 800, state, state");
+    const struct { double asked, kept; } cases[] = {{0.1, 0.25}, {9, 4}, {0.5, 0.5}, {std::nan(""), 0.5}};
+    for (const auto& c : cases) {
+        player(SetSpeed{c.asked, 0});
+        EXPECT_EQ(player.state().speed, c.kept) << c.asked;
+    }
+    player(Load{tenSeconds, 0});
+    EXPECT_EQ(player(Play{}), "speed 0.5, go | state");
+}
+
 // Seeks
 
 TEST(PlayerState, a_seek_shows_the_keyframe_first_and_holds_the_time_asked_for) {

@@ -43,7 +43,7 @@ protected:
 TEST_F(OSD, refreshes_only_on_what_its_display_shows) {
     const struct {
         int type, movie, time, subtitles, volume, looping;
-    } cases[] = {{0, 0, 0, 0, 0, 0}, {1, 1, 1, 0, 0, 0}, {2, 1, 0, 0, 0, 0},
+    } cases[] = {{0, 0, 0, 0, 0, 0}, {1, 1, 1, 0, 0, 0}, {2, 1, 1, 0, 0, 0},
                  {3, 0, 0, 1, 0, 0}, {4, 0, 0, 0, 0, 1}, {5, 0, 0, 0, 1, 0}};
     for (const auto& c : cases) {
         osd.setDisplayType(c.type);
@@ -56,6 +56,13 @@ TEST_F(OSD, refreshes_only_on_what_its_display_shows) {
         osd.setDisplayType(c.type);
         EXPECT_EQ(texts.asked, asked) << c.type;
     }
+}
+
+TEST_F(OSD, follows_the_movies_text_which_names_its_chapter_as_it_plays) {
+    osd.setDisplayType(2);
+    texts.name = "A film, its second chapter";
+    rig.settings.notifications.post(QVMovieInterestingTimeNotification{});
+    EXPECT_EQ(osd.text(), "Movie: A film, its second chapter (1/2)");
 }
 
 TEST_F(OSD, is_made_when_there_is_something_to_show) {

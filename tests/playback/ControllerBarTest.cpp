@@ -63,7 +63,7 @@ TEST(ControllerBar, it_shows_whether_it_plays_how_loud_and_where) {
         QImage image(640, 16, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::black);
         QPainter painter(&image);
-        ControllerBar().draw(painter, size, state);
+        ControllerBar().draw(painter, size, state, {});
         return image;
     };
     const auto brightness = [](const QImage& image, const QPointF& at) { return qGray(image.pixel(at.toPoint())); };
@@ -103,4 +103,23 @@ TEST(ControllerBar, it_shows_whether_it_plays_how_loud_and_where) {
             }
         }
     }
+}
+
+TEST(ControllerBar, it_marks_where_the_chapters_begin) {
+    ScriptedToolkit toolkit;
+    platform::MovieInfo info = ScriptedToolkit::plainMovie(QUrl("file:///movies/chapters.mp4"));
+    info.chapters = {{0, "One"}, {9000, "Two"}, {27000, {}}};
+    platform::MovieView view(toolkit.player());
+    view.setFrame(platform::Rect(0, 0, 640, 116));
+    view.setMovieObject(std::make_shared<platform::Movie>(info, toolkit.player()));
+    QImage image(640, 116, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    view.draw(painter, view.bounds());
+    const QRectF slider = ControllerBar::timeSlider(QSizeF(640, 16));
+    std::vector<int> marked; // shares of the slider, above its line
+    for (int x = static_cast<int>(slider.left()) + 10; x < slider.right(); ++x)
+        if (qGray(image.pixel(x, 100 + 5)) > 60 && qGray(image.pixel(x - 1, 100 + 5)) <= 60)
+            marked.push_back(qRound((x - slider.left() - 4) * 100 / (slider.width() - 8)));
+    EXPECT_EQ(marked, (std::vector<int>{25, 75}));
 }

@@ -15,7 +15,7 @@ void ScriptedPlayer::advance(double seconds) {
     const platform::MovieInfo& info = movie->info();
     const int picture = info.hasVideo ? static_cast<int>(info.frameDuration) : info.timeScale / 20;
     for (_left += seconds * info.timeScale; _movie == movie && _rate != 0.0F;) {
-        const double taken = picture / std::abs(double{_rate});
+        const double taken = picture / std::abs(_rate * _speed);
         if (_left < taken - 1e-6)
             return;
         _left -= taken;

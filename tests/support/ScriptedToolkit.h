@@ -41,6 +41,8 @@ public:
     bool isPlaying() const override { return _rate != 0.0F; }
     float rate() const override { return _rate; }
     void setRate(float rate) override;
+    double speed() const override { return _speed; }
+    void setSpeed(double speed) override { _speed = speed; }
     std::int32_t time() const override { return _time; }
     void seek(std::int32_t time, JumpReport report) override;
     void step(int direction) override;
@@ -61,6 +63,7 @@ private:
     std::int32_t _time = 0;
     double _left = 0; // units passed at rate 1 that made no whole picture yet
     float _rate = 0;
+    double _speed = 1;
     float _volume = 1;
     bool _muted = false;
 };

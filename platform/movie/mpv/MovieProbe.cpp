@@ -9,6 +9,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cmath>
@@ -162,17 +163,35 @@ double bitRateOf(const AVFormatContext* input, double seconds) {
     return size > 0 && seconds > 0 ? static_cast<double>(size) * 8 / seconds : 0;
 }
 
+constexpr int maximumLine = 500; // characters
+
 /// What the file says of itself, or of its sound; one line of it.
 QString tagOf(const AVFormatContext* input, const AVStream* sound, const char* key) {
-    constexpr int maximumCharacters = 500;
     for (const AVDictionary* tags : {input->metadata, sound ? sound->metadata : nullptr}) {
         if (const AVDictionaryEntry* entry = AvLibrary::get()->av_dict_get(tags, key, nullptr, 0)) {
-            const QString text = QString::fromUtf8(entry->value).simplified().left(maximumCharacters);
+            const QString text = QString::fromUtf8(entry->value).simplified().left(maximumLine);
             if (!text.isEmpty())
                 return text;
         }
     }
     return {};
+}
+
+std::vector<Chapter> chaptersOf(const AVFormatContext* input, const MovieInfo& info) {
+    std::vector<Chapter> chapters;
+    for (unsigned i = 0; i < input->nb_chapters; ++i) {
+        const AVChapter* chapter = input->chapters[i];
+        const double start = static_cast<double>(chapter->start) * av_q2d(chapter->time_base) * info.timeScale;
+        if (!(start >= 0 && start < info.duration))
+            continue;
+        const AVDictionaryEntry* title = AvLibrary::get()->av_dict_get(chapter->metadata, "title", nullptr, 0);
+        chapters.push_back({static_cast<std::int32_t>(std::ceil(start)),
+                            title ? QString::fromUtf8(title->value).simplified().left(maximumLine) : QString()});
+    }
+    std::ranges::stable_sort(chapters, {}, &Chapter::start);
+    const auto doubled = std::ranges::unique(chapters, {}, &Chapter::start);
+    chapters.erase(doubled.begin(), doubled.end());
+    return chapters;
 }
 
 MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream* sound) {
@@ -184,6 +203,7 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream
     info.hasVideo = video != nullptr;
     info.timeScale = chooseTimeScale(video ? video->time_base : AVRational{1, 600}, seconds);
     info.duration = static_cast<std::int32_t>(std::min(std::round(seconds * info.timeScale), largest));
+    info.chapters = chaptersOf(input, info);
     if (!video) {
         info.title = tagOf(input, sound, "title");
         info.artist = tagOf(input, sound, "artist");

@@ -46,6 +46,8 @@ public:
     bool isPlaying() const override { return _state.rate != 0; }
     float rate() const override { return _state.rate; }
     void setRate(float rate) override { apply(playerEvent::SetRate{rate, RunLoop::main().now()}); }
+    double speed() const override { return _state.speed; }
+    void setSpeed(double speed) override { apply(playerEvent::SetSpeed{speed, RunLoop::main().now()}); }
     std::int32_t time() const override { return _state.time; }
     void seek(std::int32_t time, JumpReport report) override { apply(playerEvent::Seek{time, report}); }
     void step(int direction) override { apply(playerEvent::Step{direction}); }

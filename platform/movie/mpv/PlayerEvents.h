@@ -46,6 +46,10 @@ struct SetRate {
     float rate;
     double now;
 };
+struct SetSpeed {
+    double speed;
+    double now;
+};
 struct Seek {
     std::int32_t time;
     MoviePlayer::JumpReport report;
@@ -92,11 +96,12 @@ struct FrameDue {};
 
 } // namespace playerEvent
 
-using PlayerEvent = std::variant<playerEvent::CoreReady, playerEvent::CoreDropped, playerEvent::Load, playerEvent::Play,
-                                 playerEvent::SetRate, playerEvent::Seek, playerEvent::Step, playerEvent::SetVolume,
-                                 playerEvent::SetMuted, playerEvent::TimerFired, playerEvent::FileStarted,
-                                 playerEvent::FileFailed, playerEvent::PlaybackRestarted, playerEvent::TimeChanged,
-                                 playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
+using PlayerEvent =
+    std::variant<playerEvent::CoreReady, playerEvent::CoreDropped, playerEvent::Load, playerEvent::Play,
+                 playerEvent::SetRate, playerEvent::SetSpeed, playerEvent::Seek, playerEvent::Step,
+                 playerEvent::SetVolume, playerEvent::SetMuted, playerEvent::TimerFired, playerEvent::FileStarted,
+                 playerEvent::FileFailed, playerEvent::PlaybackRestarted, playerEvent::TimeChanged,
+                 playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
 
 /// What is to be done: commands to the core, which stands when one is asked for, and timers.
 namespace playerEffect {

@@ -19,7 +19,7 @@ using Seeking = LoadedMovie::Seeking;
 using SeekStage = PlayerState::SeekStage;
 using TimeSource = PlayerState::TimeSource;
 
-constexpr float maximumPlayedRate = 4.0F;
+constexpr double maximumPlayedRate = 4.0;
 constexpr double scrubInterval = 1.0 / 12;
 // How long the frame of a keyframe may take to reach the screen before the exact frame is asked for anyway.
 constexpr double keyframeTimeout = 0.1;
@@ -57,6 +57,7 @@ public:
         fresh.time = load.time;
         fresh.volume = _s.volume;
         fresh.muted = _s.muted;
+        fresh.speed = _s.speed;
         fresh.core = _s.core;
         fresh.seeks.hold();
         _s = fresh;
@@ -94,6 +95,17 @@ public:
     }
 
     void operator()(const playerEvent::SetRate& asked) { setRate(asked.rate, asked.now); }
+
+    void operator()(const playerEvent::SetSpeed& asked) {
+        if (std::isnan(asked.speed))
+            return;
+        if (_s.scrub) // what has passed until now did so at the old speed
+            scrub(asked.now);
+        _s.speed = std::clamp(asked.speed, MoviePlayer::minimumSpeed, MoviePlayer::maximumSpeed);
+        updateScrubbing(asked.now);
+        applyMotion();
+        report(StateChanged{});
+    }
 
     void operator()(const playerEvent::Seek& asked) { seek(asked.time, asked.report); }
 
@@ -250,19 +262,31 @@ private:
             return;
         // Paused while it seeks, so that nothing is heard of the keyframe's place.
         const bool paused = _s.rate == 0 || _s.scrub || _s.seekStage != SeekStage::none;
-        const double speed = _s.rate > 0 && !_s.scrub ? static_cast<double>(_s.rate) : 1.0;
+        const double speed = _s.rate > 0 && !_s.scrub ? playedRate() : 1.0;
         if (std::exchange(_s.core->speed, speed) != speed)
             effect(SetSpeed{speed});
         if (std::exchange(_s.core->paused, paused) != paused)
             effect(SetPaused{paused});
     }
 
+    double playedRate() const { return static_cast<double>(_s.rate) * _s.speed; }
+
     void setRate(float rate, double now) {
         if (!_s.movie || std::isnan(rate) || rate == _s.rate)
             return;
         const bool isThere = (rate < 0 && _s.time <= 0) || (rate > 0 && _s.end != CoreEnd::no && !_s.seeks.isBusy());
         _s.rate = isThere ? 0 : rate;
-        const bool scrubs = _s.rate < 0 || _s.rate > maximumPlayedRate;
+        updateScrubbing(now);
+        if (_s.rate != 0)
+            _s.stepsWaiting = 0;
+        applyMotion();
+        endIfFailed();
+        report(StateChanged{});
+    }
+
+    /// Begins or ends it as rate and speed want it.
+    void updateScrubbing(double now) {
+        const bool scrubs = _s.rate < 0 || playedRate() > maximumPlayedRate;
         if (scrubs && !_s.scrub) {
             _s.scrub = {now, toSeconds(_s.time)};
             effect(ArmTimer{PlayerTimer::scrub, scrubInterval});
@@ -270,13 +294,8 @@ private:
             endScrubbing();
             seek(_s.time, JumpReport::silent);
         }
-        if (_s.rate != 0) {
-            _s.stepsWaiting = 0;
+        if (_s.rate != 0)
             _s.timeSource = scrubs ? TimeSource::asked : TimeSource::core;
-        }
-        applyMotion();
-        endIfFailed();
-        report(StateChanged{});
     }
 
     void endScrubbing() {
@@ -287,8 +306,7 @@ private:
     void scrub(double now) {
         if (!_s.scrub)
             return;
-        const double position =
-            _s.scrub->position + static_cast<double>(_s.rate) * (now - std::exchange(_s.scrub->last, now));
+        const double position = _s.scrub->position + playedRate() * (now - std::exchange(_s.scrub->last, now));
         if (_s.rate < 0 && position <= 0) {
             _s.rate = 0;
             endScrubbing();

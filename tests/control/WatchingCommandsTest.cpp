@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Speed, and places in the movie.
+#include "tests/control/MovieControllerRig.h"
+
+namespace {
+
+namespace key = platform::functionKey;
+namespace held = platform::modifier;
+
+class WatchingCommands : public MovieControllerRig {
+protected:
+    /// A minute of three chapters, 600 units a second.
+    std::shared_ptr<QVMovie> showChapters() {
+        platform::MovieInfo info = ScriptedToolkit::plainMovie(QUrl("file:///movies/chapters.mp4"));
+        info.chapters = {{6000, "Harbour"}, {12000, "Storm"}, {30000, {}}};
+        auto movie = QVMovie::movieWithOpened(settings.environment, this->movies, {info, 0});
+        view.setMovie(movie);
+        return movie;
+    }
+    /// The menu's titles, the chosen one in brackets, the disabled in parentheses.
+    std::string itemsOf(platform::Menu& menu) {
+        QStringList list;
+        for (int i = 0; i < menu.count(); ++i) {
+            platform::MenuItem& shown = menu.itemAt(i);
+            const bool isEnabled = shown.separator || controller.validateMenuItem(shown);
+            const char* form = shown.separator ? "-" : !isEnabled ? "(%1)" : shown.state ? "[%1]" : "%1";
+            list << (shown.separator ? QString(form) : QString(form).arg(shown.title));
+        }
+        return list.join('|').toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(WatchingCommands, Speed_is_set_by_keys_and_menu_and_leaves_the_rate_alone) {
+    platform::setLocalizationLanguages({"en"});
+    addMovies(1);
+    const struct {
+        char16_t character;
+        double speed;
+        const char* says;
+    } cases[] = {{u']', 1.05, "1.05x"}, {u'[', 1, "1x"},     {u'{', 0.5, "0.5x"},      {u'{', 0.25, "0.25x"},
+                 {u'[', 0.25, "0.25x"}, {u'}', 0.5, "0.5x"}, {key::backspace, 1, "1x"}};
+    view.start();
+    for (const auto& c : cases) {
+        EXPECT_TRUE(press(c.character));
+        EXPECT_DOUBLE_EQ(view.speed(), c.speed);
+        EXPECT_EQ(posted(), text("Speed: %@", {c.says}));
+        EXPECT_EQ(view.rate(), 1.0F);
+        EXPECT_FALSE(view.isMuted());
+    }
+    perform(setSpeedOperation, 400);
+    platform::Menu menu;
+    controller.fillSpeedMenu(menu);
+    EXPECT_EQ(itemsOf(menu),
+              "0.25x|0.5x|0.75x|1x|1.25x|1.5x|2x|3x|[4x]|-|(Faster)|Slower|(Twice as Fast)|Half as Fast");
+    EXPECT_EQ(menu.itemAt(3).keyHint, "Backspace");
+    platform::setLocalizationLanguages({});
+}
+
+TEST_F(WatchingCommands, Chapters_are_reached_by_keys_and_menu_and_named) {
+    platform::setLocalizationLanguages({"en"});
+    const auto movie = showChapters();
+    const struct {
+        std::int32_t from;
+        char16_t character;
+        std::int32_t to;
+        const char* says;
+    } cases[] = {
+        {0, key::pageDown, 6000, "Chapter 1 of 3: Harbour"},
+        {6000, key::pageDown, 12000, "Chapter 2 of 3: Storm"},
+        {29999, key::pageDown, 30000, "Chapter 3 of 3"},
+        {30001, key::pageDown, 30001, "beep"},
+        {15000, key::pageUp, 12000, "Chapter 2 of 3: Storm"},
+        {12000 + 3 * 600, key::pageUp, 6000, "Chapter 1 of 3: Harbour"},
+        {6100, key::pageUp, 6000, "Chapter 1 of 3: Harbour"},
+        {5999, key::pageUp, 5999, "beep"},
+    };
+    for (const auto& c : cases) {
+        view.setTime(c.from);
+        confirmations.last.clear();
+        desktop.beeps = 0;
+        EXPECT_TRUE(press(c.character, held::shift));
+        EXPECT_EQ(view.time(), c.to) << c.from;
+        EXPECT_EQ(desktop.beeps > 0 ? "beep" : posted(), c.says) << c.from;
+    }
+    platform::Menu menu;
+    view.setTime(14000);
+    controller.fillChaptersMenu(menu);
+    EXPECT_EQ(itemsOf(menu), "0:00:10   Harbour|[0:00:20   Storm]|0:00:50   Chapter 3 of 3");
+    perform(gotoChapterOperation, 2);
+    EXPECT_EQ(view.time(), 30000);
+    perform(gotoChapterOperation, 3);
+    EXPECT_EQ(view.time(), 30000);
+
+    addMovies(1);
+    playlist.play(0);
+    view.setMovie(playlist.movieAtIndex(0));
+    controller.fillChaptersMenu(menu);
+    EXPECT_EQ(itemsOf(menu), "(No Chapters)");
+    EXPECT_TRUE(press(key::pageUp, held::shift));
+    EXPECT_EQ(posted(), "No Chapters");
+    platform::setLocalizationLanguages({});
+}
