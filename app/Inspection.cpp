@@ -43,25 +43,9 @@ void writeNumbers(std::initializer_list<double> numbers, JsonWriter& json) {
     json.endArray();
 }
 
-/// Empty for a type without a name.
-QStringView typeName(const QVSubtitles& track) {
-    switch (track.type()) {
-    case QVSubtitles::typeSubRip:
-        return u"SubRip";
-    case QVSubtitles::typeMicroDVD:
-        return u"MicroDVD";
-    case QVSubtitles::typeVobSub:
-        return u"VobSub";
-    case QVSubtitles::typeTMPlayer:
-        return u"TMPlayer";
-    default:
-        return {};
-    }
-}
-
 void writeTrack(const QVSubtitles& track, std::int32_t timeScale, JsonWriter& json) {
     json.name("type");
-    if (const QStringView name = typeName(track); !name.isEmpty())
+    if (const QString name = track.formatName(); !name.isEmpty())
         json.value(name);
     else
         json.null();
@@ -168,7 +152,7 @@ QUrl urlOf(const QString& pathOrUrl) {
 
 QStringList inspectFiles(const Environment& environment, platform::MovieToolkit& toolkit, const MovieReader& readMovie,
                          const QStringList& pathsOrUrls, JsonWriter& json, const InspectedSubtitles& subtitles) {
-    SubtitleRegistry readers(subtitleReaders(environment));
+    SubtitleRegistry readers(subtitleReaders(environment, toolkit.subtitlePacketReader()));
     SubtitleDiscovery discovery(environment.loop);
     NoUser user;
     const MovieServices services{toolkit, user, readers, discovery};

@@ -42,7 +42,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },
                [this](int direction) { _view.stopAutoscroll(direction); }, [this] { return _files.endSearches(); }})
     , _feedback(environment, _window)
-    , _subtitleReaders(subtitleReaders(environment))
+    , _subtitleReaders(subtitleReaders(environment, platform.toolkit.subtitlePacketReader()))
     , _subtitleDiscovery(environment.loop)
     , _drops(environment, {_files, _feedback}, supportedFileTypes(platform.bundle),
              _subtitleReaders.subtitleUnfilteredFileTypes())

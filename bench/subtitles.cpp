@@ -40,7 +40,7 @@ public:
         size = text.size();
     }
     std::shared_ptr<QVSubtitles> open() {
-        SubtitleRegistry registry(subtitleReaders(Settings::environment()));
+        SubtitleRegistry registry(subtitleReaders(Settings::environment(), nullptr));
         const auto tracks = registry.subtitlesWithFilePath(path, owner);
         return tracks.empty() ? nullptr : tracks.front();
     }

@@ -62,6 +62,12 @@ void QVSubtitles::appendSubtitle(std::shared_ptr<QVSubtitle> subtitle) {
     _subtitles->append(std::move(subtitle));
 }
 
+void QVSubtitles::setCues(CueList cues) {
+    const auto guard = lockSubtitles();
+    _subtitles = std::move(cues);
+    _resetAsked = true;
+}
+
 void QVSubtitles::finishLoading() {
     trace("%@: End parsing subtitles, %d entries loaded.", className(), count());
     reset();
@@ -119,13 +125,27 @@ void QVSubtitles::followLoading() {
     if (_current && !_resetAsked)
         return;
     const auto guard = lockSubtitles();
+    resetCursor();
+}
+
+/// Within the guard.
+void QVSubtitles::resetCursor() {
     _resetAsked = false;
-    if (_subtitles && _subtitles->count() > 0)
+    if (_subtitles && _subtitles->count() > 0) {
         placeCursor(0);
+    } else {
+        _cursor.clear();
+        _current.reset();
+    }
 }
 
 void QVSubtitles::moveCursor(std::int32_t time) {
     const auto guard = lockSubtitles();
+    // A worker may have put others in the place of the cues since.
+    if (_resetAsked)
+        resetCursor();
+    if (!_current)
+        return;
     if (!_subtitles->isInOrder()) {
         placeCursor(_subtitles->indexFor(time));
         return;
@@ -143,7 +163,7 @@ std::shared_ptr<QVSubtitle> QVSubtitles::subtitleForTime(std::int32_t time) {
         return nullptr;
     if (!_cursor.staysFor(time, _current->start(), _current->end()))
         moveCursor(time);
-    if (time < _current->start() || time > _current->end() || (onlyForced() && !_current->forced()))
+    if (!_current || time < _current->start() || time > _current->end() || (onlyForced() && !_current->forced()))
         return nullptr;
     return _current;
 }
@@ -161,7 +181,7 @@ void QVSubtitles::setFrameRate(std::int32_t choice) {
     const auto guard = lockSubtitles();
     _subtitles->scaleTimes(actualFrameRate(_fps) / actualFrameRate(choice));
     _fps = choice;
-    if (_current)
+    if (_current && !_resetAsked)
         placeCursor(_cursor.index());
 }
 
@@ -185,6 +205,21 @@ QString QVSubtitles::title() const {
 
 QString QVSubtitles::language() const {
     return SubtitleFileName::languageOf(platform::lastPathComponent(path()), _owner.fileName());
+}
+
+QString QVSubtitles::formatName() const {
+    switch (_type) {
+    case typeSubRip:
+        return QStringLiteral("SubRip");
+    case typeMicroDVD:
+        return QStringLiteral("MicroDVD");
+    case typeVobSub:
+        return QStringLiteral("VobSub");
+    case typeTMPlayer:
+        return QStringLiteral("TMPlayer");
+    default:
+        return {};
+    }
 }
 
 QString QVSubtitles::description() const {

@@ -34,7 +34,7 @@ struct ImageAppearance {
 class QVSubtitles {
 public:
     /// The readers, in the order in which they are offered a file of an unknown kind.
-    enum Type : std::int32_t { typeNone = -1, typeSubRip, typeMicroDVD, typeVobSub, typeTMPlayer };
+    enum Type : std::int32_t { typeNone = -1, typeSubRip, typeMicroDVD, typeVobSub, typeTMPlayer, typePacket };
     /// Encoding of a track that was never loaded.
     static constexpr std::uint32_t noEncoding = 0xFFFFFFFF;
 
@@ -91,6 +91,8 @@ public:
     /// For the user: the file's name, unless the reader knows better.
     virtual QString title() const;
     QString description() const;
+    /// The kind of file, as people call it.
+    virtual QString formatName() const;
     /// The tag ("de", "pt-BR") of the language, as far as it is known; empty otherwise.
     virtual QString language() const;
 
@@ -128,6 +130,8 @@ protected:
 
     /// By whoever loads; on the worker for a track that has one.
     void appendSubtitle(std::shared_ptr<QVSubtitle> subtitle);
+    /// The same for all cues in one piece, in the place of those that there are. The cursor goes to the first cue.
+    void setCues(CueList cues);
     void finishLoading();
     void logMemoryFull() const;
 
@@ -150,6 +154,7 @@ private:
     void placeCursor(std::size_t index);
     void moveCursor(std::int32_t time);
     void followLoading();
+    void resetCursor();
 
     const platform::UserDefaults& _settings;
     QString _path;
@@ -159,7 +164,7 @@ private:
     float _timeScaleAdjustment;
     ReadingMode _mode = ReadingMode::strict;
     std::atomic<std::size_t> _losses = 0;
-    std::uint32_t _encoding = noEncoding;
+    std::atomic<std::uint32_t> _encoding = noEncoding;
     std::optional<CueList> _subtitles;
     CueCursor _cursor;
     std::shared_ptr<QVSubtitle> _current; // at the cursor, while that is placed

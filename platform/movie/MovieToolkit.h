@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/movie/Movie.h"
+#include "platform/movie/SubtitlePackets.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -72,6 +73,7 @@ public:
     static constexpr int maximumCoverSide = 1280;
 
     virtual FetchFile fileFetcher() const = 0;
+    virtual ReadSubtitlePackets subtitlePacketReader() const = 0;
 
     virtual MoviePlayer& player() = 0;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/formats/SubtitleFormats.h"
 
+#include "subtitles/packets/PacketSubtitles.h"
 #include "subtitles/text/QVMicroDVDSubtitles.h"
 #include "subtitles/text/QVSubRipSubtitles.h"
 #include "subtitles/text/QVTMPlayerSubtitles.h"
@@ -26,9 +27,20 @@ SubtitleReader vobSubReader(const Environment& environment) {
             }};
 }
 
+/// Whatever the others do not take.
+SubtitleReader packetReader(const Environment& environment, const platform::ReadSubtitlePackets& readPackets) {
+    return {PacketSubtitles::extensionsList(),
+            [](const QString&, std::string_view beginning) { return packetFormatOf(beginning).has_value(); },
+            [environment, readPackets](const QString& path, SubtitleOwner& owner) {
+                return PacketSubtitles::subtitlesWithFilePath(environment, readPackets, path, owner);
+            }};
+}
+
 } // namespace
 
-std::vector<SubtitleReader> subtitleReaders(const Environment& environment) {
+std::vector<SubtitleReader> subtitleReaders(const Environment& environment,
+                                            const platform::ReadSubtitlePackets& readPackets) {
     return {textReader<QVSubRipSubtitles>(environment.settings), textReader<QVMicroDVDSubtitles>(environment.settings),
-            vobSubReader(environment), textReader<QVTMPlayerSubtitles>(environment.settings)};
+            vobSubReader(environment), textReader<QVTMPlayerSubtitles>(environment.settings),
+            packetReader(environment, readPackets)};
 }

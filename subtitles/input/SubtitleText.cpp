@@ -50,8 +50,10 @@ bool hidesASCII(std::uint32_t encoding) {
     return std::ranges::find(hiding, encoding) != std::end(hiding);
 }
 
-/// As UTF-8, line by line; a line that is not valid stays as it is.
-QByteArray narrowedByLine(const QByteArray& bytes, std::uint32_t encoding) {
+enum class InvalidLines { kept, leftOut };
+
+/// As UTF-8, line by line.
+QByteArray narrowedByLine(const QByteArray& bytes, std::uint32_t encoding, InvalidLines invalid, std::size_t& lost) {
     TextDecoder decoder(encoding);
     QByteArray result;
     result.reserve(bytes.size());
@@ -61,9 +63,12 @@ QByteArray narrowedByLine(const QByteArray& bytes, std::uint32_t encoding) {
         const std::string_view line = rest.substr(0, std::min(rest.find('\n'), rest.size() - 1) + 1);
         rest.remove_prefix(line.size());
         text.resize(0);
-        if (decoder.append(line, text))
+        if (decoder.append(line, text)) {
             result.append(text.toUtf8());
-        else
+            continue;
+        }
+        ++lost;
+        if (invalid == InvalidLines::kept)
             result.append(line.data(), static_cast<qsizetype>(line.size()));
     }
     return result;
@@ -80,7 +85,8 @@ SubtitleText SubtitleText::fromBytes(QByteArray bytes, std::uint32_t encoding) {
         text.decodeWith = textEncoding::utf8;
     }
     if (encoding == textEncoding::automatic && hidesASCII(text.encoding)) {
-        bytes = narrowedByLine(bytes, text.encoding);
+        std::size_t lost = 0;
+        bytes = narrowedByLine(bytes, text.encoding, InvalidLines::kept, lost);
         text.decodeWith = textEncoding::utf8;
     }
     if (text.decodeWith == textEncoding::utf8 && bytes.startsWith("\xEF\xBB\xBF"))
@@ -95,4 +101,10 @@ SubtitleText SubtitleText::beginningOfFile(const QString& path) {
     QByteArray bytes = readRegularFile(path, most).value_or(QByteArray());
     const std::uint32_t encoding = isWide(bytes, textEncoding::utf16) ? textEncoding::utf16 : textEncoding::utf8;
     return fromBytes(std::move(bytes), encoding);
+}
+
+QByteArray SubtitleText::asUTF8(std::size_t& lost) const {
+    if (decodeWith == textEncoding::utf8 && QUtf8StringView(bytes).isValidUtf8())
+        return bytes;
+    return narrowedByLine(bytes, decodeWith, InvalidLines::leftOut, lost);
 }

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -23,6 +24,8 @@ struct SubtitleText {
     static SubtitleText fromBytes(QByteArray bytes, std::uint32_t encoding);
     /// As much of a file as a probe looks at. Empty when it cannot be read or is no regular file.
     static SubtitleText beginningOfFile(const QString& path);
+    /// All of it in UTF-8, without the lines that are not valid in its encoding, whose number is added to `lost`.
+    QByteArray asUTF8(std::size_t& lost) const;
 };
 
 /// How many lines of a file a probe looks at.

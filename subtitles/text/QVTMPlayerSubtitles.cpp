@@ -32,6 +32,12 @@ std::optional<LineStart> scanStart(std::string_view line) {
     return std::nullopt;
 }
 
+/// "00:00:01.50,00:00:03.20", above its text: SubViewer.
+bool isTimedInHundredths(std::string_view line) {
+    std::array<std::int32_t, 8> numbers{};
+    return scanLine(line, "%d:%d:%d.%d,%d:%d:%d.%d", numbers).filled == numbers.size();
+}
+
 } // namespace
 
 QVTMPlayerSubtitles::QVTMPlayerSubtitles(const platform::UserDefaults& settings, const QString& path,
@@ -47,7 +53,7 @@ bool QVTMPlayerSubtitles::isFormatValid(std::string_view text, ReadingMode mode)
         if (!line)
             break;
         // The times of another format would be shown as texts.
-        if (line->find("-->") != std::string_view::npos)
+        if (line->find("-->") != std::string_view::npos || isTimedInHundredths(*line))
             return false;
         // Whatever separates the text from the time is not looked at.
         isTimed = isTimed || scanLine(*line, "%d:%d:%d", numbers).filled == numbers.size();

@@ -60,7 +60,7 @@ public:
     explicit Registry(const Environment& environment)
         : SubtitleRegistry({})
         , _environment(environment)
-        , _readers(subtitleReaders(environment)) {}
+        , _readers(subtitleReaders(environment, nullptr)) {}
     QStringList subtitleUnfilteredFileTypes() const override { return _readers.subtitleUnfilteredFileTypes(); }
     std::vector<std::shared_ptr<QVSubtitles>> subtitlesWithFilePath(const QString& path,
                                                                     SubtitleOwner& owner) override {

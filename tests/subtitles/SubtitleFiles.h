@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/mpv/SubtitleDemuxer.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/formats/SubtitleFormats.h"
 #include "tests/support/FakeSubtitles.h"
@@ -59,5 +60,5 @@ protected:
     TestEnvironment settings;
     QTemporaryDir folder;
     PlainOwner owner;
-    SubtitleRegistry registry{subtitleReaders(settings.environment)};
+    SubtitleRegistry registry{subtitleReaders(settings.environment, &platform::readSubtitlePackets)};
 };

@@ -13,7 +13,8 @@
 class PlainOwner final : public SubtitleOwner {
 public:
     float rate = 25;
-    std::int32_t timeScale() const override { return 600; }
+    std::int32_t scale = 600;
+    std::int32_t timeScale() const override { return scale; }
     float frameRate() override { return rate; }
     std::int32_t time() const override { return 0; }
 };

@@ -113,6 +113,7 @@ public:
             return file;
         };
     }
+    platform::ReadSubtitlePackets subtitlePacketReader() const override { return nullptr; }
     platform::MoviePlayer& player() override { return scriptedPlayer; }
 
 private:

@@ -33,12 +33,15 @@ namespace platform {
 
 #define LUMARO_AV_FUNCTIONS(X)                                                                                         \
     X(avformat_alloc_context)                                                                                          \
+    X(av_find_input_format)                                                                                            \
     X(avformat_open_input)                                                                                             \
     X(avformat_find_stream_info)                                                                                       \
     X(avformat_close_input)                                                                                            \
     X(avformat_free_context)                                                                                           \
     X(avio_open2)                                                                                                      \
+    X(avio_alloc_context)                                                                                              \
     X(avio_closep)                                                                                                     \
+    X(avio_context_free)                                                                                               \
     X(av_guess_sample_aspect_ratio)                                                                                    \
     X(avio_read)                                                                                                       \
     X(avio_size)                                                                                                       \
@@ -55,9 +58,11 @@ namespace platform {
     X(av_packet_alloc)                                                                                                 \
     X(av_packet_unref)                                                                                                 \
     X(av_packet_free)                                                                                                  \
+    X(av_packet_get_side_data)                                                                                         \
     X(av_frame_alloc)                                                                                                  \
     X(av_frame_free)                                                                                                   \
     X(av_display_rotation_get)                                                                                         \
+    X(av_malloc)                                                                                                       \
     X(av_free)                                                                                                         \
     X(av_opt_get)                                                                                                      \
     X(av_rescale_q)                                                                                                    \

@@ -7,6 +7,7 @@
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
+#include "platform/movie/mpv/SubtitleDemuxer.h"
 #include "platform/movie/mpv/VideoPage.h"
 
 #include <clocale>
@@ -62,6 +63,10 @@ void MpvToolkit::exit() {
 
 FetchFile MpvToolkit::fileFetcher() const {
     return &fetchFile;
+}
+
+ReadSubtitlePackets MpvToolkit::subtitlePacketReader() const {
+    return &readSubtitlePackets;
 }
 
 MoviePlayer& MpvToolkit::player() {

@@ -34,6 +34,7 @@ public:
     std::unique_ptr<MovieOpening> openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) override;
     std::unique_ptr<MovieOpening> coverAsync(const QUrl& url, std::function<void(QImage)> completion) override;
     FetchFile fileFetcher() const override;
+    ReadSubtitlePackets subtitlePacketReader() const override;
     MoviePlayer& player() override;
 
 private:

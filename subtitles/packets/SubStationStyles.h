@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <string_view>
+
+/// What a view of ours draws of the styles of a SubStation Alpha file.
+class SubStationStyles {
+public:
+    struct Style {
+        bool isBold = false;
+        bool isItalic = false;
+        bool isUnderlined = false;
+        /// As TimedCue::place; 0 at the bottom in the middle.
+        int place = 0;
+    };
+
+    SubStationStyles() = default;
+    /// Of a file in UTF-8, or of its beginning. What cannot be read is left out.
+    explicit SubStationStyles(std::string_view file);
+
+    /// Plain for a name that the file does not have.
+    Style named(const QString& name) const { return _styles.value(name); }
+
+private:
+    QHash<QString, Style> _styles;
+};
