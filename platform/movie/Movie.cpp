@@ -78,6 +78,24 @@ std::int32_t Movie::nextInterestingTime(std::int32_t from, std::int32_t rate) co
     return time < 0 || time >= end ? -1 : static_cast<std::int32_t>(time);
 }
 
+void Movie::select(const TrackSelection& selection) {
+    _selection = selection;
+    if (_player.loaded() == this)
+        _player.select(selection);
+}
+
+void Movie::playerFoundTracks(MovieTracks tracks) {
+    if (tracks == _info.tracks)
+        return;
+    _info.tracks = std::move(tracks);
+    tracksChanged();
+}
+
+void Movie::playerReadSubtitle(const SubtitleText& text) {
+    _subtitleText = text;
+    subtitleTextChanged();
+}
+
 void Movie::callWhenStopped(std::function<void()> callback) {
     _stopped = std::move(callback);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/MovieTrack.h"
+
 #include <QSizeF>
 #include <QString>
 #include <QUrl>
@@ -50,6 +52,8 @@ struct MovieInfo {
     std::vector<Chapter> chapters;
     /// Of all that the file holds, a second on average; 0 when not known.
     double bitRate = 0;
+    /// In the file's order. Some kinds of files show more of them only later (Movie::tracksChanged).
+    MovieTracks tracks = {};
 
     // Of a movie without a picture, as the file says; one line each, empty where it does not.
     QString title;
@@ -138,6 +142,13 @@ public:
     void cancelTimePasses() { _timePasses = nullptr; }
     void cancelTimeJumps() { _timeJumps = nullptr; }
 
+    const MovieTracks& tracks() const { return _info.tracks; }
+    /// What is played of them. It stays with the movie; numbers that no track has play nothing.
+    const TrackSelection& selection() const { return _selection; }
+    void select(const TrackSelection& selection);
+    /// The text of the selected subtitles that is due as far as the player got, while the movie is loaded there.
+    const SubtitleText& subtitleText() const { return _subtitleText; }
+
     /// Takes the facts of a movie that was made of its address alone. It is not loaded in the player.
     void setInfo(MovieInfo info);
 
@@ -148,16 +159,27 @@ public:
     void playerReachedEnd(bool isWhole);
     /// More of it has arrived than was there when it was opened.
     void playerGrew(std::int32_t duration) { _info.duration = duration; }
+    /// The player reads the file for itself: it may find more in it.
+    void playerFoundTracks(MovieTracks tracks);
+    void playerReadSubtitle(const SubtitleText& text);
     void playerUnloaded(std::int32_t time) {
         _restingTime = time;
         _shownTime.reset();
+        _subtitleText = {};
     }
+
+protected:
+    /// These do nothing by default.
+    virtual void tracksChanged() {}
+    virtual void subtitleTextChanged() {}
 
 private:
     MovieInfo _info;
     MoviePlayer& _player;
     std::int32_t _restingTime = 0;
     bool _needsTimeTable;
+    TrackSelection _selection;
+    SubtitleText _subtitleText;
     std::function<void()> _stopped;
     std::function<void()> _timePasses;
     std::int32_t _timeToPass = -1;

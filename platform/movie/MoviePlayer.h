@@ -7,6 +7,7 @@
 namespace platform {
 
 class Movie;
+struct TrackSelection;
 class VideoLayer;
 
 /// The process's one player: it plays the movie loaded in it. Times are in the loaded movie's time scale. Main thread;
@@ -77,6 +78,9 @@ public:
     virtual void setVolume(float volume) = 0;
     virtual bool isMuted() const = 0;
     virtual void setMuted(bool muted) = 0;
+
+    /// Plays these tracks of the loaded movie from here on (Movie::select); load() takes the movie's own selection.
+    virtual void select(const TrackSelection& selection) = 0;
 
     virtual VideoLayer* videoLayer() = 0;
 };

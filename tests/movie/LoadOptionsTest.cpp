@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
     const struct {
         double start;
@@ -14,19 +16,19 @@ TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
     } cases[] = {
         {0, 0, {1920, 1080}, ""},
         {0, 0, {1920, 1088}, ""},
-        {2.5, 0, {640, 360}, "start=2.500000"},
-        {0, 1, {360, 640}, "video-rotate=no,vf=%23%lavfi=[transpose=clock]"},
-        {0, 2, {640, 360}, "video-rotate=no,vf=%19%lavfi=[hflip,vflip]"},
-        {0, 3, {360, 640}, "video-rotate=no,vf=%24%lavfi=[transpose=cclock]"},
-        {0, 0, {1920, 1089}, "vd-lavc-threads=0"},
-        {0.04, 1, {2160, 3840}, "start=0.040000,video-rotate=no,vf=%23%lavfi=[transpose=clock],vd-lavc-threads=0"},
+        {2.5, 0, {640, 360}, ",start=2.500000"},
+        {0, 1, {360, 640}, ",video-rotate=no,vf=%23%lavfi=[transpose=clock]"},
+        {0, 2, {640, 360}, ",video-rotate=no,vf=%19%lavfi=[hflip,vflip]"},
+        {0, 3, {360, 640}, ",video-rotate=no,vf=%24%lavfi=[transpose=cclock]"},
+        {0, 0, {1920, 1089}, ",vd-lavc-threads=0"},
+        {0.04, 1, {2160, 3840}, ",start=0.040000,video-rotate=no,vf=%23%lavfi=[transpose=clock],vd-lavc-threads=0"},
     };
     for (const auto& c : cases) {
         platform::MovieInfo movie;
         movie.url = QUrl(QStringLiteral("http://example.org/movie.mp4"));
         movie.quarterTurns = c.quarterTurns;
         movie.naturalSize = c.size;
-        EXPECT_EQ(platform::loadOptions(movie, c.start).toStdString(), c.options);
+        EXPECT_EQ(platform::loadOptions(movie, c.start, {}).toStdString(), std::string("aid=auto,sid=no") + c.options);
     }
 }
 
@@ -52,6 +54,23 @@ TEST(LoadOptions, one_thread_decodes_what_it_can_decode_well_in_time) {
 TEST(LoadOptions, a_local_movie_opens_nothing_but_itself) {
     platform::MovieInfo movie;
     movie.url = QUrl::fromLocalFile(QStringLiteral("/a/movie.mp4"));
-    EXPECT_EQ(platform::loadOptions(movie, 2.5).toStdString(),
-              "start=2.500000,access-references=no,demuxer-lavf-o=protocol_whitelist=none");
+    EXPECT_EQ(platform::loadOptions(movie, 2.5, {}).toStdString(),
+              "aid=auto,sid=no,start=2.500000,access-references=no,demuxer-lavf-o=protocol_whitelist=none");
+}
+
+TEST(LoadOptions, say_the_tracks_each_time) {
+    const struct {
+        platform::TrackSelection tracks;
+        const char* options;
+    } cases[] = {
+        {{}, "aid=auto,sid=no"},
+        {{.audio = 2, .subtitles = 11}, "aid=2,sid=11"},
+        {{.audio = 0, .subtitles = -1}, "aid=no,sid=no"},
+        {{.subtitles = 1, .subtitleFile = QStringLiteral("/a,b.ass")}, "aid=auto,sid=no"},
+    };
+    for (const auto& c : cases) {
+        platform::MovieInfo movie;
+        movie.url = QUrl(QStringLiteral("http://example.org/movie.mkv"));
+        EXPECT_EQ(platform::loadOptions(movie, 0, c.tracks).toStdString(), c.options);
+    }
 }

@@ -20,11 +20,11 @@ std::string with(const char* word, auto number) {
 }
 
 std::string nameOf(PlayerTimer timer) {
-    const char* const names[playerTimerCount] = {"keyframe", "failure", "growth", "scrub"};
+    const char* const names[playerTimerCount] = {"keyframe", "failure", "growth", "scrub", "text"};
     return names[static_cast<std::size_t>(timer)];
 }
 
-std::string textOf(const PlayerEffect& effect) {
+std::string textOf(const PlayerEffect& effect, const PlayerState& state) {
     using namespace playerEffect;
     return std::visit(Overloaded{
                           [](const LoadFile& e) { return with("load", e.start); },
@@ -39,6 +39,13 @@ std::string textOf(const PlayerEffect& effect) {
                           [](const SetSpeed& e) { return with("speed", e.speed); },
                           [](const SetVolume& e) { return with("volume", e.volume); },
                           [](const SetMuted& e) { return std::string(e.muted ? "mute" : "unmute"); },
+                          [&](const SelectAudio&) { return with("audio", state.tracks.audio.value_or(-1)); },
+                          [&](const SelectSubtitles&) {
+                              return with("subtitles", state.tracks.subtitles) +
+                                     state.tracks.subtitleFile.toStdString() +
+                                     (state.tracks.drawn == TrackSelection::Drawn::inPicture ? " drawn" : "");
+                          },
+                          [](const SetDelays& e) { return with("delays", e.audio) + with("", e.subtitles); },
                           [](const ArmTimer& e) { return with(("arm " + nameOf(e.timer)).c_str(), e.seconds); },
                           [](const CancelTimer& e) { return "cancel " + nameOf(e.timer); },
                           [](const CancelTimers&) { return std::string("cancel all"); },
@@ -80,7 +87,7 @@ std::string PlayerScript::operator()(const PlayerEvent& event) {
     _state = next.state;
     std::string text;
     for (const PlayerEffect& effect : next.effects)
-        text += (text.empty() ? "" : ", ") + textOf(effect);
+        text += (text.empty() ? "" : ", ") + textOf(effect, _state);
     const char* separator = text.empty() ? "| " : " | ";
     for (const PlayerReport& report : next.reports)
         text += std::exchange(separator, ", ") + textOf(report);

@@ -507,3 +507,45 @@ TEST(PlayerState, a_movie_that_fails_ends_after_a_moment_each_time_it_is_started
     EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, pause, load 0 | frame");
     EXPECT_EQ(player(Play{}), "go | state");
 }
+
+// Tracks
+
+TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_told_when_it_is_there) {
+    using platform::TrackSelection;
+    PlayerScript player;
+    EXPECT_EQ(player(Select{{.audio = 2}}), "") << "no movie";
+    player(CoreReady{});
+    EXPECT_EQ(player(Load{tenSeconds, 0, {.audio = 2, .subtitles = 1, .audioDelay = 0.5}}),
+              "cancel all, delays 0.5 0, load 0 | frame");
+    EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 1, .audioDelay = 0.5}}), "") << "would be told the movie before";
+    player(FileStarted{1});
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame, audio 3 | frame");
+    EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 2, .audioDelay = 0.5}}), "subtitles 2, arm text 0.2")
+        << "it rests, and a resting core reads no text";
+    EXPECT_EQ(player(TimerFired{PlayerTimer::text, 0}), "seek 0 exact");
+    player(FrameDue{});
+    player(PlaybackRestarted{});
+    EXPECT_EQ(player(Play{}), "go | state");
+    EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 1, .audioDelay = 0.5}}), "subtitles 1");
+    const struct {
+        TrackSelection tracks;
+        const char* told;
+    } cases[] = {
+        {{.audio = 3, .subtitles = 1, .audioDelay = 0.5}, ""},
+        {{.audio = 3, .subtitles = 1, .drawn = TrackSelection::Drawn::inPicture}, "subtitles 1 drawn, delays 0 0"},
+        {{.subtitles = 1, .drawn = TrackSelection::Drawn::inPicture, .subtitleDelay = -2}, "audio -1, delays 0 -2"},
+        {{}, "subtitles 0, delays 0 0"},
+        {{.subtitleFile = QStringLiteral(" a.ass")}, "subtitles 0 a.ass"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(player(Select{c.tracks}), c.told);
+    EXPECT_EQ(player(TimerFired{PlayerTimer::text, 0}), "") << "it plays, and has no text";
+    // The next movie begins with its own; a file is added once it is there.
+    EXPECT_EQ(player(Load{tenSeconds, 0, {.subtitleFile = QStringLiteral(" b.ass"), .audioDelay = 1}}),
+              "cancel all, pause, delays 1 0, load 0 | frame");
+    player(FileStarted{2});
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame, subtitles 0 b.ass | frame");
+    EXPECT_EQ(player(CoreDropped{}), "cancel all");
+    EXPECT_EQ(player(Select{{.audio = 1}}), "") << "kept for the next core";
+    EXPECT_EQ(player.state().tracks.audio, 1);
+}

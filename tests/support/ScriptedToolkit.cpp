@@ -114,6 +114,7 @@ platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
 platform::OpenedMovie ScriptedToolkit::answerOf(const QUrl& url) const {
     platform::MovieInfo movie = plainMovie(url);
     movie.duration = duration;
+    movie.tracks = tracks;
     const auto script = scripts.constFind(url);
     if (script == scripts.cend())
         return {movie, platform::movieError::none};

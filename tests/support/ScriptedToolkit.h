@@ -31,6 +31,8 @@ public:
     void fail() { _observer->playerFailed(); }
 
     std::vector<int> steps;
+    /// Those that were asked for while the movie was loaded.
+    std::vector<platform::TrackSelection> selections;
     int loads = 0;
 
     void setObserver(Observer* observer) override { _observer = observer; }
@@ -50,6 +52,7 @@ public:
     void setVolume(float volume) override;
     bool isMuted() const override { return _muted; }
     void setMuted(bool muted) override;
+    void select(const platform::TrackSelection& selection) override { selections.push_back(selection); }
     platform::VideoLayer* videoLayer() override { return nullptr; }
 
 private:
@@ -76,6 +79,7 @@ public:
 
     /// Of the movies that are opened from here on.
     std::int32_t duration = 60 * 600;
+    platform::MovieTracks tracks;
     /// URLs that leave an error behind when they are opened, and whether they open nevertheless.
     struct Script {
         std::int16_t error;

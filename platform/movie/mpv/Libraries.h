@@ -48,6 +48,7 @@ namespace platform {
     LUMARO_AV_SIDE_DATA_FUNCTION(X)                                                                                    \
     X(av_read_frame)                                                                                                   \
     X(av_seek_frame)                                                                                                   \
+    X(avcodec_descriptor_get)                                                                                          \
     X(avcodec_find_decoder)                                                                                            \
     X(avcodec_alloc_context3)                                                                                          \
     X(avcodec_free_context)                                                                                            \
@@ -84,6 +85,7 @@ namespace platform {
     X(mpv_set_option_string)                                                                                           \
     X(mpv_command_async)                                                                                               \
     X(mpv_set_property_async)                                                                                          \
+    X(mpv_get_property_async)                                                                                          \
     X(mpv_observe_property)                                                                                            \
     X(mpv_wait_event)                                                                                                  \
     X(mpv_request_log_messages)                                                                                        \

@@ -20,8 +20,23 @@ constexpr double maximumBitsPerSecond = 12e6;
 
 } // namespace
 
-QByteArray loadOptions(const MovieInfo& movie, double start) {
-    QByteArrayList options;
+namespace {
+QByteArray optionOf(int track) {
+    return track > 0 ? QByteArray::number(track) : QByteArray("no");
+}
+} // namespace
+
+QByteArray audioOption(const TrackSelection& tracks) {
+    return tracks.audio ? optionOf(*tracks.audio) : QByteArray("auto");
+}
+
+QByteArray subtitleOption(const TrackSelection& tracks) {
+    return optionOf(tracks.subtitleFile.isEmpty() ? tracks.subtitles : 0);
+}
+
+QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks) {
+    // Said each time: a track that was selected while a movie played is the core's option for those to come.
+    QByteArrayList options{"aid=" + audioOption(tracks), "sid=" + subtitleOption(tracks)};
     if (start > 0)
         options << "start=" + QByteArray::number(start, 'f', 6);
     if (!isNetworkURL(movie.url))

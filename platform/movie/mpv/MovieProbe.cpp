@@ -5,6 +5,7 @@
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/NetworkInput.h"
+#include "platform/movie/mpv/TrackProbe.h"
 #include "platform/movie/mpv/VideoStream.h"
 
 #include <sys/stat.h>
@@ -199,6 +200,7 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream
     MovieInfo info;
     const double seconds = durationInSeconds(input);
     info.bitRate = bitRateOf(input, seconds);
+    info.tracks = tracksOf(input);
     info.hasAudio = sound != nullptr;
     info.hasVideo = video != nullptr;
     info.timeScale = chooseTimeScale(video ? video->time_base : AVRational{1, 600}, seconds);

@@ -44,7 +44,8 @@ constexpr Option options[] = {
     {"audio-file-auto", "no"},
     {"cover-art-auto", "no"},
     {"sid", "no"},
-    // No text is ever drawn: the fonts of the system need not be read for it.
+    {"sub-visibility", "no"},
+    // While it draws no text the fonts of the system need not be read for it.
     {"sub-font-provider", "none"},
     {"osd-font-provider", "none"},
     {"audio-display", "no"},

@@ -12,6 +12,8 @@ struct MpvDialect {
     /// When a decoder that is made anew for other options may go on with a seek: at once, or not until it has decoded a
     /// picture of the old place, which takes longer than any number of threads gains.
     enum class NewDecoder { seeksAtOnce, decodesFirst } newDecoder;
+    /// The property that holds the subtitles' text that is due, with its markup.
+    const char* subtitleText;
 };
 
 /// That of a library whose mpv_client_api_version() is `version`.

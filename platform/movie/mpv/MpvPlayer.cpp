@@ -3,11 +3,11 @@
 
 #include "platform/base/Log.h"
 #include "platform/base/PathNames.h"
-#include "platform/movie/Movie.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/LoadOptions.h"
 #include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/MpvCore.h"
+#include "platform/movie/mpv/TrackProbe.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -35,6 +35,7 @@ constexpr std::uint64_t durationProperty = 3;
 constexpr std::uint64_t waitProperty = 4;
 constexpr std::uint64_t bufferProperty = 5;
 constexpr std::uint64_t decoderProperty = 6;
+constexpr std::uint64_t tracksProperty = 7;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
@@ -59,6 +60,7 @@ void MpvPlayer::dropCore() {
     _video.setFirstShown(nullptr);
     _video.setCore(nullptr);
     apply(playerEvent::CoreDropped{});
+    _text.forget();
     _core.reset();
     _delivered.reset();
 }
@@ -87,6 +89,7 @@ void MpvPlayer::adoptCore() {
     mpv.mpv_observe_property(_core->handle(), waitProperty, "paused-for-cache", MPV_FORMAT_FLAG);
     mpv.mpv_observe_property(_core->handle(), bufferProperty, "cache-buffering-state", MPV_FORMAT_INT64);
     mpv.mpv_observe_property(_core->handle(), decoderProperty, "hwdec-current", MPV_FORMAT_STRING);
+    mpv.mpv_observe_property(_core->handle(), tracksProperty, "track-list", MPV_FORMAT_NODE);
     // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
         [this] {
@@ -132,13 +135,14 @@ void MpvPlayer::load(Movie* movie) {
     const std::int32_t start = movie ? movie->time() : 0;
     if (_movie && _movie != movie)
         _movie->playerUnloaded(time());
+    _text.clear();
     _movie = movie;
     ++_loads;
     _sizeWhenLoaded = movie && movie->url().isLocalFile() ? QFileInfo(movie->url().toLocalFile()).size() : 0;
     const bool hasFrames = facts && facts->content == LoadedMovie::Content::frames;
     _video.begin(movie ? movie->info().naturalSize : QSizeF(),
                  hasFrames ? MpvVideoLayer::LastFrame::stays : MpvVideoLayer::LastFrame::goes);
-    apply(playerEvent::Load{facts, start});
+    apply(playerEvent::Load{facts, start, movie ? movie->selection() : TrackSelection()});
     if (hasFrames)
         prepareFrame(start);
     else
@@ -211,6 +215,8 @@ void MpvPlayer::handleEvents() {
 }
 
 void MpvPlayer::handle(const mpv_event& event) {
+    if (_text.handle(event))
+        return;
     switch (event.event_id) {
     case MPV_EVENT_LOG_MESSAGE: {
         const auto* message = static_cast<const mpv_event_log_message*>(event.data);
@@ -237,29 +243,34 @@ void MpvPlayer::handle(const mpv_event& event) {
         break;
     case MPV_EVENT_PROPERTY_CHANGE: {
         const auto* property = static_cast<const mpv_event_property*>(event.data);
-        if (!property->data)
-            break;
-        if (event.reply_userdata == timeProperty)
-            apply(playerEvent::TimeChanged{*static_cast<const double*>(property->data)});
-        else if (event.reply_userdata == endProperty)
-            apply(playerEvent::EndChanged{*static_cast<const int*>(property->data) == 0 ? CoreEnd::no
-                                          : isFileGrowing()                             ? CoreEnd::ofArrived
-                                                                                        : CoreEnd::ofMovie});
-        else if (event.reply_userdata == durationProperty && hasFileGrown())
-            apply(playerEvent::DurationGrew{*static_cast<const double*>(property->data)});
-        else if (event.reply_userdata == decoderProperty)
-            _decodesInHardware = qstrcmp(*static_cast<const char* const*>(property->data), "no") != 0;
-        else if (event.reply_userdata == waitProperty && *static_cast<const int*>(property->data) != 0)
-            setWait({Wait::What::more, 0});
-        else if (event.reply_userdata == waitProperty && _wait.what == Wait::What::more)
-            setWait({});
-        else if (event.reply_userdata == bufferProperty && _wait.what == Wait::What::more)
-            setWait({Wait::What::more, static_cast<int>(*static_cast<const std::int64_t*>(property->data))});
+        if (property->data)
+            propertyChanged(event.reply_userdata, *property);
         break;
     }
     default:
         break;
     }
+}
+
+void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property& value) {
+    if (property == timeProperty)
+        apply(playerEvent::TimeChanged{*static_cast<const double*>(value.data)});
+    else if (property == endProperty)
+        apply(playerEvent::EndChanged{*static_cast<const int*>(value.data) == 0 ? CoreEnd::no
+                                      : isFileGrowing()                         ? CoreEnd::ofArrived
+                                                                                : CoreEnd::ofMovie});
+    else if (property == durationProperty && hasFileGrown())
+        apply(playerEvent::DurationGrew{*static_cast<const double*>(value.data)});
+    else if (property == decoderProperty)
+        _decodesInHardware = qstrcmp(*static_cast<const char* const*>(value.data), "no") != 0;
+    else if (property == waitProperty && *static_cast<const int*>(value.data) != 0)
+        setWait({Wait::What::more, 0});
+    else if (property == waitProperty && _wait.what == Wait::What::more)
+        setWait({});
+    else if (property == bufferProperty && _wait.what == Wait::What::more)
+        setWait({Wait::What::more, static_cast<int>(*static_cast<const std::int64_t*>(value.data))});
+    else if (property == tracksProperty && _movie && isOfMovie(_state))
+        _movie->playerFoundTracks(mergedTracks(_movie->tracks(), tracksOf(*static_cast<const mpv_node*>(value.data))));
 }
 
 bool MpvPlayer::hasFileGrown() const {
@@ -284,10 +295,9 @@ void MpvPlayer::carryOut(const playerEffect::LoadFile& effect) {
     // The player takes an absolute path as it stands, whatever characters are in it.
     const QUrl& url = _movie->info().source();
     const QByteArray address = url.isLocalFile() ? nativePath(url) : addressOf(url);
-    const QByteArray options = loadOptions(_movie->info(), effect.start);
-    if (options.isEmpty())
-        command({"loadfile", address.constData(), "replace"});
-    else if (MpvLibrary::get()->dialect().loadArguments == MpvDialect::LoadArguments::flags)
+    const QByteArray options = loadOptions(_movie->info(), effect.start, _state.tracks);
+    prepareSubtitles();
+    if (MpvLibrary::get()->dialect().loadArguments == MpvDialect::LoadArguments::flags)
         command({"loadfile", address.constData(), "replace", options.constData()});
     else
         command({"loadfile", address.constData(), "replace", "-1", options.constData()});
@@ -311,6 +321,37 @@ void MpvPlayer::carryOut(const playerEffect::UseMoreThreads&) {
 void MpvPlayer::carryOut(const playerEffect::SendSteps& effect) {
     for (int i = std::abs(effect.count); i > 0; --i)
         command({effect.count > 0 ? "frame-step" : "frame-back-step"});
+}
+
+void MpvPlayer::prepareSubtitles() {
+    const TrackSelection& tracks = _state.tracks;
+    if (!_core || (tracks.subtitles <= 0 && tracks.subtitleFile.isEmpty()))
+        return;
+    const bool isDrawn = tracks.drawn == TrackSelection::Drawn::inPicture;
+    if (isDrawn)
+        command({"set", "sub-font-provider", "auto"}); // before the track's decoder is made
+    else
+        _text.observe(_core->handle());
+    setFlag("sub-visibility", isDrawn);
+}
+
+void MpvPlayer::carryOut(const playerEffect::SelectAudio&) {
+    command({"set", "aid", audioOption(_state.tracks).constData()});
+}
+
+void MpvPlayer::carryOut(const playerEffect::SelectSubtitles&) {
+    _text.clear();
+    prepareSubtitles();
+    // A file that was added before is selected again.
+    if (const QString& file = _state.tracks.subtitleFile; !file.isEmpty())
+        command({"sub-add", nativePath(QUrl::fromLocalFile(file)).constData(), "cached"});
+    else
+        command({"set", "sid", subtitleOption(_state.tracks).constData()});
+}
+
+void MpvPlayer::carryOut(const playerEffect::SetDelays& effect) {
+    setNumber("audio-delay", effect.audio);
+    setNumber("sub-delay", effect.subtitles);
 }
 
 void MpvPlayer::carryOut(const playerEffect::ArmTimer& effect) {

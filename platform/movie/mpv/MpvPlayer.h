@@ -2,10 +2,12 @@
 #pragma once
 
 #include "platform/base/RunLoop.h"
+#include "platform/movie/Movie.h"
 #include "platform/movie/MoviePlayer.h"
 #include "platform/movie/mpv/FirstFrameDecoder.h"
 #include "platform/movie/mpv/MpvVideoLayer.h"
 #include "platform/movie/mpv/PlayerState.h"
+#include "platform/movie/mpv/SubtitleTextReader.h"
 
 #include <QObject>
 #include <QUrl>
@@ -18,6 +20,7 @@
 #include <utility>
 
 struct mpv_event;
+struct mpv_event_property;
 
 namespace platform {
 
@@ -55,6 +58,7 @@ public:
     void setVolume(float volume) override { apply(playerEvent::SetVolume{volume}); }
     bool isMuted() const override { return _state.muted; }
     void setMuted(bool muted) override { apply(playerEvent::SetMuted{muted}); }
+    void select(const TrackSelection& selection) override { apply(playerEvent::Select{selection}); }
     VideoLayer* videoLayer() override { return &_video; }
 
     /// Hands the core over, which is made on another thread; null when there will be none. Any thread, once.
@@ -68,6 +72,7 @@ private:
     void showPreparedFrame();
     void handleEvents();
     void handle(const mpv_event& event);
+    void propertyChanged(std::uint64_t property, const mpv_event_property& value);
     void framesDue();
     /// Since the movie was loaded; and lately.
     bool hasFileGrown() const;
@@ -84,6 +89,9 @@ private:
     void carryOut(const playerEffect::SetSpeed& effect) { setNumber("speed", effect.speed); }
     void carryOut(const playerEffect::SetVolume& effect) { setNumber("volume", effect.volume); }
     void carryOut(const playerEffect::SetMuted& effect) { setFlag("mute", effect.muted); }
+    void carryOut(const playerEffect::SelectAudio&);
+    void carryOut(const playerEffect::SelectSubtitles&);
+    void carryOut(const playerEffect::SetDelays& effect);
     void carryOut(const playerEffect::ArmTimer& effect);
     void carryOut(const playerEffect::CancelTimer& effect) { timer(effect.timer).reset(); }
     void carryOut(const playerEffect::CancelTimers&) { _timers = {}; }
@@ -95,6 +103,9 @@ private:
     void carryOut(const playerEffect::DropHeldFrame&) { _video.dropLastFrame(); }
 
     void setWait(const Wait& wait);
+
+    /// What the core needs to draw the selected subtitles, or to tell their text.
+    void prepareSubtitles();
 
     void tell(const playerReport::FrameChanged&);
     void tell(const playerReport::FrameDue&);
@@ -124,6 +135,10 @@ private:
     std::uint64_t _loads = 0;
     qint64 _sizeWhenLoaded = 0; // bytes of the movie's file
     Wait _wait;
+    SubtitleTextReader _text{[this](const SubtitleText& text) {
+        if (_movie)
+            _movie->playerReadSubtitle(text);
+    }};
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 
     std::atomic<bool> _eventsPosted{false};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/movie/MoviePlayer.h"
+#include "platform/movie/MovieTrack.h"
 #include "platform/movie/mpv/SeekPlanner.h"
 
 #include <array>
@@ -24,8 +25,8 @@ struct LoadedMovie {
 };
 
 /// The timers that the player asks for. The scrubbing one repeats.
-enum class PlayerTimer { keyframe, failure, growth, scrub };
-inline constexpr std::size_t playerTimerCount = 4;
+enum class PlayerTimer { keyframe, failure, growth, scrub, text };
+inline constexpr std::size_t playerTimerCount = 5;
 
 /// Whether the core has nothing more to play: for now, or for good.
 enum class CoreEnd { no, ofArrived, ofMovie };
@@ -40,6 +41,10 @@ struct CoreDropped {};
 struct Load {
     std::optional<LoadedMovie> movie;
     std::int32_t time = 0;
+    TrackSelection tracks = {};
+};
+struct Select {
+    TrackSelection tracks;
 };
 struct Play {};
 struct SetRate {
@@ -99,14 +104,14 @@ struct FrameDue {};
 using PlayerEvent =
     std::variant<playerEvent::CoreReady, playerEvent::CoreDropped, playerEvent::Load, playerEvent::Play,
                  playerEvent::SetRate, playerEvent::SetSpeed, playerEvent::Seek, playerEvent::Step,
-                 playerEvent::SetVolume, playerEvent::SetMuted, playerEvent::TimerFired, playerEvent::FileStarted,
-                 playerEvent::FileFailed, playerEvent::PlaybackRestarted, playerEvent::TimeChanged,
-                 playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
+                 playerEvent::SetVolume, playerEvent::SetMuted, playerEvent::Select, playerEvent::TimerFired,
+                 playerEvent::FileStarted, playerEvent::FileFailed, playerEvent::PlaybackRestarted,
+                 playerEvent::TimeChanged, playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
 
 /// What is to be done: commands to the core, which stands when one is asked for, and timers.
 namespace playerEffect {
 
-/// Loads the movie so that it starts at that many seconds.
+/// Loads the movie so that it starts at that many seconds, with the tracks selected.
 struct LoadFile {
     double start;
 };
@@ -133,6 +138,13 @@ struct SetVolume {
 struct SetMuted {
     bool muted;
 };
+// Of the selection that the state holds.
+struct SelectAudio {};
+struct SelectSubtitles {};
+struct SetDelays {
+    double audio;
+    double subtitles;
+};
 /// The timer fires that many seconds from now, whether it was armed or not.
 struct ArmTimer {
     PlayerTimer timer;
@@ -154,7 +166,8 @@ struct DropHeldFrame {};
 using PlayerEffect =
     std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::UseMoreThreads, playerEffect::SendSeek,
                  playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetVolume,
-                 playerEffect::SetMuted, playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
+                 playerEffect::SetMuted, playerEffect::SelectAudio, playerEffect::SelectSubtitles,
+                 playerEffect::SetDelays, playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
                  playerEffect::UseCoreFrame, playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
 
 /// What the observer and the movie are told.

@@ -28,6 +28,9 @@ constexpr double failureDelay = 0.25;
 // How often it is tried whether more of a growing file has arrived.
 constexpr double growthInterval = 0.5;
 constexpr float maximumVolume = 3.0F;
+// A resting core reads no text of a track that was just selected before it is sent to where it stands; and it forgets
+// that track's part of the file where it is sent there at once.
+constexpr double textDelay = 0.2;
 
 /// One transition under way.
 class Transition {
@@ -55,6 +58,7 @@ public:
         PlayerState fresh;
         fresh.movie = load.movie;
         fresh.time = load.time;
+        fresh.tracks = load.tracks;
         fresh.volume = _s.volume;
         fresh.muted = _s.muted;
         fresh.speed = _s.speed;
@@ -132,6 +136,10 @@ public:
             if (_s.rate > 0 && _s.end == CoreEnd::ofArrived && !_s.seeks.isBusy())
                 request(toSeconds(_s.time), Precision::exact);
             break;
+        case PlayerTimer::text:
+            if (_s.rate == 0 && hasText(_s.tracks) && !_s.seeks.isBusy())
+                request(toSeconds(_s.time), Precision::exact);
+            break;
         case PlayerTimer::scrub:
             scrub(fired.now);
             break;
@@ -146,6 +154,7 @@ public:
         if (_s.file == File::loading) {
             _s.file = File::shown;
             effect(UseCoreFrame{});
+            sendTracks();
             report(FrameChanged{});
         }
         // The keyframe's frame has to be taken from the core before the next seek drops it.
@@ -231,13 +240,27 @@ public:
         report(StateChanged{});
     }
 
+    void operator()(const playerEvent::Select& asked) {
+        if (!_s.movie)
+            return;
+        _s.tracks = asked.tracks;
+        // While the movie is being loaded the core would take it for the one before.
+        if (!_s.core || _s.file != File::shown)
+            return;
+        const bool isTextNew = hasText(_s.tracks) && (_s.core->tracks.subtitles != _s.tracks.subtitles ||
+                                                      _s.core->tracks.drawn != _s.tracks.drawn ||
+                                                      _s.core->tracks.subtitleDelay != _s.tracks.subtitleDelay);
+        sendTracks();
+        if (isTextNew && _s.rate == 0)
+            effect(ArmTimer{PlayerTimer::text, textDelay});
+    }
+
 private:
     void effect(const PlayerEffect& wanted) { _result.effects.push(wanted); }
     void report(const PlayerReport& told) { _result.reports.push(told); }
 
     bool hasFrames() const { return _s.movie && _s.movie->content == LoadedMovie::Content::frames; }
-    /// Whether what the core says is about the movie loaded last.
-    bool isOfMovie() const { return _s.core && _s.movie && _s.core->entryStarted == _s.core->entriesSent; }
+    bool isOfMovie() const { return platform::isOfMovie(_s); }
 
     std::int32_t toUnits(double seconds) const {
         constexpr double largest = std::numeric_limits<std::int32_t>::max();
@@ -250,8 +273,33 @@ private:
         effect(playerEffect::SetVolume{100.0 * std::cbrt(static_cast<double>(_s.volume))});
     }
 
+    static bool hasText(const TrackSelection& tracks) {
+        return tracks.subtitles > 0 && tracks.subtitleFile.isEmpty() && tracks.drawn == TrackSelection::Drawn::asText;
+    }
+
+    void sendDelays() {
+        TrackSelection& told = _s.core->tracks;
+        if (told.audioDelay != _s.tracks.audioDelay || told.subtitleDelay != _s.tracks.subtitleDelay)
+            effect(SetDelays{_s.tracks.audioDelay, _s.tracks.subtitleDelay});
+    }
+
+    /// What differs from what the core was told.
+    void sendTracks() {
+        TrackSelection& told = _s.core->tracks;
+        if (told.audio != _s.tracks.audio)
+            effect(SelectAudio{});
+        if (told.subtitles != _s.tracks.subtitles || told.subtitleFile != _s.tracks.subtitleFile ||
+            told.drawn != _s.tracks.drawn)
+            effect(SelectSubtitles{});
+        sendDelays();
+        told = _s.tracks;
+    }
+
     void sendLoad() {
         applyMotion();
+        sendDelays();
+        _s.core->tracks = _s.tracks;
+        _s.core->tracks.subtitleFile.clear(); // added when the movie is there
         ++_s.core->entriesSent;
         effect(LoadFile{toSeconds(_s.time)});
     }
@@ -415,6 +463,10 @@ private:
 };
 
 } // namespace
+
+bool isOfMovie(const PlayerState& state) {
+    return state.core && state.movie && state.core->entryStarted == state.core->entriesSent;
+}
 
 PlayerTransition transition(const PlayerState& state, const PlayerEvent& event) {
     Transition made(state);

@@ -19,6 +19,7 @@ struct PlayerState {
     float volume = 1.0F;
     bool muted = false;
     std::int32_t time = 0;
+    TrackSelection tracks;
 
     /// The core as it was told to be.
     struct Core {
@@ -26,6 +27,7 @@ struct PlayerState {
         double speed = 1.0;
         std::int64_t entriesSent = 0; // loads sent: the core numbers its entries alike
         std::int64_t entryStarted = 0;
+        TrackSelection tracks;
     };
     std::optional<Core> core;
 
@@ -51,6 +53,9 @@ struct PlayerState {
     };
     std::optional<Scrub> scrub;
 };
+
+/// Whether what the core says is about the movie loaded last.
+bool isOfMovie(const PlayerState& state);
 
 /// What an event leads to. The effects are carried out first, then the reports are made, each list in its order:
 /// whoever is told finds the player, and the core, as the event left them, and may ask for more.
