@@ -126,6 +126,46 @@ bool writeSubtitleFile(const QString& name, const QString& path, SubtitleRegistr
     return true;
 }
 
+QStringView nameOf(platform::MovieTrack::Kind kind) {
+    switch (kind) {
+    case platform::MovieTrack::Kind::video:
+        return u"video";
+    case platform::MovieTrack::Kind::audio:
+        return u"audio";
+    case platform::MovieTrack::Kind::subtitles:
+        return u"subtitle";
+    }
+    return {};
+}
+
+void writeText(const char* name, const QString& text, JsonWriter& json) {
+    json.name(name);
+    if (text.isEmpty())
+        json.null();
+    else
+        json.value(text);
+}
+
+/// What is inside the movie.
+void writeMovieTracks(const platform::MovieTracks& tracks, JsonWriter& json) {
+    json.beginArray();
+    for (const platform::MovieTrack& track : tracks) {
+        json.beginObject();
+        json.member("kind", nameOf(track.kind));
+        writeText("language", track.language, json);
+        writeText("title", track.title, json);
+        writeText("codec", track.codec, json);
+        if (track.kind == platform::MovieTrack::Kind::audio)
+            json.member("channels", track.channels);
+        json.member("default", track.isDefault);
+        json.member("forced", track.isForced);
+        if (track.isCover)
+            json.member("cover", true);
+        json.endObject();
+    }
+    json.endArray();
+}
+
 void writeMovie(const QString& path, QVMovie& movie, const platform::UserDefaults& settings, JsonWriter& json) {
     const QSizeF size = movie.naturalBounds().size();
     json.beginObject();
@@ -140,6 +180,8 @@ void writeMovie(const QString& path, QVMovie& movie, const platform::UserDefault
     writeNumbers({0, 0, size.width(), size.height()}, json);
     json.name("subtitles");
     writeTracks(movie, settings, json);
+    json.name("tracks");
+    writeMovieTracks(movie.tracks(), json);
     json.endObject();
 }
 

@@ -88,7 +88,36 @@ TEST_F(Inspection, a_movie_is_described_with_the_subtitles_beside_it_and_a_failu
     EXPECT_EQ(tracks[0]["type"].toString(), "MicroDVD");
     EXPECT_EQ(tracks[0]["path"].toString(), folder.filePath("film.sub"));
     EXPECT_EQ(tracks[0]["frameRate"].toDouble(), 25);
+    EXPECT_EQ(found[0]["tracks"].toArray(), (QJsonArray{})) << "nothing is known to be inside";
     ASSERT_EQ(errors.size(), 1);
     EXPECT_TRUE(errors[0].startsWith(broken)) << errors[0].toStdString();
     EXPECT_TRUE(errors[0].contains("-2000")) << errors[0].toStdString();
+}
+
+TEST_F(Inspection, what_is_inside_a_movie_is_listed_in_its_order) {
+    using platform::MovieTrack;
+    const QString movie = writeFile(folder.filePath("film.mkv"));
+    toolkit.tracks = {
+        {.kind = MovieTrack::Kind::video, .id = 1, .codec = QStringLiteral("h264"), .isDefault = true},
+        {.kind = MovieTrack::Kind::audio,
+         .id = 1,
+         .language = QStringLiteral("ger"),
+         .codec = QStringLiteral("ac3"),
+         .channels = 6},
+        {.kind = MovieTrack::Kind::subtitles, .id = 1, .title = QStringLiteral("Signs"), .isForced = true},
+        {.kind = MovieTrack::Kind::video, .id = 2, .codec = QStringLiteral("png"), .isCover = true}};
+    const auto described = [](const char* kind, const QJsonValue& language, const QJsonValue& title,
+                              const QJsonValue& codec, bool isDefault, bool isForced) {
+        return QJsonObject{{"kind", kind},   {"language", language}, {"title", title},
+                           {"codec", codec}, {"default", isDefault}, {"forced", isForced}};
+    };
+    const QJsonValue none;
+    QJsonObject sound = described("audio", "ger", none, "ac3", false, false);
+    sound["channels"] = 6;
+    QJsonObject cover = described("video", none, none, "png", false, false);
+    cover["cover"] = true;
+    const QJsonArray found = inspect({movie});
+    EXPECT_EQ(found[0]["tracks"].toArray(),
+              (QJsonArray{described("video", none, none, "h264", true, false), sound,
+                          described("subtitle", none, "Signs", none, false, true), cover}));
 }
