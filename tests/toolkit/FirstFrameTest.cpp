@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/FirstFrame.h"
 
+#include "platform/movie/mpv/MpvVideoLayer.h"
 #include "tests/toolkit/ToolkitRig.h"
 
 #include <gtest/gtest.h>
@@ -80,4 +81,17 @@ TEST(FirstFrame, is_left_to_the_player_where_it_is_not_simple) {
     const auto sound = media().make("sound.mp3", {"-f", "lavfi", "-i", "sine=d=1"});
     EXPECT_FALSE(platform::FirstFrame::decode(urlOf(sound), cancelled));
     EXPECT_FALSE(platform::FirstFrame::decode(urlOf("/nowhere.mp4"), cancelled));
+}
+
+TEST(FirstFrame, is_let_go_of_when_the_player_has_its_own) {
+    const std::atomic<bool> cancelled{false};
+    auto first = platform::FirstFrame::decode(
+        urlOf(pattern("small.mp4", "640x360", {"-c:v", "libx264", "-pix_fmt", "yuv420p"})), cancelled);
+    ASSERT_TRUE(first);
+    const std::weak_ptr<const platform::FirstFrame> kept = first;
+    platform::MpvVideoLayer layer;
+    layer.setFirst(std::move(first));
+    EXPECT_FALSE(kept.expired());
+    layer.coreFrameReady();
+    EXPECT_TRUE(kept.expired());
 }

@@ -74,6 +74,7 @@ void MpvVideoLayer::dropLastFrame() {
 
 void MpvVideoLayer::coreFrameReady() {
     _coreHasPicture = true;
+    _first = nullptr; // as large as a decoder's picture, and not shown any more
     dropLastFrame();
 }
 
