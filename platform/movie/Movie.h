@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/DynamicRange.h"
 #include "platform/movie/MovieTrack.h"
 
 #include <QSizeF>
@@ -50,6 +51,8 @@ struct MovieInfo {
     double frameDuration = 0;
     /// By their starts, which lie within the movie, each its own.
     std::vector<Chapter> chapters;
+    /// Of its picture, as the container says; standard where it does not.
+    DynamicRange dynamicRange;
     /// Of all that the file holds, a second on average; 0 when not known.
     double bitRate = 0;
     /// In the file's order. Some kinds of files show more of them only later (Movie::tracksChanged).

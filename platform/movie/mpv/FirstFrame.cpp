@@ -6,6 +6,8 @@
 #include "platform/movie/mpv/VideoStream.h"
 
 #include <cmath>
+#include <cstdint>
+#include <vector>
 
 namespace platform {
 
@@ -34,8 +36,9 @@ int isCancelled(void* flag) {
 }
 
 bool isPlain(const AVStream* stream, const AVFrame* frame) {
-    return !displayMatrixOf(stream) && frame->color_trc != AVCOL_TRC_SMPTE2084 &&
-           frame->color_trc != AVCOL_TRC_ARIB_STD_B67 && !frame->hw_frames_ctx;
+    const bool rangeIsKnown = frame->color_trc == stream->codecpar->color_trc ||
+                              (frame->color_trc != AVCOL_TRC_SMPTE2084 && frame->color_trc != AVCOL_TRC_ARIB_STD_B67);
+    return !displayMatrixOf(stream) && rangeIsKnown && !frame->hw_frames_ctx;
 }
 
 bool isFull(const AVFrame* frame) {
@@ -108,6 +111,10 @@ AVFrame* pictureAt(AVFormatContext* input, const AVStream* video, AVCodecContext
 
 } // namespace
 
+FirstFrame::FirstFrame(AVFrame* frame, const DynamicRange& range)
+    : _frame(frame)
+    , _toneMapping(range.isHigh() ? std::make_unique<const ToneMapping>(range) : nullptr) {}
+
 FirstFrame::~FirstFrame() {
     AvLibrary::get()->av_frame_free(&_frame);
 }
@@ -151,13 +158,15 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
         const bool sent = av->avcodec_send_packet(decoder.get(), &video->attached_pic) >= 0;
         av->avcodec_send_packet(decoder.get(), nullptr);
         if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0 && isPlain(video, frame.get()))
-            return std::make_shared<const FirstFrame>(frame.release());
+            return std::make_shared<const FirstFrame>(frame.release(), dynamicRangeOf(video));
         return nullptr;
     }
     AVFrame* const found = seconds > 0 ? pictureAt(input, video, decoder.get(), seconds, cancelled)
                                        : firstPicture(input, video, decoder.get(), cancelled);
     frame.reset(found);
-    return found && isPlain(video, found) ? std::make_shared<const FirstFrame>(frame.release()) : nullptr;
+    if (!found || !isPlain(video, found))
+        return nullptr;
+    return std::make_shared<const FirstFrame>(frame.release(), dynamicRangeOf(video));
 }
 
 QImage FirstFrame::image(const QSize& bounds) const {
@@ -171,15 +180,27 @@ QImage FirstFrame::image(const QSize& bounds) const {
 }
 
 bool FirstFrame::render(const QSize& size, unsigned char* pixels, std::size_t stride) const {
+    if (!_toneMapping)
+        return render(size, AV_PIX_FMT_BGR0, pixels, stride);
+    const auto width = static_cast<std::size_t>(size.width());
+    std::vector<std::uint64_t> wide(width * static_cast<std::size_t>(size.height()));
+    if (!render(size, AV_PIX_FMT_RGBA64, wide.data(), width * sizeof(wide[0])))
+        return false;
+    _toneMapping->map(size, reinterpret_cast<const std::uint8_t*>(wide.data()), width * sizeof(wide[0]), pixels,
+                      stride);
+    return true;
+}
+
+bool FirstFrame::render(const QSize& size, int pixelFormat, void* pixels, std::size_t stride) const {
     const AvLibrary& av = *AvLibrary::get();
-    SwsContext* scaler =
-        av.sws_getContext(_frame->width, _frame->height, static_cast<AVPixelFormat>(_frame->format), size.width(),
-                          size.height(), AV_PIX_FMT_BGR0, SWS_BILINEAR, nullptr, nullptr, nullptr);
+    SwsContext* scaler = av.sws_getContext(_frame->width, _frame->height, static_cast<AVPixelFormat>(_frame->format),
+                                           size.width(), size.height(), static_cast<AVPixelFormat>(pixelFormat),
+                                           SWS_BILINEAR, nullptr, nullptr, nullptr);
     if (!scaler)
         return false;
     const int* matrix = av.sws_getCoefficients(colorMatrix(_frame));
     av.sws_setColorspaceDetails(scaler, matrix, isFull(_frame) ? 1 : 0, matrix, 1, 0, 1 << 16, 1 << 16);
-    std::uint8_t* const planes[] = {pixels};
+    std::uint8_t* const planes[] = {static_cast<std::uint8_t*>(pixels)};
     const int strides[] = {static_cast<int>(stride)};
     const int lines = av.sws_scale(scaler, _frame->data, _frame->linesize, 0, _frame->height, planes, strides);
     av.sws_freeContext(scaler);

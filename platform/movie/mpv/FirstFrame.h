@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/mpv/ToneMapping.h"
+
 #include <QImage>
 #include <QSize>
 #include <QUrl>
@@ -21,11 +23,10 @@ public:
     enum class PictureOf { movie, cover };
     /// Decodes it: the movie's first one, or the one that the player shows at a time, in seconds from the movie's
     /// beginning, for which all pictures since the keyframe before it are decoded. Null where that is not simple
-    /// (rotated, high dynamic range, nothing decoded soon). Any thread.
+    /// (rotated, nothing decoded soon). Any thread.
     static std::shared_ptr<const FirstFrame> decode(const QUrl& url, const std::atomic<bool>& cancelled,
                                                     PictureOf wanted = PictureOf::movie, double seconds = 0);
-    explicit FirstFrame(AVFrame* frame)
-        : _frame(frame) {}
+    FirstFrame(AVFrame* frame, const DynamicRange& range);
     FirstFrame(const FirstFrame&) = delete;
     FirstFrame& operator=(const FirstFrame&) = delete;
     ~FirstFrame();
@@ -37,7 +38,10 @@ public:
     QImage image(const QSize& bounds) const;
 
 private:
+    bool render(const QSize& size, int pixelFormat, void* pixels, std::size_t stride) const;
+
     AVFrame* _frame;
+    std::unique_ptr<const ToneMapping> _toneMapping; // null for the standard range
 };
 
 } // namespace platform

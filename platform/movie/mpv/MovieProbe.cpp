@@ -212,6 +212,7 @@ MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream
         info.hasCover = coverStream(input) != nullptr;
         return info;
     }
+    info.dynamicRange = dynamicRangeOf(video);
     info.quarterTurns = quarterTurnsOf(video);
     info.naturalSize = displayedSize(input, video, info.quarterTurns);
     const AVRational rate = isKnown(video->avg_frame_rate) ? video->avg_frame_rate : video->r_frame_rate;

@@ -36,6 +36,7 @@ constexpr std::uint64_t waitProperty = 4;
 constexpr std::uint64_t bufferProperty = 5;
 constexpr std::uint64_t decoderProperty = 6;
 constexpr std::uint64_t tracksProperty = 7;
+constexpr std::uint64_t transferProperty = 8;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
@@ -90,6 +91,7 @@ void MpvPlayer::adoptCore() {
     mpv.mpv_observe_property(_core->handle(), bufferProperty, "cache-buffering-state", MPV_FORMAT_INT64);
     mpv.mpv_observe_property(_core->handle(), decoderProperty, "hwdec-current", MPV_FORMAT_STRING);
     mpv.mpv_observe_property(_core->handle(), tracksProperty, "track-list", MPV_FORMAT_NODE);
+    mpv.mpv_observe_property(_core->handle(), transferProperty, "video-params/gamma", MPV_FORMAT_STRING);
     // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
         [this] {
@@ -142,6 +144,7 @@ void MpvPlayer::load(Movie* movie) {
     const bool hasFrames = facts && facts->content == LoadedMovie::Content::frames;
     _video.begin(movie ? movie->info().naturalSize : QSizeF(),
                  hasFrames ? MpvVideoLayer::LastFrame::stays : MpvVideoLayer::LastFrame::goes);
+    _video.setDynamicRange(movie ? movie->info().dynamicRange : DynamicRange{});
     apply(playerEvent::Load{facts, start, movie ? movie->selection() : TrackSelection()});
     if (hasFrames)
         prepareFrame(start);
@@ -271,6 +274,18 @@ void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property
         setWait({Wait::What::more, static_cast<int>(*static_cast<const std::int64_t*>(value.data))});
     else if (property == tracksProperty && _movie && isOfMovie(_state))
         _movie->playerFoundTracks(mergedTracks(_movie->tracks(), tracksOf(*static_cast<const mpv_node*>(value.data))));
+    else if (property == transferProperty && _movie)
+        takeTransfer(*static_cast<const char* const*>(value.data));
+}
+
+void MpvPlayer::takeTransfer(const char* transfer) {
+    const auto coded = qstrcmp(transfer, "pq") == 0    ? DynamicRange::Transfer::pq
+                       : qstrcmp(transfer, "hlg") == 0 ? DynamicRange::Transfer::hlg
+                                                       : DynamicRange::Transfer::standard;
+    const DynamicRange& told = _movie->info().dynamicRange;
+    const bool wasShownOtherwise = _video.setDynamicRange({coded, coded == told.transfer ? told.peak : 0});
+    if (wasShownOtherwise && _observer)
+        _observer->playerFrameChanged();
 }
 
 bool MpvPlayer::hasFileGrown() const {

@@ -74,6 +74,8 @@ private:
     void handle(const mpv_event& event);
     void propertyChanged(std::uint64_t property, const mpv_event_property& value);
     void framesDue();
+    /// How the decoded pictures code light: a container may say less than they do, or something else.
+    void takeTransfer(const char* transfer);
     /// Since the movie was loaded; and lately.
     bool hasFileGrown() const;
     bool isFileGrowing() const;

@@ -45,6 +45,16 @@ void MpvVideoLayer::begin(const QSizeF& naturalSize, LastFrame last) {
     _naturalSize = naturalSize;
 }
 
+bool MpvVideoLayer::setDynamicRange(const DynamicRange& range) {
+    if (range == _dynamicRange)
+        return false;
+    _dynamicRange = range;
+    _wide = {};
+    _toneMapping = range.isHigh() ? std::async(std::launch::async, [range] { return ToneMapping(range); }).share()
+                                  : std::shared_future<ToneMapping>();
+    return true;
+}
+
 void MpvVideoLayer::keepLastFrame() {
     dropLastFrame();
     if (_shown.visible.isEmpty())
@@ -156,10 +166,22 @@ bool MpvVideoLayer::renderOwn(const Shown& shown, unsigned char* target, std::si
 }
 
 bool MpvVideoLayer::renderCore(const QSize& size, unsigned char* target, std::size_t stride) {
+    if (!_toneMapping.valid())
+        return renderCore(size, "bgr0", target, stride);
+    const auto width = static_cast<std::size_t>(size.width());
+    _wide.resize(width * static_cast<std::size_t>(size.height()));
+    const std::size_t wideStride = width * sizeof(_wide[0]);
+    if (!renderCore(size, "rgba64", _wide.data(), wideStride))
+        return false;
+    _toneMapping.get().map(size, reinterpret_cast<const std::uint8_t*>(_wide.data()), wideStride, target, stride);
+    return true;
+}
+
+bool MpvVideoLayer::renderCore(const QSize& size, const char* format, void* target, std::size_t stride) {
     int sides[2] = {size.width(), size.height()};
     int block = 0;
     mpv_render_param parameters[] = {{MPV_RENDER_PARAM_SW_SIZE, sides},
-                                     {MPV_RENDER_PARAM_SW_FORMAT, const_cast<char*>("bgr0")},
+                                     {MPV_RENDER_PARAM_SW_FORMAT, const_cast<char*>(format)},
                                      {MPV_RENDER_PARAM_SW_STRIDE, &stride},
                                      {MPV_RENDER_PARAM_SW_POINTER, target},
                                      {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},

@@ -2,15 +2,19 @@
 #pragma once
 
 #include "platform/movie/mpv/FirstFrame.h"
+#include "platform/movie/mpv/ToneMapping.h"
 #include "platform/window/VideoLayer.h"
 
 #include <QImage>
 #include <QRect>
 #include <QSizeF>
 
+#include <cstdint>
 #include <functional>
+#include <future>
 #include <memory>
 #include <utility>
+#include <vector>
 
 class QOpenGLFramebufferObject;
 
@@ -31,6 +35,9 @@ public:
     enum class LastFrame { stays, goes };
     /// A movie of that displayed size is about to be loaded: no picture of the core's is of it yet.
     void begin(const QSizeF& naturalSize, LastFrame last);
+    /// How the core's pictures code light. The software renderer leaves that as it is: a high range is mapped here.
+    /// Answers whether it is another one than before.
+    bool setDynamicRange(const DynamicRange& range);
     /// No picture of the movie comes that the last one would stand in for.
     void dropLastFrame();
     void setFirst(std::shared_ptr<const FirstFrame> first) { _first = std::move(first); }
@@ -62,6 +69,7 @@ private:
     bool renderOwn(const Shown& shown, unsigned char* target, std::size_t stride);
     bool renderFirst(const QRect& picture, const QRect& visible, unsigned char* target, std::size_t stride) const;
     bool renderCore(const QSize& size, unsigned char* target, std::size_t stride);
+    bool renderCore(const QSize& size, const char* format, void* target, std::size_t stride);
     bool renderCoreGL(const QRect& picture, const QSize& target, unsigned framebuffer);
     bool renderCoreGL(const QSize& target, unsigned framebuffer);
     void setCrop(const QRect& picture, const QRect& visible);
@@ -78,6 +86,9 @@ private:
     std::unique_ptr<QOpenGLFramebufferObject> _lastGL;
     Shown _lastShown;
     QSizeF _naturalSize;
+    DynamicRange _dynamicRange;
+    std::shared_future<ToneMapping> _toneMapping; // made on a thread; none for the standard range
+    std::vector<std::uint64_t> _wide;             // a picture before the mapping
     QRect _cropPicture;
     QRect _cropVisible;
 };

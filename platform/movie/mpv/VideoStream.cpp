@@ -23,6 +23,27 @@ const AVStream* coverStream(const AVFormatContext* input) {
     return nullptr;
 }
 
+DynamicRange dynamicRangeOf(const AVStream* video) {
+    const AvLibrary& av = *AvLibrary::get();
+    switch (video->codecpar->color_trc) {
+    case AVCOL_TRC_ARIB_STD_B67:
+        return {DynamicRange::Transfer::hlg, 0};
+    case AVCOL_TRC_SMPTE2084:
+        break;
+    default:
+        return {};
+    }
+    DynamicRange range{DynamicRange::Transfer::pq, 0};
+    const std::uint8_t* light = av.sideDataOf(*video, AV_PKT_DATA_CONTENT_LIGHT_LEVEL);
+    const std::uint8_t* mastering = av.sideDataOf(*video, AV_PKT_DATA_MASTERING_DISPLAY_METADATA);
+    if (light)
+        range.peak = reinterpret_cast<const AVContentLightMetadata*>(light)->MaxCLL;
+    if (const auto* screen = reinterpret_cast<const AVMasteringDisplayMetadata*>(mastering);
+        range.peak <= 0 && screen && screen->has_luminance && screen->max_luminance.den > 0)
+        range.peak = av_q2d(screen->max_luminance);
+    return range;
+}
+
 const std::int32_t* displayMatrixOf(const AVStream* video) {
     return reinterpret_cast<const std::int32_t*>(AvLibrary::get()->sideDataOf(*video, AV_PKT_DATA_DISPLAYMATRIX));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/DynamicRange.h"
+
 #include <cstdint>
 
 struct AVFormatContext;
@@ -13,6 +15,9 @@ const AVStream* firstVideoStream(const AVFormatContext* input);
 
 /// The stream of the picture that is attached to a movie, its cover. Null when there is none.
 const AVStream* coverStream(const AVFormatContext* input);
+
+/// How it codes light, as the container says. The libraries are loaded.
+DynamicRange dynamicRangeOf(const AVStream* video);
 
 /// The matrix of nine numbers by which its pictures are to be turned; null where they stand as they are. The libraries
 /// are loaded.
