@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <optional>
 
 /// How an Open URL panel was answered.
 struct OpenURLAnswer {
@@ -32,6 +33,8 @@ public:
     virtual void runHelpPanel() {}
     /// Shows the panel of the whole playlist until it is closed.
     virtual void runPlaylistPanel() {}
+    /// Asks for a time in a panel; none when it was cancelled. Seconds.
+    virtual std::optional<double> runGoToTimePanel(double, double) { return std::nullopt; }
     /// Shows the panel for one address (0), or for several (1), until it is answered.
     virtual OpenURLAnswer runOpenURLPanel(std::int32_t) { return {}; }
     /// Shows the preferences, or brings them to the front. They stay until the user closes them, or closePreferences().

@@ -12,6 +12,8 @@
 #include "platform/window/WindowHost.h"
 #include "subtitles/formats/SubtitleFormats.h"
 
+#include <QStandardPaths>
+
 MainObjects::Publication::Publication(QVAppController& application, FeedbackOnDemand& feedback, OSDOnDemand& display,
                                       AppleRemote& remote) {
     gAppController = &application;
@@ -65,6 +67,8 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _heldSubtitles(environment, _subtitles)
     , _state(environment, {_playlist, _view, _subtitles, _heldSubtitles})
     , _stylePreview(environment, _window, _view)
+    , _stills(environment, _view, _feedback,
+              [] { return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation); })
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
     , _menu(environment, _currentCommands)
@@ -74,7 +78,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                     _playlist,        _subtitles,       _commands,       _display, _menu,   _pointer, _files,
                     _openPanels,      _saving,          _activation,     _state,   _memory, _recent,  _currentCommands})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
-                                _application, _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands})
+                                _application, _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills})
     , _remote(platform.desktop.remotes())
     , _remoteControl(environment, _remote, _controller)
     , _computerSleep(environment, {platform.desktop.power(), _view, _controller, _feedback}) {

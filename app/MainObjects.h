@@ -28,6 +28,7 @@
 #include "playback/BackdropView.h"
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
+#include "playback/StillSaving.h"
 #include "playback/SubtitleDiscovery.h"
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
@@ -94,6 +95,7 @@ private:
     HeldSubtitles _heldSubtitles;
     SavedState _state;
     StylePreview _stylePreview;
+    StillSaving _stills;
     CurrentTexts _texts;
     OSDOnDemand _display;
     MainMenu _menu;

@@ -273,6 +273,10 @@ void QVAppController::showPlaylist() {
     _with.steps.runPlaylistPanel();
 }
 
+std::optional<double> QVAppController::askForTime(double now, double duration) {
+    return _with.steps.runGoToTimePanel(now, duration);
+}
+
 void QVAppController::showPreferences() {
     trace("%@: Launching Preferences panel ...", className);
     _with.steps.showPreferences();

@@ -113,6 +113,7 @@ public:
     void savePlaylist() override;
     void showHelp() override;
     void showPlaylist() override;
+    std::optional<double> askForTime(double now, double duration) override;
     void showPreferences() override;
     void donate() override;
     bool canDonate() const override;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace platform {
 class Window;
@@ -28,6 +29,8 @@ public:
     virtual void showHelp() = 0;
     /// Shows the panel of the whole playlist until it is closed.
     virtual void showPlaylist() = 0;
+    /// Asks for a time of a movie that stands at `now`, seconds; none when there was no answer.
+    virtual std::optional<double> askForTime(double now, double duration) = 0;
     /// Shows the preferences, which stay open beside the movie.
     virtual void showPreferences() = 0;
     /// Opens the page for donations, in the browser.

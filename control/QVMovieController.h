@@ -14,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -31,6 +32,7 @@ class QVMovieView;
 class QVPlaylistController;
 class QVSubtitles;
 class QVSubtitlesController;
+class StillSaving;
 struct QVPlaylistMovieChangedNotification;
 
 /// The one place where commands become effects: action codes, keys, menu items. It is the main window's delegate. What
@@ -57,6 +59,7 @@ public:
         platform::Menu& subtitlesMenu;
         /// Made before.
         const CurrentCommands& commands;
+        StillSaving& stills;
     };
     QVMovieController(const Environment& environment, const Collaborators& collaborators);
     QVMovieController(const QVMovieController&) = delete;
@@ -120,6 +123,11 @@ private:
     void gotoChapter(std::int32_t position, Feedback feedback);
     void stepChapter(std::int32_t direction, Feedback feedback);
     bool validateChapter(platform::MenuItem& item) const;
+    void repeatSection(std::int32_t, Feedback feedback);
+    bool validateRepeating(platform::MenuItem& item) const;
+    void goToTime(std::int32_t, Feedback feedback);
+    void saveStill(std::int32_t, Feedback feedback);
+    bool validateHasMovie(platform::MenuItem& item) const;
     void doOpen(std::int32_t, Feedback feedback);
     void doOpenFolder(std::int32_t, Feedback feedback);
     void doOpenURL(std::int32_t type, Feedback feedback);
@@ -179,6 +187,9 @@ private:
     std::weak_ptr<QVSubtitles> _chosenSubtitles;
     /// That whose tracks the subtitles menu lists.
     std::weak_ptr<QVMovie> _listedMovie;
+    /// Where the section begins of which the end is still to be said, and its movie.
+    std::optional<std::int32_t> _sectionBegin;
+    std::weak_ptr<QVMovie> _sectionOf;
     /// What the playlist menu showed when it opened, by the tags of its items.
     std::map<std::int32_t, std::weak_ptr<QVMovie>> _menuMovies;
 };

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Speed, and places in the movie: chapters.
+// Speed, places in the movie, and stills of it.
 #include "control/QVMovieController.h"
 
 #include "context/FeedbackDisplay.h"
+#include "control/ApplicationServices.h"
 #include "control/CurrentCommands.h"
 #include "control/MenuTitles.h"
 #include "control/SpeedSteps.h"
@@ -12,7 +13,9 @@
 #include "playback/Chapters.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
+#include "playback/StillSaving.h"
 
+#include <algorithm>
 #include <cmath>
 
 using platform::localizedString;
@@ -100,4 +103,68 @@ void QVMovieController::fillChaptersMenu(platform::Menu& menu) {
                                                      : shortenedInTheMiddle(chapter.title);
         menu.addItem(time + QStringLiteral("   ") + name, operation, position++);
     }
+}
+
+/// The first press says where it begins, the second where it ends, the third ends it.
+void QVMovieController::repeatSection(std::int32_t, Feedback) {
+    const auto movie = _with.view.movie();
+    if (!movie) {
+        _with.desktop.beep();
+        return;
+    }
+    const auto clock = [&](std::int32_t time) {
+        return preciseClockText(static_cast<double>(time) / movie->timeScale(), 1);
+    };
+    if (_with.view.repeated()) {
+        _with.view.repeat(std::nullopt);
+        post("Repeat: Off");
+    } else if (_sectionBegin && _sectionOf.lock() == movie) {
+        const auto [from, until] = std::minmax(*_sectionBegin, movie->time());
+        if (from == until) {
+            _with.desktop.beep();
+            return;
+        }
+        _with.view.repeat(platform::MoviePlayer::Section{from, until});
+        _with.feedback.postFeedback(
+            platform::localizedFormat(QStringLiteral("Repeat: %@ – %@"), {clock(from), clock(until)}));
+        _sectionBegin.reset();
+    } else {
+        _sectionBegin = movie->time();
+        _sectionOf = movie;
+        post("Repeat from %@", clock(*_sectionBegin));
+    }
+}
+
+bool QVMovieController::validateRepeating(platform::MenuItem& item) const {
+    const auto movie = _with.view.movie();
+    item.state = movie && _with.view.repeated();
+    const bool isBegun = movie && _sectionBegin && _sectionOf.lock() == movie;
+    item.title = localizedString(item.state ? QStringLiteral("Repeat Section")
+                                 : isBegun  ? QStringLiteral("Repeat until Here")
+                                            : QStringLiteral("Repeat from Here"));
+    return movie != nullptr;
+}
+
+void QVMovieController::goToTime(std::int32_t, Feedback) {
+    const auto movie = _with.view.movie();
+    if (!movie) {
+        _with.desktop.beep();
+        return;
+    }
+    const double scale = movie->timeScale();
+    const std::optional<double> seconds =
+        _with.application.askForTime(movie->time() / scale, movie->duration() / scale);
+    // Another movie may have begun meanwhile.
+    if (!seconds || _with.view.movie() != movie)
+        return;
+    _with.view.setTime(static_cast<std::int32_t>(std::lround(*seconds * scale)));
+    post("Time: %@", preciseClockText(*seconds, 1));
+}
+
+void QVMovieController::saveStill(std::int32_t, Feedback) {
+    _with.stills.save();
+}
+
+bool QVMovieController::validateHasMovie(platform::MenuItem&) const {
+    return _with.view.movie() != nullptr;
 }

@@ -10,6 +10,7 @@
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
 #include "app/main/Terminal.h"
+#include "app/panels/GoToTimePanel.h"
 #include "app/panels/HelpPanel.h"
 #include "app/panels/PlaylistPanel.h"
 #include "app/panels/QVOpenURLPanel.h"
@@ -134,6 +135,10 @@ public:
     void runPlaylistPanel() override {
         if (playlist && environment)
             ::runPlaylistPanel(*environment, *playlist, window);
+    }
+    std::optional<double> runGoToTimePanel(double now, double duration) override {
+        return ::runGoToTimePanel(
+            now, duration, [this] { _desktop.beep(); }, window);
     }
     OpenURLAnswer runOpenURLPanel(std::int32_t type) override {
         if (!_openURLPanel && environment)

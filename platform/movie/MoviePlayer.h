@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
+
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace platform {
 
@@ -72,6 +75,20 @@ public:
     virtual void seek(std::int32_t time, JumpReport report) = 0;
     /// One frame forward (+1) or back (-1); pauses. Reports a time jump.
     virtual void step(int direction) = 0;
+
+    /// While it plays, the loaded movie goes back from the end of the section to its beginning, again and again; it
+    /// goes there at once when it stands elsewhere. Ends with the movie.
+    struct Section {
+        std::int32_t from = 0;
+        std::int32_t until = 0;
+        friend bool operator==(const Section&, const Section&) = default;
+    };
+    virtual std::optional<Section> repeated() const = 0;
+    virtual void repeat(const std::optional<Section>& section) = 0;
+
+    /// The picture that is shown, as large as the movie's own, without what is shown over it; a null one where there is
+    /// none. Comes later, from the run loop.
+    virtual void still(std::function<void(QImage)> completion) = 0;
 
     /// Linear, 1.0 is full; kept within 0 to 3.
     virtual float volume() const = 0;

@@ -5,7 +5,10 @@
 #include "platform/movie/MoviePlayer.h"
 #include "platform/window/View.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -31,6 +34,10 @@ public:
     /// Of rate 1 (MoviePlayer::speed).
     double speed() const { return _player.speed(); }
     void setSpeed(double speed) { _player.setSpeed(speed); }
+    std::optional<MoviePlayer::Section> repeated() const { return _player.repeated(); }
+    void repeat(const std::optional<MoviePlayer::Section>& section) { _player.repeat(section); }
+    /// MoviePlayer::still().
+    void wholePicture(std::function<void(QImage)> completion) { _player.still(std::move(completion)); }
     float volume() const;
     virtual void setVolume(float volume);
     bool isMuted() const;

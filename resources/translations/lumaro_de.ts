@@ -2400,5 +2400,81 @@
         <source>Next and previous chapter</source>
         <translation>Nächstes und vorheriges Kapitel</translation>
     </message>
+    <message id="Save Still">
+        <source>Save Still</source>
+        <translation>Standbild sichern</translation>
+    </message>
+    <message id="Save the picture as a file">
+        <source>Save the picture as a file</source>
+        <translation>Das Bild als Datei sichern</translation>
+    </message>
+    <message id="Still: %@">
+        <source>Still: %@</source>
+        <translation>Standbild: %@</translation>
+    </message>
+    <message id="No Picture to Save">
+        <source>No Picture to Save</source>
+        <translation>Kein Bild zu sichern</translation>
+    </message>
+    <message id="Can’t save the still in %@">
+        <source>Can’t save the still in %@</source>
+        <translation>Das Standbild lässt sich nicht sichern in %@</translation>
+    </message>
+    <message id="Go to Time">
+        <source>Go to Time</source>
+        <translation>Zur Zeit gehen</translation>
+    </message>
+    <message id="Go to Time...">
+        <source>Go to Time...</source>
+        <translation>Zur Zeit gehen …</translation>
+    </message>
+    <message id="Go to a time">
+        <source>Go to a time</source>
+        <translation>Zu einer Zeit gehen</translation>
+    </message>
+    <message id="Time in the movie:">
+        <source>Time in the movie:</source>
+        <translation>Zeit im Film:</translation>
+    </message>
+    <message id="Time in the movie, up to %@:">
+        <source>Time in the movie, up to %@:</source>
+        <translation>Zeit im Film, bis %@:</translation>
+    </message>
+    <message id="Seconds, minutes or hours: 90, 1:30 or 1:23:45.6">
+        <source>Seconds, minutes or hours: 90, 1:30 or 1:23:45.6</source>
+        <translation>Sekunden, Minuten oder Stunden: 90, 1:30 oder 1:23:45,6</translation>
+    </message>
+    <message id="Time: %@">
+        <source>Time: %@</source>
+        <translation>Zeit: %@</translation>
+    </message>
+    <message id="Repeat Section">
+        <source>Repeat Section</source>
+        <translation>Abschnitt wiederholen</translation>
+    </message>
+    <message id="Repeat from Here">
+        <source>Repeat from Here</source>
+        <translation>Ab hier wiederholen</translation>
+    </message>
+    <message id="Repeat until Here">
+        <source>Repeat until Here</source>
+        <translation>Bis hierher wiederholen</translation>
+    </message>
+    <message id="Repeat a section: its beginning, its end, no more">
+        <source>Repeat a section: its beginning, its end, no more</source>
+        <translation>Einen Abschnitt wiederholen: sein Anfang, sein Ende, nicht mehr</translation>
+    </message>
+    <message id="Repeat: Off">
+        <source>Repeat: Off</source>
+        <translation>Wiederholen: Aus</translation>
+    </message>
+    <message id="Repeat from %@">
+        <source>Repeat from %@</source>
+        <translation>Wiederholen ab %@</translation>
+    </message>
+    <message id="Repeat: %@ – %@">
+        <source>Repeat: %@ – %@</source>
+        <translation>Wiederholen: %@ – %@</translation>
+    </message>
 </context>
 </TS>

@@ -2400,5 +2400,81 @@
         <source>Next and previous chapter</source>
         <translation>Next and previous chapter</translation>
     </message>
+    <message id="Save Still">
+        <source>Save Still</source>
+        <translation>Save Still</translation>
+    </message>
+    <message id="Save the picture as a file">
+        <source>Save the picture as a file</source>
+        <translation>Save the picture as a file</translation>
+    </message>
+    <message id="Still: %@">
+        <source>Still: %@</source>
+        <translation>Still: %@</translation>
+    </message>
+    <message id="No Picture to Save">
+        <source>No Picture to Save</source>
+        <translation>No Picture to Save</translation>
+    </message>
+    <message id="Can’t save the still in %@">
+        <source>Can’t save the still in %@</source>
+        <translation>Can’t save the still in %@</translation>
+    </message>
+    <message id="Go to Time">
+        <source>Go to Time</source>
+        <translation>Go to Time</translation>
+    </message>
+    <message id="Go to Time...">
+        <source>Go to Time...</source>
+        <translation>Go to Time...</translation>
+    </message>
+    <message id="Go to a time">
+        <source>Go to a time</source>
+        <translation>Go to a time</translation>
+    </message>
+    <message id="Time in the movie:">
+        <source>Time in the movie:</source>
+        <translation>Time in the movie:</translation>
+    </message>
+    <message id="Time in the movie, up to %@:">
+        <source>Time in the movie, up to %@:</source>
+        <translation>Time in the movie, up to %@:</translation>
+    </message>
+    <message id="Seconds, minutes or hours: 90, 1:30 or 1:23:45.6">
+        <source>Seconds, minutes or hours: 90, 1:30 or 1:23:45.6</source>
+        <translation>Seconds, minutes or hours: 90, 1:30 or 1:23:45.6</translation>
+    </message>
+    <message id="Time: %@">
+        <source>Time: %@</source>
+        <translation>Time: %@</translation>
+    </message>
+    <message id="Repeat Section">
+        <source>Repeat Section</source>
+        <translation>Repeat Section</translation>
+    </message>
+    <message id="Repeat from Here">
+        <source>Repeat from Here</source>
+        <translation>Repeat from Here</translation>
+    </message>
+    <message id="Repeat until Here">
+        <source>Repeat until Here</source>
+        <translation>Repeat until Here</translation>
+    </message>
+    <message id="Repeat a section: its beginning, its end, no more">
+        <source>Repeat a section: its beginning, its end, no more</source>
+        <translation>Repeat a section: its beginning, its end, no more</translation>
+    </message>
+    <message id="Repeat: Off">
+        <source>Repeat: Off</source>
+        <translation>Repeat: Off</translation>
+    </message>
+    <message id="Repeat from %@">
+        <source>Repeat from %@</source>
+        <translation>Repeat from %@</translation>
+    </message>
+    <message id="Repeat: %@ – %@">
+        <source>Repeat: %@ – %@</source>
+        <translation>Repeat: %@ – %@</translation>
+    </message>
 </context>
 </TS>

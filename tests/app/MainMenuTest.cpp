@@ -46,12 +46,14 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
               "Half Size changeSize 0 (0)\nNormal Size changeSize 1 (1)\nDouble Size changeSize 2 (2)\n"
               "Full Size changeSize 3 (3)\nFit Width changeSize 4 (4)\nFit Height changeSize 5 (5)\n-\n"
               "Bigger changeSize -2 (+)\nSmaller changeSize -3 (-)\n-\nShow Controller toggleController 0 (C)\n"
-              "Next Display cycleDisplays 1 (D)\nPrevious Display cycleDisplays -1 (Shift+D)");
+              "Next Display cycleDisplays 1 (D)\nPrevious Display cycleDisplays -1 (Shift+D)\n-\nSave Still saveStill "
+              "0 (Ctrl+Shift+S)");
     EXPECT_EQ(shown(2), "Play startStop 0 (Space)\nFast Forward fastForwardRewind 1 (Right)\n"
                         "Rewind fastForwardRewind -1 (Left)\n-\nJump Forward jump 1 (Ctrl+Right)\n"
                         "Jump Backward jump -1 (Ctrl+Left)\n-\nBeginning beginningEnd -1 (Alt+Left)\n"
                         "End beginningEnd 1 (Alt+Right)\n-\nSpeed  0\nChapters  0\n"
                         "Next Chapter stepChapter 1 (Shift+PgDown)\nPrevious Chapter stepChapter -1 (Shift+PgUp)\n-\n"
+                        "Go to Time... goToTime 0 (G)\nRepeat from Here repeatSection 0 (Ctrl+L)\n-\n"
                         "Next Movie playPrevNext 1 [PgDown]\n"
                         "Previous Movie playPrevNext -1 [PgUp]\n-\nLooping Off changeLooping 0 (L)\n"
                         "Loop One changeLooping 1\nLoop All changeLooping 2");

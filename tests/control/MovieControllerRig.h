@@ -7,6 +7,7 @@
 #include "control/CurrentCommands.h"
 #include "control/QVMovieController.h"
 #include "platform/base/Localization.h"
+#include "playback/StillSaving.h"
 #include "playlist/MovieMemory.h"
 #include "playlist/QVPlaylistController.h"
 #include "settings/SettingsKeys.h"
@@ -14,6 +15,8 @@
 #include "subtitles/SubtitleView.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/PlaybackRig.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -44,6 +47,11 @@ protected:
         void savePlaylist() override { calls << "save playlist"; }
         void showHelp() override { calls << "help"; }
         void showPlaylist() override { calls << "playlist"; }
+        std::optional<double> time; // that the user answers
+        std::optional<double> askForTime(double now, double duration) override {
+            calls << QString("time of %1/%2").arg(now).arg(duration);
+            return time;
+        }
         void showPreferences() override { calls << "preferences"; }
         bool hasDonationPage = false;
         void donate() override { calls << "donate"; }
@@ -129,7 +137,9 @@ protected:
     RecordingSubtitles subtitles{settings.environment, scene};
     platform::Menu playlistMenu, subtitlesMenu;
     CurrentCommands currentCommands{settings.environment};
+    QTemporaryDir pictures;
+    StillSaving stills{settings.environment, view, confirmations, [this] { return pictures.path(); }};
     QVMovieController controller{settings.environment,
                                  {window, mainWindow, view, playlist, subtitles, confirmations, pointer, desktop,
-                                  services, playlistMenu, subtitlesMenu, currentCommands}};
+                                  services, playlistMenu, subtitlesMenu, currentCommands, stills}};
 };

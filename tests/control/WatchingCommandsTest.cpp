@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Speed, and places in the movie.
+#include "platform/base/Background.h"
 #include "tests/control/MovieControllerRig.h"
+
+#include <QDir>
+#include <QImage>
 
 namespace {
 
@@ -101,4 +105,70 @@ TEST_F(WatchingCommands, Chapters_are_reached_by_keys_and_menu_and_named) {
     EXPECT_TRUE(press(key::pageUp, held::shift));
     EXPECT_EQ(posted(), "No Chapters");
     platform::setLocalizationLanguages({});
+}
+
+TEST_F(WatchingCommands, A_section_is_begun_ended_and_given_up_by_one_key) {
+    platform::setLocalizationLanguages({"en"});
+    press(u'l', held::control);
+    EXPECT_EQ(desktop.beeps, 1) << "there is no movie";
+    const auto movie = showChapters();
+    const auto titleOf = [this] {
+        platform::MenuItem shown = item("repeatSection", 0);
+        controller.validateMenuItem(shown);
+        return shown.title.toStdString() + (shown.state ? "*" : "");
+    };
+    EXPECT_EQ(titleOf(), "Repeat from Here");
+    view.setTime(12060);
+    EXPECT_TRUE(press(u'l', held::control));
+    EXPECT_EQ(posted(), "Repeat from 0:00:20.1");
+    EXPECT_EQ(titleOf(), "Repeat until Here");
+    press(u'l', held::control);
+    EXPECT_EQ(desktop.beeps, 2) << "nothing lies between";
+    view.setTime(6000); // before: the places count, not their order
+    press(u'l', held::control);
+    EXPECT_EQ(view.repeated(), (platform::MoviePlayer::Section{6000, 12060}));
+    EXPECT_EQ(posted(), "Repeat: 0:00:10.0 – 0:00:20.1");
+    EXPECT_EQ(titleOf(), "Repeat Section*");
+    press(u'l', held::control);
+    EXPECT_EQ(view.repeated(), std::nullopt);
+    EXPECT_EQ(posted(), "Repeat: Off");
+    press(u'l', held::control);
+    showChapters();
+    EXPECT_EQ(titleOf(), "Repeat from Here") << "what was begun was of another movie";
+    platform::setLocalizationLanguages({});
+}
+
+TEST_F(WatchingCommands, A_time_is_asked_for_and_gone_to) {
+    press(u'g');
+    EXPECT_EQ(desktop.beeps, 1);
+    showChapters();
+    view.setTime(6000);
+    EXPECT_TRUE(press(u'g'));
+    EXPECT_EQ(services.calls, QStringList("time of 10/60"));
+    EXPECT_EQ(view.time(), 6000) << "cancelled";
+    services.time = 12.345;
+    press(u'g');
+    EXPECT_EQ(view.time(), 7407);
+    EXPECT_EQ(posted(), text("Time: %@", {"0:00:12.3"}));
+}
+
+TEST_F(WatchingCommands, A_still_is_saved_beside_the_others_and_its_place_said) {
+    press(u's', held::control | held::shift);
+    EXPECT_EQ(posted(), text("No Picture to Save"));
+    const auto movie = showChapters();
+    view.setTime(7407);
+    player().stillPicture = QImage(64, 36, QImage::Format_RGB32);
+    player().stillPicture.fill(Qt::red);
+    for (const char* name : {"chapters 0.00.12.345.png", "chapters 0.00.12.345 (2).png"}) {
+        confirmations.last.clear();
+        EXPECT_TRUE(press(u's', held::control | held::shift));
+        const QString path = pictures.filePath(name);
+        for (int i = 0; i < 500 && posted().empty(); ++i) {
+            platform::background::waitUntilIdle(1);
+            settings.runLoop.advance(0.01);
+        }
+        EXPECT_EQ(posted(), text("Still: %@", {path}));
+        EXPECT_EQ(QImage(path).pixelColor(5, 5), QColor(Qt::red));
+    }
+    EXPECT_EQ(QDir(pictures.path()).entryList(QDir::Files | QDir::Hidden).size(), 2) << "nothing else is left";
 }

@@ -2,9 +2,16 @@
 // How fast the movie plays, and the places in it that are reached.
 #include "tests/e2e/PlayerFixture.h"
 
+#include <QColor>
+#include <QImage>
+
+#include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <string>
+#include <thread>
+#include <vector>
 
 using namespace harness;
 
@@ -57,4 +64,59 @@ TEST_F(Watching, chapters_of_the_file_are_stepped_through) {
         EXPECT_TRUE(frameBecomes(60));
         ASSERT_TRUE(quitsCleanly());
     }
+}
+
+TEST_F(Watching, a_section_is_repeated_to_the_frame) {
+    start({"--set", "QVPlaylistAutoPlay=0", "--set", "QVJumpInterval=1", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    probe.tap(XK_Right, {XK_Control_L});
+    probe.tap(XK_Right);
+    ASSERT_TRUE(frameBecomes(31));
+    probe.tap(XK_l, {XK_Control_L});
+    ASSERT_TRUE(logs("Set Text: Repeat from 0:00:01.0"));
+    probe.tap(XK_Right, {XK_Control_L});
+    ASSERT_TRUE(frameBecomes(61));
+    probe.tap(XK_l, {XK_Control_L});
+    ASSERT_TRUE(logs("Set Text: Repeat: 0:00:01.0 – 0:00:02.0"));
+    ASSERT_TRUE(frameBecomes(31)) << "it goes there at once";
+    probe.tap(XK_space);
+    int least = 1000, most = 0, turns = 0, last = 0;
+    waitUntil([&] {
+        const int seen = frame().value_or(last);
+        turns += seen < last ? 1 : 0;
+        last = seen;
+        least = std::min(least, turns > 0 ? seen : least);
+        most = std::max(most, seen);
+        return turns == 3;
+    });
+    EXPECT_EQ(turns, 3);
+    EXPECT_NEAR(least, 31, 1);
+    EXPECT_LE(most, 62);
+    probe.tap(XK_l, {XK_Control_L});
+    EXPECT_TRUE(frameBecomes([](int seen) { return seen > 70; }, "beyond the section"));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Watching, a_typed_time_is_gone_to_and_its_still_is_the_movies_own_picture) {
+    startRecorded(LUMARO_PROGRAM, {{"HOME", user.folder().string()}},
+                  {"--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    probe.tap(XK_g);
+    // The panel stands below the middle.
+    ASSERT_TRUE(probe.waitForPixel(screenWidth / 2, screenHeight * 7 / 10,
+                                   [](const Color& color) { return !color.isNear(red); }));
+    std::this_thread::sleep_for(Seconds(0.5)); // it has the keyboard a moment later
+    for (const KeySym typed : std::vector<KeySym>{XK_4, XK_period, XK_5, XK_Return})
+        probe.tap(typed);
+    ASSERT_TRUE(logs("Set Text: Time: 0:00:04.5"));
+    ASSERT_TRUE(frameBecomes(135));
+    probe.tap(XK_s, {XK_Control_L, XK_Shift_L});
+    ASSERT_TRUE(logs("Set Text: Still: "));
+    const std::filesystem::path file = user.folder() / "Pictures/red 0.00.04.500.png";
+    ASSERT_TRUE(std::filesystem::exists(file));
+    const QImage still(QString::fromStdString(file.string()));
+    EXPECT_EQ(still.size(), QSize(384, 216)) << "not the screen's";
+    const QColor color = still.pixelColor(190, 20);
+    EXPECT_TRUE((Color{color.red(), color.green(), color.blue()}.isNear(red)));
+    ASSERT_TRUE(quitsCleanly());
 }

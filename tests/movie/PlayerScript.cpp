@@ -37,6 +37,10 @@ std::string textOf(const PlayerEffect& effect, const PlayerState& state) {
                           [](const SendSteps& e) { return with("steps", e.count); },
                           [](const SetPaused& e) { return std::string(e.paused ? "pause" : "go"); },
                           [](const SetSpeed& e) { return with("speed", e.speed); },
+                          [](const SetRepeated& e) {
+                              return e.seconds ? with("repeat", e.seconds->first) + with(" to", e.seconds->second)
+                                               : std::string("repeat nothing");
+                          },
                           [](const SetVolume& e) { return with("volume", e.volume); },
                           [](const SetMuted& e) { return std::string(e.muted ? "mute" : "unmute"); },
                           [&](const SelectAudio&) { return with("audio", state.tracks.audio.value_or(-1)); },

@@ -174,6 +174,24 @@ TEST(PlayerState, the_speed_is_a_factor_of_every_rate_and_stays_from_movie_to_mo
     EXPECT_EQ(player(Play{}), "speed 0.5, go | state");
 }
 
+TEST(PlayerState, a_section_is_repeated_until_its_movie_goes) {
+    const auto section = platform::MoviePlayer::Section{100, 250};
+    PlayerScript player;
+    EXPECT_EQ(player(Repeat{section}), "") << "of no movie";
+    player(Load{tenSeconds, 150});
+    EXPECT_EQ(player(Repeat{section}), "");
+    EXPECT_EQ(player(CoreReady{}), "volume 100, unmute, repeat 1 to 2.5, load 1.5");
+    EXPECT_EQ(player(Repeat{section}), "") << "as it is";
+    EXPECT_EQ(player(Repeat{}), "repeat nothing");
+    player(Repeat{section});
+    EXPECT_EQ(player(Load{tenSeconds, 0}), "cancel all, repeat nothing, load 0 | frame");
+    EXPECT_FALSE(player.state().repeated);
+    for (const std::int32_t outside : {99, 250}) {
+        PlayerScript standing = PlayerScript::showing(tenSeconds, outside);
+        EXPECT_EQ(standing(Repeat{section}), "repeat 1 to 2.5, seek 1 keyframe | jump, state");
+    }
+}
+
 // Seeks
 
 TEST(PlayerState, a_seek_shows_the_keyframe_first_and_holds_the_time_asked_for) {

@@ -48,6 +48,7 @@ void ScriptedPlayer::load(platform::Movie* movie) {
     loadedAt = time;
     _left = 0;
     _rate = 0;
+    _repeated.reset();
     _movie = movie;
     if (_observer)
         _observer->playerFrameChanged();

@@ -48,6 +48,10 @@ public:
     std::int32_t time() const override { return _time; }
     void seek(std::int32_t time, JumpReport report) override;
     void step(int direction) override;
+    std::optional<Section> repeated() const override { return _repeated; }
+    void repeat(const std::optional<Section>& section) override { _repeated = section; }
+    QImage stillPicture;
+    void still(std::function<void(QImage)> completion) override { completion(stillPicture); }
     float volume() const override { return _volume; }
     void setVolume(float volume) override;
     bool isMuted() const override { return _muted; }
@@ -67,6 +71,7 @@ private:
     double _left = 0; // units passed at rate 1 that made no whole picture yet
     float _rate = 0;
     double _speed = 1;
+    std::optional<Section> _repeated;
     float _volume = 1;
     bool _muted = false;
 };

@@ -44,6 +44,31 @@ constexpr double firstFrameTimeout = 0.15;
 // A file that was written to within these seconds is still growing.
 constexpr qint64 growingSeconds = 3;
 
+/// A copy of the one that the core answers with.
+QImage pictureOf(const mpv_node& answer) {
+    std::int64_t width = 0, height = 0, stride = 0;
+    const mpv_byte_array* pixels = nullptr;
+    if (answer.format != MPV_FORMAT_NODE_MAP)
+        return {};
+    const mpv_node_list& parts = *answer.u.list;
+    for (int i = 0; i < parts.num; ++i) {
+        const QByteArrayView name(parts.keys[i]);
+        const mpv_node& part = parts.values[i];
+        if (part.format == MPV_FORMAT_BYTE_ARRAY && name == "data")
+            pixels = part.u.ba;
+        else if (part.format == MPV_FORMAT_INT64)
+            (name == "w" ? width : name == "h" ? height : stride) = part.u.int64;
+        else if (part.format == MPV_FORMAT_STRING && name == "format" && qstrcmp(part.u.string, "bgr0") != 0)
+            return {};
+    }
+    if (!pixels || width <= 0 || height <= 0 || stride < 4 * width ||
+        static_cast<std::int64_t>(pixels->size) < stride * height)
+        return {};
+    return QImage(static_cast<const uchar*>(pixels->data), static_cast<int>(width), static_cast<int>(height), stride,
+                  QImage::Format_RGB32)
+        .copy();
+}
+
 } // namespace
 
 MpvPlayer::MpvPlayer() = default;
@@ -244,6 +269,9 @@ void MpvPlayer::handle(const mpv_event& event) {
             setWait({});
         apply(playerEvent::PlaybackRestarted{});
         break;
+    case MPV_EVENT_COMMAND_REPLY:
+        answerStill(event);
+        break;
     case MPV_EVENT_PROPERTY_CHANGE: {
         const auto* property = static_cast<const mpv_event_property*>(event.data);
         if (property->data)
@@ -331,6 +359,31 @@ void MpvPlayer::carryOut(const playerEffect::UseMoreThreads&) {
     // Another way to say no: the decoder is made anew at any change. The core then seeks to where it stands, in place
     // of which comes the seek that follows.
     command({"set", "file-local-options/hwdec", "no,"});
+}
+
+void MpvPlayer::carryOut(const playerEffect::SetRepeated& effect) {
+    const auto [from, until] = effect.seconds.value_or(std::pair(0.0, 0.0));
+    const auto text = [&](double seconds) {
+        return effect.seconds ? QByteArray::number(seconds, 'f', 6) : QByteArray("no");
+    };
+    command({"set", "ab-loop-a", text(from).constData()});
+    command({"set", "ab-loop-b", text(until).constData()});
+}
+
+void MpvPlayer::still(std::function<void(QImage)> completion) {
+    if (!_core || !_movie || !_video.hasCoreFrame()) {
+        RunLoop::main().post([completion = std::move(completion)] { completion({}); });
+        return;
+    }
+    _stills[++_lastStill] = std::move(completion);
+    command({"screenshot-raw", "video"}, _lastStill);
+}
+
+void MpvPlayer::answerStill(const mpv_event& event) {
+    const auto asked = _stills.extract(event.reply_userdata);
+    if (asked)
+        asked.mapped()(event.error < 0 ? QImage()
+                                       : pictureOf(static_cast<const mpv_event_command*>(event.data)->result));
 }
 
 void MpvPlayer::carryOut(const playerEffect::SendSteps& effect) {
@@ -428,12 +481,12 @@ void MpvPlayer::tell(const playerReport::Failed& report) {
         _observer->playerFailed();
 }
 
-void MpvPlayer::command(std::initializer_list<const char*> words) {
+void MpvPlayer::command(std::initializer_list<const char*> words, std::uint64_t reply) {
     if (!_core)
         return;
     std::vector<const char*> arguments(words);
     arguments.push_back(nullptr);
-    MpvLibrary::get()->mpv_command_async(_core->handle(), 0, arguments.data());
+    MpvLibrary::get()->mpv_command_async(_core->handle(), reply, arguments.data());
 }
 
 void MpvPlayer::setFlag(const char* property, bool value) {

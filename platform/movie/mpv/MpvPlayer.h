@@ -16,6 +16,7 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <utility>
 
@@ -54,6 +55,9 @@ public:
     std::int32_t time() const override { return _state.time; }
     void seek(std::int32_t time, JumpReport report) override { apply(playerEvent::Seek{time, report}); }
     void step(int direction) override { apply(playerEvent::Step{direction}); }
+    std::optional<Section> repeated() const override { return _state.repeated; }
+    void repeat(const std::optional<Section>& section) override { apply(playerEvent::Repeat{section}); }
+    void still(std::function<void(QImage)> completion) override;
     float volume() const override { return _state.volume; }
     void setVolume(float volume) override { apply(playerEvent::SetVolume{volume}); }
     bool isMuted() const override { return _state.muted; }
@@ -73,6 +77,7 @@ private:
     void handleEvents();
     void handle(const mpv_event& event);
     void propertyChanged(std::uint64_t property, const mpv_event_property& value);
+    void answerStill(const mpv_event& event);
     void framesDue();
     /// How the decoded pictures code light: a container may say less than they do, or something else.
     void takeTransfer(const char* transfer);
@@ -89,6 +94,7 @@ private:
     void carryOut(const playerEffect::SendSteps& effect);
     void carryOut(const playerEffect::SetPaused& effect) { setFlag("pause", effect.paused); }
     void carryOut(const playerEffect::SetSpeed& effect) { setNumber("speed", effect.speed); }
+    void carryOut(const playerEffect::SetRepeated& effect);
     void carryOut(const playerEffect::SetVolume& effect) { setNumber("volume", effect.volume); }
     void carryOut(const playerEffect::SetMuted& effect) { setFlag("mute", effect.muted); }
     void carryOut(const playerEffect::SelectAudio&);
@@ -118,7 +124,7 @@ private:
     void tell(const playerReport::Grew& report);
     void tell(const playerReport::Failed& report);
 
-    void command(std::initializer_list<const char*> words);
+    void command(std::initializer_list<const char*> words, std::uint64_t reply = 0);
     void setFlag(const char* property, bool value);
     void setNumber(const char* property, double value);
     std::unique_ptr<Timer>& timer(PlayerTimer which) { return _timers[static_cast<std::size_t>(which)]; }
@@ -142,6 +148,10 @@ private:
             _movie->playerReadSubtitle(text);
     }};
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
+
+    /// The stills that were asked for, by the number of the core's reply.
+    std::map<std::uint64_t, std::function<void(QImage)>> _stills;
+    std::uint64_t _lastStill = 0;
 
     std::atomic<bool> _eventsPosted{false};
     std::atomic<bool> _framesPosted{false};

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <variant>
 
 namespace platform {
@@ -54,6 +55,9 @@ struct SetRate {
 struct SetSpeed {
     double speed;
     double now;
+};
+struct Repeat {
+    std::optional<MoviePlayer::Section> section;
 };
 struct Seek {
     std::int32_t time;
@@ -103,7 +107,7 @@ struct FrameDue {};
 
 using PlayerEvent =
     std::variant<playerEvent::CoreReady, playerEvent::CoreDropped, playerEvent::Load, playerEvent::Play,
-                 playerEvent::SetRate, playerEvent::SetSpeed, playerEvent::Seek, playerEvent::Step,
+                 playerEvent::SetRate, playerEvent::SetSpeed, playerEvent::Repeat, playerEvent::Seek, playerEvent::Step,
                  playerEvent::SetVolume, playerEvent::SetMuted, playerEvent::Select, playerEvent::TimerFired,
                  playerEvent::FileStarted, playerEvent::FileFailed, playerEvent::PlaybackRestarted,
                  playerEvent::TimeChanged, playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
@@ -130,6 +134,10 @@ struct SetPaused {
 };
 struct SetSpeed {
     double speed;
+};
+/// From and until so many seconds; none for no repeating.
+struct SetRepeated {
+    std::optional<std::pair<double, double>> seconds;
 };
 /// In hundredths, on the core's scale.
 struct SetVolume {
@@ -165,10 +173,11 @@ struct DropHeldFrame {};
 
 using PlayerEffect =
     std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::UseMoreThreads, playerEffect::SendSeek,
-                 playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetVolume,
-                 playerEffect::SetMuted, playerEffect::SelectAudio, playerEffect::SelectSubtitles,
-                 playerEffect::SetDelays, playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
-                 playerEffect::UseCoreFrame, playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
+                 playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetRepeated,
+                 playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::SelectAudio,
+                 playerEffect::SelectSubtitles, playerEffect::SetDelays, playerEffect::ArmTimer,
+                 playerEffect::CancelTimer, playerEffect::CancelTimers, playerEffect::UseCoreFrame,
+                 playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
 
 /// What the observer and the movie are told.
 namespace playerReport {

@@ -45,6 +45,8 @@ public:
         _s.core = PlayerState::Core();
         sendVolume();
         effect(playerEffect::SetMuted{_s.muted});
+        if (_s.repeated)
+            sendRepeated();
         if (_s.movie)
             sendLoad();
     }
@@ -55,6 +57,7 @@ public:
     }
 
     void operator()(const playerEvent::Load& load) {
+        const bool hadRepeated = _s.repeated.has_value();
         PlayerState fresh;
         fresh.movie = load.movie;
         fresh.time = load.time;
@@ -66,6 +69,8 @@ public:
         fresh.seeks.hold();
         _s = fresh;
         effect(CancelTimers{});
+        if (_s.core && hadRepeated)
+            sendRepeated();
         if (_s.core && _s.movie)
             sendLoad();
         else if (_s.core)
@@ -109,6 +114,17 @@ public:
         updateScrubbing(asked.now);
         applyMotion();
         report(StateChanged{});
+    }
+
+    void operator()(const playerEvent::Repeat& asked) {
+        if (!_s.movie || asked.section == _s.repeated)
+            return;
+        _s.repeated = asked.section;
+        if (_s.core)
+            sendRepeated();
+        // The core goes back at the end only from within.
+        if (_s.repeated && (_s.time < _s.repeated->from || _s.time >= _s.repeated->until))
+            seek(_s.repeated->from, JumpReport::reported);
     }
 
     void operator()(const playerEvent::Seek& asked) { seek(asked.time, asked.report); }
@@ -267,6 +283,13 @@ private:
         return static_cast<std::int32_t>(std::clamp(std::round(seconds * _s.movie->timeScale), 0.0, largest));
     }
     double toSeconds(std::int32_t units) const { return static_cast<double>(units) / _s.movie->timeScale; }
+
+    void sendRepeated() {
+        if (_s.repeated)
+            effect(SetRepeated{std::pair(toSeconds(_s.repeated->from), toSeconds(_s.repeated->until))});
+        else
+            effect(SetRepeated{});
+    }
 
     void sendVolume() {
         // The core's volume is the cube root of the linear one, in hundredths.

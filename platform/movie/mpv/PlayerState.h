@@ -16,6 +16,7 @@ struct PlayerState {
     std::optional<LoadedMovie> movie;
     float rate = 0;
     double speed = 1.0; ///< Of rate 1: what the core is to play at is the product.
+    std::optional<MoviePlayer::Section> repeated;
     float volume = 1.0F;
     bool muted = false;
     std::int32_t time = 0;
