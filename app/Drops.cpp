@@ -2,10 +2,10 @@
 #include "app/Drops.h"
 
 #include "platform/base/Localization.h"
+#include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
 #include "platform/window/Events.h"
 #include "playlist/OpeningReport.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -20,6 +20,16 @@ std::uint32_t operationFor(const DraggingInfo& info) {
     if (info.sourceOperationMask & dragOperation::generic)
         return dragOperation::generic;
     return info.sourceOperationMask & dragOperation::copy;
+}
+
+/// Of a path, or the URL of one that is no text.
+QUrl urlOfFile(const QString& text) {
+    return urlOfNativePath(bytesOfPath(pathFromStored(text)));
+}
+
+bool isFile(const QUrl& url) {
+    const auto facts = factsOfFile(nativePath(url));
+    return facts && facts->isFile;
 }
 
 } // namespace
@@ -57,7 +67,7 @@ bool Drops::performDragOperation(const DraggingInfo& info) {
         if (areSubtitles(info.fileNames)) {
             QList<OpeningFailure> failures;
             for (const QString& path : info.fileNames)
-                failures.append({QUrl::fromLocalFile(path), OpeningReport::subtitlesAlone});
+                failures.append({urlOfFile(path), OpeningReport::subtitlesAlone});
             _with.files.takeNone(failures, adding);
         } else if (!info.fileNames.isEmpty()) {
             _with.files.take(info.fileNames, adding);
@@ -70,9 +80,9 @@ bool Drops::performDragOperation(const DraggingInfo& info) {
 
 bool Drops::areSubtitles(const QStringList& paths) const {
     return !paths.isEmpty() && std::ranges::all_of(paths, [this](const QString& path) {
-        const QString extension = QFileInfo(path).suffix().toLower();
+        const QString extension = pathExtension(path).toLower();
         // A plain text may be anything.
         return extension != QStringLiteral("txt") && !_types.contains(extension) &&
-               _subtitleTypes.contains(extension) && QFileInfo(path).isFile();
+               _subtitleTypes.contains(extension) && isFile(urlOfFile(path));
     });
 }

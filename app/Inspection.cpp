@@ -6,6 +6,7 @@
 #include "context/Environment.h"
 #include "platform/base/JsonWriter.h"
 #include "platform/base/NumberText.h"
+#include "platform/base/PathNames.h"
 #include "platform/desktop/UserActivity.h"
 #include "platform/movie/MovieToolkit.h"
 #include "playback/QVMovie.h"
@@ -206,7 +207,8 @@ QStringList inspectFiles(const Environment& environment, platform::MovieToolkit&
     for (const QString& name : pathsOrUrls) {
         const QUrl url = urlOf(name);
         const auto isSubtitleFile = [&] {
-            return writeSubtitleFile(name, url.toLocalFile(), readers, owner, images, json);
+            return writeSubtitleFile(name, platform::pathOfBytes(platform::nativePath(url)), readers, owner, images,
+                                     json);
         };
         // A movie toolkit may take a subtitle file for a movie without pictures: the name decides what is tried first.
         if (url.isLocalFile() && isFileOfType(url.toLocalFile(), subtitleExtensions) && isSubtitleFile())

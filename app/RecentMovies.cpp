@@ -5,11 +5,12 @@
 #include "control/Commands.h"
 #include "control/MenuTitles.h"
 #include "platform/base/Localization.h"
+#include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
 #include "platform/window/Menu.h"
 #include "playback/MovieOrdering.h"
 #include "playlist/OpeningReport.h"
 
-#include <QFileInfo>
 #include <QHash>
 
 #include <utility>
@@ -53,7 +54,7 @@ void RecentMovies::open(std::int32_t position) {
     if (position < 0 || position >= _shown.size())
         return;
     const QUrl address = _shown[position];
-    if (address.isLocalFile() && !QFileInfo::exists(address.toLocalFile()))
+    if (address.isLocalFile() && !platform::factsOfFile(platform::nativePath(address)))
         _movies.forget(address);
     _open(address.toString(QUrl::FullyEncoded));
 }

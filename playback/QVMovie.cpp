@@ -89,6 +89,11 @@ QString QVMovie::displayName() const {
     return _saidTitle.isEmpty() ? fileNameOfURL(url()) : _saidTitle;
 }
 
+QString QVMovie::fileName() const {
+    return url().isLocalFile() ? platform::lastPathComponent(platform::pathOfBytes(platform::nativePath(url())))
+                               : url().fileName();
+}
+
 std::int32_t QVMovie::knownSeconds() const {
     return duration() > 0 ? durationInSeconds() : _saidSeconds;
 }
@@ -150,7 +155,7 @@ int QVMovie::compare(const QVMovie& other) const {
 QStringList QVMovie::filesBeside() const {
     if (!url().isLocalFile())
         return {};
-    const QString base = platform::pathWithoutExtension(url().toLocalFile());
+    const QString base = platform::pathWithoutExtension(platform::pathOfBytes(platform::nativePath(url())));
     return _services.subtitleDiscovery.filesBeginningWith(base,
                                                           _services.subtitleReaders.subtitleUnfilteredFileTypes());
 }

@@ -48,6 +48,8 @@ public:
 
     /// What whoever named it calls it, and how long they said that it lasts (-1: not at all).
     void setSaid(const QString& title, std::int32_t seconds);
+    const QString& saidTitle() const { return _saidTitle; }
+    std::int32_t saidSeconds() const { return _saidSeconds; }
     /// What lists and texts call it: that title, else the name of its file.
     QString displayName() const;
     /// How long it lasts, in seconds, as far as that is known by now; -1 where it is not.
@@ -71,7 +73,8 @@ public:
     QString description() const { return url().toString(); }
     /// The absolute URL as it is saved: with everything encoded that a URL cannot hold.
     const QString& address() const { return _address; }
-    QString fileName() const override { return url().fileName(); }
+    /// Of a local file as pathOfBytes() writes it, so that it is what the files beside it begin with.
+    QString fileName() const override;
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
     void setTime(std::int32_t time);

@@ -200,7 +200,8 @@ float QVSubtitles::actualFrameRate(std::int32_t choice) const {
 // Naming
 
 QString QVSubtitles::title() const {
-    return platform::lastPathComponent(path());
+    // As it is shown: what is no text has a mark in its place.
+    return QString::fromUtf8(platform::bytesOfPath(platform::lastPathComponent(path())));
 }
 
 QString QVSubtitles::language() const {

@@ -28,4 +28,14 @@ QByteArray nativePath(const QUrl& url);
 /// URL. Any thread.
 QString textOfNativePath(const QByteArray& path);
 
+/// A path as a text that is taken apart, compared and opened again, and never stored or sent: each byte that is no
+/// UTF-8 is the half of a surrogate pair (U+DC80 to U+DCFF) in it, of which bytesOfPath() makes the byte again. Any
+/// thread.
+QString pathOfBytes(const QByteArray& bytes);
+QByteArray bytesOfPath(const QString& path);
+
+/// The same path as textOfNativePath() writes it, to be stored, and back. Any thread.
+QString storedPath(const QString& path);
+QString pathFromStored(const QString& text);
+
 } // namespace platform

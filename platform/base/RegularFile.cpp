@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/RegularFile.h"
 
-#include <QFile>
+#include "platform/base/PathNames.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -13,8 +13,19 @@
 
 namespace platform {
 
+std::optional<FileFacts> factsOfFile(const QByteArray& nativePath) {
+    struct stat facts {};
+    if (::stat(nativePath.constData(), &facts) != 0)
+        return std::nullopt;
+    constexpr qint64 milliseconds = 1000;
+    constexpr qint64 nanosecondsOfOne = 1000000;
+    const qint64 changed = facts.st_mtim.tv_sec * milliseconds + facts.st_mtim.tv_nsec / nanosecondsOfOne;
+    return FileFacts{S_ISREG(facts.st_mode), S_ISDIR(facts.st_mode), facts.st_size,
+                     QDateTime::fromMSecsSinceEpoch(changed)};
+}
+
 OpenedFile openRegularFile(const QString& path) {
-    return openRegularFileAt(QFile::encodeName(path));
+    return openRegularFileAt(bytesOfPath(path));
 }
 
 OpenedFile openRegularFileAt(const QByteArray& nativePath) {
@@ -150,7 +161,7 @@ private:
 } // namespace
 
 std::optional<QByteArray> readRegularFile(const QString& path, qsizetype limit, int* error) {
-    return readRegularFileAt(QFile::encodeName(path), limit, error);
+    return readRegularFileAt(bytesOfPath(path), limit, error);
 }
 
 std::optional<QByteArray> readRegularFileAt(const QByteArray& nativePath, qsizetype limit, int* error) {
@@ -160,7 +171,7 @@ std::optional<QByteArray> readRegularFileAt(const QByteArray& nativePath, qsizet
 std::optional<TextFile> readTextFile(const QString& path, qsizetype limit, qsizetype maximumLine) {
     constexpr qsizetype pieceSize = 256 * 1024; // stays in a cache of the processor
     LineCutter cutter(maximumLine);
-    auto bytes = readInPieces(QFile::encodeName(path), limit, pieceSize, nullptr,
+    auto bytes = readInPieces(bytesOfPath(path), limit, pieceSize, nullptr,
                               [&](char* piece, qsizetype count) { return cutter.keep(piece, count); });
     if (!bytes)
         return std::nullopt;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 #include <cstdint>
@@ -19,6 +20,19 @@ struct OpenedFile {
     int error = 0;
 };
 
+/// What the file system says of what stands at a path, behind symbolic links.
+struct FileFacts {
+    bool isFile = false; // a regular one
+    bool isFolder = false;
+    std::int64_t size = 0; // in bytes
+    QDateTime changed;
+};
+
+/// None where nothing is, or may be looked at. Any thread; it waits for a disk, or a network, that does not answer.
+std::optional<FileFacts> factsOfFile(const QByteArray& nativePath);
+
+/// Paths that are texts are those of pathOfBytes().
+///
 /// Opens a file for reading. Pipes and devices are refused and never waited for. Any thread.
 OpenedFile openRegularFile(const QString& path);
 

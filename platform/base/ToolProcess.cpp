@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/ToolProcess.h"
 
+#include "platform/base/PathNames.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -30,7 +32,7 @@ namespace {
 class TextList {
 public:
     void add(std::string text) { _texts.push_back(std::move(text)); }
-    void add(const QString& text) { _texts.push_back(QFile::encodeName(text).toStdString()); }
+    void add(const QString& text) { _texts.push_back(bytesOfPath(text).toStdString()); }
     /// Valid until something is added.
     char** data() {
         _pointers.clear();

@@ -10,8 +10,6 @@
 #include "settings/Tracing.h"
 #include "subtitles/vobsub/SubFileSearch.h"
 
-#include <QFileInfo>
-
 #include <condition_variable>
 #include <mutex>
 #include <utility>
@@ -69,7 +67,8 @@ struct SubFile::Unpacking : std::enable_shared_from_this<Unpacking> {
         trace("%@: Processing \"%@\"", className, platform::lastPathComponent(archive));
         std::shared_ptr<platform::PrivateSubfolder> made = platform::PrivateSubfolder::make();
         const QString temporary = made ? made->path() : QString();
-        const QString tempPath = temporary + u'/' + QFileInfo(archive).completeBaseName() + u'/';
+        const QString tempPath =
+            temporary + u'/' + platform::lastPathComponent(platform::pathWithoutExtension(archive)) + u'/';
         const bool isTakenApart = made && runTool(temporary, token) == 0;
         const QString found = isTakenApart ? SubFileSearch::dataFileWithin(tempPath, baseName) : QString();
         const std::scoped_lock lock(mutex);

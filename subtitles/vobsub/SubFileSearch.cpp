@@ -1,27 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "subtitles/vobsub/SubFileSearch.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QFileInfo>
+#include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
+
+#include <QStringList>
+
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
 QString preferred(QStringList files, const QString& baseName) {
     files.sort();
     for (const QString& file : files) {
-        if (QFileInfo(file).completeBaseName().compare(baseName, Qt::CaseInsensitive) == 0)
+        const QString name = platform::lastPathComponent(platform::pathWithoutExtension(file));
+        if (name.compare(baseName, Qt::CaseInsensitive) == 0)
             return file;
     }
     return files.value(0);
 }
 
-QStringList dataFiles(const QString& folder, QDirIterator::IteratorFlags flags) {
+/// Links are left out, whatever they lead to.
+template <class Entries>
+QStringList dataFiles(const QString& folder) {
     QStringList files;
-    // Name filters ignore the case of letters.
-    QDirIterator entries(folder, {QStringLiteral("*.sub")}, QDir::Files | QDir::NoSymLinks | QDir::Hidden, flags);
-    while (entries.hasNext())
-        files.append(entries.next());
+    std::error_code error;
+    for (Entries entry(platform::bytesOfPath(folder).toStdString(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const QString path = platform::pathOfBytes(entry->path().c_str());
+        std::error_code unknown;
+        if (path.endsWith(u".sub", Qt::CaseInsensitive) &&
+            entry->symlink_status(unknown).type() == std::filesystem::file_type::regular)
+            files.append(path);
+    }
     return files;
 }
 
@@ -36,7 +48,8 @@ QString SubFileSearch::fileBeside(const QString& base, const QString& extension)
             if (upperCase >> static_cast<unsigned>(letter) & 1U)
                 path[base.size() + 1 + letter] = extension[letter].toUpper();
         }
-        return QFileInfo(path).isFile() ? path : QString();
+        const auto facts = platform::factsOfFile(platform::bytesOfPath(path));
+        return facts && facts->isFile ? path : QString();
     };
     QString found = file(0);
     for (unsigned way = ways - 1; found.isEmpty() && way > 0; --way)
@@ -57,6 +70,7 @@ QString SubFileSearch::archiveBeside(const QString& base) {
 }
 
 QString SubFileSearch::dataFileWithin(const QString& folder, const QString& baseName) {
-    const QString found = preferred(dataFiles(folder, QDirIterator::NoIteratorFlags), baseName);
-    return found.isEmpty() ? preferred(dataFiles(folder, QDirIterator::Subdirectories), baseName) : found;
+    using namespace std::filesystem;
+    const QString found = preferred(dataFiles<directory_iterator>(folder), baseName);
+    return found.isEmpty() ? preferred(dataFiles<recursive_directory_iterator>(folder), baseName) : found;
 }

@@ -2,6 +2,7 @@
 #include "playback/QVMovie.h"
 #include "playback/SubtitleDiscovery.h"
 
+#include "platform/base/PathNames.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Files.h"
 #include "tests/support/ManualRunLoop.h"
@@ -9,6 +10,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 
 TEST(QVMovie, each_picture_jump_and_end_is_told_while_the_movie_is_shown) {
@@ -112,6 +114,26 @@ TEST(QVMovie, files_that_begin_like_the_movie_are_offered_to_the_readers) {
 
     rig.settings.defaults().setBool(false, kQVAutoloadSubtitles);
     EXPECT_TRUE(open()->subtitles().empty());
+}
+
+TEST(QVMovie, subtitles_are_found_beside_names_that_are_no_utf8) {
+    PlaybackRig rig;
+    QTemporaryDir folder;
+    const QByteArray films = folder.path().toUtf8() + "/\xE9t\xE9";
+    std::error_code error;
+    std::filesystem::create_directory(films.toStdString(), error);
+    if (error)
+        GTEST_SKIP() << "this file system takes UTF-8 alone";
+    for (const char* name : {"caf\xE9.avi", "caf\xE9.de.srt", "caf\xE8.srt", "caf\xC3\xA9.srt", "CAF\xE9.SUB"})
+        std::ofstream((films + '/' + name).toStdString()) << "x";
+    const auto movie = rig.open(platform::urlOfNativePath(films + "/caf\xE9.avi").toString(QUrl::FullyEncoded));
+    QList<QByteArray> offered;
+    for (const QString& name : rig.readers.offered)
+        offered.append(platform::bytesOfPath(name));
+    std::ranges::sort(offered);
+    EXPECT_EQ(offered, (QList<QByteArray>{"CAF\xE9.SUB", "caf\xE9.de.srt"}));
+    EXPECT_EQ(platform::bytesOfPath(movie->fileName()), "caf\xE9.avi");
+    std::filesystem::remove_all(films.toStdString()); // the folder's own end does not know how to
 }
 
 TEST(SubtitleDiscovery, a_listing_is_kept_for_a_second_while_its_folder_stays_as_it_is) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/Log.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/PercentEscapes.h"
 #include "platform/base/StringComparison.h"
 #include "settings/ColorText.h"
@@ -78,4 +79,18 @@ TEST(PercentEscapes, what_a_url_cannot_hold_is_escaped_and_its_separators_stay) 
     EXPECT_EQ(platform::stringByAddingPercentEscapes("http://a.org/b c?d=\u00E9&e=1;f#\"<[100%]>|\\"),
               "http://a.org/b%20c?d=%C3%A9&e=1;f%23%22%3C%5B100%25%5D%3E%7C%5C");
     EXPECT_EQ(platform::stringByAddingPercentEscapes("(it's-_.!~*)$+,@"), "(it's-_.!~*)$+,@");
+}
+
+TEST(PathNames, a_path_is_a_text_of_which_its_bytes_are_made_again) {
+    for (const QByteArray& bytes :
+         {QByteArray("/a b.mp4"), QByteArray("/caf\xC3\xA9 \xF0\x9F\x8E\xAC"), QByteArray("/caf\xE9/\xC3\xA9\xC3"),
+          QByteArray("/\xF0\x9F\x8E/\x80\xFF"), QByteArray("/\xED\xB3\xA9"), QByteArray()}) {
+        const QString path = platform::pathOfBytes(bytes);
+        EXPECT_EQ(platform::bytesOfPath(path), bytes) << bytes.toPercentEncoding().toStdString();
+        EXPECT_EQ(path.count(u'/'), bytes.count('/'));
+        const QString stored = platform::storedPath(path);
+        EXPECT_EQ(QString::fromUtf8(stored.toUtf8()), stored) << "it can be written";
+        EXPECT_EQ(platform::pathFromStored(stored), path);
+    }
+    EXPECT_EQ(platform::storedPath("/caf\u00E9 \U0001F3AC"), "/caf\u00E9 \U0001F3AC");
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Data files that come out of archives: what is taken, what is refused, and that nothing stays behind.
+#include "platform/base/PathNames.h"
 #include "platform/base/PrivateFolder.h"
+#include "platform/base/RegularFile.h"
 #include "settings/Tracing.h"
 #include "subtitles/vobsub/QVVobSubSubtitles.h"
 #include "subtitles/vobsub/SubFileSearch.h"
@@ -15,6 +17,8 @@
 #include <sys/stat.h>
 
 #include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <thread>
 
 namespace {
@@ -347,6 +351,28 @@ TEST_F(Archives, a_sweep_removes_what_killed_processes_left_and_nothing_else) {
     EXPECT_TRUE(QFileInfo::exists(used->path()));
     EXPECT_TRUE(QFileInfo(link).isSymLink());
     EXPECT_TRUE(QFileInfo::exists(other + QStringLiteral("/kept")));
+}
+
+TEST_F(Archives, names_that_are_no_utf8_are_taken_apart_and_read) {
+    const QByteArray base = folder.path().toUtf8() + "/caf\xE9";
+    std::ofstream((base + ".idx").toStdString())
+        << "# VobSub index file, v7 (do not modify this line!)\nid: en, index: 0\n";
+    if (!std::filesystem::exists((base + ".idx").toStdString()))
+        GTEST_SKIP() << "this file system takes UTF-8 alone";
+    const auto data = [&] {
+        const auto info = QVVobSubInfo::infoWithFile(platform::pathOfBytes(base + ".idx"));
+        return info ? platform::readRegularFile(pathIn(*info), 100).value_or("no file") : QByteArray("no index");
+    };
+    for (const RarFormat format : formats) {
+        const QByteArray archive = rarArchive(format, {{"film.sub", "packed"}});
+        std::ofstream((base + ".rar").toStdString(), std::ios::binary) << archive.toStdString();
+        EXPECT_EQ(data(), "packed");
+    }
+    std::ofstream((base + ".SUB").toStdString()) << "beside";
+    EXPECT_EQ(data(), "beside");
+    for (const char* extension : {".idx", ".rar", ".SUB"}) // the folder's own end does not know how to
+        std::filesystem::remove((base + extension).toStdString());
+    EXPECT_EQ(leftBehind(), QStringList());
 }
 
 TEST_F(Archives, extensions_are_found_in_any_case) {

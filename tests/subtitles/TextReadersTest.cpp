@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/base/PathNames.h"
 #include "subtitles/input/LineReader.h"
 #include "subtitles/input/ScanFormat.h"
 #include "tests/subtitles/SubtitleFiles.h"
 
 #include <array>
+#include <fstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -139,6 +142,18 @@ TEST_F(TextReaders, the_registry_offers_a_file_to_the_reader_of_its_extension_an
     };
     for (const auto& c : cases) {
         const auto track = load(QString::fromUtf8(c.name), c.bytes);
+        const QByteArray odd = folder.path().toUtf8() + "/\xE9" + c.name;
+        if (std::ofstream file(odd.toStdString(), std::ios::binary); file) {
+            file << c.bytes;
+            file.close();
+            const auto same = open(platform::pathOfBytes(odd));
+            EXPECT_EQ(same ? same->type() : QVSubtitles::typeNone, c.type) << "where its name is no UTF-8";
+            if (same)
+                same->preload();
+            EXPECT_EQ(same ? cuesOf(*same) : std::vector<ExpectedCue>(),
+                      track ? cuesOf(*track) : std::vector<ExpectedCue>());
+        }
+        ::unlink(odd.constData()); // the folder's own end does not know how to
         EXPECT_EQ(track ? track->type() : QVSubtitles::typeNone, c.type) << c.name << ": " << c.bytes.substr(0, 20);
     }
 }

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/unrar/Volumes.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
+
 #include <QRegularExpression>
+
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -16,31 +20,47 @@ QString oldExtension(int number) {
     return u'.' + QString(letter) + QStringLiteral("%1").arg(number % perLetter, 2, 10, QChar(u'0'));
 }
 
+bool isFile(const QString& path) {
+    const auto facts = platform::factsOfFile(platform::bytesOfPath(path));
+    return facts && facts->isFile;
+}
+
+void makeLink(const QString& target, const QString& link) {
+    std::error_code error;
+    std::filesystem::create_symlink(platform::bytesOfPath(target).toStdString(),
+                                    platform::bytesOfPath(link).toStdString(), error);
+}
+
+QString absolute(const QString& path) {
+    std::error_code error;
+    const auto found = std::filesystem::absolute(platform::bytesOfPath(path).toStdString(), error);
+    return platform::pathOfBytes(QByteArray::fromStdString(found.native()));
+}
+
 void linkOldVolumes(const QString& base, const QString& link) {
     for (int number = 0; number < maximumVolumes; ++number) {
         const QString extension = oldExtension(number);
         QString volume = base + extension;
-        if (!QFileInfo(volume).isFile())
+        if (!isFile(volume))
             volume = base + extension.toUpper();
-        if (!QFileInfo(volume).isFile())
+        if (!isFile(volume))
             return;
-        QFile::link(volume, link + extension);
+        makeLink(volume, link + extension);
     }
 }
 
 } // namespace
 
 QString linkVolumes(const QString& archive, const QString& folder) {
-    const QFileInfo file(archive);
-    const QString path = file.absoluteFilePath();
+    const QString path = absolute(archive);
     const QString link = folder + QStringLiteral("/archive");
     static const QRegularExpression part(QStringLiteral(R"(\A(.*\.part)(\d{1,6})(\.rar)\z)"),
                                          QRegularExpression::CaseInsensitiveOption |
                                              QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = part.match(path);
     if (!match.hasMatch()) {
-        QFile::link(path, link + QStringLiteral(".rar"));
-        linkOldVolumes(file.absolutePath() + u'/' + file.completeBaseName(), link);
+        makeLink(path, link + QStringLiteral(".rar"));
+        linkOldVolumes(platform::pathWithoutExtension(path), link);
         return link + QStringLiteral(".rar");
     }
     const qsizetype digits = match.capturedLength(2);
@@ -55,9 +75,9 @@ QString linkVolumes(const QString& archive, const QString& folder) {
     };
     for (int number = first; number < first + maximumVolumes; ++number) {
         const QString volume = match.captured(1) + numbered(number, digits) + match.captured(3);
-        if (!QFileInfo(volume).isFile())
+        if (!isFile(volume))
             break;
-        QFile::link(volume, linkOf(number));
+        makeLink(volume, linkOf(number));
     }
     return linkOf(first);
 }

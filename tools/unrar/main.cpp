@@ -3,6 +3,7 @@
 //   unrar x -o+ -p- -r -ad -y -idcp -cl ARCHIVE FOLDER
 // makes FOLDER/NAME, after the archive's name without its extension, in lower case throughout, overwriting what was
 // there. Asks nothing. All goes on in a private folder within FOLDER: nothing is left of an archive that is refused.
+#include "platform/base/PathNames.h"
 #include "platform/base/PrivateFolder.h"
 #include "platform/base/RegularFile.h"
 #include "platform/base/ToolProcess.h"
@@ -12,8 +13,6 @@
 #include "tools/unrar/Volumes.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <array>
 #include <cstdio>
@@ -38,7 +37,7 @@ int refuse(const QString& why) {
 }
 
 std::filesystem::path native(const QString& path) {
-    return QFile::encodeName(path).toStdString();
+    return platform::bytesOfPath(path).toStdString();
 }
 
 /// Without a terminal, a home or a language of its own.
@@ -106,7 +105,7 @@ QString extract(const QString& archive, const ArchiveListing& listing, const QSt
 }
 
 int run(const QString& archive, const QString& destination) {
-    const QString name = QFileInfo(archive).completeBaseName();
+    const QString name = platform::lastPathComponent(platform::pathWithoutExtension(archive));
     const QByteArray beginning = platform::readRegularFile(archive, 7).value_or(QByteArray());
     if (name.isEmpty() || name == QStringLiteral(".") || name == QStringLiteral(".."))
         return refuse(QStringLiteral("the archive has no name"));
@@ -150,5 +149,5 @@ int main(int count, char** arguments) {
         say(QStringLiteral("usage: unrar x -o+ -p- -r -ad -y -idcp -cl ARCHIVE FOLDER"));
         return exitUsage;
     }
-    return run(QFile::decodeName(arguments[count - 2]), QFile::decodeName(arguments[count - 1]));
+    return run(platform::pathOfBytes(arguments[count - 2]), platform::pathOfBytes(arguments[count - 1]));
 }
