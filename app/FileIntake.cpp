@@ -8,15 +8,16 @@
 #include "platform/base/Localization.h"
 #include "platform/base/PartDelivery.h"
 #include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/Events.h"
+#include "playback/MovieOrdering.h"
 #include "playlist/Arrangement.h"
 #include "playlist/files/ListFile.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
-#include <QFileInfo>
 #include <QLocale>
 
 #include <algorithm>
@@ -30,6 +31,34 @@ constexpr qsizetype fewFiles = 20;
 /// Seconds.
 constexpr double partDelay = 0.1;
 constexpr double shuffleDelay = 0.3;
+/// So long the first look at what was handed over is waited for; seconds. A disk answers at once, or it hangs.
+constexpr double lookTimeout = 0.3;
+
+/// What a few files are.
+struct Look {
+    bool takesTime = false; // folders and lists: nothing was looked for in them
+    QList<MovieSource> movies;
+    QList<OpeningFailure> failures;
+};
+
+bool isFolder(const QString& text) {
+    const QUrl url = isURLString(text) ? QUrl(text) : QUrl::fromLocalFile(text);
+    const auto facts = url.isLocalFile() ? platform::factsOfFile(platform::nativePath(url)) : std::nullopt;
+    return facts && facts->isFolder;
+}
+
+Look lookAt(const MovieFinder::Means& means, const QStringList& pathsOrUrls) {
+    Look look;
+    look.takesTime = std::ranges::any_of(pathsOrUrls, [](const QString& text) {
+        return listFile::isListName(isURLString(text) ? QUrl(text).path() : text) || isFolder(text);
+    });
+    if (look.takesTime)
+        return look;
+    const std::atomic<bool> cancelled = false;
+    MovieFinder finder(means, cancelled, [&look](MovieSource movie) { look.movies.append(std::move(movie)); });
+    look.failures = finder.find(pathsOrUrls);
+    return look;
+}
 
 } // namespace
 
@@ -92,21 +121,17 @@ void FileIntake::take(const QStringList& pathsOrUrls, Adding adding) {
             search->giveUp();
         _searchMessage.end();
     }
-    const auto takesTime = [](const QString& text) {
-        const bool isList = listFile::isListName(isURLString(text) ? QUrl(text).path() : text);
-        return isList || (!isURLString(text) && QFileInfo(text).isDir());
-    };
-    if (pathsOrUrls.size() > fewFiles || std::ranges::any_of(pathsOrUrls, takesTime)) {
+    const auto look = pathsOrUrls.size() > fewFiles
+                          ? std::nullopt
+                          : platform::background::runFor<Look>(
+                                lookTimeout, [means = _means, pathsOrUrls] { return lookAt(*means, pathsOrUrls); });
+    if (!look || look->takesTime) {
         search(pathsOrUrls, adding);
         return;
     }
-    QList<MovieSource> movies;
-    const std::atomic<bool> cancelled = false;
-    MovieFinder finder(*_means, cancelled, [&movies](MovieSource movie) { movies.append(std::move(movie)); });
-    const QList<OpeningFailure> failures = finder.find(pathsOrUrls);
     const std::unique_ptr<MoviesInParts> parts = _sink(adding);
-    parts->add(movies);
-    parts->end(failures);
+    parts->add(look->movies);
+    parts->end(look->failures);
 }
 
 void FileIntake::takeNone(const QList<OpeningFailure>& failures, Adding adding) {
@@ -116,8 +141,10 @@ void FileIntake::takeNone(const QList<OpeningFailure>& failures, Adding adding) 
 
 void FileIntake::search(const QStringList& pathsOrUrls, Adding adding) {
     const auto search = std::make_shared<Search>();
-    search->text = platform::localizedFormat(QStringLiteral("Looking for Movies: %@"),
-                                             {platform::lastPathComponent(pathsOrUrls.front())});
+    const QString& first = pathsOrUrls.front();
+    search->text = platform::localizedFormat(
+        QStringLiteral("Looking for Movies: %@"),
+        {isURLString(first) ? fileNameOfURL(QUrl(first)) : platform::lastPathComponent(first)});
     search->movies = _sink(adding);
     _searches.push_back(search);
     sayHowMany();

@@ -5,6 +5,7 @@
 #include "control/KeyText.h"
 #include "overlays/ClockText.h"
 #include "platform/base/Localization.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/PropertyValue.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/RecentlyUsed.h"
@@ -14,7 +15,6 @@
 #include "subtitles/QVSubtitles.h"
 
 #include <QDateTime>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -41,11 +41,6 @@ const QString position = QStringLiteral("Position"); // seconds
 const QString subtitles = QStringLiteral("Subtitles");
 const QString subtitlesIndex = QStringLiteral("SubtitlesIndex");
 } // namespace key
-
-/// -1 for what is no file.
-qlonglong sizeOf(const QVMovie& movie) {
-    return movie.url().isLocalFile() ? QFileInfo(movie.url().toLocalFile()).size() : -1;
-}
 
 /// -2 where it says none that could be.
 qlonglong sizeIn(const QVariantMap& record) {
@@ -115,9 +110,9 @@ std::int32_t RememberedMovies::placeOf(const QVMovie& movie) {
     if (!isOn())
         return 0;
     const QVariantMap record = propertyValue::toDictionary(records().value(movie.address()));
-    if (record.isEmpty() || sizeIn(record) != sizeOf(movie))
+    if (record.isEmpty() || sizeIn(record) != movie.info().fileSize)
         return 0;
-    if (const QString path = propertyValue::toString(record.value(key::subtitles)); !path.isEmpty())
+    if (const QString path = pathFromStored(propertyValue::toString(record.value(key::subtitles))); !path.isEmpty())
         _with.holdSubtitles(path,
                             static_cast<std::uint32_t>(propertyValue::toInteger(record.value(key::subtitlesIndex))));
     const auto seconds =
@@ -155,7 +150,7 @@ void RememberedMovies::movieChanged(const QVPlaylistMovieChangedNotification& no
         });
     }
     QVariantMap record = platform::propertyValue::toDictionary(records().value(movie.address()));
-    const qlonglong size = sizeOf(movie);
+    const qlonglong size = movie.info().fileSize;
     if (sizeIn(record) != size)
         record = {}; // another movie stands there now
     if (size >= 0)
@@ -184,7 +179,7 @@ void RememberedMovies::rememberCurrent() {
     else
         record.remove(key::position);
     if (const auto track = _with.currentSubtitles(); track && !track->path().isEmpty()) {
-        record.insert(key::subtitles, track->path());
+        record.insert(key::subtitles, platform::storedPath(track->path()));
         record.insert(key::subtitlesIndex, static_cast<qlonglong>(track->streamIndex()));
     }
     if (record != before)

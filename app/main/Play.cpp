@@ -36,8 +36,6 @@
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 
-#include <QFileInfo>
-
 #include <memory>
 #include <optional>
 #include <utility>
@@ -45,10 +43,10 @@
 namespace {
 
 /// A file named on the command line is taken at its word: what is missing or of an unknown type is tried, and reported
-/// by the playlist. Only folders are searched for movies by their types.
+/// by the playlist. Only folders are searched for movies by their types; which are some is not asked here, where a
+/// drive that hangs would hold up the launch.
 QString asHandedOver(const QString& file) {
-    const bool isSearched = isURLString(file) || QFileInfo(file).isDir();
-    return isSearched ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
+    return isURLString(file) ? file : QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
 }
 
 platform::HandOver handOverOf(const CommandLine& line) {
@@ -80,8 +78,8 @@ std::optional<int> giveToAny(const CommandLine& line) {
 }
 
 QUrl firstMovie(const QStringList& files) {
-    return !files.isEmpty() && !isURLString(files.first()) && !listFile::isListName(files.first()) &&
-                   QFileInfo(files.first()).isFile()
+    // The thread that opens it sees whether it is a file: a drive that hangs must hold up nothing here.
+    return !files.isEmpty() && !isURLString(files.first()) && !listFile::isListName(files.first())
                ? QUrl::fromLocalFile(files.first())
                : QUrl();
 }

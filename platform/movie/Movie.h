@@ -53,6 +53,8 @@ struct MovieInfo {
     std::vector<Chapter> chapters;
     /// Of its picture, as the container says; standard where it does not.
     DynamicRange dynamicRange;
+    /// Of the file when it was opened, in bytes; -1 for what is none.
+    std::int64_t fileSize = -1;
     /// Of all that the file holds, a second on average; 0 when not known.
     double bitRate = 0;
     /// In the file's order. Some kinds of files show more of them only later (Movie::tracksChanged).

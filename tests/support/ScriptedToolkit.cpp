@@ -4,6 +4,8 @@
 #include "platform/base/RunLoop.h"
 #include "platform/movie/Movie.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -101,6 +103,8 @@ void ScriptedPlayer::setMuted(bool muted) {
 
 platform::MovieInfo ScriptedToolkit::plainMovie(const QUrl& url) {
     platform::MovieInfo info;
+    if (url.isLocalFile())
+        info.fileSize = QFileInfo(url.toLocalFile()).size();
     info.url = url;
     info.timeScale = 600;
     info.duration = 60 * 600;

@@ -72,7 +72,8 @@ std::int16_t Deadline::error(const QUrl& url, int code) const {
 
 /// A file that would block or that is no file is refused before the libraries see it: opening a FIFO waits for a
 /// writer.
-std::int16_t checkFile(const QUrl& url) {
+/// `size` becomes that of a file which may be one.
+std::int16_t checkFile(const QUrl& url, std::int64_t& size) {
     struct stat status {};
     if (::stat(nativePath(url).constData(), &status) != 0)
         return fileError(AVERROR(errno));
@@ -81,6 +82,7 @@ std::int16_t checkFile(const QUrl& url) {
     // An empty file is no movie; one of the kernel's, which only looks empty, may keep its reader waiting for ever.
     if (S_ISREG(status.st_mode) && status.st_size == 0)
         return movieError::fileEmpty;
+    size = status.st_size;
     return movieError::none;
 }
 
@@ -233,8 +235,9 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
     const AvLibrary* av = AvLibrary::get();
     if (!av)
         return {std::nullopt, movieError::noMediaHandler};
+    std::int64_t fileSize = -1;
     if (url.isLocalFile()) {
-        if (const std::int16_t error = checkFile(url))
+        if (const std::int16_t error = checkFile(url, fileSize))
             return {std::nullopt, error};
     }
 
@@ -275,6 +278,7 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
         return {std::nullopt, movieError::invalidMovie};
     MovieInfo info = describe(input, seen ? video : nullptr, heard ? audio : nullptr);
     info.url = url;
+    info.fileSize = fileSize;
     info.saysDuration = saysDuration;
     return {std::move(info), video && !seen ? movieError::cannotPlay : movieError::none};
 }

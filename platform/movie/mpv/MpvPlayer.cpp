@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MpvPlayer.h"
 
+#include "platform/base/Background.h"
 #include "platform/base/Log.h"
 #include "platform/base/PathNames.h"
 #include "platform/movie/mpv/Libraries.h"
@@ -12,8 +13,8 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QEvent>
-#include <QFileInfo>
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -165,7 +166,7 @@ void MpvPlayer::load(Movie* movie) {
     _text.clear();
     _movie = movie;
     ++_loads;
-    _sizeWhenLoaded = movie && movie->url().isLocalFile() ? QFileInfo(movie->url().toLocalFile()).size() : 0;
+    _sizeWhenLoaded = movie ? std::max<std::int64_t>(movie->info().fileSize, 0) : 0;
     const bool hasFrames = facts && facts->content == LoadedMovie::Content::frames;
     _video.begin(movie ? movie->info().naturalSize : QSizeF(),
                  hasFrames ? MpvVideoLayer::LastFrame::stays : MpvVideoLayer::LastFrame::goes);
@@ -290,7 +291,7 @@ void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property
         apply(playerEvent::EndChanged{*static_cast<const int*>(value.data) == 0 ? CoreEnd::no
                                       : isFileGrowing()                         ? CoreEnd::ofArrived
                                                                                 : CoreEnd::ofMovie});
-    else if (property == durationProperty && hasFileGrown())
+    else if (property == durationProperty && grownFile())
         apply(playerEvent::DurationGrew{*static_cast<const double*>(value.data)});
     else if (property == decoderProperty)
         _decodesInHardware = qstrcmp(*static_cast<const char* const*>(value.data), "no") != 0;
@@ -316,13 +317,19 @@ void MpvPlayer::takeTransfer(const char* transfer) {
         _observer->playerFrameChanged();
 }
 
-bool MpvPlayer::hasFileGrown() const {
-    return _sizeWhenLoaded > 0 && QFileInfo(_movie->url().toLocalFile()).size() > _sizeWhenLoaded;
+/// Not waiting for a drive that hangs.
+std::optional<FileFacts> MpvPlayer::grownFile() const {
+    constexpr double timeout = 0.3;
+    if (_sizeWhenLoaded == 0)
+        return std::nullopt;
+    const auto file = background::runFor<std::optional<FileFacts>>(
+        timeout, [path = nativePath(_movie->url())] { return factsOfFile(path); });
+    return file && *file && (*file)->size > _sizeWhenLoaded ? *file : std::nullopt;
 }
 
 bool MpvPlayer::isFileGrowing() const {
-    return hasFileGrown() &&
-           QFileInfo(_movie->url().toLocalFile()).lastModified().secsTo(QDateTime::currentDateTime()) <= growingSeconds;
+    const auto file = grownFile();
+    return file && file->changed.secsTo(QDateTime::currentDateTime()) <= growingSeconds;
 }
 
 void MpvPlayer::framesDue() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/base/RegularFile.h"
 #include "platform/base/RunLoop.h"
 #include "platform/movie/Movie.h"
 #include "platform/movie/MoviePlayer.h"
@@ -18,6 +19,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 
 struct mpv_event;
@@ -82,7 +84,7 @@ private:
     /// How the decoded pictures code light: a container may say less than they do, or something else.
     void takeTransfer(const char* transfer);
     /// Since the movie was loaded; and lately.
-    bool hasFileGrown() const;
+    std::optional<FileFacts> grownFile() const;
     bool isFileGrowing() const;
 
     void apply(const PlayerEvent& event);
@@ -141,7 +143,7 @@ private:
     PlayerState _state;
     bool _decodesInHardware = false;
     std::uint64_t _loads = 0;
-    qint64 _sizeWhenLoaded = 0; // bytes of the movie's file
+    std::int64_t _sizeWhenLoaded = 0; // bytes of the movie's file
     Wait _wait;
     SubtitleTextReader _text{[this](const SubtitleText& text) {
         if (_movie)
