@@ -3,6 +3,7 @@
 
 #include "app/HeldSubtitles.h"
 #include "app/OpeningFiles.h"
+#include "platform/base/PathNames.h"
 #include "platform/base/PropertyValue.h"
 #include "platform/base/UserDefaults.h"
 #include "playback/QVMovie.h"
@@ -35,22 +36,35 @@ const QString time = QStringLiteral("QVSavedTime");
 const QString looping = QStringLiteral("QVSavedLooping");
 const QString subtitles = QStringLiteral("QVSavedSubtitles");
 const QString subtitlesIndex = QStringLiteral("QVSavedSubtitlesIndex");
+// Beside the list, an entry for each of its own, and there only where a list said something of a movie.
+const QString titles = QStringLiteral("QVSavedTitles");
+const QString seconds = QStringLiteral("QVSavedSeconds");
 } // namespace key
 
-/// The addresses of a saved list; `index` moves with the entry that it is the position of, where others are none.
-QList<QUrl> addressesOf(const QVariant& saved, std::uint32_t& index) {
-    QList<QUrl> addresses;
-    std::uint32_t position = 0;
+/// The movies of a saved list; `index` moves with the entry that it is the position of, where others are no addresses.
+QList<MovieSource> moviesOf(const QVariantMap& state, std::uint32_t& index) {
+    const QVariantList list = state.value(key::playlist).toList();
+    // Of a list of another length they are another's.
+    const auto beside = [&](const QString& name) {
+        const QVariantList said = state.value(name).toList();
+        return said.size() == list.size() ? said : QVariantList();
+    };
+    const QVariantList titles = beside(key::titles), seconds = beside(key::seconds);
+    QList<MovieSource> movies;
     const std::uint32_t wanted = index;
-    for (const QVariant& entry : saved.toList()) {
-        if (position++ == wanted)
-            index = static_cast<std::uint32_t>(addresses.size());
-        if (const QString text = platform::propertyValue::toString(entry); isURLString(text))
-            addresses += urlsWithURLStrings({text});
+    for (qsizetype position = 0; position < list.size(); ++position) {
+        if (static_cast<std::uint64_t>(position) == wanted)
+            index = static_cast<std::uint32_t>(movies.size());
+        const QString text = platform::propertyValue::toString(list[position]);
+        if (!isURLString(text))
+            continue;
+        for (const QUrl& url : urlsWithURLStrings({text}))
+            movies.append({url, platform::propertyValue::toString(titles.value(position)),
+                           seconds.isEmpty() ? -1 : platform::propertyValue::toInteger(seconds[position])});
     }
-    if (wanted >= position)
-        index = static_cast<std::uint32_t>(addresses.size());
-    return addresses;
+    if (wanted >= static_cast<std::uint64_t>(list.size()))
+        index = static_cast<std::uint32_t>(movies.size());
+    return movies;
 }
 
 } // namespace
@@ -100,17 +114,27 @@ void SavedState::saveState() {
     // The view still shows the one before.
     const bool isAwaited = _with.view.movie() != _with.playlist.movie();
     QVPlaylistController::Contents contents = _with.playlist.contentsWithAwaited();
-    QVariantList addresses;
-    addresses.reserve(contents.addresses.size());
-    for (QString& address : contents.addresses)
-        addresses.append(std::move(address));
+    QVariantList addresses, titles, seconds;
+    addresses.reserve(static_cast<qsizetype>(contents.entries.size()));
+    bool hasTitles = false, hasSeconds = false;
+    for (auto& entry : contents.entries) {
+        hasTitles |= !entry.title.isEmpty();
+        hasSeconds |= entry.seconds >= 0;
+        addresses.append(std::move(entry.address));
+        titles.append(std::move(entry.title));
+        seconds.append(static_cast<qlonglong>(entry.seconds));
+    }
     QVariantMap state{{key::playlist, addresses},
                       {key::index, static_cast<qlonglong>(isFinished ? 0 : contents.index)},
                       {key::isPlaying, isFinished || _with.view.isPlaying()},
                       {key::time, static_cast<qlonglong>(isFinished || isAwaited ? 0 : _with.view.time())},
                       {key::looping, static_cast<qlonglong>(_with.playlist.looping())}};
+    if (hasTitles)
+        state.insert(key::titles, titles);
+    if (hasSeconds)
+        state.insert(key::seconds, seconds);
     if (const auto track = _with.subtitles.current(); track && !track->path().isEmpty()) {
-        state.insert(key::subtitles, track->path());
+        state.insert(key::subtitles, platform::storedPath(track->path()));
         state.insert(key::subtitlesIndex, static_cast<qlonglong>(track->streamIndex()));
     }
     _environment.settings.setObject(state, kQVSavedState);
@@ -125,19 +149,19 @@ void SavedState::restoreState(std::function<void(bool)> restored) {
     place.time = std::max(propertyValue::toInteger(state.value(key::time)), 0);
     place.isPlaying = propertyValue::toBool(state.value(key::isPlaying));
     place.looping = propertyValue::toInteger(state.value(key::looping));
-    const QList<QUrl> addresses = addressesOf(state.value(key::playlist), place.index);
-    if (addresses.isEmpty()) {
+    const QList<MovieSource> movies = moviesOf(state, place.index);
+    if (movies.isEmpty()) {
         if (restored)
             restored(false);
         return;
     }
-    const QString subtitles = propertyValue::toString(state.value(key::subtitles));
+    const QString subtitles = pathFromStored(propertyValue::toString(state.value(key::subtitles)));
     if (!subtitles.isEmpty())
         _with.heldSubtitles.hold(
             subtitles, static_cast<std::uint32_t>(propertyValue::toInteger(state.value(key::subtitlesIndex))));
     const bool reportsError = _with.playlist.reportsError();
     _with.playlist.setReportsError(false);
-    _with.playlist.restoreURLs(addresses, place, [this, restored = std::move(restored)](bool added) {
+    _with.playlist.restore(movies, place, [this, restored = std::move(restored)](bool added) {
         if (!added)
             _with.heldSubtitles.drop();
         if (restored)

@@ -84,7 +84,7 @@ public:
     QUrl awaitedAddress() const;
     /// Those that are not told yet, and not given up.
     std::vector<std::size_t> awaitedPlaces() const;
-    const QUrl& urlAt(std::size_t place) const { return _items[place].source.url; }
+    const MovieSource& sourceAt(std::size_t place) const { return _items[place].source; }
 
 private:
     enum class Outcome : std::uint8_t { awaited, open, failed };

@@ -206,6 +206,7 @@ void QVPlaylistController::selectAt(std::uint32_t index, std::int32_t time) {
     const auto entry = movieAtIndex(index);
     if (!entry)
         return;
+    _restored.reset();
     _with.memory.movieWillChange();
     trace("%@: Next movie: %@", className, entry->address());
     _direction = index + 1 == _index ? Direction::back : Direction::forth;

@@ -95,15 +95,22 @@ public:
 
     /// The same for a list that was saved, which takes the list's place: the current movie is opened first and found by
     /// its address; where it cannot be opened the next one of the list that can is the current one, else the first. The
-    /// order is kept, whatever the arrangement.
-    void restoreURLs(const QList<QUrl>& urls, const SavedPlace& place, Added added);
+    /// order is kept, whatever the arrangement. Nothing is alerted of it, not even where the current movie fails to
+    /// play.
+    void restore(const QList<MovieSource>& movies, const SavedPlace& place, Added added);
 
     std::uint32_t count() const { return static_cast<std::uint32_t>(_playlist.size()); }
     /// The entries' URLs as absolute strings: the form in which the list is saved.
     QStringList arrayWithURLsAsStrings() const;
-    /// The same with those that are still being opened, in their places, and where the current entry stands among them.
+    /// The entries with those that are still being opened, in their places, what is said of each, and where the current
+    /// one stands among them.
     struct Contents {
-        QStringList addresses;
+        struct Entry {
+            QString address;
+            QString title;
+            std::int32_t seconds = -1;
+        };
+        std::vector<Entry> entries;
         std::uint32_t index = NSNotFound;
     };
     Contents contentsWithAwaited() const;
@@ -210,6 +217,8 @@ private:
     /// Where a movie that cannot be opened leads on to.
     enum class Direction : bool { back, forth } _direction = Direction::forth;
     std::weak_ptr<QVMovie> _shown;
+    /// The one that a saved list was put back with.
+    std::weak_ptr<QVMovie> _restored;
     QList<OpeningFailure> _skipped;
     StandingMessage _loadingMessage;
     /// Ends what was put off to the next pass when the playlist goes away.

@@ -113,15 +113,15 @@ void QVPlaylistController::addURLs(const QList<QUrl>& urls, Adding adding, Start
     sayWhatIsAwaited();
 }
 
-void QVPlaylistController::restoreURLs(const QList<QUrl>& urls, const SavedPlace& place, Added added) {
+void QVPlaylistController::restore(const QList<MovieSource>& movies, const SavedPlace& place, Added added) {
     const TraceScope scope("-[QVPlaylistController addURLs:replace:start:]");
     SavedPlace saved = place;
-    if (place.index >= static_cast<std::uint64_t>(urls.size()))
+    if (place.index >= static_cast<std::uint64_t>(movies.size()))
         saved = {0, 0, place.isPlaying, place.looping}; // the time is of none of them
     Addition& addition = beginAddition(Adding::replace, Starting::no, std::move(added),
                                        {saved.index, MovieBatch::First::Wait::untilAnswered});
     addition.saved = saved;
-    addition.batch->add(sourcesOf(urls));
+    addition.batch->add(movies);
     addition.batch->close();
     sayWhatIsAwaited();
 }
@@ -233,13 +233,14 @@ void QVPlaylistController::putBack(const SavedPlace& place, const std::vector<Mo
     _finished = false;
     setLooping(place.looping);
     selectAt(found == entries.end() ? 0 : static_cast<std::uint32_t>(found - entries.begin()), isSame ? place.time : 0);
+    _restored = movie();
     if (place.isPlaying)
         play();
 }
 
 QVPlaylistController::Contents QVPlaylistController::contentsWithAwaited() const {
     // What is awaited stands before the entry of this position; what is to come at the end, at the list's count.
-    std::multimap<std::uint32_t, QString> awaited;
+    std::multimap<std::uint32_t, Contents::Entry> awaited;
     for (const auto& addition : _additions) {
         std::optional<std::uint32_t> position;
         std::size_t last = 0;
@@ -248,19 +249,22 @@ QVPlaylistController::Contents QVPlaylistController::contentsWithAwaited() const
             if (!position || (between != addition->movies.end() && between->first < place))
                 position = positionFor(*addition, place);
             last = place;
-            awaited.emplace(*position, addition->batch->urlAt(place).toString(QUrl::FullyEncoded));
+            const MovieSource& source = addition->batch->sourceAt(place);
+            awaited.emplace(*position,
+                            Contents::Entry{source.url.toString(QUrl::FullyEncoded), source.title, source.seconds});
         }
     }
-    if (awaited.empty())
-        return {arrayWithURLsAsStrings(), _index};
     Contents contents;
+    contents.entries.reserve(count() + awaited.size());
     for (std::uint32_t position = 0; position <= count(); ++position) {
         for (auto [next, end] = awaited.equal_range(position); next != end; ++next)
-            contents.addresses.append(next->second);
+            contents.entries.push_back(next->second);
         if (position == _index)
-            contents.index = static_cast<std::uint32_t>(contents.addresses.size());
-        if (position < count())
-            contents.addresses.append(_playlist[position]->address());
+            contents.index = static_cast<std::uint32_t>(contents.entries.size());
+        if (position == count())
+            break;
+        const QVMovie& movie = *_playlist[position];
+        contents.entries.push_back({movie.address(), movie.saidTitle(), movie.saidSeconds()});
     }
     return contents;
 }
@@ -336,6 +340,13 @@ void QVPlaylistController::movieFailed(const QVMovieFailedNotification& notifica
     if (!notification.movie || !_reports_error)
         return;
     const QUrl url = notification.movie->url();
+    if (notification.movie == _restored.lock()) {
+        // Nobody asked for it just now: a word, but nothing to answer.
+        logAlways("ERROR: %@: QT failed to open movie.", className);
+        _with.feedback.postFeedback(
+            platform::localizedFormat(QStringLiteral("QTUnableToOpenFileError"), {notification.movie->displayName()}));
+        return;
+    }
     const std::int16_t error =
         url.isLocalFile() ? platform::movieError::couldNotOpen : platform::movieError::connectionFailed;
     report([this, failure = OpeningFailure{url, error}] { _with.desktop.runAlert(OpeningReport::failed({failure})); });

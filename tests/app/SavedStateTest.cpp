@@ -134,6 +134,58 @@ TEST(SavedState, what_is_gone_or_odd_is_left_out_without_a_word) {
     }
 }
 
+TEST(SavedState, titles_of_a_playlist_file_come_back_with_the_list) {
+    StateRig first;
+    first.launch();
+    const QString list =
+        writeFile(first.folder.filePath("l.m3u8"), "#EXTM3U\n#EXTINF:90,The First \xC3\x89t\xC3\xA9\na.avi\n"
+                                                   "b.avi\n#EXTINF:-1,Third\nc.avi\n");
+    for (const char* name : {"a.avi", "b.avi", "c.avi"})
+        first.file(name);
+    first.app.openFile(list);
+    first.settings.runLoop.runPending();
+    first.waitForSearches();
+    ASSERT_EQ(first.playlist.count(), 3U);
+    QVariantMap left = first.quit();
+    const auto names = [](StateRig& rig) {
+        QStringList said;
+        for (std::uint32_t position = 0; position < rig.playlist.count(); ++position) {
+            const auto movie = rig.playlist.movieAtIndex(position);
+            said << movie->displayName() + u' ' + QString::number(movie->saidSeconds());
+        }
+        return said.join(u',');
+    };
+    StateRig second(left);
+    second.launch();
+    EXPECT_EQ(names(second), QString::fromUtf8("The First \xC3\x89t\xC3\xA9 90,b.avi -1,Third -1"));
+    EXPECT_EQ(second.quit().value(kQVSavedState), left.value(kQVSavedState)) << "and again the next time";
+    // Titles that are not of this list are nobody's.
+    QVariantMap state = left.value(kQVSavedState).toMap();
+    state["QVSavedTitles"] = QVariantList{"Another"};
+    state["QVSavedSeconds"] = "soon";
+    left[kQVSavedState] = state;
+    StateRig third(left);
+    third.launch();
+    EXPECT_EQ(names(third), "a.avi -1,b.avi -1,c.avi -1");
+}
+
+TEST(SavedState, a_movie_that_comes_back_and_does_not_play_is_no_alert) {
+    StateRig rig({{"QVSavedPlaylist", addresses({"a.avi", "b.avi"})}, {"QVSavedIndex", 1}}, 0);
+    rig.launch();
+    const auto fail = [&] {
+        rig.settings.notifications.post(QVMovieFailedNotification{rig.playlist.movie()});
+        rig.settings.runLoop.advance(0.1);
+        return rig.desktop.alerts.size();
+    };
+    ASSERT_EQ(rig.current(), "b.avi");
+    EXPECT_EQ(fail(), 0U);
+    EXPECT_EQ(rig.current(), "b.avi");
+    rig.playlist.setIndex(0);
+    EXPECT_EQ(fail(), 1U) << "this one was asked for";
+    rig.playlist.setIndex(1);
+    EXPECT_EQ(fail(), 2U);
+}
+
 TEST(SavedState, quitting_while_it_comes_back_loses_nothing_of_it) {
     const QVariantList all = addresses({"a.avi", "b.avi", "c.avi", "d.avi", "e.avi", "f.avi", "g.avi"});
     const QVariantMap state{{"QVSavedPlaylist", all}, {"QVSavedIndex", 4}, {"QVSavedTime", 600}};
