@@ -4,6 +4,7 @@
 #include "control/QVMovieController.h"
 #include "control/SpeedSteps.h"
 #include "control/VolumeSteps.h"
+#include "platform/desktop/Power.h"
 #include "platform/window/Events.h"
 #include "playback/MovieSizing.h"
 #include "playlist/Arrangement.h"
@@ -24,6 +25,7 @@ struct CommandTable {
 
     // Operations of several commands.
     static constexpr Operation openURL{"doOpenURL", &Self::doOpenURL};
+    static constexpr Operation power{"power", &Self::power};
     static constexpr Operation changeSize{"changeSize", &Self::changeSize, &Self::validateSize, Feedback::no};
     static constexpr Operation toggleController{"toggleController", &Self::toggleController, nullptr, Feedback::no};
     static constexpr Operation cycleDisplays{"cycleDisplays", &Self::cycleDisplays};
@@ -105,6 +107,25 @@ struct CommandTable {
          .confirmation = "Sleep",
          .section = Section::file,
          .title = "Sleep"},
+        // For whoever gives them keys. The argument is the platform::PowerCommand.
+        {.name = "restart",
+         .operation = power,
+         .argument = static_cast<std::int32_t>(platform::PowerCommand::restart),
+         .confirmation = "Restart the Computer",
+         .section = Section::file,
+         .title = "Restart the Computer"},
+        {.name = "shut-down",
+         .operation = power,
+         .argument = static_cast<std::int32_t>(platform::PowerCommand::shutDown),
+         .confirmation = "Shut Down the Computer",
+         .section = Section::file,
+         .title = "Shut Down the Computer"},
+        {.name = "log-out",
+         .operation = power,
+         .argument = static_cast<std::int32_t>(platform::PowerCommand::logOut),
+         .confirmation = "Log Out",
+         .section = Section::file,
+         .title = "Log Out"},
 
         {.name = "half-size",
          .operation = changeSize,

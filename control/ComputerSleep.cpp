@@ -29,6 +29,10 @@ void ComputerSleep::computerDidWake() {
 }
 
 void ComputerSleep::powerCommandFailed(platform::PowerCommand command, const QString& reason) {
-    if (command == platform::PowerCommand::sleep)
-        _with.feedback.postFeedback(platform::localizedFormat(QStringLiteral("Sleep failed: %@"), {reason}));
+    using enum platform::PowerCommand;
+    const char* const text = command == restart    ? "Restart failed: %@"
+                             : command == shutDown ? "Shutting down failed: %@"
+                             : command == logOut   ? "Logging out failed: %@"
+                                                   : "Sleep failed: %@";
+    _with.feedback.postFeedback(platform::localizedFormat(QString::fromLatin1(text), {reason}));
 }

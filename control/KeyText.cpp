@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/KeyText.h"
 
+#include "platform/base/Localization.h"
 #include "platform/window/Events.h"
 
 #include <algorithm>
@@ -67,23 +68,35 @@ constexpr ModifierName modifierNames[] = {
     {platform::modifier::shift, u"Shift+", u"Shift+"},
 };
 
-QString keyText(KeyChord key, QStringView KeyName::*form, QStringView ModifierName::*modifierForm) {
+/// As the user's keyboard has it; the name itself where no translation says otherwise.
+QString shown(QStringView name) {
+    const QString key = QStringLiteral("KeyName ") + name.toString();
+    const QString text = platform::localizedString(key);
+    return text == key ? name.toString() : text;
+}
+
+QString asItIs(QStringView name) {
+    return name.toString();
+}
+
+QString keyText(KeyChord key, QStringView KeyName::*form, QStringView ModifierName::*modifierForm,
+                QString (*written)(QStringView)) {
     QString text;
     for (const ModifierName& modifier : modifierNames)
         if (key.modifiers & modifier.mask)
-            text += modifier.*modifierForm;
+            text += written(modifier.*modifierForm);
     const auto* name = std::ranges::find(keyNames, key.character, &KeyName::character);
-    return text + (name != std::end(keyNames) ? (name->*form).toString() : QString(QChar(key.character).toUpper()));
+    return text + (name != std::end(keyNames) ? written(name->*form) : QString(QChar(key.character).toUpper()));
 }
 
 } // namespace
 
 QString portableKeyText(KeyChord key) {
-    return keyText(key, &KeyName::portable, &ModifierName::portable);
+    return keyText(key, &KeyName::portable, &ModifierName::portable, asItIs);
 }
 
 QString readableKeyText(KeyChord key) {
-    return keyText(key, &KeyName::readable, &ModifierName::readable);
+    return keyText(key, &KeyName::readable, &ModifierName::readable, shown);
 }
 
 std::optional<KeyChord> keyOfPortableText(const QString& text) {

@@ -142,6 +142,7 @@ private:
     void donate(std::int32_t, Feedback feedback);
     void quit(std::int32_t, Feedback feedback);
     void sleep(std::int32_t, Feedback feedback);
+    void power(std::int32_t command, Feedback feedback);
 
     // What their menu items say, and whether they are enabled.
     bool validateSize(platform::MenuItem& item) const;

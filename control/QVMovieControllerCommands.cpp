@@ -275,3 +275,24 @@ void QVMovieController::quit(std::int32_t, Feedback feedback) {
 void QVMovieController::sleep(std::int32_t, Feedback) {
     performLater(_with.feedback.readingTime(), [this] { _with.desktop.power().sleep(); });
 }
+
+/// After its name could be read, as with sleep.
+void QVMovieController::power(std::int32_t command, Feedback) {
+    performLater(_with.feedback.readingTime(), [this, command] {
+        platform::Power& computer = _with.desktop.power();
+        switch (static_cast<platform::PowerCommand>(command)) {
+        case platform::PowerCommand::sleep:
+            computer.sleep();
+            break;
+        case platform::PowerCommand::restart:
+            computer.restart();
+            break;
+        case platform::PowerCommand::shutDown:
+            computer.shutDown();
+            break;
+        case platform::PowerCommand::logOut:
+            computer.logOut();
+            break;
+        }
+    });
+}

@@ -50,8 +50,23 @@ protected:
         send(code, 0);
     }
 
+    /// Plays the services of the session and of the system.
+    void offer(const QStringList& names) {
+        ASSERT_TRUE(connection.registerVirtualObject("/", &services, QDBusConnection::SubPath));
+        for (const QString& name : names)
+            ASSERT_TRUE(connection.registerService(name));
+    }
+    bool served(const std::function<bool()>& done) {
+        return waitUntil([&] {
+            QCoreApplication::processEvents();
+            return done();
+        });
+    }
+
     const std::filesystem::path pipe = user.folder() / "input/remote";
     PrivateBus bus;
+    FakeServices services;
+    QDBusConnection connection = PrivateBus::connection();
 
 private:
     int _pipe = -1;
@@ -124,17 +139,41 @@ TEST_F(Remote, that_is_unplugged_while_it_is_held_stops) {
     ASSERT_TRUE(quitsCleanly());
 }
 
-TEST_F(Remote, play_held_puts_the_computer_to_sleep_and_the_movie_rests_meanwhile) {
-    FakeServices services;
-    QDBusConnection connection = PrivateBus::connection();
-    ASSERT_TRUE(connection.registerVirtualObject("/", &services, QDBusConnection::SubPath));
-    ASSERT_TRUE(connection.registerService("org.freedesktop.login1"));
-    const auto served = [&](const std::function<bool()>& done) {
-        return waitUntil([&] {
-            QCoreApplication::processEvents();
-            return done();
-        });
+TEST_F(Remote, is_left_to_others_until_the_user_wants_it) {
+    const auto isOpened = [this] {
+        for (const auto& entry :
+             std::filesystem::directory_iterator("/proc/" + std::to_string(player->pid()) + "/fd")) {
+            std::error_code gone;
+            if (std::filesystem::read_symlink(entry, gone) == pipe)
+                return true;
+        }
+        return false;
     };
+    std::filesystem::create_directories(user.settingsFile().parent_path());
+    std::ofstream(user.settingsFile()) << "<plist version=\"1.0\"><dict><key>QVUseRemote</key><false/></dict></plist>";
+    startRemote({"--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    tap(KEY_PLAYPAUSE);
+    EXPECT_TRUE(staysTrue([&] { return !isOpened() && frame() == 0; }, Seconds(1)));
+    // By its check box in the preferences.
+    const WindowId movie = probe.windowAt(screenWidth / 2, screenHeight / 2);
+    probe.tap(XK_comma, {XK_Control_L});
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != movie; }));
+    std::this_thread::sleep_for(Seconds(0.5)); // it gets the keyboard a moment later
+    probe.tap(XK_a, {XK_Alt_L});
+    probe.tap(XK_f, {XK_Alt_L});
+    ASSERT_TRUE(waitUntil(isOpened));
+    tap(KEY_RIGHT);
+    ASSERT_TRUE(saysButton("Right (down)"));
+    probe.tap(XK_f, {XK_Alt_L});
+    ASSERT_TRUE(waitUntil([&] { return !isOpened(); })) << "and again to others";
+    probe.tap(XK_Escape);
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) == movie; }));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Remote, play_held_puts_the_computer_to_sleep_and_the_movie_rests_meanwhile) {
+    offer({"org.freedesktop.login1"});
     startRemote({numbered("red.mp4", red, 900)});
     ASSERT_TRUE(frameBecomes([](int seen) { return seen > 5; }, "playing"));
     ASSERT_TRUE(served([&] { return services.calls.filter("Inhibit(sleep|").size() == 1; }));
@@ -145,6 +184,7 @@ TEST_F(Remote, play_held_puts_the_computer_to_sleep_and_the_movie_rests_meanwhil
     send(KEY_PLAYPAUSE, 0);
     ASSERT_TRUE(served([&] { return services.calls.filter("Manager.Suspend(true)").size() == 1; }));
     ASSERT_TRUE(says("ERROR: SystemPower: Can't sleep: not now"));
+    ASSERT_TRUE(says("QVFeedbackOverlay: Set Text: Sleep failed: not now"));
     // Somebody else sends it to sleep.
     QDBusMessage signal =
         QDBusMessage::createSignal("/org/freedesktop/login1", "org.freedesktop.login1.Manager", "PrepareForSleep");
@@ -157,5 +197,43 @@ TEST_F(Remote, play_held_puts_the_computer_to_sleep_and_the_movie_rests_meanwhil
     connection.send(signal);
     ASSERT_TRUE(served([&] { return services.calls.filter("Inhibit(sleep|").size() == 2; }));
     EXPECT_TRUE(staysTrue([&] { return frame() == stood; }, Seconds(0.5))) << "it plays on when the user wants";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Remote, the_computer_is_restarted_and_shut_down_and_the_user_logged_out_by_keys_that_were_chosen) {
+    offer({"org.freedesktop.login1", "org.gnome.SessionManager"});
+    std::filesystem::create_directories(user.settingsFile().parent_path());
+    std::ofstream(user.settingsFile()) << "<plist version=\"1.0\"><dict><key>QVCommandKeys</key><dict>"
+                                          "<key>restart</key><array><string>F5</string></array>"
+                                          "<key>shut-down</key><array><string>F6</string></array>"
+                                          "<key>log-out</key><array><string>F7</string></array>"
+                                          "</dict></dict></plist>";
+    startRemote({"--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes(0));
+    const struct {
+        KeySym key;
+        const char* call;
+        const char* said;
+        const char* failed;
+    } commands[] = {{XK_F5, "login1.Manager.Reboot(true)", "Restart the Computer", "Restart failed: not now"},
+                    {XK_F6, "login1.Manager.PowerOff(true)", "Shut Down the Computer", "Shutting down failed: not now"},
+                    {XK_F7, "SessionManager.Logout(1)", "Log Out", "Logging out failed: not now"}};
+    for (const bool isRefused : {false, true}) {
+        if (isRefused)
+            services.refusals = {{"Reboot", QDBusError::AccessDenied},
+                                 {"PowerOff", QDBusError::AccessDenied},
+                                 {"Logout", QDBusError::AccessDenied}};
+        for (const auto& command : commands) {
+            SCOPED_TRACE(command.call);
+            services.calls.clear();
+            probe.tap(command.key);
+            ASSERT_TRUE(says(std::string("QVFeedbackOverlay: Set Text: ") + command.said));
+            ASSERT_TRUE(served([&] { return services.calls.filter(command.call).size() == 1; }))
+                << services.calls.join('\n').toStdString();
+            if (isRefused) {
+                ASSERT_TRUE(says(std::string("QVFeedbackOverlay: Set Text: ") + command.failed));
+            }
+        }
+    }
     ASSERT_TRUE(quitsCleanly());
 }
