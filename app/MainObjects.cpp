@@ -53,6 +53,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _memory(environment, {platform.movies, platform.recentlyUsed, _view, _feedback, _currentCommands,
                             [this] { return _subtitles.current(); },
                             [this](const QString& path, std::uint32_t index) { _heldSubtitles.hold(path, index); }})
+    , _storageTroubles(environment, platform.desktop, _feedback, platform.movies)
     , _recent(_memory, [this](const QString& address) { _application.openFile(address); })
     , _playlist(environment, {{platform.toolkit, platform.desktop, _subtitleReaders, _subtitleDiscovery},
                               _view,
@@ -74,9 +75,10 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _menu(environment, _currentCommands)
     , _activation(environment, _window, _view, _pointer)
     , _application(environment,
-                   {platform.desktop, platform.toolkit, platform.bundle, steps,    _window, _view,    _backdrop,
-                    _playlist,        _subtitles,       _commands,       _display, _menu,   _pointer, _files,
-                    _openPanels,      _saving,          _activation,     _state,   _memory, _recent,  _currentCommands})
+                   {platform.desktop, platform.toolkit, platform.bundle, steps,           _window,     _view,
+                    _backdrop,        _playlist,        _subtitles,      _commands,       _display,    _menu,
+                    _pointer,         _files,           _openPanels,     _saving,         _activation, _state,
+                    _memory,          _storageTroubles, _recent,         _currentCommands})
     , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
                                 _application, _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills})
     , _remote(platform.desktop.remotes())

@@ -16,6 +16,7 @@
 #include "app/RecentMovies.h"
 #include "app/RememberedMovies.h"
 #include "app/SavedState.h"
+#include "app/StorageTroubles.h"
 #include "app/SubtitlesOverMovie.h"
 #include "context/Environment.h"
 #include "control/AppleRemote.h"
@@ -87,6 +88,7 @@ private:
     BackdropView _backdrop;
     QVMovieView _view;
     RememberedMovies _memory;
+    StorageTroubles _storageTroubles;
     RecentMovies _recent;
     QVPlaylistController _playlist;
     PlaylistSaving _saving;

@@ -12,6 +12,7 @@
 #include "app/RecentMovies.h"
 #include "app/RememberedMovies.h"
 #include "app/SavedState.h"
+#include "app/StorageTroubles.h"
 #include "app/SystemVersion.h"
 #include "context/CommandTarget.h"
 #include "control/CurrentCommands.h"
@@ -116,14 +117,21 @@ void QVAppController::finishLaunching() {
     const TraceScope scope("-[QVAppController finishLaunching]");
     using Step = void (QVAppController::*)();
     for (const Step step :
-         {&QVAppController::runFirstTimeConfig, &QVAppController::askDonation, &QVAppController::checkVersionAtLaunch,
-          &QVAppController::offerHint, &QVAppController::runLaunchAction, &QVAppController::openFilesOfLaunch,
-          &QVAppController::restoreDisplay}) {
+         {&QVAppController::sayStorageTroubles, &QVAppController::runFirstTimeConfig, &QVAppController::askDonation,
+          &QVAppController::checkVersionAtLaunch, &QVAppController::offerHint, &QVAppController::runLaunchAction,
+          &QVAppController::openFilesOfLaunch, &QVAppController::restoreDisplay}) {
         // The step before may have waited in a panel while the program was told to end.
         if (_is_terminating)
             return;
         (this->*step)();
     }
+}
+
+/// Before the questions, which come again where the settings say no more that they were answered.
+void QVAppController::sayStorageTroubles() {
+    const bool restores = _environment.settings.integerForKey(kQVOnLaunchDefaultAction) == launchAction::restoreState;
+    _with.storageTroubles.sayAtLaunch(restores || !_with.files.isEmpty() ? StorageTroubles::Launch::withMovies
+                                                                         : StorageTroubles::Launch::empty);
 }
 
 void QVAppController::runFirstTimeConfig() {

@@ -36,6 +36,7 @@ class QVSubtitlesController;
 class RecentMovies;
 class RememberedMovies;
 class SavedState;
+class StorageTroubles;
 
 /// The application's delegate: launch, changes of the screens, termination. What is handed over, activation and
 /// the hiding of the pointer have objects of their own, to which it passes on what it is told. Main thread.
@@ -62,6 +63,7 @@ public:
         Activation& activation;
         SavedState& state;
         RememberedMovies& memory;
+        StorageTroubles& storageTroubles;
         RecentMovies& recent;
         const CurrentCommands& commands;
     };
@@ -124,6 +126,7 @@ private:
     void keepForNextLaunch();
     void cleanup();
     // The steps of finishLaunching, in their order.
+    void sayStorageTroubles();
     void runFirstTimeConfig();
     void askDonation();
     void checkVersionAtLaunch();

@@ -107,6 +107,10 @@ public:
         _known = read().value_or(QVariantMap());
         _isReadAhead = true;
     }
+    std::optional<StorageTrouble> trouble() {
+        const std::scoped_lock lock(_mutex);
+        return _trouble;
+    }
     /// A number for each wish to store, in their order: of two, the later one is what is to stand in the file.
     std::uint64_t nextTurn() { return ++_turns; }
     bool store(const QVariantMap& domain, std::uint64_t turn);
@@ -114,6 +118,11 @@ public:
 private:
     std::optional<QVariantMap> read();
     QVariantMap merged(const QVariantMap& domain, QVariantMap stored) const;
+    /// What happens to the file later on is said where it can't be written.
+    void remember(StorageTrouble trouble) {
+        if (!_isLoaded && !_isReadAhead)
+            _trouble = std::move(trouble);
+    }
 
     const QString _path;
     const SettingsFormat _format;
@@ -123,7 +132,8 @@ private:
     /// What this process loaded or stored last.
     QVariantMap _known;
     bool _writable = true;
-    bool _isReadAhead = false; // and not loaded since
+    std::optional<StorageTrouble> _trouble; // of the first reading
+    bool _isReadAhead = false;              // and not loaded since
     bool _isLoaded = false;
 };
 
@@ -142,6 +152,7 @@ std::optional<QVariantMap> SettingsFile::Contents::read() {
     if (!bytes) {
         // There may be good settings in it.
         _writable = false;
+        remember({StorageTrouble::Kind::unreadable, _path, {}});
         if (!isKnown)
             logError(QStringLiteral("Can't read the %1 in").arg(_format.contents), _path,
                      QString::fromLocal8Bit(std::strerror(error)) +
@@ -154,6 +165,7 @@ std::optional<QVariantMap> SettingsFile::Contents::read() {
         if (_format.version == 0 || propertyValue::toInteger(stored.value(versionKey)) <= _format.version)
             return stored;
         _writable = false;
+        remember({StorageTrouble::Kind::later, _path, {}});
         if (!isKnown)
             logError(QStringLiteral("A later version of Lumaro wrote the %1 in").arg(_format.contents), _path,
                      QStringLiteral("The %1 of this run will not be kept").arg(_format.contents));
@@ -162,6 +174,7 @@ std::optional<QVariantMap> SettingsFile::Contents::read() {
 
     const QString aside = putAside(_path);
     _writable = !aside.isEmpty();
+    remember({_writable ? StorageTrouble::Kind::damaged : StorageTrouble::Kind::unreadable, _path, aside});
     if (_writable)
         logError(QStringLiteral("Damaged %1 in").arg(_format.contents), _path,
                  QStringLiteral("They are kept as ") + aside);
@@ -243,6 +256,10 @@ void SettingsFile::readAhead() {
 
 QVariantMap SettingsFile::load() {
     return _contents->load();
+}
+
+std::optional<StorageTrouble> SettingsFile::trouble() const {
+    return _contents->trouble();
 }
 
 bool SettingsFile::store(const QVariantMap& domain) {

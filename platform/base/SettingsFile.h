@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace platform {
@@ -41,6 +42,7 @@ public:
     void readAhead();
 
     QVariantMap load() override;
+    std::optional<StorageTrouble> trouble() const override;
     /// Where the file is gone, or damaged by now, the whole domain is stored.
     bool store(const QVariantMap& domain) override;
 

@@ -8,11 +8,25 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace platform {
+
+/// Why what was stored is not what load() answered, nor will be what is stored now.
+struct StorageTrouble {
+    enum class Kind : std::uint8_t {
+        damaged,    // and put aside: `aside` is its name now
+        unreadable, // and left alone, like the next
+        later,      // by a later version
+    };
+    Kind kind = Kind::unreadable;
+    QString path;
+    QString aside;
+};
 
 /// Where the user's settings lie between runs. Main thread.
 class SettingsStorage {
@@ -24,6 +38,8 @@ public:
 
     /// What was stored last; an empty map when nothing was.
     virtual QVariantMap load() = 0;
+    /// What load() met with; it was logged then.
+    virtual std::optional<StorageTrouble> trouble() const { return std::nullopt; }
     /// Stores what of the domain has changed since it was loaded or stored last; after it returned true, load() gives
     /// that also after a crash, and what others stored meanwhile under other keys. False when it could not be stored
     /// (what was stored before is then untouched, and a message was logged).
@@ -96,6 +112,9 @@ public:
     bool hasStoredValue(const QString& key) const;
     /// The user's domain: what was stored when this process began, with its own changes.
     const QVariantMap& persistentDomain() const { return _domain; }
+
+    /// What was met with when the user's domain was read.
+    std::optional<StorageTrouble> trouble() const { return _storage->trouble(); }
 
     /// Writes the user's domain out if it changed since. Without it a change is written by itself about a second
     /// after it was made, without holding up the main thread. False when it could not be written; the next change or

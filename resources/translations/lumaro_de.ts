@@ -105,23 +105,23 @@
     </message>
     <message id="OpenErrorNotAList">
         <source>The file is not a playlist.</source>
-        <translation>Die Datei ist keine Wiedergabeliste.</translation>
+        <translation>Die Datei ist keine Playlist.</translation>
     </message>
     <message id="OpenErrorListEmpty">
         <source>The playlist names no movies.</source>
-        <translation>Die Wiedergabeliste nennt keine Filme.</translation>
+        <translation>Die Playlist nennt keine Filme.</translation>
     </message>
     <message id="OpenErrorListTooLarge">
         <source>The playlist is larger than 32 MB.</source>
-        <translation>Die Wiedergabeliste ist größer als 32 MB.</translation>
+        <translation>Die Playlist ist größer als 32 MB.</translation>
     </message>
     <message id="OpenErrorListTooLong">
         <source>The playlist is too long. Only its first 100,000 entries were opened.</source>
-        <translation>Die Wiedergabeliste ist zu lang. Nur die ersten 100.000 Einträge wurden geöffnet.</translation>
+        <translation>Die Playlist ist zu lang. Nur die ersten 100.000 Einträge wurden geöffnet.</translation>
     </message>
     <message id="OpenErrorListTooDeep">
         <source>Too many playlists name each other. This one was left out.</source>
-        <translation>Zu viele Wiedergabelisten verweisen aufeinander. Diese wurde ausgelassen.</translation>
+        <translation>Zu viele Playlists verweisen aufeinander. Diese wurde ausgelassen.</translation>
     </message>
     <message id="OpenErrorListDrives">
         <source>Entries on drives of Windows were left out (%@): %@.</source>
@@ -129,7 +129,7 @@
     </message>
     <message id="OpenErrorListLocal">
         <source>The playlist comes from a network. Entries that name files of this computer were left out (%@): %@.</source>
-        <translation>Die Wiedergabeliste kommt aus einem Netz. Einträge, die Dateien dieses Computers nennen, wurden ausgelassen (%@): %@.</translation>
+        <translation>Die Playlist kommt aus einem Netz. Einträge, die Dateien dieses Computers nennen, wurden ausgelassen (%@): %@.</translation>
     </message>
     <message id="OpenErrorListNothing">
         <source>Entries that name neither a file nor an address were left out (%@): %@.</source>
@@ -382,6 +382,102 @@
         <source>Sleep</source>
         <translation>Ruhezustand</translation>
     </message>
+    <message id="Restart the Computer">
+        <source>Restart the Computer</source>
+        <translation>Computer neu starten</translation>
+    </message>
+    <message id="Shut Down the Computer">
+        <source>Shut Down the Computer</source>
+        <translation>Computer ausschalten</translation>
+    </message>
+    <message id="Log Out">
+        <source>Log Out</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message id="Restart failed: %@">
+        <source>Restart failed: %@</source>
+        <translation>Der Neustart ist fehlgeschlagen: %@</translation>
+    </message>
+    <message id="Shutting down failed: %@">
+        <source>Shutting down failed: %@</source>
+        <translation>Das Ausschalten ist fehlgeschlagen: %@</translation>
+    </message>
+    <message id="Logging out failed: %@">
+        <source>Logging out failed: %@</source>
+        <translation>Das Abmelden ist fehlgeschlagen: %@</translation>
+    </message>
+    <message id="KeyName Space">
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message id="KeyName Page Up">
+        <source>Page Up</source>
+        <translation>Bild auf</translation>
+    </message>
+    <message id="KeyName Page Down">
+        <source>Page Down</source>
+        <translation>Bild ab</translation>
+    </message>
+    <message id="KeyName Home">
+        <source>Home</source>
+        <translation>Pos1</translation>
+    </message>
+    <message id="KeyName End">
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message id="KeyName Insert">
+        <source>Insert</source>
+        <translation>Einfg</translation>
+    </message>
+    <message id="KeyName Delete">
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message id="KeyName Backspace">
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message id="KeyName Return">
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message id="KeyName Ctrl+">
+        <source>Ctrl+</source>
+        <translation>Strg+</translation>
+    </message>
+    <message id="KeyName Shift+">
+        <source>Shift+</source>
+        <translation>Umschalt+</translation>
+    </message>
+    <message id="KeyName Media Play">
+        <source>Media Play</source>
+        <translation>Medien Wiedergabe</translation>
+    </message>
+    <message id="KeyName Media Stop">
+        <source>Media Stop</source>
+        <translation>Medien Stopp</translation>
+    </message>
+    <message id="KeyName Media Next">
+        <source>Media Next</source>
+        <translation>Medien Weiter</translation>
+    </message>
+    <message id="KeyName Media Previous">
+        <source>Media Previous</source>
+        <translation>Medien Zurück</translation>
+    </message>
+    <message id="KeyName Media Volume Up">
+        <source>Media Volume Up</source>
+        <translation>Medien Lauter</translation>
+    </message>
+    <message id="KeyName Media Volume Down">
+        <source>Media Volume Down</source>
+        <translation>Medien Leiser</translation>
+    </message>
+    <message id="KeyName Media Mute">
+        <source>Media Mute</source>
+        <translation>Medien Stumm</translation>
+    </message>
     <message id="Sleep failed: %@">
         <source>Sleep failed: %@</source>
         <translation>Der Ruhezustand ist fehlgeschlagen: %@</translation>
@@ -612,11 +708,11 @@
     </message>
     <message id="Save Playlist...">
         <source>Save Playlist...</source>
-        <translation>Wiedergabeliste sichern …</translation>
+        <translation>Playlist sichern …</translation>
     </message>
     <message id="Save Playlist">
         <source>Save Playlist</source>
-        <translation>Wiedergabeliste sichern</translation>
+        <translation>Playlist sichern</translation>
     </message>
     <message id="Save">
         <source>Save</source>
@@ -624,11 +720,11 @@
     </message>
     <message id="Playlist File">
         <source>Playlist</source>
-        <translation>Wiedergabeliste</translation>
+        <translation>Playlist</translation>
     </message>
     <message id="Save the playlist to a file">
         <source>Save the playlist to a file</source>
-        <translation>Die Wiedergabeliste in eine Datei sichern</translation>
+        <translation>Die Playlist in eine Datei sichern</translation>
     </message>
     <message id="SaveErrorMessage">
         <source>“%@” can’t be saved.</source>
@@ -816,7 +912,7 @@
     </message>
     <message id="Playlist Panel">
         <source>Playlist</source>
-        <translation>Wiedergabeliste</translation>
+        <translation>Playlist</translation>
     </message>
     <message id="Filter">
         <source>Filter</source>
@@ -2073,6 +2169,34 @@
     <message id="SettingsNotSavedDetails">
         <source>What you change acts until Lumaro quits. The file “%@” can’t be written.</source>
         <translation>Was Sie ändern, gilt, bis Lumaro beendet wird. Die Datei „%@“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message id="SettingsDamagedMessage">
+        <source>The preferences are damaged.</source>
+        <translation>Die Einstellungen sind beschädigt.</translation>
+    </message>
+    <message id="SettingsDamagedDetails">
+        <source>Lumaro begins with new ones. The damaged file is kept as “%@”.</source>
+        <translation>Lumaro beginnt mit neuen. Die beschädigte Datei bleibt als „%@“ erhalten.</translation>
+    </message>
+    <message id="SettingsUnreadableMessage">
+        <source>The preferences can’t be read.</source>
+        <translation>Die Einstellungen können nicht gelesen werden.</translation>
+    </message>
+    <message id="SettingsUnreadableDetails">
+        <source>The file “%@” stays as it is. What you change acts until Lumaro quits.</source>
+        <translation>Die Datei „%@“ bleibt, wie sie ist. Was Sie ändern, gilt, bis Lumaro beendet wird.</translation>
+    </message>
+    <message id="PlacesDamagedMessage">
+        <source>The remembered places in movies are damaged; their file was put aside.</source>
+        <translation>Die gemerkten Positionen in Filmen sind beschädigt; ihre Datei wurde beiseitegelegt.</translation>
+    </message>
+    <message id="PlacesUnreadableMessage">
+        <source>The remembered places in movies can’t be read.</source>
+        <translation>Die gemerkten Positionen in Filmen können nicht gelesen werden.</translation>
+    </message>
+    <message id="PlacesOfLaterVersionMessage">
+        <source>A later version of Lumaro remembers places in movies here; this one can’t.</source>
+        <translation>Eine neuere Version von Lumaro merkt sich hier Positionen in Filmen; diese kann es nicht.</translation>
     </message>
     <message id="Short&amp;cuts">
         <source>Short&amp;cuts</source>

@@ -382,6 +382,102 @@
         <source>Sleep</source>
         <translation>Sleep</translation>
     </message>
+    <message id="Restart the Computer">
+        <source>Restart the Computer</source>
+        <translation>Restart the Computer</translation>
+    </message>
+    <message id="Shut Down the Computer">
+        <source>Shut Down the Computer</source>
+        <translation>Shut Down the Computer</translation>
+    </message>
+    <message id="Log Out">
+        <source>Log Out</source>
+        <translation>Log Out</translation>
+    </message>
+    <message id="Restart failed: %@">
+        <source>Restart failed: %@</source>
+        <translation>Restart failed: %@</translation>
+    </message>
+    <message id="Shutting down failed: %@">
+        <source>Shutting down failed: %@</source>
+        <translation>Shutting down failed: %@</translation>
+    </message>
+    <message id="Logging out failed: %@">
+        <source>Logging out failed: %@</source>
+        <translation>Logging out failed: %@</translation>
+    </message>
+    <message id="KeyName Space">
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message id="KeyName Page Up">
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message id="KeyName Page Down">
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message id="KeyName Home">
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message id="KeyName End">
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message id="KeyName Insert">
+        <source>Insert</source>
+        <translation>Insert</translation>
+    </message>
+    <message id="KeyName Delete">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="KeyName Backspace">
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message id="KeyName Return">
+        <source>Return</source>
+        <translation>Return</translation>
+    </message>
+    <message id="KeyName Ctrl+">
+        <source>Ctrl+</source>
+        <translation>Ctrl+</translation>
+    </message>
+    <message id="KeyName Shift+">
+        <source>Shift+</source>
+        <translation>Shift+</translation>
+    </message>
+    <message id="KeyName Media Play">
+        <source>Media Play</source>
+        <translation>Media Play</translation>
+    </message>
+    <message id="KeyName Media Stop">
+        <source>Media Stop</source>
+        <translation>Media Stop</translation>
+    </message>
+    <message id="KeyName Media Next">
+        <source>Media Next</source>
+        <translation>Media Next</translation>
+    </message>
+    <message id="KeyName Media Previous">
+        <source>Media Previous</source>
+        <translation>Media Previous</translation>
+    </message>
+    <message id="KeyName Media Volume Up">
+        <source>Media Volume Up</source>
+        <translation>Media Volume Up</translation>
+    </message>
+    <message id="KeyName Media Volume Down">
+        <source>Media Volume Down</source>
+        <translation>Media Volume Down</translation>
+    </message>
+    <message id="KeyName Media Mute">
+        <source>Media Mute</source>
+        <translation>Media Mute</translation>
+    </message>
     <message id="Sleep failed: %@">
         <source>Sleep failed: %@</source>
         <translation>Sleep failed: %@</translation>
@@ -2073,6 +2169,34 @@
     <message id="SettingsNotSavedDetails">
         <source>What you change acts until Lumaro quits. The file “%@” can’t be written.</source>
         <translation>What you change acts until Lumaro quits. The file “%@” can’t be written.</translation>
+    </message>
+    <message id="SettingsDamagedMessage">
+        <source>The preferences are damaged.</source>
+        <translation>The preferences are damaged.</translation>
+    </message>
+    <message id="SettingsDamagedDetails">
+        <source>Lumaro begins with new ones. The damaged file is kept as “%@”.</source>
+        <translation>Lumaro begins with new ones. The damaged file is kept as “%@”.</translation>
+    </message>
+    <message id="SettingsUnreadableMessage">
+        <source>The preferences can’t be read.</source>
+        <translation>The preferences can’t be read.</translation>
+    </message>
+    <message id="SettingsUnreadableDetails">
+        <source>The file “%@” stays as it is. What you change acts until Lumaro quits.</source>
+        <translation>The file “%@” stays as it is. What you change acts until Lumaro quits.</translation>
+    </message>
+    <message id="PlacesDamagedMessage">
+        <source>The remembered places in movies are damaged; their file was put aside.</source>
+        <translation>The remembered places in movies are damaged; their file was put aside.</translation>
+    </message>
+    <message id="PlacesUnreadableMessage">
+        <source>The remembered places in movies can’t be read.</source>
+        <translation>The remembered places in movies can’t be read.</translation>
+    </message>
+    <message id="PlacesOfLaterVersionMessage">
+        <source>A later version of Lumaro remembers places in movies here; this one can’t.</source>
+        <translation>A later version of Lumaro remembers places in movies here; this one can’t.</translation>
     </message>
     <message id="Short&amp;cuts">
         <source>Short&amp;cuts</source>

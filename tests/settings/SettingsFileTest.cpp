@@ -60,6 +60,9 @@ TEST_F(SettingsFileTest, a_damaged_file_is_put_aside_and_reported) {
         SettingsFile file(path);
         EXPECT_TRUE(file.load().isEmpty()) << damage;
         EXPECT_EQ(log.count("ERROR: "), 1) << damage;
+        ASSERT_TRUE(file.trouble()) << damage;
+        EXPECT_EQ(file.trouble()->kind, platform::StorageTrouble::Kind::damaged);
+        EXPECT_EQ(contents(file.trouble()->aside), damage);
         EXPECT_TRUE(file.store(settings)) << damage;
     }
     // None of them took another one's name, though they came within a second.
@@ -90,6 +93,7 @@ TEST_F(SettingsFileTest, what_could_not_be_read_is_never_replaced) {
         const QFileInfo before(path);
         SettingsFile file(path);
         EXPECT_TRUE(file.load().isEmpty()) << what;
+        EXPECT_TRUE(file.trouble() && file.trouble()->kind == platform::StorageTrouble::Kind::unreadable) << what;
         EXPECT_EQ(log.count("ERROR: "), 1) << what;
         EXPECT_FALSE(file.store(settings)) << what;
         const QFileInfo after(path);
@@ -252,7 +256,9 @@ TEST_F(SettingsFileTest, one_of_a_later_version_is_left_alone) {
     ASSERT_TRUE(SettingsFile(path, {"places", 3}).store({{"a", 3}}));
     const QByteArray later = contents(path);
     SettingsFile file(path, format);
+    EXPECT_FALSE(earlier.trouble());
     EXPECT_TRUE(file.load().isEmpty());
+    EXPECT_TRUE(file.trouble() && file.trouble()->kind == platform::StorageTrouble::Kind::later);
     EXPECT_FALSE(file.store({{"a", 4}}));
     EXPECT_FALSE(file.store({{"a", 5}}));
     EXPECT_EQ(contents(path), later);

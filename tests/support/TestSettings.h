@@ -12,12 +12,14 @@ public:
         QVariantMap domain;
         int stores = 0;       // successful ones
         bool refuses = false; // a full or read-only disk
+        std::optional<platform::StorageTrouble> trouble = {};
     };
 
     explicit MemorySettings(std::shared_ptr<Disk> disk = std::make_shared<Disk>())
         : _disk(std::move(disk)) {}
 
     QVariantMap load() override { return _disk->domain; }
+    std::optional<platform::StorageTrouble> trouble() const override { return _disk->trouble; }
     bool store(const QVariantMap& domain) override {
         if (_disk->refuses)
             return false;
