@@ -144,6 +144,26 @@ TEST_F(OpeningByPortal, where_the_portal_cannot_ask_the_players_own_panel_does) 
     EXPECT_EQ(player->waitForExit(), 0);
 }
 
+TEST_F(OpeningByPortal, the_desktops_own_panel_says_where_the_playlist_is_saved) {
+    const std::filesystem::path list = user.folder() / "my list.m3u8";
+    startPortal({"0", "false", "file://" + user.folder().string() + "/my%20list.m3u8"});
+    start({redMovie(), greenMovie()});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    probe.tap(XK_s, {XK_Control_L});
+    ASSERT_TRUE(portal->waitForErrorLine("SaveFile(x11:"));
+    ASSERT_TRUE(portal->waitForErrorLine("current_name=Playlist.m3u8"));
+    ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(list); }));
+    std::ifstream file(list);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_NE(text.find("\ngreen.mp4\n"), std::string::npos) << text;
+    ASSERT_TRUE(quitsCleanly());
+    // It opens as what it names.
+    start({list.string()});
+    ASSERT_TRUE(colorBecomes(red));
+    EXPECT_TRUE(isFollowedBy(green));
+    ASSERT_TRUE(quitsCleanly());
+}
+
 TEST_F(Opening, an_entered_path_is_opened_and_kept_for_the_next_time) {
     start({redMovie()});
     ASSERT_TRUE(colorBecomes(red));
@@ -245,4 +265,34 @@ TEST_F(Dropping, on_a_panel_falls_not_through_to_the_movie) {
     EXPECT_TRUE(probe.waitForColor(20, 20, red));
     player->signal(SIGTERM);
     EXPECT_EQ(player->waitForExit(), 0);
+}
+
+TEST_F(Dropping, names_that_are_no_utf8_come_with_their_subtitles_by_a_drop_as_by_a_hand_over) {
+    const std::filesystem::path movie = user.folder() / "caf\xE9.mp4", subtitles = user.folder() / "caf\xE9.srt";
+    std::error_code error;
+    std::filesystem::copy_file(greenMovie(), movie, error);
+    if (error)
+        GTEST_SKIP() << "this file system takes UTF-8 alone";
+    std::ofstream(subtitles) << "1\n00:00:00,000 --> 00:00:30,000\nWords\n";
+    start({"--set", "QVPlaylistAutoPlay=0", redMovie()});
+    ASSERT_TRUE(colorBecomes(red));
+    for (const bool isDropped : {false, true}) {
+        const std::size_t before = player->lineCount();
+        if (isDropped) {
+            startSource("copy,move,link", {"file://" + user.folder().string() + "/caf%E9.mp4"});
+            ASSERT_TRUE(hovers(400, 600));
+            probe.releaseButton();
+        } else {
+            EXPECT_EQ(startAnother({movie})->waitForExit(), 0);
+        }
+        EXPECT_TRUE(colorBecomes(green)) << isDropped;
+        EXPECT_TRUE(logs("QVTextSubView: Set Text: Words", before)) << isDropped;
+        source.reset();
+        EXPECT_EQ(startAnother({redMovie()})->waitForExit(), 0);
+        ASSERT_TRUE(colorBecomes(red));
+    }
+    ASSERT_TRUE(quitsCleanly());
+    // The folder's own end does not know how to remove these.
+    std::filesystem::remove(movie);
+    std::filesystem::remove(subtitles);
 }

@@ -107,6 +107,45 @@ TEST_F(Recall, a_movie_that_is_opened_again_goes_on_and_shows_no_other_picture) 
     ASSERT_TRUE(quitsCleanly());
 }
 
+TEST_F(Recall, the_session_manager_is_told_that_all_is_saved_and_ends_the_player) {
+    ChildProcess::Options options;
+    options.arguments = {LUMARO_SESSION_MANAGER};
+    ChildProcess manager(options);
+    ASSERT_TRUE(manager.waitForErrorLine("address ")) << manager.errorOutput();
+    const std::string address = manager.errorLines().front().substr(8);
+    const std::string movie = numbered("long.mp4", blue, 240 * 30);
+    std::vector<std::string> arguments = restoring;
+    arguments.push_back(movie);
+    for (const int request : {SIGUSR1, SIGUSR2}) {
+        const std::size_t before = manager.lineCount();
+        startRecorded(LUMARO_PROGRAM, {{"SESSION_MANAGER", address}}, arguments);
+        ASSERT_TRUE(frameBecomes([](int seen) { return seen > 5; }, "playing"));
+        ASSERT_TRUE(manager.waitForErrorLine("saved well", before)) << "as it begins";
+        for (int jumps = 0; jumps < 3; ++jumps)
+            probe.tap(XK_Right, {XK_Control_L});
+        ASSERT_TRUE(frameBecomes([](int seen) { return seen > 29 * 30; }, "far from its beginning"));
+        const std::optional<int> left = frame();
+        ASSERT_TRUE(left);
+        const std::size_t asked = manager.lineCount();
+        manager.signal(request);
+        ASSERT_TRUE(manager.waitForErrorLine("saved well", asked));
+        if (request == SIGUSR1) {
+            // The session goes on, and so does the movie; what was asked for is on the disk.
+            ASSERT_TRUE(frameBecomes([&](int seen) { return seen > *left + 5; }, "later"));
+            player->signal(SIGKILL);
+            player->waitForExit();
+        } else {
+            EXPECT_EQ(player->waitForExit(), 0);
+            EXPECT_TRUE(manager.waitForErrorLine("closed", asked));
+        }
+        start(restoring);
+        ASSERT_TRUE(frameBecomes([&](int seen) { return seen >= *left && seen < *left + 5 * 30; }, "where it was"));
+        ASSERT_TRUE(quitsCleanly());
+        std::filesystem::remove(user.settingsFile());
+        std::filesystem::remove_all(user.folder() / "state");
+    }
+}
+
 // LUMARO_KILLS=100 for a thorough run.
 TEST_F(Recall, killed_at_any_moment_it_comes_back_near_the_place) {
     const char* asked = std::getenv("LUMARO_KILLS");

@@ -65,7 +65,7 @@ public:
             arguments.append(described(argument));
         calls.append(call.member() + '(' + arguments.join("|") + ')');
         onCall(calls.last());
-        if (call.member() != "OpenFile") {
+        if (call.member() != "OpenFile" && call.member() != "SaveFile") {
             bus.send(call.createReply());
         } else if (manner == Manner::refuses) {
             bus.send(call.createErrorReply(QDBusError::UnknownMethod, "no"));
