@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/mpv/MpvCore.h"
 
+#include "platform/base/Background.h"
 #include "platform/base/Log.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieInput.h"
@@ -107,7 +108,12 @@ MpvCore::~MpvCore() {
     const MpvLibrary& mpv = *MpvLibrary::get();
     mpv.mpv_set_wakeup_callback(_handle, nullptr, nullptr);
     freeRender();
-    mpv.mpv_terminate_destroy(_handle);
+    // A file on a drive that hangs holds the core up for good. It is left behind then: the process ends.
+    constexpr double timeout = 2;
+    background::runFor<bool>(timeout, [handle = _handle] {
+        MpvLibrary::get()->mpv_terminate_destroy(handle);
+        return true;
+    });
 }
 
 void MpvCore::freeRender() {
