@@ -79,14 +79,18 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                     _backdrop,        _playlist,        _subtitles,      _commands,       _display,    _menu,
                     _pointer,         _files,           _openPanels,     _saving,         _activation, _state,
                     _memory,          _storageTroubles, _recent,         _currentCommands})
-    , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
-                                _application, _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills})
+    , _controller(environment,
+                  {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop, _application,
+                   _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills, platform.toolkit})
     , _remote(platform.desktop.remotes())
     , _remoteControl(environment, _remote, _controller)
     , _computerSleep(environment, {platform.desktop.power(), _view, _controller, _feedback}) {
     _menu.recentMenu().setFiller([this](platform::Menu& menu) { _recent.fill(menu); });
     _menu.submenu("speed").setFiller([this](platform::Menu& menu) { _controller.fillSpeedMenu(menu); });
     _menu.submenu("chapters").setFiller([this](platform::Menu& menu) { _controller.fillChaptersMenu(menu); });
+    _menu.submenu("aspect").setFiller([this](platform::Menu& menu) { _controller.fillAspectMenu(menu); });
+    _menu.submenu("deinterlacing").setFiller([this](platform::Menu& menu) { _controller.fillDeinterlacingMenu(menu); });
+    _menu.submenu("colors").setFiller([this](platform::Menu& menu) { _controller.fillColorsMenu(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);

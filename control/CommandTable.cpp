@@ -11,6 +11,25 @@
 
 namespace fnkey = platform::functionKey;
 
+namespace {
+
+/// One that has a key, and no place in a menu of the table's.
+constexpr Command byKey(const Operation& operation, std::string_view name, std::int32_t argument, const CommandKey& key,
+                        Section section, std::string_view help, std::string_view title) {
+    return {.name = name,
+            .operation = operation,
+            .argument = argument,
+            .keys = {{key}},
+            .section = section,
+            .help = help,
+            .title = title};
+}
+
+constexpr std::string_view colorsHelp = "Contrast, brightness, gamma, saturation, hue: less and more";
+constexpr std::string_view speedHelp = "Slower and faster, the pitch kept; half and twice as fast";
+
+} // namespace
+
 /// The controller's friend: its operations are nobody else's to call.
 struct CommandTable {
     using Self = QVMovieController;
@@ -43,6 +62,7 @@ struct CommandTable {
     static constexpr Operation switchScreen{"switchScreen", &Self::switchScreen};
 
     static constexpr Operation changeSpeed{changeSpeedOperation, &Self::changeSpeed, &Self::validateSpeed};
+    static constexpr Operation adjustPicture{adjustPictureOperation, &Self::adjustPicture, &Self::validateAdjusting};
     static constexpr Operation stepChapter{"stepChapter", &Self::stepChapter, &Self::validateChapter};
 
     static constexpr Command rows[] = {
@@ -212,6 +232,54 @@ struct CommandTable {
          .menu = {"Previous Display", Separator::after},
          .help = "On-screen display: time, movie, subtitles, looping, volume"},
 
+        // The arguments are positions among the aspects, and platform::Deinterlacing; the items are made as the menus
+        // open.
+        {.name = "aspect",
+         .operation = {setAspectOperation, &Self::setAspect, &Self::validateAspect},
+         .section = Section::movie,
+         .menu = {.title = "Aspect", .opens = MenuPlace::Opens::menu}},
+        byKey(Operation{"nextAspect", &Self::nextAspect}, "next-aspect", 0, {u'a', control, consumed}, Section::movie,
+              "Aspect: automatic, 4:3, 16:9, 2.35:1", "Next Aspect"),
+        {.name = "deinterlacing",
+         .operation = {setDeinterlacingOperation, &Self::setDeinterlacing, &Self::validateDeinterlacing},
+         .section = Section::movie,
+         .menu = {.title = "Deinterlacing", .opens = MenuPlace::Opens::menu}},
+        byKey(Operation{"nextDeinterlacing", &Self::nextDeinterlacing}, "next-deinterlacing", 0,
+              {u'i', control, consumed}, Section::movie, "Deinterlacing: automatic, on, off", "Next Deinterlacing"),
+        {.name = "colors",
+         .operation = {"adjustMenu", &Self::adjustPicture},
+         .section = Section::movie,
+         .menu = {.title = "Picture Colors", .opens = MenuPlace::Opens::menu}},
+        byKey(adjustPicture, "less-contrast", -1, {fnkey::f1 + 1}, Section::movie, colorsHelp, "Less Contrast"),
+        byKey(adjustPicture, "more-contrast", 1, {fnkey::f1 + 2}, Section::movie, colorsHelp, "More Contrast"),
+        byKey(adjustPicture, "darker", -2, {fnkey::f1 + 3}, Section::movie, colorsHelp, "Darker"),
+        byKey(adjustPicture, "brighter", 2, {fnkey::f1 + 4}, Section::movie, colorsHelp, "Brighter"),
+        byKey(adjustPicture, "less-gamma", -3, {fnkey::f1 + 5}, Section::movie, colorsHelp, "Less Gamma"),
+        byKey(adjustPicture, "more-gamma", 3, {fnkey::f1 + 6}, Section::movie, colorsHelp, "More Gamma"),
+        byKey(adjustPicture, "less-saturation", -4, {fnkey::f1 + 7}, Section::movie, colorsHelp, "Less Saturation"),
+        byKey(adjustPicture, "more-saturation", 4, {fnkey::f1 + 8}, Section::movie, colorsHelp, "More Saturation"),
+        byKey(adjustPicture, "less-hue", -5, {fnkey::f1 + 9}, Section::movie, colorsHelp, "Hue towards Red"),
+        byKey(adjustPicture, "more-hue", 5, {fnkey::f1 + 10}, Section::movie, colorsHelp, "Hue towards Green"),
+        byKey(adjustPicture, "original-colors", 0, {fnkey::backspace, control, consumed}, Section::movie,
+              "The colors as the movie has them", "Original Colors"),
+        {.name = "crop-bars",
+         .operation = {"cropBars", &Self::cropBars, &Self::validateCropping},
+         .keys = {{{u'b', control, consumed}}},
+         .section = Section::movie,
+         .menu = {"Crop Black Bars"},
+         .help = "Cut black bars off"},
+        {.name = "turn",
+         .operation = {"turnPicture", &Self::turnPicture, &Self::validateHasMovie},
+         .keys = {{{u't', none, consumed}}},
+         .section = Section::movie,
+         .menu = {"Turn by 90°"},
+         .help = "Turn and mirror the picture"},
+        {.name = "mirror",
+         .operation = {"mirrorPicture", &Self::mirrorPicture, &Self::validateMirroring},
+         .keys = {{{u't', shift, consumed}}},
+         .section = Section::movie,
+         .menu = {"Mirror", Separator::after},
+         .help = "Turn and mirror the picture"},
         {.name = "save-still",
          .operation = {"saveStill", &Self::saveStill, &Self::validateHasMovie},
          .keys = {{{u's', control | shift, consumed}}},
@@ -316,41 +384,14 @@ struct CommandTable {
          .operation = {setSpeedOperation, &Self::changeSpeed, &Self::validateSpeed},
          .section = Section::playback,
          .menu = {.title = "Speed", .opens = MenuPlace::Opens::menu}},
-        {.name = "slower",
-         .operation = changeSpeed,
-         .argument = speedStep::slower,
-         .keys = {{{u'['}}},
-         .section = Section::playback,
-         .help = "Slower and faster, the pitch kept; half and twice as fast",
-         .title = "Slower"},
-        {.name = "faster",
-         .operation = changeSpeed,
-         .argument = speedStep::faster,
-         .keys = {{{u']'}}},
-         .section = Section::playback,
-         .help = "Slower and faster, the pitch kept; half and twice as fast",
-         .title = "Faster"},
-        {.name = "half-as-fast",
-         .operation = changeSpeed,
-         .argument = speedStep::half,
-         .keys = {{{u'{', none, consumed}}},
-         .section = Section::playback,
-         .help = "Slower and faster, the pitch kept; half and twice as fast",
-         .title = "Half as Fast"},
-        {.name = "twice-as-fast",
-         .operation = changeSpeed,
-         .argument = speedStep::twice,
-         .keys = {{{u'}', none, consumed}}},
-         .section = Section::playback,
-         .help = "Slower and faster, the pitch kept; half and twice as fast",
-         .title = "Twice as Fast"},
-        {.name = "original-speed",
-         .operation = changeSpeed,
-         .argument = 100,
-         .keys = {{{fnkey::backspace, none, consumed}}},
-         .section = Section::playback,
-         .help = "As fast as the movie was made",
-         .title = "Original Speed"},
+        byKey(changeSpeed, "slower", speedStep::slower, {u'['}, Section::playback, speedHelp, "Slower"),
+        byKey(changeSpeed, "faster", speedStep::faster, {u']'}, Section::playback, speedHelp, "Faster"),
+        byKey(changeSpeed, "half-as-fast", speedStep::half, {u'{', none, consumed}, Section::playback, speedHelp,
+              "Half as Fast"),
+        byKey(changeSpeed, "twice-as-fast", speedStep::twice, {u'}', none, consumed}, Section::playback, speedHelp,
+              "Twice as Fast"),
+        byKey(changeSpeed, "original-speed", 100, {fnkey::backspace, none, consumed}, Section::playback,
+              "As fast as the movie was made", "Original Speed"),
         // The argument is a position among the movie's chapters; the items are made when the menu opens.
         {.name = "chapters",
          .operation = {gotoChapterOperation, &Self::gotoChapter, &Self::validateChapter},
@@ -419,20 +460,10 @@ struct CommandTable {
          .argument = looping::all,
          .section = Section::playback,
          .menu = {"Loop All"}},
-        {.name = "next-looping",
-         .operation = toggleLooping,
-         .argument = 1,
-         .keys = {{{u'l', none, consumed}}},
-         .section = Section::playback,
-         .help = "Looping: off, one, all",
-         .title = "Next Looping"},
-        {.name = "previous-looping",
-         .operation = toggleLooping,
-         .argument = -1,
-         .keys = {{{u'l', shift, consumed}}},
-         .section = Section::playback,
-         .help = "Looping: off, one, all",
-         .title = "Previous Looping"},
+        byKey(toggleLooping, "next-looping", 1, {u'l', none, consumed}, Section::playback, "Looping: off, one, all",
+              "Next Looping"),
+        byKey(toggleLooping, "previous-looping", -1, {u'l', shift, consumed}, Section::playback,
+              "Looping: off, one, all", "Previous Looping"),
 
         {.name = "volume-up",
          .action = action::volumeUp,

@@ -143,6 +143,10 @@ inline constexpr const char* clearRecentOperation = "clearRecent";
 inline constexpr const char* setSpeedOperation = "setSpeed";
 inline constexpr const char* changeSpeedOperation = "changeSpeed";
 inline constexpr const char* gotoChapterOperation = "gotoChapter";
+/// Of the items of the menus of aspects, of deinterlacing and of colours; `adjustMenu` opens the last.
+inline constexpr const char* setAspectOperation = "setAspect";
+inline constexpr const char* setDeinterlacingOperation = "setDeinterlacing";
+inline constexpr const char* adjustPictureOperation = "adjustPicture";
 /// Of the subtitles menu's last item.
 inline constexpr const char* toggleRepairOperation = "toggleRepair";
 

@@ -8,6 +8,7 @@
 #include "control/ApplicationServices.h"
 #include "control/CurrentCommands.h"
 #include "platform/base/Localization.h"
+#include "platform/movie/MovieToolkit.h"
 #include "playback/QVMovieView.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"

@@ -20,6 +20,8 @@
 
 namespace platform {
 class Desktop;
+class MovieOpening;
+class MovieToolkit;
 } // namespace platform
 
 class ApplicationServices;
@@ -60,6 +62,7 @@ public:
         /// Made before.
         const CurrentCommands& commands;
         StillSaving& stills;
+        platform::MovieToolkit& toolkit;
     };
     QVMovieController(const Environment& environment, const Collaborators& collaborators);
     QVMovieController(const QVMovieController&) = delete;
@@ -86,6 +89,9 @@ public:
     /// Fill the menus of speeds and of chapters.
     void fillSpeedMenu(platform::Menu& menu);
     void fillChaptersMenu(platform::Menu& menu);
+    void fillAspectMenu(platform::Menu& menu);
+    void fillDeinterlacingMenu(platform::Menu& menu);
+    void fillColorsMenu(platform::Menu& menu);
 
     void windowDidBecomeKey(platform::Window& window) override;
     void windowDidResignKey(platform::Window& window) override;
@@ -127,6 +133,19 @@ private:
     bool validateRepeating(platform::MenuItem& item) const;
     void goToTime(std::int32_t, Feedback feedback);
     void saveStill(std::int32_t, Feedback feedback);
+    void setAspect(std::int32_t position, Feedback feedback);
+    void nextAspect(std::int32_t, Feedback feedback);
+    bool validateAspect(platform::MenuItem& item) const;
+    void setDeinterlacing(std::int32_t when, Feedback feedback);
+    void nextDeinterlacing(std::int32_t, Feedback feedback);
+    bool validateDeinterlacing(platform::MenuItem& item) const;
+    void cropBars(std::int32_t, Feedback feedback);
+    bool validateCropping(platform::MenuItem& item) const;
+    void turnPicture(std::int32_t, Feedback feedback);
+    void mirrorPicture(std::int32_t, Feedback feedback);
+    bool validateMirroring(platform::MenuItem& item) const;
+    void adjustPicture(std::int32_t argument, Feedback feedback);
+    bool validateAdjusting(platform::MenuItem& item) const;
     bool validateHasMovie(platform::MenuItem& item) const;
     void doOpen(std::int32_t, Feedback feedback);
     void doOpenFolder(std::int32_t, Feedback feedback);
@@ -190,6 +209,7 @@ private:
     std::weak_ptr<QVMovie> _listedMovie;
     /// Where the section begins of which the end is still to be said, and its movie.
     std::optional<std::int32_t> _sectionBegin;
+    std::unique_ptr<platform::MovieOpening> _barsSought;
     std::weak_ptr<QVMovie> _sectionOf;
     /// What the playlist menu showed when it opened, by the tags of its items.
     std::map<std::int32_t, std::weak_ptr<QVMovie>> _menuMovies;

@@ -133,7 +133,7 @@ float QVMovie::frameRate() {
 }
 
 platform::Rect QVMovie::naturalBounds() const {
-    return platform::Rect(QPointF(0, 0), info().naturalSize);
+    return platform::Rect(QPointF(0, 0), shape().applied(info().naturalSize));
 }
 
 platform::Rect QVMovie::naturalFrame(double windowHeight) const {

@@ -69,6 +69,19 @@ void QVMovieView::setMovie(const std::shared_ptr<QVMovie>& movie) {
     setMovieSize(_size, Recalculation::forced);
 }
 
+platform::PictureShape QVMovieView::shape() const {
+    return movie() ? movie()->shape() : platform::PictureShape();
+}
+
+void QVMovieView::setShape(const platform::PictureShape& shape) {
+    const auto shown = movie();
+    if (!shown || shown->shape() == shape)
+        return;
+    shown->setShape(shape);
+    player().shapeChanged();
+    setMovieSize(_size, Recalculation::forced);
+}
+
 void QVMovieView::setMovieSize(std::int32_t code, Recalculation recalculation) {
     const bool forced = recalculation == Recalculation::forced;
     if (code == _size && !forced)

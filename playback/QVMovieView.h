@@ -43,6 +43,10 @@ public:
     std::shared_ptr<QVMovie> movie() const;
     void setMovie(const std::shared_ptr<QVMovie>& movie);
 
+    /// Of the movie shown, which keeps it; its size, and what stands on the picture, follow.
+    platform::PictureShape shape() const;
+    void setShape(const platform::PictureShape& shape);
+
     std::int32_t movieSize() const { return _size; }
     enum class Recalculation { ifChanged, forced };
     /// Takes a size code (namespace movieSize; unknown ones count as fitScreen), lays the view out centred in the

@@ -3,6 +3,7 @@
 
 #include "platform/movie/DynamicRange.h"
 #include "platform/movie/MovieTrack.h"
+#include "platform/movie/PictureShape.h"
 
 #include <QSizeF>
 #include <QString>
@@ -114,6 +115,10 @@ public:
     const QUrl& url() const { return _info.url; }
     const MovieInfo& info() const { return _info; }
 
+    /// How its picture is shown; whoever changes it tells the player (MoviePlayer::shapeChanged).
+    const PictureShape& shape() const { return _shape; }
+    void setShape(const PictureShape& shape) { _shape = shape; }
+
     std::int32_t time() const;
     std::int32_t timeScale() const { return _info.timeScale; }
     std::int32_t duration() const { return _info.duration; }
@@ -180,6 +185,7 @@ protected:
 
 private:
     MovieInfo _info;
+    PictureShape _shape;
     MoviePlayer& _player;
     std::int32_t _restingTime = 0;
     bool _needsTimeTable;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/PictureShape.h"
+
 #include <QImage>
 
 #include <cstdint>
@@ -85,6 +87,14 @@ public:
     };
     virtual std::optional<Section> repeated() const = 0;
     virtual void repeat(const std::optional<Section>& section) = 0;
+
+    /// The loaded movie's shape has changed.
+    virtual void shapeChanged() = 0;
+    /// Of every movie, from here on.
+    virtual PictureAdjustment adjustment() const = 0;
+    virtual void setAdjustment(const PictureAdjustment& adjustment) = 0;
+    virtual Deinterlacing deinterlacing() const = 0;
+    virtual void setDeinterlacing(Deinterlacing when) = 0;
 
     /// The picture that is shown, as large as the movie's own, without what is shown over it; a null one where there is
     /// none. Comes later, from the run loop.

@@ -72,6 +72,11 @@ public:
                                                                    std::function<void(QImage)> completion) = 0;
     static constexpr int maximumCoverSide = 1280;
 
+    /// Looks for black bars around the picture of a local file that lasts so many seconds, in some of its keyframes;
+    /// as coverAsync.
+    [[nodiscard]] virtual std::unique_ptr<MovieOpening>
+    blackBarsAsync(const QUrl& url, double duration, std::function<void(PictureShape::Crop)> completion) = 0;
+
     virtual FetchFile fileFetcher() const = 0;
     virtual ReadSubtitlePackets subtitlePacketReader() const = 0;
 

@@ -36,6 +36,10 @@ public:
     void setSpeed(double speed) { _player.setSpeed(speed); }
     std::optional<MoviePlayer::Section> repeated() const { return _player.repeated(); }
     void repeat(const std::optional<MoviePlayer::Section>& section) { _player.repeat(section); }
+    PictureAdjustment adjustment() const { return _player.adjustment(); }
+    void setAdjustment(const PictureAdjustment& adjustment) { _player.setAdjustment(adjustment); }
+    Deinterlacing deinterlacing() const { return _player.deinterlacing(); }
+    void setDeinterlacing(Deinterlacing when) { _player.setDeinterlacing(when); }
     /// MoviePlayer::still().
     void wholePicture(std::function<void(QImage)> completion) { _player.still(std::move(completion)); }
     float volume() const;

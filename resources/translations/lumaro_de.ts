@@ -2600,5 +2600,161 @@
         <source>Repeat: %@ – %@</source>
         <translation>Wiederholen: %@ – %@</translation>
     </message>
+    <message id="Aspect">
+        <source>Aspect</source>
+        <translation>Seitenverhältnis</translation>
+    </message>
+    <message id="Next Aspect">
+        <source>Next Aspect</source>
+        <translation>Nächstes Seitenverhältnis</translation>
+    </message>
+    <message id="Aspect: automatic, 4:3, 16:9, 2.35:1">
+        <source>Aspect: automatic, 4:3, 16:9, 2.35:1</source>
+        <translation>Seitenverhältnis: automatisch, 4:3, 16:9, 2,35:1</translation>
+    </message>
+    <message id="Aspect: %@">
+        <source>Aspect: %@</source>
+        <translation>Seitenverhältnis: %@</translation>
+    </message>
+    <message id="2.35:1">
+        <source>2.35:1</source>
+        <translation>2,35:1</translation>
+    </message>
+    <message id="Deinterlacing">
+        <source>Deinterlacing</source>
+        <translation>Zeilensprung entfernen</translation>
+    </message>
+    <message id="Next Deinterlacing">
+        <source>Next Deinterlacing</source>
+        <translation>Zeilensprung entfernen: nächste Wahl</translation>
+    </message>
+    <message id="Deinterlacing: automatic, on, off">
+        <source>Deinterlacing: automatic, on, off</source>
+        <translation>Zeilensprung entfernen: automatisch, an, aus</translation>
+    </message>
+    <message id="Deinterlacing: %@">
+        <source>Deinterlacing: %@</source>
+        <translation>Zeilensprung entfernen: %@</translation>
+    </message>
+    <message id="Picture Colors">
+        <source>Picture Colors</source>
+        <translation>Farben des Bildes</translation>
+    </message>
+    <message id="Less Contrast">
+        <source>Less Contrast</source>
+        <translation>Weniger Kontrast</translation>
+    </message>
+    <message id="More Contrast">
+        <source>More Contrast</source>
+        <translation>Mehr Kontrast</translation>
+    </message>
+    <message id="Darker">
+        <source>Darker</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message id="Brighter">
+        <source>Brighter</source>
+        <translation>Heller</translation>
+    </message>
+    <message id="Less Gamma">
+        <source>Less Gamma</source>
+        <translation>Weniger Gamma</translation>
+    </message>
+    <message id="More Gamma">
+        <source>More Gamma</source>
+        <translation>Mehr Gamma</translation>
+    </message>
+    <message id="Less Saturation">
+        <source>Less Saturation</source>
+        <translation>Weniger Sättigung</translation>
+    </message>
+    <message id="More Saturation">
+        <source>More Saturation</source>
+        <translation>Mehr Sättigung</translation>
+    </message>
+    <message id="Hue towards Red">
+        <source>Hue towards Red</source>
+        <translation>Farbton zum Roten</translation>
+    </message>
+    <message id="Hue towards Green">
+        <source>Hue towards Green</source>
+        <translation>Farbton zum Grünen</translation>
+    </message>
+    <message id="Contrast, brightness, gamma, saturation, hue: less and more">
+        <source>Contrast, brightness, gamma, saturation, hue: less and more</source>
+        <translation>Kontrast, Helligkeit, Gamma, Sättigung, Farbton: weniger und mehr</translation>
+    </message>
+    <message id="The colors as the movie has them">
+        <source>The colors as the movie has them</source>
+        <translation>Die Farben, wie der Film sie hat</translation>
+    </message>
+    <message id="Original Colors">
+        <source>Original Colors</source>
+        <translation>Ursprüngliche Farben</translation>
+    </message>
+    <message id="Contrast: %@">
+        <source>Contrast: %@</source>
+        <translation>Kontrast: %@</translation>
+    </message>
+    <message id="Brightness: %@">
+        <source>Brightness: %@</source>
+        <translation>Helligkeit: %@</translation>
+    </message>
+    <message id="Gamma: %@">
+        <source>Gamma: %@</source>
+        <translation>Gamma: %@</translation>
+    </message>
+    <message id="Saturation: %@">
+        <source>Saturation: %@</source>
+        <translation>Sättigung: %@</translation>
+    </message>
+    <message id="Hue: %@">
+        <source>Hue: %@</source>
+        <translation>Farbton: %@</translation>
+    </message>
+    <message id="Crop Black Bars">
+        <source>Crop Black Bars</source>
+        <translation>Schwarze Balken abschneiden</translation>
+    </message>
+    <message id="Cut black bars off">
+        <source>Cut black bars off</source>
+        <translation>Schwarze Balken abschneiden</translation>
+    </message>
+    <message id="Crop: On">
+        <source>Crop: On</source>
+        <translation>Abschneiden: An</translation>
+    </message>
+    <message id="Crop: Off">
+        <source>Crop: Off</source>
+        <translation>Abschneiden: Aus</translation>
+    </message>
+    <message id="No Black Bars">
+        <source>No Black Bars</source>
+        <translation>Keine schwarzen Balken</translation>
+    </message>
+    <message id="Turn by 90°">
+        <source>Turn by 90°</source>
+        <translation>Um 90° drehen</translation>
+    </message>
+    <message id="Turn and mirror the picture">
+        <source>Turn and mirror the picture</source>
+        <translation>Das Bild drehen und spiegeln</translation>
+    </message>
+    <message id="Turned by %d°">
+        <source>Turned by %d°</source>
+        <translation>Gedreht um %d°</translation>
+    </message>
+    <message id="Mirror">
+        <source>Mirror</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message id="Mirror: On">
+        <source>Mirror: On</source>
+        <translation>Spiegeln: An</translation>
+    </message>
+    <message id="Mirror: Off">
+        <source>Mirror: Off</source>
+        <translation>Spiegeln: Aus</translation>
+    </message>
 </context>
 </TS>

@@ -2600,5 +2600,161 @@
         <source>Repeat: %@ – %@</source>
         <translation>Repeat: %@ – %@</translation>
     </message>
+    <message id="Aspect">
+        <source>Aspect</source>
+        <translation>Aspect</translation>
+    </message>
+    <message id="Next Aspect">
+        <source>Next Aspect</source>
+        <translation>Next Aspect</translation>
+    </message>
+    <message id="Aspect: automatic, 4:3, 16:9, 2.35:1">
+        <source>Aspect: automatic, 4:3, 16:9, 2.35:1</source>
+        <translation>Aspect: automatic, 4:3, 16:9, 2.35:1</translation>
+    </message>
+    <message id="Aspect: %@">
+        <source>Aspect: %@</source>
+        <translation>Aspect: %@</translation>
+    </message>
+    <message id="2.35:1">
+        <source>2.35:1</source>
+        <translation>2.35:1</translation>
+    </message>
+    <message id="Deinterlacing">
+        <source>Deinterlacing</source>
+        <translation>Deinterlacing</translation>
+    </message>
+    <message id="Next Deinterlacing">
+        <source>Next Deinterlacing</source>
+        <translation>Next Deinterlacing</translation>
+    </message>
+    <message id="Deinterlacing: automatic, on, off">
+        <source>Deinterlacing: automatic, on, off</source>
+        <translation>Deinterlacing: automatic, on, off</translation>
+    </message>
+    <message id="Deinterlacing: %@">
+        <source>Deinterlacing: %@</source>
+        <translation>Deinterlacing: %@</translation>
+    </message>
+    <message id="Picture Colors">
+        <source>Picture Colors</source>
+        <translation>Picture Colors</translation>
+    </message>
+    <message id="Less Contrast">
+        <source>Less Contrast</source>
+        <translation>Less Contrast</translation>
+    </message>
+    <message id="More Contrast">
+        <source>More Contrast</source>
+        <translation>More Contrast</translation>
+    </message>
+    <message id="Darker">
+        <source>Darker</source>
+        <translation>Darker</translation>
+    </message>
+    <message id="Brighter">
+        <source>Brighter</source>
+        <translation>Brighter</translation>
+    </message>
+    <message id="Less Gamma">
+        <source>Less Gamma</source>
+        <translation>Less Gamma</translation>
+    </message>
+    <message id="More Gamma">
+        <source>More Gamma</source>
+        <translation>More Gamma</translation>
+    </message>
+    <message id="Less Saturation">
+        <source>Less Saturation</source>
+        <translation>Less Saturation</translation>
+    </message>
+    <message id="More Saturation">
+        <source>More Saturation</source>
+        <translation>More Saturation</translation>
+    </message>
+    <message id="Hue towards Red">
+        <source>Hue towards Red</source>
+        <translation>Hue towards Red</translation>
+    </message>
+    <message id="Hue towards Green">
+        <source>Hue towards Green</source>
+        <translation>Hue towards Green</translation>
+    </message>
+    <message id="Contrast, brightness, gamma, saturation, hue: less and more">
+        <source>Contrast, brightness, gamma, saturation, hue: less and more</source>
+        <translation>Contrast, brightness, gamma, saturation, hue: less and more</translation>
+    </message>
+    <message id="The colors as the movie has them">
+        <source>The colors as the movie has them</source>
+        <translation>The colors as the movie has them</translation>
+    </message>
+    <message id="Original Colors">
+        <source>Original Colors</source>
+        <translation>Original Colors</translation>
+    </message>
+    <message id="Contrast: %@">
+        <source>Contrast: %@</source>
+        <translation>Contrast: %@</translation>
+    </message>
+    <message id="Brightness: %@">
+        <source>Brightness: %@</source>
+        <translation>Brightness: %@</translation>
+    </message>
+    <message id="Gamma: %@">
+        <source>Gamma: %@</source>
+        <translation>Gamma: %@</translation>
+    </message>
+    <message id="Saturation: %@">
+        <source>Saturation: %@</source>
+        <translation>Saturation: %@</translation>
+    </message>
+    <message id="Hue: %@">
+        <source>Hue: %@</source>
+        <translation>Hue: %@</translation>
+    </message>
+    <message id="Crop Black Bars">
+        <source>Crop Black Bars</source>
+        <translation>Crop Black Bars</translation>
+    </message>
+    <message id="Cut black bars off">
+        <source>Cut black bars off</source>
+        <translation>Cut black bars off</translation>
+    </message>
+    <message id="Crop: On">
+        <source>Crop: On</source>
+        <translation>Crop: On</translation>
+    </message>
+    <message id="Crop: Off">
+        <source>Crop: Off</source>
+        <translation>Crop: Off</translation>
+    </message>
+    <message id="No Black Bars">
+        <source>No Black Bars</source>
+        <translation>No Black Bars</translation>
+    </message>
+    <message id="Turn by 90°">
+        <source>Turn by 90°</source>
+        <translation>Turn by 90°</translation>
+    </message>
+    <message id="Turn and mirror the picture">
+        <source>Turn and mirror the picture</source>
+        <translation>Turn and mirror the picture</translation>
+    </message>
+    <message id="Turned by %d°">
+        <source>Turned by %d°</source>
+        <translation>Turned by %d°</translation>
+    </message>
+    <message id="Mirror">
+        <source>Mirror</source>
+        <translation>Mirror</translation>
+    </message>
+    <message id="Mirror: On">
+        <source>Mirror: On</source>
+        <translation>Mirror: On</translation>
+    </message>
+    <message id="Mirror: Off">
+        <source>Mirror: Off</source>
+        <translation>Mirror: Off</translation>
+    </message>
 </context>
 </TS>

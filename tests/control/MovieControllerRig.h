@@ -141,5 +141,5 @@ protected:
     StillSaving stills{settings.environment, view, confirmations, [this] { return pictures.path(); }};
     QVMovieController controller{settings.environment,
                                  {window, mainWindow, view, playlist, subtitles, confirmations, pointer, desktop,
-                                  services, playlistMenu, subtitlesMenu, currentCommands, stills}};
+                                  services, playlistMenu, subtitlesMenu, currentCommands, stills, toolkit}};
 };

@@ -172,3 +172,76 @@ TEST_F(WatchingCommands, A_still_is_saved_beside_the_others_and_its_place_said) 
     }
     EXPECT_EQ(QDir(pictures.path()).entryList(QDir::Files | QDir::Hidden).size(), 2) << "nothing else is left";
 }
+
+TEST_F(WatchingCommands, The_pictures_shape_is_changed_by_keys_and_the_view_follows) {
+    platform::setLocalizationLanguages({"en"});
+    const auto movie = showChapters(); // 640 by 480
+    toolkit.bars = {0, 0.125, 0, 0.125};
+    const struct {
+        char16_t character;
+        std::uint32_t modifiers;
+        QSizeF size;
+        const char* says;
+    } cases[] = {
+        {u'a', held::control, {640, 480}, "Aspect: 4:3"},
+        {u'a', held::control, {853, 480}, "Aspect: 16:9"},
+        {u'a', held::control, {1128, 480}, "Aspect: 2.35:1"},
+        {u'a', held::control, {640, 480}, "Aspect: Automatic"},
+        {u'b', held::control, {640, 360}, "Crop: On"},
+        {u't', 0, {360, 640}, "Turned by 90°"},
+        {u't', held::shift, {360, 640}, "Mirror: On"},
+        {u'b', held::control, {480, 640}, "Crop: Off"},
+        {u't', 0, {640, 480}, "Turned by 180°"},
+        {u't', held::shift, {640, 480}, "Mirror: Off"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_TRUE(press(c.character, c.modifiers));
+        EXPECT_NEAR(view.frame().width(), c.size.width(), 1) << c.says;
+        EXPECT_NEAR(view.frame().height(), c.size.height(), 1) << c.says;
+        EXPECT_NEAR(view.aspectRatio(), c.size.width() / c.size.height(), 0.01) << "of what stands on the picture";
+        EXPECT_EQ(posted(), c.says);
+    }
+    EXPECT_EQ(player().shapeChanges, 10);
+    toolkit.bars = {};
+    press(u'b', held::control);
+    EXPECT_EQ(posted(), "No Black Bars");
+    platform::Menu menu;
+    perform(setAspectOperation, 2);
+    controller.fillAspectMenu(menu);
+    EXPECT_EQ(itemsOf(menu), "Automatic|4:3|[16:9]|2.35:1");
+    showChapters();
+    EXPECT_EQ(itemsOf(menu), "[Automatic]|4:3|16:9|2.35:1") << "each movie has its own";
+    platform::setLocalizationLanguages({});
+}
+
+TEST_F(WatchingCommands, Colors_and_fields_are_changed_by_keys_and_menus) {
+    platform::setLocalizationLanguages({"en"});
+    showChapters();
+    const std::pair<char16_t, const char*> cases[] = {
+        {key::f1 + 2, "Contrast: +2"},   {key::f1 + 1, "Contrast: 0"}, {key::f1 + 3, "Brightness: -2"},
+        {key::f1 + 3, "Brightness: -4"}, {key::f1 + 6, "Gamma: +2"},   {key::f1 + 7, "Saturation: -2"},
+        {key::f1 + 10, "Hue: +2"},
+    };
+    for (const auto& [character, says] : cases) {
+        EXPECT_TRUE(press(character));
+        EXPECT_EQ(posted(), says);
+    }
+    EXPECT_EQ(view.adjustment(), (platform::PictureAdjustment{0, -4, 2, -2, 2}));
+    for (int i = 0; i < 60; ++i)
+        perform(adjustPictureOperation, -2);
+    EXPECT_EQ(view.adjustment().brightness, -100);
+    press(key::backspace, held::control);
+    EXPECT_EQ(view.adjustment(), platform::PictureAdjustment());
+    platform::Menu menu;
+    controller.fillColorsMenu(menu);
+    EXPECT_EQ(itemsOf(menu), "Less Contrast|More Contrast|Darker|Brighter|Less Gamma|More Gamma|Less Saturation|"
+                             "More Saturation|Hue towards Red|Hue towards Green|-|(Original Colors)");
+    for (const char* says : {"On", "Off", "Automatic"}) {
+        EXPECT_TRUE(press(u'i', held::control));
+        EXPECT_EQ(posted(), std::string("Deinterlacing: ") + says);
+    }
+    perform(setDeinterlacingOperation, 2);
+    controller.fillDeinterlacingMenu(menu);
+    EXPECT_EQ(itemsOf(menu), "Automatic|On|[Off]");
+    platform::setLocalizationLanguages({});
+}

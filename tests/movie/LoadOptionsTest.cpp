@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/LoadOptions.h"
 
 #include "platform/movie/Movie.h"
+#include "platform/movie/mpv/VideoFilters.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,9 @@ TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
         movie.url = QUrl(QStringLiteral("http://example.org/movie.mp4"));
         movie.quarterTurns = c.quarterTurns;
         movie.naturalSize = c.size;
-        EXPECT_EQ(platform::loadOptions(movie, c.start, {}).toStdString(), std::string("aid=auto,sid=no") + c.options);
+        EXPECT_EQ(platform::loadOptions(movie, c.start, {}, platform::filterOption({.fileTurns = c.quarterTurns}))
+                      .toStdString(),
+                  std::string("aid=auto,sid=no") + c.options);
     }
 }
 
@@ -54,7 +57,7 @@ TEST(LoadOptions, one_thread_decodes_what_it_can_decode_well_in_time) {
 TEST(LoadOptions, a_local_movie_opens_nothing_but_itself) {
     platform::MovieInfo movie;
     movie.url = QUrl::fromLocalFile(QStringLiteral("/a/movie.mp4"));
-    EXPECT_EQ(platform::loadOptions(movie, 2.5, {}).toStdString(),
+    EXPECT_EQ(platform::loadOptions(movie, 2.5, {}, {}).toStdString(),
               "aid=auto,sid=no,start=2.500000,access-references=no,demuxer-lavf-o=protocol_whitelist=none");
 }
 
@@ -71,6 +74,6 @@ TEST(LoadOptions, say_the_tracks_each_time) {
     for (const auto& c : cases) {
         platform::MovieInfo movie;
         movie.url = QUrl(QStringLiteral("http://example.org/movie.mkv"));
-        EXPECT_EQ(platform::loadOptions(movie, 0, c.tracks).toStdString(), c.options);
+        EXPECT_EQ(platform::loadOptions(movie, 0, c.tracks, {}).toStdString(), c.options);
     }
 }

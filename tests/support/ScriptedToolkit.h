@@ -50,6 +50,12 @@ public:
     void step(int direction) override;
     std::optional<Section> repeated() const override { return _repeated; }
     void repeat(const std::optional<Section>& section) override { _repeated = section; }
+    void shapeChanged() override { ++shapeChanges; }
+    int shapeChanges = 0;
+    platform::PictureAdjustment adjustment() const override { return _adjustment; }
+    void setAdjustment(const platform::PictureAdjustment& adjustment) override { _adjustment = adjustment; }
+    platform::Deinterlacing deinterlacing() const override { return _deinterlacing; }
+    void setDeinterlacing(platform::Deinterlacing when) override { _deinterlacing = when; }
     QImage stillPicture;
     void still(std::function<void(QImage)> completion) override { completion(stillPicture); }
     float volume() const override { return _volume; }
@@ -71,6 +77,8 @@ private:
     double _left = 0; // units passed at rate 1 that made no whole picture yet
     float _rate = 0;
     double _speed = 1;
+    platform::PictureAdjustment _adjustment;
+    platform::Deinterlacing _deinterlacing = platform::Deinterlacing::automatic;
     std::optional<Section> _repeated;
     float _volume = 1;
     bool _muted = false;
@@ -113,6 +121,13 @@ public:
     QList<QUrl> coversAsked;
     std::unique_ptr<platform::MovieOpening> coverAsync(const QUrl& url,
                                                        std::function<void(QImage)> completion) override;
+    /// What blackBarsAsync answers at once.
+    platform::PictureShape::Crop bars;
+    std::unique_ptr<platform::MovieOpening>
+    blackBarsAsync(const QUrl&, double, std::function<void(platform::PictureShape::Crop)> completion) override {
+        completion(bars);
+        return nullptr;
+    }
     /// What fetching an address gives; others are not found. Read by other threads.
     QHash<QUrl, platform::FetchedFile> fetched;
     platform::FetchFile fileFetcher() const override {

@@ -77,14 +77,24 @@ AVFrame* firstPicture(AVFormatContext* input, const AVStream* video, AVCodecCont
     return nullptr;
 }
 
+/// Seconds.
+double beginOf(const AVFormatContext* input) {
+    return input->start_time == AV_NOPTS_VALUE ? 0 : static_cast<double>(input->start_time) / AV_TIME_BASE;
+}
+
+/// To the keyframe before the time.
+bool seekTo(AVFormatContext* input, const AVStream* video, double seconds) {
+    const double units = (seconds + beginOf(input)) / av_q2d(video->time_base);
+    return AvLibrary::get()->av_seek_frame(input, video->index, std::llround(units), AVSEEK_FLAG_BACKWARD) >= 0;
+}
+
 /// Its time counts from the beginning of the file, as the player counts it.
 AVFrame* pictureAt(AVFormatContext* input, const AVStream* video, AVCodecContext* decoder, double seconds,
                    const std::atomic<bool>& cancelled) {
     const AvLibrary* av = AvLibrary::get();
-    const double unit = static_cast<double>(video->time_base.num) / video->time_base.den;
-    const double target =
-        seconds + (input->start_time == AV_NOPTS_VALUE ? 0 : static_cast<double>(input->start_time) / AV_TIME_BASE);
-    if (av->av_seek_frame(input, video->index, std::llround(target / unit), AVSEEK_FLAG_BACKWARD) < 0)
+    const double unit = av_q2d(video->time_base);
+    const double target = seconds + beginOf(input);
+    if (!seekTo(input, video, seconds))
         return nullptr;
     const std::unique_ptr<AVPacket, Freed> packet(av->av_packet_alloc());
     std::unique_ptr<AVFrame, Freed> frame(av->av_frame_alloc());
@@ -141,7 +151,7 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
     if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)
         return nullptr;
-    if (seconds > 0) {
+    if (seconds > 0 && wanted == PictureOf::movie) {
         decoder->thread_count = 0; // many have to be decoded
     } else {
         // With one thread and low delay the picture comes out with its packet where no reordering holds it back.
@@ -161,8 +171,11 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
             return std::make_shared<const FirstFrame>(frame.release(), dynamicRangeOf(video));
         return nullptr;
     }
-    AVFrame* const found = seconds > 0 ? pictureAt(input, video, decoder.get(), seconds, cancelled)
-                                       : firstPicture(input, video, decoder.get(), cancelled);
+    const bool isExact = seconds > 0 && wanted == PictureOf::movie;
+    if (seconds > 0 && !isExact && !seekTo(input, video, seconds))
+        return nullptr;
+    AVFrame* const found = isExact ? pictureAt(input, video, decoder.get(), seconds, cancelled)
+                                   : firstPicture(input, video, decoder.get(), cancelled);
     frame.reset(found);
     if (!found || !isPlain(video, found))
         return nullptr;

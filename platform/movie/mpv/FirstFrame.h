@@ -19,8 +19,9 @@ namespace platform {
 /// still starting.
 class FirstFrame {
 public:
-    /// Whose picture is wanted: the movie's, or that of the cover attached to it.
-    enum class PictureOf { movie, cover };
+    /// Whose picture is wanted: the movie's, that of the cover attached to it, or the movie's keyframe before a time,
+    /// which alone is decoded.
+    enum class PictureOf { movie, cover, keyframe };
     /// Decodes it: the movie's first one, or the one that the player shows at a time, in seconds from the movie's
     /// beginning, for which all pictures since the keyframe before it are decoded. Null where that is not simple
     /// (rotated, nothing decoded soon). Any thread.

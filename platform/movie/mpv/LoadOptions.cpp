@@ -6,8 +6,6 @@
 
 #include <QByteArrayList>
 
-#include <cstring>
-
 namespace platform {
 
 namespace {
@@ -34,7 +32,7 @@ QByteArray subtitleOption(const TrackSelection& tracks) {
     return optionOf(tracks.subtitleFile.isEmpty() ? tracks.subtitles : 0);
 }
 
-QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks) {
+QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks, const QByteArray& filters) {
     // Said each time: a track that was selected while a movie played is the core's option for those to come.
     QByteArrayList options{"aid=" + audioOption(tracks), "sid=" + subtitleOption(tracks)};
     if (start > 0)
@@ -42,14 +40,11 @@ QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelectio
     if (!isNetworkURL(movie.url))
         options << "access-references=no" << QByteArray("demuxer-lavf-o=protocol_whitelist=") + localProtocols;
     // The player leaves turning to its renderers, and the software renderer crashes on a turned picture instead.
-    static constexpr const char* turns[] = {nullptr, "lavfi=[transpose=clock]", "lavfi=[hflip,vflip]",
-                                            "lavfi=[transpose=cclock]"};
-    if (const char* turn = turns[movie.quarterTurns]) {
-        // Told with its length, for its commas.
-        const QByteArray length = QByteArray::number(static_cast<int>(std::strlen(turn)));
-        options << "video-rotate=no"
-                << "vf=%" + length + "%" + turn;
-    }
+    if (movie.quarterTurns != 0)
+        options << "video-rotate=no";
+    // Told with their length, for their commas.
+    if (!filters.isEmpty())
+        options << "vf=%" + QByteArray::number(filters.size()) + "%" + filters;
     if (!isDecodedByOneThread(movie))
         options << "vd-lavc-threads=0";
     return options.join(',');

@@ -10,7 +10,7 @@ struct TrackSelection;
 
 /// The options of the core's own that a movie is loaded with, as its loadfile command takes them: names and values with
 /// commas in between. It starts at `start` seconds, with the tracks selected; a file of subtitles is added later.
-QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks);
+QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks, const QByteArray& filters);
 
 /// What the core's options "aid" and "sid" take for a track; a file of subtitles has no number beforehand.
 QByteArray audioOption(const TrackSelection& tracks);

@@ -9,6 +9,7 @@
 #include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/MpvCore.h"
 #include "platform/movie/mpv/TrackProbe.h"
+#include "platform/movie/mpv/VideoFilters.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -38,6 +39,9 @@ constexpr std::uint64_t bufferProperty = 5;
 constexpr std::uint64_t decoderProperty = 6;
 constexpr std::uint64_t tracksProperty = 7;
 constexpr std::uint64_t transferProperty = 8;
+
+// What was asked of the core about the fields of a movie: the loads are added, away from the numbers of other answers.
+constexpr std::uint64_t fieldsReply = std::uint64_t{1} << 32;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
@@ -128,6 +132,8 @@ void MpvPlayer::adoptCore() {
             if (!_framesPosted.exchange(true))
                 QCoreApplication::postEvent(this, new QEvent(framesDueEvent), Qt::HighEventPriority);
         });
+    if (_adjustment != PictureAdjustment())
+        sendAdjustment();
     apply(playerEvent::CoreReady{});
     handleEvents();
 }
@@ -168,7 +174,10 @@ void MpvPlayer::load(Movie* movie) {
     ++_loads;
     _sizeWhenLoaded = movie ? std::max<std::int64_t>(movie->info().fileSize, 0) : 0;
     const bool hasFrames = facts && facts->content == LoadedMovie::Content::frames;
-    _video.begin(movie ? movie->info().naturalSize : QSizeF(),
+    _isInterlaced = false;
+    _fieldsAskedAt = -1;
+    _sentFilters.reset();
+    _video.begin(movie ? movie->shape().applied(movie->info().naturalSize, PictureShape::By::file) : QSizeF(),
                  hasFrames ? MpvVideoLayer::LastFrame::stays : MpvVideoLayer::LastFrame::goes);
     _video.setDynamicRange(movie ? movie->info().dynamicRange : DynamicRange{});
     apply(playerEvent::Load{facts, start, movie ? movie->selection() : TrackSelection()});
@@ -195,6 +204,12 @@ void MpvPlayer::apply(const PlayerEvent& event) {
 }
 
 void MpvPlayer::prepareFrame(std::int32_t time) {
+    // It would be seen as the file has it.
+    if (_movie->shape() != PictureShape() || _adjustment != PictureAdjustment()) {
+        setPreparedFrame({});
+        _firstFrames.cancel();
+        return;
+    }
     const bool isPrepared = _prepared.url == _movie->url() && _prepared.time == time;
     if (!isPrepared && _movie->url().isLocalFile() && !_video.usesOpenGL())
         setPreparedFrame(_firstFrames.decode(_movie->url(), time, static_cast<double>(time) / _movie->timeScale()));
@@ -266,9 +281,14 @@ void MpvPlayer::handle(const mpv_event& event) {
         break;
     }
     case MPV_EVENT_PLAYBACK_RESTART:
+        _fieldsAskedAt = -1;
+        askForFields(0);
         if (_wait.what == Wait::What::beginning)
             setWait({});
         apply(playerEvent::PlaybackRestarted{});
+        break;
+    case MPV_EVENT_GET_PROPERTY_REPLY:
+        answerProperty(event);
         break;
     case MPV_EVENT_COMMAND_REPLY:
         answerStill(event);
@@ -285,9 +305,10 @@ void MpvPlayer::handle(const mpv_event& event) {
 }
 
 void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property& value) {
-    if (property == timeProperty)
+    if (property == timeProperty) {
+        askForFields(*static_cast<const double*>(value.data));
         apply(playerEvent::TimeChanged{*static_cast<const double*>(value.data)});
-    else if (property == endProperty)
+    } else if (property == endProperty)
         apply(playerEvent::EndChanged{*static_cast<const int*>(value.data) == 0 ? CoreEnd::no
                                       : isFileGrowing()                         ? CoreEnd::ofArrived
                                                                                 : CoreEnd::ofMovie});
@@ -345,7 +366,8 @@ void MpvPlayer::carryOut(const playerEffect::LoadFile& effect) {
     // The player takes an absolute path as it stands, whatever characters are in it.
     const QUrl& url = _movie->info().source();
     const QByteArray address = url.isLocalFile() ? nativePath(url) : addressOf(url);
-    const QByteArray options = loadOptions(_movie->info(), effect.start, _state.tracks);
+    _sentFilters = _movie->info().hasVideo ? filters() : QByteArray();
+    const QByteArray options = loadOptions(_movie->info(), effect.start, _state.tracks, *_sentFilters);
     prepareSubtitles();
     if (MpvLibrary::get()->dialect().loadArguments == MpvDialect::LoadArguments::flags)
         command({"loadfile", address.constData(), "replace", options.constData()});
@@ -375,6 +397,70 @@ void MpvPlayer::carryOut(const playerEffect::SetRepeated& effect) {
     };
     command({"set", "ab-loop-a", text(from).constData()});
     command({"set", "ab-loop-b", text(until).constData()});
+}
+
+QByteArray MpvPlayer::filters() const {
+    VideoFilters wanted;
+    wanted.fileTurns = _movie->info().quarterTurns;
+    wanted.shape = _movie->shape();
+    if (!_video.usesOpenGL())
+        wanted.adjustment = _adjustment;
+    if (_deinterlacing == Deinterlacing::on)
+        wanted.fields = VideoFilters::Fields::all;
+    else if (_deinterlacing == Deinterlacing::automatic && _isInterlaced)
+        wanted.fields = VideoFilters::Fields::marked;
+    return filterOption(wanted);
+}
+
+void MpvPlayer::updateFilters() {
+    // One that is still to be loaded is loaded with them.
+    if (!_core || !_movie || !_movie->info().hasVideo || !_sentFilters)
+        return;
+    const QByteArray wanted = filters();
+    if (std::exchange(_sentFilters, wanted) != wanted)
+        command({"set", "file-local-options/vf", wanted.constData()});
+}
+
+void MpvPlayer::shapeChanged() {
+    if (_movie)
+        _video.setNaturalSize(_movie->shape().applied(_movie->info().naturalSize, PictureShape::By::file));
+    updateFilters();
+}
+
+void MpvPlayer::setAdjustment(const PictureAdjustment& adjustment) {
+    _adjustment = adjustment;
+    sendAdjustment();
+    updateFilters();
+}
+
+void MpvPlayer::sendAdjustment() {
+    if (!_video.usesOpenGL())
+        return;
+    const std::pair<const char*, int> values[] = {{"contrast", _adjustment.contrast},
+                                                  {"brightness", _adjustment.brightness},
+                                                  {"gamma", _adjustment.gamma},
+                                                  {"saturation", _adjustment.saturation},
+                                                  {"hue", _adjustment.hue}};
+    for (const auto& [name, value] : values)
+        command({"set", name, QByteArray::number(value).constData()});
+}
+
+void MpvPlayer::askForFields(double seconds) {
+    // Once more each second: a film may begin with a title of whole pictures.
+    const int second = static_cast<int>(seconds);
+    if (!_core || _isInterlaced || std::exchange(_fieldsAskedAt, second) == second)
+        return;
+    MpvLibrary::get()->mpv_get_property_async(_core->handle(), fieldsReply + _loads, "video-frame-info/interlaced",
+                                              MPV_FORMAT_FLAG);
+}
+
+void MpvPlayer::answerProperty(const mpv_event& event) {
+    const auto* property = static_cast<const mpv_event_property*>(event.data);
+    if (event.error < 0 || event.reply_userdata != fieldsReply + _loads || property->format != MPV_FORMAT_FLAG ||
+        _state.file != PlayerState::File::shown || *static_cast<const int*>(property->data) == 0)
+        return;
+    _isInterlaced = true;
+    updateFilters();
 }
 
 void MpvPlayer::still(std::function<void(QImage)> completion) {

@@ -59,6 +59,14 @@ public:
     void step(int direction) override { apply(playerEvent::Step{direction}); }
     std::optional<Section> repeated() const override { return _state.repeated; }
     void repeat(const std::optional<Section>& section) override { apply(playerEvent::Repeat{section}); }
+    void shapeChanged() override;
+    PictureAdjustment adjustment() const override { return _adjustment; }
+    void setAdjustment(const PictureAdjustment& adjustment) override;
+    Deinterlacing deinterlacing() const override { return _deinterlacing; }
+    void setDeinterlacing(Deinterlacing when) override {
+        _deinterlacing = when;
+        updateFilters();
+    }
     void still(std::function<void(QImage)> completion) override;
     float volume() const override { return _state.volume; }
     void setVolume(float volume) override { apply(playerEvent::SetVolume{volume}); }
@@ -80,6 +88,14 @@ private:
     void handle(const mpv_event& event);
     void propertyChanged(std::uint64_t property, const mpv_event_property& value);
     void answerStill(const mpv_event& event);
+    void answerProperty(const mpv_event& event);
+    /// What the core's filters are to do to the loaded movie.
+    QByteArray filters() const;
+    void updateFilters();
+    /// Tells the core's renderer, where that is one that does it.
+    void sendAdjustment();
+    /// Has the core say whether the picture that it shows is interlaced.
+    void askForFields(double seconds);
     void framesDue();
     /// How the decoded pictures code light: a container may say less than they do, or something else.
     void takeTransfer(const char* transfer);
@@ -154,6 +170,11 @@ private:
     /// The stills that were asked for, by the number of the core's reply.
     std::map<std::uint64_t, std::function<void(QImage)>> _stills;
     std::uint64_t _lastStill = 0;
+    PictureAdjustment _adjustment;
+    Deinterlacing _deinterlacing = Deinterlacing::automatic;
+    bool _isInterlaced = false;             // the loaded movie
+    int _fieldsAskedAt = -1;                // whole seconds of the movie
+    std::optional<QByteArray> _sentFilters; // of the movie that the core has loaded
 
     std::atomic<bool> _eventsPosted{false};
     std::atomic<bool> _framesPosted{false};

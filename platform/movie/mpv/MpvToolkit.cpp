@@ -3,6 +3,7 @@
 
 #include "platform/base/Background.h"
 #include "platform/base/Delivery.h"
+#include "platform/movie/BlackBars.h"
 #include "platform/movie/mpv/FileFetch.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
@@ -12,6 +13,7 @@
 
 #include <clocale>
 #include <utility>
+#include <vector>
 
 namespace platform {
 
@@ -124,6 +126,25 @@ std::unique_ptr<MovieOpening> MpvToolkit::coverAsync(const QUrl& url, std::funct
             return OpenedMovie{};
         },
         [cover, completion = std::move(completion)](const OpenedMovie&) { completion(*cover); });
+}
+
+std::unique_ptr<MovieOpening> MpvToolkit::blackBarsAsync(const QUrl& url, double duration,
+                                                         std::function<void(PictureShape::Crop)> completion) {
+    const auto crop = std::make_shared<PictureShape::Crop>();
+    return _opener.open(
+        [url, duration, crop](const std::atomic<bool>& cancelled) {
+            constexpr int samples = 8; // neither the titles nor the credits
+            constexpr QSize largest(4096, 4096);
+            std::vector<QImage> pictures;
+            for (int i = 1; i <= samples && !cancelled; ++i) {
+                const double seconds = duration * i / (samples + 1);
+                if (const auto picture = FirstFrame::decode(url, cancelled, FirstFrame::PictureOf::keyframe, seconds))
+                    pictures.push_back(picture->image(largest));
+            }
+            *crop = blackBars(pictures);
+            return OpenedMovie{};
+        },
+        [crop, completion = std::move(completion)](const OpenedMovie&) { completion(*crop); });
 }
 
 } // namespace platform

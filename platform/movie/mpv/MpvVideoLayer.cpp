@@ -55,6 +55,11 @@ bool MpvVideoLayer::setDynamicRange(const DynamicRange& range) {
     return true;
 }
 
+void MpvVideoLayer::setNaturalSize(const QSizeF& naturalSize) {
+    _naturalSize = naturalSize;
+    _cropPicture = QRect(); // it is told anew
+}
+
 void MpvVideoLayer::keepLastFrame() {
     dropLastFrame();
     if (_shown.visible.isEmpty())

@@ -38,6 +38,8 @@ public:
     /// How the core's pictures code light. The software renderer leaves that as it is: a high range is mapped here.
     /// Answers whether it is another one than before.
     bool setDynamicRange(const DynamicRange& range);
+    /// The core's pictures are of that size from here on.
+    void setNaturalSize(const QSizeF& naturalSize);
     /// No picture of the movie comes that the last one would stand in for.
     void dropLastFrame();
     void setFirst(std::shared_ptr<const FirstFrame> first) { _first = std::move(first); }
