@@ -111,11 +111,13 @@ void KeysPage::connectControls() {
 
 void KeysPage::listCommands() {
     QTreeWidget& tree = *_controls->_keysCommands;
+    QFont bold;
+    bold.setBold(true);
     for (const Section section : sections) {
         auto* heading = new QTreeWidgetItem(&tree, {localized(sectionTitle(section))});
         heading->setFlags(Qt::ItemIsEnabled);
         heading->setFirstColumnSpanned(true);
-        heading->setBackground(0, tree.palette().alternateBase());
+        heading->setFont(0, bold);
         for (const Command& command : commands())
             if (command.section == section && hasChangeableKeys(command)) {
                 auto* item = new QTreeWidgetItem(heading, {titleOf(command)});
@@ -180,6 +182,8 @@ void KeysPage::search(const QString& words) {
             first = item;
     }
     QTreeWidget& tree = *_controls->_keysCommands;
+    QFont bold;
+    bold.setBold(true);
     for (int section = 0; section < tree.topLevelItemCount(); ++section) {
         QTreeWidgetItem* heading = tree.topLevelItem(section);
         int hidden = 0;

@@ -21,6 +21,7 @@
 #include "platform/base/ToolDownloads.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/linux/Backlight.h"
+#include "platform/desktop/linux/ColorSchemePortal.h"
 #include "platform/desktop/linux/DisplayServer.h"
 #include "platform/desktop/linux/FileChooserPortal.h"
 #include "platform/desktop/linux/RecentlyUsedFile.h"
@@ -28,6 +29,7 @@
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
 #include "platform/desktop/linux/SystemPower.h"
+#include "platform/desktop/qt/DarkPalette.h"
 #include "platform/desktop/qt/QtDesktop.h"
 #include "platform/movie/mpv/MpvToolkit.h"
 #include "platform/window/qt/QtWindowHost.h"
@@ -259,6 +261,10 @@ int play(int& count, char** arguments, const CommandLine& line) {
         platform::background::run([] { platform::PrivateFolder::sweep(); });
         if (!files.files.isEmpty())
             take(files);
+        platform::DarkPalette palette;
+        const platform::ColorSchemePortal scheme([&palette](platform::ColorSchemePortal::Scheme told) {
+            palette.setWanted(told == platform::ColorSchemePortal::Scheme::dark);
+        });
         status = desktop.run(player.application());
         instance.close(); // nothing more is received
     }

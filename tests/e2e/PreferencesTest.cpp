@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/e2e/PlayerFixture.h"
+#include "tests/support/FakePortal.h"
+#include "tests/support/PrivateBus.h"
 
 #include <algorithm>
 #include <csignal>
@@ -280,5 +282,37 @@ TEST_F(Preferences, show_a_style_on_the_screen_while_it_is_changed) {
     probe.tap(XK_Escape);
     EXPECT_TRUE(closes());
     EXPECT_TRUE(probe.waitForColor(x, y, red)) << "closed";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, and_menus_are_dark_while_the_desktop_is) {
+    PrivateBus bus;
+    FakePortal portal{PrivateBus::connection()};
+    portal.colorScheme = 1U;
+    ASSERT_TRUE(portal.offer());
+    const auto served = [](const std::function<bool()>& done) {
+        return waitUntil([&] {
+            QCoreApplication::processEvents();
+            return done();
+        });
+    };
+    startRecorded(LUMARO_PROGRAM, {{"DBUS_SESSION_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS").toStdString()}},
+                  {"--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(served([&] { return portal.calls.contains("Read(org.freedesktop.appearance|color-scheme)"); }));
+    ASSERT_TRUE(opens());
+    // Left of the button at the window's lower edge.
+    constexpr int x = screenWidth / 2, y = 676;
+    const Color dark{46, 46, 46}, light{239, 239, 239};
+    EXPECT_TRUE(probe.waitForColor(x, y, dark));
+    for (const bool isDark : {false, true}) {
+        portal.changeSetting("org.freedesktop.appearance", "color-scheme", isDark ? 1U : 2U);
+        EXPECT_TRUE(probe.waitForColor(x, y, isDark ? dark : light)) << isDark;
+    }
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    probe.click(screenWidth / 4, screenHeight / 2, 3);
+    EXPECT_TRUE(probe.waitForColor(screenWidth / 4 + 60, screenHeight / 2 + 3, dark)) << "the menu";
+    probe.tap(XK_Escape);
     ASSERT_TRUE(quitsCleanly());
 }

@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QList>
 #include <QStringList>
@@ -32,7 +33,7 @@ inline const QDBusArgument& operator>>(const QDBusArgument& argument, FakePortal
     return argument;
 }
 
-/// Plays the desktop's portal for files on a bus, and writes down what it is asked.
+/// Plays the desktop's portal for files and for settings on a bus, and writes down what it is asked.
 class FakePortal final : public QDBusVirtualObject {
 public:
     enum class Manner { answers, cancels, fails, refuses, waits };
@@ -54,6 +55,14 @@ public:
     Manner manner = Manner::answers;
     QStringList addresses;
     QString option = "false";
+    /// What it says of the desktop's appearance; nothing while invalid.
+    QVariant colorScheme;
+    void changeSetting(const QString& space, const QString& key, const QVariant& value) {
+        QDBusMessage changed = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
+                                                          "org.freedesktop.portal.Settings", "SettingChanged");
+        changed << space << key << QVariant::fromValue(QDBusVariant(value));
+        _bus.send(changed);
+    }
     /// The members that were called, with their arguments.
     QStringList calls;
     std::function<void(const QString&)> onCall = [](const QString&) {};
@@ -65,7 +74,12 @@ public:
             arguments.append(described(argument));
         calls.append(call.member() + '(' + arguments.join("|") + ')');
         onCall(calls.last());
-        if (call.member() != "OpenFile" && call.member() != "SaveFile") {
+        if (call.member() == "Read" && colorScheme.isValid()) {
+            const auto wrapped = [](const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); };
+            bus.send(call.createReply(wrapped(wrapped(colorScheme))));
+        } else if (call.member() == "Read") {
+            bus.send(call.createErrorReply("org.freedesktop.portal.Error.NotFound", "no such setting"));
+        } else if (call.member() != "OpenFile" && call.member() != "SaveFile") {
             bus.send(call.createReply());
         } else if (manner == Manner::refuses) {
             bus.send(call.createErrorReply(QDBusError::UnknownMethod, "no"));
