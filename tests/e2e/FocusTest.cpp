@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/e2e/PlayerFixture.h"
+#include "tests/e2e/PreferencesFixture.h"
 
 #include <filesystem>
 #include <memory>
@@ -12,7 +12,7 @@ using namespace harness;
 namespace {
 
 /// A screen with a window manager and another program on it, which the keyboard can go to.
-class Focus : public PlayerFixture {
+class Focus : public PreferencesFixture {
 protected:
     std::unique_ptr<ChildProcess> startBeside(const std::vector<std::string>& arguments) {
         ChildProcess::Options options;
@@ -22,6 +22,15 @@ protected:
     }
     std::unique_ptr<ChildProcess> startOther() {
         return startBeside({"ffplay", "-v", "error", "-f", "lavfi", "-i", "color=c=0x00C800:s=320x180"});
+    }
+    // Switches a row of the preferences' first page on, by its letter.
+    testing::AssertionResult switchOn(KeySym letter, const std::string& key) {
+        if (const auto opened = opens(); !opened)
+            return opened;
+        probe.tap(letter, {XK_Alt_L});
+        const auto stored = stores(key, "<true/>");
+        probe.tap(XK_Escape);
+        return !stored ? stored : closes() ? testing::AssertionSuccess() : testing::AssertionFailure() << "it stays";
     }
     bool isSeen() { return probe.pixel(40, screenHeight - 40).isNear(red); }
 
@@ -38,9 +47,10 @@ private:
 } // namespace
 
 TEST_F(Focus, a_player_hidden_for_another_program_is_brought_back) {
-    start({"--set", "QVHideOnDeactivate=1", "--set", "QVMainWindowLayer=0", numbered("red.mp4", red, 900)});
+    start({"--set", "QVMainWindowLayer=0", numbered("red.mp4", red, 900)});
     ASSERT_TRUE(waitUntil([&] { return isSeen(); }));
     ASSERT_TRUE(logs("-[QVAppController applicationDidBecomeActive:]"));
+    ASSERT_TRUE(switchOn(XK_h, "QVHideOnDeactivate"));
     auto other = startOther();
     ASSERT_TRUE(waitUntil([&] { return !isSeen(); })) << "it is not hidden";
     // The window manager's own list of windows, held open as long as a user would.
@@ -62,9 +72,10 @@ TEST_F(Focus, a_player_hidden_for_another_program_is_brought_back) {
 }
 
 TEST_F(Focus, only_another_program_pauses) {
-    start({"--set", "QVPauseOnDeactivate=1", "--set", "QVMainWindowLayer=0", numbered("red.mp4", red, 900)});
+    start({"--set", "QVMainWindowLayer=0", numbered("red.mp4", red, 900)});
     ASSERT_TRUE(waitUntil([&] { return isSeen(); }));
     ASSERT_TRUE(logs("-[QVAppController applicationDidBecomeActive:]"));
+    ASSERT_TRUE(switchOn(XK_u, "QVPauseOnDeactivate"));
     const auto window = probe.windowAt(320, 220);
     probe.click(300, 200, 3);
     ASSERT_TRUE(waitUntil([&] { return probe.windowAt(320, 220) != window; })) << "no menu opened";

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bitmap subtitles beside a movie, on the screen: where, when, out of which file and in which language.
-#include "tests/e2e/SubtitledMovie.h"
+#include "tests/e2e/PreferencesFixture.h"
 #include "tests/support/RarWriter.h"
 #include "tools/vobsub/VobSubWriter.h"
 
@@ -13,7 +13,7 @@ using namespace harness;
 
 namespace {
 
-class VobSub : public SubtitledMovie {
+class VobSub : public PreferencesFixture {
 protected:
     static constexpr std::uint8_t blueOfPalette = 6;
 
@@ -187,5 +187,37 @@ TEST_F(VobSub, a_damaged_track_goes_on_where_it_is_repaired) {
     probe.tap(XK_r);
     ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Repair: Off"));
     EXPECT_TRUE(nothingStands());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(VobSub, the_style_of_the_preferences_acts_on_the_cue_that_stands) {
+    // Where it is seen beside the window.
+    vobsub::Subpicture narrow = rectangle(10, 400, 6, 60);
+    narrow.stop = 6000 * 90 / 1024;
+    vobsub::PairWriter writer;
+    writer.addStream("en");
+    writer.add(0, 1000, narrow);
+    startStanding(movie({{"idx", writer.index()}, {"sub", dataOf(writer)}}));
+    jump(1, 2);
+    const int x = 13 * screenWidth / 720, y = 430 * screenHeight / 480;
+    ASSERT_TRUE(waitUntil([&] { return probe.pixel(x, y).blue > 200; }));
+    ASSERT_TRUE(opens());
+    probe.tap(XK_s, {XK_Alt_L});
+    probe.click(146, 200); // its tab
+    probe.tap(XK_y, {XK_Alt_L});
+    probe.tap(XK_Home); // no opacity at all
+    EXPECT_TRUE(probe.waitForColor(x, y, red));
+    for (int step = 0; step < 5; ++step)
+        probe.tap(XK_Prior);
+    EXPECT_TRUE(stores("MaxAlpha", "<real>0.5</real>"));
+    const auto isHalf = [&] {
+        const Color seen = probe.pixel(x, y);
+        return seen.blue > 80 && seen.blue < 180 && seen.red > 60;
+    };
+    EXPECT_TRUE(waitUntil(isHalf)) << probe.pixel(x, y);
+    probe.tap(XK_End);
+    EXPECT_TRUE(waitUntil([&] { return probe.pixel(x, y).blue > 200; }));
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
     ASSERT_TRUE(quitsCleanly());
 }
