@@ -140,6 +140,8 @@ const Samples& Measurements::run() {
         measureSubtitles();
     if (wants("fade"))
         measureFade();
+    if (wants("drag"))
+        measureDrag();
     return _samples;
 }
 

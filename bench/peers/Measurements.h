@@ -27,8 +27,8 @@ struct Plan {
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu",  "memory",    "paused", "jump",  "open",
-                                               "osd",   "fade", "subtitles", "track",  "change"};
+inline const std::set<std::string> rowNames = {"start", "cpu",  "memory",    "paused", "jump",   "open",
+                                               "osd",   "fade", "subtitles", "track",  "change", "drag"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -62,6 +62,7 @@ private:
     void measureTimeDisplay();
     void measureSubtitles();
     void measureFade();
+    void measureDrag();
 
     // A player that shows the movie. Throws std::runtime_error with its words when it does not.
     std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player) { return startPlaying(player, {_movie}); }
@@ -74,6 +75,7 @@ private:
     bool showsText(const Player& player, const harness::Region& part, const std::string& plainMovie,
                    const std::vector<std::string>& options);
     void playFading(const Player& player, const std::string& movie, bool fading);
+    void playWithPreferences(const Player& player, const std::string& movie, bool dragging);
     void playOnce(const Player& player);
     void changeThrice(const Player& player, const std::vector<std::string>& movies);
     void jumpThrice(const Player& player, bool exactly, int round);

@@ -13,6 +13,20 @@ namespace {
 
 constexpr int bitCount = 12; // as harness::MediaFixture::frameNumber reads them
 constexpr Color stripe{220, 0, 0};
+// The lines along the top of the fast movie: the number, and the stripe below it.
+constexpr harness::Region head{0, 0, screenWidth, 90};
+constexpr int numberHeight = 60;
+
+// The number of each frame as blocks of black and white, in these lines.
+std::string numberFilter(const std::string& lines) {
+    std::string filter = "drawbox=x=0:" + lines + ":w=iw:color=black:t=fill";
+    const int block = screenWidth / bitCount;
+    for (int bit = 0; bit < bitCount; ++bit)
+        filter += ",drawbox=x=" + std::to_string(block * (bitCount - 1 - bit)) + ':' + lines +
+                  ":w=" + std::to_string(block) + ":color=white:t=fill:enable='gte(mod(n," + std::to_string(2 << bit) +
+                  ")," + std::to_string(1 << bit) + ")'";
+    return filter;
+}
 
 // An mp4 box that readers skip, with the number in it.
 std::string unlikeAnyOther(int number) {
@@ -27,12 +41,7 @@ std::string unlikeAnyOther(int number) {
 } // namespace
 
 std::filesystem::path makeMovie(const harness::MediaFixture& media) {
-    std::string filter = "drawbox=x=0:y=ih*7/16:w=iw:h=ih/8:color=black:t=fill";
-    const int block = screenWidth / bitCount;
-    for (int bit = 0; bit < bitCount; ++bit)
-        filter += ",drawbox=x=" + std::to_string(block * (bitCount - 1 - bit)) +
-                  ":y=ih*7/16:w=" + std::to_string(block) + ":h=ih/8:color=white:t=fill:enable='gte(mod(n," +
-                  std::to_string(2 << bit) + ")," + std::to_string(1 << bit) + ")'";
+    std::string filter = numberFilter("y=ih*7/16:h=ih/8");
     filter += ",drawbox=x=0:y=ih*15/16:w=iw:h=ih/16:color=" + harness::ffmpegColor(stripe) + ":t=fill";
     const std::string keyframes = "250";
     return media.make("side by side.mp4", {"-f",
@@ -55,6 +64,15 @@ std::filesystem::path makeMovie(const harness::MediaFixture& media) {
                                            keyframes,
                                            "-sc_threshold",
                                            "0"});
+}
+
+std::filesystem::path makeFastMovie(const harness::MediaFixture& media) {
+    const std::string filter =
+        numberFilter("y=0:h=" + std::to_string(numberHeight)) + ",drawbox=x=0:y=" + std::to_string(numberHeight) +
+        ":w=iw:h=" + std::to_string(head.height - numberHeight) + ":color=" + harness::ffmpegColor(stripe) +
+        ":t=fill,drawbox=x=0:y=ih*15/16:w=iw:h=ih/16" + ":color=" + harness::ffmpegColor(stripe) + ":t=fill";
+    return media.make("fast.mp4", {"-f", "lavfi", "-i", "testsrc2=s=1920x1080:r=60:d=30", "-vf", filter, "-c:v",
+                                   "libx264", "-preset", "veryfast", "-crf", "23", "-pix_fmt", "yuv420p"});
 }
 
 std::filesystem::path makePlainMovie(const harness::MediaFixture& media) {
@@ -89,6 +107,10 @@ bool showsMovie(harness::XProbe& probe) {
 
 std::optional<int> frameOnScreen(harness::XProbe& probe) {
     return harness::MediaFixture::frameNumber(probe, {0, 0, screenWidth, screenHeight});
+}
+
+std::optional<int> fastFrameOnScreen(harness::XProbe& probe) {
+    return harness::MediaFixture::frameNumber(probe, head);
 }
 
 std::vector<std::string> makeManyMovies(const harness::MediaFixture& media, const std::filesystem::path& folder,

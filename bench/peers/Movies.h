@@ -19,6 +19,10 @@ inline constexpr int framesPerSecond = 30;
 // with keyframes 250 apart. It carries each frame's number across its middle and a red stripe at its bottom, by which
 // it is seen from outside. Throws std::runtime_error when ffmpeg fails.
 std::filesystem::path makeMovie(const harness::MediaFixture& media);
+// Half a minute of moving test picture of 60 frames a second, as large, with the frame's number along its top.
+inline constexpr int fastFramesPerSecond = 60;
+std::filesystem::path makeFastMovie(const harness::MediaFixture& media);
+std::optional<int> fastFrameOnScreen(harness::XProbe& probe);
 // A minute of nothing but the stripe's colour, as large: what stands over it is seen.
 std::filesystem::path makePlainMovie(const harness::MediaFixture& media);
 

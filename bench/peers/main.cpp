@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Lumaro beside other players and prints a table:
-//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change]
+//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag]
 // Progress and every sample go to standard error.
 #include "bench/peers/Measurements.h"
 
@@ -45,6 +45,13 @@ const std::vector<Line> lines = {
     {"CPU seconds a second, with subtitles of two lines", "subtitles", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"CPU seconds a second while overlays fade (first column: none do)", "fade", {"none fading"}, "%.3f", {}, 0.03},
     {"pictures left out meanwhile (first column: none fade)", "fade left out", {"none fading"}, "%.0f", {}, 0.0},
+    {"pictures of 1080p60 left out a second while a slider restyles the subtitle (first column: it rests)",
+     "drag left out",
+     {"resting"},
+     "%.1f",
+     {},
+     0.0},
+    {"CPU seconds a second meanwhile", "drag", {"resting"}, "%.3f", {}, {}},
     {"paused: CPU ticks in 10 s", "paused ticks", {"mpv", "VLC"}, "%.0f", 0.0, {}},
     {"paused: ms run in 10 s", "paused run", {"mpv", "VLC"}, "%.1f", {}, {}},
     {"paused: ms the X server ran in 10 s", "paused server", {"mpv", "VLC"}, "%.1f", {}, {}},
@@ -108,9 +115,9 @@ std::optional<Plan> planOf(const std::vector<std::string>& arguments) {
 int main(int count, char** arguments) {
     const auto plan = planOf({arguments + 1, arguments + count});
     if (!plan) {
-        std::fputs(
-            "usage: side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade]\n",
-            stderr);
+        std::fputs("usage: side_by_side [--quick] [--rows "
+                   "start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag]\n",
+                   stderr);
         return 2;
     }
     try {
