@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/base/Localization.h"
-#include "prefs/QVPreferencesController.h"
-#include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
-#include "tests/support/FakeDesktop.h"
-#include "tests/support/FakeVersions.h"
-#include "tests/support/StandingPicture.h"
-#include "tests/support/TestEnvironment.h"
+#include "tests/prefs/ShownPreferences.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -20,33 +14,14 @@
 #include <QSlider>
 #include <QTabWidget>
 
-#include <gtest/gtest.h>
-
 #include <limits>
-#include <optional>
+#include <utility>
 
 namespace {
 
 /// What the window has beside the controls that store what they show.
-class PreferencesWindow : public testing::Test {
+class PreferencesWindow : public ShownPreferences {
 protected:
-    explicit PreferencesWindow(const char* language = "en") {
-        platform::setLocalizationLanguages({language});
-        _posts = env.notifications.observe<QVPreferencesChangedNotification>(
-            [this](const auto& posted) { keys << posted.key; });
-    }
-    ~PreferencesWindow() override { platform::setLocalizationLanguages({}); }
-
-    void show(const QVariantMap& values = {}) {
-        for (auto value = values.begin(); value != values.end(); ++value)
-            env.defaults().setObject(value.value(), value.key());
-        controller.emplace(env.environment, desktop, pictures, versions);
-        controller->showAbove(nullptr);
-    }
-    template <class Control>
-    Control& control(const char* name) {
-        return *controller->window().findChild<Control*>(name);
-    }
     void openPage(const char* name) { control<QTabWidget>("_pages").setCurrentWidget(&control<QWidget>(name)); }
     QString openPage() { return control<QTabWidget>("_pages").currentWidget()->objectName(); }
     static bool press(QWidget& widget, int key) {
@@ -55,16 +30,6 @@ protected:
         return event.isAccepted();
     }
     QVariant stored(const QString& key) { return env.defaults().persistentDomain().value(key); }
-
-    TestEnvironment env;
-    FakeDesktop desktop;
-    StandingPicture pictures;
-    QStringList keys;
-    FakeVersions versions;
-    std::optional<QVPreferencesController> controller;
-
-private:
-    platform::Subscription _posts;
 };
 
 } // namespace

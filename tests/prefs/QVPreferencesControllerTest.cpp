@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "prefs/QVPreferencesController.h"
 #include "context/Notifications.h"
-#include "platform/base/Localization.h"
 #include "platform/base/TextEncoding.h"
 #include "settings/OverlayStyle.h"
 #include "settings/QVOverlayStyleDefaults.h"
-#include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/JHStringEncodings.h"
+#include "tests/prefs/ShownPreferences.h"
 #include "tests/support/CapturedLog.h"
-#include "tests/support/FakeDesktop.h"
-#include "tests/support/FakeVersions.h"
-#include "tests/support/StandingPicture.h"
-#include "tests/support/TestEnvironment.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
@@ -33,38 +29,17 @@
 #include <QSpinBox>
 #include <QTabWidget>
 
-#include <gtest/gtest.h>
-
 #include <map>
-#include <optional>
 #include <stdexcept>
 
 namespace {
 
 const QVariantList recentEncodings{4, 12, 0};
 
-class Preferences : public testing::Test {
+class Preferences : public ShownPreferences {
 protected:
-    explicit Preferences(const QVariantMap& stored = {})
-        : env(stored) {
-        platform::setLocalizationLanguages({"en"});
-        _posts = env.notifications.observe<QVPreferencesChangedNotification>(
-            [this](const auto& posted) { keys << posted.key; });
-    }
-    ~Preferences() override { platform::setLocalizationLanguages({}); }
+    using ShownPreferences::ShownPreferences;
 
-    void show(const QVariantMap& values = {}) {
-        for (auto value = values.begin(); value != values.end(); ++value)
-            env.defaults().setObject(value.value(), value.key());
-        controller.emplace(env.environment, desktop, pictures, versions);
-        controller->showAbove(nullptr);
-    }
-    template <class Control>
-    Control& control(const char* name) {
-        auto* found = controller->window().findChild<Control*>(name);
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
     /// Chooses the item or button of a tag, or switches a check box, as the user does.
     void chooseTag(const char* name, int tag) {
         QWidget& window = controller->window();
@@ -128,6 +103,20 @@ protected:
                 controls << widget;
         return controls;
     }
+    /// Whatever takes the keyboard or the pointer, but for the parts that controls are made of.
+    QList<QWidget*> everyControl() {
+        QList<QWidget*> controls;
+        for (QWidget* widget : controller->window().findChildren<QWidget*>()) {
+            // The list of a pop-up is a window of its own.
+            const bool isPart = widget->window() != &controller->window() || widget->focusProxy() ||
+                                qobject_cast<QAbstractSpinBox*>(widget->parent()) ||
+                                qobject_cast<QAbstractScrollArea*>(widget->parent());
+            if (widget->focusPolicy() != Qt::NoFocus && !isPart)
+                controls << widget;
+        }
+        EXPECT_GT(controls.size(), 100);
+        return controls;
+    }
     QLabel* labelOf(const QWidget& widget) {
         for (auto* label : controller->window().findChildren<QLabel*>())
             if (label->buddy() == &widget)
@@ -141,16 +130,6 @@ protected:
                 titles << item->text();
         return titles;
     }
-
-    TestEnvironment env;
-    FakeDesktop desktop;
-    StandingPicture pictures;
-    FakeVersions versions;
-    QStringList keys;
-    std::optional<QVPreferencesController> controller;
-
-private:
-    platform::Subscription _posts;
 };
 
 QString nameOf(std::uint32_t encoding) {
@@ -516,6 +495,14 @@ TEST_F(Preferences, every_control_has_a_name_a_tip_and_a_letter_of_its_own_in_ev
         platform::setLocalizationLanguages({language});
         show();
         auto& pages = control<QTabWidget>("_pages");
+        for (QWidget* widget : everyControl()) {
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(accessible, nullptr) << widget->objectName().toStdString();
+            const QString name = accessible->text(QAccessible::Name);
+            EXPECT_FALSE(name.isEmpty()) << language << ": " << widget->metaObject()->className() << " of "
+                                         << widget->parent()->objectName().toStdString();
+            EXPECT_FALSE(name.contains(u'&')) << language << ": " << name.toStdString();
+        }
         std::map<QString, QString> everywhere;
         const auto letter = [](const QString& text) {
             const auto at = text.indexOf(u'&');
@@ -532,9 +519,6 @@ TEST_F(Preferences, every_control_has_a_name_a_tip_and_a_letter_of_its_own_in_ev
         for (int page = 0; page < pages.count(); ++page) {
             std::map<QString, QString> taken = everywhere;
             for (QWidget* widget : ownControls(*pages.widget(page))) {
-                QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-                ASSERT_NE(accessible, nullptr) << widget->objectName().toStdString();
-                EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
                 EXPECT_FALSE(widget->toolTip().isEmpty()) << widget->objectName().toStdString();
                 if (const auto* button = qobject_cast<QAbstractButton*>(widget);
                     button && widget->objectName() != "_subtitlesDefaultEncoding")
