@@ -72,7 +72,7 @@ std::filesystem::path makeFastMovie(const harness::MediaFixture& media) {
         ":w=iw:h=" + std::to_string(head.height - numberHeight) + ":color=" + harness::ffmpegColor(stripe) +
         ":t=fill,drawbox=x=0:y=ih*15/16:w=iw:h=ih/16" + ":color=" + harness::ffmpegColor(stripe) + ":t=fill";
     return media.make("fast.mp4", {"-f", "lavfi", "-i", "testsrc2=s=1920x1080:r=60:d=30", "-vf", filter, "-c:v",
-                                   "libx264", "-preset", "veryfast", "-crf", "23", "-pix_fmt", "yuv420p"});
+                                   "libx264", "-preset", "ultrafast", "-crf", "26", "-pix_fmt", "yuv420p"});
 }
 
 std::filesystem::path makePlainMovie(const harness::MediaFixture& media) {
