@@ -6,12 +6,10 @@
 #include "playback/DropTarget.h"
 #include "playback/StandingMessage.h"
 
-#include <QStringList>
-
 #include <cstdint>
 
 /// Takes what is dragged onto the window: files, folders and addresses. While it hovers, the screen says whether it
-/// would replace the list or be added to it. Main thread.
+/// would replace the list, be added to it or, being subtitles, to the movie. Main thread.
 class Drops final : public DropTarget {
 public:
     /// Both outlive it; the feedback is not used before something is dragged in.
@@ -19,9 +17,7 @@ public:
         FileIntake& files;
         FeedbackDisplay& feedback;
     };
-    /// The types are extensions in lower case, without dots: those of movies, and those of subtitles.
-    Drops(const Environment& environment, const Collaborators& collaborators, QStringList types,
-          QStringList subtitleTypes);
+    Drops(const Environment& environment, const Collaborators& collaborators);
 
     std::uint32_t draggingEntered(const platform::DraggingInfo& info) override;
     std::uint32_t draggingUpdated(const platform::DraggingInfo& info) override;
@@ -29,10 +25,6 @@ public:
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
 private:
-    bool areSubtitles(const QStringList& paths) const;
-
     Collaborators _with;
-    QStringList _types;
-    QStringList _subtitleTypes;
     StandingMessage _hint;
 };

@@ -2,6 +2,7 @@
 #include "app/FileIntake.h"
 
 #include "app/OpeningFiles.h"
+#include "app/SubtitleTaker.h"
 #include "control/ModifierFlags.h"
 #include "platform/base/Background.h"
 #include "platform/base/Delivery.h"
@@ -14,6 +15,7 @@
 #include "platform/window/Events.h"
 #include "playback/MovieOrdering.h"
 #include "playlist/Arrangement.h"
+#include "playlist/OpeningReport.h"
 #include "playlist/files/ListFile.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
@@ -112,8 +114,38 @@ FileIntake::~FileIntake() {
         search->giveUp();
 }
 
-void FileIntake::take(const QStringList& pathsOrUrls, Adding adding) {
+bool FileIntake::wouldAddToMovie(const QStringList& paths) const {
+    return _subtitleTaker && _subtitleTaker->hasMovie() && !paths.isEmpty() &&
+           std::ranges::all_of(paths, [this](const QString& path) { return _subtitleTaker->isSubtitles(path); });
+}
+
+/// What is left to be opened. Subtitles belong to the one movie that they came with, else to the one that is shown;
+/// those that came with several are found beside them by themselves.
+QStringList FileIntake::withoutSubtitles(const QStringList& pathsOrUrls, Adding adding) {
+    QStringList subtitles, others;
+    for (const QString& one : pathsOrUrls)
+        (_subtitleTaker && !isURLString(one) && _subtitleTaker->isSubtitles(one) ? subtitles : others).append(one);
+    if (subtitles.isEmpty() || others.size() > 1)
+        return pathsOrUrls;
+    if (others.size() == 1) {
+        _subtitleTaker->holdFor(subtitles, others.front());
+    } else if (_subtitleTaker->hasMovie()) {
+        _subtitleTaker->add(subtitles);
+    } else {
+        QList<OpeningFailure> failures;
+        for (const QString& path : subtitles)
+            failures.append({platform::urlOfNativePath(platform::bytesOfPath(platform::pathFromStored(path))),
+                             OpeningReport::subtitlesAlone});
+        takeNone(failures, adding);
+    }
+    return others;
+}
+
+void FileIntake::take(const QStringList& handedOver, Adding adding) {
     if (_has_ended)
+        return;
+    const QStringList pathsOrUrls = withoutSubtitles(handedOver, adding);
+    if (pathsOrUrls.isEmpty() && !handedOver.isEmpty())
         return;
     if (adding == Adding::replace) {
         // What is looked for would take the place of what is handed over now.

@@ -18,6 +18,7 @@ class Desktop;
 } // namespace platform
 
 class FeedbackDisplay;
+class SubtitleTaker;
 
 /// Option held appends, by the masks of platform::modifier.
 Adding addingFor(std::uint32_t modifiers);
@@ -36,6 +37,11 @@ public:
     FileIntake(const FileIntake&) = delete;
     FileIntake& operator=(const FileIntake&) = delete;
     ~FileIntake();
+
+    /// Who takes what are subtitles; null for nobody. It outlives the intake, or is taken back.
+    void setSubtitleTaker(SubtitleTaker* taker) { _subtitleTaker = taker; }
+    /// Whether what is handed over would be added to the movie that is shown.
+    bool wouldAddToMovie(const QStringList& paths) const;
 
     /// Adds a path or URL to the batch, and opens one when there is none.
     void openFile(const QString& pathOrUrl);
@@ -60,6 +66,7 @@ public:
 
 private:
     struct Search;
+    QStringList withoutSubtitles(const QStringList& pathsOrUrls, Adding adding);
     void search(const QStringList& pathsOrUrls, Adding adding);
     void takeFound(const std::shared_ptr<Search>& search);
     void awaitMore(const std::shared_ptr<Search>& search, double delay);
@@ -70,6 +77,7 @@ private:
     platform::Desktop& _desktop;
     const std::shared_ptr<const MovieFinder::Means> _means;
     Sink _sink;
+    SubtitleTaker* _subtitleTaker = nullptr;
     bool _is_adding_files = false;
     bool _is_should_replace = true;
     bool _is_launching = true;

@@ -46,8 +46,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _feedback(environment, _window)
     , _subtitleReaders(subtitleReaders(environment, platform.toolkit.subtitlePacketReader()))
     , _subtitleDiscovery(environment.loop)
-    , _drops(environment, {_files, _feedback}, supportedFileTypes(platform.bundle),
-             _subtitleReaders.subtitleUnfilteredFileTypes())
+    , _drops(environment, {_files, _feedback})
     , _backdrop(environment, {platform.toolkit, _drops})
     , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _drops})
     , _memory(environment, {platform.movies, platform.recentlyUsed, _view, _feedback, _currentCommands,
@@ -65,6 +64,8 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _saving(environment, platform.desktop, _playlist)
     , _subtitleScene(environment, _window, _view)
     , _subtitles(environment, _subtitleScene)
+    , _addedSubtitles(environment, {platform.desktop, _view, _subtitles, _feedback},
+                      supportedFileTypes(platform.bundle), _subtitleReaders.subtitleUnfilteredFileTypes())
     , _heldSubtitles(environment, _subtitles)
     , _state(environment, {_playlist, _view, _subtitles, _heldSubtitles})
     , _stylePreview(environment, _window, _view)
@@ -74,11 +75,18 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _display(environment, _window, _texts)
     , _menu(environment, _currentCommands)
     , _activation(environment, _window, _view, _pointer)
-    , _application(environment,
-                   {platform.desktop, platform.toolkit, platform.bundle, steps,           _window,     _view,
-                    _backdrop,        _playlist,        _subtitles,      _commands,       _display,    _menu,
-                    _pointer,         _files,           _openPanels,     _saving,         _activation, _state,
-                    _memory,          _storageTroubles, _recent,         _currentCommands})
+    , _application(environment, {platform.desktop, platform.toolkit,
+                                 platform.bundle,  steps,
+                                 _window,          _view,
+                                 _backdrop,        _playlist,
+                                 _subtitles,       _commands,
+                                 _display,         _menu,
+                                 _pointer,         _files,
+                                 _openPanels,      _saving,
+                                 _activation,      _state,
+                                 _memory,          _storageTroubles,
+                                 _recent,          _currentCommands,
+                                 _addedSubtitles})
     , _controller(environment,
                   {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop, _application,
                    _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills, platform.toolkit})
@@ -95,9 +103,11 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);
     _commands.setTarget(&_controller);
+    _files.setSubtitleTaker(&_addedSubtitles);
 }
 
 MainObjects::~MainObjects() {
+    _files.setSubtitleTaker(nullptr);
     _commands.setTarget(nullptr);
     _window.setDelegate(nullptr);
 }

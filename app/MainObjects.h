@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Activation.h"
+#include "app/AddedSubtitles.h"
 #include "app/CommandRelay.h"
 #include "app/CurrentTexts.h"
 #include "app/Drops.h"
@@ -94,6 +95,7 @@ private:
     PlaylistSaving _saving;
     SubtitlesOverMovie _subtitleScene;
     QVSubtitlesController _subtitles;
+    AddedSubtitles _addedSubtitles;
     HeldSubtitles _heldSubtitles;
     SavedState _state;
     StylePreview _stylePreview;

@@ -2,6 +2,7 @@
 #include "app/QVAppController.h"
 
 #include "app/Activation.h"
+#include "app/AddedSubtitles.h"
 #include "app/FileIntake.h"
 #include "app/LaunchSteps.h"
 #include "app/MainMenu.h"
@@ -218,6 +219,10 @@ void QVAppController::doOpen() {
 
 void QVAppController::doOpenFolder() {
     _with.panels.doOpenFolder();
+}
+
+void QVAppController::addSubtitles() {
+    _with.addedSubtitles.ask();
 }
 
 void QVAppController::doOpenURL(std::int32_t type) {

@@ -19,6 +19,7 @@ class MovieToolkit;
 } // namespace platform
 
 class Activation;
+class AddedSubtitles;
 class CurrentCommands;
 class BackdropView;
 class CommandTarget;
@@ -66,6 +67,7 @@ public:
         StorageTroubles& storageTroubles;
         RecentMovies& recent;
         const CurrentCommands& commands;
+        AddedSubtitles& addedSubtitles;
     };
     QVAppController(const Environment& environment, const Collaborators& collaborators);
     QVAppController(const QVAppController&) = delete;
@@ -108,6 +110,7 @@ public:
     void scheduleCursorHide();
     void doOpen() override;
     void doOpenFolder() override;
+    void addSubtitles() override;
     void doOpenURL(std::int32_t type) override;
     void openRecent(std::int32_t position) override;
     void clearRecent() override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/RememberedMovies.h"
 
+#include "app/RememberedTracks.h"
 #include "control/CurrentCommands.h"
 #include "control/KeyText.h"
 #include "overlays/ClockText.h"
@@ -155,6 +156,7 @@ void RememberedMovies::movieChanged(const QVPlaylistMovieChangedNotification& no
         record = {}; // another movie stands there now
     if (size >= 0)
         record.insert(key::size, size);
+    RememberedTracks::restore(*notification.movie, record);
     record.insert(key::used, _environment.loop.date().toUTC());
     store(movie.address(), record);
     writeSoon(changeDelay);
@@ -182,6 +184,7 @@ void RememberedMovies::rememberCurrent() {
         record.insert(key::subtitles, platform::storedPath(track->path()));
         record.insert(key::subtitlesIndex, static_cast<qlonglong>(track->streamIndex()));
     }
+    RememberedTracks::keep(*movie, record);
     if (record != before)
         store(movie->address(), record);
 }

@@ -18,6 +18,8 @@ public:
     /// The same for folders, and for addresses: one (type 0), or several (1).
     virtual void doOpenFolder() = 0;
     virtual void doOpenURL(std::int32_t type) = 0;
+    /// Asks for files of subtitles, and adds them to the movie that is shown.
+    virtual void addSubtitles() = 0;
     /// Opens the movie of a position in the menu of those seen last, which was filled before.
     virtual void openRecent(std::int32_t position) = 0;
     /// Empties that menu, and forgets what is remembered of its movies.

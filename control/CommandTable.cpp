@@ -3,11 +3,15 @@
 #include "control/Commands.h"
 #include "control/QVMovieController.h"
 #include "control/SpeedSteps.h"
+#include "control/SubtitleCommandTable.h"
 #include "control/VolumeSteps.h"
 #include "platform/desktop/Power.h"
 #include "platform/window/Events.h"
 #include "playback/MovieSizing.h"
 #include "playlist/Arrangement.h"
+
+#include <algorithm>
+#include <array>
 
 namespace fnkey = platform::functionKey;
 
@@ -55,10 +59,8 @@ struct CommandTable {
     static constexpr Operation playPrevNext{"playPrevNext", &Self::playPrevNext, &Self::validatePrevNext};
     static constexpr Operation changeLooping{"changeLooping", &Self::changeLooping, &Self::validateLooping};
     static constexpr Operation toggleLooping{"toggleLooping", &Self::toggleLooping};
+    static constexpr Operation shiftSound{"shiftSound", &Self::shiftSound, &Self::validateShiftSound};
     static constexpr Operation changeVolume{"changeVolume", &Self::changeVolume};
-    static constexpr Operation changeSubtitles{"changeSubtitles", &Self::changeSubtitles, &Self::validateSubtitles};
-    static constexpr Operation cycleSubtitles{"cycleSubtitles", &Self::cycleSubtitles};
-    static constexpr Operation toggleRepair{toggleRepairOperation, &Self::toggleRepair, &Self::validateRepair};
     static constexpr Operation switchScreen{"switchScreen", &Self::switchScreen};
 
     static constexpr Operation changeSpeed{changeSpeedOperation, &Self::changeSpeed, &Self::validateSpeed};
@@ -511,8 +513,30 @@ struct CommandTable {
                    {fnkey::mediaMute, none, consumed, keyboardMap, motion::any, CommandKey::Shown::no}}},
          .gesture = MouseGesture::middleClick,
          .section = Section::volume,
-         .menu = {"Mute"},
+         .menu = {"Mute", Separator::after},
          .help = "Mute"},
+        // The argument is in milliseconds; 0 takes the delay back.
+        {.name = "sound-earlier",
+         .operation = shiftSound,
+         .argument = -50,
+         .keys = {{{u'-', control}}},
+         .section = Section::volume,
+         .menu = {"Sound Earlier"},
+         .help = "Sound earlier and later"},
+        {.name = "sound-later",
+         .operation = shiftSound,
+         .argument = 50,
+         .keys = {{{u'+', control}, {u'=', control, acts, keyboardMap, motion::any, CommandKey::Shown::no}}},
+         .section = Section::volume,
+         .menu = {"Sound Later"},
+         .help = "Sound earlier and later"},
+        {.name = "sound-as-in-file",
+         .operation = shiftSound,
+         .argument = 0,
+         .keys = {{{u'0', control, consumed}}},
+         .section = Section::volume,
+         .menu = {"Sound as in the File"},
+         .help = "Sound at the times of the file"},
 
         // The argument is a position in the list; the items are made from it.
         {.name = "movie",
@@ -525,40 +549,10 @@ struct CommandTable {
          .section = Section::playlist,
          .help = "The whole list: search, move and remove movies",
          .title = "Show Playlist"},
+    };
 
-        // A position outside every list: no subtitles. The items of the tracks follow it.
-        {.name = "no-subtitles",
-         .operation = changeSubtitles,
-         .argument = -1,
-         .section = Section::subtitles,
-         .menu = {"None", Separator::after, "next-subtitles"},
-         .title = "No Subtitles"},
-        {.name = "next-subtitles",
-         .action = action::nextSubtitles,
-         .operation = cycleSubtitles,
-         .argument = 1,
-         .keys = {{{u's'}}},
-         .section = Section::subtitles,
-         .help = "Next and previous subtitles",
-         .title = "Next Subtitles"},
-        {.name = "previous-subtitles",
-         .action = action::previousSubtitles,
-         .operation = cycleSubtitles,
-         .argument = -1,
-         .keys = {{{u's', shift}}},
-         .section = Section::subtitles,
-         .help = "Next and previous subtitles",
-         .title = "Previous Subtitles"},
-
-        // Its item follows those of the tracks.
-        {.name = "repair-subtitles",
-         .operation = toggleRepair,
-         .keys = {{{u'r', none, consumed}}},
-         .section = Section::subtitles,
-         .menu = {"Repair", Separator::none},
-         .help = "Repair damaged subtitles",
-         .title = "Repair damaged subtitles"},
-
+    // Behind those of the subtitles.
+    static constexpr Command rowsBehind[] = {
         {.name = "next-screen",
          .action = action::nextScreen,
          .operation = switchScreen,
@@ -589,6 +583,19 @@ struct CommandTable {
     };
 };
 
+namespace {
+
+template <std::size_t First, std::size_t Second, std::size_t Third>
+constexpr auto joined(const Command (&first)[First], const Command (&second)[Second], const Command (&third)[Third]) {
+    std::array<Command, First + Second + Third> all{};
+    std::ranges::copy(third, std::ranges::copy(second, std::ranges::copy(first, all.begin()).out).out);
+    return all;
+}
+
+constexpr auto allRows = joined(CommandTable::rows, SubtitleCommandTable::rows, CommandTable::rowsBehind);
+
+} // namespace
+
 std::span<const Command> commands() {
-    return CommandTable::rows;
+    return allRows;
 }

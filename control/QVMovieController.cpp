@@ -28,7 +28,8 @@ constexpr double repeatInterval = 0.2;
 QVMovieController::QVMovieController(const Environment& environment, const Collaborators& collaborators)
     : _environment(environment)
     , _with(collaborators)
-    , _keyboardMap(collaborators.commands.all()) {
+    , _keyboardMap(collaborators.commands.all())
+    , _sync(collaborators.view, collaborators.subtitles) {
     _movieChanged = _environment.notifications.observe<QVPlaylistMovieChangedNotification>(
         [this](const auto& notification) { currentMovieChanged(notification); });
     // After the subtitles controller, which was made before: the movie has its tracks of the new mode.
@@ -43,6 +44,8 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
         if (loaded.current == _chosenSubtitles.lock())
             sayLosses();
     });
+    _subtitlesChanged =
+        _environment.notifications.observe<QVSubtitlesChangedNotification>([this](const auto&) { subtitlesChanged(); });
     _with.playlistMenu.setFiller([this](platform::Menu& menu) { fillPlaylistMenu(menu); });
 }
 

@@ -5,6 +5,7 @@
 #include "context/Environment.h"
 #include "control/AppleRemote.h"
 #include "control/KeyboardMap.h"
+#include "control/SubtitleSync.h"
 #include "platform/base/NotificationCenter.h"
 #include "platform/base/RunLoop.h"
 #include "platform/window/Menu.h"
@@ -100,6 +101,7 @@ public:
 
 private:
     friend struct CommandTable;
+    friend struct SubtitleCommandTable;
 
     // Operations, as the table of commands names them. Directions are +1 and -1; others do nothing. Some confirm
     // whatever the feedback says.
@@ -116,6 +118,8 @@ private:
     void changeLooping(std::int32_t mode, Feedback feedback);
     void toggleLooping(std::int32_t direction, Feedback feedback);
     void changeVolume(std::int32_t control, Feedback feedback);
+    void shiftSound(std::int32_t milliseconds, Feedback feedback);
+    bool validateShiftSound(platform::MenuItem& item) const;
     void changeSize(std::int32_t code, Feedback feedback);
     void toggleController(std::int32_t, Feedback feedback);
     void cycleDisplays(std::int32_t direction, Feedback feedback);
@@ -123,6 +127,11 @@ private:
     void changeSubtitles(std::int32_t position, Feedback feedback);
     void cycleSubtitles(std::int32_t direction, Feedback feedback);
     void toggleRepair(std::int32_t, Feedback feedback);
+    void addSubtitles(std::int32_t, Feedback feedback);
+    void shiftSubtitles(std::int32_t milliseconds, Feedback feedback);
+    void alignSubtitles(std::int32_t line, Feedback feedback);
+    void sizeSubtitles(std::int32_t direction, Feedback feedback);
+    void raiseSubtitles(std::int32_t direction, Feedback feedback);
     void switchScreen(std::int32_t direction, Feedback feedback);
     void changeSpeed(std::int32_t argument, Feedback feedback);
     bool validateSpeed(platform::MenuItem& item) const;
@@ -172,6 +181,8 @@ private:
     bool validateMovie(platform::MenuItem& item) const;
     bool validateSubtitles(platform::MenuItem& item) const;
     bool validateRepair(platform::MenuItem& item) const;
+    bool validateAddSubtitles(platform::MenuItem& item) const;
+    bool validateSync(platform::MenuItem& item) const;
     bool validateDonation(platform::MenuItem& item) const;
 
     void perform(const Command& command, std::int32_t argument, Feedback feedback);
@@ -179,6 +190,7 @@ private:
     void muteForFastMotion();
     void repeatingActionTimer();
     void currentMovieChanged(const QVPlaylistMovieChangedNotification& notification);
+    void subtitlesChanged();
     void listSubtitles(const std::shared_ptr<QVMovie>& movie);
     void sayLosses();
     void fillPlaylistMenu(platform::Menu& menu);
@@ -203,6 +215,8 @@ private:
     platform::Subscription _movieChanged;
     platform::Subscription _preferenceChanged;
     platform::Subscription _subtitlesLoaded;
+    platform::Subscription _subtitlesChanged;
+    SubtitleSync _sync;
     /// The track whose losses are to be said when it has been read: the user chose it.
     std::weak_ptr<QVSubtitles> _chosenSubtitles;
     /// That whose tracks the subtitles menu lists.
@@ -211,6 +225,7 @@ private:
     std::optional<std::int32_t> _sectionBegin;
     std::unique_ptr<platform::MovieOpening> _barsSought;
     std::weak_ptr<QVMovie> _sectionOf;
+    std::size_t _listedTracks = 0;
     /// What the playlist menu showed when it opened, by the tags of its items.
     std::map<std::int32_t, std::weak_ptr<QVMovie>> _menuMovies;
 };

@@ -179,37 +179,6 @@ void QVMovieController::cycleDisplays(std::int32_t direction, Feedback) {
     _with.application.cycleDisplays(direction);
 }
 
-void QVMovieController::changeSubtitles(std::int32_t position, Feedback) {
-    _with.subtitles.setCurrenWithIndex(position);
-    sayLosses();
-}
-
-void QVMovieController::cycleSubtitles(std::int32_t direction, Feedback feedback) {
-    _with.subtitles.cycleSubtitles(direction);
-    if (feedback != Feedback::yes)
-        return;
-    _with.feedback.postFeedback(_with.subtitles.currentInfoAsString());
-    sayLosses();
-}
-
-/// What was lost of the track that the user chose: now, or when a worker has read it.
-void QVMovieController::sayLosses() {
-    const std::shared_ptr<QVSubtitles> track = _with.subtitles.current();
-    const bool isLoading = track && track->isLoading();
-    _chosenSubtitles = isLoading ? track : nullptr;
-    const QString losses = isLoading ? QString() : _with.subtitles.lossesAsString();
-    if (!losses.isEmpty())
-        _with.feedback.postFeedback(_with.subtitles.currentInfoAsString() + u'\n' + losses);
-}
-
-void QVMovieController::toggleRepair(std::int32_t, Feedback feedback) {
-    const bool isOn = !_environment.settings.boolForKey(kQVSubtitlesRepair);
-    _environment.settings.setBool(isOn, kQVSubtitlesRepair);
-    _environment.notifications.post(QVPreferencesChangedNotification{kQVSubtitlesRepair, {}});
-    if (feedback == Feedback::yes)
-        post(isOn ? "Repair: On" : "Repair: Off");
-}
-
 // Screens, the application, the computer
 
 void QVMovieController::switchScreen(std::int32_t direction, Feedback feedback) {

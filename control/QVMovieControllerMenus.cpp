@@ -23,9 +23,6 @@ namespace {
 
 /// So many movies before the current one, and after it, stand in the playlist menu.
 constexpr std::uint32_t menuReach = 10;
-/// The two fixed items of the subtitles menu: the one that turns subtitles off, and a separator. The tracks follow, and
-/// the item that repairs them.
-constexpr int fixedSubtitlesItems = 2;
 
 const Command* commandOf(const MenuItem& item) {
     return commandOfMenuItem(item.action.toStdString(), item.tag);
@@ -92,19 +89,8 @@ bool QVMovieController::validateMovie(MenuItem& item) const {
     return true;
 }
 
-bool QVMovieController::validateSubtitles(MenuItem& item) const {
-    const bool hasTracks = _with.subtitles.count() > 0;
-    item.state = hasTracks && static_cast<std::uint32_t>(item.tag) == _with.subtitles.index();
-    return hasTracks;
-}
-
 bool QVMovieController::validateClearRecent(MenuItem&) const {
     return _with.application.hasRecent();
-}
-
-bool QVMovieController::validateRepair(MenuItem& item) const {
-    item.state = _environment.settings.boolForKey(kQVSubtitlesRepair);
-    return true;
 }
 
 bool QVMovieController::validateDonation(MenuItem& item) const {
@@ -114,26 +100,6 @@ bool QVMovieController::validateDonation(MenuItem& item) const {
 
 void QVMovieController::currentMovieChanged(const QVPlaylistMovieChangedNotification& notification) {
     listSubtitles(notification.movie);
-}
-
-void QVMovieController::listSubtitles(const std::shared_ptr<QVMovie>& movie) {
-    _listedMovie = movie;
-    const bool hasTracks = movie && !movie->subtitles().empty();
-    platform::Menu& menu = _with.subtitlesMenu;
-    menu.removeAllItemsBut(fixedSubtitlesItems);
-    if (menu.count() > 0)
-        menu.itemAt(0).title = localizedString(hasTracks ? QStringLiteral("Off") : QStringLiteral("None"));
-    if (menu.count() < fixedSubtitlesItems)
-        menu.addSeparator();
-    if (hasTracks) {
-        int index = 0;
-        for (const auto& track : movie->subtitles())
-            menu.addItem(track->title(), QStringLiteral("changeSubtitles"), index++);
-        menu.addSeparator();
-    }
-    _with.commands.showKey(
-        menu.addItem(localizedString(QStringLiteral("Repair")), QString::fromLatin1(toggleRepairOperation), 0),
-        "repair-subtitles");
 }
 
 void QVMovieController::fillPlaylistMenu(platform::Menu& menu) {

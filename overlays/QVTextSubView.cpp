@@ -9,6 +9,8 @@
 #include "settings/Tracing.h"
 #include "subtitles/QVSubtitle.h"
 
+#include <algorithm>
+
 namespace {
 
 /// The size code of a movie as large as the screen shows it whole.
@@ -84,6 +86,8 @@ void QVTextSubView::contentSizeChanged() {
     platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (parentWindow()) {
         SubtitlePlacement::Ground ground{parentWindow()->frame(), scaledPadding(), _picture.pictureFrame(), {}};
+        ground.raise =
+            std::clamp(environment().settings.integerForKey(kQVSubtitlesHeight), 0, 100) * ground.parent.height() / 100;
         if (_picture.isControllerBarVisible())
             ground.bar = _picture.getControllerHeight();
         rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground, _place);
@@ -97,6 +101,10 @@ void QVTextSubView::movieViewSizeChanged(const QVMovieViewSizeChangedNotificatio
 }
 
 bool QVTextSubView::preferencesChanged(const QVPreferencesChangedNotification& notification) {
+    if (notification.key == kQVSubtitlesHeight) {
+        contentSizeChanged();
+        return true;
+    }
     if (notification.key != kQVSubtitlesMarkup)
         return QVTextOverlay::preferencesChanged(notification);
     if (const SubtitleMarkup::Cue cue = drawn(); !cue.text.text.isEmpty())

@@ -65,6 +65,8 @@ platform::Rect placed(const platform::Rect& rect, std::uint32_t alignment, const
     double y = !place || place->row == Place::Row::bottom ? wanted() : raised(rect, alignment, ground, place->row);
     if (y < lowest)
         y = edge;
+    if (!place || place->row == Place::Row::bottom)
+        y += ground.raise;
     y = std::max(lowest, std::min(y, ground.parent.maxY() - rect.height()));
     const double x = place ? aside(rect, ground, place->side)
                            : OverlayPlacement::horizontalOrigin(alignment, ground.parent, rect.width(), ground.padding);

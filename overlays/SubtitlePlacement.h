@@ -26,6 +26,8 @@ struct Ground {
     platform::Rect picture;
     /// Of the controller bar, or nothing while it is hidden.
     std::optional<double> bar;
+    /// By how much more what stands at the bottom stands above it.
+    double raise = 0;
 };
 
 /// A place on the picture that a subtitle asks for itself.

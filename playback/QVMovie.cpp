@@ -147,6 +147,13 @@ void QVMovie::setTime(std::int32_t time) {
     post<QVMovieInterestingTimeNotification>();
 }
 
+void QVMovie::setAudioDelay(std::int32_t milliseconds) {
+    constexpr std::int32_t maximum = 600'000;
+    platform::TrackSelection changed = selection();
+    changed.audioDelay = std::clamp(milliseconds, -maximum, maximum) / 1000.0;
+    select(changed);
+}
+
 int QVMovie::compare(const QVMovie& other) const {
     const MovieOrdering ordering = MovieOrdering::fromSettings(_environment.settings);
     return ordering.compare(ordering.key(url()), ordering.key(other.url()));
@@ -177,6 +184,18 @@ void QVMovie::addSubtitleFile(const QString& path) {
     trace("%@: Added %d subtitles stream(s) from file \"%@\"", className, tracks.size(),
           platform::lastPathComponent(path));
     _subtitles.insert(_subtitles.end(), std::make_move_iterator(tracks.begin()), std::make_move_iterator(tracks.end()));
+}
+
+std::shared_ptr<QVSubtitles> QVMovie::addSubtitles(const QString& path) {
+    const auto known = std::ranges::find_if(_subtitles, [&path](const auto& track) { return track->path() == path; });
+    if (known != _subtitles.end())
+        return *known;
+    const std::size_t count = _subtitles.size();
+    addSubtitleFile(path);
+    if (_subtitles.size() == count)
+        return nullptr;
+    _addedSubtitles.append(path);
+    return _subtitles[count];
 }
 
 void QVMovie::followReadingMode() {

@@ -76,6 +76,9 @@ public:
     /// Of a local file as pathOfBytes() writes it, so that it is what the files beside it begin with.
     QString fileName() const override;
 
+    /// By so many milliseconds sound comes later than the file says, below 0 earlier; kept within ten minutes.
+    void setAudioDelay(std::int32_t milliseconds);
+
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
     void setTime(std::int32_t time);
 
@@ -85,6 +88,9 @@ public:
     void fetchSubtitleFiles();
     void followReadingMode() override;
     void addSubtitleFile(const QString& path);
+    std::shared_ptr<QVSubtitles> addSubtitles(const QString& path) override;
+    /// The files that were added by it, in their order.
+    const QStringList& addedSubtitles() const { return _addedSubtitles; }
 
     /// Arms the three callbacks anew; ends them.
     void resetCallbacks();
@@ -108,6 +114,7 @@ private:
     MovieServices _services;
     QString _address;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
+    QStringList _addedSubtitles;
     /// That in which the files were looked for; none where they were not.
     std::optional<ReadingMode> _fetchedIn;
     bool _isOpened = true;

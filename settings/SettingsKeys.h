@@ -37,6 +37,8 @@ inline const QString kQVSubtitlesDefaultEncoding = QStringLiteral("QVSubtitlesDe
 inline const QString kQVSubtitlesEncodingsList = QStringLiteral("QVSubtitlesEncodingsList");
 inline const QString kQVSubtitlesEncodingsListSize = QStringLiteral("QVSubtitlesEncodingsListSize");
 inline const QString kQVSubtitlesDefaultFPS = QStringLiteral("QVSubtitlesDefaultFPS");
+/// Percent of the screen by which they stand higher than their style says.
+inline const QString kQVSubtitlesHeight = QStringLiteral("QVSubtitlesHeight");
 inline const QString kQVSubtitlesMarkup = QStringLiteral("QVSubtitlesMarkup");
 inline const QString kQVSubtitlesRepair = QStringLiteral("QVSubtitlesRepair");
 /// The languages of subtitles and sound, the preferred one first; an empty list stands for the user's.

@@ -157,7 +157,15 @@ void QVSubtitles::moveCursor(std::int32_t time) {
     _current = subtitles[_cursor.index()];
 }
 
-std::shared_ptr<QVSubtitle> QVSubtitles::subtitleForTime(std::int32_t time) {
+std::int32_t QVSubtitles::shifted(std::int32_t movieTime) const {
+    if (_shift.isNone())
+        return movieTime;
+    const double unitsPerMillisecond = _owner.timeScale() / 1000.0;
+    return CueTiming::nearest(_shift.cueTime(movieTime / unitsPerMillisecond) * unitsPerMillisecond);
+}
+
+std::shared_ptr<QVSubtitle> QVSubtitles::subtitleForTime(std::int32_t movieTime) {
+    const std::int32_t time = shifted(movieTime);
     followLoading();
     if (!_current)
         return nullptr;

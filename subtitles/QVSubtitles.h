@@ -3,6 +3,7 @@
 
 #include "subtitles/CueCursor.h"
 #include "subtitles/CueList.h"
+#include "subtitles/CueShift.h"
 #include "subtitles/QVSubtitle.h"
 #include "subtitles/SubtitleOwner.h"
 #include "subtitles/input/ReadingMode.h"
@@ -61,7 +62,10 @@ public:
     /// The cue to show at a time, or none. The search begins where the last one ended: playing forward it is a
     /// comparison. In a gap the cursor stays on the later cue. Cues that stand in no order are found all the same; of
     /// several that show at once it is the one that started last.
-    std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time);
+    std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t movieTime);
+    /// How the track lies to the movie: a time that is looked for is moved by it first. Main thread.
+    const CueShift& shift() const { return _shift; }
+    virtual void setShift(const CueShift& shift) { _shift = shift; }
     /// The cue at the cursor, or none.
     std::shared_ptr<QVSubtitle> current();
 
@@ -151,6 +155,7 @@ protected:
 
 private:
     std::unique_lock<std::mutex> lockSubtitles() const;
+    std::int32_t shifted(std::int32_t movieTime) const;
     void placeCursor(std::size_t index);
     void moveCursor(std::int32_t time);
     void followLoading();
@@ -166,6 +171,7 @@ private:
     std::atomic<std::size_t> _losses = 0;
     std::atomic<std::uint32_t> _encoding = noEncoding;
     std::optional<CueList> _subtitles;
+    CueShift _shift;
     CueCursor _cursor;
     std::shared_ptr<QVSubtitle> _current; // at the cursor, while that is placed
     /// The cursor belongs to the main thread: a worker only asks for its reset.

@@ -199,6 +199,17 @@ void QVSubtitlesController::setCurrenWithIndex(std::int32_t index) {
     }
 }
 
+bool QVSubtitlesController::addFile(const QString& path) {
+    const std::shared_ptr<QVSubtitles> track = _movie ? _movie->addSubtitles(path) : nullptr;
+    if (!track)
+        return false;
+    _subtitles = _movie->subtitles();
+    switchDisplay(true);
+    setCurrent(track);
+    _chosenLanguage = track->language();
+    return true;
+}
+
 void QVSubtitlesController::cycleSubtitles(int direction) {
     if (_subtitles.empty())
         return;

@@ -48,6 +48,10 @@ public:
     std::uint32_t count() const { return static_cast<std::uint32_t>(_subtitles.size()); }
     /// The position of the current track, or all bits set for none.
     std::uint32_t index() const { return _index; }
+    /// Adds the tracks of a file to the current movie, and shows the first of them; false where there is none.
+    bool addFile(const QString& path);
+    /// The track's cue of this moment is another one: its shift changed.
+    void showCueOfNow();
     /// Goes on to the next track (1) or back (-1), with "off" after the last; nothing without tracks.
     virtual void cycleSubtitles(int direction);
     /// "Subtitles: ..." for the on-screen display.
@@ -72,7 +76,6 @@ private:
     void adoptAppearance(const QVSubtitles& track);
     void _setView(SubtitleView* view);
     bool switchDisplay(bool flag);
-    void showCueOfNow();
     void give(const std::shared_ptr<QVSubtitle>& cue);
     void announce();
 

@@ -1025,6 +1025,154 @@
         <source>Next and previous subtitles</source>
         <translation>Nächste und vorige Untertitel</translation>
     </message>
+    <message id="Sound Earlier">
+        <source>Sound Earlier</source>
+        <translation>Ton früher</translation>
+    </message>
+    <message id="Sound Later">
+        <source>Sound Later</source>
+        <translation>Ton später</translation>
+    </message>
+    <message id="Sound as in the File">
+        <source>Sound as in the File</source>
+        <translation>Ton wie in der Datei</translation>
+    </message>
+    <message id="Sound earlier and later">
+        <source>Sound earlier and later</source>
+        <translation>Ton früher und später</translation>
+    </message>
+    <message id="Sound at the times of the file">
+        <source>Sound at the times of the file</source>
+        <translation>Ton zu den Zeiten der Datei</translation>
+    </message>
+    <message id="Sound delay: %@">
+        <source>Sound delay: %@</source>
+        <translation>Ton verzögert: %@</translation>
+    </message>
+    <message id="Add Subtitles...">
+        <source>Add Subtitles...</source>
+        <translation>Untertitel hinzufügen …</translation>
+    </message>
+    <message id="Add Subtitles">
+        <source>Add Subtitles</source>
+        <translation>Untertitel hinzufügen</translation>
+    </message>
+    <message id="Add a file of subtitles to the movie">
+        <source>Add a file of subtitles to the movie</source>
+        <translation>Dem Film eine Untertiteldatei hinzufügen</translation>
+    </message>
+    <message id="Add">
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message id="NoSubtitlesInFile">
+        <source>“%@” holds no subtitles that can be read</source>
+        <translation>„%@“ enthält keine lesbaren Untertitel</translation>
+    </message>
+    <message id="Add to the Movie as Subtitles">
+        <source>Add to the Movie as Subtitles</source>
+        <translation>Dem Film als Untertitel hinzufügen</translation>
+    </message>
+    <message id="Show Earlier">
+        <source>Show Earlier</source>
+        <translation>Früher zeigen</translation>
+    </message>
+    <message id="Show Later">
+        <source>Show Later</source>
+        <translation>Später zeigen</translation>
+    </message>
+    <message id="As in the File">
+        <source>As in the File</source>
+        <translation>Wie in der Datei</translation>
+    </message>
+    <message id="Show Subtitles Earlier">
+        <source>Show Subtitles Earlier</source>
+        <translation>Untertitel früher zeigen</translation>
+    </message>
+    <message id="Show Subtitles Later">
+        <source>Show Subtitles Later</source>
+        <translation>Untertitel später zeigen</translation>
+    </message>
+    <message id="Subtitles at the Times of Their File">
+        <source>Subtitles at the Times of Their File</source>
+        <translation>Untertitel zu den Zeiten ihrer Datei</translation>
+    </message>
+    <message id="Subtitles earlier and later">
+        <source>Subtitles earlier and later</source>
+        <translation>Untertitel früher und später</translation>
+    </message>
+    <message id="Subtitles at the times of their file">
+        <source>Subtitles at the times of their file</source>
+        <translation>Untertitel zu den Zeiten ihrer Datei</translation>
+    </message>
+    <message id="First Line Is Spoken Now">
+        <source>First Line Is Spoken Now</source>
+        <translation>Erste Zeile wird jetzt gesprochen</translation>
+    </message>
+    <message id="Last Line Is Spoken Now">
+        <source>Last Line Is Spoken Now</source>
+        <translation>Letzte Zeile wird jetzt gesprochen</translation>
+    </message>
+    <message id="In step by two lines: press one while the first line is spoken, the other while the last one is">
+        <source>In step by two lines: press one while the first line is spoken, the other while the last one is</source>
+        <translation>In Gleichlauf durch zwei Zeilen: die eine drücken, während die erste Zeile gesprochen wird, die andere bei der letzten</translation>
+    </message>
+    <message id="Larger Text">
+        <source>Larger Text</source>
+        <translation>Größere Schrift</translation>
+    </message>
+    <message id="Smaller Text">
+        <source>Smaller Text</source>
+        <translation>Kleinere Schrift</translation>
+    </message>
+    <message id="Larger Subtitles">
+        <source>Larger Subtitles</source>
+        <translation>Größere Untertitel</translation>
+    </message>
+    <message id="Smaller Subtitles">
+        <source>Smaller Subtitles</source>
+        <translation>Kleinere Untertitel</translation>
+    </message>
+    <message id="Subtitles larger and smaller">
+        <source>Subtitles larger and smaller</source>
+        <translation>Untertitel größer und kleiner</translation>
+    </message>
+    <message id="Higher">
+        <source>Higher</source>
+        <translation>Höher</translation>
+    </message>
+    <message id="Lower">
+        <source>Lower</source>
+        <translation>Tiefer</translation>
+    </message>
+    <message id="Higher Subtitles">
+        <source>Higher Subtitles</source>
+        <translation>Höhere Untertitel</translation>
+    </message>
+    <message id="Lower Subtitles">
+        <source>Lower Subtitles</source>
+        <translation>Tiefere Untertitel</translation>
+    </message>
+    <message id="Subtitles higher and lower">
+        <source>Subtitles higher and lower</source>
+        <translation>Untertitel höher und tiefer</translation>
+    </message>
+    <message id="Subtitle delay: %@">
+        <source>Subtitle delay: %@</source>
+        <translation>Untertitel verzögert: %@</translation>
+    </message>
+    <message id="Subtitle size: %d">
+        <source>Subtitle size: %d</source>
+        <translation>Größe der Untertitel: %d</translation>
+    </message>
+    <message id="Subtitle height: %d">
+        <source>Subtitle height: %d %</source>
+        <translation>Höhe der Untertitel: %d %</translation>
+    </message>
+    <message id="SubtitleLinesTooFar">
+        <source>The lines cannot be brought in step: they would be more than twice as fast or as slow</source>
+        <translation>Die Zeilen lassen sich nicht in Gleichlauf bringen: sie würden mehr als doppelt so schnell oder langsam</translation>
+    </message>
     <message id="Repair damaged subtitles">
         <source>Repair damaged subtitles</source>
         <translation>Beschädigte Untertitel reparieren</translation>

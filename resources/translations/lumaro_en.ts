@@ -1025,6 +1025,154 @@
         <source>Next and previous subtitles</source>
         <translation>Next and previous subtitles</translation>
     </message>
+    <message id="Sound Earlier">
+        <source>Sound Earlier</source>
+        <translation>Sound Earlier</translation>
+    </message>
+    <message id="Sound Later">
+        <source>Sound Later</source>
+        <translation>Sound Later</translation>
+    </message>
+    <message id="Sound as in the File">
+        <source>Sound as in the File</source>
+        <translation>Sound as in the File</translation>
+    </message>
+    <message id="Sound earlier and later">
+        <source>Sound earlier and later</source>
+        <translation>Sound earlier and later</translation>
+    </message>
+    <message id="Sound at the times of the file">
+        <source>Sound at the times of the file</source>
+        <translation>Sound at the times of the file</translation>
+    </message>
+    <message id="Sound delay: %@">
+        <source>Sound delay: %@</source>
+        <translation>Sound delay: %@</translation>
+    </message>
+    <message id="Add Subtitles...">
+        <source>Add Subtitles...</source>
+        <translation>Add Subtitles...</translation>
+    </message>
+    <message id="Add Subtitles">
+        <source>Add Subtitles</source>
+        <translation>Add Subtitles</translation>
+    </message>
+    <message id="Add a file of subtitles to the movie">
+        <source>Add a file of subtitles to the movie</source>
+        <translation>Add a file of subtitles to the movie</translation>
+    </message>
+    <message id="Add">
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message id="NoSubtitlesInFile">
+        <source>“%@” holds no subtitles that can be read</source>
+        <translation>“%@” holds no subtitles that can be read</translation>
+    </message>
+    <message id="Add to the Movie as Subtitles">
+        <source>Add to the Movie as Subtitles</source>
+        <translation>Add to the Movie as Subtitles</translation>
+    </message>
+    <message id="Show Earlier">
+        <source>Show Earlier</source>
+        <translation>Show Earlier</translation>
+    </message>
+    <message id="Show Later">
+        <source>Show Later</source>
+        <translation>Show Later</translation>
+    </message>
+    <message id="As in the File">
+        <source>As in the File</source>
+        <translation>As in the File</translation>
+    </message>
+    <message id="Show Subtitles Earlier">
+        <source>Show Subtitles Earlier</source>
+        <translation>Show Subtitles Earlier</translation>
+    </message>
+    <message id="Show Subtitles Later">
+        <source>Show Subtitles Later</source>
+        <translation>Show Subtitles Later</translation>
+    </message>
+    <message id="Subtitles at the Times of Their File">
+        <source>Subtitles at the Times of Their File</source>
+        <translation>Subtitles at the Times of Their File</translation>
+    </message>
+    <message id="Subtitles earlier and later">
+        <source>Subtitles earlier and later</source>
+        <translation>Subtitles earlier and later</translation>
+    </message>
+    <message id="Subtitles at the times of their file">
+        <source>Subtitles at the times of their file</source>
+        <translation>Subtitles at the times of their file</translation>
+    </message>
+    <message id="First Line Is Spoken Now">
+        <source>First Line Is Spoken Now</source>
+        <translation>First Line Is Spoken Now</translation>
+    </message>
+    <message id="Last Line Is Spoken Now">
+        <source>Last Line Is Spoken Now</source>
+        <translation>Last Line Is Spoken Now</translation>
+    </message>
+    <message id="In step by two lines: press one while the first line is spoken, the other while the last one is">
+        <source>In step by two lines: press one while the first line is spoken, the other while the last one is</source>
+        <translation>In step by two lines: press one while the first line is spoken, the other while the last one is</translation>
+    </message>
+    <message id="Larger Text">
+        <source>Larger Text</source>
+        <translation>Larger Text</translation>
+    </message>
+    <message id="Smaller Text">
+        <source>Smaller Text</source>
+        <translation>Smaller Text</translation>
+    </message>
+    <message id="Larger Subtitles">
+        <source>Larger Subtitles</source>
+        <translation>Larger Subtitles</translation>
+    </message>
+    <message id="Smaller Subtitles">
+        <source>Smaller Subtitles</source>
+        <translation>Smaller Subtitles</translation>
+    </message>
+    <message id="Subtitles larger and smaller">
+        <source>Subtitles larger and smaller</source>
+        <translation>Subtitles larger and smaller</translation>
+    </message>
+    <message id="Higher">
+        <source>Higher</source>
+        <translation>Higher</translation>
+    </message>
+    <message id="Lower">
+        <source>Lower</source>
+        <translation>Lower</translation>
+    </message>
+    <message id="Higher Subtitles">
+        <source>Higher Subtitles</source>
+        <translation>Higher Subtitles</translation>
+    </message>
+    <message id="Lower Subtitles">
+        <source>Lower Subtitles</source>
+        <translation>Lower Subtitles</translation>
+    </message>
+    <message id="Subtitles higher and lower">
+        <source>Subtitles higher and lower</source>
+        <translation>Subtitles higher and lower</translation>
+    </message>
+    <message id="Subtitle delay: %@">
+        <source>Subtitle delay: %@</source>
+        <translation>Subtitle delay: %@</translation>
+    </message>
+    <message id="Subtitle size: %d">
+        <source>Subtitle size: %d</source>
+        <translation>Subtitle size: %d</translation>
+    </message>
+    <message id="Subtitle height: %d">
+        <source>Subtitle height: %d %</source>
+        <translation>Subtitle height: %d %</translation>
+    </message>
+    <message id="SubtitleLinesTooFar">
+        <source>The lines cannot be brought in step: they would be more than twice as fast or as slow</source>
+        <translation>The lines cannot be brought in step: they would be more than twice as fast or as slow</translation>
+    </message>
     <message id="Repair damaged subtitles">
         <source>Repair damaged subtitles</source>
         <translation>Repair damaged subtitles</translation>

@@ -65,13 +65,11 @@ TEST_F(DropsRig, a_folder_and_subtitles_beside_a_movie_are_dropped_with_it) {
     EXPECT_TRUE(rig.desktop.alerts.empty());
 }
 
-TEST_F(DropsRig, subtitles_alone_are_told_where_they_belong) {
-    view.performDragOperation(files({rig.file("a.mp4")}));
-    EXPECT_EQ(rig.listed(), "a.mp4");
+TEST_F(DropsRig, subtitles_are_added_to_the_movie_that_is_shown_or_told_where_they_belong) {
     for (const char* name : {"one.srt", "two.SUB", "three.idx"}) {
         rig.desktop.alerts.clear();
         view.performDragOperation(files({rig.file(name)}));
-        EXPECT_EQ(rig.listed(), "a.mp4");
+        rig.settings.runLoop.advance(0.02);
         ASSERT_EQ(rig.desktop.alerts.size(), 1U) << name;
         EXPECT_TRUE(rig.desktop.alerts[0].message.contains("It holds subtitles.")) << name;
     }
@@ -80,4 +78,33 @@ TEST_F(DropsRig, subtitles_alone_are_told_where_they_belong) {
     rig.settings.runLoop.advance(0.02);
     ASSERT_FALSE(rig.desktop.alerts.empty());
     EXPECT_FALSE(rig.desktop.alerts[0].message.contains("subtitles"));
+
+    rig.desktop.alerts.clear();
+    view.performDragOperation(files({rig.file("a.mp4")}));
+    EXPECT_EQ(rig.listed(), "a.mp4");
+    const QString other = writeFile(rig.folder.filePath("other.srt"), "1\n00:00:01,000 --> 00:00:02,000\nHi\n");
+    view.draggingEntered(files({other}));
+    EXPECT_EQ(said(), "Add to the Movie as Subtitles");
+    view.performDragOperation(files({other}));
+    EXPECT_EQ(said(), "Subtitles: other.srt (1/1)");
+    ASSERT_TRUE(rig.app.subtitles().current());
+    EXPECT_EQ(rig.app.subtitles().current()->path(), other);
+    EXPECT_EQ(rig.objects->menu().subtitlesMenu().itemAt(2).title, "other.srt");
+    view.performDragOperation(files({rig.file("empty.srt")}));
+    EXPECT_EQ(said(), "\u201Cempty.srt\u201D holds no subtitles that can be read");
+    EXPECT_EQ(rig.listed(), "a.mp4");
+    EXPECT_TRUE(rig.desktop.alerts.empty());
+
+    // With one movie they are for that; with several each has its own beside it.
+    view.performDragOperation(files({rig.file("b.mp4"), other}));
+    EXPECT_EQ(rig.listed(), "b.mp4");
+    ASSERT_TRUE(rig.app.subtitles().current());
+    EXPECT_EQ(rig.app.subtitles().current()->path(), other);
+    view.performDragOperation(files({rig.file("c.mp4"), other, rig.file("d.mp4")}));
+    EXPECT_EQ(rig.listed(), "c.mp4 d.mp4");
+    EXPECT_EQ(rig.app.subtitles().count(), 0U);
+
+    rig.desktop.openPanelAnswers = {{other}};
+    rig.app.addSubtitles();
+    EXPECT_EQ(rig.app.subtitles().count(), 1U);
 }

@@ -60,9 +60,17 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
                         "Previous Movie playPrevNext -1 [PgUp]\n-\nLooping Off changeLooping 0 (L)\n"
                         "Loop One changeLooping 1\nLoop All changeLooping 2");
     EXPECT_EQ(shown(3), "Volume Up changeVolume 0 (Up)\nVolume Down changeVolume 1 (Down)\n-\n"
-                        "Normal Volume changeVolume 2\nSilent changeVolume 3\nMute changeVolume 4 (M)");
+                        "Normal Volume changeVolume 2\nSilent changeVolume 3\nMute changeVolume 4 (M)\n-\n"
+                        "Sound Earlier shiftSound -50 (Ctrl+-)\nSound Later shiftSound 50 (Ctrl++)\n"
+                        "Sound as in the File shiftSound 0 (Ctrl+0)");
     EXPECT_EQ(written(menu.playlistMenu()).toStdString(), "");
-    EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(), "None changeSubtitles -1 (S)\n-\nRepair toggleRepair 0 (R)");
+    EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(),
+              "None changeSubtitles -1 (S)\n-\nAdd Subtitles... addSubtitles 0 [Ctrl+Shift+S]\n-\n"
+              "Show Earlier shiftSubtitles -50 (Z)\nShow Later shiftSubtitles 50 (X)\n"
+              "As in the File shiftSubtitles 0 (Shift+X)\nFirst Line Is Spoken Now alignSubtitles -1 (Alt+Z)\n"
+              "Last Line Is Spoken Now alignSubtitles 1 (Alt+X)\n-\nLarger Text sizeSubtitles 1 (Alt++)\n"
+              "Smaller Text sizeSubtitles -1 (Alt+-)\nHigher raiseSubtitles 1 (Alt+PgUp)\n"
+              "Lower raiseSubtitles -1 (Alt+PgDown)\n-\nRepair toggleRepair 0 (R)");
     EXPECT_EQ(shown(6), "Next Screen switchScreen 1 (Tab)\nPrevious Screen switchScreen -1 (Shift+Tab)");
     EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 [F1]\nDonate... donate 0");
     // The user gives Ctrl+Q to the help, X to looping off, F2 to the opening of files, and nothing to bigger.

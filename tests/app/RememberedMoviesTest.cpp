@@ -232,3 +232,26 @@ TEST(RecentMovies, the_menu_lists_the_last_twenty_opens_them_and_forgets_all) {
     rig.quit();
     EXPECT_TRUE(rig.moviesDisk->domain.isEmpty()) << "also the movie that was shown";
 }
+
+TEST(RememberedMovies, subtitles_that_were_added_come_back_with_their_times_as_long_as_they_are_there) {
+    MemoryRig first;
+    const QString film = first.file("film.mp4");
+    const QString added = writeFile(first.folder.filePath("other.srt"), "1\n00:00:01,000 --> 00:00:02,000\nHi\n");
+    first.open(film);
+    ASSERT_TRUE(first.app.subtitles().addFile(added));
+    first.app.subtitles().current()->setShift({150, 1.04});
+    first.view.movie()->setAudioDelay(-100);
+    first.quit();
+    for (const bool isThere : {true, false}) {
+        MemoryRig rig(first.moviesDisk);
+        if (!isThere)
+            QFile::remove(added);
+        rig.open(film);
+        EXPECT_EQ(rig.view.movie()->selection().audioDelay, -0.1);
+        ASSERT_EQ(rig.app.subtitles().count(), isThere ? 1U : 0U);
+        if (isThere) {
+            EXPECT_EQ(rig.app.subtitles().current()->path(), added);
+            EXPECT_EQ(rig.app.subtitles().current()->shift(), (CueShift{150, 1.04}));
+        }
+    }
+}

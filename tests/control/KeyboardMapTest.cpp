@@ -86,7 +86,7 @@ TEST(KeyboardMap, Each_key_with_its_modifiers_presses_and_repeats_as_the_map_say
         // The menu's, the window's and nobody's.
         {"Page Down", pageDown, none, {Kind::passOn, ""}, Kind::passOn},
         {"Esc", escape, none, {Kind::passOn, ""}, Kind::passOn},
-        {"x", u'x', every, {Kind::passOn, ""}, Kind::passOn},
+        {"y", u'y', every, {Kind::passOn, ""}, Kind::passOn},
         {"Return", u'\r', none, {Kind::passOn, ""}, Kind::passOn},
     };
     for (const auto& c : cases) {

@@ -41,6 +41,7 @@ protected:
         void doOpen() override { calls << "open"; }
         void doOpenFolder() override { calls << "open folder"; }
         void doOpenURL(std::int32_t type) override { calls << QString("open URL %1").arg(type); }
+        void addSubtitles() override { calls << "add subtitles"; }
         void openRecent(std::int32_t position) override { calls << QString("recent %1").arg(position); }
         void clearRecent() override { calls << "clear"; }
         bool hasRecent() const override { return calls.isEmpty(); }

@@ -41,6 +41,11 @@ TEST(SubtitlePlacement, stands_by_the_picture_and_clear_of_the_bar) {
             << c.name;
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 790), 0x120, {parent, 24, small, {}}).y(), 60) << "all lines are seen";
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 900), 0x120, {parent, 24, small, {}}).y(), 50);
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x120, {parent, 24, small, {}, 80}).y(), 304) << "raised";
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x120, {parent, 24, small, {}, 900}).y(), 810) << "not beyond";
+    EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x120, {parent, 24, small, {}, 80}, Place{Place::Row::top}),
+              placed(platform::Rect(0, 0, 400, 40), 0x120, {parent, 24, small, {}}, Place{Place::Row::top}))
+        << "only what stands at the bottom";
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x121, {parent, 24, small, {}}).x(), 124);
     EXPECT_EQ(placed(platform::Rect(0, 0, 400, 40), 0x122, {parent, 24, small, {}}).x(), 676);
 }
