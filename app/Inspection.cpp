@@ -60,6 +60,8 @@ void writeTrack(const QVSubtitles& track, std::int32_t timeScale, JsonWriter& js
 void writeTracks(const QVMovie& movie, const platform::UserDefaults& settings, JsonWriter& json) {
     json.beginArray();
     for (const std::shared_ptr<QVSubtitles>& track : movie.subtitles()) {
+        if (track->type() == QVSubtitles::typeInMovie)
+            continue; // among the movie's own tracks
         json.beginObject();
         json.member("path", track->path());
         writeTrack(*track, movie.timeScale(), json);

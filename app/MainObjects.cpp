@@ -99,6 +99,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     _menu.submenu("aspect").setFiller([this](platform::Menu& menu) { _controller.fillAspectMenu(menu); });
     _menu.submenu("deinterlacing").setFiller([this](platform::Menu& menu) { _controller.fillDeinterlacingMenu(menu); });
     _menu.submenu("colors").setFiller([this](platform::Menu& menu) { _controller.fillColorsMenu(menu); });
+    _menu.submenu("audio-tracks").setFiller([this](platform::Menu& menu) { _controller.fillAudioMenu(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);

@@ -41,6 +41,7 @@ const QString used = QStringLiteral("Used");
 const QString position = QStringLiteral("Position"); // seconds
 const QString subtitles = QStringLiteral("Subtitles");
 const QString subtitlesIndex = QStringLiteral("SubtitlesIndex");
+const QString audio = QStringLiteral("AudioTrack"); // its number; only one that the user chose
 } // namespace key
 
 /// -2 where it says none that could be.
@@ -105,7 +106,7 @@ void RememberedMovies::movieWillChange() {
     rememberCurrent();
 }
 
-std::int32_t RememberedMovies::placeOf(const QVMovie& movie) {
+std::int32_t RememberedMovies::placeOf(QVMovie& movie) {
     using namespace platform;
     rememberCurrent(); // it may be the same one, opened once more
     if (!isOn())
@@ -116,6 +117,8 @@ std::int32_t RememberedMovies::placeOf(const QVMovie& movie) {
     if (const QString path = pathFromStored(propertyValue::toString(record.value(key::subtitles))); !path.isEmpty())
         _with.holdSubtitles(path,
                             static_cast<std::uint32_t>(propertyValue::toInteger(record.value(key::subtitlesIndex))));
+    if (const std::int32_t audio = propertyValue::toInteger(record.value(key::audio)); audio > 0)
+        movie.setAudioTrack(audio);
     const auto seconds =
         placeToKeep(propertyValue::toDouble(record.value(key::position)), inSeconds(movie, movie.duration()));
     if (!seconds)
@@ -185,6 +188,8 @@ void RememberedMovies::rememberCurrent() {
         record.insert(key::subtitlesIndex, static_cast<qlonglong>(track->streamIndex()));
     }
     RememberedTracks::keep(*movie, record);
+    if (const std::optional<int> audio = movie->chosenAudio())
+        record.insert(key::audio, static_cast<qlonglong>(*audio));
     if (record != before)
         store(movie->address(), record);
 }

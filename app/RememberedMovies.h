@@ -55,7 +55,7 @@ public:
     RememberedMovies(const Environment& environment, Collaborators collaborators);
 
     void movieWillChange() override;
-    std::int32_t placeOf(const QVMovie& movie) override;
+    std::int32_t placeOf(QVMovie& movie) override;
     /// Remembers the current movie, and waits until all is on the disk: the run may end.
     void keep();
 

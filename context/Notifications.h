@@ -78,6 +78,11 @@ struct QVOverlayVisibilityChangedNotification {
     QVStyledOverlay* overlay;
 };
 
+/// The tracks inside the movie are others than before, or another one of its sound plays.
+struct QVMovieTracksChangedNotification {
+    std::shared_ptr<QVMovie> movie;
+};
+
 /// A worker has read the selected track to its end.
 struct QVSubtitlesLoadedNotification {
     std::shared_ptr<QVSubtitles> current;

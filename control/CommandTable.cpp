@@ -61,6 +61,7 @@ struct CommandTable {
     static constexpr Operation toggleLooping{"toggleLooping", &Self::toggleLooping};
     static constexpr Operation shiftSound{"shiftSound", &Self::shiftSound, &Self::validateShiftSound};
     static constexpr Operation changeVolume{"changeVolume", &Self::changeVolume};
+    static constexpr Operation cycleAudio{"cycleAudio", &Self::cycleAudio};
     static constexpr Operation switchScreen{"switchScreen", &Self::switchScreen};
 
     static constexpr Operation changeSpeed{changeSpeedOperation, &Self::changeSpeed, &Self::validateSpeed};
@@ -537,6 +538,25 @@ struct CommandTable {
          .section = Section::volume,
          .menu = {"Sound as in the File"},
          .help = "Sound at the times of the file"},
+        // The argument is a track's number; the items are made when the menu opens.
+        {.name = "audio-tracks",
+         .operation = {changeAudioOperation, &Self::changeAudio, &Self::validateAudio, Feedback::no},
+         .section = Section::volume,
+         .menu = {.title = "Audio Tracks", .opens = MenuPlace::Opens::menu}},
+        {.name = "next-audio",
+         .operation = cycleAudio,
+         .argument = 1,
+         .keys = {{{u'a', none, consumed}, {u'#', none, consumed}}},
+         .section = Section::volume,
+         .help = "Next and previous audio track",
+         .title = "Next Audio Track"},
+        {.name = "previous-audio",
+         .operation = cycleAudio,
+         .argument = -1,
+         .keys = {{{u'a', shift, consumed}}},
+         .section = Section::volume,
+         .help = "Next and previous audio track",
+         .title = "Previous Audio Track"},
 
         // The argument is a position in the list; the items are made from it.
         {.name = "movie",

@@ -147,6 +147,8 @@ inline constexpr const char* gotoChapterOperation = "gotoChapter";
 inline constexpr const char* setAspectOperation = "setAspect";
 inline constexpr const char* setDeinterlacingOperation = "setDeinterlacing";
 inline constexpr const char* adjustPictureOperation = "adjustPicture";
+/// Of the items of the menu of tracks of sound; their tags are the tracks' numbers.
+inline constexpr const char* changeAudioOperation = "changeAudio";
 /// Of the subtitles menu's last item.
 inline constexpr const char* toggleRepairOperation = "toggleRepair";
 

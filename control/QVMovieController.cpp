@@ -9,6 +9,7 @@
 #include "control/CurrentCommands.h"
 #include "platform/base/Localization.h"
 #include "platform/movie/MovieToolkit.h"
+#include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
@@ -37,6 +38,8 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
         _environment.notifications.observe<QVPreferencesChangedNotification>([this](const auto& changed) {
             if (changed.key == kQVSubtitlesRepair)
                 listSubtitles(_listedMovie.lock());
+            else if (changed.key == kQVPreferredLanguages && _with.view.movie())
+                _with.view.movie()->selectAudio();
             else if (changed.key == kQVCommandKeys)
                 _keyboardMap = KeyboardMap(_with.commands.all());
         });
@@ -46,6 +49,10 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
     });
     _subtitlesChanged =
         _environment.notifications.observe<QVSubtitlesChangedNotification>([this](const auto&) { subtitlesChanged(); });
+    _tracksChanged = _environment.notifications.observe<QVMovieTracksChangedNotification>([this](const auto& changed) {
+        if (changed.movie == _listedMovie.lock())
+            listSubtitles(changed.movie);
+    });
     _with.playlistMenu.setFiller([this](platform::Menu& menu) { fillPlaylistMenu(menu); });
 }
 

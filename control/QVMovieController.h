@@ -87,12 +87,13 @@ public:
     bool validateMenuItem(platform::MenuItem& item) override;
     void performMenuItem(const platform::MenuItem& item) override;
 
-    /// Fill the menus of speeds and of chapters.
+    /// Fill the menus of speeds, of chapters and of tracks of sound.
     void fillSpeedMenu(platform::Menu& menu);
     void fillChaptersMenu(platform::Menu& menu);
     void fillAspectMenu(platform::Menu& menu);
     void fillDeinterlacingMenu(platform::Menu& menu);
     void fillColorsMenu(platform::Menu& menu);
+    void fillAudioMenu(platform::Menu& menu);
 
     void windowDidBecomeKey(platform::Window& window) override;
     void windowDidResignKey(platform::Window& window) override;
@@ -156,6 +157,9 @@ private:
     void adjustPicture(std::int32_t argument, Feedback feedback);
     bool validateAdjusting(platform::MenuItem& item) const;
     bool validateHasMovie(platform::MenuItem& item) const;
+    void changeAudio(std::int32_t id, Feedback feedback);
+    void cycleAudio(std::int32_t direction, Feedback feedback);
+    bool validateAudio(platform::MenuItem& item) const;
     void doOpen(std::int32_t, Feedback feedback);
     void doOpenFolder(std::int32_t, Feedback feedback);
     void doOpenURL(std::int32_t type, Feedback feedback);
@@ -193,6 +197,7 @@ private:
     void subtitlesChanged();
     void listSubtitles(const std::shared_ptr<QVMovie>& movie);
     void sayLosses();
+    void sayAudio();
     void fillPlaylistMenu(platform::Menu& menu);
     /// Where the movie of the menu's item stands by now; no position when it has gone.
     std::int32_t positionOfMenuMovie(std::int32_t tag) const;
@@ -217,6 +222,7 @@ private:
     platform::Subscription _subtitlesLoaded;
     platform::Subscription _subtitlesChanged;
     SubtitleSync _sync;
+    platform::Subscription _tracksChanged;
     /// The track whose losses are to be said when it has been read: the user chose it.
     std::weak_ptr<QVSubtitles> _chosenSubtitles;
     /// That whose tracks the subtitles menu lists.

@@ -7,8 +7,12 @@
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/UserActivity.h"
 #include "platform/movie/MovieToolkit.h"
+#include "playback/AudioChoice.h"
+#include "playback/EmbeddedSubtitles.h"
 #include "playback/MovieOrdering.h"
 #include "playback/SubtitleDiscovery.h"
+#include "playback/TrackNames.h"
+#include "settings/PreferredLanguages.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
 #include "subtitles/SubtitleRegistry.h"
@@ -76,6 +80,7 @@ void QVMovie::takeOpened(std::optional<platform::MovieInfo> found, std::int16_t 
         return;
     setInfo(*std::move(found));
     _isOpened = true;
+    listEmbedded();
     if (_environment.settings.boolForKey(kQVAutoloadSubtitles))
         fetchSubtitleFiles();
 }
@@ -102,7 +107,9 @@ QVMovie::QVMovie(const Environment& environment, const MovieServices& services, 
     : Movie(std::move(info), services.toolkit.player())
     , _environment(environment)
     , _services(services)
-    , _address(url().toString(QUrl::FullyEncoded)) {}
+    , _address(url().toString(QUrl::FullyEncoded)) {
+    listEmbedded();
+}
 
 QVMovie::~QVMovie() {
     cancelCallbacks();
@@ -183,7 +190,8 @@ void QVMovie::addSubtitleFile(const QString& path) {
         return;
     trace("%@: Added %d subtitles stream(s) from file \"%@\"", className, tracks.size(),
           platform::lastPathComponent(path));
-    _subtitles.insert(_subtitles.end(), std::make_move_iterator(tracks.begin()), std::make_move_iterator(tracks.end()));
+    _subtitles.insert(_subtitles.end() - static_cast<std::ptrdiff_t>(_embedded.size()),
+                      std::make_move_iterator(tracks.begin()), std::make_move_iterator(tracks.end()));
 }
 
 std::shared_ptr<QVSubtitles> QVMovie::addSubtitles(const QString& path) {
@@ -203,7 +211,9 @@ void QVMovie::followReadingMode() {
     if (!_fetchedIn || *_fetchedIn == mode)
         return;
     _fetchedIn = mode;
-    const std::vector<std::shared_ptr<QVSubtitles>> before = std::exchange(_subtitles, {});
+    std::vector<std::shared_ptr<QVSubtitles>> before = std::exchange(_subtitles, {});
+    before.resize(before.size() - _embedded.size());
+    _subtitles.assign(_embedded.begin(), _embedded.end());
     QStringList paths = filesBeside();
     for (const auto& track : before)
         paths.append(track->path());
@@ -213,7 +223,9 @@ void QVMovie::followReadingMode() {
         // An index is one in every mode; reading it again may take long.
         const auto known = std::ranges::find_if(before, isOfFile);
         if (known != before.end() && (*known)->isImageBased())
-            std::ranges::copy_if(before, std::back_inserter(_subtitles), isOfFile);
+            std::ranges::copy_if(
+                before, std::inserter(_subtitles, _subtitles.end() - static_cast<std::ptrdiff_t>(_embedded.size())),
+                isOfFile);
         else
             addSubtitleFile(path);
     }
@@ -226,6 +238,61 @@ void QVMovie::followReadingMode() {
         if (same != before.end())
             track = *same;
     }
+}
+
+// What is inside
+
+/// Known tracks stay the objects that they are: one may be selected.
+void QVMovie::listEmbedded() {
+    _subtitles.resize(_subtitles.size() - _embedded.size());
+    std::size_t known = 0;
+    for (const platform::MovieTrack& track : tracks()) {
+        if (track.kind != platform::MovieTrack::Kind::subtitles || track.isExternal)
+            continue;
+        if (known++ >= _embedded.size())
+            _embedded.push_back(std::make_shared<EmbeddedSubtitles>(_environment.settings, *this, *this, track));
+    }
+    _subtitles.insert(_subtitles.end(), _embedded.begin(), _embedded.end());
+}
+
+void QVMovie::tracksChanged() {
+    listEmbedded();
+    selectAudio();
+    post<QVMovieTracksChangedNotification>();
+}
+
+void QVMovie::subtitleTextChanged() {
+    for (const auto& track : _embedded)
+        track->textChanged();
+}
+
+void QVMovie::setAudioTrack(int id) {
+    _chosenAudio = id;
+    selectAudio();
+}
+
+std::optional<int> QVMovie::chosenAudio() const {
+    const platform::MovieTracks choices = AudioChoice::tracks(tracks());
+    const bool isThere = _chosenAudio && std::ranges::count(choices, *_chosenAudio, &platform::MovieTrack::id) > 0;
+    return isThere ? _chosenAudio : std::nullopt;
+}
+
+void QVMovie::selectAudio() {
+    const std::optional<int> chosen = chosenAudio();
+    const int id = chosen ? *chosen : AudioChoice::first(tracks(), PreferredLanguages::of(_environment.settings));
+    platform::TrackSelection wanted = selection();
+    if (id == 0 || wanted.audio == id)
+        return;
+    wanted.audio = id;
+    select(wanted);
+    post<QVMovieTracksChangedNotification>();
+}
+
+QString QVMovie::audioLanguage() const {
+    for (const platform::MovieTrack& track : tracks())
+        if (track.kind == platform::MovieTrack::Kind::audio && track.id == audioTrack())
+            return TrackNames::languageOf(track);
+    return {};
 }
 
 void QVMovie::resetCallbacks() {

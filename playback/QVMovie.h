@@ -15,6 +15,8 @@
 #include <optional>
 #include <vector>
 
+class EmbeddedSubtitles;
+
 namespace platform {
 class MovieOpening;
 struct OpenedMovie;
@@ -78,6 +80,15 @@ public:
 
     /// By so many milliseconds sound comes later than the file says, below 0 earlier; kept within ten minutes.
     void setAudioDelay(std::int32_t milliseconds);
+    /// The number of the track of sound that plays; 0 without any.
+    int audioTrack() const { return selection().audio.value_or(0); }
+    /// Plays it, because the user wants to: the movie keeps it, and is remembered with it.
+    void setAudioTrack(int id);
+    /// What the user wants, of the tracks that there are.
+    std::optional<int> chosenAudio() const;
+    /// Plays the chosen track, else the one of the preferred languages. To be called before it is shown.
+    void selectAudio();
+    QString audioLanguage() const override;
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
     void setTime(std::int32_t time);
@@ -98,7 +109,12 @@ public:
     void armEnd();
     void cancelCallbacks();
 
+protected:
+    void tracksChanged() override;
+    void subtitleTextChanged() override;
+
 private:
+    void listEmbedded();
     void takeOpened(std::optional<platform::MovieInfo> found, std::int16_t error);
     QStringList filesBeside() const;
     void _scheduleStopCallback();
@@ -113,8 +129,11 @@ private:
     Environment _environment;
     MovieServices _services;
     QString _address;
+    /// Those of files first, then those inside the movie.
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     QStringList _addedSubtitles;
+    std::vector<std::shared_ptr<EmbeddedSubtitles>> _embedded;
+    std::optional<int> _chosenAudio;
     /// That in which the files were looked for; none where they were not.
     std::optional<ReadingMode> _fetchedIn;
     bool _isOpened = true;

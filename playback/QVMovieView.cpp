@@ -61,6 +61,8 @@ void QVMovieView::setMovie(const std::shared_ptr<QVMovie>& movie) {
     const float volume = this->volume();
     setFrame(platform::Rect());
     showController(true, false);
+    if (movie)
+        movie->selectAudio();
     setMovieObject(movie);
     if (movie)
         movie->resetCallbacks();

@@ -13,5 +13,6 @@ public:
     /// The current movie is about to give way, to another one or to its own beginning.
     virtual void movieWillChange() {}
     /// Where a movie that was opened anew goes on, in its units; 0 for its beginning.
-    virtual std::int32_t placeOf(const QVMovie&) { return 0; }
+    /// The movie may be given what else is remembered of it.
+    virtual std::int32_t placeOf(QVMovie&) { return 0; }
 };

@@ -231,6 +231,10 @@ QString QVSubtitles::formatName() const {
     }
 }
 
+bool QVSubtitles::isForced() const {
+    return SubtitleFileName::isForced(platform::lastPathComponent(path()), _owner.fileName());
+}
+
 QString QVSubtitles::description() const {
     return QStringLiteral("<%1>: %2, count = %3").arg(QString::fromLatin1(className()), title()).arg(count());
 }

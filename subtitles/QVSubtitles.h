@@ -35,7 +35,15 @@ struct ImageAppearance {
 class QVSubtitles {
 public:
     /// The readers, in the order in which they are offered a file of an unknown kind.
-    enum Type : std::int32_t { typeNone = -1, typeSubRip, typeMicroDVD, typeVobSub, typeTMPlayer, typePacket };
+    enum Type : std::int32_t {
+        typeNone = -1,
+        typeSubRip,
+        typeMicroDVD,
+        typeVobSub,
+        typeTMPlayer,
+        typePacket,
+        typeInMovie
+    };
     /// Encoding of a track that was never loaded.
     static constexpr std::uint32_t noEncoding = 0xFFFFFFFF;
 
@@ -57,12 +65,15 @@ public:
     /// loads at once has nothing to tell.
     virtual void setLoadingObserver(std::function<void()>) {}
 
+    /// The track is the one that is shown, or is not any more: for those that the player reads.
+    virtual void setShown(bool) {}
+
     /// Puts the cursor on the first cue; nothing without cues. Any thread.
     void reset();
     /// The cue to show at a time, or none. The search begins where the last one ended: playing forward it is a
     /// comparison. In a gap the cursor stays on the later cue. Cues that stand in no order are found all the same; of
     /// several that show at once it is the one that started last.
-    std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t movieTime);
+    virtual std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t movieTime);
     /// How the track lies to the movie: a time that is looked for is moved by it first. Main thread.
     const CueShift& shift() const { return _shift; }
     virtual void setShift(const CueShift& shift) { _shift = shift; }
@@ -99,6 +110,8 @@ public:
     virtual QString formatName() const;
     /// The tag ("de", "pt-BR") of the language, as far as it is known; empty otherwise.
     virtual QString language() const;
+    /// Whether it holds only what is to be read beside the language that is spoken: signs, and foreign words.
+    virtual bool isForced() const;
 
     virtual bool isTextBased() const = 0;
     virtual bool isImageBased() const = 0;

@@ -34,11 +34,14 @@ QVSubtitlesController::QVSubtitlesController(const Environment& environment, Sub
         [this](const auto& notification) { movieInterestingTime(notification); });
     _onPreferences = center.observe<QVPreferencesChangedNotification>(
         [this](const auto& notification) { preferencesChanged(notification); });
+    _onTracks = center.observe<QVMovieTracksChangedNotification>(
+        [this](const auto& notification) { tracksChanged(notification); });
 }
 
 QVSubtitlesController::~QVSubtitlesController() {
-    if (_current)
-        _current->setLoadingObserver(nullptr);
+    for (const auto& track : {_current, _forced})
+        if (track)
+            track->setLoadingObserver(nullptr);
 }
 
 // Selecting
@@ -67,15 +70,13 @@ std::shared_ptr<QVSubtitles> QVSubtitlesController::preferredSubtitles() const {
 /// None where no track is known to be of a wanted language.
 std::shared_ptr<QVSubtitles> QVSubtitlesController::trackOfWantedLanguage() const {
     const QStringList wanted = QStringList(_chosenLanguage) + PreferredLanguages::of(_environment.settings);
-    const QString movie = _movie ? _movie->fileName() : QString();
     std::shared_ptr<QVSubtitles> best;
     std::tuple<int, bool, bool> bestRank;
     for (const auto& track : _subtitles) {
         const std::optional<int> language = PreferredLanguages::rank(track->language(), wanted);
         if (!language)
             continue;
-        const std::tuple rank(*language, track->isImageBased(),
-                              SubtitleFileName::isForced(platform::lastPathComponent(track->path()), movie));
+        const std::tuple rank(*language, !track->isTextBased(), track->isForced());
         if (!best || rank < bestRank) {
             best = track;
             bestRank = rank;
@@ -90,8 +91,10 @@ void QVSubtitlesController::setSavedPath(const QString& path, std::uint32_t inde
 }
 
 void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track) {
-    if (_current)
+    if (_current && _current != track) {
         _current->setLoadingObserver(nullptr);
+        _current->setShown(false);
+    }
     _current = track;
     const auto found = std::ranges::find(_subtitles, track);
     _index = track && found != _subtitles.end() ? static_cast<std::uint32_t>(found - _subtitles.begin()) : none;
@@ -103,12 +106,14 @@ void QVSubtitlesController::setCurrent(const std::shared_ptr<QVSubtitles>& track
         // stands.
         track->setLoadingObserver([this] { loadingWentOn(); });
         track->preload();
+        track->setShown(_subtitlesOn);
         // Only now the one before goes: both may wait for one archive to be unpacked, which ends when nobody does.
         if (track->isImageBased())
             keepLoaded(track);
         adoptAppearance(*track);
         _setView(viewFor(*track));
     }
+    followAudio();
     showCueOfNow();
     announce();
 }
@@ -163,9 +168,9 @@ void QVSubtitlesController::_setView(SubtitleView* view) {
 
 void QVSubtitlesController::showCueOfNow() {
     std::shared_ptr<QVSubtitle> cue;
-    if (_current && _subtitlesOn) {
+    if (const auto track = shownTrack()) {
         const std::shared_ptr<SubtitleOwner> movie = _scene.shownMovie();
-        cue = _current->subtitleForTime(movie ? movie->time() : 0);
+        cue = track->subtitleForTime(movie ? movie->time() : 0);
     }
     give(cue);
 }
@@ -179,7 +184,7 @@ void QVSubtitlesController::loadingWentOn() {
 void QVSubtitlesController::give(const std::shared_ptr<QVSubtitle>& cue) {
     // A view is not made before its first cue: its fonts would hold up the movie's first picture.
     if (cue && !_view)
-        createView(*_current);
+        createView(*shownTrack());
     if (_view)
         _view->setSubtitle(cue);
 }
@@ -235,12 +240,15 @@ bool QVSubtitlesController::switchDisplay(bool flag) {
         return false;
     trace("%@: Turning subtitles %s", className, flag ? "ON" : "OFF");
     _subtitlesOn = flag;
+    if (_current)
+        _current->setShown(flag);
+    followAudio();
     if (flag) {
         // The movie went on meanwhile.
         showCueOfNow();
         if (_view)
             _view->show();
-    } else if (_view) {
+    } else if (_view && !_forced) {
         _view->hide();
     }
     _environment.settings.setBool(flag, kQVDisplaySubtitles);
@@ -295,10 +303,11 @@ void QVSubtitlesController::currentMovieChanged(const QVPlaylistMovieChangedNoti
 }
 
 void QVSubtitlesController::movieInterestingTime(const QVMovieInterestingTimeNotification& notification) {
-    if (!_current || !_subtitlesOn)
+    const auto track = shownTrack();
+    if (!track)
         return;
     if (const std::shared_ptr<SubtitleOwner> movie = _scene.ownerOf(notification.movie); movie && movie == _movie)
-        give(_current->subtitleForTime(movie->time()));
+        give(track->subtitleForTime(movie->time()));
 }
 
 /// The tracks of the movie are read in the mode that the setting asks for now; the selection stays where it can.
@@ -317,6 +326,43 @@ void QVSubtitlesController::followReadingMode() {
         setCurrent(_subtitlesOn ? preferredSubtitles() : nullptr);
     if (isSwitchedOff)
         _index = none;
+}
+
+/// Some tracks of a movie turn up while it plays; those that were there stay what they are.
+void QVSubtitlesController::tracksChanged(const QVMovieTracksChangedNotification& notification) {
+    if (!_movie || _scene.ownerOf(notification.movie) != _movie)
+        return;
+    const bool wereNone = _subtitles.empty();
+    _subtitles = _movie->subtitles();
+    if (wereNone && !_subtitles.empty() && _subtitlesOn)
+        setCurrent(preferredSubtitles());
+    else
+        followAudio();
+}
+
+/// Without subtitles, those are shown that belong to the language that is spoken.
+void QVSubtitlesController::followAudio() {
+    std::shared_ptr<QVSubtitles> wanted;
+    const QString spoken = _movie && !_subtitlesOn ? _movie->audioLanguage() : QString();
+    const auto found = std::ranges::find_if(_subtitles, [&](const auto& track) {
+        return !spoken.isEmpty() && track->isForced() && PreferredLanguages::rank(track->language(), {spoken});
+    });
+    if (found != _subtitles.end())
+        wanted = *found;
+    const auto before = std::exchange(_forced, wanted);
+    if (before == wanted)
+        return;
+    if (before && before != shownTrack()) {
+        before->setLoadingObserver(nullptr);
+        before->setShown(false);
+    }
+    if (wanted) {
+        wanted->setLoadingObserver([this] { loadingWentOn(); });
+        wanted->preload();
+        wanted->setShown(true);
+        _setView(viewFor(*wanted));
+    }
+    showCueOfNow();
 }
 
 /// What is wanted now comes before what was taken by hand; without a track of these languages the selection stays.

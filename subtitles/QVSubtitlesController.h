@@ -67,6 +67,9 @@ private:
     void movieInterestingTime(const QVMovieInterestingTimeNotification& notification);
     void preferencesChanged(const QVPreferencesChangedNotification& notification);
     void followReadingMode();
+    void tracksChanged(const QVMovieTracksChangedNotification& notification);
+    void followAudio();
+    std::shared_ptr<QVSubtitles> shownTrack() const { return _subtitlesOn ? _current : _forced; }
     std::shared_ptr<QVSubtitles> trackOfWantedLanguage() const;
     void followPreferredLanguages();
     void loadingWentOn();
@@ -85,6 +88,8 @@ private:
     std::shared_ptr<SubtitleOwner> _movie;
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     std::shared_ptr<QVSubtitles> _current;
+    /// Shown where no subtitles are: what its language leaves unsaid.
+    std::shared_ptr<QVSubtitles> _forced;
     std::unique_ptr<SubtitleView> _textView;
     std::unique_ptr<ImageSubtitleView> _imageView;
     SubtitleView* _view = nullptr; // that of the selected track, once it was made
@@ -102,4 +107,5 @@ private:
     platform::Subscription _onMovie;
     platform::Subscription _onTime;
     platform::Subscription _onPreferences;
+    platform::Subscription _onTracks;
 };

@@ -29,6 +29,8 @@ public:
     /// Adds the tracks of a file, and answers the first of them; none where it has none. A file whose tracks are there
     /// already is not added again.
     virtual std::shared_ptr<QVSubtitles> addSubtitles(const QString&) { return nullptr; }
+    /// The tag of the language that is spoken in the track of sound that plays; empty where it is not known.
+    virtual QString audioLanguage() const { return {}; }
     /// Looks for its tracks again where the setting QVSubtitlesRepair, which says what is a subtitle file, changed
     /// since it did. The tracks of files that are the same by both stay.
     virtual void followReadingMode() {}

@@ -2905,4 +2905,47 @@
         <translation>Spiegeln: Aus</translation>
     </message>
 </context>
+<context>
+    <name>Tracks</name>
+    <message id="Audio Tracks">
+        <source>Audio Tracks</source>
+        <translation>Tonspuren</translation>
+    </message>
+    <message id="Audio: %@">
+        <source>Audio: %@</source>
+        <translation>Ton: %@</translation>
+    </message>
+    <message id="Next Audio Track">
+        <source>Next Audio Track</source>
+        <translation>Nächste Tonspur</translation>
+    </message>
+    <message id="Previous Audio Track">
+        <source>Previous Audio Track</source>
+        <translation>Vorherige Tonspur</translation>
+    </message>
+    <message id="Next and previous audio track">
+        <source>Next and previous audio track</source>
+        <translation>Nächste und vorherige Tonspur</translation>
+    </message>
+    <message id="Mono">
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message id="Stereo">
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message id="%d channels">
+        <source>%d channels</source>
+        <translation>%d Kanäle</translation>
+    </message>
+    <message id="Track %d">
+        <source>Track %d</source>
+        <translation>Spur %d</translation>
+    </message>
+    <message id="forced">
+        <source>forced</source>
+        <translation>nur Fremdsprachiges</translation>
+    </message>
+</context>
 </TS>

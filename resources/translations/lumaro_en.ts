@@ -2905,4 +2905,47 @@
         <translation>Mirror: Off</translation>
     </message>
 </context>
+<context>
+    <name>Tracks</name>
+    <message id="Audio Tracks">
+        <source>Audio Tracks</source>
+        <translation>Audio Tracks</translation>
+    </message>
+    <message id="Audio: %@">
+        <source>Audio: %@</source>
+        <translation>Audio: %@</translation>
+    </message>
+    <message id="Next Audio Track">
+        <source>Next Audio Track</source>
+        <translation>Next Audio Track</translation>
+    </message>
+    <message id="Previous Audio Track">
+        <source>Previous Audio Track</source>
+        <translation>Previous Audio Track</translation>
+    </message>
+    <message id="Next and previous audio track">
+        <source>Next and previous audio track</source>
+        <translation>Next and previous audio track</translation>
+    </message>
+    <message id="Mono">
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message id="Stereo">
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message id="%d channels">
+        <source>%d channels</source>
+        <translation>%d channels</translation>
+    </message>
+    <message id="Track %d">
+        <source>Track %d</source>
+        <translation>Track %d</translation>
+    </message>
+    <message id="forced">
+        <source>forced</source>
+        <translation>forced</translation>
+    </message>
+</context>
 </TS>

@@ -255,3 +255,25 @@ TEST(RememberedMovies, subtitles_that_were_added_come_back_with_their_times_as_l
         }
     }
 }
+
+TEST(RememberedMovies, the_sound_that_the_user_chose_comes_back_and_no_other) {
+    using platform::MovieTrack;
+    const platform::MovieTracks tracks{{.kind = MovieTrack::Kind::audio, .id = 1, .codec = QStringLiteral("aac")},
+                                       {.kind = MovieTrack::Kind::audio, .id = 2, .codec = QStringLiteral("aac")}};
+    MemoryRig first;
+    first.toolkit.tracks = tracks;
+    const QString film = first.file("film.mp4"), other = first.file("other.mp4");
+    first.open(other);
+    first.open(film);
+    EXPECT_EQ(first.view.movie()->audioTrack(), 1);
+    first.view.movie()->setAudioTrack(2);
+    first.quit();
+
+    MemoryRig rig(first.moviesDisk);
+    rig.toolkit.tracks = tracks;
+    rig.open(film);
+    EXPECT_EQ(rig.view.movie()->audioTrack(), 2);
+    EXPECT_FALSE(rig.record(other).contains("AudioTrack"));
+    rig.open(other);
+    EXPECT_EQ(rig.view.movie()->audioTrack(), 1);
+}

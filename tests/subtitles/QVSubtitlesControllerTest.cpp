@@ -452,3 +452,49 @@ TEST_F(SubtitlesController, a_standing_movie_shows_the_cue_that_a_worker_reads_a
     post(QVPlaylistMovieChangedNotification{movie({})});
     EXPECT_FALSE(track->observer) << "a track that is not shown any more is still followed";
 }
+
+// Tracks inside the movie
+
+TEST_F(SubtitlesController, What_is_inside_a_movie_is_selected_with_the_player_and_shown_as_it_says) {
+    using platform::MovieTrack;
+    rig.toolkit.tracks = {{.kind = MovieTrack::Kind::audio, .id = 1, .language = QStringLiteral("ger")},
+                          {.kind = MovieTrack::Kind::subtitles,
+                           .id = 1,
+                           .language = QStringLiteral("eng"),
+                           .content = MovieTrack::Content::text},
+                          {.kind = MovieTrack::Kind::subtitles,
+                           .id = 2,
+                           .language = QStringLiteral("ger"),
+                           .isForced = true,
+                           .content = MovieTrack::Content::text}};
+    const auto made = movie({"0-0 Beside"});
+    rig.view.setMovie(made);
+    post(QVPlaylistMovieChangedNotification{made});
+    ASSERT_EQ(controller.count(), 3U);
+    const auto selected = [&] { return made->selection().subtitles; };
+    controller.setCurrenWithIndex(1);
+    EXPECT_EQ(selected(), 1);
+    made->playerReadSubtitle({QStringLiteral("Inside"), 0, 2});
+    made->setTime(second);
+    EXPECT_EQ(scene.text.last(), "Inside");
+    made->playerReadSubtitle({});
+    EXPECT_EQ(scene.text.last(), "nothing") << "while it rests, too";
+    controller.setCurrenWithIndex(0);
+    EXPECT_EQ(selected(), 0);
+    controller.setCurrenWithIndex(1);
+
+    // Without subtitles, those of the language that is spoken say what it leaves unsaid.
+    controller.setDisplaySubtitles(false);
+    EXPECT_EQ(selected(), 2);
+    made->playerReadSubtitle({QStringLiteral("Sign"), 0, 2});
+    EXPECT_EQ(scene.text.last(), "Sign");
+    EXPECT_EQ(info(), "Off");
+    controller.setDisplaySubtitles(true);
+    EXPECT_EQ(selected(), 1);
+    controller.setDisplaySubtitles(false);
+    platform::MovieTracks dubbed = made->tracks();
+    dubbed[0].language = QStringLiteral("eng");
+    made->playerFoundTracks(dubbed);
+    EXPECT_EQ(selected(), 0);
+    rig.view.setMovie(nullptr);
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The movie controller's commands for the tracks of sound.
+#include "control/QVMovieController.h"
+
+#include "context/FeedbackDisplay.h"
+#include "platform/base/Localization.h"
+#include "platform/base/Log.h"
+#include "playback/AudioChoice.h"
+#include "playback/QVMovie.h"
+#include "playback/QVMovieView.h"
+#include "playback/TrackNames.h"
+
+#include <algorithm>
+
+using platform::MovieTrack;
+using platform::MovieTracks;
+
+namespace {
+
+MovieTracks audioTracksOf(const std::shared_ptr<QVMovie>& movie) {
+    return movie ? AudioChoice::tracks(movie->tracks()) : MovieTracks();
+}
+
+/// The position of a track among them, -1 for one that is not there.
+std::ptrdiff_t positionOf(int id, const MovieTracks& tracks) {
+    const auto found = std::ranges::find(tracks, id, &MovieTrack::id);
+    return found == tracks.end() ? -1 : found - tracks.begin();
+}
+
+} // namespace
+
+void QVMovieController::changeAudio(std::int32_t id, Feedback feedback) {
+    const std::shared_ptr<QVMovie> movie = _with.view.movie();
+    if (!movie || positionOf(id, audioTracksOf(movie)) < 0)
+        return;
+    movie->setAudioTrack(id);
+    if (feedback == Feedback::yes)
+        sayAudio();
+}
+
+void QVMovieController::cycleAudio(std::int32_t direction, Feedback feedback) {
+    const std::shared_ptr<QVMovie> movie = _with.view.movie();
+    const MovieTracks tracks = audioTracksOf(movie);
+    const auto count = static_cast<std::ptrdiff_t>(tracks.size());
+    if (count > 1) {
+        const std::ptrdiff_t position = positionOf(movie->audioTrack(), tracks);
+        const std::ptrdiff_t next = position < 0 ? 0 : (position + direction + count) % count;
+        movie->setAudioTrack(tracks[static_cast<std::size_t>(next)].id);
+    }
+    if (feedback == Feedback::yes)
+        sayAudio();
+}
+
+void QVMovieController::sayAudio() {
+    const std::shared_ptr<QVMovie> movie = _with.view.movie();
+    const MovieTracks tracks = audioTracksOf(movie);
+    const std::ptrdiff_t position = movie ? positionOf(movie->audioTrack(), tracks) : -1;
+    if (position < 0) {
+        post("Audio: %@", platform::localizedString(QStringLiteral("None")));
+        return;
+    }
+    post("Audio: %@", platform::formatted(QStringLiteral("%@ (%d/%d)"),
+                                          {TrackNames::nameOf(tracks[static_cast<std::size_t>(position)]),
+                                           QString::number(position + 1), QString::number(tracks.size())}));
+}
+
+bool QVMovieController::validateAudio(platform::MenuItem& item) const {
+    const std::shared_ptr<QVMovie> movie = _with.view.movie();
+    item.state = movie && item.tag > 0 && movie->audioTrack() == item.tag;
+    return positionOf(item.tag, audioTracksOf(movie)) >= 0;
+}
+
+void QVMovieController::fillAudioMenu(platform::Menu& menu) {
+    menu.removeAllItems();
+    const MovieTracks tracks = audioTracksOf(_with.view.movie());
+    for (const MovieTrack& track : tracks)
+        menu.addItem(TrackNames::nameOf(track), QString::fromLatin1(changeAudioOperation), track.id);
+    if (tracks.empty())
+        menu.addItem(platform::localizedString(QStringLiteral("None")), QString::fromLatin1(changeAudioOperation), 0);
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "playback/EmbeddedSubtitles.h"
+
+#include "playback/TrackNames.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+using platform::MovieTrack;
+using platform::TrackSelection;
+
+namespace {
+
+/// That by which the track is remembered.
+QString pathOf(const QUrl& movie) {
+    return movie.isLocalFile() ? movie.toLocalFile() : movie.toString(QUrl::FullyEncoded);
+}
+
+std::int32_t inUnits(double seconds, std::int32_t timeScale) {
+    constexpr double largest = std::numeric_limits<std::int32_t>::max();
+    return static_cast<std::int32_t>(std::clamp(std::round(seconds * timeScale), 0.0, largest));
+}
+
+} // namespace
+
+EmbeddedSubtitles::EmbeddedSubtitles(const platform::UserDefaults& settings, platform::Movie& movie,
+                                     SubtitleOwner& owner, const MovieTrack& track)
+    : QVSubtitles(settings, pathOf(movie.url()), owner, typeInMovie, 1.0F, Loading::atOnce)
+    , _movie(movie)
+    , _track(track) {}
+
+void EmbeddedSubtitles::setShown(bool isShown) {
+    TrackSelection selection = _movie.selection();
+    // Another one may have been selected meanwhile.
+    if (!isShown && (!_isShown || selection.subtitles != _track.id))
+        return;
+    _isShown = isShown;
+    selection.subtitles = isShown ? _track.id : 0;
+    const bool isText = _track.content == MovieTrack::Content::text;
+    selection.drawn = isText ? TrackSelection::Drawn::asText : TrackSelection::Drawn::inPicture;
+    selection.subtitleDelay = shift().delay / 1000.0;
+    _movie.select(selection);
+}
+
+void EmbeddedSubtitles::setShift(const CueShift& shift) {
+    QVSubtitles::setShift(shift);
+    _cue = nullptr;
+    TrackSelection selection = _movie.selection();
+    selection.subtitleDelay = shift.delay / 1000.0;
+    if (_isShown)
+        _movie.select(selection);
+}
+
+void EmbeddedSubtitles::textChanged() {
+    if (_isShown && _observer)
+        _observer();
+}
+
+std::shared_ptr<QVSubtitle> EmbeddedSubtitles::subtitleForTime(std::int32_t time) {
+    if (!_isShown)
+        return nullptr;
+    if (const platform::SubtitleText& text = _movie.subtitleText(); !_cue || text != _text) {
+        const double delay = _movie.selection().subtitleDelay;
+        _text = text;
+        _cue = std::make_shared<QVSubtitle>(text.text, inUnits(text.start + delay, _movie.timeScale()),
+                                            inUnits(text.end + delay, _movie.timeScale()));
+    }
+    // After a jump the text of the place before is still there for a moment.
+    const bool isDue = !_text.text.isEmpty() && time >= _cue->start() && time <= _cue->end();
+    return isDue ? _cue : nullptr;
+}
+
+QString EmbeddedSubtitles::title() const {
+    return TrackNames::nameOf(_track);
+}
+
+QString EmbeddedSubtitles::language() const {
+    return TrackNames::languageOf(_track);
+}
