@@ -142,6 +142,10 @@ const Samples& Measurements::run() {
         measureFade();
     if (wants("drag"))
         measureDrag();
+    if (wants("long"))
+        measureLongStart();
+    if (wants("large"))
+        measureLargePictures();
     return _samples;
 }
 
@@ -192,6 +196,40 @@ void Measurements::measureStartWithTrack() {
             _samples.add("track", track ? player.name() : "no track", (now() - before) * 1000);
             pause(0.2);
             endAndClear(process);
+        }
+}
+
+void Measurements::measureLongStart() {
+    const std::string movie = makeLongMovie(_media, _plainMovie, _folder / "long").string();
+    for (int round = 0; round < _plan.startRounds; ++round)
+        for (const Player* player : turnOf(round)) {
+            const double before = now();
+            auto process = startPlaying(*player, {movie});
+            _samples.add("long", player->name(), (now() - before) * 1000);
+            pause(0.2);
+            endAndClear(process);
+        }
+}
+
+void Measurements::measureLargePictures() {
+    const std::string movie = makeLargeMovie(_media).string();
+    for (int round = 0; round < _plan.playRounds; ++round)
+        for (const Player* player : turnOf(round)) {
+            auto process = startPlaying(*player, {movie});
+            pause(warmUp / 2);
+            std::set<int> seen;
+            waitUntil(
+                [&] {
+                    if (const auto frame = frameOnScreen(_probe))
+                        seen.insert(*frame);
+                    return false;
+                },
+                Seconds(5), Seconds(0.008));
+            endAndClear(process);
+            if (seen.empty())
+                throw std::runtime_error(player->name() + " shows no frame of the large movie");
+            const int gone = *seen.rbegin() - *seen.begin() + 1;
+            _samples.add("large", player->name(), 100.0 * (gone - int(seen.size())) / gone);
         }
 }
 

@@ -27,8 +27,8 @@ struct Plan {
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu",  "memory",    "paused", "jump",   "open",
-                                               "osd",   "fade", "subtitles", "track",  "change", "drag"};
+inline const std::set<std::string> rowNames = {"start", "cpu",       "memory", "paused", "jump", "open", "osd",
+                                               "fade",  "subtitles", "track",  "change", "drag", "long", "large"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -63,6 +63,8 @@ private:
     void measureSubtitles();
     void measureFade();
     void measureDrag();
+    void measureLongStart();
+    void measureLargePictures();
 
     // A player that shows the movie. Throws std::runtime_error with its words when it does not.
     std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player) { return startPlaying(player, {_movie}); }

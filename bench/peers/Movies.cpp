@@ -17,10 +17,10 @@ constexpr Color stripe{220, 0, 0};
 constexpr harness::Region head{0, 0, screenWidth, 90};
 constexpr int numberHeight = 60;
 
-// The number of each frame as blocks of black and white, in these lines.
-std::string numberFilter(const std::string& lines) {
+// The number of each frame as blocks of black and white, in these lines of a picture of that width.
+std::string numberFilter(const std::string& lines, int width = screenWidth) {
     std::string filter = "drawbox=x=0:" + lines + ":w=iw:color=black:t=fill";
-    const int block = screenWidth / bitCount;
+    const int block = width / bitCount;
     for (int bit = 0; bit < bitCount; ++bit)
         filter += ",drawbox=x=" + std::to_string(block * (bitCount - 1 - bit)) + ':' + lines +
                   ":w=" + std::to_string(block) + ":color=white:t=fill:enable='gte(mod(n," + std::to_string(2 << bit) +
@@ -38,11 +38,23 @@ std::string unlikeAnyOther(int number) {
            text;
 }
 
+// The frame's number across the middle, the stripe at the bottom, of a picture of that width.
+std::string marks(int width) {
+    return numberFilter("y=ih*7/16:h=ih/8", width) +
+           ",drawbox=x=0:y=ih*15/16:w=iw:h=ih/16:color=" + harness::ffmpegColor(stripe) + ":t=fill";
+}
+
+std::string subRipTime(int milliseconds) {
+    char text[64];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d,%03d", milliseconds / 3'600'000, milliseconds / 60'000 % 60,
+                  milliseconds / 1000 % 60, milliseconds % 1000);
+    return text;
+}
+
 } // namespace
 
 std::filesystem::path makeMovie(const harness::MediaFixture& media) {
-    std::string filter = numberFilter("y=ih*7/16:h=ih/8");
-    filter += ",drawbox=x=0:y=ih*15/16:w=iw:h=ih/16:color=" + harness::ffmpegColor(stripe) + ":t=fill";
+    const std::string filter = marks(screenWidth);
     const std::string keyframes = "250";
     return media.make("side by side.mp4", {"-f",
                                            "lavfi",
@@ -81,6 +93,31 @@ std::filesystem::path makePlainMovie(const harness::MediaFixture& media) {
                        "-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p"});
 }
 
+std::filesystem::path makeLongMovie(const harness::MediaFixture& media, const std::filesystem::path& plainMovie,
+                                    const std::filesystem::path& folder) {
+    constexpr int minutes = 240, tracks = 30, every = 4000;
+    std::filesystem::create_directories(folder);
+    const std::filesystem::path cues = folder / "four hours.srt";
+    std::ofstream file(cues);
+    for (int start = 0; start < minutes * 60'000; start += every)
+        file << start / every + 1 << '\n'
+             << subRipTime(start) << " --> " << subRipTime(start + every / 2) << "\nThe ship went by.\n\n";
+    file.close();
+    std::vector<std::string> arguments{
+        "-stream_loop", std::to_string(minutes - 1), "-i", plainMovie.string(), "-i", cues.string(), "-map", "0:v"};
+    for (int track = 0; track < tracks; ++track)
+        arguments.insert(arguments.end(), {"-map", "1:s"});
+    arguments.insert(arguments.end(), {"-c:v", "copy", "-c:s", "srt"});
+    return media.make("four hours.mkv", arguments);
+}
+
+std::filesystem::path makeLargeMovie(const harness::MediaFixture& media) {
+    constexpr int width = 3840;
+    return media.make("large.mkv",
+                      {"-f", "lavfi", "-i", "testsrc2=s=3840x2160:r=24:d=10", "-vf", marks(width), "-c:v", "libx265",
+                       "-preset", "ultrafast", "-x265-params", "log-level=error", "-pix_fmt", "yuv420p10le"});
+}
+
 std::filesystem::path withSubtitles(const std::filesystem::path& movie, const std::filesystem::path& folder,
                                     const Cues& cues) {
     std::filesystem::create_directories(folder);
@@ -89,13 +126,8 @@ std::filesystem::path withSubtitles(const std::filesystem::path& movie, const st
     std::ofstream file(std::filesystem::path(copy).replace_extension(".srt"));
     for (int cue = 0; cue < cues.count; ++cue) {
         const int start = cues.first + cue * cues.every, end = start + cues.shown;
-        const auto time = [](int milliseconds) {
-            char text[48];
-            std::snprintf(text, sizeof text, "00:00:%02d,%03d", milliseconds / 1000, milliseconds % 1000);
-            return std::string(text);
-        };
         file << cue + 1 << '\n'
-             << time(start) << " --> " << time(end) << "\nThe keeper saw " << cue
+             << subRipTime(start) << " --> " << subRipTime(end) << "\nThe keeper saw " << cue
              << " ships go by,\nand waved his hat to every one.\n\n";
     }
     return copy;

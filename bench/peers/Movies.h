@@ -26,6 +26,12 @@ std::optional<int> fastFrameOnScreen(harness::XProbe& probe);
 // A minute of nothing but the stripe's colour, as large: what stands over it is seen.
 std::filesystem::path makePlainMovie(const harness::MediaFixture& media);
 
+// Four hours of the same, in Matroska, with thirty tracks of subtitles.
+std::filesystem::path makeLongMovie(const harness::MediaFixture& media, const std::filesystem::path& plainMovie,
+                                    const std::filesystem::path& folder);
+// Ten seconds of HEVC in ten bits, 3840 by 2160 at 24 pictures a second, numbered and striped like the first.
+std::filesystem::path makeLargeMovie(const harness::MediaFixture& media);
+
 // A SubRip file of texts of two lines; milliseconds.
 struct Cues {
     int count = 30;

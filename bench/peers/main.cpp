@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Lumaro beside other players and prints a table:
-//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag]
+//   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag,
+//                                         long,large]
 // Progress and every sample go to standard error.
 #include "bench/peers/Measurements.h"
 
@@ -30,6 +31,8 @@ struct Line {
 const std::vector<Line> lines = {
     {"process start to first picture, ms", "start", {"mpv", "VLC"}, "%.0f", 0.9, {}},
     {"the same with a track of 2,000 cues (first column: without)", "track", {"no track"}, "%.1f", {}, 5.0},
+    {"start with four hours of Matroska and thirty tracks, ms", "long", {"mpv", "VLC"}, "%.0f", 1.0, {}},
+    {"pictures left out of 2160p24 HEVC in ten bits, percent", "large", {"mpv", "VLC"}, "%.1f", 1.0, {}},
     {"CPU seconds a second of 1080p30 H.264", "cpu", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"the X server's CPU seconds meanwhile", "server", {"mpv", "VLC"}, "%.3f", {}, {}},
     {"pictures shown a second (of 30)", "pictures", {"mpv", "VLC"}, "%.1f", {}, {}},
@@ -116,7 +119,7 @@ int main(int count, char** arguments) {
     const auto plan = planOf({arguments + 1, arguments + count});
     if (!plan) {
         std::fputs("usage: side_by_side [--quick] [--rows "
-                   "start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag]\n",
+                   "start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag,long,large]\n",
                    stderr);
         return 2;
     }
