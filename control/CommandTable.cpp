@@ -2,9 +2,9 @@
 // The table of commands. A new command is one row here and one function of QVMovieController that the row names.
 #include "control/Commands.h"
 #include "control/QVMovieController.h"
+#include "control/SoundCommandTable.h"
 #include "control/SpeedSteps.h"
 #include "control/SubtitleCommandTable.h"
-#include "control/VolumeSteps.h"
 #include "platform/desktop/Power.h"
 #include "platform/window/Events.h"
 #include "playback/MovieSizing.h"
@@ -59,9 +59,6 @@ struct CommandTable {
     static constexpr Operation playPrevNext{"playPrevNext", &Self::playPrevNext, &Self::validatePrevNext};
     static constexpr Operation changeLooping{"changeLooping", &Self::changeLooping, &Self::validateLooping};
     static constexpr Operation toggleLooping{"toggleLooping", &Self::toggleLooping};
-    static constexpr Operation shiftSound{"shiftSound", &Self::shiftSound, &Self::validateShiftSound};
-    static constexpr Operation changeVolume{"changeVolume", &Self::changeVolume};
-    static constexpr Operation cycleAudio{"cycleAudio", &Self::cycleAudio};
     static constexpr Operation switchScreen{"switchScreen", &Self::switchScreen};
 
     static constexpr Operation changeSpeed{changeSpeedOperation, &Self::changeSpeed, &Self::validateSpeed};
@@ -467,97 +464,10 @@ struct CommandTable {
               "Next Looping"),
         byKey(toggleLooping, "previous-looping", -1, {u'l', shift, consumed}, Section::playback,
               "Looping: off, one, all", "Previous Looping"),
+    };
 
-        {.name = "volume-up",
-         .action = action::volumeUp,
-         .operation = changeVolume,
-         .argument = volumeControl::up,
-         .keys = {{{fnkey::up, none, timed},
-                   {fnkey::mediaVolumeUp, none, timed, keyboardMap, motion::any, CommandKey::Shown::no}}},
-         .gesture = MouseGesture::wheelUp,
-         .section = Section::volume,
-         .menu = {"Volume Up"},
-         .help = "Louder and softer"},
-        {.name = "volume-down",
-         .action = action::volumeDown,
-         .operation = changeVolume,
-         .argument = volumeControl::down,
-         .keys = {{{fnkey::down, none, timed},
-                   {fnkey::mediaVolumeDown, none, timed, keyboardMap, motion::any, CommandKey::Shown::no}}},
-         .gesture = MouseGesture::wheelDown,
-         .section = Section::volume,
-         .menu = {"Volume Down", Separator::after},
-         .help = "Louder and softer"},
-        // Their codes are sent, and no effect stands behind them: the keys are kept from the view.
-        {.name = "option-up",
-         .action = action::optionUp,
-         .keys = {{{fnkey::up, option, consumed}}},
-         .section = Section::volume},
-        {.name = "option-down",
-         .action = action::optionDown,
-         .keys = {{{fnkey::down, option, consumed}}},
-         .section = Section::volume},
-        {.name = "normal-volume",
-         .operation = changeVolume,
-         .argument = volumeControl::atLeastNormal,
-         .section = Section::volume,
-         .menu = {"Normal Volume"}},
-        {.name = "silent",
-         .operation = changeVolume,
-         .argument = volumeControl::silent,
-         .section = Section::volume,
-         .menu = {"Silent"}},
-        {.name = "mute",
-         .operation = changeVolume,
-         .argument = volumeControl::mute,
-         .keys = {{{u'm', none, consumed},
-                   {fnkey::mediaMute, none, consumed, keyboardMap, motion::any, CommandKey::Shown::no}}},
-         .gesture = MouseGesture::middleClick,
-         .section = Section::volume,
-         .menu = {"Mute", Separator::after},
-         .help = "Mute"},
-        // The argument is in milliseconds; 0 takes the delay back.
-        {.name = "sound-earlier",
-         .operation = shiftSound,
-         .argument = -50,
-         .keys = {{{u'-', control}}},
-         .section = Section::volume,
-         .menu = {"Sound Earlier"},
-         .help = "Sound earlier and later"},
-        {.name = "sound-later",
-         .operation = shiftSound,
-         .argument = 50,
-         .keys = {{{u'+', control}, {u'=', control, acts, keyboardMap, motion::any, CommandKey::Shown::no}}},
-         .section = Section::volume,
-         .menu = {"Sound Later"},
-         .help = "Sound earlier and later"},
-        {.name = "sound-as-in-file",
-         .operation = shiftSound,
-         .argument = 0,
-         .keys = {{{u'0', control, consumed}}},
-         .section = Section::volume,
-         .menu = {"Sound as in the File"},
-         .help = "Sound at the times of the file"},
-        // The argument is a track's number; the items are made when the menu opens.
-        {.name = "audio-tracks",
-         .operation = {changeAudioOperation, &Self::changeAudio, &Self::validateAudio, Feedback::no},
-         .section = Section::volume,
-         .menu = {.title = "Audio Tracks", .opens = MenuPlace::Opens::menu}},
-        {.name = "next-audio",
-         .operation = cycleAudio,
-         .argument = 1,
-         .keys = {{{u'a', none, consumed}, {u'#', none, consumed}}},
-         .section = Section::volume,
-         .help = "Next and previous audio track",
-         .title = "Next Audio Track"},
-        {.name = "previous-audio",
-         .operation = cycleAudio,
-         .argument = -1,
-         .keys = {{{u'a', shift, consumed}}},
-         .section = Section::volume,
-         .help = "Next and previous audio track",
-         .title = "Previous Audio Track"},
-
+    // Behind those of sound.
+    static constexpr Command rowsOfList[] = {
         // The argument is a position in the list; the items are made from it.
         {.name = "movie",
          .operation = {changeMovieOperation, &Self::changeMovie, &Self::validateMovie},
@@ -605,14 +515,16 @@ struct CommandTable {
 
 namespace {
 
-template <std::size_t First, std::size_t Second, std::size_t Third>
-constexpr auto joined(const Command (&first)[First], const Command (&second)[Second], const Command (&third)[Third]) {
-    std::array<Command, First + Second + Third> all{};
-    std::ranges::copy(third, std::ranges::copy(second, std::ranges::copy(first, all.begin()).out).out);
+template <std::size_t... Counts>
+constexpr auto joined(const Command (&... rows)[Counts]) {
+    std::array<Command, (Counts + ...)> all{};
+    auto end = all.begin();
+    ((end = std::ranges::copy(rows, end).out), ...);
     return all;
 }
 
-constexpr auto allRows = joined(CommandTable::rows, SubtitleCommandTable::rows, CommandTable::rowsBehind);
+constexpr auto allRows = joined(CommandTable::rows, SoundCommandTable::rows, CommandTable::rowsOfList,
+                                SubtitleCommandTable::rows, CommandTable::rowsBehind);
 
 } // namespace
 

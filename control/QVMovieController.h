@@ -102,6 +102,7 @@ public:
 
 private:
     friend struct CommandTable;
+    friend struct SoundCommandTable;
     friend struct SubtitleCommandTable;
 
     // Operations, as the table of commands names them. Directions are +1 and -1; others do nothing. Some confirm
