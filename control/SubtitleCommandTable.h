@@ -54,7 +54,7 @@ struct SubtitleCommandTable {
         // Their items follow those of the tracks.
         {.name = "add-subtitles",
          .operation = addSubtitles,
-         .keys = {{{u'a', control | shift, consumed, KeyTaker::menu}}},
+         .keys = {{{u'e', control, consumed, KeyTaker::menu}}},
          .section = Section::subtitles,
          .menu = {"Add Subtitles...", Separator::after},
          .help = "Add a file of subtitles to the movie"},

@@ -24,6 +24,12 @@ void setEnds(std::vector<TimedCue>& cues) {
     }
 }
 
+/// Codes last until others are set: they end with their cue.
+QString joined(const QString& above, const QString& below) {
+    const bool mayLast = above.contains(u'{') || above.contains(u'<');
+    return above + (mayLast ? QStringLiteral("\n{\\r}") : QStringLiteral("\n")) + below;
+}
+
 /// Walks along the starts and ends of cues in order, and puts down what stands between two of them.
 class Sweep {
 public:
@@ -70,8 +76,8 @@ private:
                 const bool isLater = standing->start > _standing.front()->start && !cue.text.isEmpty();
                 const bool isFirst = cue.text.isEmpty();
                 cue.text = isFirst   ? standing->text
-                           : isLater ? standing->text + u'\n' + cue.text
-                                     : cue.text + u'\n' + standing->text;
+                           : isLater ? joined(standing->text, cue.text)
+                                     : joined(cue.text, standing->text);
                 _joined += cue.text.size();
             }
             // Two places for one text: it stands where texts stand.

@@ -70,7 +70,8 @@ TEST_F(DropsRig, subtitles_are_added_to_the_movie_that_is_shown_or_told_where_th
         rig.desktop.alerts.clear();
         view.performDragOperation(files({rig.file(name)}));
         rig.settings.runLoop.advance(0.02);
-        ASSERT_EQ(rig.desktop.alerts.size(), 1U) << name;
+        // The other one is that of a list without a movie, which offers to open some.
+        ASSERT_EQ(rig.desktop.alerts.size(), 2U) << name;
         EXPECT_TRUE(rig.desktop.alerts[0].message.contains("It holds subtitles.")) << name;
     }
     rig.desktop.alerts.clear();

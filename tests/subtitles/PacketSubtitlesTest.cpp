@@ -190,6 +190,7 @@ TEST_F(PacketFiles, what_stands_at_once_stands_in_one_cue) {
         {"those that come together are in the file's order",
          {{0, 10, "a", 0}, {0, 5, "b", 0}},
          {{0, 5, "a\nb", 0}, {5, 10, "a", 0}}},
+        {"codes end with their cue", {{0, 10, "{\\c&HFF&}a", 0}, {0, 10, "b", 0}}, {{0, 10, "{\\c&HFF&}a\n{\\r}b", 0}}},
         {"two places are none", {{0, 10, "a", 8}, {5, 10, "b", 0}}, {{0, 5, "a", 8}, {5, 10, "b\na", 0}}},
         {"an end that is not known",
          {{0, -1, "a", 0}, {7000, -1, "b", 0}, {8000, 7999, "c", 0}, {9000, 9500, "d", 0}},
