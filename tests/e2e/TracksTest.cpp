@@ -176,11 +176,12 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
     const struct {
         std::string file;
         Color color;
+        int left; // 0: wherever its letters are
     } cases[] = {
-        {mux("dvd.mkv", {index}, {"-c:s", "copy"}), bright},
-        {mux("dvb.ts", {index}, {"-c:s", "dvb_subtitle"}), bright},
-        {mux("discs.mkv", {discs}, {"-c:s", "copy"}), bright},
-        {mux("script.mkv", {script}, {"-c:s", "copy"}), sign},
+        {mux("dvd.mkv", {index}, {"-c:s", "copy"}), bright, 90 * screenWidth / 720},
+        {mux("discs.mkv", {discs}, {"-c:s", "copy"}), bright,
+         (screenWidth - screenHeight * 720 / 480) / 2 + 90 * screenHeight / 480},
+        {mux("signs.mkv", {script}, {"-c:s", "copy"}), sign, 0},
     };
     for (const char* renderer : {"", "opengl"}) {
         ::setenv("LUMARO_RENDERER", renderer, 1);
@@ -191,8 +192,8 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
             probe.tap(XK_Right, {XK_Control_L});
             EXPECT_TRUE(stands(c.color));
             const Region box = boxOf(c.color);
-            if (c.color.blue > 0) {
-                EXPECT_NEAR(box.x, 90 * screenWidth / 720, 6);
+            if (c.left > 0) {
+                EXPECT_NEAR(box.x, c.left, 6);
             }
             probe.tap(XK_s);
             EXPECT_TRUE(nothingStands(c.color)) << "switched off";
@@ -204,6 +205,11 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
         }
     }
     ::unsetenv("LUMARO_RENDERER");
+    // A stream has no index: what began before the keyframe that a jump finds is not known there.
+    startStanding(mux("dvb.ts", {index}, {"-c:s", "dvb_subtitle"}));
+    probe.tap(XK_space);
+    EXPECT_TRUE(stands(bright));
+    ASSERT_TRUE(quitsCleanly());
 }
 
 TEST_F(Tracks, sound_is_chosen_by_key_and_comes_back_with_the_movie) {

@@ -563,6 +563,10 @@ TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_tol
               "cancel all, pause, delays 1 0, load 0 | frame");
     player(FileStarted{2});
     EXPECT_EQ(player(PlaybackRestarted{}), "use frame, subtitles 0 b.ass | frame");
+    EXPECT_EQ(player(Load{tenSeconds, 100}), "cancel all, delays 0 0, load 1 | frame");
+    player(Select{{.subtitles = 4, .drawn = TrackSelection::Drawn::inPicture}});
+    player(FileStarted{3});
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame, subtitles 4 drawn, arm text 0.2 | frame");
     EXPECT_EQ(player(CoreDropped{}), "cancel all");
     EXPECT_EQ(player(Select{{.audio = 1}}), "") << "kept for the next core";
     EXPECT_EQ(player.state().tracks.audio, 1);

@@ -28,7 +28,7 @@ constexpr double failureDelay = 0.25;
 // How often it is tried whether more of a growing file has arrived.
 constexpr double growthInterval = 0.5;
 constexpr float maximumVolume = 3.0F;
-// A resting core reads no text of a track that was just selected before it is sent to where it stands; and it forgets
+// A resting core reads nothing of a track that was just selected before it is sent to where it stands; and it forgets
 // that track's part of the file where it is sent there at once.
 constexpr double textDelay = 0.2;
 
@@ -153,7 +153,7 @@ public:
                 request(toSeconds(_s.time), Precision::exact);
             break;
         case PlayerTimer::text:
-            if (_s.rate == 0 && hasText(_s.tracks) && !_s.seeks.isBusy())
+            if (_s.rate == 0 && hasSubtitles(_s.tracks) && !_s.seeks.isBusy())
                 request(toSeconds(_s.time), Precision::exact);
             break;
         case PlayerTimer::scrub:
@@ -261,14 +261,8 @@ public:
             return;
         _s.tracks = asked.tracks;
         // While the movie is being loaded the core would take it for the one before.
-        if (!_s.core || _s.file != File::shown)
-            return;
-        const bool isTextNew = hasText(_s.tracks) && (_s.core->tracks.subtitles != _s.tracks.subtitles ||
-                                                      _s.core->tracks.drawn != _s.tracks.drawn ||
-                                                      _s.core->tracks.subtitleDelay != _s.tracks.subtitleDelay);
-        sendTracks();
-        if (isTextNew && _s.rate == 0)
-            effect(ArmTimer{PlayerTimer::text, textDelay});
+        if (_s.core && _s.file == File::shown)
+            sendTracks();
     }
 
 private:
@@ -296,8 +290,8 @@ private:
         effect(playerEffect::SetVolume{100.0 * std::cbrt(static_cast<double>(_s.volume))});
     }
 
-    static bool hasText(const TrackSelection& tracks) {
-        return tracks.subtitles > 0 && tracks.subtitleFile.isEmpty() && tracks.drawn == TrackSelection::Drawn::asText;
+    static bool hasSubtitles(const TrackSelection& tracks) {
+        return tracks.subtitles > 0 && tracks.subtitleFile.isEmpty();
     }
 
     void sendDelays() {
@@ -311,10 +305,13 @@ private:
         TrackSelection& told = _s.core->tracks;
         if (told.audio != _s.tracks.audio)
             effect(SelectAudio{});
-        if (told.subtitles != _s.tracks.subtitles || told.subtitleFile != _s.tracks.subtitleFile ||
-            told.drawn != _s.tracks.drawn)
+        const bool areOthers = told.subtitles != _s.tracks.subtitles || told.subtitleFile != _s.tracks.subtitleFile ||
+                               told.drawn != _s.tracks.drawn;
+        if (areOthers)
             effect(SelectSubtitles{});
         sendDelays();
+        if (hasSubtitles(_s.tracks) && _s.rate == 0 && (areOthers || told.subtitleDelay != _s.tracks.subtitleDelay))
+            effect(ArmTimer{PlayerTimer::text, textDelay});
         told = _s.tracks;
     }
 
