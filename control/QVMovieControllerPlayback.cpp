@@ -119,7 +119,7 @@ void QVMovieController::repeatSection(std::int32_t, Feedback) {
         _with.view.repeat(std::nullopt);
         post("Repeat: Off");
     } else if (_sectionBegin && _sectionOf.lock() == movie) {
-        const auto [from, until] = std::minmax(*_sectionBegin, movie->time());
+        const auto [from, until] = std::minmax({*_sectionBegin, movie->time()}); // a list: values, no references
         if (from == until) {
             _with.desktop.beep();
             return;
