@@ -273,6 +273,8 @@ TEST_F(OverlayStyleSection, of_the_two_opacities_the_other_moves_along) {
     EXPECT_EQ(find<FloatSlider>("minAlpha").floatValue(), 0.4);
     drag("minAlpha", 0.1);
     EXPECT_EQ(model().values().maxAlpha, 0.4F) << "only where they would cross";
+    drag("minAlpha", 0);
+    EXPECT_EQ(model().values().minAlpha, 0) << "the slider's first place";
     // Such a pair in the file stays until one of the two is used.
     model().set(&OverlayStyle::minAlpha, 0.7F);
     controller.syncWithModel();
