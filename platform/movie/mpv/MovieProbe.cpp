@@ -192,8 +192,8 @@ std::vector<Chapter> chaptersOf(const AVFormatContext* input, const MovieInfo& i
                             title ? QString::fromUtf8(title->value).simplified().left(maximumLine) : QString()});
     }
     std::ranges::stable_sort(chapters, {}, &Chapter::start);
-    const auto doubled = std::ranges::unique(chapters, {}, &Chapter::start);
-    chapters.erase(doubled.begin(), doubled.end());
+    const auto beginTogether = [](const Chapter& one, const Chapter& other) { return one.start == other.start; };
+    chapters.erase(std::unique(chapters.begin(), chapters.end(), beginTogether), chapters.end());
     return chapters;
 }
 
