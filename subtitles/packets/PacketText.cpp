@@ -226,7 +226,10 @@ QByteArray preparedText(QByteArray utf8, PacketFormat format) {
 }
 
 TimedCue cueOfPacket(const platform::SubtitlePacket& packet, PacketFormat format, const SubStationStyles& styles) {
-    TimedCue cue{packet.start, packet.duration < 0 ? -1 : packet.start + packet.duration, {}, 0};
+    // A damaged file may name any number: thirty years are more than any movie has, and can be counted with.
+    constexpr std::int64_t farthest = std::int64_t{1} << 40;
+    const std::int64_t start = std::clamp(packet.start, -farthest, farthest);
+    TimedCue cue{start, packet.duration < 0 ? -1 : start + std::min(packet.duration, farthest), {}, 0};
     if (cue.end < 0)
         cue.end = cue.start - 1;
     // Some count the end of a C string in.
