@@ -76,7 +76,7 @@ TEST(ToneMapping, gets_brighter_with_the_code_and_leaves_more_of_a_darker_movie_
 }
 
 TEST(ToneMapping, keeps_to_the_lines_of_a_picture_whatever_it_is_divided_into) {
-    // Enough for several threads; a band of bright lines, and room behind each line that is nobody's.
+    // Enough for several threads; one bright line, and bytes behind each line that belong to nobody.
     constexpr int width = 800, height = 1001;
     constexpr std::size_t fromStride = width * 8 + 16, toStride = width * 4 + 12;
     std::vector<std::uint8_t> from(fromStride * height, 0);
