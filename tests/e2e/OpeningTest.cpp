@@ -4,7 +4,6 @@
 
 #include <X11/keysym.h>
 
-#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -45,24 +44,6 @@ protected:
             const bool isUpper = (letter >= 'A' && letter <= 'Z') || letter == ':' || letter == '_';
             probe.tap(static_cast<KeySym>(letter), isUpper ? std::vector<KeySym>{XK_Shift_L} : std::vector<KeySym>{});
         }
-    }
-    std::size_t heard(const std::string& text) const {
-        const std::vector<std::string> lines = player->errorLines();
-        return static_cast<std::size_t>(std::ranges::count_if(
-            lines, [&](const std::string& line) { return line.find(text) != std::string::npos; }));
-    }
-    /// Opens a panel by key; it has the keyboard when the player hears of a key no longer.
-    testing::AssertionResult opens(KeySym key, const std::vector<KeySym>& modifiers) {
-        const WindowId movie = probe.windowAt(screenWidth / 2, screenHeight / 2);
-        probe.tap(key, modifiers);
-        if (!waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != movie; }))
-            return testing::AssertionFailure() << "no panel";
-        const bool hasKeyboard = waitUntil([&] {
-            const std::size_t before = heard("Char:");
-            probe.tap(XK_F8);
-            return staysTrue([&] { return heard("Char:") == before; }, Seconds(0.3));
-        });
-        return hasKeyboard ? testing::AssertionSuccess() : testing::AssertionFailure() << "it has not the keyboard";
     }
     /// Whether the next movie is of the colour.
     testing::AssertionResult isFollowedBy(const Color& color) {
@@ -127,19 +108,19 @@ TEST_F(OpeningByPortal, where_the_portal_cannot_ask_the_players_own_panel_does) 
     startPortal({"3", "false"});
     start({redMovie()});
     ASSERT_TRUE(colorBecomes(red));
-    ASSERT_TRUE(opens(XK_o, {XK_Control_L}));
+    ASSERT_TRUE(opensWindow(XK_o, {XK_Control_L}));
     type("green.mp4"); // in the folder of the movie opened last
     probe.tap(XK_Return);
     EXPECT_TRUE(colorBecomes(green));
     // Alt held at the answer adds.
-    ASSERT_TRUE(opens(XK_o, {XK_Control_L}));
+    ASSERT_TRUE(opensWindow(XK_o, {XK_Control_L}));
     type("red.mp4");
     const std::size_t before = player->lineCount();
     probe.tap(XK_Return, {XK_Alt_L});
     ASSERT_TRUE(logs("Adding to playlist movie file:", before));
     EXPECT_TRUE(colorBecomes(green));
     EXPECT_TRUE(isFollowedBy(red));
-    ASSERT_TRUE(opens(XK_o, {XK_Control_L, XK_Shift_L}));
+    ASSERT_TRUE(opensWindow(XK_o, {XK_Control_L, XK_Shift_L}));
     player->signal(SIGTERM);
     EXPECT_EQ(player->waitForExit(), 0);
 }
@@ -167,12 +148,12 @@ TEST_F(OpeningByPortal, the_desktops_own_panel_says_where_the_playlist_is_saved)
 TEST_F(Opening, an_entered_path_is_opened_and_kept_for_the_next_time) {
     start({redMovie()});
     ASSERT_TRUE(colorBecomes(red));
-    ASSERT_TRUE(opens(XK_u, {XK_Control_L}));
+    ASSERT_TRUE(opensWindow(XK_u, {XK_Control_L}));
     type(greenMovie());
     probe.tap(XK_Return);
     EXPECT_TRUE(colorBecomes(green));
     EXPECT_TRUE(logs("QVOpenURLPanel: Opening URLs: ("));
-    ASSERT_TRUE(opens(XK_u, {XK_Control_L, XK_Shift_L}));
+    ASSERT_TRUE(opensWindow(XK_u, {XK_Control_L, XK_Shift_L}));
     type(redMovie());
     probe.tap(XK_Return);
     probe.tap(XK_Return, {XK_Control_L});
@@ -257,7 +238,7 @@ TEST_F(Dropping, what_hovers_is_said_and_taken_as_a_copy_or_a_link_but_never_mov
 TEST_F(Dropping, on_a_panel_falls_not_through_to_the_movie) {
     start({"--set", "QVPlaylistAutoPlay=0", redMovie()});
     ASSERT_TRUE(frameBecomes(0));
-    ASSERT_TRUE(opens(XK_comma, {XK_Control_L}));
+    ASSERT_TRUE(opensWindow(XK_comma, {XK_Control_L}));
     startSource("copy", {greenMovie()});
     dragTo(screenWidth / 2, screenHeight / 2);
     probe.releaseButton();

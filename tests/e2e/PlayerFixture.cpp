@@ -104,6 +104,27 @@ testing::AssertionResult PlayerFixture::logs(const std::string& text, std::size_
     return testing::AssertionFailure() << "the log never said \"" << text << "\"" << endOfLog(*player);
 }
 
+std::size_t PlayerFixture::timesLogged(const std::string& text) const {
+    const std::vector<std::string> lines = player->errorLines();
+    return static_cast<std::size_t>(
+        std::ranges::count_if(lines, [&](const std::string& line) { return line.find(text) != std::string::npos; }));
+}
+
+testing::AssertionResult PlayerFixture::opensWindow(KeySym key, const std::vector<KeySym>& modifiers) {
+    const WindowId movie = probe.windowAt(screenWidth / 2, screenHeight / 2);
+    probe.tap(key, modifiers);
+    if (!waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != movie; }))
+        return testing::AssertionFailure() << "no window opened" << endOfLog(*player);
+    // It has the keyboard when the player no longer hears of a key that means nothing to it.
+    const bool hasKeyboard = waitUntil([&] {
+        const std::size_t heard = keysHeard();
+        probe.tap(XK_F12);
+        return staysTrue([&] { return keysHeard() == heard; }, Seconds(0.3));
+    });
+    return hasKeyboard ? testing::AssertionSuccess()
+                       : testing::AssertionFailure() << "it has not the keyboard" << endOfLog(*player);
+}
+
 bool PlayerFixture::tapUntil(KeySym key, const std::function<bool()>& condition) {
     bool became = false;
     waitUntil([&] {

@@ -48,6 +48,13 @@ protected:
     testing::AssertionResult colorBecomes(const harness::Color& color,
                                           harness::Seconds timeout = harness::defaultTimeout);
     testing::AssertionResult logs(const std::string& text, std::size_t from = 0);
+    // How many lines of the log hold the text so far.
+    std::size_t timesLogged(const std::string& text) const;
+    bool isLogged(const std::string& text) const { return timesLogged(text) > 0; }
+    // How many keys the player has heard of.
+    std::size_t keysHeard() const { return timesLogged("Char:"); }
+    // Presses a key after which a window of the player's own stands over the middle of the screen, with the keyboard.
+    testing::AssertionResult opensWindow(harness::KeySym key, const std::vector<harness::KeySym>& modifiers);
     // Presses the key again and again until the condition holds: for panels, whose appearing cannot be seen from
     // outside.
     bool tapUntil(harness::KeySym key, const std::function<bool()>& condition);

@@ -38,10 +38,6 @@ protected:
                                                       << user.settingsText();
     }
     bool isStored(const std::string& key) const { return user.settingsText().find(key) != std::string::npos; }
-    bool isLogged(const std::string& text) {
-        return std::ranges::any_of(player->errorLines(),
-                                   [&](const std::string& line) { return line.find(text) != std::string::npos; });
-    }
     double secondsToEnd() {
         const auto start = std::chrono::steady_clock::now();
         player->signal(SIGTERM);
