@@ -37,7 +37,10 @@ public:
     virtual std::optional<double> runGoToTimePanel(double, double) { return std::nullopt; }
     /// Shows the panel for one address (0), or for several (1), until it is answered.
     virtual OpenURLAnswer runOpenURLPanel(std::int32_t) { return {}; }
-    /// Shows the preferences, or brings them to the front. They stay until the user closes them, or closePreferences().
+    /// Shows the preferences, or brings them to the front. They stay until the user closes them, or closePanels().
     virtual void showPreferences() {}
-    virtual void closePreferences() {}
+    /// Shows the panel that says how the movie plays, or closes it.
+    virtual void showInformation() {}
+    /// Those that stay open beside the movie.
+    virtual void closePanels() {}
 };

@@ -73,6 +73,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
               [] { return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation); })
     , _texts(_view, _playlist, _subtitles)
     , _display(environment, _window, _texts)
+    , _information(_view, _subtitles)
     , _menu(environment, _currentCommands)
     , _activation(environment, _window, _view, _pointer)
     , _application(environment, {platform.desktop, platform.toolkit,

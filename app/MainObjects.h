@@ -9,6 +9,7 @@
 #include "app/FileIntake.h"
 #include "app/HeldSubtitles.h"
 #include "app/MainMenu.h"
+#include "app/MovieInformation.h"
 #include "app/OpenPanels.h"
 #include "app/PlaylistSaving.h"
 #include "app/PointerAutohide.h"
@@ -63,6 +64,7 @@ public:
     OnScreenDisplay& display() { return _display; }
     QVAppController& application() { return _application; }
     QVMovieController& controller() { return _controller; }
+    const MovieInformation& information() const { return _information; }
     const CurrentCommands& commands() const { return _currentCommands; }
 
 private:
@@ -102,6 +104,7 @@ private:
     StillSaving _stills;
     CurrentTexts _texts;
     OSDOnDemand _display;
+    MovieInformation _information;
     MainMenu _menu;
     Activation _activation;
     QVAppController _application;

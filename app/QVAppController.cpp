@@ -290,6 +290,10 @@ std::optional<double> QVAppController::askForTime(double now, double duration) {
     return _with.steps.runGoToTimePanel(now, duration);
 }
 
+void QVAppController::showInformation() {
+    _with.steps.showInformation();
+}
+
 void QVAppController::showPreferences() {
     trace("%@: Launching Preferences panel ...", className);
     _with.steps.showPreferences();
@@ -320,7 +324,7 @@ platform::ApplicationDelegate::TerminateReply QVAppController::applicationShould
     const TraceScope scope("-[QVAppController applicationShouldTerminate:]");
     endIntake();
     keepForNextLaunch();
-    _with.steps.closePreferences();
+    _with.steps.closePanels();
     if (_with.view.isPlaying())
         _with.view.stop();
     _with.window.setTerminating(true);

@@ -119,6 +119,7 @@ public:
     void showHelp() override;
     void showPlaylist() override;
     std::optional<double> askForTime(double now, double duration) override;
+    void showInformation() override;
     void showPreferences() override;
     void donate() override;
     bool canDonate() const override;

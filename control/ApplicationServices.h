@@ -31,6 +31,8 @@ public:
     virtual void showHelp() = 0;
     /// Shows the panel of the whole playlist until it is closed.
     virtual void showPlaylist() = 0;
+    /// Shows the panel that says how the movie plays, which stays open beside it; hides it where it is shown.
+    virtual void showInformation() = 0;
     /// Asks for a time of a movie that stands at `now`, seconds; none when there was no answer.
     virtual std::optional<double> askForTime(double now, double duration) = 0;
     /// Shows the preferences, which stay open beside the movie.

@@ -171,6 +171,7 @@ private:
     bool validateSavePlaylist(platform::MenuItem& item) const;
     void showHelp(std::int32_t, Feedback feedback);
     void showPlaylist(std::int32_t, Feedback feedback);
+    void showInformation(std::int32_t, Feedback feedback);
     void showPreferences(std::int32_t, Feedback feedback);
     void donate(std::int32_t, Feedback feedback);
     void quit(std::int32_t, Feedback feedback);

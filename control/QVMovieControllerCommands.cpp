@@ -229,6 +229,10 @@ void QVMovieController::showPlaylist(std::int32_t, Feedback) {
     _with.application.showPlaylist();
 }
 
+void QVMovieController::showInformation(std::int32_t, Feedback) {
+    _with.application.showInformation();
+}
+
 void QVMovieController::showPreferences(std::int32_t, Feedback) {
     _with.application.showPreferences();
 }

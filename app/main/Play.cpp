@@ -12,6 +12,7 @@
 #include "app/main/Terminal.h"
 #include "app/panels/GoToTimePanel.h"
 #include "app/panels/HelpPanel.h"
+#include "app/panels/InformationPanel.h"
 #include "app/panels/PlaylistPanel.h"
 #include "app/panels/QVOpenURLPanel.h"
 #include "platform/base/Background.h"
@@ -110,6 +111,7 @@ public:
     PictureSource* pictures = nullptr;
     const Environment* environment = nullptr;
     const CurrentCommands* commands = nullptr;
+    const MovieInformation* information = nullptr;
     void runHelpPanel() override {
         if (commands)
             ::runHelpPanel(commands->all(), window);
@@ -154,9 +156,17 @@ public:
         if (_preferences)
             _preferences->showAbove(window);
     }
-    void closePreferences() override {
+    void showInformation() override {
+        if (!_information && environment && information && commands)
+            _information = std::make_unique<InformationPanel>(environment->loop, *information, *commands);
+        if (_information)
+            _information->toggleAbove(window);
+    }
+    void closePanels() override {
         if (_preferences)
             _preferences->close();
+        if (_information)
+            _information->close();
     }
 
 private:
@@ -167,6 +177,7 @@ private:
     // Made when they are first asked for.
     std::unique_ptr<QVPreferencesController> _preferences;
     std::unique_ptr<QVOpenURLPanel> _openURLPanel;
+    std::unique_ptr<InformationPanel> _information;
 };
 
 /// All outlive the services.
@@ -243,6 +254,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
         steps.playlist = &player.playlist();
         steps.pictures = &player.view();
         steps.commands = &player.commands();
+        steps.information = &player.information();
         steps.join(run.environment(), player.application(), player.controller());
 
         const auto take = [&](const platform::HandOver& message) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/movie/PictureShape.h"
+#include "platform/movie/PlaybackFacts.h"
 
 #include <QImage>
 
@@ -99,6 +100,9 @@ public:
     /// The picture that is shown, as large as the movie's own, without what is shown over it; a null one where there is
     /// none. Comes later, from the run loop.
     virtual void still(std::function<void(QImage)> completion) = 0;
+
+    /// How the loaded movie is played. Comes later, from the run loop.
+    virtual void facts(std::function<void(const PlaybackFacts&)> completion) = 0;
 
     /// Linear, 1.0 is full; kept within 0 to 3.
     virtual float volume() const = 0;

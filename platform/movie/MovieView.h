@@ -42,6 +42,8 @@ public:
     void setDeinterlacing(Deinterlacing when) { _player.setDeinterlacing(when); }
     /// MoviePlayer::still().
     void wholePicture(std::function<void(QImage)> completion) { _player.still(std::move(completion)); }
+    /// MoviePlayer::facts().
+    void facts(std::function<void(const PlaybackFacts&)> completion) const { _player.facts(std::move(completion)); }
     float volume() const;
     virtual void setVolume(float volume);
     bool isMuted() const;

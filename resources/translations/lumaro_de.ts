@@ -2948,4 +2948,151 @@
         <translation>nur Fremdsprachiges</translation>
     </message>
 </context>
+<context>
+    <name>Information</name>
+    <message id="Information">
+        <source>Information</source>
+        <translation>Angaben zum Film</translation>
+    </message>
+    <message id="Show or hide the information about the movie">
+        <source>Show or hide the information about the movie</source>
+        <translation>Angaben zum Film zeigen oder verbergen</translation>
+    </message>
+    <message id="Copy">
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="No movie">
+        <source>No movie</source>
+        <translation>Kein Film</translation>
+    </message>
+    <message id="Name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="Container">
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message id="Duration">
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message id="File size">
+        <source>File size</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message id="Bit rate">
+        <source>Bit rate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message id="Sound">
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message id="Tracks">
+        <source>Tracks</source>
+        <translation>Spuren</translation>
+    </message>
+    <message id="Frames">
+        <source>Frames</source>
+        <translation>Einzelbilder</translation>
+    </message>
+    <message id="Buffer">
+        <source>Buffer</source>
+        <translation>Puffer</translation>
+    </message>
+    <message id="Codec">
+        <source>Codec</source>
+        <translation>Codec</translation>
+    </message>
+    <message id="Decoder">
+        <source>Decoder</source>
+        <translation>Decoder</translation>
+    </message>
+    <message id="Software">
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message id="Hardware (%@)">
+        <source>Hardware (%@)</source>
+        <translation>Hardware (%@)</translation>
+    </message>
+    <message id="Size">
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message id="%@, displayed as %@">
+        <source>%@, displayed as %@</source>
+        <translation>%@, angezeigt als %@</translation>
+    </message>
+    <message id="Frame rate">
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message id="%@ a second">
+        <source>%@ a second</source>
+        <translation>%@ je Sekunde</translation>
+    </message>
+    <message id="%@ a second, now %@">
+        <source>%@ a second, now %@</source>
+        <translation>%@ je Sekunde, jetzt %@</translation>
+    </message>
+    <message id="Dynamic range">
+        <source>Dynamic range</source>
+        <translation>Dynamikumfang</translation>
+    </message>
+    <message id="Standard">
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message id="Color">
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message id="Channels">
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message id="Sample rate">
+        <source>Sample rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message id="Output">
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message id="%@ (playing)">
+        <source>%@ (playing)</source>
+        <translation>%@ (wird gespielt)</translation>
+    </message>
+    <message id="Subtitles shown">
+        <source>Subtitles shown</source>
+        <translation>Gezeigte Untertitel</translation>
+    </message>
+    <message id="Shown">
+        <source>Shown</source>
+        <translation>Gezeigt</translation>
+    </message>
+    <message id="Late">
+        <source>Late</source>
+        <translation>Verspätet</translation>
+    </message>
+    <message id="Left out">
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message id="Ready">
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message id="%@ s">
+        <source>%@ s</source>
+        <translation>%@ s</translation>
+    </message>
+    <message id="Filling">
+        <source>Filling</source>
+        <translation>Füllt sich mit</translation>
+    </message>
+</context>
 </TS>

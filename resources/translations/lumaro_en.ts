@@ -2948,4 +2948,151 @@
         <translation>forced</translation>
     </message>
 </context>
+<context>
+    <name>Information</name>
+    <message id="Information">
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message id="Show or hide the information about the movie">
+        <source>Show or hide the information about the movie</source>
+        <translation>Show or hide the information about the movie</translation>
+    </message>
+    <message id="Copy">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="No movie">
+        <source>No movie</source>
+        <translation>No movie</translation>
+    </message>
+    <message id="Name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="Container">
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message id="Duration">
+        <source>Duration</source>
+        <translation>Duration</translation>
+    </message>
+    <message id="File size">
+        <source>File size</source>
+        <translation>File size</translation>
+    </message>
+    <message id="Bit rate">
+        <source>Bit rate</source>
+        <translation>Bit rate</translation>
+    </message>
+    <message id="Sound">
+        <source>Sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message id="Tracks">
+        <source>Tracks</source>
+        <translation>Tracks</translation>
+    </message>
+    <message id="Frames">
+        <source>Frames</source>
+        <translation>Frames</translation>
+    </message>
+    <message id="Buffer">
+        <source>Buffer</source>
+        <translation>Buffer</translation>
+    </message>
+    <message id="Codec">
+        <source>Codec</source>
+        <translation>Codec</translation>
+    </message>
+    <message id="Decoder">
+        <source>Decoder</source>
+        <translation>Decoder</translation>
+    </message>
+    <message id="Software">
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message id="Hardware (%@)">
+        <source>Hardware (%@)</source>
+        <translation>Hardware (%@)</translation>
+    </message>
+    <message id="Size">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="%@, displayed as %@">
+        <source>%@, displayed as %@</source>
+        <translation>%@, displayed as %@</translation>
+    </message>
+    <message id="Frame rate">
+        <source>Frame rate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message id="%@ a second">
+        <source>%@ a second</source>
+        <translation>%@ a second</translation>
+    </message>
+    <message id="%@ a second, now %@">
+        <source>%@ a second, now %@</source>
+        <translation>%@ a second, now %@</translation>
+    </message>
+    <message id="Dynamic range">
+        <source>Dynamic range</source>
+        <translation>Dynamic range</translation>
+    </message>
+    <message id="Standard">
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message id="Color">
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message id="Channels">
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message id="Sample rate">
+        <source>Sample rate</source>
+        <translation>Sample rate</translation>
+    </message>
+    <message id="Output">
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message id="%@ (playing)">
+        <source>%@ (playing)</source>
+        <translation>%@ (playing)</translation>
+    </message>
+    <message id="Subtitles shown">
+        <source>Subtitles shown</source>
+        <translation>Subtitles shown</translation>
+    </message>
+    <message id="Shown">
+        <source>Shown</source>
+        <translation>Shown</translation>
+    </message>
+    <message id="Late">
+        <source>Late</source>
+        <translation>Late</translation>
+    </message>
+    <message id="Left out">
+        <source>Left out</source>
+        <translation>Left out</translation>
+    </message>
+    <message id="Ready">
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+    <message id="%@ s">
+        <source>%@ s</source>
+        <translation>%@ s</translation>
+    </message>
+    <message id="Filling">
+        <source>Filling</source>
+        <translation>Filling</translation>
+    </message>
+</context>
 </TS>

@@ -484,8 +484,9 @@ TEST(AppController, menu_items_reach_those_who_act_on_them) {
     EXPECT_FALSE(rig.view.isPlaying());
     choose("showHelp");
     choose("showPreferences");
-    EXPECT_EQ(rig.events, (QStringList{"help", "preferences"}));
-    EXPECT_EQ(rig.steps.closedPreferences, 0);
+    choose("showInformation");
+    EXPECT_EQ(rig.events, (QStringList{"help", "preferences", "information"}));
+    EXPECT_EQ(rig.steps.closedPanels, 0);
     rig.objects->display().setDisplayType(2);
     choose("cycleDisplays", 1);
     EXPECT_EQ(rig.objects->display().displayType(), 3);

@@ -76,8 +76,9 @@ public:
         }
         OpenURLAnswer openURLAnswer;
         void showPreferences() override { take("preferences"); }
-        void closePreferences() override { ++closedPreferences; }
-        int closedPreferences = 0;
+        void showInformation() override { take("information"); }
+        void closePanels() override { ++closedPanels; }
+        int closedPanels = 0;
 
     private:
         void take(const char* step) {

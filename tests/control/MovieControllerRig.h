@@ -47,6 +47,7 @@ protected:
         bool hasRecent() const override { return calls.isEmpty(); }
         void savePlaylist() override { calls << "save playlist"; }
         void showHelp() override { calls << "help"; }
+        void showInformation() override { calls << "information"; }
         void showPlaylist() override { calls << "playlist"; }
         std::optional<double> time; // that the user answers
         std::optional<double> askForTime(double now, double duration) override {

@@ -180,12 +180,13 @@ TEST_F(MovieController, What_is_the_applications_is_asked_of_it) {
     perform("doOpenURL", 1);
     perform("showHelp", 0);
     perform("showPreferences", 0);
+    perform("showInformation", 0);
     perform("donate", 0);
     perform("cycleDisplays", -1);
     controller.windowDidBecomeKey(window);
     controller.windowDidResignKey(window);
-    EXPECT_EQ(services.calls, (QStringList{"open", "open folder", "open URL 1", "help", "preferences", "donate",
-                                           "display -1", "became key", "resigned key"}));
+    EXPECT_EQ(services.calls, (QStringList{"open", "open folder", "open URL 1", "help", "preferences", "information",
+                                           "donate", "display -1", "became key", "resigned key"}));
     for (const bool hasPage : {true, false}) {
         services.hasDonationPage = hasPage;
         platform::MenuItem item;

@@ -66,6 +66,26 @@ TEST_F(Watching, chapters_of_the_file_are_stepped_through) {
     }
 }
 
+TEST_F(Watching, the_information_stands_beside_the_movie_that_plays_on_and_its_key_shows_and_hides_it) {
+    start({numbered("red.mp4", red, 300)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 3; }, "playing"));
+    const auto isShown = [&] { return !probe.pixel(screenWidth / 12, screenHeight / 4).isNear(red, 40); };
+    for (const KeySym end : {KeySym{XK_i}, KeySym{XK_Escape}}) {
+        probe.tap(XK_i);
+        ASSERT_TRUE(waitUntil(isShown));
+        EXPECT_TRUE(colorBecomes(red)) << "it leaves the middle of the picture";
+        ASSERT_TRUE(waitUntil([&] {
+            const std::size_t heard = keysHeard();
+            probe.tap(XK_F12);
+            return staysTrue([&] { return keysHeard() == heard; }, Seconds(0.3));
+        })) << "it has not the keyboard";
+        probe.tap(end);
+        ASSERT_TRUE(waitUntil([&] { return !isShown(); }));
+    }
+    EXPECT_EQ(timesLogged("Movie: Pause"), 0U);
+    ASSERT_TRUE(quitsCleanly());
+}
+
 TEST_F(Watching, a_section_is_repeated_to_the_frame) {
     start({"--set", "QVPlaylistAutoPlay=0", "--set", "QVJumpInterval=1", numbered("red.mp4", red, 300)});
     ASSERT_TRUE(frameBecomes(0));

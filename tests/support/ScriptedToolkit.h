@@ -58,6 +58,8 @@ public:
     void setDeinterlacing(platform::Deinterlacing when) override { _deinterlacing = when; }
     QImage stillPicture;
     void still(std::function<void(QImage)> completion) override { completion(stillPicture); }
+    platform::PlaybackFacts playbackFacts;
+    void facts(std::function<void(const platform::PlaybackFacts&)> completion) override { completion(playbackFacts); }
     float volume() const override { return _volume; }
     void setVolume(float volume) override;
     bool isMuted() const override { return _muted; }

@@ -68,6 +68,36 @@ TEST(MpvPlayer, a_still_is_the_picture_that_is_seen_and_leaves_it_as_it_is) {
     EXPECT_TRUE(rig.shows(138));
 }
 
+TEST(MpvPlayer, tells_how_the_movie_plays_and_counts_each_frame_once) {
+    ToolkitRig rig;
+    platform::PlaybackFacts facts{.container = "none yet"};
+    const auto ask = [&] {
+        bool isTold = false;
+        rig.player().facts([&](const platform::PlaybackFacts& told) {
+            facts = told;
+            isTold = true;
+        });
+        return rig.waitFor([&] { return isTold; });
+    };
+    EXPECT_TRUE(ask());
+    EXPECT_EQ(facts, platform::PlaybackFacts()) << "without a movie";
+    const auto movie = rig.show(numberedMovie());
+    for (int number = 1; number < 5; ++number) {
+        rig.player().step(1);
+        ASSERT_TRUE(rig.shows(number));
+    }
+    rig.settle();
+    ASSERT_TRUE(ask());
+    EXPECT_TRUE(facts.container.contains("mp4")) << facts.container.toStdString();
+    EXPECT_EQ(facts.videoCodec, "h264");
+    EXPECT_EQ(facts.hardwareDecoder, QString());
+    EXPECT_EQ(facts.storedSize, rig.screen.size());
+    EXPECT_EQ(facts.frameRate, 30);
+    EXPECT_EQ(facts.framesShown, 5);
+    EXPECT_EQ(facts.framesLate, 0) << "one that rests has no time";
+    EXPECT_GT(facts.bufferSeconds, 0);
+}
+
 TEST(MpvPlayer, a_seek_answers_its_target_at_once_and_shows_its_picture) {
     ToolkitRig rig;
     const auto movie = rig.show(numberedMovie());

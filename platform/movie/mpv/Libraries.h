@@ -95,6 +95,8 @@ namespace platform {
     X(mpv_render_context_create)                                                                                       \
     X(mpv_render_context_set_update_callback)                                                                          \
     X(mpv_render_context_update)                                                                                       \
+    X(mpv_render_context_get_info)                                                                                     \
+    X(mpv_get_time_us)                                                                                                 \
     X(mpv_render_context_render)                                                                                       \
     X(mpv_render_context_report_swap)                                                                                  \
     X(mpv_render_context_free)

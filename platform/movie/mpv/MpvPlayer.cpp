@@ -9,7 +9,6 @@
 #include "platform/movie/mpv/MovieInput.h"
 #include "platform/movie/mpv/MpvCore.h"
 #include "platform/movie/mpv/TrackProbe.h"
-#include "platform/movie/mpv/VideoFilters.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -40,39 +39,11 @@ constexpr std::uint64_t decoderProperty = 6;
 constexpr std::uint64_t tracksProperty = 7;
 constexpr std::uint64_t transferProperty = 8;
 
-// What was asked of the core about the fields of a movie: the loads are added, away from the numbers of other answers.
-constexpr std::uint64_t fieldsReply = std::uint64_t{1} << 32;
-
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
 
 // A file that was written to within these seconds is still growing.
 constexpr qint64 growingSeconds = 3;
-
-/// A copy of the one that the core answers with.
-QImage pictureOf(const mpv_node& answer) {
-    std::int64_t width = 0, height = 0, stride = 0;
-    const mpv_byte_array* pixels = nullptr;
-    if (answer.format != MPV_FORMAT_NODE_MAP)
-        return {};
-    const mpv_node_list& parts = *answer.u.list;
-    for (int i = 0; i < parts.num; ++i) {
-        const QByteArrayView name(parts.keys[i]);
-        const mpv_node& part = parts.values[i];
-        if (part.format == MPV_FORMAT_BYTE_ARRAY && name == "data")
-            pixels = part.u.ba;
-        else if (part.format == MPV_FORMAT_INT64)
-            (name == "w" ? width : name == "h" ? height : stride) = part.u.int64;
-        else if (part.format == MPV_FORMAT_STRING && name == "format" && qstrcmp(part.u.string, "bgr0") != 0)
-            return {};
-    }
-    if (!pixels || width <= 0 || height <= 0 || stride < 4 * width ||
-        static_cast<std::int64_t>(pixels->size) < stride * height)
-        return {};
-    return QImage(static_cast<const uchar*>(pixels->data), static_cast<int>(width), static_cast<int>(height), stride,
-                  QImage::Format_RGB32)
-        .copy();
-}
 
 } // namespace
 
@@ -92,6 +63,7 @@ void MpvPlayer::dropCore() {
     _video.setCore(nullptr);
     apply(playerEvent::CoreDropped{});
     _text.forget();
+    _facts.forget();
     _core.reset();
     _delivered.reset();
 }
@@ -259,7 +231,7 @@ void MpvPlayer::handleEvents() {
 }
 
 void MpvPlayer::handle(const mpv_event& event) {
-    if (_text.handle(event))
+    if (_text.handle(event) || _facts.handle(event))
         return;
     switch (event.event_id) {
     case MPV_EVENT_LOG_MESSAGE: {
@@ -328,16 +300,6 @@ void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property
         takeTransfer(*static_cast<const char* const*>(value.data));
 }
 
-void MpvPlayer::takeTransfer(const char* transfer) {
-    const auto coded = qstrcmp(transfer, "pq") == 0    ? DynamicRange::Transfer::pq
-                       : qstrcmp(transfer, "hlg") == 0 ? DynamicRange::Transfer::hlg
-                                                       : DynamicRange::Transfer::standard;
-    const DynamicRange& told = _movie->info().dynamicRange;
-    const bool wasShownOtherwise = _video.setDynamicRange({coded, coded == told.transfer ? told.peak : 0});
-    if (wasShownOtherwise && _observer)
-        _observer->playerFrameChanged();
-}
-
 /// Not waiting for a drive that hangs.
 std::optional<FileFacts> MpvPlayer::grownFile() const {
     constexpr double timeout = 0.3;
@@ -399,84 +361,17 @@ void MpvPlayer::carryOut(const playerEffect::SetRepeated& effect) {
     command({"set", "ab-loop-b", text(until).constData()});
 }
 
-QByteArray MpvPlayer::filters() const {
-    VideoFilters wanted;
-    wanted.fileTurns = _movie->info().quarterTurns;
-    wanted.shape = _movie->shape();
-    if (!_video.usesOpenGL())
-        wanted.adjustment = _adjustment;
-    if (_deinterlacing == Deinterlacing::on)
-        wanted.fields = VideoFilters::Fields::all;
-    else if (_deinterlacing == Deinterlacing::automatic && _isInterlaced)
-        wanted.fields = VideoFilters::Fields::marked;
-    return filterOption(wanted);
-}
-
-void MpvPlayer::updateFilters() {
-    // One that is still to be loaded is loaded with them.
-    if (!_core || !_movie || !_movie->info().hasVideo || !_sentFilters)
-        return;
-    const QByteArray wanted = filters();
-    if (std::exchange(_sentFilters, wanted) != wanted)
-        command({"set", "file-local-options/vf", wanted.constData()});
-}
-
-void MpvPlayer::shapeChanged() {
-    if (_movie)
-        _video.setNaturalSize(_movie->shape().applied(_movie->info().naturalSize, PictureShape::By::file));
-    updateFilters();
-}
-
-void MpvPlayer::setAdjustment(const PictureAdjustment& adjustment) {
-    _adjustment = adjustment;
-    sendAdjustment();
-    updateFilters();
-}
-
-void MpvPlayer::sendAdjustment() {
-    if (!_video.usesOpenGL())
-        return;
-    const std::pair<const char*, int> values[] = {{"contrast", _adjustment.contrast},
-                                                  {"brightness", _adjustment.brightness},
-                                                  {"gamma", _adjustment.gamma},
-                                                  {"saturation", _adjustment.saturation},
-                                                  {"hue", _adjustment.hue}};
-    for (const auto& [name, value] : values)
-        command({"set", name, QByteArray::number(value).constData()});
-}
-
-void MpvPlayer::askForFields(double seconds) {
-    // Once more each second: a film may begin with a title of whole pictures.
-    const int second = static_cast<int>(seconds);
-    if (!_core || _isInterlaced || std::exchange(_fieldsAskedAt, second) == second)
-        return;
-    MpvLibrary::get()->mpv_get_property_async(_core->handle(), fieldsReply + _loads, "video-frame-info/interlaced",
-                                              MPV_FORMAT_FLAG);
-}
-
-void MpvPlayer::answerProperty(const mpv_event& event) {
-    const auto* property = static_cast<const mpv_event_property*>(event.data);
-    if (event.error < 0 || event.reply_userdata != fieldsReply + _loads || property->format != MPV_FORMAT_FLAG ||
-        _state.file != PlayerState::File::shown || *static_cast<const int*>(property->data) == 0)
-        return;
-    _isInterlaced = true;
-    updateFilters();
-}
-
-void MpvPlayer::still(std::function<void(QImage)> completion) {
-    if (!_core || !_movie || !_video.hasCoreFrame()) {
+void MpvPlayer::facts(std::function<void(const PlaybackFacts&)> completion) {
+    if (!_core || !_movie) {
         RunLoop::main().post([completion = std::move(completion)] { completion({}); });
         return;
     }
-    _stills[++_lastStill] = std::move(completion);
-    command({"screenshot-raw", "video"}, _lastStill);
-}
-
-void MpvPlayer::answerStill(const mpv_event& event) {
-    const auto asked = _stills.extract(event.reply_userdata);
-    if (asked)
-        asked.mapped()(event.error < 0 ? QImage()
-                                       : pictureOf(static_cast<const mpv_event_command*>(event.data)->result));
+    _facts.ask(_core->handle(), [this, completion = std::move(completion)](const PlaybackFacts& told) {
+        PlaybackFacts facts = told;
+        facts.framesShown = _video.counts().shown;
+        facts.framesLate = _video.counts().late;
+        completion(facts);
+    });
 }
 
 void MpvPlayer::carryOut(const playerEffect::SendSteps& effect) {

@@ -7,6 +7,7 @@
 #include "platform/movie/MoviePlayer.h"
 #include "platform/movie/mpv/FirstFrameDecoder.h"
 #include "platform/movie/mpv/MpvVideoLayer.h"
+#include "platform/movie/mpv/PlaybackFactsReader.h"
 #include "platform/movie/mpv/PlayerState.h"
 #include "platform/movie/mpv/SubtitleTextReader.h"
 
@@ -68,6 +69,7 @@ public:
         updateFilters();
     }
     void still(std::function<void(QImage)> completion) override;
+    void facts(std::function<void(const PlaybackFacts&)> completion) override;
     float volume() const override { return _state.volume; }
     void setVolume(float volume) override { apply(playerEvent::SetVolume{volume}); }
     bool isMuted() const override { return _state.muted; }
@@ -165,6 +167,7 @@ private:
         if (_movie)
             _movie->playerReadSubtitle(text);
     }};
+    PlaybackFactsReader _facts;
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 
     /// The stills that were asked for, by the number of the core's reply.

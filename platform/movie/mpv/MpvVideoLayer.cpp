@@ -29,6 +29,9 @@ void copyPart(const QImage& from, const QRect& part, unsigned char* target, std:
 // A first picture is scaled whole: larger ones, of which only a part is seen, are the core's work.
 constexpr qint64 maximumFirstPixels = 16 << 20;
 
+// Microseconds; half of a picture's time at 25 a second.
+constexpr std::int64_t noticeablyLate = 20'000;
+
 } // namespace
 
 MpvVideoLayer::MpvVideoLayer() = default;
@@ -41,6 +44,7 @@ void MpvVideoLayer::begin(const QSizeF& naturalSize, LastFrame last) {
     else if (_coreHasPicture || (_first && _last.isNull())) // else none of the movie before was seen yet
         keepLastFrame();
     _coreHasPicture = false;
+    _counts = {};
     _first = nullptr;
     _naturalSize = naturalSize;
 }
@@ -113,6 +117,22 @@ bool MpvVideoLayer::renderFirst(const QRect& picture, const QRect& visible, unsi
     return true;
 }
 
+void MpvVideoLayer::count() {
+    const MpvLibrary& mpv = *MpvLibrary::get();
+    mpv_render_frame_info next{};
+    if (mpv.mpv_render_context_get_info(_core->renderContext(), {MPV_RENDER_PARAM_NEXT_FRAME_INFO, &next}) < 0)
+        return;
+    constexpr std::uint64_t again = MPV_RENDER_FRAME_INFO_REDRAW | MPV_RENDER_FRAME_INFO_REPEAT;
+    // The first one of a movie was taken from the core before it could be shown.
+    const bool isNew = (next.flags & MPV_RENDER_FRAME_INFO_PRESENT) && !(next.flags & again);
+    if (!isNew && _counts.shown > 0)
+        return;
+    ++_counts.shown;
+    // One of a movie that rests has no time.
+    if (next.target_time > 0 && mpv.mpv_get_time_us(_core->handle()) - next.target_time > noticeablyLate)
+        ++_counts.late;
+}
+
 void MpvVideoLayer::setProperty(const char* name, double value) {
     MpvLibrary::get()->mpv_set_property_async(_core->handle(), 0, name, MPV_FORMAT_DOUBLE, &value);
 }
@@ -183,6 +203,7 @@ bool MpvVideoLayer::renderCore(const QSize& size, unsigned char* target, std::si
 }
 
 bool MpvVideoLayer::renderCore(const QSize& size, const char* format, void* target, std::size_t stride) {
+    count();
     int sides[2] = {size.width(), size.height()};
     int block = 0;
     mpv_render_param parameters[] = {{MPV_RENDER_PARAM_SW_SIZE, sides},
@@ -263,6 +284,7 @@ bool MpvVideoLayer::renderCoreGL(const QRect& picture, const QSize& target, unsi
 bool MpvVideoLayer::renderCoreGL(const QSize& target, unsigned framebuffer) {
     if (!_core->renderContext())
         return false;
+    count();
     mpv_opengl_fbo fbo{static_cast<int>(framebuffer), target.width(), target.height(), 0};
     int flip = 1;
     int block = 0;

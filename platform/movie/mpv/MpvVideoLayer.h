@@ -46,6 +46,12 @@ public:
     /// Called each time the first picture was rendered.
     void setFirstShown(std::function<void()> shown) { _firstShown = std::move(shown); }
     bool usesOpenGL() const { return _gl != nullptr; }
+    /// Pictures of the core's since begin(): all, and those that came noticeably after their time.
+    struct Counts {
+        std::int64_t shown = 0;
+        std::int64_t late = 0;
+    };
+    const Counts& counts() const { return _counts; }
     /// The core's picture is of the movie from here on.
     void coreFrameReady();
     bool hasCoreFrame() const { return _coreHasPicture; }
@@ -76,6 +82,8 @@ private:
     bool renderCoreGL(const QSize& target, unsigned framebuffer);
     void setCrop(const QRect& picture, const QRect& visible);
     void setProperty(const char* name, double value);
+    /// Counts the one that is rendered next, unless it is shown already.
+    void count();
 
     MpvCore* _core = nullptr;
     GLContext* _gl = nullptr;
@@ -83,6 +91,7 @@ private:
     std::shared_ptr<const FirstFrame> _first;
     std::function<void()> _firstShown;
     Shown _shown; // last
+    Counts _counts;
     // The last picture of the movie before: in one of the two, or none is kept.
     QImage _last;
     std::unique_ptr<QOpenGLFramebufferObject> _lastGL;
