@@ -4,7 +4,6 @@
 #include "context/FeedbackDisplay.h"
 #include "platform/base/Localization.h"
 #include "platform/base/PathNames.h"
-#include "platform/base/RegularFile.h"
 #include "platform/desktop/Desktop.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
@@ -36,12 +35,9 @@ AddedSubtitles::AddedSubtitles(const Environment& environment, const Collaborato
         [this](const auto& notification) { movieChanged(notification); });
 }
 
-bool AddedSubtitles::isSubtitles(const QString& path) const {
+bool AddedSubtitles::isCalledSubtitles(const QString& path) const {
     const QString extension = platform::pathExtension(path).toLower();
-    if (extension == QStringLiteral("txt") || _movieTypes.contains(extension) || !_subtitleTypes.contains(extension))
-        return false;
-    const auto facts = platform::factsOfFile(platform::nativePath(urlOfFile(path)));
-    return facts && facts->isFile;
+    return extension != QStringLiteral("txt") && !_movieTypes.contains(extension) && _subtitleTypes.contains(extension);
 }
 
 bool AddedSubtitles::hasMovie() const {
@@ -69,11 +65,22 @@ void AddedSubtitles::ask() {
         add(choice.chosen);
 }
 
-void AddedSubtitles::add(const QStringList& paths) {
+void AddedSubtitles::add(const QStringList& handedOver) {
+    QStringList paths;
+    for (const QString& one : handedOver)
+        paths.append(platform::pathFromStored(one));
+    // Only then are they read, here.
+    _files.look(paths, [this, paths, movie = std::weak_ptr(_with.view.movie())](const QStringList& readable) {
+        if (const auto shown = _with.view.movie(); shown && shown == movie.lock())
+            addReadable(paths, readable);
+    });
+}
+
+void AddedSubtitles::addReadable(const QStringList& paths, const QStringList& readable) {
     QStringList added, failed;
     // The first one is shown.
     for (auto path = paths.rbegin(); path != paths.rend(); ++path)
-        (_with.subtitles.addFile(*path) ? added : failed).prepend(*path);
+        (readable.contains(*path) && _with.subtitles.addFile(*path) ? added : failed).prepend(*path);
     // The data of an index is no file of its own.
     const auto belongs = [&added](const QString& path) {
         return std::ranges::any_of(added, [&path](const QString& other) {

@@ -5,6 +5,7 @@
 #include "context/Environment.h"
 #include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
+#include "platform/base/ReadableFiles.h"
 
 class FeedbackDisplay;
 class QVMovieView;
@@ -31,12 +32,13 @@ public:
     /// Asks with the desktop's panel.
     void ask();
 
-    bool isSubtitles(const QString& path) const override;
+    bool isCalledSubtitles(const QString& path) const override;
     bool hasMovie() const override;
     void add(const QStringList& paths) override;
     void holdFor(const QStringList& paths, const QString& movie) override;
 
 private:
+    void addReadable(const QStringList& paths, const QStringList& readable);
     void movieChanged(const QVPlaylistMovieChangedNotification& notification);
 
     Environment _environment;
@@ -46,5 +48,6 @@ private:
     /// What came with a movie that is not shown yet.
     QStringList _held;
     QString _heldFor;
+    platform::ReadableFiles _files;
     platform::Subscription _onMovie;
 };

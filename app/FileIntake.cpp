@@ -43,9 +43,13 @@ struct Look {
     QList<OpeningFailure> failures;
 };
 
-bool isFolder(const QString& text) {
+std::optional<platform::FileFacts> factsOf(const QString& text) {
     const QUrl url = isURLString(text) ? QUrl(text) : QUrl::fromLocalFile(text);
-    const auto facts = url.isLocalFile() ? platform::factsOfFile(platform::nativePath(url)) : std::nullopt;
+    return url.isLocalFile() ? platform::factsOfFile(platform::nativePath(url)) : std::nullopt;
+}
+
+bool isFolder(const QString& text) {
+    const auto facts = factsOf(text);
     return facts && facts->isFolder;
 }
 
@@ -116,15 +120,36 @@ FileIntake::~FileIntake() {
 
 bool FileIntake::wouldAddToMovie(const QStringList& paths) const {
     return _subtitleTaker && _subtitleTaker->hasMovie() && !paths.isEmpty() &&
-           std::ranges::all_of(paths, [this](const QString& path) { return _subtitleTaker->isSubtitles(path); });
+           std::ranges::all_of(paths, [this](const QString& path) { return _subtitleTaker->isCalledSubtitles(path); });
+}
+
+/// Of a few that are called subtitles: the files. All of them where that is not known at once, for whoever takes them
+/// has them looked at once more.
+QStringList FileIntake::subtitlesAmong(const QStringList& pathsOrUrls) const {
+    QStringList called;
+    if (_subtitleTaker) {
+        for (const QString& one : pathsOrUrls)
+            if (!isURLString(platform::pathFromStored(one)) && _subtitleTaker->isCalledSubtitles(one))
+                called.append(one);
+    }
+    if (called.isEmpty())
+        return called;
+    const auto files = platform::background::runFor<QStringList>(lookTimeout, [called] {
+        QStringList there;
+        for (const QString& one : called)
+            if (const auto facts = factsOf(one); facts && facts->isFile)
+                there.append(one);
+        return there;
+    });
+    return files.value_or(called);
 }
 
 /// What is left to be opened. Subtitles belong to the one movie that they came with, else to the one that is shown;
 /// those that came with several are found beside them by themselves.
 QStringList FileIntake::withoutSubtitles(const QStringList& pathsOrUrls, Adding adding) {
-    QStringList subtitles, others;
-    for (const QString& one : pathsOrUrls)
-        (_subtitleTaker && !isURLString(one) && _subtitleTaker->isSubtitles(one) ? subtitles : others).append(one);
+    const QStringList subtitles = subtitlesAmong(pathsOrUrls);
+    QStringList others = pathsOrUrls;
+    others.removeIf([&subtitles](const QString& one) { return subtitles.contains(one); });
     if (subtitles.isEmpty() || others.size() > 1)
         return pathsOrUrls;
     if (others.size() == 1) {

@@ -66,6 +66,7 @@ public:
 
 private:
     struct Search;
+    QStringList subtitlesAmong(const QStringList& pathsOrUrls) const;
     QStringList withoutSubtitles(const QStringList& pathsOrUrls, Adding adding);
     void search(const QStringList& pathsOrUrls, Adding adding);
     void takeFound(const std::shared_ptr<Search>& search);

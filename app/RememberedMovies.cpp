@@ -159,10 +159,27 @@ void RememberedMovies::movieChanged(const QVPlaylistMovieChangedNotification& no
         record = {}; // another movie stands there now
     if (size >= 0)
         record.insert(key::size, size);
-    RememberedTracks::restore(*notification.movie, record);
+    restoreTracks(notification.movie, record);
     record.insert(key::used, _environment.loop.date().toUTC());
     store(movie.address(), record);
     writeSoon(changeDelay);
+}
+
+/// Before the tracks are chosen from, unless a drive lets wait for the files that were added.
+void RememberedMovies::restoreTracks(const std::shared_ptr<QVMovie>& movie, const QVariantMap& record) {
+    RememberedTracks::restore(*movie, record);
+    _files.abandon();
+    _awaited = RememberedTracks::addedFiles(record);
+    if (_awaited.isEmpty())
+        return;
+    _files.look(_awaited, [this, weak = std::weak_ptr(movie), record](const QStringList& readable) {
+        _awaited.clear();
+        const auto owner = weak.lock();
+        if (!owner)
+            return;
+        RememberedTracks::restoreFiles(*owner, readable, record);
+        _environment.notifications.post(QVMovieTracksChangedNotification{owner});
+    });
 }
 
 /// Runs with each picture. The timer is armed by the movie, so that one that stands wakes nobody.
@@ -187,7 +204,7 @@ void RememberedMovies::rememberCurrent() {
         record.insert(key::subtitles, platform::storedPath(track->path()));
         record.insert(key::subtitlesIndex, static_cast<qlonglong>(track->streamIndex()));
     }
-    RememberedTracks::keep(*movie, record);
+    RememberedTracks::keep(*movie, _awaited, record);
     if (const std::optional<int> audio = movie->chosenAudio())
         record.insert(key::audio, static_cast<qlonglong>(*audio));
     if (record != before)

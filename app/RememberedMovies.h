@@ -5,11 +5,13 @@
 #include "context/FeedbackDisplay.h"
 #include "context/Notifications.h"
 #include "platform/base/NotificationCenter.h"
+#include "platform/base/ReadableFiles.h"
 #include "platform/base/RunLoop.h"
 #include "playlist/MovieMemory.h"
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <QVariant>
 
@@ -70,6 +72,7 @@ private:
     QVariantMap& records();
     void movieChanged(const QVPlaylistMovieChangedNotification& notification);
     void movieMoved(const QVMovieInterestingTimeNotification& notification);
+    void restoreTracks(const std::shared_ptr<QVMovie>& movie, const QVariantMap& record);
     void rememberCurrent();
     void prune();
     void store(const QString& address, const QVariantMap& record);
@@ -85,6 +88,9 @@ private:
     bool _hasFailed = false;
     /// That of which nothing is to be kept.
     std::weak_ptr<QVMovie> _unwanted;
+    /// Files of subtitles that the current movie is to get back once their drive answers.
+    QStringList _awaited;
+    platform::ReadableFiles _files;
     std::unique_ptr<platform::Timer> _timer;
     std::unique_ptr<platform::Timer> _desktopTimer;
     /// Ends what was put off when it goes.

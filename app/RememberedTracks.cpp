@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/RememberedTracks.h"
 
+#include "platform/base/PathNames.h"
 #include "platform/base/PropertyValue.h"
 #include "playback/QVMovie.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -25,7 +24,7 @@ constexpr int maximumFiles = 100;
 
 /// Its place among those of its file, and the file.
 QString nameOf(const QVSubtitles& track) {
-    return QString::number(track.streamIndex()) + u' ' + track.path();
+    return QString::number(track.streamIndex()) + u' ' + storedPath(track.path());
 }
 
 void insertUnlessEmpty(const QString& key, const QVariant& value, bool isEmpty, QVariantMap& record) {
@@ -35,16 +34,26 @@ void insertUnlessEmpty(const QString& key, const QVariant& value, bool isEmpty, 
         record.insert(key, value);
 }
 
+void restoreShift(QVSubtitles& track, const QVariantMap& record) {
+    const QVariantMap shifts = propertyValue::toDictionary(record.value(shiftsKey));
+    const QVariantMap stored = propertyValue::toDictionary(shifts.value(nameOf(track)));
+    if (stored.isEmpty())
+        return;
+    if (const auto shift = CueShift::from(propertyValue::toInteger(stored.value(delayKey)),
+                                          propertyValue::toDouble(stored.value(speedKey))))
+        track.setShift(*shift);
+}
+
 } // namespace
 
 namespace RememberedTracks {
 
-void keep(const QVMovie& movie, QVariantMap& record) {
+void keep(const QVMovie& movie, const QStringList& awaited, QVariantMap& record) {
     QVariantList added;
-    for (const QString& path : movie.addedSubtitles())
-        added.append(path);
+    for (const QString& path : awaited + movie.addedSubtitles())
+        added.append(storedPath(path));
     insertUnlessEmpty(addedKey, added, added.isEmpty(), record);
-    QVariantMap shifts;
+    QVariantMap shifts = awaited.isEmpty() ? QVariantMap() : propertyValue::toDictionary(record.value(shiftsKey));
     for (const auto& track : movie.subtitles()) {
         if (const CueShift& shift = track->shift(); !shift.isNone())
             shifts.insert(nameOf(*track), QVariantMap{{delayKey, shift.delay}, {speedKey, shift.speed}});
@@ -54,23 +63,27 @@ void keep(const QVMovie& movie, QVariantMap& record) {
     insertUnlessEmpty(shiftsKey, shifts, shifts.isEmpty(), record);
 }
 
-void restore(QVMovie& movie, const QVariantMap& record) {
+QStringList addedFiles(const QVariantMap& record) {
     const QVariantList added = record.value(addedKey).toList();
-    for (const QVariant& path : added.first(std::min<qsizetype>(added.size(), maximumFiles))) {
-        if (const QString text = propertyValue::toString(path); QFileInfo(text).isFile())
-            movie.addSubtitles(text);
-    }
+    QStringList paths;
+    for (const QVariant& text : added.first(std::min<qsizetype>(added.size(), maximumFiles)))
+        paths.append(pathFromStored(propertyValue::toString(text)));
+    return paths;
+}
+
+void restore(QVMovie& movie, const QVariantMap& record) {
     if (const std::int32_t delay = propertyValue::toInteger(record.value(soundKey)); delay != 0)
         movie.setAudioDelay(delay);
-    const QVariantMap shifts = propertyValue::toDictionary(record.value(shiftsKey));
-    for (const auto& track : movie.subtitles()) {
-        const QVariantMap stored = propertyValue::toDictionary(shifts.value(nameOf(*track)));
-        if (stored.isEmpty())
-            continue;
-        if (const auto shift = CueShift::from(propertyValue::toInteger(stored.value(delayKey)),
-                                              propertyValue::toDouble(stored.value(speedKey))))
-            track->setShift(*shift);
-    }
+    for (const auto& track : movie.subtitles())
+        restoreShift(*track, record);
+}
+
+void restoreFiles(QVMovie& movie, const QStringList& readable, const QVariantMap& record) {
+    for (const QString& path : readable)
+        movie.addSubtitles(path);
+    for (const auto& track : movie.subtitles())
+        if (readable.contains(track->path()))
+            restoreShift(*track, record);
 }
 
 } // namespace RememberedTracks

@@ -3,6 +3,8 @@
 
 #include "platform/base/RunLoop.h"
 
+#include <chrono>
+#include <condition_variable>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -21,12 +23,19 @@ public:
         // Posted under the lock, so that none is once the receiver has abandoned it: the run loop may go then.
         const std::scoped_lock lock(_mutex);
         _value = std::move(value);
+        _isThere.notify_all();
         if (!_isAwaited)
             return;
         RunLoop::main().post([weak = this->weak_from_this()] {
             if (const auto self = weak.lock())
                 self->handOver();
         });
+    }
+
+    /// Waits until the value is there, at most that many seconds. Any thread.
+    void wait(double seconds) {
+        std::unique_lock lock(_mutex);
+        _isThere.wait_for(lock, std::chrono::duration<double>(seconds), [this] { return _value.has_value(); });
     }
 
     /// Calls `receiver` with the value: now when it is there, else from the run loop. Main thread, once, with the run
@@ -65,6 +74,7 @@ private:
     }
 
     std::mutex _mutex;
+    std::condition_variable _isThere;
     std::optional<Value> _value;
     bool _isAwaited = false;
     std::function<void(Value)> _receiver; // the main thread's alone

@@ -2,6 +2,7 @@
 #include "app/RememberedMovies.h"
 
 #include "control/Commands.h"
+#include "platform/base/PathNames.h"
 #include "playback/QVMovie.h"
 #include "settings/SettingsKeys.h"
 #include "tests/app/AppRig.h"
@@ -9,6 +10,9 @@
 #include <QTimeZone>
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -236,16 +240,22 @@ TEST(RecentMovies, the_menu_lists_the_last_twenty_opens_them_and_forgets_all) {
 TEST(RememberedMovies, subtitles_that_were_added_come_back_with_their_times_as_long_as_they_are_there) {
     MemoryRig first;
     const QString film = first.file("film.mp4");
-    const QString added = writeFile(first.folder.filePath("other.srt"), "1\n00:00:01,000 --> 00:00:02,000\nHi\n");
+    // Its name is no UTF-8.
+    const QByteArray name = QFile::encodeName(first.folder.filePath("caf")) + "\xE9.srt";
+    std::ofstream(name.constData()) << "1\n00:00:01,000 --> 00:00:02,000\nHi\n";
+    const QString added = platform::pathOfBytes(name);
     first.open(film);
-    ASSERT_TRUE(first.app.subtitles().addFile(added));
+    first.app.openFile(platform::textOfNativePath(name));
+    first.settings.runLoop.advance(0.2);
+    ASSERT_TRUE(first.app.subtitles().current());
+    ASSERT_EQ(first.app.subtitles().current()->path(), added);
     first.app.subtitles().current()->setShift({150, 1.04});
     first.view.movie()->setAudioDelay(-100);
     first.quit();
     for (const bool isThere : {true, false}) {
         MemoryRig rig(first.moviesDisk);
         if (!isThere)
-            QFile::remove(added);
+            std::filesystem::remove(name.constData());
         rig.open(film);
         EXPECT_EQ(rig.view.movie()->selection().audioDelay, -0.1);
         ASSERT_EQ(rig.app.subtitles().count(), isThere ? 1U : 0U);

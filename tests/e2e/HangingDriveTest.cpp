@@ -101,3 +101,25 @@ TEST_F(HangingDrive, a_long_walk_says_how_much_it_has_found_and_ends_by_escape) 
         ++listed;
     EXPECT_EQ(listed, movies) << "what was found stays";
 }
+
+TEST_F(HangingDrive, holds_up_no_movie_that_its_subtitles_are_added_to_or_remembered_with) {
+    std::ofstream(films / "red.srt") << "1\n00:00:01,000 --> 00:00:02,000\nHi\n";
+    startBeside({redMovie});
+    ASSERT_TRUE(colorBecomes(red));
+    const std::string subtitles = films / "red.srt";
+    EXPECT_EQ(startAnother({subtitles})->waitForExit(), 0);
+    ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Subtitles: red.srt (1/1)"));
+    ASSERT_TRUE(quitsCleanly());
+    hang();
+    for (int launch = 0; launch < 2; ++launch) {
+        startBeside({redMovie});
+        ASSERT_TRUE(colorBecomes(red));
+        EXPECT_EQ(startAnother({subtitles})->waitForExit(), 0);
+        ASSERT_TRUE(plays());
+        ASSERT_TRUE(quitsCleanly());
+    }
+    std::filesystem::remove(drive.string() + ".hangs");
+    startBeside({redMovie});
+    EXPECT_TRUE(logs("Switching to subtitles stream: \"red.srt\"")) << "it was not forgotten meanwhile";
+    ASSERT_TRUE(quitsCleanly());
+}
