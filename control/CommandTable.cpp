@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The table of commands. A new command is one row here and one function of QVMovieController that the row names.
+#include "control/CommandTerms.h"
 #include "control/Commands.h"
 #include "control/QVMovieController.h"
 #include "control/SoundCommandTable.h"
@@ -35,17 +36,7 @@ constexpr std::string_view speedHelp = "Slower and faster, the pitch kept; half 
 } // namespace
 
 /// The controller's friend: its operations are nobody else's to call.
-struct CommandTable {
-    using Self = QVMovieController;
-    using enum KeyRepeat;
-    using enum KeyTaker;
-
-    static constexpr std::uint32_t none = 0;
-    static constexpr std::uint32_t shift = platform::modifier::shift;
-    static constexpr std::uint32_t control = platform::modifier::control;
-    static constexpr std::uint32_t option = platform::modifier::option;
-    static constexpr std::uint32_t command = platform::modifier::command;
-
+struct CommandTable : CommandTerms {
     // Operations of several commands.
     static constexpr Operation openURL{"doOpenURL", &Self::doOpenURL};
     static constexpr Operation power{"power", &Self::power};

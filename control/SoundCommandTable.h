@@ -2,22 +2,13 @@
 // The rows of the table of commands (control/CommandTable.cpp) that are for sound.
 #pragma once
 
-#include "control/Commands.h"
+#include "control/CommandTerms.h"
 #include "control/QVMovieController.h"
 #include "control/VolumeSteps.h"
 #include "platform/window/Events.h"
 
 /// The controller's friend: its operations are nobody else's to call.
-struct SoundCommandTable {
-    using Self = QVMovieController;
-    using enum KeyRepeat;
-    using enum KeyTaker;
-
-    static constexpr std::uint32_t none = 0;
-    static constexpr std::uint32_t shift = platform::modifier::shift;
-    static constexpr std::uint32_t control = platform::modifier::control;
-    static constexpr std::uint32_t option = platform::modifier::option;
-
+struct SoundCommandTable : CommandTerms {
     static constexpr Operation shiftSound{"shiftSound", &Self::shiftSound, &Self::validateShiftSound};
     static constexpr Operation changeVolume{"changeVolume", &Self::changeVolume};
     static constexpr Operation cycleAudio{"cycleAudio", &Self::cycleAudio};

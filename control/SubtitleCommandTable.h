@@ -2,21 +2,12 @@
 // The rows of the table of commands (control/CommandTable.cpp) that are for subtitles.
 #pragma once
 
-#include "control/Commands.h"
+#include "control/CommandTerms.h"
 #include "control/QVMovieController.h"
 #include "platform/window/Events.h"
 
 /// The controller's friend: its operations are nobody else's to call.
-struct SubtitleCommandTable {
-    using Self = QVMovieController;
-    using enum KeyRepeat;
-    using enum KeyTaker;
-
-    static constexpr std::uint32_t none = 0;
-    static constexpr std::uint32_t shift = platform::modifier::shift;
-    static constexpr std::uint32_t control = platform::modifier::control;
-    static constexpr std::uint32_t option = platform::modifier::option;
-
+struct SubtitleCommandTable : CommandTerms {
     static constexpr Operation changeSubtitles{"changeSubtitles", &Self::changeSubtitles, &Self::validateSubtitles};
     static constexpr Operation cycleSubtitles{"cycleSubtitles", &Self::cycleSubtitles};
     static constexpr Operation toggleRepair{toggleRepairOperation, &Self::toggleRepair, &Self::validateRepair};
