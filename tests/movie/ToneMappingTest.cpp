@@ -90,3 +90,12 @@ TEST(ToneMapping, keeps_to_the_lines_of_a_picture_whatever_it_is_divided_into) {
         ASSERT_EQ(line[width * 4], 7) << y;
     }
 }
+
+TEST(ToneMapping, is_calculated_once_for_all_who_show_a_movie) {
+    const auto first = ToneMapping::of({DynamicRange::Transfer::pq, 1000});
+    EXPECT_EQ(ToneMapping::of({DynamicRange::Transfer::pq, 1000}), first);
+    const auto other = ToneMapping::of({DynamicRange::Transfer::pq, 400});
+    EXPECT_NE(other, first);
+    EXPECT_EQ(other->range().peak, 400);
+    EXPECT_EQ(ToneMapping::of({}), nullptr);
+}

@@ -123,7 +123,7 @@ AVFrame* pictureAt(AVFormatContext* input, const AVStream* video, AVCodecContext
 
 FirstFrame::FirstFrame(AVFrame* frame, const DynamicRange& range)
     : _frame(frame)
-    , _toneMapping(range.isHigh() ? std::make_unique<const ToneMapping>(range) : nullptr) {}
+    , _toneMapping(ToneMapping::of(range)) {}
 
 FirstFrame::~FirstFrame() {
     AvLibrary::get()->av_frame_free(&_frame);

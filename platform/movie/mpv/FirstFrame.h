@@ -42,7 +42,7 @@ private:
     bool render(const QSize& size, int pixelFormat, void* pixels, std::size_t stride) const;
 
     AVFrame* _frame;
-    std::unique_ptr<const ToneMapping> _toneMapping; // null for the standard range
+    std::shared_ptr<const ToneMapping> _toneMapping; // null for the standard range
 };
 
 } // namespace platform

@@ -16,12 +16,10 @@ constexpr double maximumPixels = 1920.0 * 1088.0;
 constexpr double maximumPixelsPerSecond = maximumPixels * 31;
 constexpr double maximumBitsPerSecond = 12e6;
 
-} // namespace
-
-namespace {
 QByteArray optionOf(int track) {
     return track > 0 ? QByteArray::number(track) : QByteArray("no");
 }
+
 } // namespace
 
 QByteArray audioOption(const TrackSelection& tracks) {

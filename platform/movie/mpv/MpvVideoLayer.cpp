@@ -54,9 +54,15 @@ bool MpvVideoLayer::setDynamicRange(const DynamicRange& range) {
         return false;
     _dynamicRange = range;
     _wide = {};
-    _toneMapping = range.isHigh() ? std::async(std::launch::async, [range] { return ToneMapping(range); }).share()
-                                  : std::shared_future<ToneMapping>();
+    makeToneMapping();
     return true;
+}
+
+void MpvVideoLayer::makeToneMapping() {
+    // In OpenGL libmpv's renderer maps the colours.
+    _toneMapping = _dynamicRange.isHigh() && !_gl
+                       ? std::async(std::launch::async, &ToneMapping::of, _dynamicRange).share()
+                       : std::shared_future<std::shared_ptr<const ToneMapping>>();
 }
 
 void MpvVideoLayer::setNaturalSize(const QSizeF& naturalSize) {
@@ -198,7 +204,7 @@ bool MpvVideoLayer::renderCore(const QSize& size, unsigned char* target, std::si
     const std::size_t wideStride = width * sizeof(_wide[0]);
     if (!renderCore(size, "rgba64", _wide.data(), wideStride))
         return false;
-    _toneMapping.get().map(size, reinterpret_cast<const std::uint8_t*>(_wide.data()), wideStride, target, stride);
+    _toneMapping.get()->map(size, reinterpret_cast<const std::uint8_t*>(_wide.data()), wideStride, target, stride);
     return true;
 }
 
@@ -247,6 +253,7 @@ void MpvVideoLayer::setCore(MpvCore* core) {
 
 bool MpvVideoLayer::beginGL(GLContext& context) {
     _gl = &context;
+    makeToneMapping();
     return !_core || (_gl->makeCurrent() && _core->useOpenGL(context));
 }
 
@@ -255,6 +262,7 @@ void MpvVideoLayer::endGL() {
     if (_core && _gl && _gl->makeCurrent())
         _core->useSoftware();
     _gl = nullptr;
+    makeToneMapping();
 }
 
 bool MpvVideoLayer::renderGL(const QRect& picture, const QSize& target, unsigned framebuffer) {

@@ -70,6 +70,7 @@ private:
         QRect picture;
         QRect visible;
     };
+    void makeToneMapping();
     /// Keeps what is shown now.
     void keepLastFrame();
     bool showsFirst(const QRect& picture) const;
@@ -98,8 +99,9 @@ private:
     Shown _lastShown;
     QSizeF _naturalSize;
     DynamicRange _dynamicRange;
-    std::shared_future<ToneMapping> _toneMapping; // made on a thread; none for the standard range
-    std::vector<std::uint64_t> _wide;             // a picture before the mapping
+    // Made on a thread; none for the standard range, and in OpenGL.
+    std::shared_future<std::shared_ptr<const ToneMapping>> _toneMapping;
+    std::vector<std::uint64_t> _wide; // a picture before the mapping
     QRect _cropPicture;
     QRect _cropVisible;
 };

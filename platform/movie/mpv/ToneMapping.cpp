@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <mutex>
 #include <thread>
 #include <vector>
 
@@ -156,6 +157,20 @@ ToneMapping::ToneMapping(const DynamicRange& range)
             }
         }
     }
+}
+
+std::shared_ptr<const ToneMapping> ToneMapping::of(const DynamicRange& range) {
+    static std::mutex mutex; // held while it is calculated: who asks meanwhile waits for it
+    static std::weak_ptr<const ToneMapping> latest;
+    if (!range.isHigh())
+        return nullptr;
+    const std::scoped_lock lock(mutex);
+    std::shared_ptr<const ToneMapping> mapping = latest.lock();
+    if (!mapping || mapping->range() != range) {
+        mapping = std::make_shared<const ToneMapping>(range);
+        latest = mapping;
+    }
+    return mapping;
 }
 
 void ToneMapping::mapLines(int first, int end, int width, const std::uint8_t* from, std::size_t fromStride,

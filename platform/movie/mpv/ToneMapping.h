@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace platform {
@@ -17,6 +18,9 @@ namespace platform {
 class ToneMapping {
 public:
     explicit ToneMapping(const DynamicRange& range);
+    /// The same, calculated once (it takes tens of milliseconds) for all who ask while one of them keeps it: a movie's
+    /// first picture and the pictures that follow it. Null for the standard range.
+    static std::shared_ptr<const ToneMapping> of(const DynamicRange& range);
 
     const DynamicRange& range() const { return _range; }
 
