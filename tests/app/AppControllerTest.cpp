@@ -31,7 +31,7 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
                 {kQVForceScreenBrightness, true},
                 {kQVScreenBrightness, 0.75},
                 {kQVOSDStateSave, true},
-                {kQVOSDStateSavedType, 3}});
+                {kQVOSDStateSavedType, 1}});
     rig.desktop.brightnessLevels[1] = 0.25F;
     rig.steps.checksVersion = true;
     EXPECT_TRUE(rig.app.openFile(rig.file("a.mp4")));
@@ -51,7 +51,7 @@ TEST(AppController, the_launch_shows_the_window_and_then_goes_through_its_steps_
     EXPECT_TRUE(rig.desktop.openPanelFolders.isEmpty()) << "with a file the launch action does not run";
     EXPECT_FALSE(rig.app.isLaunching());
     EXPECT_TRUE(rig.view.isPlaying());
-    EXPECT_EQ(rig.objects->display().displayType(), 3);
+    EXPECT_EQ(rig.objects->display().displayType(), 1);
 
     rig.app.applicationShouldTerminate();
     EXPECT_FLOAT_EQ(rig.desktop.brightnessLevels[1], 0.25F) << "the screen gets back the brightness found at launch";

@@ -106,6 +106,9 @@ TEST_F(TextSubView, markup_moves_and_styles_a_text_at_once_when_the_setting_chan
     setMarkup(false);
     view.show();
     EXPECT_TRUE(view.isVisible());
+    setMarkup(true);
+    rig.settings.runLoop.advance(2);
+    EXPECT_EQ(view.alphaValue(), 0) << "codes that nobody wants to read any more";
 }
 
 TEST_F(TextSubView, the_letters_follow_the_size_of_the_picture) {

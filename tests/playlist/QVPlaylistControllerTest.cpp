@@ -181,6 +181,10 @@ TEST(OpeningReport, each_cause_has_a_sentence_of_its_own) {
     const QString message = OpeningReport::failed(many).message;
     EXPECT_EQ(message.count(u'\n'), 9) << "it fits a screen";
     EXPECT_TRUE(message.endsWith(localizedFormat("AndMoreMessage", {"91"})));
+    for (const qsizetype count : {2, 3}) {
+        const OpeningFailure folders{url("films"), OpeningReport::unreadableFolders, count, {"a", "b"}};
+        EXPECT_EQ(OpeningReport::failed({folders}).message.contains("a, b, …"), count == 3) << "not all are named";
+    }
 }
 
 // Addresses that hang
