@@ -14,6 +14,7 @@
 #include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QWindow>
 
 namespace PreferencesPages {
 
@@ -46,6 +47,12 @@ QRect frameIn(const QRect& place, const QTabWidget& pages) {
     QRect frame(QPoint(), naturalSize(pages).boundedTo(place.size() * 19 / 20));
     frame.moveCenter(place.center());
     return frame;
+}
+
+void fitDecoration(QWidget& window, const QRect& place) {
+    const QMargins around = window.windowHandle()->frameMargins();
+    if (!around.isNull())
+        window.resize(window.size().boundedTo((place.size() * 9 / 10).shrunkBy(around)));
 }
 
 void prepare(QWidget& window) {

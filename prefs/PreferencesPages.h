@@ -14,6 +14,10 @@ namespace PreferencesPages {
 /// as far as the place is.
 QRect frameIn(const QRect& place, const QTabWidget& pages);
 
+/// Makes room for a title bar that the program draws itself, and for the desktop's own bar, which may lie above the
+/// place. Such a title bar is known once the window is shown.
+void fitDecoration(QWidget& window, const QRect& place);
+
 /// Makes the window's pages as light as what holds them, and keeps the wheel from changing what passes under the
 /// pointer while they are scrolled.
 void prepare(QWidget& window);

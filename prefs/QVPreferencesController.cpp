@@ -6,6 +6,7 @@
 #include "platform/base/SettingsFile.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/window/qt/KeysAhead.h"
 #include "prefs/EncodingMenu.h"
 #include "prefs/KeysPage.h"
 #include "prefs/LanguageList.h"
@@ -221,15 +222,20 @@ void QVPreferencesController::showAbove(QWindow* owner) {
         _window->windowHandle()->setTransientParent(owner);
         _window->windowHandle()->setScreen(owner->screen());
     }
-    if (!_window->isVisible()) {
-        _window->setGeometry(PreferencesPages::frameIn(
-            owner ? owner->geometry() : _window->screen()->availableGeometry(), *_controls->_pages));
+    const QRect place = owner ? owner->geometry() : _window->screen()->availableGeometry();
+    const bool appears = !_window->isVisible();
+    if (appears) {
+        _window->setGeometry(PreferencesPages::frameIn(place, *_controls->_pages));
         _filter->clear();
         _controls->_pages->tabBar()->setFocus();
     }
     _window->show();
+    if (appears)
+        PreferencesPages::fitDecoration(*_window, place);
     _window->raise();
     _window->activateWindow();
+    if (owner)
+        platform::KeysAhead::await(*owner, *_window->windowHandle());
 }
 
 void QVPreferencesController::close() {

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -150,6 +151,34 @@ TEST_F(Preferences, are_entered_by_tab_from_the_names_of_the_pages) {
     EXPECT_TRUE(stores("QVOnLaunchDefaultAction", "<integer>")) << "another one";
     probe.tap(XK_Escape);
     EXPECT_TRUE(closes());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, and_panels_keep_from_the_player_what_is_typed_before_they_have_the_keyboard) {
+    start({numbered("red.mp4", red, 900), "--set", "QVPlaylistAutoPlay=0"});
+    ASSERT_TRUE(frameBecomes(0));
+    probe.tap(XK_comma, {XK_Control_L});
+    for (const KeySym key : std::vector<KeySym>{XK_Tab, XK_Down, XK_Escape})
+        probe.tap(key);
+    EXPECT_TRUE(stores("QVOnLaunchDefaultAction", "<integer>")) << "the next radio button";
+    const WindowId movie = probe.windowAt(20, 100);
+    const auto isAlone = [&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) == movie; };
+    EXPECT_TRUE(waitUntil(isAlone)) << "Escape closes it";
+    struct Panel {
+        KeySym key;
+        std::vector<KeySym> modifiers;
+    };
+    for (const Panel& panel : std::vector<Panel>{{XK_comma, {XK_Control_L}}, {XK_u, {XK_Control_L}}, {XK_F1, {}}}) {
+        probe.tap(panel.key, panel.modifiers);
+        probe.tap(XK_Escape);
+        std::this_thread::sleep_for(Seconds(0.5));
+        EXPECT_TRUE(waitUntil([&] {
+            if (!isAlone())
+                probe.tap(XK_Escape);
+            return staysTrue(isAlone, Seconds(0.5));
+        })) << panel.key;
+    }
+    EXPECT_FALSE(isLogged("ESC pressed"));
     ASSERT_TRUE(quitsCleanly());
 }
 

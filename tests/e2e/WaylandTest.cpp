@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/e2e/PlayerFixture.h"
 
+#include <algorithm>
 #include <csignal>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <thread>
@@ -141,6 +143,20 @@ TEST_F(Wayland, the_menu_bar_comes_while_the_pointer_is_at_the_top) {
         probe.movePointer(640, 200);
         ASSERT_TRUE(becomes(1200, 8, false)) << "the menu bar stays";
     }
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Wayland, the_preferences_stand_on_the_screen_as_a_whole) {
+    startStanding({numbered("red.mp4", red, 300)});
+    probe.tap(XK_comma, {XK_Control_L});
+    // Below the pages, and between the buttons: as high as a button and what lies around it.
+    const auto lowestRow = [&] {
+        const Picture column = probe.picture({screenWidth / 2, screenHeight / 2, 1, screenHeight / 2});
+        return std::ranges::count_if(column.pixels, [](std::uint32_t pixel) { return (pixel & 0xffffff) == 0xefefef; });
+    };
+    EXPECT_TRUE(waitUntil([&] { return lowestRow() >= 36; })) << lowestRow();
+    probe.tap(XK_Escape);
+    ASSERT_TRUE(becomes(screenWidth / 4, screenHeight * 5 / 6, false));
     ASSERT_TRUE(quitsCleanly());
 }
 
