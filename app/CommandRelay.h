@@ -14,6 +14,10 @@ public:
         if (_target)
             _target->performAction(action, feedback);
     }
+    void performCommand(std::string_view name, Feedback feedback) override {
+        if (_target)
+            _target->performCommand(name, feedback);
+    }
     bool processKeyboardEvent(const platform::KeyEvent& event) override {
         return _target && _target->processKeyboardEvent(event);
     }

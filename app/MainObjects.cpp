@@ -42,13 +42,16 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _openPanels(environment, {platform.desktop, _files, steps}, supportedFileTypes(platform.bundle))
     , _window(environment,
               {platform.desktop, _commands, _pointer, [this](int direction) { _view.startAutoscroll(direction); },
-               [this](int direction) { _view.stopAutoscroll(direction); }, [this] { return _files.endSearches(); }})
+               [this](int direction) { _view.stopAutoscroll(direction); },
+               [this](const std::optional<QPointF>& point) { _bars.moved(point); },
+               [this] { return _files.endSearches(); }})
     , _feedback(environment, _window)
     , _subtitleReaders(subtitleReaders(environment, platform.toolkit.subtitlePacketReader()))
     , _subtitleDiscovery(environment.loop)
     , _drops(environment, {_files, _feedback})
     , _backdrop(environment, {platform.toolkit, _drops})
     , _view(environment, {platform.toolkit.player(), platform.desktop, _commands, _feedback, _drops})
+    , _bars(environment, _window, _view, platform.toolkit)
     , _memory(environment, {platform.movies, platform.recentlyUsed, _view, _feedback, _currentCommands,
                             [this] { return _subtitles.current(); },
                             [this](const QString& path, std::uint32_t index) { _heldSubtitles.hold(path, index); }})

@@ -29,6 +29,7 @@
 #include "overlays/OverlaysOnDemand.h"
 #include "overlays/StylePreview.h"
 #include "playback/BackdropView.h"
+#include "playback/BarPointer.h"
 #include "playback/MovieServices.h"
 #include "playback/QVMovieView.h"
 #include "playback/StillSaving.h"
@@ -90,6 +91,7 @@ private:
     Drops _drops;
     BackdropView _backdrop;
     QVMovieView _view;
+    BarPointer _bars;
     RememberedMovies _memory;
     StorageTroubles _storageTroubles;
     RecentMovies _recent;

@@ -95,6 +95,11 @@ void QVFullScreenWindow::mouseExited(int trackingTag) {
 void QVFullScreenWindow::mouseMoved(const platform::MouseEvent& event) {
     QVParentOverlay::mouseMoved(event);
     _with.pointer.scheduleCursorHide();
+    _with.pointerMoved(event.locationInWindow);
+}
+
+void QVFullScreenWindow::mouseLeft() {
+    _with.pointerMoved(std::nullopt);
 }
 
 void QVFullScreenWindow::mouseDown(const platform::MouseEvent& event) {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 namespace platform {
 class Desktop;
@@ -27,6 +28,8 @@ public:
         /// The pointer came into an area at the window's edge, and left it.
         std::function<void(int direction)> startAutoscroll;
         std::function<void(int direction)> stopAutoscroll;
+        /// The pointer moved in the window's content, or left it.
+        std::function<void(const std::optional<QPointF>&)> pointerMoved;
         /// Ends a walk through folders; false when there is none.
         std::function<bool()> endSearches;
     };
@@ -51,6 +54,7 @@ protected:
     float smallestShownAlpha() const override;
     bool keyDown(const platform::KeyEvent& event) override;
     void mouseMoved(const platform::MouseEvent& event) override;
+    void mouseLeft() override;
     void mouseDown(const platform::MouseEvent& event) override;
     void wheelTurned(int steps) override;
     void mouseUp(const platform::MouseEvent& event) override;

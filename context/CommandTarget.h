@@ -4,6 +4,7 @@
 #include "platform/window/Events.h"
 
 #include <cstdint>
+#include <string_view>
 
 /// The action codes of CommandTarget::performAction.
 namespace action {
@@ -40,6 +41,8 @@ public:
 
     /// Carries out an action code; codes without an action do nothing.
     virtual void performAction(std::int32_t action, Feedback feedback) = 0;
+    /// Carries out the command of that name in the table; other names do nothing.
+    virtual void performCommand(std::string_view name, Feedback feedback) = 0;
     /// True when the event was consumed.
     virtual bool processKeyboardEvent(const platform::KeyEvent& event) = 0;
     /// A gesture without a command does nothing.

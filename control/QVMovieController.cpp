@@ -66,6 +66,11 @@ void QVMovieController::performAction(std::int32_t action, Feedback feedback) {
         perform(*command, command->argument, feedback);
 }
 
+void QVMovieController::performCommand(std::string_view name, Feedback feedback) {
+    if (const Command* command = commandWithName(name))
+        perform(*command, command->argument, feedback);
+}
+
 void QVMovieController::perform(const Command& command, std::int32_t argument, Feedback feedback) {
     if (command.operation.perform)
         (this->*command.operation.perform)(argument, feedback);

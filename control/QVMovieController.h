@@ -71,6 +71,7 @@ public:
     ~QVMovieController() override;
 
     void performAction(std::int32_t action, Feedback feedback) override;
+    void performCommand(std::string_view name, Feedback feedback) override;
     bool processKeyboardEvent(const platform::KeyEvent& event) override;
     void processMouseGesture(MouseGesture gesture) override;
     bool forceMuted() const override { return _forceMuted; }
@@ -124,6 +125,9 @@ private:
     bool validateShiftSound(platform::MenuItem& item) const;
     void changeSize(std::int32_t code, Feedback feedback);
     void toggleController(std::int32_t, Feedback feedback);
+    void nextControllerOverPicture(std::int32_t, Feedback feedback);
+    bool validateControllerOverPicture(platform::MenuItem& item) const;
+    void showTracks(std::int32_t, Feedback feedback);
     void cycleDisplays(std::int32_t direction, Feedback feedback);
     void changeMovie(std::int32_t position, Feedback feedback);
     void changeSubtitles(std::int32_t position, Feedback feedback);
@@ -201,6 +205,7 @@ private:
     void sayLosses();
     void sayAudio();
     void fillPlaylistMenu(platform::Menu& menu);
+    void fillTracksMenu(platform::Menu& menu) const;
     /// Where the movie of the menu's item stands by now; no position when it has gone.
     std::int32_t positionOfMenuMovie(std::int32_t tag) const;
 
@@ -234,6 +239,8 @@ private:
     std::unique_ptr<platform::MovieOpening> _barsSought;
     std::weak_ptr<QVMovie> _sectionOf;
     std::size_t _listedTracks = 0;
+    /// Of sound and subtitles, opened from the controller bar.
+    platform::Menu _tracksMenu;
     /// What the playlist menu showed when it opened, by the tags of its items.
     std::map<std::int32_t, std::weak_ptr<QVMovie>> _menuMovies;
 };

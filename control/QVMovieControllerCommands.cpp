@@ -9,8 +9,10 @@
 #include "control/FastMotion.h"
 #include "control/ScreenWalk.h"
 #include "control/VolumeSteps.h"
+#include "platform/base/Localization.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
+#include "platform/window/Menu.h"
 #include "playback/QVMovieView.h"
 #include "playlist/QVPlaylistController.h"
 #include "settings/QVPreferencesChangedNotification.h"
@@ -18,12 +20,24 @@
 #include "settings/Tracing.h"
 #include "subtitles/QVSubtitlesController.h"
 
+#include <iterator>
+
 namespace {
 
 constexpr const char* className = "QVMovieController";
 
 /// The window leaves this much after the confirmation stands in full, so that it is read.
 constexpr double screenSwitchMargin = 0.1;
+
+/// By the numbers of ControllerOverPicture.
+constexpr const char* waysOfBar[] = {"Bar over the Picture: Off", "Bar over the Picture: Always",
+                                     "Bar over the Picture: When the Pointer Moves"};
+
+/// What no way is counts as off.
+std::size_t wayOfBar(const platform::UserDefaults& settings) {
+    const std::int32_t way = settings.integerForKey(kQVControllerOverPicture);
+    return way >= 0 && static_cast<std::size_t>(way) < std::size(waysOfBar) ? static_cast<std::size_t>(way) : 0;
+}
 
 } // namespace
 
@@ -173,6 +187,19 @@ void QVMovieController::toggleController(std::int32_t, Feedback feedback) {
     _with.view.toggleController();
     if (feedback == Feedback::yes)
         post(_with.view.isControllerVisible() ? "Controller: On" : "Controller: Off");
+}
+
+void QVMovieController::nextControllerOverPicture(std::int32_t, Feedback feedback) {
+    const std::size_t next = (wayOfBar(_environment.settings) + 1) % std::size(waysOfBar);
+    _environment.settings.setInteger(static_cast<std::int32_t>(next), kQVControllerOverPicture);
+    _environment.notifications.post(QVPreferencesChangedNotification{kQVControllerOverPicture, {}});
+    if (feedback == Feedback::yes)
+        post(waysOfBar[next]);
+}
+
+bool QVMovieController::validateControllerOverPicture(platform::MenuItem& item) const {
+    item.title = platform::localizedString(QString::fromLatin1(waysOfBar[wayOfBar(_environment.settings)]));
+    return true;
 }
 
 void QVMovieController::cycleDisplays(std::int32_t direction, Feedback) {

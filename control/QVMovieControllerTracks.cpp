@@ -5,6 +5,7 @@
 #include "context/FeedbackDisplay.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
+#include "platform/window/WindowHost.h"
 #include "playback/AudioChoice.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
@@ -26,6 +27,9 @@ std::ptrdiff_t positionOf(int id, const MovieTracks& tracks) {
     const auto found = std::ranges::find(tracks, id, &MovieTrack::id);
     return found == tracks.end() ? -1 : found - tracks.begin();
 }
+
+/// Of an item that is a title: no track has it, so that it cannot be chosen.
+constexpr int noTrack = -1;
 
 } // namespace
 
@@ -62,6 +66,34 @@ void QVMovieController::sayAudio() {
     post("Audio: %@", platform::formatted(QStringLiteral("%@ (%d/%d)"),
                                           {TrackNames::nameOf(tracks[static_cast<std::size_t>(position)]),
                                            QString::number(position + 1), QString::number(tracks.size())}));
+}
+
+void QVMovieController::showTracks(std::int32_t, Feedback) {
+    if (!_with.view.movie() || !_with.window.host())
+        return;
+    fillTracksMenu(_tracksMenu);
+    _with.window.host()->showMenu(_tracksMenu);
+}
+
+void QVMovieController::fillTracksMenu(platform::Menu& menu) const {
+    menu.removeAllItems();
+    const std::shared_ptr<QVMovie> movie = _with.view.movie();
+    const QString ofSound = QString::fromLatin1(changeAudioOperation);
+    const auto title = [&](const char* text) {
+        menu.addItem(platform::localizedString(QString::fromLatin1(text)), ofSound, noTrack);
+    };
+    title("Audio");
+    for (const MovieTrack& track : audioTracksOf(movie))
+        menu.addItem(TrackNames::nameOf(track), ofSound, track.id);
+    menu.addSeparator();
+    title("Subtitles");
+    const QString ofSubtitles = QStringLiteral("changeSubtitles");
+    if (!movie || movie->subtitles().empty())
+        return;
+    menu.addItem(platform::localizedString(QStringLiteral("Off")), ofSubtitles, -1);
+    int index = 0;
+    for (const auto& track : movie->subtitles())
+        menu.addItem(track->title(), ofSubtitles, index++);
 }
 
 bool QVMovieController::validateAudio(platform::MenuItem& item) const {

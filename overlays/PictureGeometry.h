@@ -20,4 +20,6 @@ public:
     virtual bool isControllerBarVisible() const = 0;
     /// Points, whether the bar shows or not.
     virtual unsigned getControllerHeight() const = 0;
+    /// Of the window's lower edge, as far as a bar over the picture stands there; points, 0 for none.
+    virtual double coveredHeight() const { return 0; }
 };

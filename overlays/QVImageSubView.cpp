@@ -110,6 +110,7 @@ void QVImageSubView::contentSizeChanged() {
             SubtitlePlacement::bitmapFrame(_subtitle->rect(), {scaleX(), scaleY()}, view, _aspect));
         if (_picture.isControllerBarVisible())
             rect = SubtitlePlacement::clearOfBar(rect, view, _picture.getControllerHeight());
+        rect = SubtitlePlacement::clearOfBar(rect, parentWindow()->frame(), _picture.coveredHeight());
     } else {
         rect = adjustForBackgroundStyle(rect);
     }

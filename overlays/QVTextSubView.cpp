@@ -90,7 +90,8 @@ void QVTextSubView::contentSizeChanged() {
             std::clamp(environment().settings.integerForKey(kQVSubtitlesHeight), 0, 100) * ground.parent.height() / 100;
         if (_picture.isControllerBarVisible())
             ground.bar = _picture.getControllerHeight();
-        rect = SubtitlePlacement::placed(rect, alignemntStyle(), ground, _place);
+        rect = SubtitlePlacement::clearOfBar(SubtitlePlacement::placed(rect, alignemntStyle(), ground, _place),
+                                             ground.parent, _picture.coveredHeight());
     }
     applyNewOverlayFrame(rect, "%@: Subtitles Frame After Recalc: x:%d y:%d w:%d h:%d");
 }

@@ -39,3 +39,10 @@ QString Chapters::text(std::span<const platform::Chapter> chapters, std::int32_t
         return platform::localizedFormat(QStringLiteral("Chapter %d of %d"), parts);
     return platform::localizedFormat(QStringLiteral("Chapter %d of %d: %@"), parts << title);
 }
+
+QString Chapters::name(std::span<const platform::Chapter> chapters, std::int32_t position) {
+    if (position < 0 || position >= static_cast<std::int32_t>(chapters.size()))
+        return {};
+    const QString& title = chapters[static_cast<std::size_t>(position)].title;
+    return title.isEmpty() ? text(chapters, position) : title;
+}

@@ -23,4 +23,7 @@ std::optional<std::int32_t> stepped(std::span<const platform::Chapter> chapters,
 /// "Chapter 2 of 5: Name"; empty for no position.
 QString text(std::span<const platform::Chapter> chapters, std::int32_t position);
 
+/// What the file calls it, else "Chapter 2 of 5"; empty for no position.
+QString name(std::span<const platform::Chapter> chapters, std::int32_t position);
+
 } // namespace Chapters

@@ -4,6 +4,7 @@
 #include "context/CommandTarget.h"
 #include "context/FeedbackDisplay.h"
 #include "context/Notifications.h"
+#include "overlays/ClockText.h"
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunLoop.h"
@@ -228,6 +229,29 @@ void QVMovieView::toggleController() {
     showController(show, true);
     setMovieSize(_size, Recalculation::forced);
     _environment.settings.setBool(show, kQVControllerVisible);
+}
+
+void QVMovieView::setCoveredHeight(double points) {
+    if (points == std::exchange(_coveredHeight, points))
+        return;
+    _environment.notifications.post(QVMovieViewSizeChangedNotification{this});
+}
+
+QString QVMovieView::clockText(double seconds) const {
+    return stringWithTimeIntervalInSeconds(static_cast<std::int32_t>(seconds));
+}
+
+void QVMovieView::barButtonPressed(platform::ControllerBar::Control button) {
+    using Control = platform::ControllerBar::Control;
+    _commands.performCommand(button == Control::previous ? "previous-movie"
+                             : button == Control::next   ? "next-movie"
+                                                         : "show-tracks",
+                             Feedback::yes);
+}
+
+void QVMovieView::controllerStateChanged() {
+    if (_controllerObserver)
+        _controllerObserver();
 }
 
 void QVMovieView::showControllerBySetting() {

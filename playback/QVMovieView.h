@@ -13,7 +13,9 @@
 #include "settings/QVPreferencesChangedNotification.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace platform {
 class Desktop;
@@ -72,8 +74,13 @@ public:
     platform::Rect pictureFrame() const override { return frame(); }
     bool isControllerBarVisible() const override { return isControllerVisible(); }
     unsigned getControllerHeight() const override;
+    double coveredHeight() const override { return _coveredHeight; }
+    /// Tells whoever stands on the picture.
+    void setCoveredHeight(double points);
     QImage still(const QSize& bounds) override;
     void toggleController();
+    /// Called when what the controller bar shows may have changed; null for nobody.
+    void setControllerObserver(std::function<void()> observer) { _controllerObserver = std::move(observer); }
     void setVolume(float volume) override;
     QString volumeInfoAsString() const;
     QString mutedInfoAsString() const;
@@ -93,6 +100,9 @@ public:
     bool performDragOperation(const platform::DraggingInfo& info) override;
 
 protected:
+    QString clockText(double seconds) const override;
+    void barButtonPressed(platform::ControllerBar::Control button) override;
+    void controllerStateChanged() override;
     void playingChanged(bool playing) override;
     void waitChanged(const platform::MoviePlayer::Wait& wait) override;
     void movieFailed() override;
@@ -114,6 +124,8 @@ private:
         bool isPlaying = false;
         float rate = 1.0F;
     } _state;
+    std::function<void()> _controllerObserver;
+    double _coveredHeight = 0;
     StandingMessage _waitMessage;
     std::unique_ptr<platform::Timer> _stallTimer;
     std::int32_t _size;

@@ -88,6 +88,7 @@ void QVPreferencesController::awakeFromNib() {
               {{c._movieRemember, kQVRememberMovies}, &Self::changeMovieRemember},
               {{c._moviePauseOnDeactivate, kQVPauseOnDeactivate}, &Self::changePauseOnDeactivate},
               {{c._movieShowController, kQVControllerVisible}, &Self::changeShowController},
+              {{c._movieControllerOverPicture, kQVControllerOverPicture}, &Self::changeControllerOverPicture},
               {{c._openVideoPages, kQVOpenVideoPages}, &Self::changeOpenVideoPages},
               {{c._volumeSave, kQVVolumeSave}, &Self::changeSaveVolume},
               {{c._mainWindowLayer, kQVMainWindowLayer}, &Self::changeWindowLayer},
@@ -382,6 +383,10 @@ void QVPreferencesController::changePauseOnDeactivate() {
 
 void QVPreferencesController::changeShowController() {
     plainChange(_controls->_movieShowController);
+}
+
+void QVPreferencesController::changeControllerOverPicture() {
+    plainChange(_controls->_movieControllerOverPicture);
 }
 
 void QVPreferencesController::changeOpenVideoPages() {

@@ -75,6 +75,7 @@ public:
     enum class JumpControl { field, stepper };
     void changeJumpInterval(JumpControl sender);
     void changeSaveVolume();
+    void changeControllerOverPicture();
     void changeWindowLayer();
     void changePlaylistSort();
     void changePlaylistSortNumerically();

@@ -71,6 +71,7 @@ public:
     void displayNow(const platform::Rect&) override { _widget.update(); }
     void makeKeyAndOrderFront() override {}
     void setPointerHidden(bool) override {}
+    void showMenu(platform::Menu&) override {}
     double pixelRatio() const override { return _widget.devicePixelRatioF(); }
 
 private:

@@ -21,6 +21,8 @@ inline const QString kQVMainWindowScreen = QStringLiteral("QVMainWindowScreen");
 inline const QString kQVMainWindowLayer = QStringLiteral("QVMainWindowLayer");
 inline const QString kQVDefaultMovieSize = QStringLiteral("QVDefaultMovieSize");
 inline const QString kQVControllerVisible = QStringLiteral("QVControllerVisible");
+/// Whether a controller bar stands over the picture where none stands below it: ControllerOverPicture.
+inline const QString kQVControllerOverPicture = QStringLiteral("QVControllerOverPicture");
 inline const QString kQVJumpInterval = QStringLiteral("QVJumpInterval");
 inline const QString kQVCommandKeys = QStringLiteral("QVCommandKeys");
 inline const QString kQVAutoloadSubtitles = QStringLiteral("QVAutoloadSubtitles");

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QSize>
 #include <QUrl>
 
 #include <atomic>
@@ -76,6 +77,12 @@ public:
     /// as coverAsync.
     [[nodiscard]] virtual std::unique_ptr<MovieOpening>
     blackBarsAsync(const QUrl& url, double duration, std::function<void(PictureShape::Crop)> completion) = 0;
+
+    /// Decodes the keyframe before a time, in seconds, of a local file, beside the player; as coverAsync, with a
+    /// picture of at most `bounds` pixels. It is what the file holds: in its own pixels, neither turned nor otherwise
+    /// changed.
+    [[nodiscard]] virtual std::unique_ptr<MovieOpening>
+    keyframeAsync(const QUrl& url, double seconds, const QSize& bounds, std::function<void(QImage)> completion) = 0;
 
     virtual FetchFile fileFetcher() const = 0;
     virtual ReadSubtitlePackets subtitlePacketReader() const = 0;

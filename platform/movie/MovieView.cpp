@@ -134,12 +134,12 @@ void MovieView::draw(QPainter& painter, const Rect& dirty) {
     const Rect bar = controllerRect();
     if (!_controllerVisible || bar.isEmpty() || !dirty.intersects(bar))
         return;
-    _shownState = ControllerBar::shownState(controllerState(), barSize());
+    _shownState = shownController();
     const double scale = controllerHeight() / ControllerBar::height;
     painter.save();
     painter.translate(0, bounds().height() - bar.height());
     painter.scale(scale, scale);
-    _bar.draw(painter, barSize(), _shownState, marks());
+    ControllerBar::draw(painter, barSize(), _shownState, chapterMarks());
     painter.restore();
 }
 
@@ -164,14 +164,14 @@ bool MovieView::mouseDown(const MouseEvent& event) {
     if (event.clickCount > 1)
         return true; // the press itself came before it
     _tracking = true;
-    performController(_bar.press(inBar(point), barSize()));
+    performController(_bar.press(inBar(point), barLayout()));
     return true;
 }
 
 bool MovieView::mouseDragged(const MouseEvent& event) {
     if (!_tracking)
         return false;
-    performController(_bar.drag(inBar(convertFromWindow(event.locationInWindow)), barSize()));
+    performController(_bar.drag(inBar(convertFromWindow(event.locationInWindow)), barLayout()));
     return true;
 }
 
@@ -198,14 +198,38 @@ void MovieView::playerStateChanged() {
         _wasPlaying = playing;
         playingChanged(playing);
     }
-    if (!_controllerVisible)
-        return;
-    const Rect bar = controllerRect();
-    const ControllerBar::State state = ControllerBar::shownState(controllerState(), barSize());
+    controllerStateChanged();
+    if (_controllerVisible)
+        showBarAnew();
+}
+
+void MovieView::showBarAnew() {
+    const ControllerBar::State state = shownController();
     if (state == _shownState)
         return;
     _shownState = state;
-    setNeedsDisplayInRect(bar);
+    setNeedsDisplayInRect(controllerRect());
+}
+
+void MovieView::pointerMoved(const std::optional<QPointF>& point) {
+    using Control = ControllerBar::Control;
+    const QPointF inView = point ? convertFromWindow(*point) : QPointF();
+    const bool isOver = point && _controllerVisible && controllerRect().contains(inView);
+    const Control pointed = isOver ? barLayout().controlAt(inBar(inView)) : Control::none;
+    if (pointed == std::exchange(_pointed, pointed) || !_controllerVisible)
+        return;
+    showBarAnew();
+}
+
+std::optional<MovieView::BarPlace> MovieView::barPlaceAt(QPointF point) const {
+    const QPointF inView = convertFromWindow(point);
+    if (!_controllerVisible || !_movie || _movie->duration() <= 0 || !controllerRect().contains(inView))
+        return std::nullopt;
+    const ControllerBar::Layout layout = barLayout();
+    const QPointF at = inBar(inView);
+    if (layout.controlAt(at) != ControllerBar::Control::time)
+        return std::nullopt;
+    return BarPlace{layout.placeAt(at.x()), convertToWindow(controllerRect())};
 }
 
 Rect MovieView::controllerRect() const {
@@ -225,35 +249,51 @@ QPointF MovieView::inBar(QPointF point) const {
     return QPointF(point.x(), controllerRect().maxY() - point.y()) * (ControllerBar::height / controllerHeight());
 }
 
+ControllerBar::Layout MovieView::barLayout() const {
+    return ControllerBar::layout(barSize(), controllerState());
+}
+
+ControllerBar::State MovieView::shownController() const {
+    ControllerBar::State state = controllerState();
+    state.pointed = _pointed;
+    return ControllerBar::shownState(state, barSize());
+}
+
 void MovieView::performController(const ControllerBar::Command& command) {
-    switch (command.kind) {
-    case ControllerBar::Command::Kind::none:
+    using Control = ControllerBar::Control;
+    switch (command.control) {
+    case Control::none:
         break;
-    case ControllerBar::Command::Kind::togglePlay:
+    case Control::play:
         if (isPlaying())
             stop();
         else
             start();
         break;
-    case ControllerBar::Command::Kind::toggleMute:
+    case Control::mute:
         setMuted(!isMuted());
         break;
-    case ControllerBar::Command::Kind::setVolume:
+    case Control::volume:
         if (isMuted())
             setMuted(false);
         setVolume(static_cast<float>(command.value));
         break;
-    case ControllerBar::Command::Kind::seek:
+    case Control::time:
         if (_movie && _movie->duration() > 0) {
             const auto time = static_cast<std::int32_t>(std::lround(command.value * _movie->duration()));
             if (time != _player.time())
                 _player.seek(time, MoviePlayer::JumpReport::reported);
         }
         break;
+    case Control::previous:
+    case Control::next:
+    case Control::tracks:
+        barButtonPressed(command.control);
+        break;
     }
 }
 
-std::vector<double> MovieView::marks() const {
+std::vector<double> MovieView::chapterMarks() const {
     std::vector<double> marks;
     if (_movie && _movie->duration() > 0)
         for (const Chapter& chapter : _movie->info().chapters)
@@ -267,8 +307,14 @@ ControllerBar::State MovieView::controllerState() const {
     state.playing = isPlaying();
     state.muted = isMuted();
     state.volume = std::clamp(static_cast<double>(volume()), 0.0, 1.0);
-    if (_movie && _movie->duration() > 0)
-        state.position = std::clamp(static_cast<double>(_player.time()) / _movie->duration(), 0.0, 1.0);
+    if (!_movie)
+        return state;
+    const double units = std::max(_movie->timeScale(), 1);
+    state.time = clockText(_player.time() / units);
+    if (_movie->duration() <= 0)
+        return state;
+    state.duration = clockText(_movie->duration() / units);
+    state.position = std::clamp(static_cast<double>(_player.time()) / _movie->duration(), 0.0, 1.0);
     return state;
 }
 

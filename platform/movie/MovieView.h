@@ -58,6 +58,24 @@ public:
     /// With adjustingSize the view's height grows or shrinks by the bar's, the picture keeping its size.
     void showController(bool visible, bool adjustingSize);
 
+    /// What a controller bar shows of the player, wherever it stands.
+    ControllerBar::State controllerState() const;
+    /// Where the chapters begin, in shares of the duration.
+    std::vector<double> chapterMarks() const;
+    /// Does what a bar was pressed for.
+    void performController(const ControllerBar::Command& command);
+    /// The pointer moved over the window, or left it: what of the bar would be pressed shows it. Content coordinates.
+    void pointerMoved(const std::optional<QPointF>& point);
+    /// A place on the time slider of the view's own bar.
+    struct BarPlace {
+        /// Of the duration, 0 to 1.
+        double share = 0;
+        /// The bar's, content coordinates.
+        Rect bar;
+    };
+    /// That under a point of the window; none outside, without a bar, and where the duration is not known.
+    std::optional<BarPlace> barPlaceAt(QPointF point) const;
+
     /// Space plays or pauses, the arrows step one picture. True when the key was one of these and there is a movie.
     bool handleMovieKey(const KeyEvent& event);
 
@@ -73,6 +91,12 @@ protected:
     MoviePlayer& player() const { return _player; }
     /// True while a press in the controller bar is being followed.
     bool isTrackingController() const { return _tracking; }
+    /// Seconds as the bar shows them; empty, as by default, for a bar without texts.
+    virtual QString clockText(double) const { return {}; }
+    /// A button was pressed that is no matter of the player.
+    virtual void barButtonPressed(ControllerBar::Control) {}
+    /// What controllerState() answers may be another.
+    virtual void controllerStateChanged() {}
     /// The movie began to play, or stopped, for whatever reason. Does nothing by default.
     virtual void playingChanged(bool playing);
     /// As the player's observer is told. These do nothing by default.
@@ -90,16 +114,17 @@ private:
     /// The bar's own size, and a point of the view in its coordinates.
     QSizeF barSize() const;
     QPointF inBar(QPointF point) const;
-    void performController(const ControllerBar::Command& command);
-    ControllerBar::State controllerState() const;
-    /// Where the chapters begin, in shares of the duration.
-    std::vector<double> marks() const;
+    ControllerBar::Layout barLayout() const;
+    ControllerBar::State shownController() const;
+    /// Marks the bar for drawing where it looks otherwise than it did.
+    void showBarAnew();
 
     MoviePlayer& _player;
     std::shared_ptr<Movie> _movie;
     ControllerBar _bar;
     /// As the bar was drawn or marked for drawing last.
     ControllerBar::State _shownState;
+    ControllerBar::Control _pointed = ControllerBar::Control::none;
     bool _controllerVisible = true;
     bool _tracking = false;
     bool _wasPlaying = false;

@@ -218,6 +218,7 @@ void Window::dispatchMouseMoved(const MouseEvent& event) {
 
 void Window::dispatchMouseLeft() {
     trackPointer(QPointF(), false);
+    mouseLeft();
 }
 
 void Window::setKey(bool key) {
@@ -274,6 +275,8 @@ bool Window::keyUp(const KeyEvent&) {
 }
 
 void Window::mouseMoved(const MouseEvent&) {}
+
+void Window::mouseLeft() {}
 
 void Window::mouseUp(const MouseEvent&) {}
 

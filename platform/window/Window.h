@@ -120,6 +120,8 @@ protected:
     virtual bool keyDown(const KeyEvent& event);
     virtual bool keyUp(const KeyEvent& event);
     virtual void mouseMoved(const MouseEvent& event);
+    /// The pointer left the window, or is over what stands before it.
+    virtual void mouseLeft();
     /// Reached by presses that no view took.
     virtual void mouseDown(const MouseEvent& event);
     virtual void wheelTurned(int steps);

@@ -29,6 +29,9 @@ public:
     virtual void makeKeyAndOrderFront() = 0;
     /// Hides the pointer until the mouse next moves, or shows it again.
     virtual void setPointerHidden(bool hidden) = 0;
+    /// Opens a menu where the pointer is, performed by the target of the main menu; without one nothing opens.
+    /// The menu is filled now, and stays as long as the host.
+    virtual void showMenu(Menu& menu) = 0;
     /// Device pixels per point of the screen that the window is on.
     virtual double pixelRatio() const = 0;
 };

@@ -802,6 +802,38 @@
         <source>Show Controller</source>
         <translation>Steuerleiste zeigen</translation>
     </message>
+    <message id="Bar over the Picture">
+        <source>Bar over the Picture</source>
+        <translation>Leiste über dem Bild</translation>
+    </message>
+    <message id="Bar over the picture: off, always, when the pointer moves">
+        <source>Bar over the picture: off, always, when the pointer moves</source>
+        <translation>Leiste über dem Bild: aus, immer, bei bewegtem Zeiger</translation>
+    </message>
+    <message id="Bar over the Picture: Off">
+        <source>Bar over the Picture: Off</source>
+        <translation>Leiste über dem Bild: Aus</translation>
+    </message>
+    <message id="Bar over the Picture: Always">
+        <source>Bar over the Picture: Always</source>
+        <translation>Leiste über dem Bild: Immer</translation>
+    </message>
+    <message id="Bar over the Picture: When the Pointer Moves">
+        <source>Bar over the Picture: When the Pointer Moves</source>
+        <translation>Leiste über dem Bild: Bei bewegtem Zeiger</translation>
+    </message>
+    <message id="Tracks...">
+        <source>Tracks...</source>
+        <translation>Spuren...</translation>
+    </message>
+    <message id="Sound and subtitles in one menu">
+        <source>Sound and subtitles in one menu</source>
+        <translation>Ton und Untertitel in einem Menü</translation>
+    </message>
+    <message id="Audio">
+        <source>Audio</source>
+        <translation>Ton</translation>
+    </message>
     <message id="Hide Controller">
         <source>Hide Controller</source>
         <translation>Steuerleiste verbergen</translation>
@@ -1785,6 +1817,22 @@
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
         <translation>Ob der Film über den Fenstern anderer Programme bleibt, solange Lumaro die Tastatur hat</translation>
+    </message>
+    <message id="Bar over the p&amp;icture:">
+        <source>Bar over the p&amp;icture:</source>
+        <translation>Leiste über de&amp;m Bild:</translation>
+    </message>
+    <message id="Where none stands below it: a larger bar that comes with the pointer, or stays">
+        <source>Where none stands below it: a larger bar that comes with the pointer, or stays</source>
+        <translation>Wo keine darunter steht: eine Leiste, die mit dem Zeiger kommt oder bleibt</translation>
+    </message>
+    <message id="Always">
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message id="When the pointer moves">
+        <source>When the pointer moves</source>
+        <translation>Bei bewegtem Zeiger</translation>
     </message>
     <message id="Among other windows">
         <source>Among other windows</source>

@@ -802,6 +802,38 @@
         <source>Show Controller</source>
         <translation>Show Controller</translation>
     </message>
+    <message id="Bar over the Picture">
+        <source>Bar over the Picture</source>
+        <translation>Bar over the Picture</translation>
+    </message>
+    <message id="Bar over the picture: off, always, when the pointer moves">
+        <source>Bar over the picture: off, always, when the pointer moves</source>
+        <translation>Bar over the picture: off, always, when the pointer moves</translation>
+    </message>
+    <message id="Bar over the Picture: Off">
+        <source>Bar over the Picture: Off</source>
+        <translation>Bar over the Picture: Off</translation>
+    </message>
+    <message id="Bar over the Picture: Always">
+        <source>Bar over the Picture: Always</source>
+        <translation>Bar over the Picture: Always</translation>
+    </message>
+    <message id="Bar over the Picture: When the Pointer Moves">
+        <source>Bar over the Picture: When the Pointer Moves</source>
+        <translation>Bar over the Picture: When the Pointer Moves</translation>
+    </message>
+    <message id="Tracks...">
+        <source>Tracks...</source>
+        <translation>Tracks...</translation>
+    </message>
+    <message id="Sound and subtitles in one menu">
+        <source>Sound and subtitles in one menu</source>
+        <translation>Sound and subtitles in one menu</translation>
+    </message>
+    <message id="Audio">
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
     <message id="Hide Controller">
         <source>Hide Controller</source>
         <translation>Hide Controller</translation>
@@ -1785,6 +1817,22 @@
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
         <translation>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</translation>
+    </message>
+    <message id="Bar over the p&amp;icture:">
+        <source>Bar over the p&amp;icture:</source>
+        <translation>Bar over the p&amp;icture:</translation>
+    </message>
+    <message id="Where none stands below it: a larger bar that comes with the pointer, or stays">
+        <source>Where none stands below it: a larger bar that comes with the pointer, or stays</source>
+        <translation>Where none stands below it: a larger bar that comes with the pointer, or stays</translation>
+    </message>
+    <message id="Always">
+        <source>Always</source>
+        <translation>Always</translation>
+    </message>
+    <message id="When the pointer moves">
+        <source>When the pointer moves</source>
+        <translation>When the pointer moves</translation>
     </message>
     <message id="Among other windows">
         <source>Among other windows</source>

@@ -46,6 +46,7 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
               "Half Size changeSize 0 (0)\nNormal Size changeSize 1 (1)\nDouble Size changeSize 2 (2)\n"
               "Full Size changeSize 3 (3)\nFit Width changeSize 4 (4)\nFit Height changeSize 5 (5)\n-\n"
               "Bigger changeSize -2 (+)\nSmaller changeSize -3 (-)\n-\nShow Controller toggleController 0 (C)\n"
+              "Bar over the Picture nextControllerOverPicture 0 (B)\nTracks... showTracks 0 (Ctrl+T)\n"
               "Information showInformation 0 (I)\n"
               "Next Display cycleDisplays 1 (D)\nPrevious Display cycleDisplays -1 (Shift+D)\n-\nAspect  "
               "0\nDeinterlacing  0\nPicture Colors  0\nCrop Black Bars cropBars 0 (Ctrl+B)\nTurn by 90° turnPicture 0 "

@@ -47,7 +47,7 @@ TEST(MovieView, the_controller_bar_is_drawn_again_when_its_knob_moves_by_half_a_
     rig.view.start();
     EXPECT_EQ(rig.drawnAgain(), rig.bar) << "its button shows that it plays";
     // The knob's middle stays within the slider by half its width of 8.
-    const double halfPoints = (ControllerBar::timeSlider(QSizeF(640, 16)).width() - 8) * 2;
+    const double halfPoints = (ControllerBar::layout(QSizeF(640, 16), {}).time.width() - 8) * 2;
     long shown = 0;
     for (int frame = 1; frame <= 100; ++frame) {
         rig.player.advance(0.04);
@@ -84,7 +84,7 @@ TEST(MovieView, the_controller_bar_grows_with_its_screen_and_is_pressed_where_it
         event.locationInWindow = point;
         return rig.view.mouseDown(event);
     };
-    EXPECT_TRUE(press(2 * ControllerBar::timeSlider(QSizeF(1920, 16)).center()));
+    EXPECT_TRUE(press(2 * ControllerBar::layout(QSizeF(1920, 16), {}).time.center()));
     EXPECT_EQ(rig.player.time(), 18000);
     EXPECT_FALSE(press(QPointF(100, 33)));
     EXPECT_TRUE(press(QPointF(100, 31)));

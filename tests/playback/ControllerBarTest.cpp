@@ -29,17 +29,18 @@ struct BarRig : PlaybackRig {
         return event;
     }
     const QSizeF size{640, 16};
+    const ControllerBar::State state{.time = "0:00:00", .duration = "0:01:00"};
 };
 
 } // namespace
 
 TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
     BarRig rig;
-    rig.window.dispatchMouseDown(rig.at(ControllerBar::playButton(rig.size).center().x()));
+    rig.window.dispatchMouseDown(rig.at(ControllerBar::layout(rig.size, rig.state).play.center().x()));
     rig.window.dispatchMouseUp(rig.at(0));
     EXPECT_TRUE(rig.view.isPlaying());
 
-    const QRectF slider = ControllerBar::timeSlider(rig.size);
+    const QRectF slider = ControllerBar::layout(rig.size, rig.state).time;
     rig.window.dispatchMouseDown(rig.at(slider.center().x()));
     EXPECT_NEAR(rig.view.time(), 18000, 1);
     rig.window.dispatchMouseDragged(rig.at(5000));
@@ -48,10 +49,10 @@ TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
     EXPECT_EQ(rig.view.time(), 0);
     rig.window.dispatchMouseUp(rig.at(0));
 
-    rig.window.dispatchMouseDown(rig.at(ControllerBar::muteButton(rig.size).center().x()));
+    rig.window.dispatchMouseDown(rig.at(ControllerBar::layout(rig.size, rig.state).mute.center().x()));
     EXPECT_TRUE(rig.view.isMuted());
     Posts<QVMovieVolumeChangedNotification> volumes(rig.settings.notifications);
-    rig.window.dispatchMouseDown(rig.at(ControllerBar::volumeSlider(rig.size).center().x()));
+    rig.window.dispatchMouseDown(rig.at(ControllerBar::layout(rig.size, rig.state).volume.center().x()));
     EXPECT_FALSE(rig.view.isMuted());
     EXPECT_NEAR(rig.view.volume(), 0.5, 0.01);
     EXPECT_EQ(volumes.count, 1);
@@ -63,18 +64,18 @@ TEST(ControllerBar, it_shows_whether_it_plays_how_loud_and_where) {
         QImage image(640, 16, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::black);
         QPainter painter(&image);
-        ControllerBar().draw(painter, size, state, {});
+        ControllerBar::draw(painter, size, state, {});
         return image;
     };
     const auto brightness = [](const QImage& image, const QPointF& at) { return qGray(image.pixel(at.toPoint())); };
-    const QPointF button = ControllerBar::playButton(size).center();
+    const QPointF button = ControllerBar::layout(size, {}).play.center();
     EXPECT_GT(brightness(drawn({.playing = false}), button), 200) << "a triangle";
     EXPECT_LT(brightness(drawn({.playing = true}), button), 50) << "between two bars";
 
     EXPECT_EQ(drawn({}), drawn({.playing = false, .muted = false, .volume = 1, .position = 0})) << "without a movie";
 
     const auto speaker = [&](bool muted, double volume) {
-        return drawn({.muted = muted, .volume = volume}).copy(ControllerBar::muteButton(size).toRect());
+        return drawn({.muted = muted, .volume = volume}).copy(ControllerBar::layout(size, {}).mute.toRect());
     };
     const auto light = [&](const QImage& image) {
         int sum = 0;
@@ -91,8 +92,8 @@ TEST(ControllerBar, it_shows_whether_it_plays_how_loud_and_where) {
 
     for (const double value : {0.0, 0.25, 0.75, 1.0}) {
         const QImage image = drawn({.volume = value, .position = 1 - value});
-        for (const auto& [slider, at] : {std::pair{ControllerBar::volumeSlider(size), value},
-                                         std::pair{ControllerBar::timeSlider(size), 1 - value}}) {
+        for (const auto& [slider, at] : {std::pair{ControllerBar::layout(size, {}).volume, value},
+                                         std::pair{ControllerBar::layout(size, {}).time, 1 - value}}) {
             const QPointF knob(slider.left() + 4 + at * (slider.width() - 8), slider.center().y());
             EXPECT_GT(brightness(image, knob), 200) << value;
             if (at > 0) {
@@ -116,10 +117,63 @@ TEST(ControllerBar, it_marks_where_the_chapters_begin) {
     image.fill(Qt::black);
     QPainter painter(&image);
     view.draw(painter, view.bounds());
-    const QRectF slider = ControllerBar::timeSlider(QSizeF(640, 16));
+    const QRectF slider = ControllerBar::layout(QSizeF(640, 16), {}).time;
     std::vector<int> marked; // shares of the slider, above its line
     for (int x = static_cast<int>(slider.left()) + 10; x < slider.right(); ++x)
         if (qGray(image.pixel(x, 100 + 5)) > 60 && qGray(image.pixel(x - 1, 100 + 5)) <= 60)
             marked.push_back(qRound((x - slider.left() - 4) * 100 / (slider.width() - 8)));
     EXPECT_EQ(marked, (std::vector<int>{25, 75}));
+}
+
+TEST(ControllerBar, a_narrow_bar_drops_what_is_missed_least_and_keeps_its_slider) {
+    using Control = ControllerBar::Control;
+    const ControllerBar::State texts{.time = "0:00:00", .duration = "1:00:00"};
+    struct Case {
+        double width;
+        std::vector<Control> left; // from the left to the right
+    };
+    const Case cases[] = {
+        {640,
+         {Control::play, Control::previous, Control::next, Control::mute, Control::volume, Control::time,
+          Control::tracks}},
+        {320, {Control::play, Control::previous, Control::next, Control::mute, Control::time, Control::tracks}},
+        {200, {Control::play, Control::mute, Control::time, Control::tracks}},
+        {160, {Control::play, Control::mute, Control::time}},
+        {20, {Control::play}},
+    };
+    for (const Case& c : cases) {
+        const auto layout = ControllerBar::layout(QSizeF(c.width, 16), texts);
+        std::vector<Control> found;
+        for (double x = 0.5; x < c.width; ++x) {
+            const Control control = layout.controlAt(QPointF(x, 8));
+            if (control != Control::none && (found.empty() || found.back() != control))
+                found.push_back(control);
+        }
+        EXPECT_EQ(found, c.left) << c.width;
+        EXPECT_TRUE(c.width < 150 || layout.time.width() >= 100) << c.width;
+        EXPECT_TRUE(c.width > 300 || layout.timeText.isEmpty()) << c.width;
+        EXPECT_EQ(layout.controlAt(QPointF(0, 0)), Control::play) << "the corner, too";
+    }
+}
+
+TEST(ControllerBar, its_buttons_are_commands_and_the_one_under_the_pointer_stands_out) {
+    BarRig rig;
+    const auto layout = ControllerBar::layout(rig.size, rig.state);
+    for (const QRectF& button : {layout.previous, layout.next, layout.tracks}) {
+        rig.window.dispatchMouseDown(rig.at(button.center().x()));
+        rig.window.dispatchMouseUp(rig.at(0));
+    }
+    EXPECT_EQ(rig.commands.names, (std::vector<std::string>{"previous-movie", "next-movie", "show-tracks"}));
+
+    const auto draws = [&](double x) {
+        rig.host.areas.clear();
+        rig.view.pointerMoved(rig.at(x).locationInWindow);
+        return !rig.host.areas.empty();
+    };
+    EXPECT_TRUE(draws(layout.next.center().x()));
+    EXPECT_FALSE(draws(layout.next.center().x() + 2)) << "the same button";
+    EXPECT_TRUE(draws(layout.tracks.center().x()));
+    rig.host.areas.clear();
+    rig.view.pointerMoved(std::nullopt);
+    EXPECT_FALSE(rig.host.areas.empty());
 }

@@ -151,6 +151,7 @@ const Plain plainControls[] = {
     {"_movieRemember", kQVRememberMovies, true, {1, 0}},
     {"_moviePauseOnDeactivate", kQVPauseOnDeactivate, true, {0, 1}},
     {"_movieShowController", kQVControllerVisible, true, {0, 1}},
+    {"_movieControllerOverPicture", kQVControllerOverPicture, false, {0, 1, 2}},
     {"_openVideoPages", kQVOpenVideoPages, true, {0, 1}},
     {"_volumeSave", kQVVolumeSave, true, {1, 0}},
     {"_mainWindowLayer", kQVMainWindowLayer, false, {0, 3}},

@@ -5,6 +5,7 @@
 #include "context/PointerHiding.h"
 #include "playlist/OpenPanel.h"
 
+#include <string>
 #include <vector>
 
 /// A movie controller that records what it is asked.
@@ -21,6 +22,13 @@ public:
         actions.push_back(action);
         if (target)
             target->performAction(action, feedback);
+    }
+    /// The names performed.
+    std::vector<std::string> names;
+    void performCommand(std::string_view name, Feedback feedback) override {
+        names.emplace_back(name);
+        if (target)
+            target->performCommand(name, feedback);
     }
     bool processKeyboardEvent(const platform::KeyEvent& event) override {
         return target && target->processKeyboardEvent(event);

@@ -31,5 +31,8 @@ public:
     }
     void makeKeyAndOrderFront() override { changes << "key"; }
     void setPointerHidden(bool hidden) override { pointerHidden = hidden; }
+    /// Those that were opened.
+    std::vector<platform::Menu*> menus;
+    void showMenu(platform::Menu& menu) override { menus.push_back(&menu); }
     double pixelRatio() const override { return ratio; }
 };

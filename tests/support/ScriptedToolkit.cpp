@@ -162,6 +162,17 @@ int ScriptedToolkit::waiting() const {
     return static_cast<int>(std::ranges::count_if(_held, [](const auto& held) { return !held.second.expired(); }));
 }
 
+std::unique_ptr<platform::MovieOpening> ScriptedToolkit::keyframeAsync(const QUrl&, double seconds, const QSize& bounds,
+                                                                       std::function<void(QImage)> completion) {
+    struct Asked final : platform::MovieOpening {
+        std::shared_ptr<std::function<void(QImage)>> completion;
+    };
+    auto asked = std::make_unique<Asked>();
+    asked->completion = std::make_shared<std::function<void(QImage)>>(std::move(completion));
+    keyframes.push_back({seconds, bounds, asked->completion});
+    return asked;
+}
+
 std::unique_ptr<platform::MovieOpening> ScriptedToolkit::coverAsync(const QUrl& url,
                                                                     std::function<void(QImage)> completion) {
     coversAsked.append(url);

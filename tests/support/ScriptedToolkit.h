@@ -130,6 +130,15 @@ public:
         completion(bars);
         return nullptr;
     }
+    /// Those that were asked for and are wanted still: the test answers them.
+    struct AskedKeyframe {
+        double seconds;
+        QSize bounds;
+        std::weak_ptr<std::function<void(QImage)>> completion;
+    };
+    std::vector<AskedKeyframe> keyframes;
+    std::unique_ptr<platform::MovieOpening> keyframeAsync(const QUrl& url, double seconds, const QSize& bounds,
+                                                          std::function<void(QImage)> completion) override;
     /// What fetching an address gives; others are not found. Read by other threads.
     QHash<QUrl, platform::FetchedFile> fetched;
     platform::FetchFile fileFetcher() const override {

@@ -35,10 +35,11 @@ int isCancelled(void* flag) {
     return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0;
 }
 
-bool isPlain(const AVStream* stream, const AVFrame* frame) {
+bool isPlain(const AVStream* stream, const AVFrame* frame, FirstFrame::PictureOf wanted) {
     const bool rangeIsKnown = frame->color_trc == stream->codecpar->color_trc ||
                               (frame->color_trc != AVCOL_TRC_SMPTE2084 && frame->color_trc != AVCOL_TRC_ARIB_STD_B67);
-    return !displayMatrixOf(stream) && rangeIsKnown && !frame->hw_frames_ctx;
+    const bool isUpright = wanted == FirstFrame::PictureOf::storedKeyframe || !displayMatrixOf(stream);
+    return isUpright && rangeIsKnown && !frame->hw_frames_ctx;
 }
 
 bool isFull(const AVFrame* frame) {
@@ -167,7 +168,7 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     if (wanted == PictureOf::cover) {
         const bool sent = av->avcodec_send_packet(decoder.get(), &video->attached_pic) >= 0;
         av->avcodec_send_packet(decoder.get(), nullptr);
-        if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0 && isPlain(video, frame.get()))
+        if (sent && av->avcodec_receive_frame(decoder.get(), frame.get()) >= 0 && isPlain(video, frame.get(), wanted))
             return std::make_shared<const FirstFrame>(frame.release(), dynamicRangeOf(video));
         return nullptr;
     }
@@ -177,7 +178,7 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     AVFrame* const found = isExact ? pictureAt(input, video, decoder.get(), seconds, cancelled)
                                    : firstPicture(input, video, decoder.get(), cancelled);
     frame.reset(found);
-    if (!found || !isPlain(video, found))
+    if (!found || !isPlain(video, found, wanted))
         return nullptr;
     return std::make_shared<const FirstFrame>(frame.release(), dynamicRangeOf(video));
 }

@@ -20,8 +20,8 @@ namespace platform {
 class FirstFrame {
 public:
     /// Whose picture is wanted: the movie's, that of the cover attached to it, or the movie's keyframe before a time,
-    /// which alone is decoded.
-    enum class PictureOf { movie, cover, keyframe };
+    /// which alone is decoded; that one also as it is stored, where it has to be rotated.
+    enum class PictureOf { movie, cover, keyframe, storedKeyframe };
     /// Decodes it: the movie's first one, or the one that the player shows at a time, in seconds from the movie's
     /// beginning, for which all pictures since the keyframe before it are decoded. Null where that is not simple
     /// (rotated, nothing decoded soon). Any thread.

@@ -128,6 +128,19 @@ std::unique_ptr<MovieOpening> MpvToolkit::coverAsync(const QUrl& url, std::funct
         [cover, completion = std::move(completion)](const OpenedMovie&) { completion(*cover); });
 }
 
+std::unique_ptr<MovieOpening> MpvToolkit::keyframeAsync(const QUrl& url, double seconds, const QSize& bounds,
+                                                        std::function<void(QImage)> completion) {
+    const auto found = std::make_shared<QImage>();
+    return _opener.open(
+        [url, seconds, bounds, found](const std::atomic<bool>& cancelled) {
+            using enum FirstFrame::PictureOf;
+            if (const auto picture = FirstFrame::decode(url, cancelled, storedKeyframe, seconds))
+                *found = picture->image(bounds);
+            return OpenedMovie{};
+        },
+        [found, completion = std::move(completion)](const OpenedMovie&) { completion(*found); });
+}
+
 std::unique_ptr<MovieOpening> MpvToolkit::blackBarsAsync(const QUrl& url, double duration,
                                                          std::function<void(PictureShape::Crop)> completion) {
     const auto crop = std::make_shared<PictureShape::Crop>();

@@ -35,6 +35,8 @@ public:
     std::unique_ptr<MovieOpening> coverAsync(const QUrl& url, std::function<void(QImage)> completion) override;
     std::unique_ptr<MovieOpening> blackBarsAsync(const QUrl& url, double duration,
                                                  std::function<void(PictureShape::Crop)> completion) override;
+    std::unique_ptr<MovieOpening> keyframeAsync(const QUrl& url, double seconds, const QSize& bounds,
+                                                std::function<void(QImage)> completion) override;
     FetchFile fileFetcher() const override;
     ReadSubtitlePackets subtitlePacketReader() const override;
     MoviePlayer& player() override;

@@ -98,9 +98,9 @@ MenuItem QtMenus::copyOf(const MenuItem& item) {
     return copy;
 }
 
-void QtMenus::popUp(QPoint globalPosition) {
+void QtMenus::popUp(Menu& menu, QPoint globalPosition) {
     _contextMenu = std::make_unique<QMenu>();
-    fill(*_contextMenu, _menu);
+    fill(*_contextMenu, menu);
     standAbove(*_contextMenu, &_window);
     _contextMenu->popup(globalPosition);
 }

@@ -28,7 +28,9 @@ public:
     QtMenus& operator=(const QtMenus&) = delete;
     ~QtMenus();
 
-    void popUp(QPoint globalPosition);
+    /// The whole menu, or another one of the same target, which stays as long as this.
+    void popUp(QPoint globalPosition) { popUp(_menu, globalPosition); }
+    void popUp(Menu& menu, QPoint globalPosition);
     /// The pointer moved in the window; true when that was the menus'.
     bool pointerMoved(const QMouseEvent& event);
     /// Gives a pressed key to the menu that is open; false without one. The window system turns the keyboard over to a

@@ -12,6 +12,7 @@
 
 #include <QBackingStore>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QDropEvent>
 #include <QExposeEvent>
 #include <QGuiApplication>
@@ -446,6 +447,14 @@ void QtWindowHost::mousePressEvent(QMouseEvent* event) {
         return;
     }
     _root.dispatchMouseDown(translated);
+}
+
+void QtWindowHost::showMenu(Menu& menu) {
+    if (!_menus)
+        return;
+    releaseKeys();
+    setPointerHidden(false);
+    _menus->popUp(menu, QCursor::pos());
 }
 
 void QtWindowHost::mouseDoubleClickEvent(QMouseEvent* event) {

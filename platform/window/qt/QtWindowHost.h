@@ -52,6 +52,7 @@ public:
     void displayNow(const Rect& rect) override;
     void makeKeyAndOrderFront() override;
     void setPointerHidden(bool hidden) override;
+    void showMenu(Menu& menu) override;
     double pixelRatio() const override { return devicePixelRatio(); }
 
 private:
