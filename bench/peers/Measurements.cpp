@@ -146,6 +146,10 @@ const Samples& Measurements::run() {
         measureLongStart();
     if (wants("large"))
         measureLargePictures();
+    if (wants("switch"))
+        measureSubtitleSwitch();
+    if (wants("interlaced"))
+        measureInterlaced();
     return _samples;
 }
 
@@ -419,10 +423,40 @@ double Measurements::processorSharePlaying(const Player& player, const std::stri
     return double(ticks) / ticksPerSecond() / seconds;
 }
 
-bool Measurements::textAppears(const harness::Region& part) {
+std::ptrdiff_t Measurements::whiteIn(const harness::Region& part) {
     const auto isWhite = [](std::uint32_t pixel) { return (pixel & 0xE0E0E0) == 0xE0E0E0; };
-    return waitUntil([&] { return std::ranges::count_if(_probe.picture(part).pixels, isWhite) > 200; }, Seconds(5),
-                     Seconds(0.05));
+    return std::ranges::count_if(_probe.picture(part).pixels, isWhite);
+}
+
+bool Measurements::textAppears(const harness::Region& part) {
+    return waitUntil([&] { return whiteIn(part) > 200; }, Seconds(5), Seconds(0.05));
+}
+
+void Measurements::measureSubtitleSwitch() {
+    const std::string movie = makeTwoTracks(_media, _plainMovie, _folder / "two tracks").string();
+    for (int round = 0; round < _plan.jumpRounds; ++round)
+        for (const Player* player : turnOf(round)) {
+            auto process = startPlaying(*player, {movie}, player->firstTrackOptions());
+            if (!textAppears(bottom))
+                throw std::runtime_error(player->name() + " shows no subtitles: " + process->errorOutput());
+            pause(1.5 + 0.11 * round);
+            const std::ptrdiff_t oneLine = whiteIn(bottom);
+            const KeyPress key = player->nextSubtitlesKey();
+            const double before = now();
+            _probe.tap(key.key, key.modifiers);
+            // Reading the screen takes a few milliseconds, the same for all.
+            if (waitUntil([&] { return whiteIn(bottom) > 3 * oneLine; }, Seconds(5), lookEvery))
+                _samples.add("switch", player->name(), (now() - before) * 1000);
+            endAndClear(process);
+        }
+}
+
+void Measurements::measureInterlaced() {
+    const std::string movie = makeInterlacedMovie(_media).string();
+    for (int round = 0; round < _plan.playRounds; ++round)
+        for (const Player* player : turnOf(round))
+            _samples.add("interlaced", player->name(),
+                         processorSharePlaying(*player, movie, player->deinterlacingOptions()));
 }
 
 bool Measurements::showsText(const Player& player, const harness::Region& part, const std::string& plainMovie,

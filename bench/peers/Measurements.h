@@ -27,8 +27,9 @@ struct Plan {
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu",       "memory", "paused", "jump", "open", "osd",
-                                               "fade",  "subtitles", "track",  "change", "drag", "long", "large"};
+inline const std::set<std::string> rowNames = {"start", "cpu",   "memory",    "paused",    "jump",   "open",
+                                               "osd",   "fade",  "subtitles", "track",     "change", "drag",
+                                               "long",  "large", "switch",    "interlaced"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -65,6 +66,8 @@ private:
     void measureDrag();
     void measureLongStart();
     void measureLargePictures();
+    void measureSubtitleSwitch();
+    void measureInterlaced();
 
     // A player that shows the movie. Throws std::runtime_error with its words when it does not.
     std::unique_ptr<harness::ChildProcess> startPlaying(const Player& player) { return startPlaying(player, {_movie}); }
@@ -72,6 +75,8 @@ private:
                                                         const std::vector<std::string>& options = {});
     double processorSharePlaying(const Player& player, const std::string& movie,
                                  const std::vector<std::string>& options);
+    // How many white pixels there are in the part of the screen.
+    std::ptrdiff_t whiteIn(const harness::Region& part);
     // Whether white letters come into the part of the screen, where nothing but the plain movie is.
     bool textAppears(const harness::Region& part);
     bool showsText(const Player& player, const harness::Region& part, const std::string& plainMovie,

@@ -11,6 +11,9 @@ namespace bench {
 
 namespace {
 
+/// For ffmpeg to make the big ones, on a machine that has other work.
+constexpr harness::Seconds bigMovieTimeout{1800};
+
 constexpr int bitCount = 12; // as harness::MediaFixture::frameNumber reads them
 constexpr Color stripe{220, 0, 0};
 // The lines along the top of the fast movie: the number, and the stripe below it.
@@ -108,14 +111,39 @@ std::filesystem::path makeLongMovie(const harness::MediaFixture& media, const st
     for (int track = 0; track < tracks; ++track)
         arguments.insert(arguments.end(), {"-map", "1:s"});
     arguments.insert(arguments.end(), {"-c:v", "copy", "-c:s", "srt"});
-    return media.make("four hours.mkv", arguments);
+    return media.make("four hours.mkv", arguments, bigMovieTimeout);
 }
 
 std::filesystem::path makeLargeMovie(const harness::MediaFixture& media) {
     constexpr int width = 3840;
     return media.make("large.mkv",
                       {"-f", "lavfi", "-i", "testsrc2=s=3840x2160:r=24:d=10", "-vf", marks(width), "-c:v", "libx265",
-                       "-preset", "ultrafast", "-x265-params", "log-level=error", "-pix_fmt", "yuv420p10le"});
+                       "-preset", "ultrafast", "-x265-params", "log-level=error", "-pix_fmt", "yuv420p10le"},
+                      bigMovieTimeout);
+}
+
+std::filesystem::path makeTwoTracks(const harness::MediaFixture& media, const std::filesystem::path& plainMovie,
+                                    const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    std::vector<std::string> arguments{"-i", plainMovie.string()};
+    for (const char* text :
+         {"Ah.", "The keeper saw the ships go by,\nand waved his hat\nto every single one of them."}) {
+        const std::filesystem::path file = folder / (std::to_string(arguments.size()) + ".srt");
+        std::ofstream(file) << "1\n" << subRipTime(0) << " --> " << subRipTime(59'000) << '\n' << text << "\n\n";
+        arguments.insert(arguments.end(), {"-i", file.string()});
+    }
+    arguments.insert(arguments.end(), {"-map", "0:v", "-map", "1:s", "-map", "2:s", "-c:v", "copy", "-c:s", "srt"});
+    return media.make("two tracks.mkv", arguments, bigMovieTimeout);
+}
+
+std::filesystem::path makeInterlacedMovie(const harness::MediaFixture& media) {
+    return media.make("interlaced.mp4",
+                      {"-f", "lavfi", "-i", "testsrc2=s=1920x1080:r=50:d=60", "-vf",
+                       "drawbox=x=0:y=ih*15/16:w=iw:h=ih/16:color=" + harness::ffmpegColor(stripe) +
+                           ":t=fill,interlace=scan=tff:lowpass=linear",
+                       "-c:v", "libx264", "-preset", "veryfast", "-flags", "+ildct+ilme", "-x264-params", "tff=1",
+                       "-pix_fmt", "yuv420p"},
+                      bigMovieTimeout);
 }
 
 std::filesystem::path withSubtitles(const std::filesystem::path& movie, const std::filesystem::path& folder,

@@ -32,6 +32,12 @@ std::filesystem::path makeLongMovie(const harness::MediaFixture& media, const st
 // Ten seconds of HEVC in ten bits, 3840 by 2160 at 24 pictures a second, numbered and striped like the first.
 std::filesystem::path makeLargeMovie(const harness::MediaFixture& media);
 
+// The plain movie with two tracks of subtitles inside: one line throughout, and three lines throughout.
+std::filesystem::path makeTwoTracks(const harness::MediaFixture& media, const std::filesystem::path& plainMovie,
+                                    const std::filesystem::path& folder);
+// A minute of moving test picture, 1080i at 50 fields a second, striped like the first.
+std::filesystem::path makeInterlacedMovie(const harness::MediaFixture& media);
+
 // A SubRip file of texts of two lines; milliseconds.
 struct Cues {
     int count = 30;

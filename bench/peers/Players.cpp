@@ -105,6 +105,43 @@ KeyPress Player::exactJumpKey() const {
     return _kind == Kind::mpv ? KeyPress{XK_z, {}} : jumpKey();
 }
 
+KeyPress Player::nextSubtitlesKey() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {XK_j, {}};
+    case Kind::vlc:
+        return {XK_v, {}};
+    case Kind::lumaro:
+        break;
+    }
+    return {XK_s, {}};
+}
+
+std::vector<std::string> Player::firstTrackOptions() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {"--sid=1"};
+    case Kind::vlc:
+        return {"--sub-track=0"};
+    case Kind::lumaro:
+        break;
+    }
+    // What it says of the track would be taken for the text.
+    return {"--set", "QVDisplayFeedback=NO"};
+}
+
+std::vector<std::string> Player::deinterlacingOptions() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {"--vf=bwdif"};
+    case Kind::vlc:
+        return {"--deinterlace=1", "--deinterlace-mode=yadif2x"};
+    case Kind::lumaro:
+        break;
+    }
+    return {}; // by itself, with bwdif
+}
+
 KeyPress Player::nextKey() const {
     switch (_kind) {
     case Kind::mpv:

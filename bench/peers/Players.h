@@ -37,12 +37,17 @@ public:
     // Ten seconds forward as the player does it by itself; exactly ten seconds.
     KeyPress jumpKey() const;
     KeyPress exactJumpKey() const;
+    // The next track of the subtitles inside the movie.
+    KeyPress nextSubtitlesKey() const;
     // The next movie of the list.
     KeyPress nextKey() const;
 
     // With these options it shows the time over the picture as long as it plays; shows the subtitles that stand beside
     // the movie.
     std::vector<std::string> timeDisplayOptions() const;
+    // With these the first track inside a movie is shown from the beginning; fields become pictures of their own.
+    std::vector<std::string> firstTrackOptions() const;
+    std::vector<std::string> deinterlacingOptions() const;
     std::vector<std::string> subtitleOptions(const std::filesystem::path& movie) const;
 
 private:

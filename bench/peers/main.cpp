@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Lumaro beside other players and prints a table:
 //   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag,
-//                                         long,large]
+//                                         long,large,switch,interlaced]
 // Progress and every sample go to standard error.
 #include "bench/peers/Measurements.h"
 
@@ -33,6 +33,8 @@ const std::vector<Line> lines = {
     {"the same with a track of 2,000 cues (first column: without)", "track", {"no track"}, "%.1f", {}, 5.0},
     {"start with four hours of Matroska and thirty tracks, ms", "long", {"mpv", "VLC"}, "%.0f", 1.0, {}},
     {"pictures left out of 2160p24 HEVC in ten bits, percent", "large", {"mpv", "VLC"}, "%.1f", 1.0, {}},
+    {"another subtitle track inside the movie: key to its text, ms", "switch", {"mpv", "VLC"}, "%.0f", 1.0, {}},
+    {"CPU seconds a second of 1080i50, deinterlaced", "interlaced", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"CPU seconds a second of 1080p30 H.264", "cpu", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"the X server's CPU seconds meanwhile", "server", {"mpv", "VLC"}, "%.3f", {}, {}},
     {"pictures shown a second (of 30)", "pictures", {"mpv", "VLC"}, "%.1f", {}, {}},
@@ -118,9 +120,10 @@ std::optional<Plan> planOf(const std::vector<std::string>& arguments) {
 int main(int count, char** arguments) {
     const auto plan = planOf({arguments + 1, arguments + count});
     if (!plan) {
-        std::fputs("usage: side_by_side [--quick] [--rows "
-                   "start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag,long,large]\n",
-                   stderr);
+        std::fputs(
+            "usage: side_by_side [--quick] [--rows "
+            "start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag,long,large,switch,interlaced]\n",
+            stderr);
         return 2;
     }
     try {

@@ -55,7 +55,8 @@ MediaFixture::MediaFixture(std::filesystem::path folder)
     std::filesystem::create_directories(_folder);
 }
 
-std::filesystem::path MediaFixture::make(const std::string& fileName, const std::vector<std::string>& arguments) const {
+std::filesystem::path MediaFixture::make(const std::string& fileName, const std::vector<std::string>& arguments,
+                                         Seconds timeout) const {
     std::string recipe;
     for (const std::string& argument : arguments)
         recipe += argument + '\n';
@@ -75,7 +76,7 @@ std::filesystem::path MediaFixture::make(const std::string& fileName, const std:
     options.arguments.insert(options.arguments.end(), arguments.begin(), arguments.end());
     options.arguments.insert(options.arguments.end(), {"-fflags", "+bitexact", unfinished.string()});
     ChildProcess ffmpeg(options);
-    if (ffmpeg.waitForExit(Seconds(120)) != 0)
+    if (ffmpeg.waitForExit(timeout) != 0)
         throw std::runtime_error("ffmpeg failed to make " + fileName + ": " + ffmpeg.errorOutput());
     std::filesystem::rename(unfinished, file);
     return file;

@@ -18,7 +18,9 @@ public:
 
     // The file of this name (in a folder of its own, named after what it is made of) as ffmpeg with these arguments
     // makes it. The arguments end before the output file. Throws std::runtime_error with ffmpeg's words when it fails.
-    std::filesystem::path make(const std::string& fileName, const std::vector<std::string>& arguments) const;
+    // It may take so long, on a machine that has other work; big movies take more. What was made is kept.
+    std::filesystem::path make(const std::string& fileName, const std::vector<std::string>& arguments,
+                               Seconds timeout = Seconds(120)) const;
 
     // A movie that tells its place: each frame carries its number as a row of black and white blocks across the middle
     // third of the picture; above and below is one colour.
