@@ -60,6 +60,8 @@ void MovieBatch::add(const QList<MovieSource>& sources) {
             _waitsForFirst = false;
             if (!_undelivered.empty())
                 deliver();
+            // Those behind the first part come as if the address had answered.
+            scheduleDelivery();
         });
     }
     scheduleDelivery();
