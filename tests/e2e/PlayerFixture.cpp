@@ -125,6 +125,15 @@ testing::AssertionResult PlayerFixture::opensWindow(KeySym key, const std::vecto
                        : testing::AssertionFailure() << "it has not the keyboard" << endOfLog(*player);
 }
 
+WindowId PlayerFixture::nextPanel(WindowId before) {
+    WindowId panel = 0;
+    const bool isThere = waitUntil([&] {
+        panel = probe.windowAt(screenWidth / 2, screenHeight / 2);
+        return panel != before && panel != probe.windowAt(1, screenHeight - 2) && panel == probe.focusedWindow();
+    });
+    return isThere ? panel : 0;
+}
+
 bool PlayerFixture::tapUntil(KeySym key, const std::function<bool()>& condition) {
     bool became = false;
     waitUntil([&] {

@@ -55,6 +55,9 @@ protected:
     std::size_t keysHeard() const { return timesLogged("Char:"); }
     // Presses a key after which a window of the player's own stands over the middle of the screen, with the keyboard.
     testing::AssertionResult opensWindow(harness::KeySym key, const std::vector<harness::KeySym>& modifiers);
+    // The panel over the middle of the screen once there is one, other than `before`, that has the keyboard. 0 for
+    // none.
+    harness::WindowId nextPanel(harness::WindowId before = 0);
     // Presses the key again and again until the condition holds: for panels, whose appearing cannot be seen from
     // outside.
     bool tapUntil(harness::KeySym key, const std::function<bool()>& condition);

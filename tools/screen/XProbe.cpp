@@ -237,6 +237,13 @@ WindowId XProbe::windowAt(int x, int y) {
     return child;
 }
 
+WindowId XProbe::focusedWindow() {
+    ::Window focused = 0;
+    int revertTo = 0;
+    XGetInputFocus(_display, &focused, &revertTo);
+    return focused == PointerRoot ? 0 : focused;
+}
+
 bool XProbe::hasVisibleWindow() {
     ::Window root, parent, *children = nullptr;
     unsigned count = 0;

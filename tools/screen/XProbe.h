@@ -84,6 +84,8 @@ public:
 
     // The top window that covers the point, or 0; whether any mapped top-level window is there at all.
     WindowId windowAt(int x, int y);
+    // The window that has the keyboard, or 0.
+    WindowId focusedWindow();
     bool hasVisibleWindow();
 
 private:
