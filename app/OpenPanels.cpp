@@ -5,7 +5,10 @@
 #include "app/OpeningFiles.h"
 #include "control/ModifierFlags.h"
 #include "platform/base/AddressText.h"
+#include "platform/base/Background.h"
 #include "platform/base/Localization.h"
+#include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "playlist/OpeningReport.h"
@@ -26,6 +29,19 @@ constexpr const char* className = "QVAppController";
 
 QString localized(const char* key) {
     return platform::localizedString(QString::fromUtf8(key));
+}
+
+/// A disk answers within it, or it hangs; seconds.
+constexpr double lookTimeout = 0.3;
+
+enum class Folder { there, absent, hanging };
+
+Folder folderAt(const QString& path) {
+    const auto isThere = platform::background::runFor<bool>(lookTimeout, [path] {
+        const auto facts = platform::factsOfFile(platform::bytesOfPath(path));
+        return facts && facts->isFolder;
+    });
+    return !isThere ? Folder::hanging : *isThere ? Folder::there : Folder::absent;
 }
 
 QStringList extensionsOf(const QStringList& types) {
@@ -71,15 +87,18 @@ QString OpenPanels::folder() const {
     QString last = _environment.settings.stringForKey(kNSNavLastRootDirectory);
     if (last.startsWith(QLatin1Char('~')))
         last.replace(0, 1, QDir::homePath());
-    if (!_folder.isEmpty() && QFileInfo(_folder).isDir())
+    if (!_folder.isEmpty() && folderAt(_folder) == Folder::there)
         return _folder;
-    return !last.isEmpty() ? last : QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    // The panel would hang with its drive.
+    return !last.isEmpty() && folderAt(last) != Folder::hanging
+               ? last
+               : QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
 }
 
 /// Who asked for all files and chose of none of the types alone means to have it tried, whatever it is called.
 QStringList OpenPanels::atTheirWord(const QStringList& chosen) const {
     const auto isKnown = [this](const QString& one) {
-        return isURLString(one) || QFileInfo(one).isDir() || isFileOfType(one, _types);
+        return isURLString(one) || isFileOfType(one, _types) || folderAt(one) != Folder::absent;
     };
     if (std::ranges::any_of(chosen, isKnown))
         return chosen;

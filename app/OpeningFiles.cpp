@@ -4,7 +4,6 @@
 #include "platform/base/Bundle.h"
 #include "platform/base/PathNames.h"
 
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QVariant>
 
@@ -22,7 +21,7 @@ QStringList supportedFileTypes(const platform::Bundle& bundle) {
 }
 
 bool isFileOfType(const QString& path, const QStringList& types) {
-    return types.isEmpty() || types.contains(QFileInfo(path).suffix().toLower());
+    return types.isEmpty() || types.contains(platform::pathExtension(path).toLower());
 }
 
 QList<QUrl> urlsWithURLStrings(const QStringList& strings) {

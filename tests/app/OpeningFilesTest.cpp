@@ -17,4 +17,10 @@ TEST(OpeningFiles, texts_become_urls_where_they_are_some) {
         EXPECT_TRUE(isURLString(url)) << url;
     for (const char* path : {"/a/http://x", "c:/x.avi", "http:/x", "://x", "1a://x", "a b://c", ""})
         EXPECT_FALSE(isURLString(path)) << path;
+
+    for (const char* path : {"/a/b.mp4", "b.MP4", "/a.d/.b.mp4"})
+        EXPECT_TRUE(isFileOfType(path, {"mp4"})) << path;
+    for (const char* path : {"/a/.mp4", "b.mp4.part", "/a.mp4/b", "mp4"})
+        EXPECT_FALSE(isFileOfType(path, {"mp4"})) << path;
+    EXPECT_FALSE(isFileOfType("b.mp4", {"MP4"}));
 }

@@ -123,3 +123,16 @@ TEST_F(HangingDrive, holds_up_no_movie_that_its_subtitles_are_added_to_or_rememb
     EXPECT_TRUE(logs("Switching to subtitles stream: \"red.srt\"")) << "it was not forgotten meanwhile";
     ASSERT_TRUE(quitsCleanly());
 }
+
+TEST_F(HangingDrive, holds_up_no_panel_that_would_begin_there) {
+    hang();
+    startBeside({"--set", "NSNavLastRootDirectory=" + films.string(), redMovie});
+    ASSERT_TRUE(colorBecomes(red));
+    probe.tap(XK_o, {XK_Control_L});
+    const WindowId panel = nextPanel();
+    ASSERT_TRUE(panel);
+    EXPECT_TRUE(plays());
+    probe.tap(XK_Escape);
+    ASSERT_TRUE(waitUntil([&] { return probe.windowAt(screenWidth / 2, screenHeight / 2) != panel; }));
+    ASSERT_TRUE(quitsCleanly());
+}
