@@ -16,6 +16,7 @@ constexpr double widestText = 320;
 constexpr float fontSize = 16;
 constexpr double gap = 4;
 constexpr double cornerRadius = 10;
+constexpr float leastOpacity = 0.92F;
 /// Between the panel and the bar.
 constexpr double distance = 6;
 
@@ -27,9 +28,16 @@ PlacePreview::PlacePreview(const Environment& environment, platform::Window& par
     overlayContentView().addSubview(_text);
     overlayContentView().setRadius(static_cast<float>(cornerRadius));
     const OverlayStyle values = styleValues();
+    PlacePreview::setBackgroundColor(backgroundColor());
     _text.setTextColor(values.textColor.value_or(QColor(Qt::white)));
     _text.setLongLines(platform::LongLines::shortened);
     layOutText();
+}
+
+void PlacePreview::setBackgroundColor(const QColor& color) {
+    QColor opaque = color;
+    opaque.setAlphaF(std::max(static_cast<float>(opaque.alphaF()), leastOpacity));
+    QVChildOverlay::setBackgroundColor(color.isValid() ? opaque : color);
 }
 
 void PlacePreview::layOutText() {

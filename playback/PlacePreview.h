@@ -31,6 +31,8 @@ public:
     QString text() const { return _text.text(); }
     const QImage& picture() const { return _picture.image(); }
 
+    /// Never as clear as other panels may be: it comes over subtitles, whose letters would be read among its own.
+    void setBackgroundColor(const QColor& color) override;
     QSizeF contentSize() const override;
     void contentSizeChanged() override;
     void parentSizeChanged() override;
