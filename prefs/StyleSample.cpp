@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -58,24 +59,39 @@ protected:
     float smallestShownAlpha() const override { return smallestWindowAlpha; }
 };
 
-/// Has the widget painted anew.
+/// Has the widget painted anew, at most twenty-five times a second: a slider that is dragged changes the style with
+/// each of its steps, and the movie behind comes first.
 class SampleHost final : public platform::WindowHost {
 public:
-    explicit SampleHost(QWidget& widget)
-        : _widget(widget) {}
-    void frameChanged() override { _widget.update(); }
-    void alphaChanged() override { _widget.update(); }
+    SampleHost(platform::RunLoop& loop, QWidget& widget)
+        : _loop(loop)
+        , _widget(widget) {}
+    void frameChanged() override { paintSoon(); }
+    void alphaChanged() override { paintSoon(); }
     void levelChanged() override {}
     void orderedChanged() override {}
-    void displayNeeded(const platform::Rect&) override { _widget.update(); }
-    void displayNow(const platform::Rect&) override { _widget.update(); }
+    void displayNeeded(const platform::Rect&) override { paintSoon(); }
+    void displayNow(const platform::Rect&) override { paintSoon(); }
     void makeKeyAndOrderFront() override {}
     void setPointerHidden(bool) override {}
     void showMenu(platform::Menu&) override {}
     double pixelRatio() const override { return _widget.devicePixelRatioF(); }
 
 private:
+    void paintSoon() {
+        if (std::exchange(_isDue, true))
+            return;
+        constexpr double pause = 0.04;
+        _timer = _loop.schedule(pause, false, [this] {
+            _isDue = false;
+            _widget.update();
+        });
+    }
+
+    platform::RunLoop& _loop;
     QWidget& _widget;
+    std::unique_ptr<platform::Timer> _timer;
+    bool _isDue = false;
 };
 
 } // namespace
@@ -84,7 +100,7 @@ private:
 class StyleSample::Scene {
 public:
     Scene(const Environment& environment, QWidget& widget, const QString& key)
-        : _host(widget)
+        : _host(environment.loop, widget)
         , _isWindow(key == kQVFullscreenOverlayStyle)
         , _hasBars(_isWindow || key == kQVSubtitlesOverlayStyle)
         , _root(_isWindow ? std::make_unique<SampleWindow>(environment, screenFrame)

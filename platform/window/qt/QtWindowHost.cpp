@@ -24,6 +24,7 @@
 #include <QOpenGLPaintDevice>
 #include <QPainter>
 #include <QScreen>
+#include <QTimerEvent>
 
 #include <xcb/xcb.h>
 
@@ -35,6 +36,10 @@ namespace platform {
 namespace {
 
 constexpr QEvent::Type paintEventType = static_cast<QEvent::Type>(QEvent::User + 10);
+
+/// As long after a movie's picture the next one is awaited: that of fifty in a second comes within it. Of slower movies
+/// it does not, and what fades over them is painted in between.
+constexpr qint64 awaitedMilliseconds = 25;
 
 /// A drawing made by the processor: slower than rendering without OpenGL.
 bool isSoftwareRenderer(const QByteArray& name) {
@@ -236,11 +241,12 @@ bool QtWindowHost::markDirty(const Rect& rect) {
 }
 
 void QtWindowHost::displayNeeded(const Rect& rect) {
-    if (markDirty(rect))
+    if (markDirty(rect) && !waitForPicture())
         schedulePaint();
 }
 
 void QtWindowHost::displayNow(const Rect& rect) {
+    _sincePicture.start();
     if (markDirty(rect))
         paint();
 }
@@ -269,7 +275,29 @@ void QtWindowHost::schedulePaint() {
     QCoreApplication::postEvent(this, new QEvent(paintEventType), Qt::HighEventPriority);
 }
 
+/// What changes over a movie is painted with its next picture where that comes soon: to paint it by itself costs as
+/// much, since the movie's picture below is rendered anew. False when no picture is awaited.
+bool QtWindowHost::waitForPicture() {
+    if (_pictureAwaited.isActive())
+        return true;
+    const qint64 left = _sincePicture.isValid() ? awaitedMilliseconds - _sincePicture.elapsed() : 0;
+    if (left <= 0)
+        return false;
+    _pictureAwaited.start(static_cast<int>(left), Qt::PreciseTimer, this);
+    return true;
+}
+
+void QtWindowHost::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != _pictureAwaited.timerId()) {
+        QWindow::timerEvent(event);
+        return;
+    }
+    _pictureAwaited.stop();
+    paint();
+}
+
 void QtWindowHost::paint() {
+    _pictureAwaited.stop();
     if (!isExposed() || _dirty.isEmpty())
         return;
     const QRegion dirty = std::exchange(_dirty, QRegion());

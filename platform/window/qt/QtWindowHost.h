@@ -6,6 +6,8 @@
 #include "platform/window/WindowHost.h"
 #include "platform/window/qt/HeldKeys.h"
 
+#include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPointF>
 #include <QPointer>
@@ -76,6 +78,8 @@ private:
     QSize pixelSize() const;
     bool markDirty(const Rect& rect);
     void schedulePaint();
+    bool waitForPicture();
+    void timerEvent(QTimerEvent* event) override;
     void paint();
     void paintSoftware(const QRegion& dirty);
     void paintOpenGL();
@@ -97,6 +101,8 @@ private:
     QRegion _dirty;                  // pixels
     QPointer<QScreen> _filledScreen; // null while the window fills none
     bool _paintScheduled = false;
+    QElapsedTimer _sincePicture; // of the movie; invalid before the first
+    QBasicTimer _pictureAwaited;
     bool _followingWindowSystem = false;
     bool _pointerHidden = false;
     bool _minimized = false; // by the root, not by the user
