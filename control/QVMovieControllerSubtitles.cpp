@@ -74,7 +74,8 @@ void QVMovieController::shiftSubtitles(std::int32_t milliseconds, Feedback) {
 }
 
 void QVMovieController::alignSubtitles(std::int32_t line, Feedback) {
-    _with.feedback.postFeedback(line < 0 ? _sync.firstLineIsNow() : _sync.lastLineIsNow());
+    _sync.lineIsNow(line < 0 ? SubtitleSync::Line::first : SubtitleSync::Line::last,
+                    [this](const QString& said) { _with.feedback.postFeedback(said); });
 }
 
 /// In steps of a tenth, as the user's own style: the preferences show it, and take it back.

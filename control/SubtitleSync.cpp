@@ -10,8 +10,8 @@
 
 #include <QLocale>
 
-#include <algorithm>
 #include <cmath>
+#include <utility>
 
 using platform::localizedFormat;
 using platform::localizedString;
@@ -30,8 +30,8 @@ QString shiftText(const CueShift& shift) {
     return delay + QStringLiteral(", ") + percent;
 }
 
-QString quoted(const QVSubtitle& cue) {
-    const QString text = SubtitleMarkup::read(cue.beginningOfText(SubtitleMarkup::maximumRead)).text.text;
+QString quoted(const QString& markup) {
+    const QString text = SubtitleMarkup::read(markup).text.text;
     const QString line = text.section(u'\n', 0, 0);
     return line.size() <= maximumQuoted ? line : line.left(maximumQuoted) + u'\u2026';
 }
@@ -57,30 +57,33 @@ QString SubtitleSync::reset() {
     return _subtitles.current() ? set(CueShift()) : _subtitles.currentInfoAsString();
 }
 
-QString SubtitleSync::firstLineIsNow() {
-    return alignLine(Line::first);
-}
-
-QString SubtitleSync::lastLineIsNow() {
-    return alignLine(Line::last);
-}
-
-QString SubtitleSync::alignLine(Line line) {
+void SubtitleSync::lineIsNow(Line line, std::function<void(const QString&)> said) {
     const std::shared_ptr<QVSubtitles> track = _subtitles.current();
     const std::shared_ptr<QVMovie> movie = _view.movie();
-    const auto cues = track ? track->cues() : std::vector<std::shared_ptr<QVSubtitle>>();
-    if (cues.empty() || !movie || track->isLoading())
-        return _subtitles.currentInfoAsString();
-    const auto [first, last] = std::ranges::minmax_element(cues, {}, &QVSubtitle::start);
-    const auto milliseconds = [&movie](std::int32_t time) { return time * 1000.0 / movie->timeScale(); };
-    const double now = milliseconds(movie->time()), firstCue = milliseconds((*first)->start());
-    const CueShift& shift = track->shift();
-    const auto aligned = line == Line::first ? CueShift::from(std::llround(now - firstCue * shift.speed), shift.speed)
-                                             : CueShift::through(firstCue, shift.movieTime(firstCue),
-                                                                 milliseconds((*last)->start()), now);
+    if (!track || !movie) {
+        said(_subtitles.currentInfoAsString());
+        return;
+    }
+    // Where the lines have to be looked for, the movie goes on meanwhile.
+    const double now = movie->time() * 1000.0 / movie->timeScale();
+    track->findEnds([alive = std::weak_ptr(_alive), this, now, line, track = std::weak_ptr(track),
+                     said = std::move(said)](const std::optional<platform::SubtitleEnds>& ends) {
+        const auto asked = track.lock();
+        if (alive.lock() && asked)
+            said(asked != _subtitles.current() || !ends ? _subtitles.currentInfoAsString()
+                                                        : align(*asked, line, *ends, now));
+    });
+}
+
+QString SubtitleSync::align(const QVSubtitles& track, Line line, const platform::SubtitleEnds& ends, double now) {
+    const double first = ends.first.time * 1000;
+    const CueShift& shift = track.shift();
+    const auto aligned = line == Line::first
+                             ? CueShift::from(std::llround(now - first * shift.speed), shift.speed)
+                             : CueShift::through(first, shift.movieTime(first), ends.last.time * 1000, now);
     if (!aligned)
         return localizedString(QStringLiteral("SubtitleLinesTooFar"));
     const QString said = set(*aligned);
-    const QString text = quoted(line == Line::first ? **first : **last);
+    const QString text = quoted((line == Line::first ? ends.first : ends.last).text);
     return text.isEmpty() ? said : said + u'\n' + text;
 }

@@ -22,11 +22,17 @@ std::int32_t inUnits(double seconds, std::int32_t timeScale) {
     return static_cast<std::int32_t>(std::clamp(std::round(seconds * timeScale), 0.0, largest));
 }
 
+void adopt(const CueShift& shift, TrackSelection& selection) {
+    selection.subtitleDelay = shift.delay / 1000.0;
+    selection.subtitleSpeed = shift.speed;
+}
+
 } // namespace
 
-EmbeddedSubtitles::EmbeddedSubtitles(const platform::UserDefaults& settings, platform::Movie& movie,
-                                     SubtitleOwner& owner, const MovieTrack& track)
+EmbeddedSubtitles::EmbeddedSubtitles(const platform::UserDefaults& settings, platform::MovieToolkit& toolkit,
+                                     platform::Movie& movie, SubtitleOwner& owner, const MovieTrack& track)
     : QVSubtitles(settings, pathOf(movie.url()), owner, typeInMovie, 1.0F, Loading::atOnce)
+    , _toolkit(toolkit)
     , _movie(movie)
     , _track(track) {}
 
@@ -39,7 +45,7 @@ void EmbeddedSubtitles::setShown(bool isShown) {
     selection.subtitles = isShown ? _track.id : 0;
     const bool isText = _track.content == MovieTrack::Content::text;
     selection.drawn = isText ? TrackSelection::Drawn::asText : TrackSelection::Drawn::inPicture;
-    selection.subtitleDelay = shift().delay / 1000.0;
+    adopt(shift(), selection);
     _movie.select(selection);
 }
 
@@ -47,7 +53,7 @@ void EmbeddedSubtitles::setShift(const CueShift& shift) {
     QVSubtitles::setShift(shift);
     _cue = nullptr;
     TrackSelection selection = _movie.selection();
-    selection.subtitleDelay = shift.delay / 1000.0;
+    adopt(shift, selection);
     if (_isShown)
         _movie.select(selection);
 }
@@ -61,14 +67,27 @@ std::shared_ptr<QVSubtitle> EmbeddedSubtitles::subtitleForTime(std::int32_t time
     if (!_isShown)
         return nullptr;
     if (const platform::SubtitleText& text = _movie.subtitleText(); !_cue || text != _text) {
-        const double delay = _movie.selection().subtitleDelay;
+        const auto inMovie = [this](double seconds) {
+            return inUnits(shift().movieTime(seconds * 1000) / 1000, _movie.timeScale());
+        };
         _text = text;
-        _cue = std::make_shared<QVSubtitle>(text.text, inUnits(text.start + delay, _movie.timeScale()),
-                                            inUnits(text.end + delay, _movie.timeScale()));
+        _cue = std::make_shared<QVSubtitle>(text.text, inMovie(text.start), inMovie(text.end));
     }
     // After a jump the text of the place before is still there for a moment.
     const bool isDue = !_text.text.isEmpty() && time >= _cue->start() && time <= _cue->end();
     return isDue ? _cue : nullptr;
+}
+
+void EmbeddedSubtitles::findEnds(EndsFound found) {
+    if (_ends) {
+        found(_ends);
+        return;
+    }
+    _search = _toolkit.subtitleEndsAsync(
+        _movie.url(), _track.id, [this, found = std::move(found)](const std::optional<platform::SubtitleEnds>& ends) {
+            _ends = ends;
+            found(ends);
+        });
 }
 
 QString EmbeddedSubtitles::title() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/movie/Movie.h"
+#include "platform/movie/MovieToolkit.h"
 #include "subtitles/QVSubtitles.h"
 
 /// A subtitle track inside a movie, which the player reads as it plays. It has no cues of its own: it gives the text
@@ -9,17 +10,19 @@
 /// picture. Main thread.
 class EmbeddedSubtitles final : public QVSubtitles {
 public:
-    /// The movie, in both its roles, outlives the track.
-    EmbeddedSubtitles(const platform::UserDefaults& settings, platform::Movie& movie, SubtitleOwner& owner,
-                      const platform::MovieTrack& track);
+    /// The toolkit, and the movie in both its roles, outlive the track.
+    EmbeddedSubtitles(const platform::UserDefaults& settings, platform::MovieToolkit& toolkit, platform::Movie& movie,
+                      SubtitleOwner& owner, const platform::MovieTrack& track);
 
     /// By the movie: another text is due, or none.
     void textChanged();
 
     std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time) override;
     void setShown(bool isShown) override;
-    /// The player moves the texts and pictures by the delay; it reads no faster or slower.
+    /// The player moves the texts and pictures, and stretches their times.
     void setShift(const CueShift& shift) override;
+    /// They are looked for in the file, on a thread.
+    void findEnds(EndsFound found) override;
     void setLoadingObserver(std::function<void()> observer) override { _observer = std::move(observer); }
     /// The file says it.
     void setEncoding(std::uint32_t) override {}
@@ -37,10 +40,13 @@ protected:
     const char* className() const override { return "EmbeddedSubtitles"; }
 
 private:
+    platform::MovieToolkit& _toolkit;
     platform::Movie& _movie;
     platform::MovieTrack _track;
     std::function<void()> _observer;
     bool _isShown = false;
     platform::SubtitleText _text;
     std::shared_ptr<QVSubtitle> _cue; // of that text
+    std::optional<platform::SubtitleEnds> _ends;
+    std::unique_ptr<platform::MovieOpening> _search;
 };

@@ -194,6 +194,25 @@ void QVMovie::addSubtitleFile(const QString& path) {
                       std::make_move_iterator(tracks.begin()), std::make_move_iterator(tracks.end()));
 }
 
+void QVMovie::drawFile(const QString& path, const CueShift& shift) {
+    platform::TrackSelection wanted = selection();
+    wanted.subtitles = 0;
+    wanted.subtitleFile = path;
+    wanted.drawn = platform::TrackSelection::Drawn::inPicture;
+    wanted.subtitleDelay = shift.delay / 1000.0;
+    wanted.subtitleSpeed = shift.speed;
+    if (wanted != selection())
+        select(wanted);
+}
+
+void QVMovie::endDrawing(const QString& path) {
+    platform::TrackSelection wanted = selection();
+    if (wanted.subtitleFile != path)
+        return;
+    wanted.subtitleFile.clear();
+    select(wanted);
+}
+
 std::shared_ptr<QVSubtitles> QVMovie::addSubtitles(const QString& path) {
     const auto known = std::ranges::find_if(_subtitles, [&path](const auto& track) { return track->path() == path; });
     if (known != _subtitles.end())
@@ -250,7 +269,8 @@ void QVMovie::listEmbedded() {
         if (track.kind != platform::MovieTrack::Kind::subtitles || track.isExternal)
             continue;
         if (known++ >= _embedded.size())
-            _embedded.push_back(std::make_shared<EmbeddedSubtitles>(_environment.settings, *this, *this, track));
+            _embedded.push_back(
+                std::make_shared<EmbeddedSubtitles>(_environment.settings, _services.toolkit, *this, *this, track));
     }
     _subtitles.insert(_subtitles.end(), _embedded.begin(), _embedded.end());
 }

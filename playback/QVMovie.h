@@ -98,6 +98,8 @@ public:
 
     void fetchSubtitleFiles();
     void followReadingMode() override;
+    void drawFile(const QString& path, const CueShift& shift) override;
+    void endDrawing(const QString& path) override;
     void addSubtitleFile(const QString& path);
     std::shared_ptr<QVSubtitles> addSubtitles(const QString& path) override;
     /// The files that were added by it, in their order.

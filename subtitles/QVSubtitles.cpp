@@ -157,6 +157,21 @@ void QVSubtitles::moveCursor(std::int32_t time) {
     _current = subtitles[_cursor.index()];
 }
 
+void QVSubtitles::findEnds(EndsFound found) {
+    const auto all = isLoading() ? std::vector<std::shared_ptr<QVSubtitle>>() : cues();
+    if (all.empty()) {
+        found(std::nullopt);
+        return;
+    }
+    const auto lineOf = [this](const QVSubtitle& cue) {
+        constexpr qsizetype maximumText = 4096;
+        return platform::SubtitleLine{static_cast<double>(cue.start()) / _owner.timeScale(),
+                                      cue.beginningOfText(maximumText)};
+    };
+    const auto [first, last] = std::ranges::minmax_element(all, {}, &QVSubtitle::start);
+    found(platform::SubtitleEnds{lineOf(**first), lineOf(**last)});
+}
+
 std::int32_t QVSubtitles::shifted(std::int32_t movieTime) const {
     if (_shift.isNone())
         return movieTime;

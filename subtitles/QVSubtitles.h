@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/movie/MovieTrack.h"
 #include "subtitles/CueCursor.h"
 #include "subtitles/CueList.h"
 #include "subtitles/CueShift.h"
@@ -74,6 +75,10 @@ public:
     /// comparison. In a gap the cursor stays on the later cue. Cues that stand in no order are found all the same; of
     /// several that show at once it is the one that started last.
     virtual std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t movieTime);
+    /// The first line and the last one that the file has, their times as it has them; none where there are none, or
+    /// they cannot be found, or a worker still reads. Now or later, at most once, and not when the track has gone.
+    using EndsFound = std::function<void(const std::optional<platform::SubtitleEnds>& ends)>;
+    virtual void findEnds(EndsFound found);
     /// How the track lies to the movie: a time that is looked for is moved by it first. Main thread.
     const CueShift& shift() const { return _shift; }
     virtual void setShift(const CueShift& shift) { _shift = shift; }
@@ -165,6 +170,7 @@ protected:
     /// without cues it has none.
     void replaceCues(CueList cues);
     const platform::UserDefaults& settings() const { return _settings; }
+    SubtitleOwner& owner() const { return _owner; }
 
 private:
     std::unique_lock<std::mutex> lockSubtitles() const;

@@ -8,6 +8,7 @@
 #include <vector>
 
 class QVSubtitles;
+struct CueShift;
 
 /// What a subtitle track, and the subtitles controller, ask of the movie that the track belongs to. Main thread.
 class SubtitleOwner {
@@ -31,6 +32,10 @@ public:
     virtual std::shared_ptr<QVSubtitles> addSubtitles(const QString&) { return nullptr; }
     /// The tag of the language that is spoken in the track of sound that plays; empty where it is not known.
     virtual QString audioLanguage() const { return {}; }
+    /// Has the player read a file of subtitles beside the movie and draw it into the picture, with its times moved; no
+    /// more, where it draws that one.
+    virtual void drawFile(const QString&, const CueShift&) {}
+    virtual void endDrawing(const QString&) {}
     /// Looks for its tracks again where the setting QVSubtitlesRepair, which says what is a subtitle file, changed
     /// since it did. The tracks of files that are the same by both stay.
     virtual void followReadingMode() {}

@@ -84,6 +84,10 @@ public:
     [[nodiscard]] virtual std::unique_ptr<MovieOpening>
     keyframeAsync(const QUrl& url, double seconds, const QSize& bounds, std::function<void(QImage)> completion) = 0;
 
+    /// Looks for the first line and the last one of a track of subtitles of a local file, by its number; as coverAsync.
+    [[nodiscard]] virtual std::unique_ptr<MovieOpening>
+    subtitleEndsAsync(const QUrl& url, int track, std::function<void(std::optional<SubtitleEnds>)> completion) = 0;
+
     virtual FetchFile fileFetcher() const = 0;
     virtual ReadSubtitlePackets subtitlePacketReader() const = 0;
 

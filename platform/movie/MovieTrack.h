@@ -52,6 +52,8 @@ struct TrackSelection {
     /// Seconds by which sound, and subtitles, come later than the file says; negative ones come earlier.
     double audioDelay = 0;
     double subtitleDelay = 0;
+    /// By which the times of the subtitles are multiplied, before the delay.
+    double subtitleSpeed = 1;
 
     friend bool operator==(const TrackSelection&, const TrackSelection&) = default;
 };
@@ -65,6 +67,24 @@ struct SubtitleText {
     double end = 0;
 
     friend bool operator==(const SubtitleText&, const SubtitleText&) = default;
+};
+
+/// A line of a track of subtitles, as its file has it.
+struct SubtitleLine {
+    /// Seconds of the movie.
+    double time = 0;
+    /// With the track's own markup; empty for bitmaps.
+    QString text = {};
+
+    friend bool operator==(const SubtitleLine&, const SubtitleLine&) = default;
+};
+
+/// The first line and the last one of a track.
+struct SubtitleEnds {
+    SubtitleLine first;
+    SubtitleLine last;
+
+    friend bool operator==(const SubtitleEnds&, const SubtitleEnds&) = default;
 };
 
 } // namespace platform

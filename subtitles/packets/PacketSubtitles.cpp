@@ -73,6 +73,39 @@ PacketSubtitles::subtitlesWithFilePath(const Environment& environment, const pla
     return {std::make_shared<PacketSubtitles>(environment, readPackets, path, owner, *format)};
 }
 
+void PacketSubtitles::setLoadingObserver(std::function<void()> observer) {
+    if (!observer) {
+        _worker.setObserver(nullptr);
+        return;
+    }
+    _worker.setObserver([this, observer = std::move(observer)] {
+        followDrawing();
+        observer();
+    });
+}
+
+void PacketSubtitles::setShown(bool isShown) {
+    const bool wasShown = std::exchange(_isShown, isShown);
+    if (isShown)
+        followDrawing();
+    else if (wasShown && _isOfDesign)
+        owner().endDrawing(path());
+}
+
+void PacketSubtitles::setShift(const CueShift& shift) {
+    QVSubtitles::setShift(shift);
+    followDrawing();
+}
+
+void PacketSubtitles::followDrawing() {
+    if (_isShown && _isOfDesign)
+        owner().drawFile(path(), shift());
+}
+
+std::shared_ptr<QVSubtitle> PacketSubtitles::subtitleForTime(std::int32_t movieTime) {
+    return _isShown && _isOfDesign ? nullptr : QVSubtitles::subtitleForTime(movieTime);
+}
+
 void PacketSubtitles::unload() {
     _worker.stop();
     QVSubtitles::unload();
@@ -123,6 +156,7 @@ void PacketSubtitles::load(std::uint32_t encoding, double factor) {
             _format == PacketFormat::subStation
                 ? SubStationStyles({utf8.constData(), static_cast<std::size_t>(utf8.size())})
                 : SubStationStyles();
+        _isOfDesign = styles.areOfDesign();
         isRead = _readPackets(utf8, demuxer, _worker.isAborted(), [&](const platform::SubtitlePacket& packet) {
             TimedCue cue = cueOfPacket(packet, _format, styles);
             size += cue.text.size();

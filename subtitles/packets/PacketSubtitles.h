@@ -25,7 +25,11 @@ public:
     void unload() override;
     bool isLoading() const override { return _worker.isRunning(); }
     void waitForLoading() override { _worker.wait(); }
-    void setLoadingObserver(std::function<void()> observer) override { _worker.setObserver(std::move(observer)); }
+    void setLoadingObserver(std::function<void()> observer) override;
+    /// Where the file is of its maker's design the player draws it, and no cue of it is due.
+    void setShown(bool isShown) override;
+    void setShift(const CueShift& shift) override;
+    std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t movieTime) override;
     /// Reads the file again; the texts stay as they were until that has ended, and where the file is gone.
     void setEncoding(std::uint32_t encoding) override;
     bool isTextBased() const override { return true; }
@@ -40,8 +44,12 @@ protected:
 private:
     void start(std::uint32_t encoding);
     void load(std::uint32_t encoding, double framesFactor);
+    void followDrawing();
 
     platform::ReadSubtitlePackets _readPackets;
     PacketFormat _format;
+    /// By the worker, before the cues are there.
+    std::atomic<bool> _isOfDesign = false;
+    bool _isShown = false;
     LoadingWorker _worker;
 };

@@ -38,6 +38,17 @@ int placeOf(int alignment, bool isOld) {
     return placeOf(row + column, false);
 }
 
+/// Whether a line's codes say where it stands or goes, or that it is a drawing.
+bool placesLine(std::string_view line) {
+    for (const std::string_view code : {"\\pos(", "\\move(", "\\org(", "\\clip(", "\\iclip("})
+        if (line.find(code) != std::string_view::npos)
+            return true;
+    for (std::size_t at = line.find("\\p"); at != std::string_view::npos; at = line.find("\\p", at + 1))
+        if (at + 2 < line.size() && line[at + 2] >= '1' && line[at + 2] <= '9')
+            return true;
+    return false;
+}
+
 } // namespace
 
 SubStationStyles::SubStationStyles(std::string_view file) {
@@ -51,9 +62,14 @@ SubStationStyles::SubStationStyles(std::string_view file) {
             isInStyles = words.starts_with("[V4") || words.starts_with("[v4");
             isOld = isInStyles && words.find('+') == std::string_view::npos;
         }
-        if (words.starts_with("Dialogue:") || _styles.size() >= maximumStyles)
-            break; // styles stand in front of what has them
-        if (!isInStyles)
+        if (words.starts_with("Dialogue:")) {
+            // Styles stand in front of what has them.
+            isInStyles = false;
+            _placesLines = _placesLines || placesLine(words);
+            if (areOfDesign())
+                break;
+        }
+        if (!isInStyles || _styles.size() >= maximumStyles)
             continue;
         if (const QString format = after(words, "Format:"); !format.isEmpty())
             columns = fields(format.toLower());

@@ -18,12 +18,17 @@ public:
     };
 
     SubStationStyles() = default;
-    /// Of a file in UTF-8, or of its beginning. What cannot be read is left out.
+    /// Of a file in UTF-8. What cannot be read is left out.
     explicit SubStationStyles(std::string_view file);
+
+    /// Whether who wrote the file placed, moved or painted lines, or gave them several styles: what a view of ours
+    /// cannot draw. A file of one style is a text that was converted.
+    bool areOfDesign() const { return _styles.size() > 1 || _placesLines; }
 
     /// Plain for a name that the file does not have.
     Style named(const QString& name) const { return _styles.value(name); }
 
 private:
     QHash<QString, Style> _styles;
+    bool _placesLines = false;
 };

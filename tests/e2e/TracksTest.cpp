@@ -166,13 +166,13 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
     const auto& bytes = writer.data().bytes();
     write("pair.sub", {bytes.begin(), bytes.end()});
     const std::string discs = write("discs.sup", graphics(90, 400, 180, 40));
-    const std::string script =
-        write("script.ass", "[Script Info]\nScriptType: v4.00+\nPlayResX: 384\nPlayResY: 216\n\n[V4+ Styles]\n"
-                            "Format: Name, Fontname, Fontsize, PrimaryColour, OutlineColour, BorderStyle, Outline, "
-                            "Alignment\nStyle: Default,Sans,20,&H00FFFFFF,&H00000000,1,1,2\n"
-                            "Style: Sign,Sans,20,&H0000FF00,&H0000FF00,3,8,7\n\n[Events]\n"
-                            "Format: Layer, Start, End, Style, Text\n"
-                            "Dialogue: 0,0:00:01.00,0:00:03.00,Sign,{\\pos(40,20)}A sign\n");
+    const std::string signs = "[Script Info]\nScriptType: v4.00+\nPlayResX: 384\nPlayResY: 216\n\n[V4+ Styles]\n"
+                              "Format: Name, Fontname, Fontsize, PrimaryColour, OutlineColour, BorderStyle, Outline, "
+                              "Alignment\nStyle: Default,Sans,20,&H00FFFFFF,&H00000000,1,1,2\n"
+                              "Style: Sign,Sans,20,&H0000FF00,&H0000FF00,3,8,7\n\n[Events]\n"
+                              "Format: Layer, Start, End, Style, Text\n"
+                              "Dialogue: 0,0:00:01.00,0:00:03.00,Sign,{\\pos(40,20)}A sign\n";
+    const std::string script = write("script.ass", signs);
     const struct {
         std::string file;
         Color color;
@@ -182,6 +182,7 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
         {mux("discs.mkv", {discs}, {"-c:s", "copy"}), bright,
          (screenWidth - screenHeight * 720 / 480) / 2 + 90 * screenHeight / 480},
         {mux("signs.mkv", {script}, {"-c:s", "copy"}), sign, 0},
+        {movie({{"ass", signs}}), sign, 0}, // in a file beside it
     };
     for (const char* renderer : {"", "opengl"}) {
         ::setenv("LUMARO_RENDERER", renderer, 1);

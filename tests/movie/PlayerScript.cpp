@@ -49,7 +49,10 @@ std::string textOf(const PlayerEffect& effect, const PlayerState& state) {
                                      state.tracks.subtitleFile.toStdString() +
                                      (state.tracks.drawn == TrackSelection::Drawn::inPicture ? " drawn" : "");
                           },
-                          [](const SetDelays& e) { return with("delays", e.audio) + with("", e.subtitles); },
+                          [](const SetDelays& e) {
+                              return with("delays", e.audio) + with("", e.subtitles) +
+                                     (e.subtitleSpeed == 1 ? std::string() : with(" x", e.subtitleSpeed));
+                          },
                           [](const ArmTimer& e) { return with(("arm " + nameOf(e.timer)).c_str(), e.seconds); },
                           [](const CancelTimer& e) { return "cancel " + nameOf(e.timer); },
                           [](const CancelTimers&) { return std::string("cancel all"); },

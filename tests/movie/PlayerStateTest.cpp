@@ -552,6 +552,8 @@ TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_tol
         {{.audio = 3, .subtitles = 1, .audioDelay = 0.5}, ""},
         {{.audio = 3, .subtitles = 1, .drawn = TrackSelection::Drawn::inPicture}, "subtitles 1 drawn, delays 0 0"},
         {{.subtitles = 1, .drawn = TrackSelection::Drawn::inPicture, .subtitleDelay = -2}, "audio -1, delays 0 -2"},
+        {{.subtitles = 1, .drawn = TrackSelection::Drawn::inPicture, .subtitleDelay = -2, .subtitleSpeed = 1.5},
+         "delays 0 -2 x 1.5"},
         {{}, "subtitles 0, delays 0 0"},
         {{.subtitleFile = QStringLiteral(" a.ass")}, "subtitles 0 a.ass"},
     };

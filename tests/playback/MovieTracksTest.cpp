@@ -138,6 +138,20 @@ TEST(MovieTracks, a_text_inside_is_given_while_it_is_due_and_what_has_none_is_dr
     EXPECT_EQ(movie->selection().subtitleDelay, 1);
     EXPECT_EQ(track.subtitleForTime(700), nullptr);
     EXPECT_TRUE(track.subtitleForTime(1300));
+    track.setShift({.delay = 1000, .speed = 1.5});
+    EXPECT_EQ(movie->selection().subtitleSpeed, 1.5);
+    EXPECT_EQ(track.subtitleForTime(1499), nullptr);
+    EXPECT_TRUE(track.subtitleForTime(1500) && track.subtitleForTime(2850));
+    EXPECT_EQ(track.subtitleForTime(2851), nullptr);
+    const platform::SubtitleEnds ends{{1, QStringLiteral("First")}, {100, QStringLiteral("Last")}};
+    std::vector<std::optional<platform::SubtitleEnds>> found;
+    const auto find = [&] { track.findEnds([&found](const auto& answer) { found.push_back(answer); }); };
+    find();
+    EXPECT_TRUE(found.empty()) << "they are looked for";
+    rig.toolkit.endsAsked(ends);
+    rig.toolkit.endsAsked = nullptr;
+    find();
+    EXPECT_EQ(found, (std::vector<std::optional<platform::SubtitleEnds>>{ends, ends})) << "once";
     movie->subtitles()[1]->setShown(true);
     track.setShown(false);
     EXPECT_EQ(movie->selection().subtitles, 2) << "another one was selected meanwhile";
@@ -145,4 +159,14 @@ TEST(MovieTracks, a_text_inside_is_given_while_it_is_due_and_what_has_none_is_dr
     EXPECT_EQ(movie->selection().subtitleDelay, 0) << "each track has its own";
     movie->subtitles()[1]->setShown(false);
     EXPECT_EQ(movie->selection().subtitles, 0);
+    movie->drawFile(QStringLiteral("/movies/a.ass"), {.delay = -500, .speed = 2});
+    EXPECT_EQ(movie->selection(), (TrackSelection{.audio = movie->selection().audio,
+                                                  .subtitleFile = QStringLiteral("/movies/a.ass"),
+                                                  .drawn = TrackSelection::Drawn::inPicture,
+                                                  .subtitleDelay = -0.5,
+                                                  .subtitleSpeed = 2}));
+    movie->endDrawing(QStringLiteral("/movies/other.ass"));
+    EXPECT_FALSE(movie->selection().subtitleFile.isEmpty());
+    movie->endDrawing(QStringLiteral("/movies/a.ass"));
+    EXPECT_TRUE(movie->selection().subtitleFile.isEmpty());
 }

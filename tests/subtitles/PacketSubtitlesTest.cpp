@@ -250,6 +250,37 @@ TEST_F(PacketFiles, texts_are_decoded_as_they_are_chosen_to_be) {
               (std::vector<ExpectedCue>{{1000, 2000, "\xC3\x85"}}));
 }
 
+TEST_F(PacketFiles, a_script_of_its_makers_design_is_drawn_by_the_player_with_its_times_moved) {
+    const std::string plain = script.substr(0, script.find("Style: Sign")) + script.substr(script.find("\n[Events]"));
+    const struct {
+        const char* what;
+        std::string bytes;
+        bool isDrawn;
+    } cases[] = {
+        {"one style", plain + event("0:00:01.00", "0:00:09.00", "{\\i1\\an8\\pbo5\\p0}Words"), false},
+        {"two styles", script + event("0:00:01.00", "0:00:09.00", "Words"), true},
+        {"a place",
+         plain + event("0:00:01.00", "0:00:09.00", "Words") + event("0:00:02.00", "0:00:03.00", "{\\pos(1,2)}x"), true},
+        {"a move", plain + event("0:00:01.00", "0:00:09.00", "{\\b1\\move(1,2,3,4)}Words"), true},
+        {"a drawing", plain + event("0:00:01.00", "0:00:09.00", "{\\p1}m 0 0 l 9 9{\\p0}Words"), true},
+        {"another kind", "WEBVTT\n\n00:01.000 --> 00:09.000\n{\\pos(1,2)}Words\n", false},
+    };
+    for (const auto& c : cases) {
+        const QString path = write("film.ass", c.bytes);
+        const auto track = open(path);
+        ASSERT_TRUE(track) << c.what;
+        track->preload();
+        track->setShown(true);
+        track->waitForLoading();
+        track->setShift({.delay = 500, .speed = 1});
+        EXPECT_EQ(owner.drawn, c.isDrawn ? path + " 500" : QString()) << c.what;
+        EXPECT_EQ(track->subtitleForTime(5000) == nullptr, c.isDrawn) << c.what;
+        EXPECT_GT(track->count(), 0U) << "the lines are there, to be brought in step by";
+        track->setShown(false);
+        EXPECT_EQ(owner.drawn, QString()) << c.what;
+    }
+}
+
 TEST_F(PacketFiles, a_script_that_never_ends_is_given_up_when_its_track_goes) {
     std::string text = script;
     for (int at = 0; at < 600'000; ++at)

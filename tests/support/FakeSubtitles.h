@@ -17,6 +17,15 @@ public:
     std::int32_t timeScale() const override { return scale; }
     float frameRate() override { return rate; }
     std::int32_t time() const override { return 0; }
+    /// The file that the player draws, and its delay.
+    QString drawn;
+    void drawFile(const QString& path, const CueShift& shift) override {
+        drawn = path + u' ' + QString::number(shift.delay);
+    }
+    void endDrawing(const QString& path) override {
+        if (drawn.startsWith(path))
+            drawn.clear();
+    }
 };
 
 /// What a track needs around it.

@@ -139,6 +139,14 @@ public:
     std::vector<AskedKeyframe> keyframes;
     std::unique_ptr<platform::MovieOpening> keyframeAsync(const QUrl& url, double seconds, const QSize& bounds,
                                                           std::function<void(QImage)> completion) override;
+    /// What subtitleEndsAsync answers when `endsAsked` is called.
+    std::function<void(std::optional<platform::SubtitleEnds>)> endsAsked;
+    std::unique_ptr<platform::MovieOpening>
+    subtitleEndsAsync(const QUrl&, int,
+                      std::function<void(std::optional<platform::SubtitleEnds>)> completion) override {
+        endsAsked = std::move(completion);
+        return nullptr;
+    }
     /// What fetching an address gives; others are not found. Read by other threads.
     QHash<QUrl, platform::FetchedFile> fetched;
     platform::FetchFile fileFetcher() const override {

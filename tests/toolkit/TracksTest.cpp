@@ -132,12 +132,48 @@ TEST(Tracks, the_text_that_is_due_is_told_with_its_times_wherever_the_movie_is_m
     EXPECT_TRUE(says(QStringLiteral("Later"))) << "another track, while it rests";
     movie->select({.subtitles = 2, .subtitleDelay = 2});
     EXPECT_TRUE(says(QString()));
+    // What is said at 1 to 3 s and at 5 to 7 s stands at 3.5 to 10.5 s and later now.
+    movie->select({.subtitles = 1, .subtitleSpeed = 3.5});
+    EXPECT_TRUE(says(QStringLiteral("{\\i1}Hello{\\i0} you")));
+    movie->select({.subtitles = 2, .subtitleDelay = 2});
+    EXPECT_TRUE(says(QString()));
     rig.settle();
     EXPECT_TRUE(rig.shows(165)) << "the picture stays";
     movie->select({.subtitles = 1});
     EXPECT_TRUE(says(QStringLiteral("Later")));
     rig.player().load(nullptr);
     EXPECT_EQ(movie->subtitleText().text, "");
+}
+
+TEST(Tracks, the_first_and_the_last_line_of_a_track_are_found_in_the_file) {
+    ToolkitRig rig;
+    const auto endsOf = [&](const QUrl& url, int track) {
+        std::optional<platform::SubtitleEnds> found;
+        bool isFound = false;
+        const auto search = rig.toolkit.subtitleEndsAsync(url, track, [&](auto ends) {
+            found = ends;
+            isFound = true;
+        });
+        EXPECT_TRUE(rig.waitFor([&] { return isFound; }));
+        return found;
+    };
+    // A text, and the same as a script.
+    const struct {
+        int track;
+        const char *first, *last;
+        double lastTime;
+    } cases[] = {{1, "<i>Hello</i> you", "Later", 5}, {2, "{\\i1}Hello{\\i0} you", "Later", 5}};
+    for (const auto& c : cases) {
+        const auto ends = endsOf(movieOfTracks(), c.track);
+        ASSERT_TRUE(ends) << c.track;
+        EXPECT_EQ(ends->first.text.trimmed().toStdString(), c.first);
+        EXPECT_EQ(ends->last.text.trimmed().toStdString(), c.last);
+        EXPECT_NEAR(ends->first.time, 1, 0.05);
+        EXPECT_NEAR(ends->last.time, c.lastTime, 0.05);
+    }
+    EXPECT_TRUE(endsOf(movieOfTracks(), 3));
+    EXPECT_FALSE(endsOf(movieOfTracks(), 4)) << "there is none";
+    EXPECT_FALSE(endsOf(QUrl("https://example.org/a.mkv"), 1));
 }
 
 TEST(Tracks, styled_texts_are_drawn_into_the_picture_from_the_movie_and_from_a_file_beside_it) {

@@ -408,6 +408,7 @@ void MpvPlayer::carryOut(const playerEffect::SelectSubtitles&) {
 void MpvPlayer::carryOut(const playerEffect::SetDelays& effect) {
     setNumber("audio-delay", effect.audio);
     setNumber("sub-delay", effect.subtitles);
+    setNumber("sub-speed", effect.subtitleSpeed);
 }
 
 void MpvPlayer::carryOut(const playerEffect::ArmTimer& effect) {

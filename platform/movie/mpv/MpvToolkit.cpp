@@ -9,6 +9,7 @@
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
 #include "platform/movie/mpv/SubtitleDemuxer.h"
+#include "platform/movie/mpv/SubtitleEndsProbe.h"
 #include "platform/movie/mpv/VideoPage.h"
 
 #include <clocale>
@@ -139,6 +140,17 @@ std::unique_ptr<MovieOpening> MpvToolkit::keyframeAsync(const QUrl& url, double 
             return OpenedMovie{};
         },
         [found, completion = std::move(completion)](const OpenedMovie&) { completion(*found); });
+}
+
+std::unique_ptr<MovieOpening>
+MpvToolkit::subtitleEndsAsync(const QUrl& url, int track, std::function<void(std::optional<SubtitleEnds>)> completion) {
+    const auto ends = std::make_shared<std::optional<SubtitleEnds>>();
+    return _opener.open(
+        [url, track, ends](const std::atomic<bool>& cancelled) {
+            *ends = subtitleEnds(url, track, cancelled);
+            return OpenedMovie{};
+        },
+        [ends, completion = std::move(completion)](const OpenedMovie&) { completion(*ends); });
 }
 
 std::unique_ptr<MovieOpening> MpvToolkit::blackBarsAsync(const QUrl& url, double duration,

@@ -33,6 +33,8 @@ public:
     void exit() override;
     std::unique_ptr<MovieOpening> openAsync(const QUrl& url, std::function<void(OpenedMovie)> completion) override;
     std::unique_ptr<MovieOpening> coverAsync(const QUrl& url, std::function<void(QImage)> completion) override;
+    std::unique_ptr<MovieOpening>
+    subtitleEndsAsync(const QUrl& url, int track, std::function<void(std::optional<SubtitleEnds>)> completion) override;
     std::unique_ptr<MovieOpening> blackBarsAsync(const QUrl& url, double duration,
                                                  std::function<void(PictureShape::Crop)> completion) override;
     std::unique_ptr<MovieOpening> keyframeAsync(const QUrl& url, double seconds, const QSize& bounds,

@@ -152,6 +152,7 @@ struct SelectSubtitles {};
 struct SetDelays {
     double audio;
     double subtitles;
+    double subtitleSpeed;
 };
 /// The timer fires that many seconds from now, whether it was armed or not.
 struct ArmTimer {

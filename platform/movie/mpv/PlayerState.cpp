@@ -294,10 +294,14 @@ private:
         return tracks.subtitles > 0 && tracks.subtitleFile.isEmpty();
     }
 
+    bool haveOtherTimes(const TrackSelection& told) const {
+        return told.subtitleDelay != _s.tracks.subtitleDelay || told.subtitleSpeed != _s.tracks.subtitleSpeed;
+    }
+
     void sendDelays() {
         TrackSelection& told = _s.core->tracks;
-        if (told.audioDelay != _s.tracks.audioDelay || told.subtitleDelay != _s.tracks.subtitleDelay)
-            effect(SetDelays{_s.tracks.audioDelay, _s.tracks.subtitleDelay});
+        if (told.audioDelay != _s.tracks.audioDelay || haveOtherTimes(told))
+            effect(SetDelays{_s.tracks.audioDelay, _s.tracks.subtitleDelay, _s.tracks.subtitleSpeed});
     }
 
     /// What differs from what the core was told.
@@ -310,7 +314,7 @@ private:
         if (areOthers)
             effect(SelectSubtitles{});
         sendDelays();
-        if (hasSubtitles(_s.tracks) && _s.rate == 0 && (areOthers || told.subtitleDelay != _s.tracks.subtitleDelay))
+        if (hasSubtitles(_s.tracks) && _s.rate == 0 && (areOthers || haveOtherTimes(told)))
             effect(ArmTimer{PlayerTimer::text, textDelay});
         told = _s.tracks;
     }
