@@ -67,6 +67,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     , _saving(environment, platform.desktop, _playlist)
     , _subtitleScene(environment, _window, _view)
     , _subtitles(environment, _subtitleScene)
+    , _secondSubtitles(environment, _subtitleScene, _subtitles)
     , _addedSubtitles(environment, {platform.desktop, _view, _subtitles, _feedback},
                       supportedFileTypes(platform.bundle), _subtitleReaders.subtitleUnfilteredFileTypes())
     , _heldSubtitles(environment, _subtitles)
@@ -91,9 +92,9 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
                                  _memory,          _storageTroubles,
                                  _recent,          _currentCommands,
                                  _addedSubtitles})
-    , _controller(environment,
-                  {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop, _application,
-                   _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills, platform.toolkit})
+    , _controller(environment, {_window, _window, _view, _playlist, _subtitles, _feedback, _pointer, platform.desktop,
+                                _application, _menu.playlistMenu(), _menu.subtitlesMenu(), _currentCommands, _stills,
+                                platform.toolkit, _secondSubtitles})
     , _remote(platform.desktop.remotes())
     , _remoteControl(environment, _remote, _controller)
     , _computerSleep(environment, {platform.desktop.power(), _view, _controller, _feedback}) {
@@ -104,6 +105,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     _menu.submenu("deinterlacing").setFiller([this](platform::Menu& menu) { _controller.fillDeinterlacingMenu(menu); });
     _menu.submenu("colors").setFiller([this](platform::Menu& menu) { _controller.fillColorsMenu(menu); });
     _menu.submenu("audio-tracks").setFiller([this](platform::Menu& menu) { _controller.fillAudioMenu(menu); });
+    _menu.submenu("second-subtitles").setFiller([this](platform::Menu& menu) { _controller.fillSecondMenu(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);
     _window.setDelegate(&_controller);

@@ -36,6 +36,7 @@
 #include "playback/SubtitleDiscovery.h"
 #include "playlist/QVPlaylistController.h"
 #include "subtitles/QVSubtitlesController.h"
+#include "subtitles/SecondSubtitles.h"
 #include "subtitles/SubtitleRegistry.h"
 
 /// The player's main objects, made and joined: what each needs is handed to it here. Each is made after those that it
@@ -99,6 +100,7 @@ private:
     PlaylistSaving _saving;
     SubtitlesOverMovie _subtitleScene;
     QVSubtitlesController _subtitles;
+    SecondSubtitles _secondSubtitles;
     AddedSubtitles _addedSubtitles;
     HeldSubtitles _heldSubtitles;
     SavedState _state;

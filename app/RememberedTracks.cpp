@@ -16,6 +16,7 @@ namespace {
 const QString addedKey = QStringLiteral("AddedSubtitles");
 const QString soundKey = QStringLiteral("AudioDelay"); // milliseconds
 const QString shiftsKey = QStringLiteral("SubtitleShifts");
+const QString secondKey = QStringLiteral("SecondSubtitles"); // as nameOf
 // Members of a track's shift.
 const QString delayKey = QStringLiteral("Delay"); // milliseconds
 const QString speedKey = QStringLiteral("Speed");
@@ -59,6 +60,7 @@ void keep(const QVMovie& movie, const QStringList& awaited, QVariantMap& record)
             shifts.insert(nameOf(*track), QVariantMap{{delayKey, shift.delay}, {speedKey, shift.speed}});
     }
     const auto delay = static_cast<int>(std::lround(movie.selection().audioDelay * 1000));
+    insertUnlessEmpty(secondKey, movie.secondTrack(), movie.secondTrack().isEmpty(), record);
     insertUnlessEmpty(soundKey, delay, delay == 0, record);
     insertUnlessEmpty(shiftsKey, shifts, shifts.isEmpty(), record);
 }
@@ -74,6 +76,7 @@ QStringList addedFiles(const QVariantMap& record) {
 void restore(QVMovie& movie, const QVariantMap& record) {
     if (const std::int32_t delay = propertyValue::toInteger(record.value(soundKey)); delay != 0)
         movie.setAudioDelay(delay);
+    movie.setSecondTrack(propertyValue::toString(record.value(secondKey)));
     for (const auto& track : movie.subtitles())
         restoreShift(*track, record);
 }

@@ -14,6 +14,11 @@ std::unique_ptr<ImageSubtitleView> SubtitlesOverMovie::createImageView() {
     return std::make_unique<QVImageSubView>(_environment, _window, _view);
 }
 
+std::unique_ptr<SubtitleView> SubtitlesOverMovie::createSecondTextView() {
+    return std::make_unique<QVTextSubView>(_environment, _window, _view, kQVSubtitlesOverlayStyle,
+                                           QVTextSubView::Row::top);
+}
+
 std::shared_ptr<SubtitleOwner> SubtitlesOverMovie::ownerOf(const std::shared_ptr<QVMovie>& movie) {
     return movie;
 }

@@ -20,6 +20,7 @@ public:
 
     std::unique_ptr<SubtitleView> createTextView() override;
     std::unique_ptr<ImageSubtitleView> createImageView() override;
+    std::unique_ptr<SubtitleView> createSecondTextView() override;
     std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) override;
     std::shared_ptr<SubtitleOwner> shownMovie() override;
 

@@ -35,6 +35,7 @@ class QVMovieView;
 class QVPlaylistController;
 class QVSubtitles;
 class QVSubtitlesController;
+class SecondSubtitles;
 class StillSaving;
 struct QVPlaylistMovieChangedNotification;
 
@@ -64,6 +65,7 @@ public:
         const CurrentCommands& commands;
         StillSaving& stills;
         platform::MovieToolkit& toolkit;
+        SecondSubtitles& secondSubtitles;
     };
     QVMovieController(const Environment& environment, const Collaborators& collaborators);
     QVMovieController(const QVMovieController&) = delete;
@@ -95,6 +97,7 @@ public:
     void fillDeinterlacingMenu(platform::Menu& menu);
     void fillColorsMenu(platform::Menu& menu);
     void fillAudioMenu(platform::Menu& menu);
+    void fillSecondMenu(platform::Menu& menu);
 
     void windowDidBecomeKey(platform::Window& window) override;
     void windowDidResignKey(platform::Window& window) override;
@@ -132,6 +135,9 @@ private:
     void changeMovie(std::int32_t position, Feedback feedback);
     void changeSubtitles(std::int32_t position, Feedback feedback);
     void cycleSubtitles(std::int32_t direction, Feedback feedback);
+    void changeSecond(std::int32_t position, Feedback feedback);
+    void cycleSecond(std::int32_t direction, Feedback feedback);
+    bool validateSecond(platform::MenuItem& item) const;
     void toggleRepair(std::int32_t, Feedback feedback);
     void addSubtitles(std::int32_t, Feedback feedback);
     void shiftSubtitles(std::int32_t milliseconds, Feedback feedback);

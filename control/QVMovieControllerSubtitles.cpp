@@ -13,6 +13,7 @@
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitlesController.h"
+#include "subtitles/SecondSubtitles.h"
 
 #include <algorithm>
 #include <cmath>
@@ -55,6 +56,44 @@ void QVMovieController::sayLosses() {
     const QString losses = isLoading ? QString() : _with.subtitles.lossesAsString();
     if (!losses.isEmpty())
         _with.feedback.postFeedback(_with.subtitles.currentInfoAsString() + u'\n' + losses);
+}
+
+void QVMovieController::changeSecond(std::int32_t position, Feedback) {
+    if (_with.secondSubtitles.select(position))
+        _with.feedback.postFeedback(_with.secondSubtitles.currentInfoAsString());
+    else
+        post("SecondSubtitlesRefused");
+}
+
+void QVMovieController::cycleSecond(std::int32_t direction, Feedback) {
+    _with.secondSubtitles.cycle(direction);
+    _with.feedback.postFeedback(_with.secondSubtitles.currentInfoAsString());
+}
+
+bool QVMovieController::validateSecond(MenuItem& item) const {
+    const auto tracks = _with.secondSubtitles.tracks();
+    const auto& current = _with.secondSubtitles.current();
+    if (item.tag < 0) {
+        item.state = !tracks.empty() && !current;
+        return !tracks.empty();
+    }
+    const auto position = static_cast<std::size_t>(item.tag);
+    item.state = position < tracks.size() && tracks[position] == current;
+    return position < tracks.size() && tracks[position] != _with.subtitles.shownTrack();
+}
+
+void QVMovieController::fillSecondMenu(platform::Menu& menu) {
+    menu.removeAllItems();
+    const auto tracks = _with.secondSubtitles.tracks();
+    const QString none = tracks.empty() ? QStringLiteral("None") : QStringLiteral("Off");
+    _with.commands.showKey(
+        menu.addItem(platform::localizedString(none), QString::fromLatin1(changeSecondOperation), -1),
+        "next-second-subtitles");
+    if (!tracks.empty())
+        menu.addSeparator();
+    int position = 0;
+    for (const auto& track : tracks)
+        menu.addItem(track->title(), QString::fromLatin1(changeSecondOperation), position++);
 }
 
 void QVMovieController::toggleRepair(std::int32_t, Feedback feedback) {
@@ -150,9 +189,11 @@ void QVMovieController::listSubtitles(const std::shared_ptr<QVMovie>& movie) {
         const auto latin = [](std::string_view text) {
             return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
         };
-        _with.commands.showKey(menu.addItem(platform::localizedString(latin(command.menu.title)),
-                                            latin(command.operation.name), command.argument),
-                               command.name);
+        const QString title = platform::localizedString(latin(command.menu.title));
+        if (command.menu.opens == MenuPlace::Opens::menu)
+            menu.addSubmenu(title).setFiller([this](platform::Menu& opened) { fillSecondMenu(opened); });
+        else
+            _with.commands.showKey(menu.addItem(title, latin(command.operation.name), command.argument), command.name);
         if (command.menu.separator == Separator::after)
             menu.addSeparator();
     }

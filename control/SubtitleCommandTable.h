@@ -10,6 +10,8 @@
 struct SubtitleCommandTable : CommandTerms {
     static constexpr Operation changeSubtitles{"changeSubtitles", &Self::changeSubtitles, &Self::validateSubtitles};
     static constexpr Operation cycleSubtitles{"cycleSubtitles", &Self::cycleSubtitles};
+    static constexpr Operation changeSecond{changeSecondOperation, &Self::changeSecond, &Self::validateSecond};
+    static constexpr Operation cycleSecond{"cycleSecondSubtitles", &Self::cycleSecond};
     static constexpr Operation toggleRepair{toggleRepairOperation, &Self::toggleRepair, &Self::validateRepair};
     static constexpr Operation addSubtitles{"addSubtitles", &Self::addSubtitles, &Self::validateAddSubtitles};
     static constexpr Operation shiftSubtitles{"shiftSubtitles", &Self::shiftSubtitles, &Self::validateSync};
@@ -42,7 +44,20 @@ struct SubtitleCommandTable : CommandTerms {
          .help = "Next and previous subtitles",
          .title = "Previous Subtitles"},
 
-        // Their items follow those of the tracks.
+        // Their items follow those of the tracks. Those of the menu are made when it opens; a position outside the list
+        // is for none.
+        {.name = "second-subtitles",
+         .operation = changeSecond,
+         .argument = -1,
+         .section = Section::subtitles,
+         .menu = {.title = "Second Subtitles", .opens = MenuPlace::Opens::menu}},
+        {.name = "next-second-subtitles",
+         .operation = cycleSecond,
+         .argument = 1,
+         .keys = {{{u's', option}}},
+         .section = Section::subtitles,
+         .help = "Second subtitles at the top: next track, none",
+         .title = "Next Second Subtitles"},
         {.name = "add-subtitles",
          .operation = addSubtitles,
          .keys = {{{u'e', control, consumed, KeyTaker::menu}}},

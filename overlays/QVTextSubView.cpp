@@ -23,9 +23,10 @@ QString twoDigits(double value) {
 } // namespace
 
 QVTextSubView::QVTextSubView(const Environment& environment, platform::Window& parent, const PictureGeometry& picture,
-                             const QString& style)
+                             const QString& style, Row row)
     : QVTextOverlay(environment, parent, style)
-    , _picture(picture) {
+    , _picture(picture)
+    , _row(row) {
     recalculateFontSize();
 }
 
@@ -39,8 +40,10 @@ SubtitleMarkup::Cue QVTextSubView::drawn() const {
 }
 
 void QVTextSubView::draw(const SubtitleMarkup::Cue& cue) {
-    const bool moves = cue.place != _place;
-    _place = cue.place;
+    const std::optional<SubtitlePlacement::Place> place =
+        _row == Row::top ? SubtitlePlacement::Place{SubtitlePlacement::Place::Row::top} : cue.place;
+    const bool moves = place != _place;
+    _place = place;
     setLineSide(_place ? _place->side : platform::LineSide::middle);
     setText(cue.text);
     if (moves)

@@ -12,8 +12,10 @@ class PictureGeometry;
 class QVTextSubView final : public QVTextOverlay, public SubtitleView {
 public:
     /// Hidden and without a cue. The picture outlives the view.
+    /// Where its cues stand: as the style and they themselves say, or at the top of the picture.
+    enum class Row { asStyled, top };
     QVTextSubView(const Environment& environment, platform::Window& parent, const PictureGeometry& picture,
-                  const QString& style = kQVSubtitlesOverlayStyle);
+                  const QString& style = kQVSubtitlesOverlayStyle, Row row = Row::asStyled);
 
     void setSubtitle(const std::shared_ptr<QVSubtitle>& subtitle) override;
     /// Only what there is to show: without a text the panel would stand empty.
@@ -38,5 +40,6 @@ private:
 
     std::shared_ptr<QVSubtitle> _subtitle;
     const PictureGeometry& _picture;
+    Row _row;
     std::optional<SubtitlePlacement::Place> _place; // that the cue asks for
 };

@@ -63,6 +63,37 @@ void EmbeddedSubtitles::textChanged() {
         _observer();
 }
 
+void EmbeddedSubtitles::setSecond(bool isSecond, std::function<void()> changed) {
+    TrackSelection selection = _movie.selection();
+    _cue = nullptr;
+    _secondChanged = std::move(changed);
+    if (isSecond) {
+        selection.secondSubtitles = _track.id;
+        const bool isAlone = selection.subtitles == 0 && selection.subtitleFile.isEmpty();
+        if (isAlone)
+            adopt(shift(), selection);
+    } else if (selection.secondSubtitles == _track.id) {
+        selection.secondSubtitles = 0;
+    }
+    _movie.select(selection);
+}
+
+void EmbeddedSubtitles::secondTextChanged() {
+    if (_secondChanged)
+        _secondChanged();
+}
+
+std::shared_ptr<QVSubtitle> EmbeddedSubtitles::secondCueForTime(std::int32_t) {
+    if (!_secondChanged)
+        return nullptr;
+    if (const platform::SubtitleText& text = _movie.secondSubtitleText(); !_cue || text != _text) {
+        _text = text;
+        _cue = std::make_shared<QVSubtitle>(text.text, inUnits(text.start, _movie.timeScale()),
+                                            inUnits(text.end, _movie.timeScale()));
+    }
+    return _text.text.isEmpty() ? nullptr : _cue;
+}
+
 std::shared_ptr<QVSubtitle> EmbeddedSubtitles::subtitleForTime(std::int32_t time) {
     if (!_isShown)
         return nullptr;

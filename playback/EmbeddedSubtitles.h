@@ -14,13 +14,17 @@ public:
     EmbeddedSubtitles(const platform::UserDefaults& settings, platform::MovieToolkit& toolkit, platform::Movie& movie,
                       SubtitleOwner& owner, const platform::MovieTrack& track);
 
-    /// By the movie: another text is due, or none.
+    /// By the movie: another text is due, or none; of the second track.
     void textChanged();
+    void secondTextChanged();
 
     std::shared_ptr<QVSubtitle> subtitleForTime(std::int32_t time) override;
     void setShown(bool isShown) override;
     /// The player moves the texts and pictures, and stretches their times.
     void setShift(const CueShift& shift) override;
+    void setSecond(bool isSecond, std::function<void()> changed) override;
+    /// As long as the player says so, which moves it as the subtitles below.
+    std::shared_ptr<QVSubtitle> secondCueForTime(std::int32_t time) override;
     /// They are looked for in the file, on a thread.
     void findEnds(EndsFound found) override;
     void setLoadingObserver(std::function<void()> observer) override { _observer = std::move(observer); }
@@ -44,6 +48,7 @@ private:
     platform::Movie& _movie;
     platform::MovieTrack _track;
     std::function<void()> _observer;
+    std::function<void()> _secondChanged; // while it is the second one
     bool _isShown = false;
     platform::SubtitleText _text;
     std::shared_ptr<QVSubtitle> _cue; // of that text

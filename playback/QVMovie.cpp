@@ -286,6 +286,11 @@ void QVMovie::subtitleTextChanged() {
         track->textChanged();
 }
 
+void QVMovie::secondSubtitleTextChanged() {
+    for (const auto& track : _embedded)
+        track->secondTextChanged();
+}
+
 void QVMovie::setAudioTrack(int id) {
     _chosenAudio = id;
     selectAudio();

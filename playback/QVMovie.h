@@ -100,6 +100,8 @@ public:
     void followReadingMode() override;
     void drawFile(const QString& path, const CueShift& shift) override;
     void endDrawing(const QString& path) override;
+    void setSecondTrack(const QString& name) override { _secondTrack = name; }
+    QString secondTrack() const override { return _secondTrack; }
     void addSubtitleFile(const QString& path);
     std::shared_ptr<QVSubtitles> addSubtitles(const QString& path) override;
     /// The files that were added by it, in their order.
@@ -114,6 +116,7 @@ public:
 protected:
     void tracksChanged() override;
     void subtitleTextChanged() override;
+    void secondSubtitleTextChanged() override;
 
 private:
     void listEmbedded();
@@ -134,6 +137,7 @@ private:
     /// Those of files first, then those inside the movie.
     std::vector<std::shared_ptr<QVSubtitles>> _subtitles;
     QStringList _addedSubtitles;
+    QString _secondTrack;
     std::vector<std::shared_ptr<EmbeddedSubtitles>> _embedded;
     std::optional<int> _chosenAudio;
     /// That in which the files were looked for; none where they were not.

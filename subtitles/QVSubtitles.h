@@ -69,6 +69,13 @@ public:
     /// The track is the one that is shown, or is not any more: for those that the player reads.
     virtual void setShown(bool) {}
 
+    /// It is shown beside another track, or is not any more; `changed` is called when another line of it is due. Texts
+    /// only, and never the one that is shown by setShown().
+    virtual void setSecond(bool, std::function<void()>) {}
+    virtual std::shared_ptr<QVSubtitle> secondCueForTime(std::int32_t movieTime) {
+        return QVSubtitles::subtitleForTime(movieTime);
+    }
+
     /// Puts the cursor on the first cue; nothing without cues. Any thread.
     void reset();
     /// The cue to show at a time, or none. The search begins where the last one ended: playing forward it is a

@@ -46,6 +46,8 @@ public:
     bool isSubtitlesOn() const { return _subtitlesOn; }
 
     std::uint32_t count() const { return static_cast<std::uint32_t>(_subtitles.size()); }
+    /// The track whose cues are shown: the selected one, or without subtitles the one that its language needs.
+    std::shared_ptr<QVSubtitles> shownTrack() const { return _subtitlesOn ? _current : _forced; }
     /// The position of the current track, or all bits set for none.
     std::uint32_t index() const { return _index; }
     /// Adds the tracks of a file to the current movie, and shows the first of them; false where there is none.
@@ -69,7 +71,6 @@ private:
     void followReadingMode();
     void tracksChanged(const QVMovieTracksChangedNotification& notification);
     void followAudio();
-    std::shared_ptr<QVSubtitles> shownTrack() const { return _subtitlesOn ? _current : _forced; }
     std::shared_ptr<QVSubtitles> trackOfWantedLanguage() const;
     void followPreferredLanguages();
     void loadingWentOn();

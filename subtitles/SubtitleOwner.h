@@ -36,6 +36,10 @@ public:
     /// more, where it draws that one.
     virtual void drawFile(const QString&, const CueShift&) {}
     virtual void endDrawing(const QString&) {}
+    /// The name of the track that is to be shown beside another one, which the movie is remembered with; empty for
+    /// none.
+    virtual void setSecondTrack(const QString&) {}
+    virtual QString secondTrack() const { return {}; }
     /// Looks for its tracks again where the setting QVSubtitlesRepair, which says what is a subtitle file, changed
     /// since it did. The tracks of files that are the same by both stay.
     virtual void followReadingMode() {}

@@ -43,6 +43,8 @@ public:
     /// A new view above the main window, for texts or for images; null where there is none of the kind.
     virtual std::unique_ptr<SubtitleView> createTextView() = 0;
     virtual std::unique_ptr<ImageSubtitleView> createImageView() = 0;
+    /// One for texts at the top of the picture.
+    virtual std::unique_ptr<SubtitleView> createSecondTextView() { return nullptr; }
     /// A movie, which the notifications name only by its address, as the tracks see it; null for none.
     virtual std::shared_ptr<SubtitleOwner> ownerOf(const std::shared_ptr<QVMovie>& movie) = 0;
     /// The movie that the movie view shows, or null.

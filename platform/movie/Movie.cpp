@@ -96,6 +96,11 @@ void Movie::playerReadSubtitle(const SubtitleText& text) {
     subtitleTextChanged();
 }
 
+void Movie::playerReadSecondSubtitle(const SubtitleText& text) {
+    _secondSubtitleText = text;
+    secondSubtitleTextChanged();
+}
+
 void Movie::callWhenStopped(std::function<void()> callback) {
     _stopped = std::move(callback);
 }

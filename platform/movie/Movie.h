@@ -158,6 +158,8 @@ public:
     void select(const TrackSelection& selection);
     /// The text of the selected subtitles that is due as far as the player got, while the movie is loaded there.
     const SubtitleText& subtitleText() const { return _subtitleText; }
+    /// The same of the second subtitles; it has no markup.
+    const SubtitleText& secondSubtitleText() const { return _secondSubtitleText; }
 
     /// Takes the facts of a movie that was made of its address alone. It is not loaded in the player.
     void setInfo(MovieInfo info);
@@ -172,16 +174,19 @@ public:
     /// The player reads the file for itself: it may find more in it.
     void playerFoundTracks(MovieTracks tracks);
     void playerReadSubtitle(const SubtitleText& text);
+    void playerReadSecondSubtitle(const SubtitleText& text);
     void playerUnloaded(std::int32_t time) {
         _restingTime = time;
         _shownTime.reset();
         _subtitleText = {};
+        _secondSubtitleText = {};
     }
 
 protected:
     /// These do nothing by default.
     virtual void tracksChanged() {}
     virtual void subtitleTextChanged() {}
+    virtual void secondSubtitleTextChanged() {}
 
 private:
     MovieInfo _info;
@@ -191,6 +196,7 @@ private:
     bool _needsTimeTable;
     TrackSelection _selection;
     SubtitleText _subtitleText;
+    SubtitleText _secondSubtitleText;
     std::function<void()> _stopped;
     std::function<void()> _timePasses;
     std::int32_t _timeToPass = -1;

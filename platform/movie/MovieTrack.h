@@ -46,6 +46,8 @@ struct TrackSelection {
     int subtitles = 0;
     /// A file of subtitles beside the movie, which the player reads itself; no path for none.
     QString subtitleFile = {};
+    /// The number of another track of subtitles, whose text alone is told (Movie::secondSubtitleText); 0 for none.
+    int secondSubtitles = 0;
     /// Who draws the subtitles: whoever asks the movie for the text that is due (Movie::subtitleText), or the player,
     /// into the picture. Bitmaps have no text.
     enum class Drawn { asText, inPicture } drawn = Drawn::asText;

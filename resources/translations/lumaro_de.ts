@@ -2995,6 +2995,26 @@
         <source>forced</source>
         <translation>nur Fremdsprachiges</translation>
     </message>
+    <message id="Second Subtitles">
+        <source>Second Subtitles</source>
+        <translation>Zweite Untertitel</translation>
+    </message>
+    <message id="Next Second Subtitles">
+        <source>Next Second Subtitles</source>
+        <translation>Nächste zweite Untertitel</translation>
+    </message>
+    <message id="Second subtitles: %@">
+        <source>Second subtitles: %@</source>
+        <translation>Zweite Untertitel: %@</translation>
+    </message>
+    <message id="Second subtitles at the top: next track, none">
+        <source>Second subtitles at the top: next track, none</source>
+        <translation>Zweite Untertitel oben im Bild: nächste Spur, keine</translation>
+    </message>
+    <message id="SecondSubtitlesRefused">
+        <source>Only texts can be shown as second subtitles, and no track twice</source>
+        <translation>Als zweite Untertitel können nur Texte gezeigt werden, und keine Spur zweimal</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

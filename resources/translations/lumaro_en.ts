@@ -2995,6 +2995,26 @@
         <source>forced</source>
         <translation>forced</translation>
     </message>
+    <message id="Second Subtitles">
+        <source>Second Subtitles</source>
+        <translation>Second Subtitles</translation>
+    </message>
+    <message id="Next Second Subtitles">
+        <source>Next Second Subtitles</source>
+        <translation>Next Second Subtitles</translation>
+    </message>
+    <message id="Second subtitles: %@">
+        <source>Second subtitles: %@</source>
+        <translation>Second subtitles: %@</translation>
+    </message>
+    <message id="Second subtitles at the top: next track, none">
+        <source>Second subtitles at the top: next track, none</source>
+        <translation>Second subtitles at the top: next track, none</translation>
+    </message>
+    <message id="SecondSubtitlesRefused">
+        <source>Only texts can be shown as second subtitles, and no track twice</source>
+        <translation>Only texts can be shown as second subtitles, and no track twice</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -67,7 +67,7 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
                         "Sound as in the File shiftSound 0 (Ctrl+0)\nAudio Tracks  0");
     EXPECT_EQ(written(menu.playlistMenu()).toStdString(), "");
     EXPECT_EQ(written(menu.subtitlesMenu()).toStdString(),
-              "None changeSubtitles -1 (S)\n-\nAdd Subtitles... addSubtitles 0 [Ctrl+E]\n-\n"
+              "None changeSubtitles -1 (S)\n-\nSecond Subtitles  0\nAdd Subtitles... addSubtitles 0 [Ctrl+E]\n-\n"
               "Show Earlier shiftSubtitles -50 (Z)\nShow Later shiftSubtitles 50 (X)\n"
               "As in the File shiftSubtitles 0 (Shift+X)\nFirst Line Is Spoken Now alignSubtitles -1 (Alt+Z)\n"
               "Last Line Is Spoken Now alignSubtitles 1 (Alt+X)\n-\nLarger Text sizeSubtitles 1 (Alt++)\n"

@@ -12,6 +12,7 @@
 #include "playlist/QVPlaylistController.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitlesController.h"
+#include "subtitles/SecondSubtitles.h"
 #include "subtitles/SubtitleView.h"
 #include "tests/support/FakeSubtitles.h"
 #include "tests/support/PlaybackRig.h"
@@ -137,11 +138,13 @@ protected:
                                   {movies, view, desktop, commands, openPanel, confirmations, memory}};
     NoViews scene;
     RecordingSubtitles subtitles{settings.environment, scene};
+    SecondSubtitles secondSubtitles{settings.environment, scene, subtitles};
     platform::Menu playlistMenu, subtitlesMenu;
     CurrentCommands currentCommands{settings.environment};
     QTemporaryDir pictures;
     StillSaving stills{settings.environment, view, confirmations, [this] { return pictures.path(); }};
     QVMovieController controller{settings.environment,
                                  {window, mainWindow, view, playlist, subtitles, confirmations, pointer, desktop,
-                                  services, playlistMenu, subtitlesMenu, currentCommands, stills, toolkit}};
+                                  services, playlistMenu, subtitlesMenu, currentCommands, stills, toolkit,
+                                  secondSubtitles}};
 };

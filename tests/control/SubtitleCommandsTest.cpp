@@ -10,9 +10,9 @@ protected:
     /// What stands below the tracks.
     static std::string below() {
         QStringList titles;
-        for (const char* title :
-             {"Add Subtitles...", "-", "Show Earlier", "Show Later", "As in the File", "First Line Is Spoken Now",
-              "Last Line Is Spoken Now", "-", "Larger Text", "Smaller Text", "Higher", "Lower", "-", "Repair"})
+        for (const char* title : {"Second Subtitles", "Add Subtitles...", "-", "Show Earlier", "Show Later",
+                                  "As in the File", "First Line Is Spoken Now", "Last Line Is Spoken Now", "-",
+                                  "Larger Text", "Smaller Text", "Higher", "Lower", "-", "Repair"})
             titles << platform::localizedString(title);
         return titles.join(u'|').toStdString();
     }
@@ -143,6 +143,57 @@ TEST_F(SubtitleCommands, Subtitles_are_brought_in_step_by_steps_and_by_two_lines
     EXPECT_FALSE(CueShift::through(5, 1, 5, 2)) << "one line has no speed";
     EXPECT_FALSE(CueShift::from(0, 1e300));
     subtitles.setCurrent(nullptr);
+    platform::setLocalizationLanguages({});
+}
+
+TEST_F(SubtitleCommands, Second_subtitles_are_another_text_at_the_same_time_and_stay_with_their_movie) {
+    using namespace platform::modifier;
+    platform::setLocalizationLanguages({"en"});
+    toolkit.tracks = {{.kind = platform::MovieTrack::Kind::subtitles,
+                       .id = 1,
+                       .language = "ger",
+                       .content = platform::MovieTrack::Content::text},
+                      {.kind = platform::MovieTrack::Kind::subtitles,
+                       .id = 2,
+                       .language = "fra",
+                       .content = platform::MovieTrack::Content::bitmaps}};
+    const auto movie = open("file:///movies/a.mp4");
+    movie->addSubtitleFile("beside");
+    press(u's', option);
+    EXPECT_EQ(posted(), "Second subtitles: None") << "no movie";
+    view.setMovie(movie);
+    post(QVPlaylistMovieChangedNotification{movie});
+    subtitles.setCurrent(movie->subtitles()[0]);
+    const auto isFirst = [&] { return subtitles.shownTrack() == movie->subtitles()[0]; };
+    ASSERT_TRUE(isFirst());
+    // What is shown already, and bitmaps, are left out of the cycle and refused by the menu.
+    for (const char* said : {"Second subtitles: German", "Second subtitles: Off", "Second subtitles: German"}) {
+        press(u's', option);
+        EXPECT_EQ(posted(), said);
+    }
+    EXPECT_EQ(movie->selection().secondSubtitles, 1);
+    for (const int position : {0, 2}) {
+        perform("changeSecondSubtitles", position);
+        EXPECT_EQ(posted(), "Only texts can be shown as second subtitles, and no track twice");
+        EXPECT_EQ(secondSubtitles.current(), movie->subtitles()[1]);
+    }
+    movie->playerReadSecondSubtitle({QStringLiteral("Hallo"), 1, 2});
+    EXPECT_EQ(movie->subtitles()[1]->secondCueForTime(900)->text(), "Hallo");
+    platform::Menu menu;
+    controller.fillSecondMenu(menu);
+    EXPECT_EQ(titles(menu), "Off|-|beside|German|French");
+    EXPECT_TRUE(controller.validateMenuItem(menu.itemAt(3)) && menu.itemAt(3).state);
+    EXPECT_FALSE(controller.validateMenuItem(menu.itemAt(2)));
+    // It comes back with the movie, and goes when it becomes the first.
+    post(QVPlaylistMovieChangedNotification{open("file:///movies/b.mp4")});
+    EXPECT_FALSE(secondSubtitles.current());
+    EXPECT_EQ(movie->selection().secondSubtitles, 0);
+    post(QVPlaylistMovieChangedNotification{movie});
+    EXPECT_EQ(secondSubtitles.current(), movie->subtitles()[1]);
+    subtitles.setCurrent(movie->subtitles()[1]);
+    EXPECT_FALSE(secondSubtitles.current());
+    view.setMovie(nullptr);
+    post(QVPlaylistMovieChangedNotification{nullptr});
     platform::setLocalizationLanguages({});
 }
 

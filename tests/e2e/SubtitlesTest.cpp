@@ -104,6 +104,21 @@ TEST_F(Subtitles, markup_acts_and_is_not_shown_as_letters) {
     ASSERT_TRUE(quitsCleanly());
 }
 
+TEST_F(Subtitles, a_second_track_stands_at_the_top_at_the_same_time) {
+    const auto cueOfAll = [](const std::string& text) { return "1\n00:00:00,000 --> 00:00:09,000\n" + text + "\n\n"; };
+    startStanding(movie({{"a.srt", cueOfAll("Below")}, {"b.srt", cueOfAll("Above")}}));
+    const auto stands = [&] { return !letters({screenWidth / 4, 0, screenWidth / 2, screenHeight / 4}).empty(); };
+    ASSERT_FALSE(cue().empty());
+    EXPECT_FALSE(stands());
+    probe.tap(XK_s, {XK_Alt_L});
+    EXPECT_TRUE(logs("Set Text: Above"));
+    EXPECT_TRUE(waitUntil(stands));
+    EXPECT_FALSE(cue().empty()) << "the first one went";
+    probe.tap(XK_s, {XK_Alt_L});
+    EXPECT_TRUE(waitUntil([&] { return !stands(); }));
+    ASSERT_TRUE(quitsCleanly());
+}
+
 TEST_F(Subtitles, a_playing_movie_shows_the_cue_of_the_moment) {
     start({movie({{"srt", subRip}})});
     // A cue may come a paint after its picture. Once it stands, it stands to its end, and so does the lack of one.

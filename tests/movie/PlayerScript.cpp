@@ -49,6 +49,7 @@ std::string textOf(const PlayerEffect& effect, const PlayerState& state) {
                                      state.tracks.subtitleFile.toStdString() +
                                      (state.tracks.drawn == TrackSelection::Drawn::inPicture ? " drawn" : "");
                           },
+                          [&](const SelectSecondSubtitles&) { return with("second", state.tracks.secondSubtitles); },
                           [](const SetDelays& e) {
                               return with("delays", e.audio) + with("", e.subtitles) +
                                      (e.subtitleSpeed == 1 ? std::string() : with(" x", e.subtitleSpeed));

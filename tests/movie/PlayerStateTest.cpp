@@ -555,7 +555,8 @@ TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_tol
         {{.subtitles = 1, .drawn = TrackSelection::Drawn::inPicture, .subtitleDelay = -2, .subtitleSpeed = 1.5},
          "delays 0 -2 x 1.5"},
         {{}, "subtitles 0, delays 0 0"},
-        {{.subtitleFile = QStringLiteral(" a.ass")}, "subtitles 0 a.ass"},
+        {{.secondSubtitles = 3}, "second 3"},
+        {{.subtitleFile = QStringLiteral(" a.ass")}, "subtitles 0 a.ass, second 0"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(player(Select{c.tracks}), c.told);

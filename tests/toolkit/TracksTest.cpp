@@ -141,6 +141,16 @@ TEST(Tracks, the_text_that_is_due_is_told_with_its_times_wherever_the_movie_is_m
     EXPECT_TRUE(rig.shows(165)) << "the picture stays";
     movie->select({.subtitles = 1});
     EXPECT_TRUE(says(QStringLiteral("Later")));
+    // Two at once, of which the second one is told without its markup.
+    rig.player().seek(2 * second, platform::MoviePlayer::JumpReport::silent);
+    movie->select({.subtitles = 2, .secondSubtitles = 1});
+    EXPECT_TRUE(says(QStringLiteral("{\\i1}Hello{\\i0} you")));
+    const auto saysSecond = [&](const QString& expected) {
+        return rig.waitFor([&] { return movie->secondSubtitleText().text == expected; });
+    };
+    EXPECT_TRUE(saysSecond(QStringLiteral("Hello you"))) << movie->secondSubtitleText().text.toStdString();
+    movie->select({.subtitles = 2});
+    EXPECT_TRUE(saysSecond(QString()));
     rig.player().load(nullptr);
     EXPECT_EQ(movie->subtitleText().text, "");
 }

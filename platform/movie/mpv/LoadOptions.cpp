@@ -30,9 +30,14 @@ QByteArray subtitleOption(const TrackSelection& tracks) {
     return optionOf(tracks.subtitleFile.isEmpty() ? tracks.subtitles : 0);
 }
 
+QByteArray secondSubtitleOption(const TrackSelection& tracks) {
+    return optionOf(tracks.secondSubtitles);
+}
+
 QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks, const QByteArray& filters) {
     // Said each time: a track that was selected while a movie played is the core's option for those to come.
-    QByteArrayList options{"aid=" + audioOption(tracks), "sid=" + subtitleOption(tracks)};
+    QByteArrayList options{"aid=" + audioOption(tracks), "sid=" + subtitleOption(tracks),
+                           "secondary-sid=" + secondSubtitleOption(tracks)};
     if (start > 0)
         options << "start=" + QByteArray::number(start, 'f', 6);
     if (!isNetworkURL(movie.url))

@@ -46,6 +46,7 @@ constexpr Option options[] = {
     {"cover-art-auto", "no"},
     {"sid", "no"},
     {"sub-visibility", "no"},
+    {"secondary-sub-visibility", "no"},
     // While it draws no text the fonts of the system need not be read for it.
     {"sub-font-provider", "none"},
     {"osd-font-provider", "none"},

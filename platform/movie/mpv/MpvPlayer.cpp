@@ -63,6 +63,7 @@ void MpvPlayer::dropCore() {
     _video.setCore(nullptr);
     apply(playerEvent::CoreDropped{});
     _text.forget();
+    _secondText.forget();
     _facts.forget();
     _core.reset();
     _delivered.reset();
@@ -142,6 +143,7 @@ void MpvPlayer::load(Movie* movie) {
     if (_movie && _movie != movie)
         _movie->playerUnloaded(time());
     _text.clear();
+    _secondText.clear();
     _movie = movie;
     ++_loads;
     _sizeWhenLoaded = movie ? std::max<std::int64_t>(movie->info().fileSize, 0) : 0;
@@ -231,7 +233,7 @@ void MpvPlayer::handleEvents() {
 }
 
 void MpvPlayer::handle(const mpv_event& event) {
-    if (_text.handle(event) || _facts.handle(event))
+    if (_text.handle(event) || _secondText.handle(event) || _facts.handle(event))
         return;
     switch (event.event_id) {
     case MPV_EVENT_LOG_MESSAGE: {
@@ -381,6 +383,8 @@ void MpvPlayer::carryOut(const playerEffect::SendSteps& effect) {
 
 void MpvPlayer::prepareSubtitles() {
     const TrackSelection& tracks = _state.tracks;
+    if (_core && tracks.secondSubtitles > 0)
+        _secondText.observe(_core->handle());
     if (!_core || (tracks.subtitles <= 0 && tracks.subtitleFile.isEmpty()))
         return;
     const bool isDrawn = tracks.drawn == TrackSelection::Drawn::inPicture;
@@ -403,6 +407,12 @@ void MpvPlayer::carryOut(const playerEffect::SelectSubtitles&) {
         command({"sub-add", nativePath(QUrl::fromLocalFile(file)).constData(), "cached"});
     else
         command({"set", "sid", subtitleOption(_state.tracks).constData()});
+}
+
+void MpvPlayer::carryOut(const playerEffect::SelectSecondSubtitles&) {
+    _secondText.clear();
+    prepareSubtitles();
+    command({"set", "secondary-sid", secondSubtitleOption(_state.tracks).constData()});
 }
 
 void MpvPlayer::carryOut(const playerEffect::SetDelays& effect) {

@@ -119,6 +119,7 @@ private:
     void carryOut(const playerEffect::SetMuted& effect) { setFlag("mute", effect.muted); }
     void carryOut(const playerEffect::SelectAudio&);
     void carryOut(const playerEffect::SelectSubtitles&);
+    void carryOut(const playerEffect::SelectSecondSubtitles&);
     void carryOut(const playerEffect::SetDelays& effect);
     void carryOut(const playerEffect::ArmTimer& effect);
     void carryOut(const playerEffect::CancelTimer& effect) { timer(effect.timer).reset(); }
@@ -163,10 +164,14 @@ private:
     std::uint64_t _loads = 0;
     std::int64_t _sizeWhenLoaded = 0; // bytes of the movie's file
     Wait _wait;
-    SubtitleTextReader _text{[this](const SubtitleText& text) {
-        if (_movie)
-            _movie->playerReadSubtitle(text);
-    }};
+    SubtitleTextReader _text{SubtitleTextReader::Track::first, [this](const SubtitleText& text) {
+                                 if (_movie)
+                                     _movie->playerReadSubtitle(text);
+                             }};
+    SubtitleTextReader _secondText{SubtitleTextReader::Track::second, [this](const SubtitleText& text) {
+                                       if (_movie)
+                                           _movie->playerReadSecondSubtitle(text);
+                                   }};
     PlaybackFactsReader _facts;
     std::array<std::unique_ptr<Timer>, playerTimerCount> _timers;
 

@@ -149,6 +149,7 @@ struct SetMuted {
 // Of the selection that the state holds.
 struct SelectAudio {};
 struct SelectSubtitles {};
+struct SelectSecondSubtitles {};
 struct SetDelays {
     double audio;
     double subtitles;
@@ -176,9 +177,9 @@ using PlayerEffect =
     std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::UseMoreThreads, playerEffect::SendSeek,
                  playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetRepeated,
                  playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::SelectAudio,
-                 playerEffect::SelectSubtitles, playerEffect::SetDelays, playerEffect::ArmTimer,
-                 playerEffect::CancelTimer, playerEffect::CancelTimers, playerEffect::UseCoreFrame,
-                 playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
+                 playerEffect::SelectSubtitles, playerEffect::SelectSecondSubtitles, playerEffect::SetDelays,
+                 playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
+                 playerEffect::UseCoreFrame, playerEffect::SkipFrame, playerEffect::DropHeldFrame>;
 
 /// What the observer and the movie are told.
 namespace playerReport {

@@ -313,8 +313,13 @@ private:
                                told.drawn != _s.tracks.drawn;
         if (areOthers)
             effect(SelectSubtitles{});
+        const bool isOtherSecond = told.secondSubtitles != _s.tracks.secondSubtitles;
+        if (isOtherSecond)
+            effect(SelectSecondSubtitles{});
         sendDelays();
-        if (hasSubtitles(_s.tracks) && _s.rate == 0 && (areOthers || haveOtherTimes(told)))
+        const bool haveText = (hasSubtitles(_s.tracks) && (areOthers || haveOtherTimes(told))) ||
+                              (_s.tracks.secondSubtitles > 0 && (isOtherSecond || haveOtherTimes(told)));
+        if (haveText && _s.rate == 0)
             effect(ArmTimer{PlayerTimer::text, textDelay});
         told = _s.tracks;
     }

@@ -7,18 +7,23 @@
 
 namespace platform {
 
-namespace {
+/// What is asked of libmpv, by the numbers that the events carry: far from those of the player's own.
+struct SubtitleTextReader::Names {
+    std::uint64_t text;
+    const char* observedText;
+    const char* start;
+    const char* end;
 
-// By the numbers that their events carry, far from those of the player's own.
-constexpr std::uint64_t textProperty = 101;
-constexpr std::uint64_t startProperty = 102;
-constexpr std::uint64_t endProperty = 103;
+    std::uint64_t startNumber() const { return text + 1; }
+    std::uint64_t endNumber() const { return text + 2; }
+    bool concern(std::uint64_t number) const { return number >= text && number <= endNumber(); }
+};
 
-bool concerns(std::uint64_t property) {
-    return property >= textProperty && property <= endProperty;
+const SubtitleTextReader::Names& SubtitleTextReader::names() const {
+    static constexpr Names first{101, "sub-text", "sub-start", "sub-end"};
+    static constexpr Names second{111, "secondary-sub-text", "secondary-sub-start", "secondary-sub-end"};
+    return _track == Track::first ? first : second;
 }
-
-} // namespace
 
 void SubtitleTextReader::observe(mpv_handle* handle) {
     if (handle == _handle)
@@ -27,9 +32,9 @@ void SubtitleTextReader::observe(mpv_handle* handle) {
     _handle = handle;
     const MpvLibrary& mpv = *MpvLibrary::get();
     // The text with its markup cannot be observed. A cue of the same words has other times.
-    mpv.mpv_observe_property(_handle, textProperty, "sub-text", MPV_FORMAT_NONE);
-    mpv.mpv_observe_property(_handle, startProperty, "sub-start", MPV_FORMAT_NONE);
-    mpv.mpv_observe_property(_handle, endProperty, "sub-end", MPV_FORMAT_NONE);
+    mpv.mpv_observe_property(_handle, names().text, names().observedText, MPV_FORMAT_NONE);
+    mpv.mpv_observe_property(_handle, names().startNumber(), names().start, MPV_FORMAT_NONE);
+    mpv.mpv_observe_property(_handle, names().endNumber(), names().end, MPV_FORMAT_NONE);
 }
 
 void SubtitleTextReader::forget() {
@@ -47,7 +52,7 @@ void SubtitleTextReader::clear() {
 }
 
 bool SubtitleTextReader::handle(const mpv_event& event) {
-    if (!_handle || !concerns(event.reply_userdata))
+    if (!_handle || !names().concern(event.reply_userdata))
         return false;
     if (event.event_id == MPV_EVENT_PROPERTY_CHANGE)
         ask();
@@ -67,22 +72,24 @@ void SubtitleTextReader::ask() {
     _coming = {};
     // Answered in this order.
     const MpvLibrary& mpv = *MpvLibrary::get();
-    mpv.mpv_get_property_async(_handle, textProperty, mpv.dialect().subtitleText, MPV_FORMAT_STRING);
-    mpv.mpv_get_property_async(_handle, startProperty, "sub-start", MPV_FORMAT_DOUBLE);
-    mpv.mpv_get_property_async(_handle, endProperty, "sub-end", MPV_FORMAT_DOUBLE);
+    // Of the second one every version tells the words alone.
+    const char* const text = _track == Track::first ? mpv.dialect().subtitleText : names().observedText;
+    mpv.mpv_get_property_async(_handle, names().text, text, MPV_FORMAT_STRING);
+    mpv.mpv_get_property_async(_handle, names().startNumber(), names().start, MPV_FORMAT_DOUBLE);
+    mpv.mpv_get_property_async(_handle, names().endNumber(), names().end, MPV_FORMAT_DOUBLE);
 }
 
 void SubtitleTextReader::takeReply(const mpv_event& event) {
     // What is not there now has an error in its place.
     const auto* property = static_cast<const mpv_event_property*>(event.data);
     const void* const data = event.error >= 0 && property ? property->data : nullptr;
-    if (data && event.reply_userdata == textProperty)
+    if (data && event.reply_userdata == names().text)
         _coming.text = QString::fromUtf8(*static_cast<const char* const*>(data));
-    else if (data && event.reply_userdata == startProperty)
+    else if (data && event.reply_userdata == names().startNumber())
         _coming.start = *static_cast<const double*>(data);
     else if (data)
         _coming.end = *static_cast<const double*>(data);
-    if (event.reply_userdata != endProperty)
+    if (event.reply_userdata != names().endNumber())
         return;
     if (std::exchange(_asked, Asked::no) == Asked::again) {
         ask();

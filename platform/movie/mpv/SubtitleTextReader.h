@@ -9,13 +9,16 @@
 
 namespace platform {
 
-/// Follows the text of libmpv's selected subtitles: it hears that another one is due, and asks for that with its times.
-/// Main thread.
+/// Follows the text of one of libmpv's selected tracks of subtitles: it hears that another one is due, and asks for
+/// that with its times. Main thread.
 class SubtitleTextReader {
 public:
+    /// Which of libmpv's two tracks of subtitles.
+    enum class Track { first, second };
     /// `tell` takes each text that differs from the one before.
-    explicit SubtitleTextReader(std::function<void(const SubtitleText&)> tell)
-        : _tell(std::move(tell)) {}
+    SubtitleTextReader(Track track, std::function<void(const SubtitleText&)> tell)
+        : _track(track)
+        , _tell(std::move(tell)) {}
     SubtitleTextReader(const SubtitleTextReader&) = delete;
     SubtitleTextReader& operator=(const SubtitleTextReader&) = delete;
 
@@ -32,6 +35,10 @@ private:
     void ask();
     void takeReply(const mpv_event& event);
 
+    struct Names;
+    const Names& names() const;
+
+    Track _track;
     std::function<void(const SubtitleText&)> _tell;
     mpv_handle* _handle = nullptr;
     /// The asking that is under way, and whether something changed since.
