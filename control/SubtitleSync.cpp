@@ -30,6 +30,12 @@ QString shiftText(const CueShift& shift) {
     return delay + QStringLiteral(", ") + percent;
 }
 
+/// Whole milliseconds: a line that is spoken now has begun.
+std::int64_t begunBy(double delay) {
+    constexpr double noise = 1e-6;
+    return static_cast<std::int64_t>(std::floor(delay + noise));
+}
+
 QString quoted(const QString& markup) {
     const QString text = SubtitleMarkup::read(markup).text.text;
     const QString line = text.section(u'\n', 0, 0);
@@ -79,7 +85,7 @@ QString SubtitleSync::align(const QVSubtitles& track, Line line, const platform:
     const double first = ends.first.time * 1000;
     const CueShift& shift = track.shift();
     const auto aligned = line == Line::first
-                             ? CueShift::from(std::llround(now - first * shift.speed), shift.speed)
+                             ? CueShift::from(begunBy(now - first * shift.speed), shift.speed)
                              : CueShift::through(first, shift.movieTime(first), ends.last.time * 1000, now);
     if (!aligned)
         return localizedString(QStringLiteral("SubtitleLinesTooFar"));

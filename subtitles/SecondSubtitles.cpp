@@ -39,7 +39,9 @@ SecondSubtitles::SecondSubtitles(const Environment& environment, SubtitleScene& 
             restore();
     });
     _onSubtitles = center.observe<QVSubtitlesChangedNotification>([this](const auto&) {
-        if (_current && !canShow(_current))
+        if (!_current)
+            restore();
+        else if (!canShow(_current))
             select(-1);
     });
 }

@@ -185,6 +185,7 @@ TEST_F(SubtitleCommands, Second_subtitles_are_another_text_at_the_same_time_and_
     EXPECT_TRUE(controller.validateMenuItem(menu.itemAt(3)) && menu.itemAt(3).state);
     EXPECT_FALSE(controller.validateMenuItem(menu.itemAt(2)));
     // It comes back with the movie, and goes when it becomes the first.
+    subtitles.setSavedPath(QStringLiteral(""), 0);
     post(QVPlaylistMovieChangedNotification{open("file:///movies/b.mp4")});
     EXPECT_FALSE(secondSubtitles.current());
     EXPECT_EQ(movie->selection().secondSubtitles, 0);

@@ -13,6 +13,13 @@ namespace {
 const char* const subRip = "1\n00:00:01,000 --> 00:00:03,000\nFirst words\n\n"
                            "2\n00:00:05,000 --> 00:00:07,000\nA second cue\nof two lines\n\n";
 const char* const microDVD = "{30}{90}First words\n{150}{210}A second cue|of two lines\n";
+const char* const webVTT = "WEBVTT\n\n00:01.000 --> 00:03.000\nFirst words\n\n"
+                           "00:05.000 --> 00:07.000\nA second cue\nof two lines\n";
+const char* const subStation =
+    "[Script Info]\nScriptType: v4.00+\n\n[V4+ Styles]\nFormat: Name, Fontname, Alignment\nStyle: Default,Arial,2\n\n"
+    "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n"
+    "Dialogue: 0,0:00:01.00,0:00:03.00,Default,,0,0,0,,First words\n"
+    "Dialogue: 0,0:00:05.00,0:00:07.00,Default,,0,0,0,,A second cue\\Nof two lines\n";
 const char* const tmPlayer = "00:00:01:First words\n00:00:05:A second cue|of two lines\n";
 
 class Subtitles : public SubtitledMovie {
@@ -55,7 +62,11 @@ TEST_F(Subtitles, each_format_shows_its_cues_at_their_times_and_none_between) {
         const char* extension;
         const char* content;
         bool gaps;
-    } formats[] = {{"srt", subRip, true}, {"sub", microDVD, true}, {"txt", tmPlayer, false}};
+    } formats[] = {{"srt", subRip, true},
+                   {"sub", microDVD, true},
+                   {"txt", tmPlayer, false},
+                   {"vtt", webVTT, true},
+                   {"ass", subStation, true}};
     for (const auto& format : formats) {
         SCOPED_TRACE(format.extension);
         startStanding(movie({{format.extension, format.content}}));
@@ -102,6 +113,33 @@ TEST_F(Subtitles, markup_acts_and_is_not_shown_as_letters) {
     EXPECT_TRUE(noCue()) << "stands below";
     EXPECT_FALSE(letters({screenWidth / 4, 0, screenWidth / 2, screenHeight / 4}).empty()) << "does not stand above";
     ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Subtitles, keys_bring_the_lines_of_files_and_those_inside_in_step) {
+    const std::string beside = movie({{"srt", subRip}});
+    const std::string folder = std::filesystem::path(beside).parent_path();
+    const std::string inside = media()
+                                   .make("instep.mkv", {"-i", numbered("subtitled.mp4", red, 300), "-i",
+                                                        folder + "/film.srt", "-c", "copy", "-c:s", "srt"})
+                                   .string();
+    for (const std::string& file : {beside, inside}) {
+        SCOPED_TRACE(file);
+        startStanding(file);
+        jump(1, 2);
+        const std::vector<bool> first = cue();
+        ASSERT_FALSE(first.empty());
+        jump(1, 4);
+        EXPECT_TRUE(noCue());
+        probe.tap(XK_z, {XK_Alt_L}); // the first line is spoken now
+        EXPECT_TRUE(cueBecomes(first));
+        probe.tap(XK_x);
+        EXPECT_TRUE(noCue()) << "it is not later by a step";
+        probe.tap(XK_z);
+        EXPECT_TRUE(cueBecomes(first));
+        probe.tap(XK_x, {XK_Shift_L});
+        EXPECT_TRUE(noCue()) << "the file's own times are not back";
+        ASSERT_TRUE(quitsCleanly());
+    }
 }
 
 TEST_F(Subtitles, a_second_track_stands_at_the_top_at_the_same_time) {

@@ -288,9 +288,15 @@ void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property
                                                                                 : CoreEnd::ofMovie});
     else if (property == durationProperty && grownFile())
         apply(playerEvent::DurationGrew{*static_cast<const double*>(value.data)});
-    else if (property == decoderProperty)
-        _decodesInHardware = qstrcmp(*static_cast<const char* const*>(value.data), "no") != 0;
-    else if (property == waitProperty && *static_cast<const int*>(value.data) != 0)
+    else if (property == decoderProperty) {
+        const QString decoder = QString::fromUtf8(*static_cast<const char* const*>(value.data));
+        const bool wasInHardware = std::exchange(_decodesInHardware, decoder != QStringLiteral("no"));
+        // Also where the hardware gives up in the middle of a movie.
+        if (_decodesInHardware)
+            Log::write(QStringLiteral("MpvPlayer: The picture is decoded by hardware: %1").arg(decoder));
+        else if (wasInHardware)
+            Log::write(QStringLiteral("MpvPlayer: The picture is decoded by software"));
+    } else if (property == waitProperty && *static_cast<const int*>(value.data) != 0)
         setWait({Wait::What::more, 0});
     else if (property == waitProperty && _wait.what == Wait::What::more)
         setWait({});
