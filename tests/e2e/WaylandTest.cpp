@@ -202,6 +202,21 @@ TEST_F(Wayland, what_is_dragged_in_replaces_the_movie) {
     EXPECT_EQ(player->waitForExit(), 0);
 }
 
+TEST_F(Wayland, what_another_launch_hands_over_plays_and_comes_back_at_the_next) {
+    const std::vector<std::string> restoring = {"--set", "QVOnLaunchDefaultAction=1"};
+    startStanding({restoring[0], restoring[1], numbered("red.mp4", red, 300)});
+    LumaroProcess another(user, "wayland-test", {numbered("green.mp4", green, 1200)});
+    EXPECT_EQ(another.waitForExit(), 0);
+    ASSERT_TRUE(colorBecomes(green));
+    probe.tap(XK_Right);
+    ASSERT_TRUE(frameBecomes(1)) << "it has the keyboard still";
+    ASSERT_TRUE(quitsCleanly());
+    startOn("wayland-test", restoring);
+    EXPECT_TRUE(colorBecomes(green));
+    EXPECT_TRUE(frameBecomes(1));
+    ASSERT_TRUE(quitsCleanly());
+}
+
 TEST_F(Wayland, what_quitting_keeps_is_kept_when_the_compositor_dies) {
     startStanding({numbered("red.mp4", red, 300)});
     probe.tap(XK_Down);
