@@ -24,13 +24,8 @@ QString movie(const QString& name, const QStringList& video) {
     const QString path = QStringLiteral(LUMARO_BINARY_DIR) + u'/' + name;
     if (!QFile::exists(path)) {
         const QString unfinished = path + QStringLiteral(".part.mkv");
-        QStringList arguments{"-v",
-                              "error",
-                              "-y",
-                              "-f",
-                              "lavfi",
-                              "-i",
-                              QStringLiteral("testsrc2=s=1920x1080:r=24:d=%1,noise=alls=12:allf=t").arg(seconds)};
+        QStringList arguments{
+            "-v", "error", "-y", "-f", "lavfi", "-i", QStringLiteral("testsrc2=s=1920x1080:r=24:d=%1").arg(seconds)};
         QProcess::execute("ffmpeg", arguments + video + QStringList{unfinished});
         QFile::rename(unfinished, path);
     }

@@ -132,6 +132,16 @@ FirstFrame::~FirstFrame() {
 
 std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std::atomic<bool>& cancelled,
                                                      PictureOf wanted, double seconds) {
+    if (wanted == PictureOf::keyframe || wanted == PictureOf::storedKeyframe) {
+        // Most headers say enough to seek by, and looking into the streams takes longer than all the rest.
+        if (auto found = decode(url, cancelled, wanted, seconds, Look::header); found || cancelled)
+            return found;
+    }
+    return decode(url, cancelled, wanted, seconds, Look::streams);
+}
+
+std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std::atomic<bool>& cancelled,
+                                                     PictureOf wanted, double seconds, Look look) {
     const AvLibrary* av = AvLibrary::get();
     if (!av || !url.isLocalFile())
         return nullptr;
@@ -143,11 +153,15 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     const int opened = movie.open(url, options);
     av->av_dict_free(&options);
     // Where a file begins in time is not known before.
-    if (opened < 0 || (seconds > 0 && av->avformat_find_stream_info(movie.context(), nullptr) < 0))
+    if (opened < 0 ||
+        (seconds > 0 && look == Look::streams && av->avformat_find_stream_info(movie.context(), nullptr) < 0))
         return nullptr;
     AVFormatContext* const input = movie.context();
 
     const AVStream* video = wanted == PictureOf::cover ? coverStream(input) : firstVideoStream(input);
+    // Where the header does not describe the picture, it does not say where the file begins in time either.
+    if (look == Look::header && (!video || video->codecpar->width <= 0))
+        return nullptr;
     const AVCodec* codec = video ? av->avcodec_find_decoder(video->codecpar->codec_id) : nullptr;
     const std::unique_ptr<AVCodecContext, Freed> decoder(codec ? av->avcodec_alloc_context3(codec) : nullptr);
     if (!decoder || av->avcodec_parameters_to_context(decoder.get(), video->codecpar) < 0)

@@ -39,6 +39,10 @@ public:
     QImage image(const QSize& bounds) const;
 
 private:
+    /// What of the file is read before it is sought in.
+    enum class Look { header, streams };
+    static std::shared_ptr<const FirstFrame> decode(const QUrl& url, const std::atomic<bool>& cancelled,
+                                                    PictureOf wanted, double seconds, Look look);
     bool render(const QSize& size, int pixelFormat, void* pixels, std::size_t stride) const;
 
     AVFrame* _frame;
