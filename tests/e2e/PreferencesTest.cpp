@@ -36,6 +36,11 @@ TEST_F(Preferences, are_changed_without_a_mouse_while_the_movie_plays_on) {
     EXPECT_TRUE(stores("QVControllerVisible", "<true/>")) << "a check box";
     EXPECT_TRUE(logs("Showing movie contoller."));
     probe.tap(XK_Tab);
+    probe.tap(XK_End);
+    EXPECT_TRUE(stores("QVControllerOverPicture", "<integer>2</integer>")) << "the other bar";
+    probe.tap(XK_Home);
+    EXPECT_TRUE(stores("QVControllerOverPicture", "<integer>0</integer>"));
+    probe.tap(XK_Tab);
     probe.tap(XK_3);
     probe.tap(XK_5);
     EXPECT_TRUE(stores("QVJumpInterval", "<integer>35</integer>")) << "a number";
