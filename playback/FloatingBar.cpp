@@ -36,8 +36,8 @@ QSizeF FloatingBar::contentSize() const {
     if (!parentWindow())
         return QSizeF(0, 0);
     const double margins = adjustForBackgroundStyle(platform::Rect()).width();
-    const double room = parentWindow()->frame().width() - 2 * scaledPadding() - margins;
-    return QSizeF(std::clamp(room, 1.0, widest * scale()), ControllerBar::height * barScale());
+    const double available = parentWindow()->frame().width() - 2 * scaledPadding() - margins;
+    return QSizeF(std::clamp(available, 1.0, widest * scale()), ControllerBar::height * barScale());
 }
 
 void FloatingBar::contentSizeChanged() {

@@ -89,8 +89,8 @@ void PlacePreview::contentSizeChanged() {
     platform::Rect rect = adjustForBackgroundStyle(platform::Rect(QPointF(0, 0), contentSize()));
     if (const platform::Window* parent = parentWindow()) {
         const platform::Rect screen = parent->frame();
-        const double room = std::max(screen.width() - rect.width(), 0.0);
-        const double x = std::clamp(_place.at.x() - rect.width() / 2, 0.0, room);
+        const double rightmost = std::max(screen.width() - rect.width(), 0.0);
+        const double x = std::clamp(_place.at.x() - rect.width() / 2, 0.0, rightmost);
         rect = platform::Rect(QPointF(screen.x() + std::round(x), screen.y() + _place.at.y() + distance * scale()),
                               rect.size());
     }

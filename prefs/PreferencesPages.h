@@ -14,7 +14,7 @@ namespace PreferencesPages {
 /// as far as the place is.
 QRect frameIn(const QRect& place, const QTabWidget& pages);
 
-/// Makes room for a title bar that the program draws itself, and for the desktop's own bar, which may lie above the
+/// Leaves space for a title bar that the program draws itself, and for the desktop's own bar, which may lie above the
 /// place. Such a title bar is known once the window is shown.
 void fitDecoration(QWidget& window, const QRect& place);
 
