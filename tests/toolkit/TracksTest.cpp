@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/base/PathNames.h"
 #include "tests/toolkit/ToolkitRig.h"
 
 #include <QFile>
@@ -194,7 +195,9 @@ TEST(Tracks, styled_texts_are_drawn_into_the_picture_from_the_movie_and_from_a_f
     const auto green = [&](bool expected) { return rig.waitFor([&] { return hasGreen(rig.screen) == expected; }); };
     const TrackSelection selections[] = {
         {.subtitles = 3, .drawn = drawn},
-        {.subtitleFile = QString::fromStdString(scratch("beside, 100%.ass", script).string()), .drawn = drawn},
+        {.subtitleFile =
+             platform::pathOfBytes(QByteArray::fromStdString(scratch("beside, 100%, \xE9.ass", script).string())),
+         .drawn = drawn},
     };
     for (const TrackSelection& selection : selections) {
         movie->select(selection);

@@ -410,7 +410,7 @@ void MpvPlayer::carryOut(const playerEffect::SelectSubtitles&) {
     prepareSubtitles();
     // A file that was added before is selected again.
     if (const QString& file = _state.tracks.subtitleFile; !file.isEmpty())
-        command({"sub-add", nativePath(QUrl::fromLocalFile(file)).constData(), "cached"});
+        command({"sub-add", bytesOfPath(file).constData(), "cached"});
     else
         command({"set", "sid", subtitleOption(_state.tracks).constData()});
 }
