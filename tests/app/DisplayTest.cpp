@@ -19,7 +19,8 @@ TEST(ScreenBrightness, only_what_a_screen_can_show_is_set) {
         setBrightnessOf(desktop, screen, refused);
         EXPECT_EQ(brightnessOf(desktop, screen), 0.5F) << refused;
     }
-    EXPECT_EQ(log.lines().size(), 3);
+    ASSERT_EQ(log.lines().size(), 3);
+    EXPECT_TRUE(log.lines()[1].startsWith("Screen: ERROR: Attempt to set invalid brightness: 1.01"));
     for (const float taken : {0.0F, 0.3F, 1.0F}) {
         setBrightnessOf(desktop, screen, taken);
         EXPECT_EQ(brightnessOf(desktop, screen), taken);

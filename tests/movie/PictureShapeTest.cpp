@@ -60,6 +60,9 @@ TEST(BlackBars, are_what_all_pictures_leave_black) {
     const QImage wide = picture({0, 20, 400, 150});
     QImage specked = wide;
     specked.setPixel(100, 5, qRgb(255, 255, 255));
+    QImage lettered = wide; // a letter's edge, two pixels wide
+    lettered.setPixel(100, 5, qRgb(255, 255, 255));
+    lettered.setPixel(101, 5, qRgb(255, 255, 255));
     const struct {
         const char* what;
         std::vector<QImage> pictures;
@@ -67,6 +70,7 @@ TEST(BlackBars, are_what_all_pictures_leave_black) {
     } cases[] = {
         {"bars", {wide}, {0, 0.1, 0, 0.15}},
         {"a speck", {specked}, {0, 0.1, 0, 0.15}},
+        {"no speck any more", {lettered}, {0, 0.025, 0, 0.15}},
         {"a night scene says less than it seems", {picture({100, 60, 100, 50}), wide}, {0, 0.1, 0, 0.15}},
         {"black all over", {picture({0, 0, 0, 0}), wide, QImage()}, {0, 0.1, 0, 0.15}},
         {"at the sides", {picture({50, 0, 300, 200})}, {0.125, 0, 0.125, 0}},

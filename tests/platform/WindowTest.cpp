@@ -129,6 +129,8 @@ TEST(View, Moving_marks_the_old_and_the_new_place_and_staying_marks_nothing) {
     view.setFrame(Rect(380, 0, 40, 10));
     view.setNeedsDisplayInRect(Rect(25, 0, 5, 5)); // outside the window
     EXPECT_TRUE(host.areas.empty());
+    window.contentView().setFrame(Rect(0, 0, 200, 100));
+    EXPECT_EQ(host.areas, std::vector{Rect(0, 0, 200, 100)}) << "the content itself";
 }
 
 TEST(View, Coming_and_leaving_mark_the_place_for_redisplay) {
@@ -277,6 +279,7 @@ TEST(Window, Its_host_is_told_of_each_change_once) {
     RecordingHost host;
     RecordingDelegate delegate;
     Window window(screen);
+    EXPECT_EQ(window.alphaValue(), 1.0F);
     window.setHost(&host);
     window.setDelegate(&delegate);
     int resizes = 0;

@@ -4,6 +4,7 @@
 #include "prefs/ColorWell.h"
 #include "prefs/FloatSlider.h"
 #include "prefs/QVOverlayStyleController.h"
+#include "prefs/SampleStill.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Posts.h"
@@ -14,7 +15,9 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QWheelEvent>
 
@@ -319,6 +322,11 @@ TEST_F(OverlayStyleSection, a_reset_brings_back_the_registered_style_and_can_be_
 TEST_F(OverlayStyleSection, tells_while_it_can_be_used) {
     using Edited = QVOverlayStyleEditedNotification;
     Posts<Edited> edited(settings.notifications);
+    {
+        QVOverlayStyleController unseen(settings.environment, pictures);
+        unseen.setupWithModelForKey(kQVOSDOverlayStyle);
+    }
+    EXPECT_EQ(edited.count, 0) << "nobody has seen it";
     const auto told = [&](Edited::Page page, const char* when) {
         EXPECT_EQ(edited.count, 1) << when;
         EXPECT_TRUE(edited.last && edited.last->key == kQVFeedbackOverlayStyle && edited.last->page == page) << when;
@@ -370,6 +378,47 @@ TEST_F(OverlayStyleSection, the_sample_stands_on_the_movie_that_is_shown) {
     EXPECT_EQ(pictures.asked, 2) << "nobody sees it";
     controller.widget()->show();
     EXPECT_TRUE(has(Qt::green));
+}
+
+TEST(SampleStills, a_landscape_and_a_desktop_are_drawn_where_they_belong) {
+    const QRect place(0, 0, 400, 250);
+    using Paint = void (*)(QPainter&, const QRectF&, SampleStill);
+    const struct {
+        const char* what;
+        Paint paint;
+        QPoint at;
+        unsigned day, night;
+    } cases[] = {
+        {"the sky", paintStill, {5, 0}, 0x9CC9EE, 0x0B1026},
+        {"the sun", paintStill, {288, 70}, 0xFFFBEF, 0xE8E4CF},
+        {"its upper edge", paintStill, {288, 52}, 0xFFFBEF, 0xE8E4CF},
+        {"its left edge", paintStill, {270, 70}, 0xFFFBEF, 0xE8E4CF},
+        {"the nearest hill", paintStill, {200, 248}, 0xF2EFE3, 0x090D18},
+        {"the desktop", paintDesktop, {20, 30}, 0xB9C6D2, 0x2B3440},
+        {"above the window", paintDesktop, {100, 22}, 0xB9C6D2, 0x2B3440},
+        {"its title", paintDesktop, {45, 28}, 0x8FA3B5, 0x46525F},
+        {"as wide as the window", paintDesktop, {322, 40}, 0x8FA3B5, 0x46525F},
+        {"right of the window", paintDesktop, {330, 40}, 0xB9C6D2, 0x2B3440},
+        {"below its title", paintDesktop, {45, 50}, 0xFAFAFA, 0x1C2128},
+        {"a line of text", paintDesktop, {55, 65}, 0xD5D9DD, 0x39424D},
+        {"its end", paintDesktop, {308, 65}, 0xD5D9DD, 0x39424D},
+        {"behind it", paintDesktop, {317, 65}, 0xFAFAFA, 0x1C2128},
+        {"between lines", paintDesktop, {100, 75}, 0xFAFAFA, 0x1C2128},
+        {"the next line", paintDesktop, {100, 84}, 0xD5D9DD, 0x39424D},
+        {"the window's lower edge", paintDesktop, {45, 209}, 0xFAFAFA, 0x1C2128},
+        {"below the window", paintDesktop, {45, 216}, 0xB9C6D2, 0x2B3440},
+    };
+    for (const auto& [what, paint, at, day, night] : cases)
+        for (const auto& [still, color] : {std::pair{SampleStill::light, day}, {SampleStill::dark, night}}) {
+            QImage image(place.size(), QImage::Format_RGB32);
+            QPainter painter(&image);
+            paint(painter, place, still);
+            painter.end();
+            const QColor seen = image.pixelColor(at), wanted = QColor::fromRgb(color);
+            EXPECT_TRUE(std::abs(seen.red() - wanted.red()) <= 3 && std::abs(seen.green() - wanted.green()) <= 3 &&
+                        std::abs(seen.blue() - wanted.blue()) <= 3)
+                << what << " is " << seen.name().toStdString();
+        }
 }
 
 TEST_F(OverlayStyleSection, a_colour_counts_while_it_is_tried_and_cancelling_brings_back_the_one_before) {
@@ -428,6 +477,8 @@ TEST_F(OverlayStyleSection, each_style_shows_what_it_has_a_use_for) {
         expect(ofPanels, panels);
         expect(ofAll, true);
         expect({"fadingDelayInterval"}, stays);
+        EXPECT_EQ(dynamic_cast<QGroupBox&>(*find("backgroungColor").parentWidget()).title(),
+                  platform::localizedString(panels ? "StylePanel" : "StyleBackground"));
         EXPECT_TRUE(isEnabled("backgroungColor") || !model().values().backgroundOn);
         QStringList tags;
         auto& vertical = find<QComboBox>("alignmentVertical");

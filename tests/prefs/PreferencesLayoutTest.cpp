@@ -196,6 +196,13 @@ TEST_P(PreferencesLayout, letters_twice_as_large_fit_too) {
     expectEveryTextFits();
 }
 
+TEST_P(PreferencesLayout, what_scrolls_stands_on_the_ground_of_its_page) {
+    for (const auto* area : make().window().findChildren<QScrollArea*>()) {
+        EXPECT_FALSE(area->viewport()->autoFillBackground()) << nameOf(*area->widget());
+        EXPECT_FALSE(area->widget()->autoFillBackground()) << nameOf(*area->widget());
+    }
+}
+
 // Qt's form layout writes behind its memory where rows are hidden that it has measured before and a text wraps.
 TEST_P(PreferencesLayout, lays_no_hidden_rows_out_in_forms) {
     EXPECT_EQ(make().window().findChild<QFormLayout*>(), nullptr);

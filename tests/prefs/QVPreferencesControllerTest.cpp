@@ -216,8 +216,15 @@ TEST_F(Preferences, showing_stored_values_neither_beeps_stores_nor_posts) {
         EXPECT_EQ(env.defaults().objectForKey(value.key()), value.value()) << value.key().toStdString();
     // Each showing is a new one.
     env.defaults().setBool(true, kQVSubtitlesMarkup);
+    for (const QString& key : {kQVSubtitlesOverlayStyle, kQVVobSubOverlayStyle, kQVFeedbackOverlayStyle,
+                               kQVOSDOverlayStyle, kQVFullscreenOverlayStyle})
+        QVOverlayStyleDefaults::overlayStyleDefaultsWithKey(env.defaults(), key)->set(&OverlayStyle::maxAlpha, 0.45F);
     controller->syncWithDefaults();
     EXPECT_EQ(shownTag("_subtitlesMarkup"), 1);
+    const auto opacities = controller->window().findChildren<QLabel*>("maxAlphaValue");
+    EXPECT_EQ(opacities.size(), 5);
+    for (const auto* opacity : opacities)
+        EXPECT_EQ(opacity->text(), "45 %") << "of each style";
 }
 
 TEST_F(Preferences, values_that_no_control_offers_select_nothing_or_are_added) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The kinds of subtitle files that the movie library takes apart, read by the real one.
 #include "subtitles/packets/PacketSubtitles.h"
+#include "subtitles/packets/PacketFormat.h"
 #include "subtitles/packets/TimedCue.h"
 #include "tests/subtitles/SubtitleFiles.h"
 #include "tests/support/CapturedLog.h"
@@ -141,6 +142,13 @@ TEST_F(PacketFiles, each_kind_gives_its_cues) {
         {"a time in a text is not one of these", "film.vtt", "Be there at 10:30, she said.\n", {}},
         {"nothing", "film.vtt", "", {}},
     });
+}
+
+TEST(PacketFormats, are_looked_for_in_the_first_hundred_lines) {
+    const std::string line = "10,20,\"Words\"";
+    EXPECT_EQ(packetFormatOf(line), PacketFormat::pjs);
+    EXPECT_EQ(packetFormatOf(std::string(99, '\n') + line), PacketFormat::pjs);
+    EXPECT_EQ(packetFormatOf(std::string(100, '\n') + line), std::nullopt);
 }
 
 TEST_F(PacketFiles, a_page_of_timed_text_gives_its_cues) {
