@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/Log.h"
 
+#include "platform/base/Journal.h"
+
 #include <QByteArray>
 #include <QStringList>
 
 #include <cerrno>
-#include <cstdint>
-#include <cstdlib>
-#include <cstring>
-#include <fcntl.h>
 #include <mutex>
 #include <poll.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace platform {
 
 namespace {
 
-constexpr const char* journalSocket = "/run/systemd/journal/socket";
 // How long a reader of standard error that has fallen behind is waited for. It is waited for once.
 constexpr int timeoutMilliseconds = 200;
 
@@ -50,52 +44,6 @@ void writeToStandardError(const QByteArray& line) {
             return;
         done += written;
     }
-}
-
-/// Whether standard error is the journal already, which tells it through a variable.
-bool standardErrorIsTheJournal() {
-    const char* stream = std::getenv("JOURNAL_STREAM");
-    struct stat info {};
-    if (!stream || ::fstat(STDERR_FILENO, &info) != 0)
-        return false;
-    return QByteArray::number(static_cast<qulonglong>(info.st_dev)) + ':' +
-               QByteArray::number(static_cast<qulonglong>(info.st_ino)) ==
-           QByteArray(stream);
-}
-
-int openJournal() {
-    if (::isatty(STDERR_FILENO) || ::access(journalSocket, W_OK) != 0 || standardErrorIsTheJournal())
-        return -1;
-    return ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-}
-
-void appendField(QByteArray& datagram, const char* name, const QByteArray& value) {
-    datagram += name;
-    if (!value.contains('\n')) {
-        datagram += '=' + value + '\n';
-        return;
-    }
-    // A value of several lines is given with its length, little-endian.
-    datagram += '\n';
-    auto length = static_cast<std::uint64_t>(value.size());
-    for (int byte = 0; byte < 8; ++byte, length >>= 8U)
-        datagram += static_cast<char>(length & 0xFFU);
-    datagram += value + '\n';
-}
-
-void writeToJournal(const QByteArray& line) {
-    static const int journal = openJournal();
-    if (journal < 0)
-        return;
-    QByteArray datagram;
-    appendField(datagram, "MESSAGE", line);
-    appendField(datagram, "PRIORITY", line.startsWith("ERROR: ") ? "3" : line.startsWith("WARNING: ") ? "4" : "6");
-    appendField(datagram, "SYSLOG_IDENTIFIER", "lumaro");
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, journalSocket, sizeof(address.sun_path) - 1);
-    ::sendto(journal, datagram.constData(), static_cast<std::size_t>(datagram.size()), MSG_DONTWAIT | MSG_NOSIGNAL,
-             reinterpret_cast<const sockaddr*>(&address), sizeof(address));
 }
 
 bool isDigit(QChar character) {
@@ -138,7 +86,9 @@ void Log::write(const QString& line) {
         if (!sSink) {
             const QByteArray bytes = text.toUtf8();
             writeToStandardError(bytes);
-            writeToJournal(bytes);
+            // Never destroyed: threads may still write as the process ends.
+            static const Journal& journal = *new Journal(Journal::systemAddress);
+            journal.write(bytes);
             return;
         }
         sink = sSink;

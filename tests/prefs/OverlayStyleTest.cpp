@@ -4,7 +4,6 @@
 #include "prefs/ColorWell.h"
 #include "prefs/FloatSlider.h"
 #include "prefs/QVOverlayStyleController.h"
-#include "prefs/SampleStill.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Posts.h"
@@ -17,7 +16,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QWheelEvent>
 
@@ -380,45 +378,49 @@ TEST_F(OverlayStyleSection, the_sample_stands_on_the_movie_that_is_shown) {
     EXPECT_TRUE(has(Qt::green));
 }
 
-TEST(SampleStills, a_landscape_and_a_desktop_are_drawn_where_they_belong) {
-    const QRect place(0, 0, 400, 250);
-    using Paint = void (*)(QPainter&, const QRectF&, SampleStill);
-    const struct {
-        const char* what;
-        Paint paint;
-        QPoint at;
-        unsigned day, night;
-    } cases[] = {
-        {"the sky", paintStill, {5, 0}, 0x9CC9EE, 0x0B1026},
-        {"the sun", paintStill, {288, 70}, 0xFFFBEF, 0xE8E4CF},
-        {"its upper edge", paintStill, {288, 52}, 0xFFFBEF, 0xE8E4CF},
-        {"its left edge", paintStill, {270, 70}, 0xFFFBEF, 0xE8E4CF},
-        {"the nearest hill", paintStill, {200, 248}, 0xF2EFE3, 0x090D18},
-        {"the desktop", paintDesktop, {20, 30}, 0xB9C6D2, 0x2B3440},
-        {"above the window", paintDesktop, {100, 22}, 0xB9C6D2, 0x2B3440},
-        {"its title", paintDesktop, {45, 28}, 0x8FA3B5, 0x46525F},
-        {"as wide as the window", paintDesktop, {322, 40}, 0x8FA3B5, 0x46525F},
-        {"right of the window", paintDesktop, {330, 40}, 0xB9C6D2, 0x2B3440},
-        {"below its title", paintDesktop, {45, 50}, 0xFAFAFA, 0x1C2128},
-        {"a line of text", paintDesktop, {55, 65}, 0xD5D9DD, 0x39424D},
-        {"its end", paintDesktop, {308, 65}, 0xD5D9DD, 0x39424D},
-        {"behind it", paintDesktop, {317, 65}, 0xFAFAFA, 0x1C2128},
-        {"between lines", paintDesktop, {100, 75}, 0xFAFAFA, 0x1C2128},
-        {"the next line", paintDesktop, {100, 84}, 0xD5D9DD, 0x39424D},
-        {"the window's lower edge", paintDesktop, {45, 209}, 0xFAFAFA, 0x1C2128},
-        {"below the window", paintDesktop, {45, 216}, 0xB9C6D2, 0x2B3440},
-    };
-    for (const auto& [what, paint, at, day, night] : cases)
-        for (const auto& [still, color] : {std::pair{SampleStill::light, day}, {SampleStill::dark, night}}) {
-            QImage image(place.size(), QImage::Format_RGB32);
-            QPainter painter(&image);
-            paint(painter, place, still);
-            painter.end();
-            const QColor seen = image.pixelColor(at), wanted = QColor::fromRgb(color);
-            EXPECT_TRUE(std::abs(seen.red() - wanted.red()) <= 3 && std::abs(seen.green() - wanted.green()) <= 3 &&
-                        std::abs(seen.blue() - wanted.blue()) <= 3)
-                << what << " is " << seen.name().toStdString();
+TEST_F(OverlayStyleSection, rows_stand_below_one_another_each_with_its_label_control_and_value) {
+    controller.widget()->resize(1200, 1000);
+    controller.widget()->show();
+    const auto middle = [](const QWidget& widget) { return widget.geometry().center().y(); };
+    int rows = 0;
+    for (const auto* group : controller.widget()->findChildren<QGroupBox*>()) {
+        int bottom = 0;
+        std::set<int> lefts; // of the controls
+        for (QWidget* control : group->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (qobject_cast<QLabel*>(control))
+                continue;
+            SCOPED_TRACE(control->objectName().toStdString());
+            ++rows;
+            EXPECT_GT(control->y(), bottom) << "in their order";
+            bottom = control->geometry().bottom();
+            EXPECT_TRUE(group->rect().contains(control->geometry()));
+            const auto* label = group->findChild<QLabel*>(control->objectName() + "Label");
+            if (!label)
+                continue;
+            lefts.insert(control->x());
+            EXPECT_LT(label->geometry().right(), control->x());
+            EXPECT_NEAR(middle(*label), middle(*control), 2);
+            EXPECT_EQ(label->toolTip(), control->toolTip());
+            const auto* value = group->findChild<QLabel*>(control->objectName() + "Value");
+            if (!value)
+                continue;
+            EXPECT_GT(value->x(), control->geometry().right());
+            EXPECT_NEAR(middle(*value), middle(*control), 2);
+            EXPECT_TRUE(value->alignment() & Qt::AlignRight);
+            auto& slider = dynamic_cast<FloatSlider&>(*control);
+            for (const int place : {0, 1, slider.maximum() - 1, slider.maximum()}) {
+                slider.setValue(place);
+                EXPECT_GE(value->minimumWidth(), value->sizeHint().width()) << "nothing moves for it";
+            }
         }
+        EXPECT_LE(lefts.size(), 1U) << "in one column";
+    }
+    EXPECT_EQ(rows, 21);
+    const auto place = [&](const char* control) { return find(control).parentWidget()->geometry(); };
+    EXPECT_LT(place("textColor").bottom(), place("shadowOn").top());
+    EXPECT_LT(place("shadowOn").bottom(), place("alignmentVertical").top());
+    EXPECT_LT(place("textColor").right(), place("backgroungOn").left());
+    EXPECT_LT(place("backgroungOn").bottom(), place("minAlpha").top());
 }
 
 TEST_F(OverlayStyleSection, a_colour_counts_while_it_is_tried_and_cancelling_brings_back_the_one_before) {

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <chrono>
@@ -333,6 +334,13 @@ TEST_F(Archives, private_folders_leave_no_descriptors_open) {
     for (int i = 0; i < 4; ++i)
         EXPECT_TRUE(QFileInfo::exists(platform::PrivateFolder::make()->path()));
     EXPECT_EQ(descriptors(), before);
+    // Nor to the programs that are started: they would hold the lock.
+    const auto used = platform::PrivateFolder::make();
+    const QDir open("/proc/self/fd");
+    for (const QString& number : open.entryList(QDir::NoDotAndDotDot | QDir::AllEntries))
+        if (QFile::symLinkTarget(open.filePath(number)) == used->path()) {
+            EXPECT_EQ(::fcntl(number.toInt(), F_GETFD), FD_CLOEXEC);
+        }
 }
 
 TEST_F(Archives, a_sweep_removes_what_killed_processes_left_and_nothing_else) {

@@ -148,6 +148,17 @@ TEST_F(VobSubPacks, a_position_that_is_a_little_off_is_found_again) {
         EXPECT_FALSE(reader.readByLengths(position - 17));
         EXPECT_FALSE(reader.readByLengths(position + 14 + layout.stuffing + 17)) << "behind its packet";
     }
+    // Damaged packs of others on the way are passed over from there, too.
+    const Bytes unit = largeUnit(2);
+    vobsub::DataWriter writer;
+    const std::int64_t position = writer.append(unit, 3, 0, {.foreignPacks = 1});
+    Bytes damaged = writer.bytes();
+    for (std::size_t pack = 0; pack < damaged.size(); pack += 2048)
+        if (damaged[pack + 17] != 0xBD)
+            std::fill_n(damaged.begin() + static_cast<std::ptrdiff_t>(pack) + 14, 100, std::uint8_t{0x55});
+    ASSERT_NE(damaged, writer.bytes());
+    EXPECT_EQ(read(damaged, position), unit);
+    EXPECT_EQ(read(damaged, position + 5), unit);
 }
 
 TEST_F(VobSubPacks, the_packs_of_another_stream_between_are_left_out) {
