@@ -6,6 +6,7 @@
 #include "tests/support/TestEnvironment.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -73,6 +74,8 @@ TEST_F(Keys, are_added_by_pressing_them_and_removed_and_had_again) {
     add("Mute", Qt::Key_K, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(keys("Mute"), "M, Media Mute, Ctrl+Shift+K");
     EXPECT_EQ(message(), "Ctrl+Shift+K means “Mute” now.");
+    EXPECT_EQ(control<QListWidget>("_keysOfCommand").currentRow(), 2) << "the one just added";
+    EXPECT_GE(tree().header()->sectionSize(1), tree().fontMetrics().horizontalAdvance("M, Media Mute, Ctrl+Shift+K"));
     EXPECT_EQ(stored(), (QVariantMap{{"mute", QVariantList{"M", "Volume Mute", "Ctrl+Shift+K"}}}));
     EXPECT_TRUE(item("Mute").font(0).bold());
     add("Mute", Qt::Key_Exclam, Qt::ShiftModifier);

@@ -204,6 +204,17 @@ TEST_F(PreferencesWindow, a_control_is_found_by_its_words) {
             EXPECT_EQ(focused->objectName(), c.found) << c.typed;
         }
         EXPECT_EQ(keys, QStringList()) << "finding changes nothing";
+        int marks = 0;
+        for (const auto* mark : controller->window().findChildren<QWidget*>()) {
+            if (!mark->testAttribute(Qt::WA_TransparentForMouseEvents) || !mark->objectName().isEmpty() ||
+                mark->metaObject() != &QWidget::staticMetaObject)
+                continue;
+            ++marks;
+            EXPECT_TRUE(mark->geometry().contains(
+                mark->parentWidget()->findChild<QWidget*>(c.found)->geometry().adjusted(-2, -2, 2, 2)))
+                << c.typed;
+        }
+        EXPECT_EQ(marks, *c.found ? 1 : 0) << c.typed;
     }
     for (const auto* button : controller->window().findChildren<QPushButton*>())
         EXPECT_FALSE(button->autoDefault()) << "Return would press " << button->objectName().toStdString();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "context/Notifications.h"
 #include "platform/base/TextEncoding.h"
+#include "prefs/FloatSlider.h"
 #include "settings/OverlayStyle.h"
 #include "settings/QVOverlayStyleDefaults.h"
 #include "settings/SettingsKeys.h"
@@ -29,6 +30,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 
+#include <algorithm>
 #include <map>
 #include <stdexcept>
 
@@ -243,6 +245,13 @@ TEST_F(Preferences, values_that_no_control_offers_select_nothing_or_are_added) {
         EXPECT_EQ(shownTag(name), -1) << name;
     auto& sizes = control<QComboBox>("_overlayTextFontSizeMin");
     EXPECT_EQ(sizes.currentText(), "15 pt");
+    const int offered = sizes.count();
+    for (const int size : {8, 15, 20}) {
+        env.defaults().setInteger(size, kQVOverlayTextFontSizeMin);
+        controller->syncWithDefaults();
+    }
+    EXPECT_EQ(sizes.count(), offered) << "each once";
+    sizes.setCurrentIndex(sizes.findData(15));
     EXPECT_EQ(sizes.itemData(sizes.currentIndex() - 1).toInt(), 14);
     EXPECT_EQ(sizes.itemData(sizes.currentIndex() + 1).toInt(), 16);
     EXPECT_EQ(control<QLabel>("_advancedCursorHideDelayValue").text(), "1 sec.");
@@ -334,6 +343,21 @@ TEST_F(Preferences, controls_that_need_another_one_are_enabled_with_it) {
     }
 }
 
+TEST_F(Preferences, the_styles_of_what_is_not_shown_can_not_be_changed) {
+    const auto enabled = [this] {
+        const auto opacities = controller->window().findChildren<FloatSlider*>("maxAlpha");
+        return std::ranges::count_if(opacities, [](const FloatSlider* opacity) { return opacity->isEnabled(); });
+    };
+    show();
+    EXPECT_EQ(enabled(), 5);
+    chooseTag("_feedbackShow", 0);
+    EXPECT_EQ(enabled(), 4);
+    chooseTag("_subtitlesShow", 0);
+    EXPECT_EQ(enabled(), 2) << "of texts and of pictures";
+    chooseTag("_feedbackShow", 1);
+    EXPECT_EQ(enabled(), 3);
+}
+
 TEST_F(Preferences, a_recent_encoding_becomes_the_default_and_the_latest) {
     show({{kQVSubtitlesEncodingsList, recentEncodings}});
     QMenu& menu = *control<QPushButton>("_subtitlesDefaultEncoding").menu();
@@ -370,6 +394,12 @@ TEST_F(Preferences, an_encoding_of_the_full_list_takes_a_place_among_the_recent_
     EXPECT_EQ(checkedEncodings(), QStringList{nameOf(10)});
     // One that is listed already is only chosen.
     encodingItem(submenu(), nameOf(12)).trigger();
+    EXPECT_EQ(checkedEncodings(), QStringList{nameOf(12)});
+    env.defaults().setInteger(4, kQVSubtitlesDefaultEncoding);
+    controller->syncWithDefaults();
+    EXPECT_EQ(checkedEncodings(), QStringList{nameOf(4)}) << "chosen elsewhere";
+    env.defaults().setInteger(12, kQVSubtitlesDefaultEncoding);
+    controller->syncWithDefaults();
     EXPECT_EQ(env.defaults().arrayForKey(kQVSubtitlesEncodingsList), (QVariantList{12, 10, 4}));
     EXPECT_EQ(recentTitles(), sorted);
 }
