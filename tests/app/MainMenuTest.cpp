@@ -3,6 +3,7 @@
 #include "platform/base/Localization.h"
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
+#include "tests/support/ShippedLanguages.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +23,17 @@ QString written(const platform::Menu& menu) {
         lines.append(item.separator ? QStringLiteral("-") : line);
     }
     return lines.join(u'\n');
+}
+
+void expectTitlesDiffer(const platform::Menu& menu, const QString& language) {
+    QStringList titles;
+    for (int index = 0; index < menu.count(); ++index) {
+        const platform::MenuItem& item = menu.itemAt(index);
+        EXPECT_TRUE(item.separator || !titles.contains(item.title)) << (language + ": " + item.title).toStdString();
+        titles.append(item.title);
+        if (item.submenu)
+            expectTitlesDiffer(*item.submenu, language);
+    }
 }
 
 } // namespace
@@ -87,5 +99,16 @@ TEST(MainMenu, The_bar_shows_the_commands_by_section_with_the_keys_that_act_on_t
     EXPECT_NE(shown(1).find("Bigger changeSize -2\n"), std::string::npos);
     EXPECT_NE(shown(2).find("Looping Off changeLooping 0 (X)\n"), std::string::npos);
     EXPECT_EQ(shown(7), "Lumaro Help showHelp 0 (Ctrl+Q)\nDonate... donate 0");
+    platform::setLocalizationLanguages({});
+}
+
+TEST(MainMenu, No_language_names_two_items_of_a_menu_alike) {
+    for (const QString& language : shippedLanguages()) {
+        platform::setLocalizationLanguages({language});
+        TestEnvironment env;
+        const CurrentCommands commands(env.environment);
+        MainMenu menu(env.environment, commands);
+        expectTitlesDiffer(menu.bar(), language);
+    }
     platform::setLocalizationLanguages({});
 }

@@ -7,6 +7,7 @@
 #include "settings/QVPreferencesChangedNotification.h"
 #include "settings/SettingsKeys.h"
 #include "tests/support/Posts.h"
+#include "tests/support/ShippedLanguages.h"
 #include "tests/support/StandingPicture.h"
 #include "tests/support/TestEnvironment.h"
 
@@ -496,7 +497,7 @@ TEST_F(OverlayStyleSection, each_style_shows_what_it_has_a_use_for) {
 }
 
 TEST_F(OverlayStyleSection, every_control_has_a_name_of_its_own_a_tip_and_a_mnemonic) {
-    for (const QString& language : {QString("en"), QString("de")}) {
+    for (const QString& language : shippedLanguages()) {
         platform::setLocalizationLanguages({language});
         QVOverlayStyleController section(settings.environment, pictures);
         section.setupWithModelForKey(kQVFeedbackOverlayStyle);

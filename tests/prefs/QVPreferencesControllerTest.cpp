@@ -9,6 +9,7 @@
 #include "subtitles/JHStringEncodings.h"
 #include "tests/prefs/ShownPreferences.h"
 #include "tests/support/CapturedLog.h"
+#include "tests/support/ShippedLanguages.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -529,8 +530,9 @@ TEST_F(Preferences, changes_are_traced_with_their_key_and_value) {
 }
 
 TEST_F(Preferences, every_control_has_a_name_a_tip_and_a_letter_of_its_own_in_every_language) {
-    for (const char* language : {"en", "de"}) {
-        platform::setLocalizationLanguages({language});
+    for (const QString& shipped : shippedLanguages()) {
+        const std::string language = shipped.toStdString();
+        platform::setLocalizationLanguages({shipped});
         show();
         auto& pages = control<QTabWidget>("_pages");
         for (QWidget* widget : everyControl()) {
