@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -41,15 +42,11 @@ Translation readTranslation(const QString& language) {
     return translation;
 }
 
-/// The translations to look in, in order: "pt-BR" tries that one, then "pt"; English is always the last.
+/// The translations to look in, in order; English is always the last.
 std::vector<Translation> readTranslations(const QStringList& languages) {
     QStringList names;
-    for (const QString& language : languages) {
-        QString name = language;
-        name.replace(u'-', u'_');
-        names.append(name);
-        names.append(name.section(u'_', 0, 0));
-    }
+    for (const QString& language : languages)
+        names.append(translationNames(language));
     const QString english = QStringLiteral("en");
     names.append(english);
     names.removeDuplicates();
@@ -86,6 +83,28 @@ QString localizedFormat(const QString& format, const QStringList& arguments, int
 QStringList localizationLanguages() {
     const QStringList& chosen = translations().chosen;
     return chosen.isEmpty() ? QLocale::system().uiLanguages() : chosen;
+}
+
+QStringList translationNames(const QString& language) {
+    QString name = language;
+    name.replace(u'-', u'_');
+    const QStringList parts = name.split(u'_');
+    const QString& only = parts.front();
+    if (only == QStringLiteral("zh")) {
+        // The places that write the traditional script, where no script is named. Who reads one script may not read the
+        // other.
+        const QStringList traditional{QStringLiteral("Hant"), QStringLiteral("TW"), QStringLiteral("HK"),
+                                      QStringLiteral("MO")};
+        const bool isTraditional =
+            !parts.contains(QStringLiteral("Hans")) &&
+            std::any_of(parts.begin(), parts.end(), [&](const QString& part) { return traditional.contains(part); });
+        return {isTraditional ? QStringLiteral("zh_TW") : QStringLiteral("zh_CN")};
+    }
+    QStringList names{name, only};
+    if (only == QStringLiteral("pt"))
+        names.append(QStringLiteral("pt_BR"));
+    names.removeDuplicates();
+    return names;
 }
 
 void setLocalizationLanguages(const QStringList& languages) {

@@ -17,6 +17,10 @@ QString localizedFormat(const QString& format, const QStringList& arguments, int
 /// The user's languages ("de", "pt-BR"), the preferred one first.
 QStringList localizationLanguages();
 
+/// The translations into a language ("pt-PT", "zh-Hant-HK", "de_AT") by what their files are called, the closest one
+/// first: "pt_PT", "pt", "pt_BR". Any thread.
+QStringList translationNames(const QString& language);
+
 /// Forgets the translations read so far, and takes these languages ("de", "pt-BR") in place of the user's; an empty
 /// list goes back to the user's.
 void setLocalizationLanguages(const QStringList& languages);

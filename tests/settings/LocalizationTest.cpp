@@ -2,6 +2,7 @@
 #include "platform/base/Localization.h"
 #include "platform/base/Bundle.h"
 #include "tests/support/Files.h"
+#include "tests/support/ShippedLanguages.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -24,6 +25,7 @@ QStringList placeholders(const QString& text) {
 struct Message {
     QString source;
     QStringList forms;
+    bool hasForms = false;
 };
 
 /// The messages of a translation as its translators write it, by identifier.
@@ -33,16 +35,19 @@ std::map<QString, Message> messagesOf(const QString& path) {
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QXmlStreamReader xml(&file);
     Message* message = nullptr;
-    bool hasForms = false;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() == u"message") {
             message = &messages[xml.attributes().value("id").toString()];
-            hasForms = xml.attributes().value("numerus") == u"yes";
+            message->hasForms = xml.attributes().value("numerus") == u"yes";
         } else if (message && xml.name() == u"source")
             message->source = xml.readElementText();
-        else if (message && ((xml.name() == u"translation" && !hasForms) || xml.name() == u"numerusform"))
+        else if (message && xml.name() == u"translation") {
+            EXPECT_EQ(xml.attributes().value("type"), u"") << path.toStdString() << " is unfinished";
+            if (!message->hasForms)
+                message->forms.append(xml.readElementText());
+        } else if (message && xml.name() == u"numerusform")
             message->forms.append(xml.readElementText());
     }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
@@ -70,6 +75,8 @@ TEST(Localization, the_users_languages_come_first_then_english_then_the_key) {
     translation("en", message("hello", "Hello") + message("only: %@", "English"));
     translation("de", message("hello", "Hallo") + message("only: %@", "") + message("count", "%d Filme") + movies);
     translation("pt_BR", message("hello", "Olá"));
+    translation("zh_CN", message("hello", "简"));
+    translation("zh_TW", message("hello", "繁"));
     writeFile(folder.filePath("translations/lumaro_fr.qm")); // damaged
 
     const QString before = Bundle::main().resourcePath();
@@ -81,7 +88,12 @@ TEST(Localization, the_users_languages_come_first_then_english_then_the_key) {
     } cases[] = {{{"de"}, "Hallo", "English"},        {{"de-AT"}, "Hallo", "English"},
                  {{"pt-BR", "de"}, "Olá", "English"}, {{"pt_BR", "de"}, "Olá", "English"},
                  {{"fr", "de"}, "Hallo", "English"},  {{"en-GB", "de"}, "Hello", "English"},
-                 {{"xx"}, "Hello", "English"}};
+                 {{"xx"}, "Hello", "English"},        {{"pt-PT", "de"}, "Olá", "English"},
+                 {{"pt", "de"}, "Olá", "English"},    {{"zh"}, "简", "English"},
+                 {{"zh-SG"}, "简", "English"},        {{"zh-Hans-HK"}, "简", "English"},
+                 {{"zh-HK"}, "繁", "English"},        {{"zh-Hant"}, "繁", "English"},
+                 {{"zh_MO"}, "繁", "English"},        {{"xx", "zh-TW", "de"}, "繁", "English"},
+                 {{"C"}, "Hello", "English"},         {{"C", "de"}, "Hallo", "English"}};
     for (const auto& [languages, hello, only] : cases) {
         setLocalizationLanguages(languages);
         EXPECT_EQ(localizedString("hello"), hello) << languages.join(',').toStdString();
@@ -112,24 +124,45 @@ TEST(Bundle, the_resources_lie_where_the_environment_says_or_by_the_program) {
 TEST(Localization, every_shipped_translation_is_whole_and_says_what_english_says) {
     const QDir folder(LUMARO_SOURCE_DIR "/resources/translations");
     const auto english = messagesOf(folder.filePath("lumaro_en.ts"));
-    const QStringList files = folder.entryList({"*.ts"});
-    ASSERT_TRUE(files.contains("lumaro_de.ts"));
-    for (const QString& name : files) {
+    // Of Qt's rules for numbers, those that are not "one, or more".
+    const std::map<QString, int> numbers{{"ar", 6}, {"cs", 3}, {"ja", 1}, {"ko", 1},    {"pl", 3},
+                                         {"ru", 3}, {"tr", 1}, {"uk", 3}, {"zh_CN", 1}, {"zh_TW", 1}};
+    ASSERT_TRUE(shippedLanguages().contains("de"));
+    for (const QString& language : shippedLanguages()) {
+        const QString name = "lumaro_" + language + ".ts";
+        const int forms = numbers.contains(language) ? numbers.at(language) : 2;
         const auto translation = messagesOf(folder.filePath(name));
         EXPECT_EQ(translation.size(), english.size()) << name.toStdString();
-        setLocalizationLanguages({name.section('_', 1).section('.', 0, 0)});
+        setLocalizationLanguages({language});
         for (const auto& [identifier, message] : english) {
             const auto found = translation.find(identifier);
             const std::string where = (name + ": " + identifier).toStdString();
             ASSERT_TRUE(found != translation.end()) << where;
             EXPECT_EQ(found->second.source, message.forms.first()) << where << " is no longer what English says";
+            EXPECT_EQ(found->second.forms.size(), message.hasForms ? forms : 1) << where;
             ASSERT_FALSE(found->second.forms.isEmpty()) << where;
             for (const QString& form : found->second.forms) {
                 EXPECT_FALSE(form.isEmpty()) << where;
                 EXPECT_EQ(placeholders(form), placeholders(message.forms.first())) << where;
+                EXPECT_EQ(form.count('&'), message.forms.first().count('&')) << where;
             }
             EXPECT_EQ(localizedString(identifier), found->second.forms.first()) << where << " is not what was built";
         }
     }
     setLocalizationLanguages({});
+}
+
+TEST(Localization, what_the_desktop_shows_of_the_program_is_in_every_language) {
+    for (const auto& [name, line] :
+         {std::pair{"desktop.in", "^\\w+\\[%1\\]=."}, std::pair{"metainfo.xml.in", "xml:lang=\"%1\">[^<]"}}) {
+        QFile file(QString(LUMARO_SOURCE_DIR "/packaging/org.lumaro.Lumaro.") + name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        const auto linesOf = [&, line = line](const QString& language) {
+            return text.count(QRegularExpression(QString(line).arg(language), QRegularExpression::MultilineOption));
+        };
+        EXPECT_GT(linesOf("de"), 5);
+        for (const QString& language : shippedLanguages())
+            EXPECT_EQ(linesOf(language), language == "en" ? 0 : linesOf("de")) << name << language.toStdString();
+    }
 }

@@ -43,14 +43,16 @@ void signalArrived(int) {
 /// The texts of Qt's own panels, in the user's language where they are installed.
 void translateOwnTexts(QApplication& application) {
     for (const QString& language : localizationLanguages()) {
-        auto translation = std::make_unique<QTranslator>();
         if (language.startsWith(QStringLiteral("en")))
             return;
-        if (translation->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
-                              QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-            translation->setParent(&application);
-            QApplication::installTranslator(translation.release());
-            return;
+        for (const QString& name : translationNames(language)) {
+            auto translation = std::make_unique<QTranslator>();
+            if (translation->load(QStringLiteral("qtbase_") + name, QLibraryInfo::path(QLibraryInfo::TranslationsPath),
+                                  QStringLiteral("."))) {
+                translation->setParent(&application);
+                QApplication::installTranslator(translation.release());
+                return;
+            }
         }
     }
 }

@@ -17,12 +17,11 @@
 namespace {
 
 const std::string& drive() {
-    // Never destroyed: files are asked for until the process has ended.
-    static const auto* const folder = [] {
+    static const std::string folder = [] {
         const char* name = std::getenv("LUMARO_HANGING_DRIVE");
-        return new std::string(name ? name : "");
+        return std::string(name ? name : "");
     }();
-    return *folder;
+    return folder;
 }
 
 void touch(const char* path) {
