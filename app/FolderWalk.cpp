@@ -3,6 +3,7 @@
 
 #include "app/OpeningFiles.h"
 #include "platform/base/PathNames.h"
+#include "platform/base/RegularFile.h"
 #include "platform/base/StringComparison.h"
 
 #include <QSet>
@@ -29,6 +30,18 @@ bool isFilePackage(const QByteArray& folder) {
                                           QStringLiteral("rcproject"),    QStringLiteral("rtfd")};
     return extensions.contains(platform::pathExtension(QString::fromUtf8(folder)).toLower()) ||
            ::access((folder + "/Contents/Info.plist").constData(), F_OK) == 0;
+}
+
+bool isHidden(const QByteArray& name) {
+    return name.startsWith('.');
+}
+
+/// What another system put beside a file that this one has no place for: it has that file's name, and is no movie.
+bool isCompanion(const QByteArray& path, const QByteArray& name) {
+    if (!name.startsWith("._"))
+        return false;
+    const auto begin = platform::readRegularFileAt(path, 4);
+    return begin && *begin == QByteArray("\x00\x05\x16\x07", 4);
 }
 
 enum class FileKind { file, folder, other };
@@ -85,20 +98,24 @@ void FolderWalk::walk(const QByteArray& folder) {
         while (const dirent* entry = _cancelled ? nullptr : ::readdir(opened.get())) {
             const QByteArray name(entry->d_name);
             const QString text = QString::fromUtf8(name);
-            const FileKind kind = name.startsWith('.') ? FileKind::other : kindOf(::dirfd(opened.get()), *entry);
+            if (name == "." || name == "..")
+                continue;
+            const FileKind kind = kindOf(::dirfd(opened.get()), *entry);
             if (kind == FileKind::folder || (kind == FileKind::file && isFileOfType(text, _types)))
                 entries.push_back({platform::keyForComparison(text, true), name, kind == FileKind::folder});
         }
     }
-    std::ranges::sort(entries,
-                      [](const Entry& a, const Entry& b) { return std::tie(a.key, a.name) < std::tie(b.key, b.name); });
+    std::ranges::sort(entries, [](const Entry& a, const Entry& b) {
+        return std::make_tuple(isHidden(a.name), std::tie(a.key, a.name)) <
+               std::make_tuple(isHidden(b.name), std::tie(b.key, b.name));
+    });
     for (const Entry& entry : entries) {
         if (_cancelled)
             return;
         const QByteArray path = (folder.endsWith('/') ? folder : folder + '/') + entry.name;
-        if (!entry.isFolder)
-            _listener.found(path);
-        else if (!isFilePackage(path))
+        if (entry.isFolder && !isFilePackage(path))
             walk(path);
+        else if (!entry.isFolder && !isCompanion(path, entry.name))
+            _listener.found(path);
     }
 }

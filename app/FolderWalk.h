@@ -11,9 +11,10 @@
 #include <utility>
 
 /// Walks a folder to the bottom, in the order in which a person reads its list: names without regard to case, numbers
-/// by value; of names that differ in case alone the one in capitals first. Hidden entries are passed over, and so are
-/// the folders that other systems show as one file. Links are followed, but no folder is walked twice. Paths are in the
-/// file system's bytes. Any thread; a file system that does not answer holds it up.
+/// by value; of names that differ in case alone the one in capitals first. Hidden entries come behind the others of
+/// their folder. Passed over are the folders that other systems show as one file, and the files in which they keep what
+/// belongs to another file. Links are followed, but no folder is walked twice. Paths are in the file system's bytes.
+/// Any thread; a file system that does not answer holds it up.
 class FolderWalk {
 public:
     struct Listener {

@@ -63,16 +63,23 @@ protected:
 
 TEST_F(Finding, folders_are_walked_to_the_bottom_in_reading_order_without_going_round) {
     for (const char* name : {"show/2.mp4", "show/10.AVI", "show/1.txt", "show/extra/deep/a.mp4", "show/B.avi",
-                             "show/b.avi", "show/.hidden.mp4", "show/.cache/c.mp4"})
+                             "show/b.avi", "show/.hidden.mp4", "show/.cache/c.mp4", "show/extra/deep/._b.mp4"})
         make(name);
+    // Where a file's further parts are kept on a drive that has no place for them.
+    QFile companion(folder.filePath("show/._2.mp4"));
+    ASSERT_TRUE(companion.open(QIODevice::WriteOnly));
+    companion.write("\x00\x05\x16\x07\x00\x02\x00\x00", 8);
+    companion.close();
     QDir().mkpath(folder.filePath("show/z empty"));
     ASSERT_TRUE(QFile::link(folder.filePath("show"), folder.filePath("show/extra/up")));
     ASSERT_TRUE(QFile::link(folder.filePath("gone.mp4"), folder.filePath("show/c.mp4")));
     ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath("show/pipe.mp4")).constData(), 0600), 0);
-    EXPECT_EQ(found({"show"}), "show/2.mp4 show/10.AVI show/B.avi show/b.avi show/extra/deep/a.mp4");
+    EXPECT_EQ(found({"show"}), "show/2.mp4 show/10.AVI show/B.avi show/b.avi show/extra/deep/a.mp4 "
+                               "show/extra/deep/._b.mp4 show/.cache/c.mp4 show/.hidden.mp4");
     EXPECT_EQ(found({"show/extra", "show/b.avi"}, {}),
-              "show/extra/deep/a.mp4 show/extra/up/1.txt show/extra/up/2.mp4 show/extra/up/10.AVI show/extra/up/B.avi "
-              "show/extra/up/b.avi show/b.avi")
+              "show/extra/deep/a.mp4 show/extra/deep/._b.mp4 show/extra/up/1.txt show/extra/up/2.mp4 "
+              "show/extra/up/10.AVI show/extra/up/B.avi show/extra/up/b.avi show/extra/up/.cache/c.mp4 "
+              "show/extra/up/.hidden.mp4 show/b.avi")
         << "no types at all accept every file; a link is followed";
     cancelledAfter = 2;
     EXPECT_EQ(found({"show", "show"}), "show/2.mp4 show/10.AVI") << "what was found stays";

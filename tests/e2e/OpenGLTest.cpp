@@ -16,7 +16,7 @@ namespace {
 class OpenGL : public PlayerFixture {
 protected:
     LumaroProcess& startOpenGL(const std::vector<std::string>& arguments) {
-        return startRecorded(LUMARO_PROGRAM, {{"LUMARO_RENDERER", "opengl"}}, arguments);
+        return startRecorded(LUMARO_PROGRAM, openGLEnvironment(), arguments);
     }
 
     // Whether a library of that name is in the player's memory: Mesa's drivers are loaded for a context only.

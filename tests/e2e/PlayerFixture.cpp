@@ -55,6 +55,14 @@ LumaroProcess& PlayerFixture::startRecorded(const std::string& program,
     return *player;
 }
 
+std::map<std::string, std::string> PlayerFixture::openGLEnvironment() {
+    std::map<std::string, std::string> environment = {{"LUMARO_RENDERER", "opengl"}};
+#ifdef LUMARO_KEEP_LOADED_LIBRARY
+    environment.insert({{"LD_PRELOAD", LUMARO_KEEP_LOADED_LIBRARY}, {"ASAN_OPTIONS", "verify_asan_link_order=0"}});
+#endif
+    return environment;
+}
+
 std::unique_ptr<LumaroProcess> PlayerFixture::startAnother(const std::vector<std::string>& arguments,
                                                            const std::string& workingDirectory) {
     return std::make_unique<LumaroProcess>(user, server.display(), arguments, workingDirectory);

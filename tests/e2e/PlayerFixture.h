@@ -34,6 +34,8 @@ protected:
     // The same with another program and environment.
     LumaroProcess& startRecorded(const std::string& program, const std::map<std::string, std::string>& environment,
                                  const std::vector<std::string>& arguments);
+    // What has it draw through OpenGL; under the leak sanitizer the drivers stay until the end.
+    static std::map<std::string, std::string> openGLEnvironment();
     // Another launch by the same user, with these options alone: settings are for the first one.
     std::unique_ptr<LumaroProcess> startAnother(const std::vector<std::string>& arguments,
                                                 const std::string& workingDirectory = {});

@@ -27,7 +27,7 @@ protected:
     // Stands at the beginning of the movie; each jump is of two seconds.
     void startStanding(const std::string& file, std::vector<std::string> options = {}) {
         options.insert(options.end(), {"--set", "QVPlaylistAutoPlay=0", "--set", "QVJumpInterval=2", file});
-        start(options);
+        startRecorded(LUMARO_PROGRAM, environment, options);
         ASSERT_TRUE(frameBecomes(0));
     }
 
@@ -35,6 +35,9 @@ protected:
         probe.tap(direction > 0 ? XK_Right : XK_Left, {XK_Control_L});
         ASSERT_TRUE(frameBecomes(seconds * 30));
     }
+
+    // What startStanding adds to the environment.
+    std::map<std::string, std::string> environment;
 
 private:
     int _folders = 0;

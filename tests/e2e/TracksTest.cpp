@@ -186,7 +186,8 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
         {movie({{"ass", signs}}), sign, 0}, // in a file beside it
     };
     for (const char* renderer : {"", "opengl"}) {
-        ::setenv("LUMARO_RENDERER", renderer, 1);
+        if (*renderer)
+            environment = openGLEnvironment();
         for (const auto& c : cases) {
             SCOPED_TRACE(c.file + ' ' + renderer);
             startStanding(c.file);
@@ -206,7 +207,7 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
             ASSERT_TRUE(quitsCleanly());
         }
     }
-    ::unsetenv("LUMARO_RENDERER");
+    environment.clear();
     // A stream has no index: what began before the keyframe that a jump finds is not known there.
     startStanding(mux("dvb.ts", {index}, {"-c:s", "dvb_subtitle"}));
     probe.tap(XK_space);

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
 #include <cmath>
+#include <thread>
 
 namespace {
 
@@ -81,6 +84,26 @@ TEST(FirstFrame, is_left_to_the_player_where_it_is_not_simple) {
     const auto sound = media().make("sound.mp3", {"-f", "lavfi", "-i", "sine=d=1"});
     EXPECT_FALSE(platform::FirstFrame::decode(urlOf(sound), cancelled));
     EXPECT_FALSE(platform::FirstFrame::decode(urlOf("/nowhere.mp4"), cancelled));
+}
+
+TEST(FirstFrame, that_nobody_wants_any_more_leaves_no_error_of_a_good_movie) {
+    ToolkitRig rig; // the core hears what the library says, and the rig fails at an error
+    harness::MediaFixture::Numbered numbered;
+    numbered.frames = 90;
+    for (const std::string name : {"at.mp4", "at.mkv"}) {
+        const QUrl url = urlOf(media().makeNumbered(name, numbered));
+        const auto movie = rig.show(url);
+        for (int wait = 0; wait < 4000; wait += 100) {
+            std::atomic<bool> cancelled{false};
+            std::thread decoding(
+                [&] { platform::FirstFrame::decode(url, cancelled, platform::FirstFrame::PictureOf::movie, 2); });
+            std::this_thread::sleep_for(std::chrono::microseconds(wait));
+            cancelled = true;
+            decoding.join();
+        }
+        rig.settle();
+        rig.player().load(nullptr);
+    }
 }
 
 TEST(FirstFrame, is_let_go_of_when_the_player_has_its_own) {

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -30,7 +31,10 @@ QUrl numberedMovie() {
 std::filesystem::path scratch(const std::string& name, const std::string& content) {
     const std::filesystem::path folder = LUMARO_BINARY_DIR "/tests/media/scratch";
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / name, std::ios::binary | std::ios::trunc) << content;
+    // Another test may be reading the one before.
+    const std::filesystem::path unfinished = folder / (name + std::to_string(::getpid()));
+    std::ofstream(unfinished, std::ios::binary | std::ios::trunc) << content;
+    std::filesystem::rename(unfinished, folder / name);
     return folder / name;
 }
 

@@ -31,10 +31,6 @@ struct Freed {
     void operator()(AVFrame* frame) const { AvLibrary::get()->av_frame_free(&frame); }
 };
 
-int isCancelled(void* flag) {
-    return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0;
-}
-
 bool isPlain(const AVStream* stream, const AVFrame* frame, FirstFrame::PictureOf wanted) {
     const bool rangeIsKnown = frame->color_trc == stream->codecpar->color_trc ||
                               (frame->color_trc != AVCOL_TRC_SMPTE2084 && frame->color_trc != AVCOL_TRC_ARIB_STD_B67);
@@ -148,12 +144,12 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
     MovieInput movie;
     if (!movie.context())
         return nullptr;
-    movie.context()->interrupt_callback = {&isCancelled, const_cast<std::atomic<bool>*>(&cancelled)};
+    movie.endWith(cancelled);
     AVDictionary* options = nullptr;
     const int opened = movie.open(url, options);
     av->av_dict_free(&options);
     // Where a file begins in time is not known before.
-    if (opened < 0 ||
+    if (opened < 0 || cancelled ||
         (seconds > 0 && look == Look::streams && av->avformat_find_stream_info(movie.context(), nullptr) < 0))
         return nullptr;
     AVFormatContext* const input = movie.context();

@@ -23,6 +23,22 @@ MovieInput::~MovieInput() {
     av.avio_closep(&_file);
 }
 
+void MovieInput::endWith(const std::atomic<bool>& cancelled) {
+    _cancelled = &cancelled;
+    _context->interrupt_callback = {&MovieInput::isToEnd, this};
+}
+
+int MovieInput::isToEnd(void* self) {
+    constexpr std::chrono::seconds timeout(1);
+    auto& input = *static_cast<MovieInput*>(self);
+    if (!input._cancelled->load())
+        return 0;
+    const auto now = std::chrono::steady_clock::now();
+    if (!input._cancelledAt)
+        input._cancelledAt = now;
+    return now - *input._cancelledAt >= timeout ? 1 : 0;
+}
+
 int MovieInput::open(const QUrl& url, AVDictionary*& options) {
     const AvLibrary& av = *AvLibrary::get();
     const QByteArray address = addressOf(url);

@@ -4,6 +4,10 @@
 #include <QByteArray>
 #include <QUrl>
 
+#include <atomic>
+#include <chrono>
+#include <optional>
+
 struct AVDictionary;
 struct AVFormatContext;
 struct AVIOContext;
@@ -35,11 +39,20 @@ public:
 
     /// To be prepared before opening; null when memory is short, and after opening failed.
     AVFormatContext* context() const { return _context; }
+    /// Before opening: reading ends once `cancelled` has been set for a while. Whoever reads looks at it between
+    /// packets; this is for a file in which the library goes on looking. To cut every reading short would be called an
+    /// error of a good movie in the log. It outlives this.
+    void endWith(const std::atomic<bool>& cancelled);
     /// Once. Negative numbers are the library's errors. The options are taken out of `options`, except those that it
     /// does not know.
     int open(const QUrl& url, AVDictionary*& options);
 
 private:
+    static int isToEnd(void* self);
+
+    const std::atomic<bool>* _cancelled = nullptr;
+    /// When it was first found set.
+    std::optional<std::chrono::steady_clock::time_point> _cancelledAt;
     AVFormatContext* _context;
     AVIOContext* _file = nullptr;
 };

@@ -21,10 +21,6 @@ struct Freed {
     void operator()(AVPacket* packet) const { AvLibrary::get()->av_packet_free(&packet); }
 };
 
-int isCancelled(void* cancelled) {
-    return static_cast<std::atomic<bool>*>(cancelled)->load() ? 1 : 0;
-}
-
 AVStream* subtitleStream(AVFormatContext* input, int number) {
     AVStream* found = nullptr;
     int count = 0;
@@ -115,7 +111,7 @@ std::optional<SubtitleEnds> subtitleEnds(const QUrl& url, int track, const std::
     MovieInput movie;
     if (!movie.context())
         return std::nullopt;
-    movie.context()->interrupt_callback = {&isCancelled, const_cast<std::atomic<bool>*>(&cancelled)};
+    movie.endWith(cancelled);
     AVDictionary* options = nullptr;
     const int opened = movie.open(url, options);
     av->av_dict_free(&options);
