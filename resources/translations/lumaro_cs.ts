@@ -1819,7 +1819,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Zda film zůstává nad okny jiných programů, když má klávesnici Lumaro</translation>
+        <translation>Zda film zůstává nad okny jiných programů, když je aktivní Lumaro</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1899,7 +1899,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Když má klávesnici jiný program</translation>
+        <translation>Když je aktivní jiný program</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2455,7 +2455,7 @@
     </message>
     <message id="The command gets back the keys that Lumaro came with">
         <source>The command gets back the keys that Lumaro came with</source>
-        <translation>Příkaz dostane zpět klávesy, se kterými Lumaro přišlo</translation>
+        <translation>Příkaz dostane zpět klávesy, které mělo Lumaro původně</translation>
     </message>
     <message id="Reset A&amp;ll Keys">
         <source>Reset A&amp;ll</source>
@@ -2463,7 +2463,7 @@
     </message>
     <message id="Every command gets back the keys that Lumaro came with">
         <source>Every command gets back the keys that Lumaro came with</source>
-        <translation>Všechny příkazy dostanou zpět klávesy, se kterými Lumaro přišlo</translation>
+        <translation>Všechny příkazy dostanou zpět klávesy, které mělo Lumaro původně</translation>
     </message>
     <message id="&amp;Undo Key Change">
         <source>&amp;Undo</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>Tak rychle, jak byl film natočen</translation>
+        <translation>Původní rychlostí filmu</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>

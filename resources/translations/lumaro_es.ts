@@ -1816,7 +1816,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Si la película permanece sobre las ventanas de otros programas mientras Lumaro tiene el teclado</translation>
+        <translation>Si la película permanece sobre las ventanas de otros programas mientras Lumaro está en primer plano</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1896,7 +1896,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Mientras otro programa tiene el teclado</translation>
+        <translation>Mientras otro programa está en primer plano</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2408,7 +2408,7 @@
     </message>
     <message id="The commands by menu; bold ones have keys of your own">
         <source>The commands by menu; bold ones have keys of your own</source>
-        <translation>Las órdenes por menús; las que están en negrita tienen teclas propias de usted</translation>
+        <translation>Las órdenes por menús; las que están en negrita tienen teclas elegidas por usted</translation>
     </message>
     <message id="Commands and their keys">
         <source>Commands and their keys</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>A la velocidad con la que se hizo la película</translation>
+        <translation>A la velocidad original de la película</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>

@@ -536,11 +536,11 @@
     </message>
     <message id="On">
         <source>On</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message id="Off">
         <source>Off</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message id="%d%%">
         <source>%d%%</source>
@@ -676,7 +676,7 @@
     </message>
     <message id="See the picture larger, and what is playing">
         <source>See the picture larger, and what is playing</source>
-        <translation>Agrandir l’image et voir ce qui est lu</translation>
+        <translation>Agrandir l’image et voir ce qui est en lecture</translation>
     </message>
     <message id="Choose among the movies">
         <source>Choose among the movies</source>
@@ -1047,7 +1047,7 @@
     </message>
     <message id="Looping: off, one, all">
         <source>Looping: off, one, all</source>
-        <translation>Répétition : désactivée, un film, tous les films</translation>
+        <translation>Répétition : non, un film, tous les films</translation>
     </message>
     <message id="Louder and softer">
         <source>Louder and softer</source>
@@ -1701,7 +1701,7 @@
     </message>
     <message id="StyleMinAlpha">
         <source>Opacity when hi&amp;dden:</source>
-        <translation>Opacité &amp;masqué :</translation>
+        <translation>Opacité (&amp;masqué) :</translation>
     </message>
     <message id="StyleMinAlphaTip">
         <source>How much of it remains while it is hidden: 0 % is nothing</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message id="StyleMaxAlpha">
         <source>Opacit&amp;y when shown:</source>
-        <translation>&amp;Opacité affiché :</translation>
+        <translation>&amp;Opacité (affiché) :</translation>
     </message>
     <message id="StyleMaxAlphaTip">
         <source>How opaque it is while it is shown: below 100 % the picture shows through</source>
@@ -1816,7 +1816,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Si le film reste au-dessus des fenêtres d’autres programmes pendant que Lumaro a le clavier</translation>
+        <translation>Détermine si le film reste au-dessus des fenêtres d’autres programmes quand Lumaro est au premier plan</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1896,7 +1896,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Pendant qu’un autre programme a le clavier</translation>
+        <translation>Quand un autre programme est au premier plan</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2144,7 +2144,7 @@
     </message>
     <message id="Show &amp;feedback">
         <source>Show &amp;feedback</source>
-        <translation>Affi&amp;cher les retours</translation>
+        <translation>Afficher les &amp;messages</translation>
     </message>
     <message id="Commands say what they did">
         <source>Commands say what they did</source>
@@ -2152,7 +2152,7 @@
     </message>
     <message id="&amp;Keep the display for the next start">
         <source>&amp;Keep the display for the next start</source>
-        <translation>&amp;Garder l’affichage pour le prochain démarrage</translation>
+        <translation>&amp;Garder l’affichage à l’écran au prochain démarrage</translation>
     </message>
     <message id="The on-screen display chosen last is shown again">
         <source>The on-screen display chosen last is shown again</source>
@@ -2340,7 +2340,7 @@
     </message>
     <message id="Feedback style">
         <source>Feedback</source>
-        <translation>Retours</translation>
+        <translation>Messages</translation>
     </message>
     <message id="Text style">
         <source>Texts</source>
@@ -2408,7 +2408,7 @@
     </message>
     <message id="The commands by menu; bold ones have keys of your own">
         <source>The commands by menu; bold ones have keys of your own</source>
-        <translation>Les commandes par menu ; celles en gras ont des touches que vous avez choisies</translation>
+        <translation>Les commandes par menu ; celles en gras ont des touches choisies par vous</translation>
     </message>
     <message id="Commands and their keys">
         <source>Commands and their keys</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>À la vitesse à laquelle le film a été fait</translation>
+        <translation>À la vitesse d’origine du film</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>
@@ -2826,7 +2826,7 @@
     </message>
     <message id="Deinterlacing: automatic, on, off">
         <source>Deinterlacing: automatic, on, off</source>
-        <translation>Désentrelacement : automatique, activé, désactivé</translation>
+        <translation>Désentrelacement : automatique, oui, non</translation>
     </message>
     <message id="Deinterlacing: %@">
         <source>Deinterlacing: %@</source>

@@ -380,7 +380,7 @@
     </message>
     <message id="Sleep">
         <source>Sleep</source>
-        <translation>Sospensione</translation>
+        <translation>Sospendi</translation>
     </message>
     <message id="Restart the Computer">
         <source>Restart the Computer</source>
@@ -1816,7 +1816,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Se il film resta sopra le finestre degli altri programmi mentre Lumaro ha la tastiera</translation>
+        <translation>Se il film resta sopra le finestre degli altri programmi mentre Lumaro è attivo</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1896,7 +1896,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Mentre un altro programma ha la tastiera</translation>
+        <translation>Mentre è attivo un altro programma</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>Alla velocità con cui il film è stato fatto</translation>
+        <translation>Alla velocità originale del film</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>

@@ -1816,7 +1816,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Of de film boven de vensters van andere programma’s blijft terwijl Lumaro het toetsenbord heeft</translation>
+        <translation>Of de film boven de vensters van andere programma’s blijft terwijl Lumaro actief is</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1896,7 +1896,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Terwijl een ander programma het toetsenbord heeft</translation>
+        <translation>Terwijl een ander programma actief is</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2300,7 +2300,7 @@
     </message>
     <message id="Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.">
         <source>Finds a setting by its words (Ctrl+F). Up and Down go to the others, Return to the setting itself.</source>
-        <translation>Zoekt een instelling op haar woorden (Ctrl+F). Omhoog en Omlaag gaan naar de andere, Enter naar de instelling zelf.</translation>
+        <translation>Zoekt een instelling op woorden (Ctrl+F). Omhoog en Omlaag gaan naar de andere, Enter naar de instelling zelf.</translation>
     </message>
     <message id="PreferencesFound">
         <source>%d of %d</source>
@@ -2404,7 +2404,7 @@
     </message>
     <message id="Words of a command, or its key">
         <source>Words of a command, or its key</source>
-        <translation>Woorden van een opdracht, of haar toets</translation>
+        <translation>Woorden van een opdracht, of de toets ervan</translation>
     </message>
     <message id="The commands by menu; bold ones have keys of your own">
         <source>The commands by menu; bold ones have keys of your own</source>
@@ -2484,7 +2484,7 @@
     </message>
     <message id="The key keeps its meaning">
         <source>The key keeps its meaning</source>
-        <translation>De toets behoudt haar betekenis</translation>
+        <translation>De toets houdt zijn betekenis</translation>
     </message>
     <message id="Press a key for “%@”. Esc goes back.">
         <source>Press a key for “%@”. Esc goes back.</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>Zo snel als de film is gemaakt</translation>
+        <translation>Op de oorspronkelijke snelheid van de film</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>

@@ -537,11 +537,11 @@
     </message>
     <message id="On">
         <source>On</source>
-        <translation>wł.</translation>
+        <translation>Wł.</translation>
     </message>
     <message id="Off">
         <source>Off</source>
-        <translation>wył.</translation>
+        <translation>Wył.</translation>
     </message>
     <message id="%d%%">
         <source>%d%%</source>
@@ -561,15 +561,15 @@
     </message>
     <message id="One">
         <source>One</source>
-        <translation>jeden</translation>
+        <translation>Jeden</translation>
     </message>
     <message id="All">
         <source>All</source>
-        <translation>wszystkie</translation>
+        <translation>Wszystkie</translation>
     </message>
     <message id="None">
         <source>None</source>
-        <translation>brak</translation>
+        <translation>Brak</translation>
     </message>
     <message id="Subtitles: %@">
         <source>Subtitles: %@</source>
@@ -1819,7 +1819,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Czy film pozostaje nad oknami innych programów, gdy Lumaro ma klawiaturę</translation>
+        <translation>Czy film pozostaje nad oknami innych programów, gdy aktywne jest Lumaro</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1899,7 +1899,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Gdy klawiaturę ma inny program</translation>
+        <translation>Gdy aktywny jest inny program</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>Tak szybko, jak film został nakręcony</translation>
+        <translation>Z oryginalną prędkością filmu</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>

@@ -536,11 +536,11 @@
     </message>
     <message id="On">
         <source>On</source>
-        <translation>Ligado</translation>
+        <translation>Sim</translation>
     </message>
     <message id="Off">
         <source>Off</source>
-        <translation>Desligado</translation>
+        <translation>Não</translation>
     </message>
     <message id="%d%%">
         <source>%d%%</source>
@@ -585,15 +585,15 @@
     <message id="SubtitleLinesLost" numerus="yes">
         <source>%d line of it can’t be read.</source>
         <translation>
-            <numerusform>%d linha dela não pode ser lida.</numerusform>
-            <numerusform>%d linhas dela não podem ser lidas.</numerusform>
+            <numerusform>%d linha não pode ser lida.</numerusform>
+            <numerusform>%d linhas não podem ser lidas.</numerusform>
         </translation>
     </message>
     <message id="SubtitlePicturesLost" numerus="yes">
         <source>%d picture of it can’t be read.</source>
         <translation>
-            <numerusform>%d imagem dela não pode ser lida.</numerusform>
-            <numerusform>%d imagens dela não podem ser lidas.</numerusform>
+            <numerusform>%d imagem não pode ser lida.</numerusform>
+            <numerusform>%d imagens não podem ser lidas.</numerusform>
         </translation>
     </message>
     <message id="SubtitleRepairMayHelp">
@@ -1816,7 +1816,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Se o filme fica acima das janelas de outros programas enquanto o Lumaro tem o teclado</translation>
+        <translation>Se o filme fica acima das janelas de outros programas enquanto o Lumaro está ativo</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1896,7 +1896,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Enquanto outro programa tem o teclado</translation>
+        <translation>Enquanto outro programa está ativo</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>Na velocidade em que o filme foi feito</translation>
+        <translation>Na velocidade original do filme</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>
@@ -2826,7 +2826,7 @@
     </message>
     <message id="Deinterlacing: automatic, on, off">
         <source>Deinterlacing: automatic, on, off</source>
-        <translation>Desentrelaçamento: automático, ligado, desligado</translation>
+        <translation>Desentrelaçamento: automático, sim, não</translation>
     </message>
     <message id="Deinterlacing: %@">
         <source>Deinterlacing: %@</source>

@@ -1059,11 +1059,11 @@
     </message>
     <message id="Sound Earlier">
         <source>Sound Earlier</source>
-        <translation>Tidigare ljud</translation>
+        <translation>Ljud tidigare</translation>
     </message>
     <message id="Sound Later">
         <source>Sound Later</source>
-        <translation>Senare ljud</translation>
+        <translation>Ljud senare</translation>
     </message>
     <message id="Sound as in the File">
         <source>Sound as in the File</source>
@@ -1071,7 +1071,7 @@
     </message>
     <message id="Sound earlier and later">
         <source>Sound earlier and later</source>
-        <translation>Tidigare och senare ljud</translation>
+        <translation>Ljud tidigare och senare</translation>
     </message>
     <message id="Sound at the times of the file">
         <source>Sound at the times of the file</source>
@@ -1131,7 +1131,7 @@
     </message>
     <message id="Subtitles earlier and later">
         <source>Subtitles earlier and later</source>
-        <translation>Tidigare och senare undertexter</translation>
+        <translation>Undertexter tidigare och senare</translation>
     </message>
     <message id="Subtitles at the times of their file">
         <source>Subtitles at the times of their file</source>
@@ -1167,7 +1167,7 @@
     </message>
     <message id="Subtitles larger and smaller">
         <source>Subtitles larger and smaller</source>
-        <translation>Större och mindre undertexter</translation>
+        <translation>Undertexter större och mindre</translation>
     </message>
     <message id="Higher">
         <source>Higher</source>
@@ -1816,7 +1816,7 @@
     </message>
     <message id="Whether the movie stays above the windows of other programs while Lumaro has the keyboard">
         <source>Whether the movie stays above the windows of other programs while Lumaro has the keyboard</source>
-        <translation>Om filmen ligger över andra programs fönster när Lumaro har tangentbordet</translation>
+        <translation>Om filmen ligger över andra programs fönster när Lumaro är aktivt</translation>
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
@@ -1896,7 +1896,7 @@
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
-        <translation>Medan ett annat program har tangentbordet</translation>
+        <translation>Medan ett annat program är aktivt</translation>
     </message>
     <message id="Pa&amp;use the movie">
         <source>Pa&amp;use the movie</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message id="As fast as the movie was made">
         <source>As fast as the movie was made</source>
-        <translation>Så snabbt som filmen är gjord</translation>
+        <translation>I filmens ursprungliga hastighet</translation>
     </message>
     <message id="Chapters">
         <source>Chapters</source>
