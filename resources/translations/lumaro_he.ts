@@ -57,7 +57,7 @@
     </message>
     <message id="OpenErrorScheme">
         <source>Lumaro doesn’t know addresses of this kind.</source>
-        <translation>Lumaro אינו מכיר כתובות מסוג זה.</translation>
+        <translation>‏Lumaro אינו מכיר כתובות מסוג זה.</translation>
     </message>
     <message id="OpenErrorUnknownHost">
         <source>There is no server of that name, or no connection to the network.</source>
@@ -226,7 +226,7 @@
     </message>
     <message id="ConfigureCheckForNewVersionDetails">
         <source>Lumaro can look from time to time whether a newer version exists. Nothing about you or your movies is sent. You can change this in the preferences.</source>
-        <translation>Lumaro יכול לבדוק מדי פעם אם יש גרסה חדשה. לא נשלח דבר עליך או על הסרטים שלך. ניתן לשנות זאת בהעדפות.</translation>
+        <translation>‏Lumaro יכול לבדוק מדי פעם אם יש גרסה חדשה. לא נשלח דבר עליך או על הסרטים שלך. ניתן לשנות זאת בהעדפות.</translation>
     </message>
     <message id="CheckNewVersionFailedMessage">
         <source>Looking for a new version failed.</source>
@@ -238,7 +238,7 @@
     </message>
     <message id="YouHaveLatestVersionMessage">
         <source>Lumaro is up to date.</source>
-        <translation>Lumaro מעודכן.</translation>
+        <translation>‏Lumaro מעודכן.</translation>
     </message>
     <message id="YouHaveLatestVersionDetails">
         <source>You have the latest version.</source>
@@ -270,7 +270,7 @@
     </message>
     <message id="AskDonationDetails">
         <source>Lumaro is free. A donation helps to keep it alive.</source>
-        <translation>Lumaro חינמי. תרומה עוזרת לו להתקיים.</translation>
+        <translation>‏Lumaro חינמי. תרומה עוזרת לו להתקיים.</translation>
     </message>
     <message id="Donate...">
         <source>Donate...</source>
@@ -1776,7 +1776,7 @@
     </message>
     <message id="Lumaro starts with an empty screen">
         <source>Lumaro starts with an empty screen</source>
-        <translation>Lumaro מתחיל עם מסך ריק</translation>
+        <translation>‏Lumaro מתחיל עם מסך ריק</translation>
     </message>
     <message id="Open the &amp;last playlist">
         <source>Open the &amp;last playlist</source>
@@ -1792,7 +1792,7 @@
     </message>
     <message id="Lumaro begins with the panel that opens movies">
         <source>Lumaro begins with the panel that opens movies</source>
-        <translation>Lumaro מתחיל עם החלון שפותח סרטים</translation>
+        <translation>‏Lumaro מתחיל עם החלון שפותח סרטים</translation>
     </message>
     <message id="Picture">
         <source>Picture</source>
@@ -1892,7 +1892,7 @@
     </message>
     <message id="Lumaro begins as loud as it ended">
         <source>Lumaro begins as loud as it ended</source>
-        <translation>Lumaro מתחיל בעוצמה שבה הסתיים</translation>
+        <translation>‏Lumaro מתחיל בעוצמה שבה הסתיים</translation>
     </message>
     <message id="While Another Program Has the Keyboard">
         <source>While Another Program Has the Keyboard</source>
@@ -2372,7 +2372,7 @@
     </message>
     <message id="SettingsDamagedDetails">
         <source>Lumaro begins with new ones. The damaged file is kept as “%@”.</source>
-        <translation>Lumaro מתחיל עם העדפות חדשות. הקובץ הפגום נשמר בשם ”⁨%@⁩”.</translation>
+        <translation>‏Lumaro מתחיל עם העדפות חדשות. הקובץ הפגום נשמר בשם ”⁨%@⁩”.</translation>
     </message>
     <message id="SettingsUnreadableMessage">
         <source>The preferences can’t be read.</source>
@@ -2492,11 +2492,11 @@
     </message>
     <message id="Lumaro does not know this key.">
         <source>Lumaro does not know this key.</source>
-        <translation>Lumaro אינו מכיר את המקש הזה.</translation>
+        <translation>‏Lumaro אינו מכיר את המקש הזה.</translation>
     </message>
     <message id="Esc closes windows and ends Lumaro; that can’t be changed.">
         <source>Esc closes windows and ends Lumaro; that can’t be changed.</source>
-        <translation>Esc סוגר חלונות ומסיים את Lumaro; לא ניתן לשנות זאת.</translation>
+        <translation>‏Esc סוגר חלונות ומסיים את Lumaro; לא ניתן לשנות זאת.</translation>
     </message>
     <message id="%@ belongs to the desktop.">
         <source>%@ belongs to the desktop.</source>
