@@ -61,14 +61,18 @@ std::vector<Translation> readTranslations(const QStringList& languages) {
     return found;
 }
 
-} // namespace
-
-QString localizedString(const QString& key, int count) {
+const std::vector<Translation>& usedTranslations() {
     Translations& kept = translations();
     if (!kept.read)
         kept.read = readTranslations(localizationLanguages());
+    return *kept.read;
+}
+
+} // namespace
+
+QString localizedString(const QString& key, int count) {
     const QByteArray identifier = key.toUtf8();
-    for (const Translation& translation : *kept.read) {
+    for (const Translation& translation : usedTranslations()) {
         const QString text = translation->translate(nullptr, identifier.constData(), nullptr, count);
         if (!text.isEmpty())
             return text;
@@ -78,6 +82,11 @@ QString localizedString(const QString& key, int count) {
 
 QString localizedFormat(const QString& format, const QStringList& arguments, int count) {
     return formatted(localizedString(format, count), arguments);
+}
+
+Qt::LayoutDirection localizationDirection() {
+    const std::vector<Translation>& used = usedTranslations();
+    return used.empty() ? Qt::LeftToRight : QLocale(used.front()->language()).textDirection();
 }
 
 QStringList localizationLanguages() {

@@ -14,6 +14,10 @@ QString localizedString(const QString& key, int count = -1);
 /// localizedString of the format, its "%@" and "%d" filled in order with the arguments.
 QString localizedFormat(const QString& format, const QStringList& arguments, int count = -1);
 
+/// The direction that the texts are written in, by which panels and menus are laid out: of the language that most texts
+/// come from, not of one that has no translation. Main thread.
+Qt::LayoutDirection localizationDirection();
+
 /// The user's languages ("de", "pt-BR"), the preferred one first.
 QStringList localizationLanguages();
 

@@ -17,8 +17,15 @@ namespace {
 QStringList placeholders(const QString& text) {
     QStringList found;
     auto matches = QRegularExpression("%(?:\\d+\\$)?([@d%])").globalMatch(text);
-    while (matches.hasNext())
-        found.append(matches.next().captured(1));
+    int percentSigns = 0; // Turkish has them in front
+    while (matches.hasNext()) {
+        const QString kind = matches.next().captured(1);
+        if (kind == "%")
+            ++percentSigns;
+        else
+            found.append(kind);
+    }
+    found.append(QString::number(percentSigns));
     return found;
 }
 
@@ -148,6 +155,20 @@ TEST(Localization, every_shipped_translation_is_whole_and_says_what_english_says
             }
             EXPECT_EQ(localizedString(identifier), found->second.forms.first()) << where << " is not what was built";
         }
+    }
+    setLocalizationLanguages({});
+}
+
+TEST(Localization, panels_are_laid_out_as_the_texts_are_written) {
+    const std::pair<const char*, Qt::LayoutDirection> cases[] = {
+        {"ar", Qt::RightToLeft},
+        {"he-IL", Qt::RightToLeft},
+        {"de", Qt::LeftToRight},
+        {"fa", Qt::LeftToRight}, // has no translation
+    };
+    for (const auto& [language, direction] : cases) {
+        setLocalizationLanguages({language});
+        EXPECT_EQ(localizationDirection(), direction) << language;
     }
     setLocalizationLanguages({});
 }

@@ -85,6 +85,8 @@ QtDesktop::QtDesktop(int& argumentCount, char** arguments, const QString& applic
     _application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setApplicationName(applicationName);
     translateOwnTexts(*_application);
+    // Said outright: by itself Qt goes by its own texts, which may be there in another language, or not at all.
+    QApplication::setLayoutDirection(localizationDirection());
     QApplication::setDesktopFileName(QStringLiteral("org.lumaro.Lumaro"));
     QApplication::setQuitOnLastWindowClosed(false);
 }
