@@ -4,7 +4,9 @@
 
 #include <X11/keysym.h>
 
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -71,8 +73,47 @@ TEST_F(HangingDrive, that_stops_to_answer_later_leaves_the_list_and_the_way_out)
     probe.tap(XK_Prior);
     ASSERT_TRUE(logs("QVFeedbackOverlay: Set Text: Previous: red.mp4"));
     ASSERT_TRUE(colorBecomes(red));
+    EXPECT_TRUE(plays());
     probe.tap(XK_Next);
     ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(HangingDrive, that_gives_no_more_of_the_movie_that_plays_leaves_the_list_and_the_way_out) {
+    // Large, so that much of it is yet to be read; and no link, whose content would lie elsewhere.
+    MediaFixture::Numbered large;
+    large.color = blue;
+    large.width = 768;
+    large.height = 432;
+    large.encoder = {"-c:v", "mjpeg", "-q:v", "2", "-pix_fmt", "yuvj420p"};
+    const std::filesystem::path movie = films / "blue.mkv";
+    std::filesystem::copy_file(media().makeNumbered("blue.mkv", large), movie);
+    for (const char* renderer : {"", "opengl"}) {
+        SCOPED_TRACE(renderer);
+        ::setenv("LUMARO_RENDERER", renderer, 1);
+        startBeside({movie, redMovie});
+        ASSERT_TRUE(colorBecomes(blue));
+        ASSERT_TRUE(plays());
+        std::ofstream(drive.string() + ".stalls") << 0;
+        ASSERT_TRUE(settledFrame()) << "there is no more";
+        probe.tap(XK_space);
+        EXPECT_TRUE(logs("QVFeedbackOverlay: Set Text: Movie: Pause"));
+        probe.tap(XK_space);
+        probe.tap(XK_Next);
+        ASSERT_TRUE(colorBecomes(red));
+        EXPECT_TRUE(plays());
+        std::filesystem::remove(drive.string() + ".stalls");
+        probe.tap(XK_Prior);
+        ASSERT_TRUE(colorBecomes(blue));
+        EXPECT_TRUE(plays()) << "the drive is back";
+        std::ofstream(drive.string() + ".stalls") << 0;
+        ASSERT_TRUE(settledFrame());
+        const auto asked = std::chrono::steady_clock::now();
+        ASSERT_TRUE(quitsCleanly());
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - asked;
+        EXPECT_LT(taken.count(), 3) << "half of it is the word and the fade of every end";
+        std::filesystem::remove(drive.string() + ".stalls");
+    }
+    ::unsetenv("LUMARO_RENDERER");
 }
 
 TEST_F(HangingDrive, a_long_walk_says_how_much_it_has_found_and_ends_by_escape) {

@@ -53,6 +53,8 @@ std::unique_ptr<MovieOpening> MovieOpener::open(Probe probe, std::function<void(
 }
 
 void MovieOpener::cancelAll() {
+    if (_underWay.empty())
+        return;
     for (const UnderWay& one : std::exchange(_underWay, {})) {
         if (const auto answer = one.answer.lock())
             answer->abandon();

@@ -108,11 +108,18 @@ MpvCore::MpvCore(mpv_handle* handle)
 MpvCore::~MpvCore() {
     const MpvLibrary& mpv = *MpvLibrary::get();
     mpv.mpv_set_wakeup_callback(_handle, nullptr, nullptr);
-    freeRender();
-    // A file on a drive that hangs holds the core up for good. It is left behind then: the process ends.
-    constexpr double timeout = 2;
-    background::runFor<bool>(timeout, [handle = _handle] {
-        MpvLibrary::get()->mpv_terminate_destroy(handle);
+    if (_isOpenGL)
+        freeRender(); // in its context, which belongs to this thread
+    if (_render)
+        mpv.mpv_render_context_set_update_callback(_render, nullptr, nullptr);
+    // A file on a drive that hangs holds the core up for good. It is left behind then: another takes its place, or the
+    // process ends, for which nobody waits noticeably longer than for others.
+    constexpr double timeout = 0.25;
+    background::runFor<bool>(_isStuck ? 0 : timeout, [handle = _handle, render = _render] {
+        const MpvLibrary& library = *MpvLibrary::get();
+        if (render)
+            library.mpv_render_context_free(render);
+        library.mpv_terminate_destroy(handle);
         return true;
     });
 }
@@ -143,6 +150,7 @@ bool MpvCore::createRender(mpv_render_param* parameters) {
 bool MpvCore::useSoftware() {
     mpv_render_param parameters[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_SW)},
                                      {MPV_RENDER_PARAM_INVALID, nullptr}};
+    _isOpenGL = false;
     return createRender(parameters);
 }
 
@@ -155,6 +163,7 @@ bool MpvCore::useOpenGL(GLContext& context) {
     mpv_render_param parameters[] = {{MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_OPENGL)},
                                      {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &opengl},
                                      {MPV_RENDER_PARAM_INVALID, nullptr}};
+    _isOpenGL = true;
     return createRender(parameters);
 }
 

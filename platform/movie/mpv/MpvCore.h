@@ -32,6 +32,9 @@ public:
     bool useOpenGL(GLContext& context);
     bool useSoftware();
 
+    /// It is stuck in a file that does not answer, and is not waited for when it ends.
+    void leave() { _isStuck = true; }
+
 private:
     explicit MpvCore(mpv_handle* handle);
     void freeRender();
@@ -41,6 +44,8 @@ private:
 
     mpv_handle* _handle;
     mpv_render_context* _render = nullptr;
+    bool _isOpenGL = false;
+    bool _isStuck = false;
     std::function<void()> _events;
     std::function<void()> _pictures;
 };

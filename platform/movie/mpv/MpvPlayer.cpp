@@ -42,6 +42,9 @@ constexpr std::uint64_t transferProperty = 8;
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
 
+// How long the core may take to end a movie before another core takes its place.
+constexpr double startTimeout = 1;
+
 // A file that was written to within these seconds is still growing.
 constexpr qint64 growingSeconds = 3;
 
@@ -60,13 +63,30 @@ void MpvPlayer::dropCore() {
     _firstFrames.cancel();
     _firstFrameWait.reset();
     _video.setFirstShown(nullptr);
+    releaseCore();
+    _delivered.reset();
+}
+
+void MpvPlayer::releaseCore() {
+    _startWait.reset();
     _video.setCore(nullptr);
     apply(playerEvent::CoreDropped{});
     _text.forget();
     _secondText.forget();
     _facts.forget();
     _core.reset();
-    _delivered.reset();
+}
+
+void MpvPlayer::replaceStuckCore() {
+    if (!_core || !_makeCore || isOfMovie(_state))
+        return;
+    Log::write(QStringLiteral("WARNING: MpvPlayer: The movie before %1 does not end; the player goes on without it")
+                   .arg(_movie ? _movie->url().toString() : QString()));
+    _core->leave();
+    releaseCore();
+    for (const auto& [number, completion] : std::exchange(_stills, {}))
+        completion(QImage());
+    _makeCore();
 }
 
 void MpvPlayer::whenFirstFrameIsDone(std::function<void()> work) {
@@ -247,6 +267,8 @@ void MpvPlayer::handle(const mpv_event& event) {
     }
     case MPV_EVENT_START_FILE:
         apply(playerEvent::FileStarted{static_cast<const mpv_event_start_file*>(event.data)->playlist_entry_id});
+        if (isOfMovie(_state))
+            _startWait.reset();
         break;
     case MPV_EVENT_END_FILE: {
         const auto* end = static_cast<const mpv_event_end_file*>(event.data);
@@ -339,6 +361,9 @@ void MpvPlayer::carryOut(const playerEffect::LoadFile& effect) {
     _sentFilters = _movie->info().hasVideo ? filters() : QByteArray();
     const QByteArray options = loadOptions(_movie->info(), effect.start, _state.tracks, *_sentFilters);
     prepareSubtitles();
+    // It starts when the one before has ended, which takes milliseconds unless its file does not answer.
+    if (_state.core->entriesSent > 1 && !_startWait)
+        _startWait = RunLoop::main().schedule(startTimeout, false, [this] { replaceStuckCore(); });
     if (MpvLibrary::get()->dialect().loadArguments == MpvDialect::LoadArguments::flags)
         command({"loadfile", address.constData(), "replace", options.constData()});
     else

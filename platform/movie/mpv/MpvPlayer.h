@@ -77,12 +77,19 @@ public:
     void select(const TrackSelection& selection) override { apply(playerEvent::Select{selection}); }
     VideoLayer* videoLayer() override { return &_video; }
 
-    /// Hands the core over, which is made on another thread; null when there will be none. Any thread, once.
+    /// Called where the core is stuck in a file that does not answer, to have another one made and delivered. Until it
+    /// is, the player is as before the first one.
+    void setCoreMaker(std::function<void()> maker) { _makeCore = std::move(maker); }
+    /// Hands the core over, which is made on another thread; null when there will be none. Any thread, once for each
+    /// that is made.
     void deliverCore(std::unique_ptr<MpvCore> core);
 
 private:
     bool event(QEvent* event) override;
     void adoptCore();
+    /// Ends the core, and forgets what belonged to it.
+    void releaseCore();
+    void replaceStuckCore();
     /// Decodes it beside the core, which takes three times as long for it.
     void prepareFrame(std::int32_t time);
     void showPreparedFrame();
@@ -152,6 +159,8 @@ private:
 
     std::unique_ptr<MpvCore> _delivered;
     std::unique_ptr<MpvCore> _core;
+    std::function<void()> _makeCore;
+    std::unique_ptr<Timer> _startWait; // while the core ends the movie before
     MpvVideoLayer _video;
     FirstFrameDecoder _firstFrames;
     PreparedFrame _prepared;

@@ -49,9 +49,18 @@ void MpvToolkit::enter() {
     // Loading a library holds a lock that starting the window needs, too. So the core comes after the first picture
     // where one is on its way.
     _player.whenFirstFrameIsDone([this] {
-        if (!_coreMaker.joinable() && !*_cancelled)
-            _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
+        if (!_coreMaker.joinable())
+            makeCore();
     });
+    _player.setCoreMaker([this] { makeCore(); });
+}
+
+void MpvToolkit::makeCore() {
+    if (*_cancelled)
+        return;
+    if (_coreMaker.joinable())
+        _coreMaker.join(); // what it made has been handed over
+    _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
 }
 
 void MpvToolkit::exit() {

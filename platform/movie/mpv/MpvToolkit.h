@@ -45,6 +45,7 @@ public:
 
 private:
     class PreparedOpening;
+    void makeCore();
 
     const std::shared_ptr<std::atomic<bool>> _cancelled = std::make_shared<std::atomic<bool>>(false);
     bool _entered = false;

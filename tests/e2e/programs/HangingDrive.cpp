@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Loaded into a program before its libraries: the folder that LUMARO_HANGING_DRIVE names is a drive of a network that
-// does not answer any more once "FOLDER.hangs" stands beside it. Whoever asks it for something waits for good.
+// does not answer any more once "FOLDER.hangs" stands beside it. Whoever asks it for something waits for good. Where
+// "FOLDER.stalls" holds a number, only what lies behind that many bytes of a file on it never comes.
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -52,6 +53,26 @@ void touchAt(int folder, const char* path) {
 template <class Function>
 Function next(const char* name) {
     return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+/// Before a read of the file from there on.
+void touchContent(int descriptor, off_t from) {
+    const std::string& folder = drive();
+    if (folder.empty() || from < 0)
+        return;
+    const std::string limitFile = folder + ".stalls";
+    const auto file = static_cast<int>(::syscall(SYS_openat, AT_FDCWD, limitFile.c_str(), O_RDONLY));
+    if (file < 0)
+        return;
+    char text[32] = {};
+    ::syscall(SYS_read, file, text, sizeof text - 1);
+    ::syscall(SYS_close, file);
+    char target[PATH_MAX] = {};
+    const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+    const bool isThere = ::syscall(SYS_readlink, link.c_str(), target, sizeof target - 1) > 0 &&
+                         std::strncmp(target, (folder + '/').c_str(), folder.size() + 1) == 0;
+    while (isThere && from >= std::atol(text))
+        ::pause();
 }
 
 mode_t modeOf(int flags, va_list& arguments) {
@@ -107,6 +128,10 @@ int statx(int folder, const char* path, int flags, unsigned mask, struct statx* 
 int access(const char* path, int mode) {
     touch(path);
     return next<decltype(&access)>("access")(path, mode);
+}
+ssize_t read(int descriptor, void* bytes, size_t size) {
+    touchContent(descriptor, drive().empty() ? -1 : ::lseek(descriptor, 0, SEEK_CUR));
+    return next<decltype(&read)>("read")(descriptor, bytes, size);
 }
 DIR* opendir(const char* path) {
     touch(path);
