@@ -39,12 +39,6 @@ protected:
     std::string redMovie() const { return user.folder() / "red.mp4"; }
     std::string greenMovie() const { return user.folder() / "green.mp4"; }
 
-    void type(const std::string& text) {
-        for (const char letter : text) {
-            const bool isUpper = (letter >= 'A' && letter <= 'Z') || letter == ':' || letter == '_';
-            probe.tap(static_cast<KeySym>(letter), isUpper ? std::vector<KeySym>{XK_Shift_L} : std::vector<KeySym>{});
-        }
-    }
     /// Whether the next movie is of the colour.
     testing::AssertionResult isFollowedBy(const Color& color) {
         if (!tapUntil(XK_Next, [&] { return probe.pixel(screenWidth / 4, screenHeight * 5 / 6).isNear(color); }))

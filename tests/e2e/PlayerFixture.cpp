@@ -152,6 +152,13 @@ bool PlayerFixture::tapUntil(KeySym key, const std::function<bool()>& condition)
     return became;
 }
 
+void PlayerFixture::type(const std::string& text) {
+    for (const char letter : text) {
+        const bool isUpper = (letter >= 'A' && letter <= 'Z') || letter == ':' || letter == '_';
+        probe.tap(static_cast<KeySym>(letter), isUpper ? std::vector<KeySym>{XK_Shift_L} : std::vector<KeySym>{});
+    }
+}
+
 testing::AssertionResult PlayerFixture::quitsCleanly() {
     probe.tap(XK_Escape);
     const std::optional<int> status = player->waitForExit();

@@ -63,6 +63,8 @@ protected:
     // Presses the key again and again until the condition holds: for panels, whose appearing cannot be seen from
     // outside.
     bool tapUntil(harness::KeySym key, const std::function<bool()>& condition);
+    // Letters and what else stands in paths and addresses.
+    void type(const std::string& text);
     // Leaves with Escape; the status and what went wrong inside.
     testing::AssertionResult quitsCleanly();
 

@@ -69,6 +69,19 @@ protected:
         });
     }
 
+    // Presses a key that opens a panel over the middle of the screen, and waits until keys are the panel's.
+    bool opensPanel(KeySym key, const std::vector<KeySym>& modifiers) {
+        const Color before = probe.pixel(screenWidth / 2, screenHeight * 3 / 4);
+        probe.tap(key, modifiers);
+        return probe.waitForPixel(screenWidth / 2, screenHeight * 3 / 4, [&](const Color& seen) {
+            return !seen.isNear(before);
+        }) && waitUntil([&] {
+                   const std::size_t heard = keysHeard();
+                   probe.tap(XK_F12);
+                   return staysTrue([&] { return keysHeard() == heard; }, Seconds(0.3));
+               });
+    }
+
     // Every key is the menu's: none reached the player's own commands.
     testing::AssertionResult gotNoKey() {
         for (const std::string& line : player->errorLines())
@@ -200,6 +213,40 @@ TEST_F(Wayland, what_is_dragged_in_replaces_the_movie) {
     EXPECT_TRUE(probe.waitForPixel(20, 100, [](const Color& seen) { return seen.isNear(green); }));
     player->signal(SIGTERM);
     EXPECT_EQ(player->waitForExit(), 0);
+}
+
+TEST_F(Wayland, what_the_panels_ask_for_plays) {
+    const std::string redMovie = user.folder() / "red.mp4", greenMovie = user.folder() / "green.mp4";
+    std::filesystem::copy_file(numbered("red.mp4", red, 300), redMovie);
+    std::filesystem::copy_file(numbered("green.mp4", green, 1200), greenMovie);
+    startStanding({redMovie});
+    const struct {
+        KeySym key;
+        std::vector<KeySym> modifiers;
+        std::string typed;
+        std::vector<KeySym> withReturn;
+        Color color;
+    } panels[] = {
+        {XK_o, {XK_Control_L}, "green.mp4", {}, green}, // in the folder of the movie opened last
+        {XK_u, {XK_Control_L}, redMovie, {}, red},
+        {XK_u, {XK_Control_L, XK_Shift_L}, greenMovie, {XK_Control_L}, green},
+    };
+    for (const auto& panel : panels) {
+        ASSERT_TRUE(opensPanel(panel.key, panel.modifiers)) << panel.typed;
+        type(panel.typed);
+        probe.tap(XK_Return, panel.withReturn);
+        ASSERT_TRUE(colorBecomes(panel.color)) << panel.typed;
+        ASSERT_TRUE(frameBecomes(0)) << "the panel is gone";
+        // The compositor gives the keyboard back a moment later.
+        const std::size_t heard = keysHeard();
+        ASSERT_TRUE(tapUntil(XK_F12, [&] { return keysHeard() > heard; }));
+    }
+    EXPECT_EQ(timesLogged("QVOpenURLPanel: Opening URLs: ("), 2U);
+    ASSERT_TRUE(opensPanel(XK_o, {XK_Control_L, XK_Shift_L}));
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(frameBecomes(0)) << "nothing was chosen";
+    ASSERT_TRUE(tapUntil(XK_m, [&] { return isLogged("Char: \"m\""); }));
+    ASSERT_TRUE(quitsCleanly());
 }
 
 TEST_F(Wayland, what_another_launch_hands_over_plays_and_comes_back_at_the_next) {
