@@ -24,6 +24,8 @@ constexpr double partDelay = 0.1;
 constexpr std::size_t maximumPart = 2000;
 /// How long the others wait for an address that comes before them.
 constexpr double addressTimeout = 0.3;
+/// How long another one that is open waits for a file that comes before it: a disk may have to wake up for it.
+constexpr double fileTimeout = 1;
 
 } // namespace
 
@@ -56,14 +58,18 @@ void MovieBatch::add(const QList<MovieSource>& sources) {
     fill(_files);
     fill(_addresses);
     if (!_addresses.places.empty() && !_addressTimer && !_hasDelivered && _first.wait == First::Wait::aMoment) {
-        _addressTimer = _environment.loop.schedule(addressTimeout, false, [this] {
-            _waitsForFirst = false;
-            if (!_undelivered.empty())
-                deliver();
-            // Those behind the first part come as if the address had answered.
-            scheduleDelivery();
-        });
+        _addressTimer = _environment.loop.schedule(addressTimeout, false, [this] { goOnWithoutFirst(); });
     }
+    scheduleDelivery();
+}
+
+void MovieBatch::goOnWithoutFirst() {
+    if (_hasEnded)
+        return;
+    _waitsForFirst = false;
+    if (!_undelivered.empty())
+        deliver();
+    // Those behind the first part come as if the first one had answered.
     scheduleDelivery();
 }
 
@@ -106,6 +112,9 @@ void MovieBatch::opened(std::size_t place, Lane& lane, std::shared_ptr<QVMovie> 
     }
     if (movie)
         (isDoubtful ? _keptBack : _undelivered).push_back({place, std::move(movie)});
+    const bool othersWait = !_undelivered.empty() && !_hasDelivered && !isFirstOpen();
+    if (othersWait && !_fileTimer && _first.wait == First::Wait::aMoment)
+        _fileTimer = _environment.loop.schedule(fileTimeout, false, [this] { goOnWithoutFirst(); });
     if (isDone())
         end();
     else
@@ -172,6 +181,7 @@ void MovieBatch::end() {
     std::ranges::sort(_keptBack, {}, &Entry::place);
     // Not from inside its own timer, which may go with the batch.
     _addressTimer.reset();
+    _fileTimer.reset();
     _client.batchEnded(*this);
 }
 

@@ -45,7 +45,7 @@ public:
     public:
         virtual ~Client() = default;
         /// These are open now, in their order. The first part holds the first movie of all that can be opened, unless
-        /// a network address holds that up that need not be waited for.
+        /// a network address, or a drive that hangs, holds that up and it need not be waited for.
         virtual void batchOpened(MovieBatch& batch, const std::vector<Entry>& entries) = 0;
         /// Nothing is under way any more; the batch may be destroyed here.
         virtual void batchEnded(MovieBatch& batch) = 0;
@@ -114,6 +114,8 @@ private:
     }
     void scheduleDelivery();
     void deliver();
+    /// The first movie is not waited for any more.
+    void goOnWithoutFirst();
     void end();
 
     Environment _environment;
@@ -135,4 +137,5 @@ private:
     bool _hasEnded = false;
     std::unique_ptr<platform::Timer> _partTimer;
     std::unique_ptr<platform::Timer> _addressTimer;
+    std::unique_ptr<platform::Timer> _fileTimer;
 };

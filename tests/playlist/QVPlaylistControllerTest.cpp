@@ -242,6 +242,21 @@ TEST(QVPlaylistController, an_address_that_hangs_holds_up_nothing_and_takes_its_
     }
 }
 
+TEST(QVPlaylistController, a_file_whose_drive_hangs_is_waited_for_while_a_disk_may_wake_up) {
+    HangingRig rig;
+    rig.toolkit.hanging = {url("slow2.avi")};
+    rig.playlist.addURLs(rig.urls({"slow2.avi", "a.avi"}), Adding::replace, Starting::yes);
+    rig.settings.runLoop.advance(0.9);
+    EXPECT_EQ(rig.playlist.count(), 0U);
+    rig.settings.runLoop.advance(0.2);
+    EXPECT_EQ(rig.order(), "a");
+    EXPECT_TRUE(rig.view.isPlaying());
+    rig.toolkit.answer(url("slow2.avi"));
+    rig.settings.runLoop.advance(0.5);
+    EXPECT_EQ(rig.order(), "a slow2") << "what plays stays the first";
+    EXPECT_EQ(rig.playlist.index(), 0U);
+}
+
 TEST(QVPlaylistController, what_is_opened_later_does_not_wait_for_an_address_that_hangs) {
     HangingRig rig;
     QStringList names{"slow.avi"};
