@@ -2060,7 +2060,7 @@
     </message>
     <message id="Frame ra&amp;te:">
         <source>Frame ra&amp;te:</source>
-        <translation>&amp;Fotogramas por segundo:</translation>
+        <translation>&amp;Fotogramas/s:</translation>
     </message>
     <message id="For subtitle files that count pictures instead of seconds">
         <source>For subtitle files that count pictures instead of seconds</source>

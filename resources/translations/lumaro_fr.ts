@@ -1147,7 +1147,7 @@
     </message>
     <message id="In step by two lines: press one while the first line is spoken, the other while the last one is">
         <source>In step by two lines: press one while the first line is spoken, the other while the last one is</source>
-        <translation>Synchroniser par deux répliques : appuyer sur l’une pendant la première réplique, sur l’autre pendant la dernière</translation>
+        <translation>Synchroniser par deux répliques : une touche pendant la première, l’autre pendant la dernière</translation>
     </message>
     <message id="Larger Text">
         <source>Larger Text</source>

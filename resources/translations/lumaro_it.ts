@@ -2060,7 +2060,7 @@
     </message>
     <message id="Frame ra&amp;te:">
         <source>Frame ra&amp;te:</source>
-        <translation>Foto&amp;grammi al secondo:</translation>
+        <translation>Foto&amp;grammi/s:</translation>
     </message>
     <message id="For subtitle files that count pictures instead of seconds">
         <source>For subtitle files that count pictures instead of seconds</source>

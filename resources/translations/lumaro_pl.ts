@@ -413,11 +413,11 @@
     </message>
     <message id="KeyName Page Up">
         <source>Page Up</source>
-        <translation>Page Up</translation>
+        <translation>PgUp</translation>
     </message>
     <message id="KeyName Page Down">
         <source>Page Down</source>
-        <translation>Page Down</translation>
+        <translation>PgDn</translation>
     </message>
     <message id="KeyName Home">
         <source>Home</source>
@@ -1150,7 +1150,7 @@
     </message>
     <message id="In step by two lines: press one while the first line is spoken, the other while the last one is">
         <source>In step by two lines: press one while the first line is spoken, the other while the last one is</source>
-        <translation>Synchronizacja dwiema kwestiami: naciśnij jeden klawisz, gdy pada pierwsza kwestia, a drugi, gdy pada ostatnia</translation>
+        <translation>Synchronizacja dwiema kwestiami: jeden klawisz, gdy pada pierwsza, drugi, gdy pada ostatnia</translation>
     </message>
     <message id="Larger Text">
         <source>Larger Text</source>

@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QStyleOptionComboBox>
 #include <QStyleOptionGroupBox>
 #include <QTabBar>
 #include <QTabWidget>
@@ -186,6 +187,21 @@ TEST_P(PreferencesLayout, tab_goes_once_to_each_control_of_a_page_in_the_order_o
 TEST_P(PreferencesTexts, every_text_fits_a_small_screen) {
     show();
     expectEveryTextFits();
+    // In the window as it stands on that screen, what is chosen is read whole, too.
+    controller->window().resize(smallestScreen * 19 / 20);
+    for (int page = 0; page < pages().count(); ++page) {
+        pages().setCurrentIndex(page);
+        QApplication::processEvents();
+        for (const auto* popUp : pages().widget(page)->findChildren<QComboBox*>()) {
+            QStyleOptionComboBox option;
+            option.initFrom(popUp);
+            const QRect field =
+                popUp->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, popUp);
+            const int wanted = popUp->fontMetrics().horizontalAdvance(popUp->currentText());
+            EXPECT_TRUE(!popUp->isVisible() || popUp->isEditable() || wanted <= field.width())
+                << language << ", " << nameOf(*popUp) << " shows " << field.width() << " of " << wanted;
+        }
+    }
 }
 
 TEST_P(PreferencesLayout, texts_twice_as_long_fit_too) {
