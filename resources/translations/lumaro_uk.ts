@@ -1604,7 +1604,7 @@
     </message>
     <message id="StyleAbovePictureEdge">
         <source>Inside the picture</source>
-        <translation>Усередині зображення</translation>
+        <translation>У зображенні</translation>
     </message>
     <message id="StyleOnPictureEdge">
         <source>On the picture’s edge</source>
