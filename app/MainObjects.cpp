@@ -105,6 +105,7 @@ MainObjects::MainObjects(const Environment& environment, const Platform& platfor
     _menu.submenu("deinterlacing").setFiller([this](platform::Menu& menu) { _controller.fillDeinterlacingMenu(menu); });
     _menu.submenu("colors").setFiller([this](platform::Menu& menu) { _controller.fillColorsMenu(menu); });
     _menu.submenu("audio-tracks").setFiller([this](platform::Menu& menu) { _controller.fillAudioMenu(menu); });
+    _menu.submenu("quality").setFiller([this](platform::Menu& menu) { _controller.fillQualityMenu(menu); });
     _menu.submenu("second-subtitles").setFiller([this](platform::Menu& menu) { _controller.fillSecondMenu(menu); });
     _window.contentView().addSubview(_backdrop);
     _window.contentView().addSubview(_view);

@@ -4,8 +4,10 @@
 #include "overlays/ClockText.h"
 #include "platform/base/Localization.h"
 #include "platform/movie/PlaybackFacts.h"
+#include "playback/BitRateText.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
+#include "playback/StreamQuality.h"
 #include "playback/TrackNames.h"
 #include "subtitles/QVSubtitlesController.h"
 
@@ -31,22 +33,8 @@ Group groupOf(const char* title) {
     return {localizedString(QString::fromLatin1(title)), {}};
 }
 
-/// At most so many digits behind the point, none that say nothing.
-QString number(double value, int digits) {
-    const double scale = std::pow(10, digits);
-    return QLocale().toString(std::round(value * scale) / scale, 'g', QLocale::FloatingPointShortest);
-}
-
 QString count(std::int64_t value) {
     return QLocale().toString(static_cast<qlonglong>(value));
-}
-
-/// "Mbit/s" and "kbit/s" are written so everywhere.
-QString bitRate(double bits) {
-    if (bits <= 0)
-        return {};
-    return bits >= 1e6 ? number(bits / 1e6, 1) + QStringLiteral(" Mbit/s")
-                       : QLocale().toString(std::llround(bits / 1000)) + QStringLiteral(" kbit/s");
 }
 
 QString joined(QStringList parts) {
@@ -68,12 +56,12 @@ QString pictureSize(const PlaybackFacts& facts) {
 QString frameRate(const PlaybackFacts& facts) {
     if (facts.frameRate <= 0)
         return {};
-    const QString told = number(facts.frameRate, 3);
+    const QString told = shortNumber(facts.frameRate, 3);
     // Measured, it wavers.
     const bool isAsTold = std::abs(facts.measuredFrameRate - facts.frameRate) < facts.frameRate / 50;
-    return facts.measuredFrameRate <= 0 || isAsTold
-               ? localizedFormat(QStringLiteral("%@ a second"), {told})
-               : localizedFormat(QStringLiteral("%@ a second, now %@"), {told, number(facts.measuredFrameRate, 1)});
+    return facts.measuredFrameRate <= 0 || isAsTold ? localizedFormat(QStringLiteral("%@ a second"), {told})
+                                                    : localizedFormat(QStringLiteral("%@ a second, now %@"),
+                                                                      {told, shortNumber(facts.measuredFrameRate, 1)});
 }
 
 QString dynamicRange(const QVMovie& movie, const PlaybackFacts& facts) {
@@ -94,7 +82,7 @@ Group fileGroup(const QVMovie& movie, const PlaybackFacts& facts) {
         add("Duration", stringWithTimeIntervalInSeconds(movie.durationInSeconds()), group);
     if (movie.info().fileSize >= 0)
         add("File size", QLocale().formattedDataSize(movie.info().fileSize), group);
-    add("Bit rate", bitRate(movie.info().bitRate), group);
+    add("Bit rate", bitRateText(movie.info().bitRate), group);
     return group;
 }
 
@@ -113,7 +101,7 @@ Group pictureGroup(const QVMovie& movie, const PlaybackFacts& facts) {
     add("Frame rate", frameRate(facts), group);
     add("Dynamic range", dynamicRange(movie, facts), group);
     add("Color", joined({facts.pixelFormat, facts.primaries}), group);
-    add("Bit rate", bitRate(facts.videoBitRate), group);
+    add("Bit rate", bitRateText(facts.videoBitRate), group);
     return group;
 }
 
@@ -124,15 +112,17 @@ Group soundGroup(const QVMovie& movie, const PlaybackFacts& facts) {
     add("Codec", facts.audioCodec, group);
     add("Channels", facts.channels, group);
     if (facts.sampleRate > 0)
-        add("Sample rate", number(facts.sampleRate / 1000.0, 3) + QStringLiteral(" kHz"), group);
-    add("Bit rate", bitRate(facts.audioBitRate), group);
+        add("Sample rate", shortNumber(facts.sampleRate / 1000.0, 3) + QStringLiteral(" kHz"), group);
+    add("Bit rate", bitRateText(facts.audioBitRate), group);
     add("Output", facts.audioOutput, group);
     return group;
 }
 
 Group tracksGroup(const QVMovie& movie, const QString& subtitles) {
     Group group = groupOf("Tracks");
-    for (const MovieTrack& track : movie.tracks()) {
+    if (const MovieTrack* played = StreamQuality::find(movie.qualities(), movie.quality()))
+        add("Quality", StreamQuality::nameOf(*played), group);
+    for (const MovieTrack& track : StreamQuality::withSoundOf(movie.tracks(), movie.quality())) {
         const bool isPlayed = track.kind == MovieTrack::Kind::audio && track.id == movie.audioTrack();
         const QString name = TrackNames::nameOf(track);
         if (track.kind == MovieTrack::Kind::audio)
@@ -154,11 +144,17 @@ Group framesGroup(const QVMovie& movie, const PlaybackFacts& facts) {
     return group;
 }
 
+QString seconds(double value) {
+    return localizedFormat(QStringLiteral("%@ s"), {QLocale().toString(value, 'f', 1)});
+}
+
 Group bufferGroup(const PlaybackFacts& facts) {
     Group group = groupOf("Buffer");
-    add("Ready", localizedFormat(QStringLiteral("%@ s"), {QLocale().toString(facts.bufferSeconds, 'f', 1)}), group);
+    if (facts.behindLive)
+        add("Behind Live", seconds(*facts.behindLive), group);
+    add("Ready", seconds(facts.bufferSeconds), group);
     if (facts.bufferSpeed > 0)
-        add("Filling", bitRate(facts.bufferSpeed * 8), group);
+        add("Filling", bitRateText(facts.bufferSpeed * 8), group);
     return group;
 }
 

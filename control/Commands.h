@@ -149,6 +149,8 @@ inline constexpr const char* setDeinterlacingOperation = "setDeinterlacing";
 inline constexpr const char* adjustPictureOperation = "adjustPicture";
 /// Of the items of the menu of tracks of sound; their tags are the tracks' numbers.
 inline constexpr const char* changeAudioOperation = "changeAudio";
+/// Of the items of the menu of a stream's qualities; their tags are the tracks' numbers.
+inline constexpr const char* changeQualityOperation = "changeQuality";
 /// Of the items of the menu of second subtitles; their tags are positions among the movie's tracks.
 inline constexpr const char* changeSecondOperation = "changeSecondSubtitles";
 /// Of the subtitles menu's last item.

@@ -39,7 +39,7 @@ QVMovieController::QVMovieController(const Environment& environment, const Colla
             if (changed.key == kQVSubtitlesRepair)
                 listSubtitles(_listedMovie.lock());
             else if (changed.key == kQVPreferredLanguages && _with.view.movie())
-                _with.view.movie()->selectAudio();
+                _with.view.movie()->selectTracks();
             else if (changed.key == kQVCommandKeys)
                 _keyboardMap = KeyboardMap(_with.commands.all());
         });

@@ -97,6 +97,7 @@ public:
     void fillDeinterlacingMenu(platform::Menu& menu);
     void fillColorsMenu(platform::Menu& menu);
     void fillAudioMenu(platform::Menu& menu);
+    void fillQualityMenu(platform::Menu& menu);
     void fillSecondMenu(platform::Menu& menu);
 
     void windowDidBecomeKey(platform::Window& window) override;
@@ -171,6 +172,11 @@ private:
     void changeAudio(std::int32_t id, Feedback feedback);
     void cycleAudio(std::int32_t direction, Feedback feedback);
     bool validateAudio(platform::MenuItem& item) const;
+    void changeQuality(std::int32_t id, Feedback feedback);
+    void nextQuality(std::int32_t, Feedback feedback);
+    bool validateQuality(platform::MenuItem& item) const;
+    void goLive(std::int32_t, Feedback feedback);
+    bool validateLive(platform::MenuItem& item) const;
     void doOpen(std::int32_t, Feedback feedback);
     void doOpenFolder(std::int32_t, Feedback feedback);
     void doOpenURL(std::int32_t type, Feedback feedback);

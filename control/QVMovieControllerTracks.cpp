@@ -6,7 +6,6 @@
 #include "platform/base/Localization.h"
 #include "platform/base/Log.h"
 #include "platform/window/WindowHost.h"
-#include "playback/AudioChoice.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 #include "playback/TrackNames.h"
@@ -19,7 +18,7 @@ using platform::MovieTracks;
 namespace {
 
 MovieTracks audioTracksOf(const std::shared_ptr<QVMovie>& movie) {
-    return movie ? AudioChoice::tracks(movie->tracks()) : MovieTracks();
+    return movie ? movie->audioTracks() : MovieTracks();
 }
 
 /// The position of a track among them, -1 for one that is not there.

@@ -10,6 +10,7 @@
 #include "playback/AudioChoice.h"
 #include "playback/EmbeddedSubtitles.h"
 #include "playback/MovieOrdering.h"
+#include "playback/StreamQuality.h"
 #include "playback/SubtitleDiscovery.h"
 #include "playback/TrackNames.h"
 #include "settings/PreferredLanguages.h"
@@ -277,7 +278,7 @@ void QVMovie::listEmbedded() {
 
 void QVMovie::tracksChanged() {
     listEmbedded();
-    selectAudio();
+    selectTracks();
     post<QVMovieTracksChangedNotification>();
 }
 
@@ -291,24 +292,58 @@ void QVMovie::secondSubtitleTextChanged() {
         track->secondTextChanged();
 }
 
+platform::MovieTracks QVMovie::audioTracks() const {
+    return AudioChoice::tracks(StreamQuality::withSoundOf(tracks(), quality()));
+}
+
+platform::MovieTracks QVMovie::qualities() const {
+    return StreamQuality::choices(tracks());
+}
+
 void QVMovie::setAudioTrack(int id) {
     _chosenAudio = id;
-    selectAudio();
+    selectTracks();
 }
 
 std::optional<int> QVMovie::chosenAudio() const {
-    const platform::MovieTracks choices = AudioChoice::tracks(tracks());
+    const platform::MovieTracks choices = audioTracks();
     const bool isThere = _chosenAudio && std::ranges::count(choices, *_chosenAudio, &platform::MovieTrack::id) > 0;
     return isThere ? _chosenAudio : std::nullopt;
 }
 
-void QVMovie::selectAudio() {
-    const std::optional<int> chosen = chosenAudio();
-    const int id = chosen ? *chosen : AudioChoice::first(tracks(), PreferredLanguages::of(_environment.settings));
-    platform::TrackSelection wanted = selection();
-    if (id == 0 || wanted.audio == id)
+void QVMovie::setQuality(int id) {
+    const platform::MovieTracks offered = qualities();
+    const platform::MovieTrack* const wanted = StreamQuality::find(offered, id);
+    if (!wanted)
         return;
-    wanted.audio = id;
+    _environment.settings.setInteger(wanted == &offered.front() ? 0 : StreamQuality::kilobitsOf(*wanted),
+                                     kQVStreamQuality);
+    _chosenQuality = id;
+    // Each quality has tracks of sound of its own, in the same order.
+    const platform::MovieTracks before = audioTracks();
+    const auto chosen = std::ranges::find(before, _chosenAudio.value_or(0), &platform::MovieTrack::id);
+    const platform::MovieTracks after = AudioChoice::tracks(StreamQuality::withSoundOf(tracks(), id));
+    const auto place = static_cast<std::size_t>(chosen - before.begin());
+    if (chosen != before.end() && place < after.size())
+        _chosenAudio = after[place].id;
+    selectTracks();
+}
+
+void QVMovie::selectTracks() {
+    platform::TrackSelection wanted = selection();
+    const int quality = _chosenQuality && StreamQuality::find(qualities(), *_chosenQuality)
+                            ? *_chosenQuality
+                            : StreamQuality::first(tracks(), _environment.settings.integerForKey(kQVStreamQuality));
+    if (quality != 0)
+        wanted.video = quality;
+    const platform::MovieTracks heard = StreamQuality::withSoundOf(tracks(), quality);
+    const bool isThere =
+        _chosenAudio && std::ranges::count(AudioChoice::tracks(heard), *_chosenAudio, &platform::MovieTrack::id) > 0;
+    const int id = isThere ? *_chosenAudio : AudioChoice::first(heard, PreferredLanguages::of(_environment.settings));
+    if (id != 0)
+        wanted.audio = id;
+    if (wanted == selection())
+        return;
     select(wanted);
     post<QVMovieTracksChangedNotification>();
 }

@@ -84,10 +84,19 @@ public:
     int audioTrack() const { return selection().audio.value_or(0); }
     /// Plays it, because the user wants to: the movie keeps it, and is remembered with it.
     void setAudioTrack(int id);
+    /// Those of sound that can be chosen: of a stream in several qualities, those of the one that plays.
+    platform::MovieTracks audioTracks() const;
     /// What the user wants, of the tracks that there are.
     std::optional<int> chosenAudio() const;
-    /// Plays the chosen track, else the one of the preferred languages. To be called before it is shown.
-    void selectAudio();
+    /// The qualities that a stream can be played in, the best one first; none where there is no choice.
+    platform::MovieTracks qualities() const;
+    /// The number of the one that plays; 0 where there is no choice.
+    int quality() const { return selection().video.value_or(0); }
+    /// Plays one of them, with the sound of the same kind. What it needs is remembered for other streams.
+    void setQuality(int id);
+    /// Plays what was chosen, else the best quality that is wanted, and the sound of the preferred languages. To be
+    /// called before it is shown.
+    void selectTracks();
     QString audioLanguage() const override;
 
     /// Moves the time, draws the new picture and posts QVMovieInterestingTimeNotification.
@@ -140,6 +149,7 @@ private:
     QString _secondTrack;
     std::vector<std::shared_ptr<EmbeddedSubtitles>> _embedded;
     std::optional<int> _chosenAudio;
+    std::optional<int> _chosenQuality;
     /// That in which the files were looked for; none where they were not.
     std::optional<ReadingMode> _fetchedIn;
     bool _isOpened = true;

@@ -26,6 +26,8 @@ constexpr const char* className = "QVMovieView";
 constexpr double panInterval = 0.05;
 /// Seconds after which it is said that nothing comes.
 constexpr double stallTimeout = 4;
+/// Seconds by which a live movie is behind at least where that is worth a word.
+constexpr double noticeablyBehind = 2;
 
 } // namespace
 
@@ -63,7 +65,7 @@ void QVMovieView::setMovie(const std::shared_ptr<QVMovie>& movie) {
     setFrame(platform::Rect());
     showController(true, false);
     if (movie)
-        movie->selectAudio();
+        movie->selectTracks();
     setMovieObject(movie);
     if (movie)
         movie->resetCallbacks();
@@ -181,6 +183,15 @@ void QVMovieView::waitChanged(const platform::MoviePlayer::Wait& wait) {
         _waitMessage.end();
         return;
     }
+    if (wait.what == What::lostConnection) {
+        _waitMessage.end();
+        _feedback.postFeedback(platform::localizedString(QStringLiteral("Connection Lost")));
+        return;
+    }
+    if (wait.what == What::connection) {
+        _waitMessage.show(platform::localizedString(QStringLiteral("Reconnecting...")));
+        return;
+    }
     if (wait.what == What::beginning)
         _waitMessage.show(
             platform::localizedFormat(QStringLiteral("Loading: %@"), {fileNameOfURL(movieObject()->url())}));
@@ -239,6 +250,11 @@ void QVMovieView::setCoveredHeight(double points) {
 
 QString QVMovieView::clockText(double seconds) const {
     return stringWithTimeIntervalInSeconds(static_cast<std::int32_t>(seconds));
+}
+
+QString QVMovieView::liveText(double seconds) const {
+    return seconds < noticeablyBehind ? platform::localizedString(QStringLiteral("Live"))
+                                      : u'\u2212' + clockText(seconds);
 }
 
 void QVMovieView::barButtonPressed(platform::ControllerBar::Control button) {

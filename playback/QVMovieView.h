@@ -101,6 +101,7 @@ public:
 
 protected:
     QString clockText(double seconds) const override;
+    QString liveText(double seconds) const override;
     void barButtonPressed(platform::ControllerBar::Control button) override;
     void controllerStateChanged() override;
     void playingChanged(bool playing) override;

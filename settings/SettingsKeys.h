@@ -64,6 +64,8 @@ inline const QString kQVVobSubOverlayStyle = QStringLiteral("QVVobSubOverlayStyl
 inline const QString kQVFullscreenOverlayStyle = QStringLiteral("QVFullscreenOverlayStyle");
 inline const QString kQVRememberMovies = QStringLiteral("QVRememberMovies");
 inline const QString kQVSavedState = QStringLiteral("QVSavedState");
+/// So many thousand bits a second a stream may need, where it is offered in several qualities; 0: the best one.
+inline const QString kQVStreamQuality = QStringLiteral("QVStreamQuality");
 inline const QString kQVOpenVideoPages = QStringLiteral("QVOpenVideoPages");
 inline const QString kQVOpenURLRecentListS = QStringLiteral("QVOpenURLRecentListS");
 inline const QString kQVOpenURLRecentListM = QStringLiteral("QVOpenURLRecentListM");

@@ -3,10 +3,12 @@
 
 #include "bench/peers/Movies.h"
 #include "bench/peers/ProcessFigures.h"
+#include "bench/peers/SoundServer.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <limits>
 #include <stdexcept>
@@ -148,6 +150,8 @@ const Samples& Measurements::run() {
         measureLargePictures();
     if (wants("switch"))
         measureSubtitleSwitch();
+    if (wants("audio"))
+        measureAudioSwitch();
     if (wants("interlaced"))
         measureInterlaced();
     return _samples;
@@ -449,6 +453,24 @@ void Measurements::measureSubtitleSwitch() {
                 _samples.add("switch", player->name(), (now() - before) * 1000);
             endAndClear(process);
         }
+}
+
+void Measurements::measureAudioSwitch() {
+    const std::string movie = makeTwoSounds(_media, _plainMovie).string();
+    SoundServer sound(_folder / "sound");
+    ::setenv("PULSE_SERVER", sound.address().c_str(), 1); // for the players
+    for (int round = 0; round < _plan.jumpRounds; ++round)
+        for (const Player* player : turnOf(round)) {
+            auto process = startPlaying(*player, {movie}, player->soundOptions());
+            pause(2.5 + 0.11 * round);
+            const KeyPress key = player->nextAudioKey();
+            const double before = now();
+            _probe.tap(key.key, key.modifiers);
+            if (const auto heard = sound.toneAfter(before, Seconds(5)))
+                _samples.add("audio", player->name(), (*heard - before) * 1000);
+            endAndClear(process);
+        }
+    ::unsetenv("PULSE_SERVER");
 }
 
 void Measurements::measureInterlaced() {

@@ -27,9 +27,9 @@ struct Plan {
 
     static Plan quick();
 };
-inline const std::set<std::string> rowNames = {"start", "cpu",   "memory",    "paused",    "jump",   "open",
-                                               "osd",   "fade",  "subtitles", "track",     "change", "drag",
-                                               "long",  "large", "switch",    "interlaced"};
+inline const std::set<std::string> rowNames = {"start", "cpu",   "memory",    "paused",     "jump",   "open",
+                                               "osd",   "fade",  "subtitles", "track",      "change", "drag",
+                                               "long",  "large", "switch",    "interlaced", "audio"};
 
 // What was measured: a player's samples for a figure.
 class Samples {
@@ -67,6 +67,7 @@ private:
     void measureLongStart();
     void measureLargePictures();
     void measureSubtitleSwitch();
+    void measureAudioSwitch();
     void measureInterlaced();
 
     // A player that shows the movie. Throws std::runtime_error with its words when it does not.

@@ -132,8 +132,23 @@ std::filesystem::path makeTwoTracks(const harness::MediaFixture& media, const st
         std::ofstream(file) << "1\n" << subRipTime(0) << " --> " << subRipTime(59'000) << '\n' << text << "\n\n";
         arguments.insert(arguments.end(), {"-i", file.string()});
     }
-    arguments.insert(arguments.end(), {"-map", "0:v", "-map", "1:s", "-map", "2:s", "-c:v", "copy", "-c:s", "srt"});
+    arguments.insert(arguments.end(), {"-map", "0:v", "-map", "1:s", "-map", "2:s", "-c:v", "copy", "-c:s", "srt",
+                                       "-disposition:s:0", "default"});
     return media.make("two tracks.mkv", arguments, bigMovieTimeout);
+}
+
+std::filesystem::path makeTwoSounds(const harness::MediaFixture& media, const std::filesystem::path& plainMovie) {
+    return media.make("two sounds.mkv", {"-i",   plainMovie.string(),
+                                         "-f",   "lavfi",
+                                         "-i",   "anullsrc=r=48000:d=60",
+                                         "-f",   "lavfi",
+                                         "-i",   "sine=f=1000:r=48000:d=60",
+                                         "-map", "0:v",
+                                         "-map", "1:a",
+                                         "-map", "2:a",
+                                         "-c:v", "copy",
+                                         "-c:a", "ac3"},
+                      bigMovieTimeout);
 }
 
 std::filesystem::path makeInterlacedMovie(const harness::MediaFixture& media) {

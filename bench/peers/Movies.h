@@ -35,6 +35,8 @@ std::filesystem::path makeLargeMovie(const harness::MediaFixture& media);
 // The plain movie with two tracks of subtitles inside: one line throughout, and three lines throughout.
 std::filesystem::path makeTwoTracks(const harness::MediaFixture& media, const std::filesystem::path& plainMovie,
                                     const std::filesystem::path& folder);
+// The plain movie with two tracks of sound inside: silence, and a tone.
+std::filesystem::path makeTwoSounds(const harness::MediaFixture& media, const std::filesystem::path& plainMovie);
 // A minute of moving test picture, 1080i at 50 fields a second, striped like the first.
 std::filesystem::path makeInterlacedMovie(const harness::MediaFixture& media);
 

@@ -38,7 +38,7 @@ Player::Player(Kind kind, const std::filesystem::path& folder)
     , _folder(folder / _name) {
     std::filesystem::create_directories(_folder / "run");
     if (kind == Kind::mpv)
-        std::ofstream(_folder / "input.conf") << "x seek 10\nz seek 10 exact\ny playlist-next\n";
+        std::ofstream(_folder / "input.conf") << "x seek 10\nz seek 10 exact\ny playlist-next\nu cycle audio\n";
     ::chmod((_folder / "run").c_str(), 0700);
     if (kind == Kind::vlc && ::geteuid() == 0)
         for (const std::filesystem::path& path : {_folder, _folder / "run"})
@@ -115,6 +115,31 @@ KeyPress Player::nextSubtitlesKey() const {
         break;
     }
     return {XK_s, {}};
+}
+
+KeyPress Player::nextAudioKey() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {XK_u, {}};
+    case Kind::vlc:
+        return {XK_b, {}};
+    case Kind::lumaro:
+        break;
+    }
+    return {XK_a, {}};
+}
+
+std::vector<std::string> Player::soundOptions() const {
+    switch (_kind) {
+    case Kind::mpv:
+        return {"--ao=pulse"};
+    case Kind::vlc:
+        return {"--audio", "--aout=pulse"};
+    case Kind::lumaro:
+        break;
+    }
+    // The track that was chosen before would be its first one.
+    return {"--set", "QVRememberMovies=NO"};
 }
 
 std::vector<std::string> Player::firstTrackOptions() const {

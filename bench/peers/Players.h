@@ -39,6 +39,7 @@ public:
     KeyPress exactJumpKey() const;
     // The next track of the subtitles inside the movie.
     KeyPress nextSubtitlesKey() const;
+    KeyPress nextAudioKey() const;
     // The next movie of the list.
     KeyPress nextKey() const;
 
@@ -48,6 +49,8 @@ public:
     // With these the first track inside a movie is shown from the beginning; fields become pictures of their own.
     std::vector<std::string> firstTrackOptions() const;
     std::vector<std::string> deinterlacingOptions() const;
+    // With these it plays its sound, on the server that PULSE_SERVER names.
+    std::vector<std::string> soundOptions() const;
     std::vector<std::string> subtitleOptions(const std::filesystem::path& movie) const;
 
 private:

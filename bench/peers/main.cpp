@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Lumaro beside other players and prints a table:
 //   bench_side_by_side [--quick] [--rows start,cpu,memory,paused,jump,open,osd,subtitles,track,fade,change,drag,
-//                                         long,large,switch,interlaced]
+//                                         long,large,switch,audio,interlaced]
 // Progress and every sample go to standard error.
 #include "bench/peers/Measurements.h"
 
@@ -34,6 +34,7 @@ const std::vector<Line> lines = {
     {"start with four hours of Matroska and thirty tracks, ms", "long", {"mpv", "VLC"}, "%.0f", 1.0, {}},
     {"pictures left out of 2160p24 HEVC in ten bits, percent", "large", {"mpv", "VLC"}, "%.1f", 1.0, {}},
     {"another subtitle track inside the movie: key to its text, ms", "switch", {"mpv", "VLC"}, "%.0f", 1.0, {}},
+    {"another audio track inside the movie: key to its sound, ms", "audio", {"mpv", "VLC"}, "%.0f", 1.0, {}},
     {"CPU seconds a second of 1080i50, deinterlaced", "interlaced", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"CPU seconds a second of 1080p30 H.264", "cpu", {"mpv", "VLC"}, "%.3f", 1.0, {}},
     {"the X server's CPU seconds meanwhile", "server", {"mpv", "VLC"}, "%.3f", {}, {}},

@@ -112,6 +112,7 @@ ControllerBar::State ControllerBar::shownState(const State& state, const QSizeF&
     shown.volume = places.volume.isEmpty() ? (state.volume > 0 ? (state.volume > 0.5 ? 1.0 : 0.5) : 0.0)
                                            : coarse(state.volume, places.volume);
     shown.position = coarse(state.position, places.time);
+    shown.arrived = coarse(state.arrived, places.time);
     return shown;
 }
 

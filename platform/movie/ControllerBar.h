@@ -30,6 +30,8 @@ public:
         double volume = 1.0;
         /// 0 to 1 of the duration.
         double position = 0;
+        /// Up to where the movie has arrived, in shares of the duration; 0 where there is nothing to show of that.
+        double arrived = 0;
         /// As they are shown; empty for none.
         QString time = {};
         QString duration = {};

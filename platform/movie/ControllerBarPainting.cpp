@@ -19,7 +19,7 @@ constexpr double knob = 4;
 /// Of the texts, points of the bar.
 constexpr int textSize = 10;
 
-void drawSlider(QPainter& painter, const QRectF& slider, double value, bool pointed) {
+void drawSlider(QPainter& painter, const QRectF& slider, double value, double arrived, bool pointed) {
     const double length = slider.width() - 2 * knob;
     if (length <= 0)
         return;
@@ -28,6 +28,10 @@ void drawSlider(QPainter& painter, const QRectF& slider, double value, bool poin
     const QRectF track(slider.left() + knob, middle - 1.5, length, 3);
     painter.setBrush(QColor(255, 255, 255, 60));
     painter.drawRoundedRect(track, 1.5, 1.5);
+    if (arrived > value) {
+        painter.setBrush(QColor(255, 255, 255, 60));
+        painter.drawRoundedRect(QRectF(track.left(), track.top(), std::min(arrived, 1.0) * length, 3), 1.5, 1.5);
+    }
     painter.setBrush(QColor(255, 255, 255, 150));
     painter.drawRoundedRect(QRectF(track.left(), track.top(), at - track.left(), 3), 1.5, 1.5);
     painter.setBrush(pointed ? QColor(Qt::white) : full);
@@ -133,11 +137,11 @@ void ControllerBar::draw(QPainter& painter, const QSizeF& size, const State& sta
         drawSpeaker(painter, places.mute.center(), full, state);
     if (begin(places.tracks, Control::tracks))
         drawTracks(painter, places.tracks.center(), full);
-    drawSlider(painter, places.volume, state.volume, state.pointed == Control::volume);
+    drawSlider(painter, places.volume, state.volume, 0, state.pointed == Control::volume);
     drawText(painter, places.timeText, state.time, Qt::AlignHCenter);
     drawText(painter, places.durationText, state.duration, Qt::AlignHCenter);
     drawMarks(painter, places, marks);
-    drawSlider(painter, places.time, state.position, state.pointed == Control::time);
+    drawSlider(painter, places.time, state.position, state.arrived, state.pointed == Control::time);
     painter.restore();
 }
 

@@ -46,6 +46,8 @@ struct MovieInfo {
     int quarterTurns = 0;
     /// Pictures in the video track: the container's count, else duration times average rate, rounded; 0 without video.
     std::uint32_t videoSampleCount = 0;
+    /// Comes from a network as it is made: it has no known end, and no beginning to go back to.
+    bool isLive = false;
     /// Whether the container's header says how long the movie lasts. Else `duration` is that of what has arrived.
     bool saysDuration = true;
     /// Units of timeScale that one picture stays on average; 0 when not known.

@@ -25,9 +25,10 @@ public:
     MoviePlayer& operator=(const MoviePlayer&) = delete;
     virtual ~MoviePlayer() = default;
 
-    /// What playing waits for. Only movies of a network have to be waited for.
+    /// What playing waits for. Only movies of a network have to be waited for. A connection that broke is made again
+    /// for a while; then it is lost, and the player pauses: to play is to try again.
     struct Wait {
-        enum class What { nothing, beginning, more };
+        enum class What { nothing, beginning, more, connection, lostConnection };
         What what = What::nothing;
         /// How much of what is needed to go on has come.
         int percent = 0;
@@ -88,6 +89,14 @@ public:
     };
     virtual std::optional<Section> repeated() const = 0;
     virtual void repeat(const std::optional<Section>& section) = 0;
+
+    /// By how many seconds a live movie is behind what could be seen of it now: as it began it was not. None for
+    /// others.
+    virtual std::optional<double> behindLive() const = 0;
+    /// Plays a live movie from what can be seen of it now.
+    virtual void goLive() = 0;
+    /// Up to which time a movie from a network has arrived; 0 where that is not known, and for others.
+    virtual std::int32_t arrivedUntil() const = 0;
 
     /// The loaded movie's shape has changed.
     virtual void shapeChanged() = 0;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSize>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -29,6 +31,14 @@ struct MovieTrack {
     bool isCover = false;
     /// From a file of its own, which the player was given beside the movie's.
     bool isExternal = false;
+    /// Of a picture, as it is stored; empty where it is not known.
+    QSize size = {};
+    /// Of a track of a stream that is offered in several qualities: bits a second of the variant that it belongs to,
+    /// sound included where they come together. 0 else.
+    std::int64_t variantBitRate = 0;
+    /// The variants of such a stream that the track is played in, by their numbers; none where each picture goes with
+    /// each sound.
+    std::vector<int> variants = {};
     /// What subtitles are made of. Styled texts have places and fonts of their own; unknown ones cannot be shown.
     enum class Content { none, unknown, text, styledText, bitmaps };
     Content content = Content::none;
@@ -40,6 +50,8 @@ using MovieTracks = std::vector<MovieTrack>;
 
 /// What is played of a movie's tracks, and when.
 struct TrackSelection {
+    /// The number of a picture. Without a choice the player takes the first one, or the best that a stream offers.
+    std::optional<int> video = {};
     /// A track's number. Without a choice the player takes the one that the file recommends.
     std::optional<int> audio = {};
     /// The number of a track of subtitles, 0 for none; `subtitleFile`, where there is one, comes before it.

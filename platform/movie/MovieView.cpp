@@ -46,6 +46,10 @@ void MovieView::stop() {
         _player.pause();
 }
 
+std::optional<double> MovieView::behindLive() const {
+    return _movie ? _player.behindLive() : std::nullopt;
+}
+
 bool MovieView::isPlaying() const {
     return _movie && _player.isPlaying();
 }
@@ -279,8 +283,8 @@ void MovieView::performController(const ControllerBar::Command& command) {
         setVolume(static_cast<float>(command.value));
         break;
     case Control::time:
-        if (_movie && _movie->duration() > 0) {
-            const auto time = static_cast<std::int32_t>(std::lround(command.value * _movie->duration()));
+        if (sliderLength() > 0) {
+            const auto time = static_cast<std::int32_t>(std::lround(command.value * sliderLength()));
             if (time != _player.time())
                 _player.seek(time, MoviePlayer::JumpReport::reported);
         }
@@ -311,11 +315,21 @@ ControllerBar::State MovieView::controllerState() const {
         return state;
     const double units = std::max(_movie->timeScale(), 1);
     state.time = clockText(_player.time() / units);
-    if (_movie->duration() <= 0)
+    const double length = sliderLength();
+    if (length <= 0)
         return state;
-    state.duration = clockText(_movie->duration() / units);
-    state.position = std::clamp(static_cast<double>(_player.time()) / _movie->duration(), 0.0, 1.0);
+    const std::optional<double> behind = _player.behindLive();
+    state.duration = behind ? liveText(*behind) : clockText(length / units);
+    state.position = std::clamp(_player.time() / length, 0.0, 1.0);
+    state.arrived = std::clamp(_player.arrivedUntil() / length, 0.0, 1.0);
     return state;
+}
+
+double MovieView::sliderLength() const {
+    if (!_movie)
+        return 0;
+    const std::optional<double> behind = _player.behindLive();
+    return behind ? _player.time() + *behind * _movie->timeScale() : std::max(_movie->duration(), 0);
 }
 
 } // namespace platform

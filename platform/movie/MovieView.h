@@ -44,6 +44,9 @@ public:
     void wholePicture(std::function<void(QImage)> completion) { _player.still(std::move(completion)); }
     /// MoviePlayer::facts().
     void facts(std::function<void(const PlaybackFacts&)> completion) const { _player.facts(std::move(completion)); }
+    /// MoviePlayer::behindLive() and goLive().
+    std::optional<double> behindLive() const;
+    void goLive() { _player.goLive(); }
     float volume() const;
     virtual void setVolume(float volume);
     bool isMuted() const;
@@ -93,6 +96,8 @@ protected:
     bool isTrackingController() const { return _tracking; }
     /// Seconds as the bar shows them; empty, as by default, for a bar without texts.
     virtual QString clockText(double) const { return {}; }
+    /// By how many seconds a live movie is behind, as the bar shows it in place of a duration.
+    virtual QString liveText(double) const { return {}; }
     /// A button was pressed that is no matter of the player.
     virtual void barButtonPressed(ControllerBar::Control) {}
     /// What controllerState() answers may be another.
@@ -109,6 +114,8 @@ private:
     void playerStateChanged() override;
     void playerWaitChanged(const MoviePlayer::Wait& wait) override { waitChanged(wait); }
     void playerFailed() override { movieFailed(); }
+    /// What the time slider reaches over, in units: a live movie's reaches to what is live. 0 where that is not known.
+    double sliderLength() const;
     Rect controllerRect() const;
     double controllerHeight() const;
     /// The bar's own size, and a point of the view in its coordinates.

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace platform {
 
@@ -43,6 +44,8 @@ struct PlaybackFacts {
     /// How much of the movie lies ready, seconds, and how fast more of it comes, bytes a second.
     double bufferSeconds = 0;
     double bufferSpeed = 0;
+    /// Of a live movie: seconds by which it is behind what could be seen now.
+    std::optional<double> behindLive = {};
 
     friend bool operator==(const PlaybackFacts&, const PlaybackFacts&) = default;
 };

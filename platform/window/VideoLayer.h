@@ -15,6 +15,9 @@ public:
     virtual ~GLContext() = default;
     virtual bool makeCurrent() = 0;
     virtual void* procAddress(const char* name) = 0;
+    /// Who draws: a graphics device, or the processor in its place.
+    enum class Drawing { byDevice, byProcessor };
+    virtual Drawing drawing() = 0;
 };
 
 /// A picture that renders itself straight into a window host's target, below everything that is drawn over it.

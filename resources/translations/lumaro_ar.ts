@@ -3027,6 +3027,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>لا تظهر كترجمة ثانية إلا النصوص، ولا يظهر مسار مرتين</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>الجودة</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>الجودة: ⁨%@⁩</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>الجودة التالية</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>الجودة التالية للبث</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>جودة واحدة فقط</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>الانتقال إلى البث المباشر</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>الانتقال إلى ما يُبث الآن مباشرة</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>ليس بثًا مباشرًا</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>مباشر</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>التأخر عن البث المباشر</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>جارٍ إعادة الاتصال…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>انقطع الاتصال</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

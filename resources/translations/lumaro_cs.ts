@@ -3018,6 +3018,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Jako druhé titulky lze zobrazit jen texty, a žádnou stopu dvakrát</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Kvalita</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Kvalita: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Další kvalita</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Další kvalita přenosu</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Jen jedna kvalita</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Přejít na živé vysílání</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Přejít na to, co je právě živě</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Není to živé vysílání</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Živě</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Zpoždění za živým vysíláním</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Obnovování spojení…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Spojení ztraceno</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Als zweite Untertitel können nur Texte gezeigt werden, und keine Spur zweimal</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Qualität: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Nächste Qualität</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Nächste Qualität eines Streams</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Nur eine Qualität</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Zur Livestelle gehen</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Zur Livestelle gehen</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Kein Livestream</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Hinter live</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Verbindung wird wiederhergestellt …</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Verbindung verloren</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Only texts can be shown as second subtitles, and no track twice</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Quality: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Next Quality</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Next quality of a stream</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Only One Quality</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Go to Live</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Go to what is live now</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Not a Live Stream</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Behind Live</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Reconnecting...</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Connection Lost</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

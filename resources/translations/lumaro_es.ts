@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Solo los textos se pueden mostrar como segundos subtítulos, y ninguna pista dos veces</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Calidad: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Calidad siguiente</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Calidad siguiente de una transmisión</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Una sola calidad</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Ir al directo</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Ir a lo que se emite ahora</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>No es una transmisión en directo</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>En directo</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Retraso respecto al directo</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Reconectando…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Conexión perdida</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Seuls des textes peuvent servir de seconds sous-titres, et aucune piste deux fois</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Qualité : %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Qualité suivante</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Qualité suivante d’un flux</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Une seule qualité</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Aller au direct</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Aller à ce qui passe en direct</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Pas un flux en direct</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Direct</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Retard sur le direct</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Reconnexion…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Connexion perdue</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>ככתוביות שניות אפשר להציג רק טקסט, ואף רצועה אינה מוצגת פעמיים</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>איכות</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>איכות: ⁨%@⁩</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>האיכות הבאה</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>האיכות הבאה של הזרם</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>איכות אחת בלבד</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>מעבר לשידור החי</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>מעבר למה שמשודר כעת</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>זה לא שידור חי</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>שידור חי</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>פיגור אחרי השידור החי</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>מתחבר מחדש…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>החיבור אבד</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3012,6 +3012,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>第 2 字幕に表示できるのはテキストだけで、同じトラックは 2 度使えません</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>画質: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>次の画質</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>ストリームの次の画質</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>画質は1つだけです</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>ライブへ移動</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>現在のライブ位置へ移動</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>ライブ配信ではありません</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>ライブからの遅れ</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>再接続中…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>接続が切れました</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

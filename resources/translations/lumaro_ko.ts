@@ -3012,6 +3012,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>두 번째 자막으로는 텍스트만 표시할 수 있고, 같은 트랙을 두 번 표시할 수 없습니다</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>화질</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>화질: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>다음 화질</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>스트림의 다음 화질</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>화질이 하나뿐입니다</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>실시간으로 이동</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>지금 실시간인 곳으로 이동</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>실시간 방송이 아닙니다</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>실시간</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>실시간보다 늦음</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>다시 연결하는 중…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>연결이 끊어짐</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Alleen teksten kunnen als tweede ondertitels worden getoond, en geen spoor twee keer</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Kwaliteit: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Volgende kwaliteit</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Volgende kwaliteit van een stream</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Maar één kwaliteit</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Naar live gaan</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Naar wat nu live is gaan</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Geen livestream</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Achter op live</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Opnieuw verbinden…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Verbinding verbroken</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

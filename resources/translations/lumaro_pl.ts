@@ -3018,6 +3018,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Jako drugie napisy można pokazywać tylko teksty, a żadnej ścieżki dwa razy</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Jakość</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Jakość: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Następna jakość</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Następna jakość strumienia</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Tylko jedna jakość</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Przejdź na żywo</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Przejdź do tego, co jest na żywo</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>To nie jest transmisja na żywo</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Na żywo</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Opóźnienie względem transmisji</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Ponowne łączenie…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Utracono połączenie</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

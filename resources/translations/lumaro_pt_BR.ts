@@ -3015,6 +3015,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Somente textos podem ser mostrados como segundas legendas, e nenhuma faixa duas vezes</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Qualidade</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Qualidade: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Próxima qualidade</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Próxima qualidade de um stream</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Só uma qualidade</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Ir para o ao vivo</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Ir para o que está ao vivo</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Não é um stream ao vivo</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Ao vivo</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Atraso do ao vivo</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Reconectando…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Conexão perdida</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3018,6 +3018,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Вторыми субтитрами могут быть только текстовые, и ни одна дорожка не показывается дважды</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Качество</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Качество: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Следующее качество</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Следующее качество потока</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Только одно качество</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Перейти к прямому эфиру</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Перейти к прямому эфиру</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Это не прямой эфир</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Прямой эфир</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Отставание от эфира</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Повторное подключение…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Соединение потеряно</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

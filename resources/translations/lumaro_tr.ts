@@ -3012,6 +3012,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>İkinci altyazı olarak yalnızca metinler gösterilebilir ve hiçbir parça iki kez gösterilemez</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Kalite</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Kalite: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Sonraki Kalite</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Bir akışın sonraki kalitesi</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Tek Kalite Var</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Canlıya Git</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Şu an canlı olana git</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Canlı Yayın Değil</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Canlı</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Canlının Gerisinde</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Yeniden bağlanılıyor…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>Bağlantı Kesildi</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3018,6 +3018,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>Другими субтитрами можуть бути лише текстові, і жодна доріжка не показується двічі</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Якість</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>Якість: %@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>Наступна якість</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>Наступна якість потоку</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>Лише одна якість</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>Перейти до прямого ефіру</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>Перейти до прямого ефіру</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>Це не прямий ефір</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>Наживо</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>Відставання від ефіру</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>Повторне з’єднання…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>З’єднання втрачено</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

@@ -3012,6 +3012,54 @@
         <source>Only texts can be shown as second subtitles, and no track twice</source>
         <translation>只有文本字幕可以作为第二字幕，且同一轨道不能显示两次</translation>
     </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>画质</translation>
+    </message>
+    <message id="Quality: %@">
+        <source>Quality: %@</source>
+        <translation>画质：%@</translation>
+    </message>
+    <message id="Next Quality">
+        <source>Next Quality</source>
+        <translation>下一种画质</translation>
+    </message>
+    <message id="Next quality of a stream">
+        <source>Next quality of a stream</source>
+        <translation>流的下一种画质</translation>
+    </message>
+    <message id="Only One Quality">
+        <source>Only One Quality</source>
+        <translation>只有一种画质</translation>
+    </message>
+    <message id="Go to Live">
+        <source>Go to Live</source>
+        <translation>跳转到直播</translation>
+    </message>
+    <message id="Go to what is live now">
+        <source>Go to what is live now</source>
+        <translation>跳转到当前直播的位置</translation>
+    </message>
+    <message id="Not a Live Stream">
+        <source>Not a Live Stream</source>
+        <translation>不是直播</translation>
+    </message>
+    <message id="Live">
+        <source>Live</source>
+        <translation>直播</translation>
+    </message>
+    <message id="Behind Live">
+        <source>Behind Live</source>
+        <translation>落后于直播</translation>
+    </message>
+    <message id="Reconnecting...">
+        <source>Reconnecting...</source>
+        <translation>正在重新连接…</translation>
+    </message>
+    <message id="Connection Lost">
+        <source>Connection Lost</source>
+        <translation>连接已断开</translation>
+    </message>
 </context>
 <context>
     <name>Information</name>

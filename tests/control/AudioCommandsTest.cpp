@@ -53,3 +53,33 @@ TEST_F(AudioCommands, Tracks_are_chosen_by_key_and_menu_and_named) {
     EXPECT_FALSE(controller.validateMenuItem(menu.itemAt(0)));
     platform::setLocalizationLanguages({});
 }
+
+TEST_F(AudioCommands, Qualities_of_a_stream_are_chosen_by_key_and_menu_and_what_is_live_is_gone_to) {
+    platform::setLocalizationLanguages({"en"});
+    show();
+    press(u'q');
+    EXPECT_EQ(posted(), "Only One Quality");
+    press(platform::functionKey::end);
+    EXPECT_EQ(posted(), "Not a Live Stream");
+    platform::Menu menu;
+    controller.fillQualityMenu(menu);
+    EXPECT_EQ(titles(menu), "Only One Quality");
+    EXPECT_FALSE(controller.validateMenuItem(menu.itemAt(0)));
+
+    for (const auto& [id, bitRate] : {std::pair(1, 700'000), std::pair(2, 3'000'000)})
+        toolkit.tracks.push_back({.kind = platform::MovieTrack::Kind::video, .id = id, .variantBitRate = bitRate});
+    const auto movie = show();
+    press(u'q');
+    EXPECT_EQ(posted(), "Quality: 700 kbit/s (2/2)");
+    press(u'q');
+    EXPECT_EQ(posted(), "Quality: 3 Mbit/s (1/2)");
+    controller.fillQualityMenu(menu);
+    controller.performMenuItem(menu.itemAt(1));
+    EXPECT_EQ(movie->quality(), 1);
+    EXPECT_TRUE(controller.validateMenuItem(menu.itemAt(1)) && menu.itemAt(1).state);
+    player().behind = 12;
+    press(platform::functionKey::end);
+    EXPECT_EQ(posted(), "Live");
+    EXPECT_EQ(player().livePlaces, 1);
+    platform::setLocalizationLanguages({});
+}

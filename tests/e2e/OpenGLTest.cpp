@@ -4,8 +4,10 @@
 
 #include <signal.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -82,5 +84,48 @@ TEST_F(OpenGL, magnifies_and_follows_the_pointer_to_the_edges) {
     probe.drag(300, 200, 1200, 650);
     probe.drag(300, 200, 1200, 650);
     EXPECT_TRUE(areSeen(red, red, red)) << "its upper left corner is not reached";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(OpenGL, goes_on_when_its_window_is_resized_and_hidden) {
+    startOpenGL({numbered("red.mp4", red, 1200)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 3; }, "playing"));
+    const WindowId window = probe.windowAt(screenWidth / 2, screenHeight / 2);
+    int seen = frame().value_or(0);
+    const auto movesOnIn = [&](int width, int height) {
+        const int before = seen;
+        return waitUntil([&] {
+            seen = MediaFixture::frameNumber(probe, {0, 0, width, height}).value_or(0);
+            return seen > before + 5;
+        });
+    };
+    probe.resizeWindow(window, 960, 540);
+    EXPECT_TRUE(movesOnIn(960, 540));
+    EXPECT_TRUE(probe.pixel(950, 530).isNear(red) && !probe.pixel(970, 550).isNear(red));
+    probe.resizeWindow(window, screenWidth, screenHeight);
+    EXPECT_TRUE(movesOnIn(screenWidth, screenHeight));
+    probe.setWindowShown(window, false);
+    EXPECT_TRUE(waitUntil([&] { return !frame(); }));
+    probe.setWindowShown(window, true);
+    EXPECT_TRUE(movesOnIn(screenWidth, screenHeight));
+    probe.tap(XK_space);
+    EXPECT_TRUE(waitUntil([&] { return showsFeedback(); })) << "no feedback stands over the picture";
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(OpenGL, goes_on_when_its_context_is_lost) {
+    std::map<std::string, std::string> environment = openGLEnvironment();
+    std::string& preloaded = environment["LD_PRELOAD"];
+    preloaded += (preloaded.empty() ? "" : ":") + std::string(LUMARO_LOST_CONTEXT_LIBRARY);
+    const std::filesystem::path lost = user.folder() / "lost";
+    environment["LUMARO_LOST_CONTEXT"] = lost.string();
+    startRecorded(LUMARO_PROGRAM, environment, {numbered("red.mp4", red, 1200)});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 3; }, "playing"));
+    std::ofstream(lost) << "now\n";
+    ASSERT_TRUE(logs("QtWindowHost: The OpenGL context is lost"));
+    const int before = frame().value_or(0);
+    EXPECT_TRUE(frameBecomes([&](int seen) { return seen > before + 30; }, "going on"));
+    probe.tap(XK_space);
+    EXPECT_TRUE(waitUntil([&] { return showsFeedback(); })) << "no feedback stands over the picture";
     ASSERT_TRUE(quitsCleanly());
 }

@@ -39,6 +39,14 @@ protected:
     std::string redMovie() const { return user.folder() / "red.mp4"; }
     std::string greenMovie() const { return user.folder() / "green.mp4"; }
 
+    /// A file of one cue, apart from the movies.
+    std::string writeSubtitles() const {
+        const std::filesystem::path file = user.folder() / "elsewhere/words.srt";
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file) << "1\n00:00:00,000 --> 00:00:30,000\nWords\n";
+        return file;
+    }
+
     /// Whether the next movie is of the colour.
     testing::AssertionResult isFollowedBy(const Color& color) {
         if (!tapUntil(XK_Next, [&] { return probe.pixel(screenWidth / 4, screenHeight * 5 / 6).isNear(color); }))
@@ -117,6 +125,21 @@ TEST_F(OpeningByPortal, where_the_portal_cannot_ask_the_players_own_panel_does) 
     ASSERT_TRUE(opensWindow(XK_o, {XK_Control_L, XK_Shift_L}));
     player->signal(SIGTERM);
     EXPECT_EQ(player->waitForExit(), 0);
+}
+
+TEST_F(OpeningByPortal, subtitles_are_added_to_the_movie_that_plays_and_come_back_with_it) {
+    startPortal({"0", "false", "file://" + writeSubtitles()});
+    start({redMovie()});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    probe.tap(XK_e, {XK_Control_L});
+    ASSERT_TRUE(portal->waitForErrorLine("OpenFile(x11:"));
+    EXPECT_TRUE(logs("QVTextSubView: Set Text: Words"));
+    const std::optional<int> seen = frame();
+    EXPECT_TRUE(frameBecomes([&](int now) { return now > seen.value_or(0) + 10; }, "playing on"));
+    ASSERT_TRUE(quitsCleanly());
+    start({redMovie()});
+    EXPECT_TRUE(logs("QVTextSubView: Set Text: Words")) << "they are not remembered with it";
+    ASSERT_TRUE(quitsCleanly());
 }
 
 TEST_F(OpeningByPortal, the_desktops_own_panel_says_where_the_playlist_is_saved) {
@@ -226,6 +249,19 @@ TEST_F(Dropping, what_hovers_is_said_and_taken_as_a_copy_or_a_link_but_never_mov
     EXPECT_TRUE(colorBecomes(red));
     source.reset();
     EXPECT_TRUE(isFollowedBy(green));
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Dropping, subtitles_are_added_to_the_movie_that_plays) {
+    start({redMovie()});
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen > 2; }, "playing"));
+    startSource("copy,move", {writeSubtitles()});
+    ASSERT_TRUE(hovers(400, 600));
+    EXPECT_TRUE(logs("Set Text: Add to the Movie as Subtitles"));
+    probe.releaseButton();
+    EXPECT_TRUE(logs("QVTextSubView: Set Text: Words"));
+    source.reset();
+    EXPECT_TRUE(frameBecomes([](int seen) { return seen > 60; }, "playing on"));
     ASSERT_TRUE(quitsCleanly());
 }
 

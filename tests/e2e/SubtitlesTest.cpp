@@ -144,7 +144,8 @@ TEST_F(Subtitles, keys_bring_the_lines_of_files_and_those_inside_in_step) {
 
 TEST_F(Subtitles, a_second_track_stands_at_the_top_at_the_same_time) {
     const auto cueOfAll = [](const std::string& text) { return "1\n00:00:00,000 --> 00:00:09,000\n" + text + "\n\n"; };
-    startStanding(movie({{"a.srt", cueOfAll("Below")}, {"b.srt", cueOfAll("Above")}}));
+    const std::string film = movie({{"a.srt", cueOfAll("Below")}, {"b.srt", cueOfAll("Above")}});
+    startStanding(film);
     const auto stands = [&] { return !letters({screenWidth / 4, 0, screenWidth / 2, screenHeight / 4}).empty(); };
     ASSERT_FALSE(cue().empty());
     EXPECT_FALSE(stands());
@@ -152,6 +153,10 @@ TEST_F(Subtitles, a_second_track_stands_at_the_top_at_the_same_time) {
     EXPECT_TRUE(logs("Set Text: Above"));
     EXPECT_TRUE(waitUntil(stands));
     EXPECT_FALSE(cue().empty()) << "the first one went";
+    ASSERT_TRUE(quitsCleanly());
+    // It is remembered with its movie.
+    startStanding(film);
+    EXPECT_TRUE(waitUntil(stands));
     probe.tap(XK_s, {XK_Alt_L});
     EXPECT_TRUE(waitUntil([&] { return !stands(); }));
     ASSERT_TRUE(quitsCleanly());

@@ -112,8 +112,6 @@ protected:
     bool stands(const Color& color) {
         return waitUntil([&] { return boxOf(color).width > 0; });
     }
-    // At last: in OpenGL a movie that is loaded standing shows its second keyframe for some frames now and then, with
-    // the subtitles of that place.
     bool nothingStands(const Color& color) {
         return waitUntil([&] { return staysTrue([&] { return boxOf(color).width == 0; }, Seconds(0.15)); });
     }
@@ -194,10 +192,9 @@ TEST_F(Tracks, bitmaps_and_styled_scripts_stand_in_the_picture_with_both_rendere
             EXPECT_TRUE(nothingStands(c.color));
             probe.tap(XK_Right, {XK_Control_L});
             EXPECT_TRUE(stands(c.color));
-            const Region box = boxOf(c.color);
-            if (c.left > 0) {
-                EXPECT_NEAR(box.x, c.left, 6);
-            }
+            // Between the keyframe and the exact picture behind it there may be one without the subtitle.
+            EXPECT_TRUE(c.left == 0 || waitUntil([&] { return std::abs(boxOf(c.color).x - c.left) <= 6; }))
+                << boxOf(c.color).x;
             probe.tap(XK_s);
             EXPECT_TRUE(nothingStands(c.color)) << "switched off";
             probe.tap(XK_s);

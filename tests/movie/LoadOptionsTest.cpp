@@ -31,7 +31,7 @@ TEST(LoadOptions, say_start_turn_and_threads_only_where_they_are_not_as_usual) {
         movie.naturalSize = c.size;
         EXPECT_EQ(platform::loadOptions(movie, c.start, {}, platform::filterOption({.fileTurns = c.quarterTurns}))
                       .toStdString(),
-                  std::string("aid=auto,sid=no,secondary-sid=no") + c.options);
+                  std::string("vid=auto,aid=auto,sid=no,secondary-sid=no") + c.options);
     }
 }
 
@@ -57,9 +57,9 @@ TEST(LoadOptions, one_thread_decodes_what_it_can_decode_well_in_time) {
 TEST(LoadOptions, a_local_movie_opens_nothing_but_itself) {
     platform::MovieInfo movie;
     movie.url = QUrl::fromLocalFile(QStringLiteral("/a/movie.mp4"));
-    EXPECT_EQ(
-        platform::loadOptions(movie, 2.5, {}, {}).toStdString(),
-        "aid=auto,sid=no,secondary-sid=no,start=2.500000,access-references=no,demuxer-lavf-o=protocol_whitelist=none");
+    EXPECT_EQ(platform::loadOptions(movie, 2.5, {}, {}).toStdString(),
+              "vid=auto,aid=auto,sid=no,secondary-sid=no,start=2.500000,access-references=no,demuxer-lavf-o=protocol_"
+              "whitelist=none");
 }
 
 TEST(LoadOptions, say_the_tracks_each_time) {
@@ -67,10 +67,11 @@ TEST(LoadOptions, say_the_tracks_each_time) {
         platform::TrackSelection tracks;
         const char* options;
     } cases[] = {
-        {{}, "aid=auto,sid=no,secondary-sid=no"},
-        {{.audio = 2, .subtitles = 11, .secondSubtitles = 3}, "aid=2,sid=11,secondary-sid=3"},
-        {{.audio = 0, .subtitles = -1}, "aid=no,sid=no,secondary-sid=no"},
-        {{.subtitles = 1, .subtitleFile = QStringLiteral("/a,b.ass")}, "aid=auto,sid=no,secondary-sid=no"},
+        {{}, "vid=auto,aid=auto,sid=no,secondary-sid=no"},
+        {{.audio = 2, .subtitles = 11, .secondSubtitles = 3}, "vid=auto,aid=2,sid=11,secondary-sid=3"},
+        {{.video = 3}, "vid=3,aid=auto,sid=no,secondary-sid=no"},
+        {{.audio = 0, .subtitles = -1}, "vid=auto,aid=no,sid=no,secondary-sid=no"},
+        {{.subtitles = 1, .subtitleFile = QStringLiteral("/a,b.ass")}, "vid=auto,aid=auto,sid=no,secondary-sid=no"},
     };
     for (const auto& c : cases) {
         platform::MovieInfo movie;

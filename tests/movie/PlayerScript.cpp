@@ -43,6 +43,7 @@ std::string textOf(const PlayerEffect& effect, const PlayerState& state) {
                           },
                           [](const SetVolume& e) { return with("volume", e.volume); },
                           [](const SetMuted& e) { return std::string(e.muted ? "mute" : "unmute"); },
+                          [&](const SelectVideo&) { return with("video", state.tracks.video.value_or(-1)); },
                           [&](const SelectAudio&) { return with("audio", state.tracks.audio.value_or(-1)); },
                           [&](const SelectSubtitles&) {
                               return with("subtitles", state.tracks.subtitles) +

@@ -457,6 +457,26 @@ TEST(PlayerState, what_has_arrived_of_a_growing_file_is_no_end_while_it_plays) {
     EXPECT_EQ(stream(DurationGrew{12.5}), "") << "where no end is known none is made up";
 }
 
+TEST(PlayerState, a_live_movie_goes_on_where_it_cannot_be_sent_and_when_it_is_loaded_anew) {
+    PlayerScript player = PlayerScript::showing(live);
+    player(Play{});
+    player(TimeChanged{30});
+    EXPECT_EQ(player(SeekFailed{}), "") << "nothing was asked for";
+    EXPECT_EQ(player(Seek{500, silent}), "pause, seek 5 keyframe | state");
+    EXPECT_EQ(player(SeekFailed{}), "cancel keyframe, go | state");
+    EXPECT_EQ(player.time(), 3000);
+    EXPECT_EQ(player(TimeChanged{30.04}), "| state, frame 3004");
+
+    EXPECT_EQ(player(Seek{500, silent}), "pause, seek 5 keyframe | state");
+    EXPECT_EQ(player(Reload{0}), "cancel all, go, load 0 | jump, state");
+    EXPECT_EQ(player.time(), 0);
+    EXPECT_EQ(player(TimeChanged{30.2}), "") << "of the load before";
+    EXPECT_EQ(player(FrameDue{}), "skip frame");
+    player(FileStarted{2});
+    EXPECT_EQ(player(PlaybackRestarted{}), "use frame | frame");
+    EXPECT_EQ(player(TimeChanged{0.2}), "| state, frame 20") << "it plays as it did";
+}
+
 TEST(PlayerState, playing_from_the_end_of_the_duration_begins_again_also_where_it_was_sought) {
     for (const auto& [time, startsOver] : {std::pair{999, false}, {1000, true}}) {
         PlayerScript player = PlayerScript::showing();
@@ -535,8 +555,9 @@ TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_tol
     player(CoreReady{});
     EXPECT_EQ(player(Load{tenSeconds, 0, {.audio = 2, .subtitles = 1, .audioDelay = 0.5}}),
               "cancel all, delays 0.5 0, load 0 | frame");
-    EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 1, .audioDelay = 0.5}}), "") << "would be told the movie before";
-    player(FileStarted{1});
+    EXPECT_EQ(player(Select{{.audio = 4, .subtitles = 1, .audioDelay = 0.5}}), "load 0") << "not begun with yet";
+    player(FileStarted{2});
+    EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 1, .audioDelay = 0.5}}), "") << "begun with: it is told later";
     EXPECT_EQ(player(PlaybackRestarted{}), "use frame, audio 3 | frame");
     EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 2, .audioDelay = 0.5}}), "subtitles 2, arm text 0.2")
         << "it rests, and a resting core reads no text";
@@ -545,6 +566,8 @@ TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_tol
     player(PlaybackRestarted{});
     EXPECT_EQ(player(Play{}), "go | state");
     EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 1, .audioDelay = 0.5}}), "subtitles 1");
+    EXPECT_EQ(player(Select{{.video = 2, .audio = 4, .subtitles = 1, .audioDelay = 0.5}}), "video 2, audio 4");
+    EXPECT_EQ(player(Select{{.audio = 3, .subtitles = 1, .audioDelay = 0.5}}), "video -1, audio 3");
     const struct {
         TrackSelection tracks;
         const char* told;
@@ -564,11 +587,11 @@ TEST(PlayerState, tracks_are_those_of_the_load_and_what_changes_meanwhile_is_tol
     // The next movie begins with its own; a file is added once it is there.
     EXPECT_EQ(player(Load{tenSeconds, 0, {.subtitleFile = QStringLiteral(" b.ass"), .audioDelay = 1}}),
               "cancel all, pause, delays 1 0, load 0 | frame");
-    player(FileStarted{2});
+    player(FileStarted{3});
     EXPECT_EQ(player(PlaybackRestarted{}), "use frame, subtitles 0 b.ass | frame");
     EXPECT_EQ(player(Load{tenSeconds, 100}), "cancel all, delays 0 0, load 1 | frame");
+    player(FileStarted{4});
     player(Select{{.subtitles = 4, .drawn = TrackSelection::Drawn::inPicture}});
-    player(FileStarted{3});
     EXPECT_EQ(player(PlaybackRestarted{}), "use frame, subtitles 4 drawn, arm text 0.2 | frame");
     EXPECT_EQ(player(CoreDropped{}), "cancel all");
     EXPECT_EQ(player(Select{{.audio = 1}}), "") << "kept for the next core";

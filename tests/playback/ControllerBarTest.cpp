@@ -34,6 +34,30 @@ struct BarRig : PlaybackRig {
 
 } // namespace
 
+TEST(ControllerBar, shows_what_has_arrived_and_of_a_live_movie_how_far_it_is_behind) {
+    BarRig rig;
+    rig.player().arrived = 9000;
+    EXPECT_EQ(rig.view.controllerState().arrived, 0.25);
+    const auto lightAt = [&](double share) {
+        QImage picture(640, 16, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        const ControllerBar::State shown = rig.view.controllerState();
+        ControllerBar::draw(painter, rig.size, shown, {});
+        const ControllerBar::Layout places = ControllerBar::layout(rig.size, shown);
+        return qGray(picture.pixel(static_cast<int>(places.placeOf(share)), 8));
+    };
+    EXPECT_GT(lightAt(0.2), lightAt(0.3) + 10);
+
+    rig.view.movie()->setTime(12000);
+    rig.player().behind = 5;
+    EXPECT_EQ(rig.view.controllerState().duration, u'\u2212' + QStringLiteral("0:00:05"));
+    EXPECT_EQ(rig.view.controllerState().position, 12000.0 / 15000);
+    rig.view.performController({ControllerBar::Control::time, 0.2});
+    EXPECT_EQ(rig.view.time(), 3000);
+    rig.player().behind = 1;
+    EXPECT_EQ(rig.view.controllerState().duration, "Live");
+}
+
 TEST(ControllerBar, its_controls_play_seek_and_change_the_volume) {
     BarRig rig;
     rig.window.dispatchMouseDown(rig.at(ControllerBar::layout(rig.size, rig.state).play.center().x()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/base/Localization.h"
 #include "playback/AudioChoice.h"
+#include "playback/StreamQuality.h"
 #include "playback/TrackNames.h"
 #include "settings/SettingsKeys.h"
 #include "subtitles/QVSubtitle.h"
@@ -84,11 +85,47 @@ TEST(MovieTracks, the_sound_follows_the_languages_until_the_user_chooses) {
     movie->setAudioTrack(1);
     ASSERT_EQ(rig.player().selections.size(), 1U);
     EXPECT_EQ(rig.player().selections.back().audio, 1);
-    movie->selectAudio();
+    movie->selectTracks();
     EXPECT_EQ(movie->chosenAudio(), 1);
     movie->setAudioTrack(7);
     EXPECT_EQ(movie->audioTrack(), 2) << "there is no such track";
     EXPECT_FALSE(movie->chosenAudio());
+}
+
+TEST(MovieTracks, of_a_stream_in_several_qualities_one_plays_with_its_sound) {
+    const auto picture = [](int id, QSize size, int bitRate, std::vector<int> variants) {
+        return MovieTrack{.kind = Kind::video, .id = id, .size = size, .variantBitRate = bitRate, .variants = variants};
+    };
+    const auto soundOf = [](int id, const char* language, std::vector<int> variants) {
+        MovieTrack track = sound(id, language);
+        track.variants = std::move(variants);
+        return track;
+    };
+    PlaybackRig rig;
+    rig.settings.defaults().setObject(QStringList{"en"}, kQVPreferredLanguages);
+    rig.toolkit.tracks = {picture(1, {640, 360}, 800'000, {0}),     soundOf(1, "eng", {0}), soundOf(2, "ger", {0}),
+                          picture(2, {1920, 1080}, 4'500'000, {1}), soundOf(3, "eng", {1}), soundOf(4, "ger", {1}),
+                          picture(3, {1280, 720}, 2'000'000, {2}),  soundOf(5, "fra", {})};
+    const auto movie = rig.show();
+    const auto playsNow = [&] { return std::pair(movie->quality(), movie->audioTrack()); };
+    EXPECT_EQ(playsNow(), std::pair(2, 3)) << "the best";
+    std::string names;
+    for (const MovieTrack& track : movie->qualities())
+        names += StreamQuality::nameOf(track).toStdString() + '|';
+    EXPECT_EQ(names, "1920 × 1080, 4.5 Mbit/s|1280 × 720, 2 Mbit/s|640 × 360, 800 kbit/s|");
+    EXPECT_EQ(movie->audioTracks().size(), 3U);
+    movie->setAudioTrack(4);
+    movie->setQuality(1);
+    EXPECT_EQ(playsNow(), std::pair(1, 2)) << "in the language that was chosen";
+    movie->setQuality(7);
+    EXPECT_EQ(playsNow(), std::pair(1, 2)) << "there is no such quality";
+    movie->setQuality(3);
+    EXPECT_EQ(playsNow(), std::pair(3, 5)) << "what goes with every picture";
+    const struct { int kilobits, first; } cases[] = {{0, 2}, {2500, 3}, {2001, 3}, {1999, 1}, {5, 1}};
+    for (const auto& c : cases)
+        EXPECT_EQ(StreamQuality::first(movie->tracks(), c.kilobits), c.first) << c.kilobits;
+    EXPECT_EQ(rig.show()->quality(), 3) << "what the last one needed is what the next one may need";
+    EXPECT_EQ(StreamQuality::first({picture(1, {640, 360}, 800'000, {})}, 0), 0) << "no choice";
 }
 
 TEST(MovieTracks, subtitles_inside_follow_those_beside_and_join_them_when_they_turn_up) {

@@ -208,6 +208,11 @@ TEST(QVMovieView, a_wait_is_said_until_the_movie_goes_on_and_so_is_a_stall) {
     EXPECT_EQ(saidAfter(1), "Stalled: no data from the server");
     rig.player().wait({Wait::What::more, 41});
     EXPECT_EQ(saidAfter(3.9), "Buffering: 41 %");
+    rig.player().wait({Wait::What::connection, 0});
+    EXPECT_EQ(saidAfter(9), "Reconnecting...") << "as long as it lasts";
+    rig.player().wait({Wait::What::lostConnection, 0});
+    EXPECT_EQ(rig.confirmations.last, "Connection Lost");
+    EXPECT_EQ(saidAfter(10), "");
     rig.player().wait({});
     EXPECT_EQ(saidAfter(10), "");
 

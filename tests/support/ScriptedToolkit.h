@@ -50,6 +50,12 @@ public:
     void step(int direction) override;
     std::optional<Section> repeated() const override { return _repeated; }
     void repeat(const std::optional<Section>& section) override { _repeated = section; }
+    std::optional<double> behind; // none while the movie is not live
+    int livePlaces = 0;
+    std::int32_t arrived = 0;
+    std::optional<double> behindLive() const override { return behind; }
+    void goLive() override { ++livePlaces; }
+    std::int32_t arrivedUntil() const override { return arrived; }
     void shapeChanged() override { ++shapeChanges; }
     int shapeChanges = 0;
     platform::PictureAdjustment adjustment() const override { return _adjustment; }

@@ -107,6 +107,41 @@ TEST_F(References, streams_in_parts_play_from_a_network) {
     }
 }
 
+TEST_F(References, the_qualities_of_a_stream_are_its_pictures_and_what_is_live_has_no_end) {
+    const harness::HttpServer server(pathOf("part.mp4"));
+    write("part.m3u8", hls("part.ts"));
+    write("other.m3u8", hls("part.ts"));
+    write("all.m3u8", "#EXTM3U\n#EXT-X-STREAM-INF:BANDWIDTH=700000\npart.m3u8\n"
+                      "#EXT-X-STREAM-INF:BANDWIDTH=2000000\nother.m3u8\n");
+    std::string twice = dash("part.mp4");
+    const std::string end = "</AdaptationSet>";
+    twice.insert(twice.find(end), "<Representation id=\"1\" mimeType=\"video/mp4\" codecs=\"avc1.64000d\" "
+                                  "bandwidth=\"20000\" width=\"384\" height=\"216\"><BaseURL>part.mp4</BaseURL>"
+                                  "</Representation>");
+    write("all.mpd", twice);
+    const struct {
+        const char* list;
+        std::vector<std::int64_t> bitRates;
+        std::vector<int> variantsOfLast;
+    } cases[] = {{"/beside/all.m3u8", {700'000, 2'000'000}, {1}}, {"/beside/all.mpd", {10'000, 20'000}, {}}};
+    for (const auto& c : cases) {
+        const auto movie = rig.show(QUrl(QString::fromStdString(server.url(c.list))));
+        ASSERT_TRUE(movie) << c.list;
+        EXPECT_FALSE(movie->info().isLive);
+        std::vector<std::int64_t> bitRates;
+        for (const platform::MovieTrack& track : movie->tracks())
+            bitRates.push_back(track.variantBitRate);
+        EXPECT_EQ(bitRates, c.bitRates) << c.list;
+        EXPECT_EQ(movie->tracks().back().variants, c.variantsOfLast) << c.list;
+        EXPECT_EQ(movie->tracks().back().size, QSize(384, 216));
+    }
+    EXPECT_FALSE(rig.player().behindLive());
+    const auto live = rig.show(QUrl(QString::fromStdString(server.url("/live/part.m3u8"))));
+    EXPECT_TRUE(live->info().isLive);
+    EXPECT_EQ(live->duration(), 0);
+    EXPECT_LT(rig.player().behindLive().value_or(99), 9);
+}
+
 TEST_F(References, a_list_from_a_network_opens_no_file_of_this_machine) {
     const harness::HttpServer server(pathOf("part.mp4"));
     const std::string part = pathOf("part.ts");

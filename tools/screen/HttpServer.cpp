@@ -9,10 +9,14 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace harness {
 
@@ -25,8 +29,8 @@ bool readable(int descriptor) {
 
 // Stops when the other side is gone.
 void sendAll(int connection, const std::string& text, std::size_t from, std::size_t size,
-             const std::atomic<bool>& ending) {
-    while (size > 0 && !ending) {
+             const std::function<bool()>& isOver) {
+    while (size > 0 && !isOver()) {
         pollfd poll{connection, POLLOUT, 0};
         if (::poll(&poll, 1, 50) == 0)
             continue;
@@ -43,9 +47,9 @@ std::string contentOf(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// The name after "/beside/" in the request; empty without one.
-std::string nameBeside(const std::string& request) {
-    const std::string prefix = " /beside/";
+// The name after "/beside/", say, in the request; empty without one.
+std::string nameBehind(const std::string& folder, const std::string& request) {
+    const std::string prefix = ' ' + folder;
     const auto at = request.find(prefix);
     if (at == std::string::npos)
         return {};
@@ -64,22 +68,31 @@ const char* typeOf(const std::string& name) {
 HttpServer::HttpServer(std::filesystem::path file)
     : _folder(file.parent_path())
     , _content(contentOf(file)) {
+    openListener();
+    _thread = std::thread([this] { listen(); });
+}
+
+// On the port that it had before.
+void HttpServer::openListener() {
     _listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const int again = 1;
+    ::setsockopt(_listener, SOL_SOCKET, SO_REUSEADDR, &again, sizeof again);
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<std::uint16_t>(_port));
     socklen_t size = sizeof address;
     if (_listener < 0 || ::bind(_listener, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
         ::listen(_listener, 16) != 0 || ::getsockname(_listener, reinterpret_cast<sockaddr*>(&address), &size) != 0)
         throw std::runtime_error("no server on loopback");
     _port = ntohs(address.sin_port);
-    _thread = std::thread([this] { listen(); });
 }
 
 HttpServer::~HttpServer() {
     _ending = true;
     _thread.join();
-    ::close(_listener);
+    if (_listener >= 0)
+        ::close(_listener);
 }
 
 std::string HttpServer::url(const std::string& path) const {
@@ -89,7 +102,11 @@ std::string HttpServer::url(const std::string& path) const {
 void HttpServer::listen() {
     std::vector<std::thread> connections;
     while (!_ending) {
-        if (!readable(_listener))
+        if (_isBroken && _listener >= 0)
+            ::close(std::exchange(_listener, -1));
+        else if (!_isBroken && _listener < 0)
+            openListener();
+        if (_listener < 0 ? (std::this_thread::sleep_for(std::chrono::milliseconds(20)), true) : !readable(_listener))
             continue;
         const int connection = ::accept4(_listener, nullptr, nullptr, SOCK_CLOEXEC);
         if (connection >= 0)
@@ -105,7 +122,7 @@ void HttpServer::listen() {
 void HttpServer::serve(int connection) {
     std::string request;
     while (request.find("\r\n\r\n") == std::string::npos) {
-        if (_ending)
+        if (isOver())
             return;
         if (!readable(connection))
             continue;
@@ -117,19 +134,43 @@ void HttpServer::serve(int connection) {
     }
     const auto asksFor = [&](const char* path) { return request.find(std::string(" ") + path) != std::string::npos; };
     if (asksFor("/never.mp4")) {
-        while (!_ending && !(readable(connection) && ::recv(connection, &request[0], 1, 0) <= 0)) {
+        while (!isOver() && !(readable(connection) && ::recv(connection, &request[0], 1, 0) <= 0)) {
         }
         return;
     }
-    const std::string beside = nameBeside(request);
+    const std::string live = nameBehind("/live/", request);
+    const std::string beside = live.empty() ? nameBehind("/beside/", request) : live;
     if (!beside.empty() && std::filesystem::exists(_folder / beside)) {
-        send(connection, request, contentOf(_folder / beside), typeOf(beside), false);
+        const std::string content = contentOf(_folder / beside);
+        const bool isLiveIndex = !live.empty() && content.find("#EXTINF") != std::string::npos;
+        send(connection, request, isLiveIndex ? liveIndex(content) : content, typeOf(beside), false);
     } else if (asksFor("/movie.mp4") || asksFor("/early.mp4")) {
         send(connection, request, _content, "video/mp4", asksFor("/early.mp4"));
     } else {
         const std::string answer = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-        sendAll(connection, answer, 0, answer.size(), _ending);
+        sendAll(connection, answer, 0, answer.size(), [this] { return isOver(); });
     }
+}
+
+std::string HttpServer::liveIndex(const std::string& index) const {
+    constexpr std::size_t window = 4, seconds = 2, atFirst = 3;
+    std::istringstream lines(index);
+    std::vector<std::string> parts;
+    std::string part;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("#EXTINF") || line.starts_with("#EXT-X-BYTERANGE"))
+            part += line + '\n';
+        else if (!line.empty() && line.front() != '#')
+            parts.push_back(std::exchange(part, {}) + line + '\n');
+    }
+    const auto passed = std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - _begin);
+    const std::size_t last = std::min(parts.size(), atFirst + std::size_t(passed.count()) / seconds);
+    const std::size_t first = last > window ? last - window : 0;
+    std::string text = "#EXTM3U\n#EXT-X-VERSION:4\n#EXT-X-TARGETDURATION:" + std::to_string(seconds) +
+                       "\n#EXT-X-MEDIA-SEQUENCE:" + std::to_string(first) + '\n';
+    for (std::size_t i = first; i < last; ++i)
+        text += parts[i];
+    return text;
 }
 
 void HttpServer::send(int connection, const std::string& request, const std::string& content, const char* type,
@@ -148,9 +189,10 @@ void HttpServer::send(int connection, const std::string& request, const std::str
                 std::to_string(content.size() - 1) + "/" + std::to_string(content.size()) + "\r\n";
     head += std::string("Content-Type: ") + type +
             "\r\nConnection: close\r\nContent-Length: " + std::to_string(content.size() - from) + "\r\n\r\n";
-    sendAll(connection, head, 0, head.size(), _ending);
+    sendAll(connection, head, 0, head.size(), [this] { return isOver(); });
     if (request.rfind("HEAD", 0) != 0)
-        sendAll(connection, content, from, early ? content.size() / 3 : content.size() - from, _ending);
+        sendAll(connection, content, from, early ? content.size() / 3 : content.size() - from,
+                [this] { return isOver(); });
 }
 
 } // namespace harness

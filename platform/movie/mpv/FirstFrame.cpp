@@ -154,7 +154,7 @@ std::shared_ptr<const FirstFrame> FirstFrame::decode(const QUrl& url, const std:
         return nullptr;
     AVFormatContext* const input = movie.context();
 
-    const AVStream* video = wanted == PictureOf::cover ? coverStream(input) : firstVideoStream(input);
+    const AVStream* video = wanted == PictureOf::cover ? coverStream(input) : mainVideoStream(input);
     // Where the header does not describe the picture, it does not say where the file begins in time either.
     if (look == Look::header && (!video || video->codecpar->width <= 0))
         return nullptr;

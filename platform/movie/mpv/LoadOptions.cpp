@@ -26,6 +26,10 @@ QByteArray audioOption(const TrackSelection& tracks) {
     return tracks.audio ? optionOf(*tracks.audio) : QByteArray("auto");
 }
 
+QByteArray videoOption(const TrackSelection& tracks) {
+    return tracks.video ? optionOf(*tracks.video) : QByteArray("auto");
+}
+
 QByteArray subtitleOption(const TrackSelection& tracks) {
     return optionOf(tracks.subtitleFile.isEmpty() ? tracks.subtitles : 0);
 }
@@ -36,7 +40,7 @@ QByteArray secondSubtitleOption(const TrackSelection& tracks) {
 
 QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks, const QByteArray& filters) {
     // Said each time: a track that was selected while a movie played is the core's option for those to come.
-    QByteArrayList options{"aid=" + audioOption(tracks), "sid=" + subtitleOption(tracks),
+    QByteArrayList options{"vid=" + videoOption(tracks), "aid=" + audioOption(tracks), "sid=" + subtitleOption(tracks),
                            "secondary-sid=" + secondSubtitleOption(tracks)};
     if (start > 0)
         options << "start=" + QByteArray::number(start, 'f', 6);

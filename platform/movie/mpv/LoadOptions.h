@@ -12,8 +12,9 @@ struct TrackSelection;
 /// commas in between. It starts at `start` seconds, with the tracks selected; a file of subtitles is added later.
 QByteArray loadOptions(const MovieInfo& movie, double start, const TrackSelection& tracks, const QByteArray& filters);
 
-/// What the core's options "aid", "sid" and "secondary-sid" take for a track; a file of subtitles has no number
+/// What the core's options "vid", "aid", "sid" and "secondary-sid" take for a track; a file of subtitles has no number
 /// beforehand.
+QByteArray videoOption(const TrackSelection& tracks);
 QByteArray audioOption(const TrackSelection& tracks);
 QByteArray subtitleOption(const TrackSelection& tracks);
 QByteArray secondSubtitleOption(const TrackSelection& tracks);

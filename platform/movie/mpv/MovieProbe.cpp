@@ -16,6 +16,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <string_view>
 
 namespace platform {
 
@@ -119,7 +120,7 @@ bool isComplete(const AVFormatContext* input) {
         if (stream->codecpar->codec_id == AV_CODEC_ID_NONE && stream->codecpar->codec_type <= AVMEDIA_TYPE_AUDIO)
             return false;
     }
-    const AVStream* video = firstVideoStream(input);
+    const AVStream* video = mainVideoStream(input);
     if (!video)
         return firstSoundStream(input) != nullptr;
     return video->codecpar->width > 0 && video->codecpar->height > 0 &&
@@ -197,10 +198,16 @@ std::vector<Chapter> chaptersOf(const AVFormatContext* input, const MovieInfo& i
     return chapters;
 }
 
-MovieInfo describe(AVFormatContext* input, const AVStream* video, const AVStream* sound) {
+/// A list of parts does not last as long as its own bytes would at the parts' bit rate, which is what the library makes
+/// up where the list does not say.
+bool isListOfParts(const AVFormatContext* input) {
+    const std::string_view format(input->iformat->name);
+    return format.starts_with("hls") || format == "dash";
+}
+
+MovieInfo describe(AVFormatContext* input, double seconds, const AVStream* video, const AVStream* sound) {
     constexpr double largest = std::numeric_limits<std::int32_t>::max();
     MovieInfo info;
-    const double seconds = durationInSeconds(input);
     info.bitRate = bitRateOf(input, seconds);
     info.tracks = tracksOf(input);
     info.hasAudio = sound != nullptr;
@@ -270,14 +277,16 @@ OpenedMovie probeMovie(const QUrl& url, double timeout, const std::atomic<bool>&
     if (deadline.network && deadline.network->needsRanges())
         return {std::nullopt, movieError::needsRanges};
 
-    const AVStream* video = firstVideoStream(input);
+    const AVStream* video = mainVideoStream(input);
     const AVStream* audio = firstSoundStream(input);
     const bool seen = video && video->codecpar->width > 0 && av->avcodec_find_decoder(video->codecpar->codec_id);
     const bool heard = audio && av->avcodec_find_decoder(audio->codecpar->codec_id);
     if (!seen && !heard)
         return {std::nullopt, movieError::invalidMovie};
-    MovieInfo info = describe(input, seen ? video : nullptr, heard ? audio : nullptr);
+    const double seconds = saysDuration || !isListOfParts(input) ? durationInSeconds(input) : 0;
+    MovieInfo info = describe(input, seconds, seen ? video : nullptr, heard ? audio : nullptr);
     info.url = url;
+    info.isLive = isNetworkURL(url) && seconds <= 0;
     info.fileSize = fileSize;
     info.saysDuration = saysDuration;
     return {std::move(info), video && !seen ? movieError::cannotPlay : movieError::none};

@@ -3,9 +3,9 @@
 
 #include "platform/base/Background.h"
 #include "platform/base/Log.h"
+#include "platform/movie/mpv/HardwareDecoding.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieInput.h"
-#include "platform/window/GraphicsDevice.h"
 #include "platform/window/VideoLayer.h"
 
 #include <QString>
@@ -16,18 +16,10 @@ namespace platform {
 
 namespace {
 
-struct Option {
-    const char* name;
-    const char* value;
-};
-
 // The toolkit plays one file that it is handed, draws nothing of its own over it, and reads nothing of the user's.
-constexpr Option options[] = {
+constexpr CoreOption options[] = {
     {"config", "no"},
     {"load-scripts", "no"},
-    {"load-stats-overlay", "no"},
-    {"load-osd-console", "no"},
-    {"load-auto-profiles", "no"},
     {"ytdl", "no"},
     {"osc", "no"},
     {"osd-level", "0"},
@@ -57,6 +49,8 @@ constexpr Option options[] = {
     {"video-timing-offset", "0"},
     {"volume-max", "150"},
     {"network-timeout", "10"},
+    // A connection that breaks, or cannot be made, is made again after 0, 1, 3 and 7 seconds.
+    {"stream-lavf-o", "reconnect=1,reconnect_on_network_error=1,reconnect_delay_max=7"},
     // The fastest conversion that is still right for pictures shown at their own size.
     {"sws-fast", "yes"},
     {"sws-scaler", "bilinear"},
@@ -70,7 +64,7 @@ constexpr Option options[] = {
 
 } // namespace
 
-std::unique_ptr<MpvCore> MpvCore::create() {
+std::unique_ptr<MpvCore> MpvCore::create(GraphicsDevice device) {
     const MpvLibrary* mpv = MpvLibrary::get();
     mpv_handle* handle = mpv ? mpv->mpv_create() : nullptr;
     if (!handle) {
@@ -78,20 +72,25 @@ std::unique_ptr<MpvCore> MpvCore::create() {
         return nullptr;
     }
     std::unique_ptr<MpvCore> core(new MpvCore(handle));
-    const auto set = [&](const Option& option) {
+    const auto set = [&](const CoreOption& option) {
         if (const int error = mpv->mpv_set_option_string(handle, option.name, option.value); error < 0) {
             Log::write(QStringLiteral("ERROR: MpvCore: Option %1: %2")
                            .arg(QString::fromUtf8(option.name), QString::fromUtf8(mpv->mpv_error_string(error))));
         }
     };
-    for (const Option& option : options)
+    for (const CoreOption& option : options)
         set(option);
+    for (const char* const option : scriptOptions)
+        mpv->mpv_set_option_string(handle, option, "no");
     // Of movies from a network; loadOptions says what local ones may open.
     const QByteArray protocols = QByteArray("protocol_whitelist=[") + partProtocols + ']';
     set({"demuxer-lavf-o", protocols.constData()});
     set({mpv->dialect().backgroundOption, "#000000"});
-    // Without a graphics device there is no decoder in hardware to look for, which takes a while and loads the drivers.
-    mpv->mpv_set_option_string(handle, "hwdec", hasGraphicsDevice() ? "auto-safe" : "no");
+    // By itself libmpv would try SDL's way to sound last, which starts a session bus where there is none. A library
+    // that was built without one of these keeps its own choice.
+    mpv->mpv_set_option_string(handle, "ao", "pipewire,pulse,alsa,jack");
+    for (const CoreOption& option : decodingOptions(device))
+        set(option);
     if (const int error = mpv->mpv_initialize(handle); error < 0) {
         Log::write(QStringLiteral("ERROR: MpvCore: The player does not start: %1")
                        .arg(QString::fromUtf8(mpv->mpv_error_string(error))));
@@ -155,6 +154,11 @@ bool MpvCore::useSoftware() {
 }
 
 bool MpvCore::useOpenGL(GLContext& context) {
+    // Mesa's software drawing (seen in 25.0) turns what scalers with tables of weights make black, in whole or in
+    // parts, from one start to the next; and it is too slow for them.
+    if (context.drawing() == GLContext::Drawing::byProcessor)
+        for (const char* const scaler : {"scale", "cscale", "dscale"})
+            MpvLibrary::get()->mpv_set_option_string(_handle, scaler, "bilinear");
     mpv_opengl_init_params opengl{};
     opengl.get_proc_address = [](void* self, const char* name) {
         return static_cast<GLContext*>(self)->procAddress(name);

@@ -10,13 +10,14 @@
 namespace platform {
 
 class GLContext;
+enum class GraphicsDevice;
 
 /// One libmpv core with its software render context, made and ended in the order that it asks for. Making it takes a
 /// few ten milliseconds and may be done on any thread; after that it belongs to the main thread.
 class MpvCore {
 public:
     /// Null when libmpv cannot be loaded or refuses to start (a message was logged).
-    static std::unique_ptr<MpvCore> create();
+    static std::unique_ptr<MpvCore> create(GraphicsDevice device);
     MpvCore(const MpvCore&) = delete;
     MpvCore& operator=(const MpvCore&) = delete;
     ~MpvCore();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+
 namespace platform {
 
 /// What differs between the versions of libmpv that are loaded at run time.
@@ -15,6 +17,12 @@ struct MpvDialect {
     /// The property that holds the subtitles' text that is due, with its markup.
     const char* subtitleText;
 };
+
+/// Options that start scripts of the library's own, which nobody here talks to: each takes a thread and memory. A
+/// version knows some of them.
+inline constexpr std::array scriptOptions = {"load-stats-overlay", "load-osd-console", "load-console",
+                                             "load-auto-profiles", "load-select",      "load-positioning",
+                                             "load-commands"};
 
 /// That of a library whose mpv_client_api_version() is `version`.
 MpvDialect mpvDialect(unsigned long version);

@@ -38,6 +38,8 @@ constexpr std::uint64_t bufferProperty = 5;
 constexpr std::uint64_t decoderProperty = 6;
 constexpr std::uint64_t tracksProperty = 7;
 constexpr std::uint64_t transferProperty = 8;
+constexpr std::uint64_t arrivedProperty = 9;
+constexpr std::uint64_t reachProperty = 10;
 
 // How long the core is kept back for it at most.
 constexpr double firstFrameTimeout = 0.15;
@@ -50,7 +52,9 @@ constexpr qint64 growingSeconds = 3;
 
 } // namespace
 
-MpvPlayer::MpvPlayer() = default;
+MpvPlayer::MpvPlayer() {
+    _video.setRendererRenewed([this] { selectPictureAnew(); });
+}
 
 MpvPlayer::~MpvPlayer() {
     dropCore();
@@ -106,7 +110,7 @@ void MpvPlayer::adoptCore() {
     _core = std::move(_delivered);
     _video.setCore(_core.get());
     const MpvLibrary& mpv = *MpvLibrary::get();
-    mpv.mpv_request_log_messages(_core->handle(), "error");
+    mpv.mpv_request_log_messages(_core->handle(), "warn");
     mpv.mpv_observe_property(_core->handle(), timeProperty, "time-pos", MPV_FORMAT_DOUBLE);
     mpv.mpv_observe_property(_core->handle(), durationProperty, "duration", MPV_FORMAT_DOUBLE);
     mpv.mpv_observe_property(_core->handle(), endProperty, "eof-reached", MPV_FORMAT_FLAG);
@@ -115,6 +119,8 @@ void MpvPlayer::adoptCore() {
     mpv.mpv_observe_property(_core->handle(), decoderProperty, "hwdec-current", MPV_FORMAT_STRING);
     mpv.mpv_observe_property(_core->handle(), tracksProperty, "track-list", MPV_FORMAT_NODE);
     mpv.mpv_observe_property(_core->handle(), transferProperty, "video-params/gamma", MPV_FORMAT_STRING);
+    mpv.mpv_observe_property(_core->handle(), arrivedProperty, "demuxer-cache-time", MPV_FORMAT_DOUBLE);
+    mpv.mpv_observe_property(_core->handle(), reachProperty, "partially-seekable", MPV_FORMAT_FLAG);
     // Posted once until it is handled: frames and events come faster than they are worth handling one by one.
     _core->setCallbacks(
         [this] {
@@ -166,6 +172,11 @@ void MpvPlayer::load(Movie* movie) {
     _secondText.clear();
     _movie = movie;
     ++_loads;
+    _stream = {};
+    _streamTimer.reset();
+    _reloadTimer.reset();
+    _bufferPercent.reset();
+    _isBeginning = false;
     _sizeWhenLoaded = movie ? std::max<std::int64_t>(movie->info().fileSize, 0) : 0;
     const bool hasFrames = facts && facts->content == LoadedMovie::Content::frames;
     _isInterlaced = false;
@@ -180,8 +191,10 @@ void MpvPlayer::load(Movie* movie) {
     else
         _firstFrames.cancel();
     showPreparedFrame();
-    if (_movie == movie)
-        setWait({movie && isNetworkURL(movie->url()) ? Wait::What::beginning : Wait::What::nothing});
+    if (_movie != movie) // whoever was told has loaded another one
+        return;
+    _isBeginning = movie && isNetworkURL(movie->url());
+    updateWait();
 }
 
 void MpvPlayer::apply(const PlayerEvent& event) {
@@ -259,7 +272,7 @@ void MpvPlayer::handle(const mpv_event& event) {
     case MPV_EVENT_LOG_MESSAGE: {
         const auto* message = static_cast<const mpv_event_log_message*>(event.data);
         // The ways to sound are tried one by one; those that are not there are no errors.
-        if (QByteArrayView(message->prefix).startsWith("ao"))
+        if (QByteArrayView(message->prefix).startsWith("ao") || isMissingDriver(message->text) || takeWord(*message))
             break;
         Log::write(QStringLiteral("ERROR: libmpv: %1: %2")
                        .arg(QString::fromUtf8(message->prefix), QString::fromUtf8(message->text).trimmed()));
@@ -272,15 +285,19 @@ void MpvPlayer::handle(const mpv_event& event) {
         break;
     case MPV_EVENT_END_FILE: {
         const auto* end = static_cast<const mpv_event_end_file*>(event.data);
-        if (end->reason == MPV_END_FILE_REASON_ERROR)
+        if (end->reason == MPV_END_FILE_REASON_ERROR && isReloading())
+            reloadSoon();
+        else if (end->reason == MPV_END_FILE_REASON_ERROR)
             apply(playerEvent::FileFailed{end->playlist_entry_id, end->error});
         break;
     }
     case MPV_EVENT_PLAYBACK_RESTART:
         _fieldsAskedAt = -1;
         askForFields(0);
-        if (_wait.what == Wait::What::beginning)
-            setWait({});
+        if (_state.file == PlayerState::File::loading && isOfMovie(_state) && _movie->info().isLive)
+            _stream.liveAt(static_cast<double>(_state.time) / _movie->timeScale(), RunLoop::main().now());
+        _isBeginning = false;
+        updateWait();
         apply(playerEvent::PlaybackRestarted{});
         break;
     case MPV_EVENT_GET_PROPERTY_REPLY:
@@ -291,7 +308,9 @@ void MpvPlayer::handle(const mpv_event& event) {
         break;
     case MPV_EVENT_PROPERTY_CHANGE: {
         const auto* property = static_cast<const mpv_event_property*>(event.data);
-        if (property->data)
+        if (event.reply_userdata == arrivedProperty)
+            takeArrived(property->data ? std::optional(*static_cast<const double*>(property->data)) : std::nullopt);
+        else if (property->data)
             propertyChanged(event.reply_userdata, *property);
         break;
     }
@@ -305,25 +324,21 @@ void MpvPlayer::propertyChanged(std::uint64_t property, const mpv_event_property
         askForFields(*static_cast<const double*>(value.data));
         apply(playerEvent::TimeChanged{*static_cast<const double*>(value.data)});
     } else if (property == endProperty)
-        apply(playerEvent::EndChanged{*static_cast<const int*>(value.data) == 0 ? CoreEnd::no
-                                      : isFileGrowing()                         ? CoreEnd::ofArrived
-                                                                                : CoreEnd::ofMovie});
+        takeEnd(*static_cast<const int*>(value.data) != 0);
     else if (property == durationProperty && grownFile())
         apply(playerEvent::DurationGrew{*static_cast<const double*>(value.data)});
     else if (property == decoderProperty) {
-        const QString decoder = QString::fromUtf8(*static_cast<const char* const*>(value.data));
-        const bool wasInHardware = std::exchange(_decodesInHardware, decoder != QStringLiteral("no"));
-        // Also where the hardware gives up in the middle of a movie.
-        if (_decodesInHardware)
-            Log::write(QStringLiteral("MpvPlayer: The picture is decoded by hardware: %1").arg(decoder));
-        else if (wasInHardware)
-            Log::write(QStringLiteral("MpvPlayer: The picture is decoded by software"));
-    } else if (property == waitProperty && *static_cast<const int*>(value.data) != 0)
-        setWait({Wait::What::more, 0});
-    else if (property == waitProperty && _wait.what == Wait::What::more)
-        setWait({});
-    else if (property == bufferProperty && _wait.what == Wait::What::more)
-        setWait({Wait::What::more, static_cast<int>(*static_cast<const std::int64_t*>(value.data))});
+        const QString line = _decoder.changed(QString::fromUtf8(*static_cast<const char* const*>(value.data)));
+        if (!line.isEmpty())
+            Log::write(line);
+    } else if (property == waitProperty) {
+        _bufferPercent = *static_cast<const int*>(value.data) != 0 ? std::optional(0) : std::nullopt;
+        updateWait();
+    } else if (property == bufferProperty && _bufferPercent) {
+        _bufferPercent = static_cast<int>(*static_cast<const std::int64_t*>(value.data));
+        updateWait();
+    } else if (property == reachProperty)
+        _seeksWithinBuffer = *static_cast<const int*>(value.data) != 0;
     else if (property == tracksProperty && _movie && isOfMovie(_state))
         _movie->playerFoundTracks(mergedTracks(_movie->tracks(), tracksOf(*static_cast<const mpv_node*>(value.data))));
     else if (property == transferProperty && _movie)
@@ -377,7 +392,7 @@ void MpvPlayer::carryOut(const playerEffect::SendSeek& effect) {
 }
 
 void MpvPlayer::carryOut(const playerEffect::UseMoreThreads&) {
-    if (_decodesInHardware || MpvLibrary::get()->dialect().newDecoder != MpvDialect::NewDecoder::seeksAtOnce)
+    if (_decoder.isHardware() || MpvLibrary::get()->dialect().newDecoder != MpvDialect::NewDecoder::seeksAtOnce)
         return;
     command({"set", "file-local-options/vd-lavc-threads", "0"});
     // Another way to say no: the decoder is made anew at any change. The core then seeks to where it stands, in place
@@ -403,6 +418,7 @@ void MpvPlayer::facts(std::function<void(const PlaybackFacts&)> completion) {
         PlaybackFacts facts = told;
         facts.framesShown = _video.counts().shown;
         facts.framesLate = _video.counts().late;
+        facts.behindLive = behindLive();
         completion(facts);
     });
 }
@@ -424,6 +440,10 @@ void MpvPlayer::prepareSubtitles() {
     else
         _text.observe(_core->handle());
     setFlag("sub-visibility", isDrawn);
+}
+
+void MpvPlayer::carryOut(const playerEffect::SelectVideo&) {
+    command({"set", "vid", videoOption(_state.tracks).constData()});
 }
 
 void MpvPlayer::carryOut(const playerEffect::SelectAudio&) {
@@ -457,12 +477,6 @@ void MpvPlayer::carryOut(const playerEffect::ArmTimer& effect) {
         RunLoop::main().schedule(effect.seconds, effect.timer == PlayerTimer::scrub, [this, which = effect.timer] {
             apply(playerEvent::TimerFired{which, RunLoop::main().now()});
         });
-}
-
-void MpvPlayer::setWait(const Wait& wait) {
-    if (wait == std::exchange(_wait, wait) || !_observer)
-        return;
-    _observer->playerWaitChanged(wait);
 }
 
 void MpvPlayer::tell(const playerReport::FrameChanged&) {
@@ -506,7 +520,8 @@ void MpvPlayer::tell(const playerReport::Failed& report) {
     Log::write(
         QStringLiteral("ERROR: MpvPlayer: Can't play %1: %2")
             .arg(_movie->url().toString(), QString::fromUtf8(MpvLibrary::get()->mpv_error_string(report.error))));
-    setWait({});
+    _isBeginning = false;
+    updateWait();
     if (_observer)
         _observer->playerFailed();
 }

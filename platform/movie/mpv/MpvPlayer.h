@@ -6,9 +6,11 @@
 #include "platform/movie/Movie.h"
 #include "platform/movie/MoviePlayer.h"
 #include "platform/movie/mpv/FirstFrameDecoder.h"
+#include "platform/movie/mpv/HardwareDecoding.h"
 #include "platform/movie/mpv/MpvVideoLayer.h"
 #include "platform/movie/mpv/PlaybackFactsReader.h"
 #include "platform/movie/mpv/PlayerState.h"
+#include "platform/movie/mpv/StreamWatch.h"
 #include "platform/movie/mpv/SubtitleTextReader.h"
 
 #include <QObject>
@@ -24,6 +26,7 @@
 #include <utility>
 
 struct mpv_event;
+struct mpv_event_log_message;
 struct mpv_event_property;
 
 namespace platform {
@@ -48,7 +51,7 @@ public:
     void setObserver(Observer* observer) override { _observer = observer; }
     void load(Movie* movie) override;
     Movie* loaded() const override { return _movie; }
-    void play() override { apply(playerEvent::Play{}); }
+    void play() override;
     void pause() override { setRate(0); }
     bool isPlaying() const override { return _state.rate != 0; }
     float rate() const override { return _state.rate; }
@@ -56,10 +59,13 @@ public:
     double speed() const override { return _state.speed; }
     void setSpeed(double speed) override { apply(playerEvent::SetSpeed{speed, RunLoop::main().now()}); }
     std::int32_t time() const override { return _state.time; }
-    void seek(std::int32_t time, JumpReport report) override { apply(playerEvent::Seek{time, report}); }
+    void seek(std::int32_t time, JumpReport report) override;
     void step(int direction) override { apply(playerEvent::Step{direction}); }
     std::optional<Section> repeated() const override { return _state.repeated; }
     void repeat(const std::optional<Section>& section) override { apply(playerEvent::Repeat{section}); }
+    std::optional<double> behindLive() const override;
+    void goLive() override;
+    std::int32_t arrivedUntil() const override;
     void shapeChanged() override;
     PictureAdjustment adjustment() const override { return _adjustment; }
     void setAdjustment(const PictureAdjustment& adjustment) override;
@@ -95,6 +101,8 @@ private:
     void showPreparedFrame();
     void handleEvents();
     void handle(const mpv_event& event);
+    /// Whether what the core says means something to the player, and is no error for the log.
+    bool takeWord(const mpv_event_log_message& message);
     void propertyChanged(std::uint64_t property, const mpv_event_property& value);
     void answerStill(const mpv_event& event);
     void answerProperty(const mpv_event& event);
@@ -124,6 +132,7 @@ private:
     void carryOut(const playerEffect::SetRepeated& effect);
     void carryOut(const playerEffect::SetVolume& effect) { setNumber("volume", effect.volume); }
     void carryOut(const playerEffect::SetMuted& effect) { setFlag("mute", effect.muted); }
+    void carryOut(const playerEffect::SelectVideo&);
     void carryOut(const playerEffect::SelectAudio&);
     void carryOut(const playerEffect::SelectSubtitles&);
     void carryOut(const playerEffect::SelectSecondSubtitles&);
@@ -138,8 +147,19 @@ private:
     void carryOut(const playerEffect::SkipFrame&) { _video.skip(); }
     void carryOut(const playerEffect::DropHeldFrame&) { _video.dropLastFrame(); }
 
-    void setWait(const Wait& wait);
+    void updateWait();
+    void connectionBroke();
+    /// While it is broken.
+    void followConnection();
+    void takeArrived(std::optional<double> until);
+    /// What the core says to be its end.
+    void takeEnd(bool isAtEnd);
+    /// A live movie whose connection broke is loaded again and again.
+    bool isReloading() const;
+    void reloadSoon();
 
+    /// The core has let go of the picture, with the renderer of which it was.
+    void selectPictureAnew();
     /// What the core needs to draw the selected subtitles, or to tell their text.
     void prepareSubtitles();
 
@@ -169,10 +189,16 @@ private:
     Observer* _observer = nullptr;
     Movie* _movie = nullptr;
     PlayerState _state;
-    bool _decodesInHardware = false;
+    DecoderInUse _decoder;
     std::uint64_t _loads = 0;
     std::int64_t _sizeWhenLoaded = 0; // bytes of the movie's file
-    Wait _wait;
+    Wait _wait;                       // as the observer was told
+    bool _isBeginning = false;
+    std::optional<int> _bufferPercent; // while playing waits for it
+    bool _seeksWithinBuffer = false;   // alone
+    StreamWatch _stream;
+    std::unique_ptr<Timer> _streamTimer;
+    std::unique_ptr<Timer> _reloadTimer;
     SubtitleTextReader _text{SubtitleTextReader::Track::first, [this](const SubtitleText& text) {
                                  if (_movie)
                                      _movie->playerReadSubtitle(text);

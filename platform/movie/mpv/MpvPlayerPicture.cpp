@@ -7,6 +7,7 @@
 
 #include <QByteArrayView>
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -74,6 +75,19 @@ void MpvPlayer::updateFilters() {
     const QByteArray wanted = filters();
     if (std::exchange(_sentFilters, wanted) != wanted)
         command({"set", "file-local-options/vf", wanted.constData()});
+}
+
+void MpvPlayer::selectPictureAnew() {
+    if (!_movie || _state.file != PlayerState::File::shown)
+        return;
+    // Without a choice it is the first one. The core finds none by itself any more.
+    const MovieTracks& tracks = _movie->tracks();
+    const auto picture = std::ranges::find_if(tracks, [this](const MovieTrack& track) {
+        return track.kind == MovieTrack::Kind::video && !track.isCover &&
+               _state.tracks.video.value_or(track.id) == track.id;
+    });
+    if (picture != tracks.end())
+        command({"set", "vid", QByteArray::number(picture->id).constData()});
 }
 
 void MpvPlayer::shapeChanged() {

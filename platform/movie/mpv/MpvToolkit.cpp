@@ -5,12 +5,14 @@
 #include "platform/base/Delivery.h"
 #include "platform/movie/BlackBars.h"
 #include "platform/movie/mpv/FileFetch.h"
+#include "platform/movie/mpv/HardwareDecoding.h"
 #include "platform/movie/mpv/Libraries.h"
 #include "platform/movie/mpv/MovieProbe.h"
 #include "platform/movie/mpv/MpvCore.h"
 #include "platform/movie/mpv/SubtitleDemuxer.h"
 #include "platform/movie/mpv/SubtitleEndsProbe.h"
 #include "platform/movie/mpv/VideoPage.h"
+#include "platform/window/GraphicsDevice.h"
 
 #include <clocale>
 #include <utility>
@@ -60,7 +62,9 @@ void MpvToolkit::makeCore() {
         return;
     if (_coreMaker.joinable())
         _coreMaker.join(); // what it made has been handed over
-    _coreMaker = std::thread([this] { _player.deliverCore(MpvCore::create()); });
+    _coreMaker = std::thread([this] {
+        _player.deliverCore(MpvCore::create(hasGraphicsDevice() ? GraphicsDevice::some : GraphicsDevice::none));
+    });
 }
 
 void MpvToolkit::exit() {

@@ -254,7 +254,12 @@ void MpvVideoLayer::setCore(MpvCore* core) {
 bool MpvVideoLayer::beginGL(GLContext& context) {
     _gl = &context;
     makeToneMapping();
-    return !_core || (_gl->makeCurrent() && _core->useOpenGL(context));
+    if (!_core)
+        return true;
+    const bool taken = _gl->makeCurrent() && _core->useOpenGL(context);
+    if (taken && _rendererRenewed)
+        _rendererRenewed();
+    return taken;
 }
 
 void MpvVideoLayer::endGL() {

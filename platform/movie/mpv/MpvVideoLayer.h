@@ -45,6 +45,8 @@ public:
     void setFirst(std::shared_ptr<const FirstFrame> first) { _first = std::move(first); }
     /// Called each time the first picture was rendered.
     void setFirstShown(std::function<void()> shown) { _firstShown = std::move(shown); }
+    /// Called when the core renders by another renderer than before: it lets go of the picture meanwhile.
+    void setRendererRenewed(std::function<void()> renewed) { _rendererRenewed = std::move(renewed); }
     bool usesOpenGL() const { return _gl != nullptr; }
     /// Pictures of the core's since begin(): all, and those that came noticeably after their time.
     struct Counts {
@@ -91,6 +93,7 @@ private:
     bool _coreHasPicture = false;
     std::shared_ptr<const FirstFrame> _first;
     std::function<void()> _firstShown;
+    std::function<void()> _rendererRenewed;
     Shown _shown; // last
     Counts _counts;
     // The last picture of the movie before: in one of the two, or none is kept.

@@ -100,6 +100,12 @@ struct DurationGrew {
 struct EndChanged {
     CoreEnd end;
 };
+/// The core cannot go where it was sent: a live stream goes no further back than what is kept of it.
+struct SeekFailed {};
+/// The movie is loaded once more, at that many seconds; it goes on as it did.
+struct Reload {
+    double seconds;
+};
 /// A frame is to be taken from the core.
 struct FrameDue {};
 
@@ -110,7 +116,8 @@ using PlayerEvent =
                  playerEvent::SetRate, playerEvent::SetSpeed, playerEvent::Repeat, playerEvent::Seek, playerEvent::Step,
                  playerEvent::SetVolume, playerEvent::SetMuted, playerEvent::Select, playerEvent::TimerFired,
                  playerEvent::FileStarted, playerEvent::FileFailed, playerEvent::PlaybackRestarted,
-                 playerEvent::TimeChanged, playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::FrameDue>;
+                 playerEvent::TimeChanged, playerEvent::DurationGrew, playerEvent::EndChanged, playerEvent::SeekFailed,
+                 playerEvent::Reload, playerEvent::FrameDue>;
 
 /// What is to be done: commands to the core, which stands when one is asked for, and timers.
 namespace playerEffect {
@@ -147,6 +154,7 @@ struct SetMuted {
     bool muted;
 };
 // Of the selection that the state holds.
+struct SelectVideo {};
 struct SelectAudio {};
 struct SelectSubtitles {};
 struct SelectSecondSubtitles {};
@@ -176,7 +184,7 @@ struct DropHeldFrame {};
 using PlayerEffect =
     std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::UseMoreThreads, playerEffect::SendSeek,
                  playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetRepeated,
-                 playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::SelectAudio,
+                 playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::SelectVideo, playerEffect::SelectAudio,
                  playerEffect::SelectSubtitles, playerEffect::SelectSecondSubtitles, playerEffect::SetDelays,
                  playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,
                  playerEffect::UseCoreFrame, playerEffect::SkipFrame, playerEffect::DropHeldFrame>;

@@ -201,7 +201,10 @@ public:
 
     void operator()(const playerEvent::TimeChanged& changed) {
         // While it loads the seeks are held, and while it scrubs the time is the one asked for.
-        if (!isOfMovie() || _s.seeks.isBusy() || _s.timeSource == TimeSource::asked)
+        if (!isOfMovie() || _s.seeks.isBusy())
+            return;
+        _s.coreSeconds = changed.seconds;
+        if (_s.timeSource == TimeSource::asked)
             return;
         std::int32_t time = toUnits(changed.seconds);
         if (_s.movie->duration > 0)
@@ -238,6 +241,37 @@ public:
             reachCoreEnd();
     }
 
+    void operator()(const playerEvent::SeekFailed&) {
+        if (!isOfMovie() || _s.seekStage == SeekStage::none)
+            return;
+        effect(CancelTimer{PlayerTimer::keyframe});
+        _s.seeks = SeekPlanner();
+        _s.seekStage = SeekStage::none;
+        _s.time = toUnits(_s.coreSeconds);
+        if (_s.rate != 0 && !_s.scrub)
+            _s.timeSource = TimeSource::core;
+        applyMotion();
+        report(StateChanged{});
+    }
+
+    void operator()(const playerEvent::Reload& again) {
+        if (!_s.core || !_s.movie)
+            return;
+        effect(CancelTimers{});
+        endScrubbing();
+        _s.file = File::loading;
+        _s.end = CoreEnd::no;
+        _s.seeks = SeekPlanner();
+        _s.seeks.hold();
+        _s.seekStage = SeekStage::none;
+        _s.stepsWaiting = 0;
+        _s.time = toUnits(again.seconds);
+        _s.timeSource = TimeSource::asked;
+        sendLoad();
+        report(Jumped{});
+        report(StateChanged{});
+    }
+
     // The rest
 
     void operator()(const playerEvent::SetVolume& asked) {
@@ -260,9 +294,13 @@ public:
         if (!_s.movie)
             return;
         _s.tracks = asked.tracks;
-        // While the movie is being loaded the core would take it for the one before.
+        // While the movie is being loaded the core would take it for the one before. One that it has not begun with is
+        // loaded otherwise: a track that is selected later has the core seek, and rest at another keyframe for a
+        // moment.
         if (_s.core && _s.file == File::shown)
             sendTracks();
+        else if (_s.core && _s.file == File::loading && !isOfMovie() && isLoadedOtherwise())
+            sendLoad();
     }
 
 private:
@@ -304,9 +342,19 @@ private:
             effect(SetDelays{_s.tracks.audioDelay, _s.tracks.subtitleDelay, _s.tracks.subtitleSpeed});
     }
 
+    /// Whether the tracks are others than those that the movie was loaded with.
+    bool isLoadedOtherwise() const {
+        const TrackSelection& told = _s.core->tracks;
+        return told.video != _s.tracks.video || told.audio != _s.tracks.audio ||
+               told.subtitles != _s.tracks.subtitles || told.drawn != _s.tracks.drawn ||
+               told.secondSubtitles != _s.tracks.secondSubtitles;
+    }
+
     /// What differs from what the core was told.
     void sendTracks() {
         TrackSelection& told = _s.core->tracks;
+        if (told.video != _s.tracks.video)
+            effect(SelectVideo{});
         if (told.audio != _s.tracks.audio)
             effect(SelectAudio{});
         const bool areOthers = told.subtitles != _s.tracks.subtitles || told.subtitleFile != _s.tracks.subtitleFile ||

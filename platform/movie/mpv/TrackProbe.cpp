@@ -2,6 +2,7 @@
 #include "platform/movie/mpv/TrackProbe.h"
 
 #include "platform/movie/mpv/Libraries.h"
+#include "platform/movie/mpv/VideoStream.h"
 
 #include <QByteArrayView>
 
@@ -47,6 +48,18 @@ std::optional<Kind> kindOf(AVMediaType type) {
     default:
         return std::nullopt;
     }
+}
+
+/// The programs of a stream in several qualities are its variants; those of a broadcast are something else.
+std::vector<int> variantsOf(const AVFormatContext* input, unsigned stream) {
+    std::vector<int> variants;
+    for (unsigned i = 0; i < input->nb_programs; ++i) {
+        const AVProgram& program = *input->programs[i];
+        const std::span members(program.stream_index, program.nb_stream_indexes);
+        if (variantBitRate(program.metadata) > 0 && std::ranges::count(members, stream) > 0)
+            variants.push_back(static_cast<int>(i));
+    }
+    return variants;
 }
 
 /// A script of one style is a text that was converted; those who place and paint their lines define several.
@@ -146,6 +159,10 @@ MovieTracks tracksOf(const AVFormatContext* input) {
         track.codec = descriptor ? QString::fromLatin1(descriptor->name) : QString();
         track.channels = *kind == Kind::audio ? codec.ch_layout.nb_channels : 0;
         track.isDefault = stream.disposition & AV_DISPOSITION_DEFAULT;
+        if (*kind == Kind::video)
+            track.size = QSize(codec.width, codec.height);
+        track.variantBitRate = variantBitRate(stream.metadata);
+        track.variants = variantsOf(input, i);
         track.isForced = stream.disposition & AV_DISPOSITION_FORCED;
         track.isCover = stream.disposition & AV_DISPOSITION_ATTACHED_PIC;
         if (*kind == Kind::subtitles)

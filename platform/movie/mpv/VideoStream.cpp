@@ -3,15 +3,27 @@
 
 #include "platform/movie/mpv/Libraries.h"
 
+#include <QByteArrayView>
+
+#include <algorithm>
+
 namespace platform {
 
-const AVStream* firstVideoStream(const AVFormatContext* input) {
+const AVStream* mainVideoStream(const AVFormatContext* input) {
+    const AVStream* best = nullptr;
     for (unsigned i = 0; i < input->nb_streams; ++i) {
         const AVStream* stream = input->streams[i];
-        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC))
-            return stream;
+        if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO &&
+            !(stream->disposition & AV_DISPOSITION_ATTACHED_PIC) &&
+            (!best || variantBitRate(stream->metadata) > variantBitRate(best->metadata)))
+            best = stream;
     }
-    return nullptr;
+    return best;
+}
+
+std::int64_t variantBitRate(const AVDictionary* tags) {
+    const AVDictionaryEntry* entry = AvLibrary::get()->av_dict_get(tags, "variant_bitrate", nullptr, 0);
+    return entry ? std::max(QByteArrayView(entry->value).toLongLong(), 0LL) : 0;
 }
 
 const AVStream* coverStream(const AVFormatContext* input) {

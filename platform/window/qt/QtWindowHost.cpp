@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window/qt/QtWindowHost.h"
 
+#include "platform/base/Log.h"
 #include "platform/window/GraphicsDevice.h"
 #include "platform/window/SceneGeometry.h"
 #include "platform/window/VideoLayer.h"
 #include "platform/window/Window.h"
 #include "platform/window/qt/ForeignPanel.h"
+#include "platform/window/qt/OpenGLContext.h"
 #include "platform/window/qt/QtEvents.h"
 #include "platform/window/qt/QtMenus.h"
 #include "platform/window/qt/WindowSystem.h"
@@ -18,7 +20,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QOpenGLPaintDevice>
@@ -41,12 +42,6 @@ constexpr QEvent::Type paintEventType = static_cast<QEvent::Type>(QEvent::User +
 /// it does not, and what fades over them is painted in between.
 constexpr qint64 awaitedMilliseconds = 25;
 
-/// A drawing made by the processor: slower than rendering without OpenGL.
-bool isSoftwareRenderer(const QByteArray& name) {
-    const QByteArray lower = name.toLower();
-    return lower.isEmpty() || lower.contains("llvmpipe") || lower.contains("softpipe") || lower.contains("swrast");
-}
-
 /// Opacity of a window does something only where a compositing manager runs.
 bool windowSystemFades() {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
@@ -66,27 +61,6 @@ bool windowSystemFades() {
 }
 
 } // namespace
-
-/// The window's OpenGL context. Before the window exists, and for what is not painting, it is current on a surface of
-/// its own.
-class QtWindowHost::OpenGL final : public GLContext {
-public:
-    bool create() {
-        if (!_context.create())
-            return false;
-        _offscreen.setFormat(_context.format());
-        _offscreen.create();
-        return makeCurrent();
-    }
-    QByteArray rendererName() { return reinterpret_cast<const char*>(_context.functions()->glGetString(GL_RENDERER)); }
-    QOpenGLContext& context() { return _context; }
-    bool makeCurrent() override { return _context.makeCurrent(&_offscreen); }
-    void* procAddress(const char* name) override { return reinterpret_cast<void*>(_context.getProcAddress(name)); }
-
-private:
-    QOpenGLContext _context;
-    QOffscreenSurface _offscreen;
-};
 
 QtWindowHost::QtWindowHost(platform::Window& root, Renderer renderer)
     : _root(root)
@@ -120,8 +94,8 @@ void QtWindowHost::setMainMenu(Menu& menu, MenuTarget& target) {
 bool QtWindowHost::chooseOpenGL(Renderer renderer) {
     if (renderer == Renderer::software || (renderer == Renderer::automatic && !hasGraphicsDevice()))
         return false;
-    auto openGL = std::make_unique<OpenGL>();
-    if (!openGL->create() || (renderer == Renderer::automatic && isSoftwareRenderer(openGL->rendererName())))
+    auto openGL = std::make_unique<OpenGLContext>();
+    if (!openGL->create() || (renderer == Renderer::automatic && openGL->drawing() == GLContext::Drawing::byProcessor))
         return false;
     bool taken = true;
     _composer.forEachVideoLayer(devicePixelRatio(),
@@ -341,10 +315,24 @@ void QtWindowHost::paintSoftware(const QRegion& marked) {
     _backingStore->flush(points);
 }
 
+bool QtWindowHost::renewOpenGL() {
+    auto openGL = std::make_unique<OpenGLContext>();
+    if (!openGL->create())
+        return false;
+    Log::write(QStringLiteral("WARNING: QtWindowHost: The OpenGL context is lost; another one takes its place"));
+    bool taken = true;
+    _composer.forEachVideoLayer(devicePixelRatio(), [&](VideoLayer& layer, const QRect&) {
+        layer.endGL();
+        taken = layer.beginGL(*openGL) && taken;
+    });
+    _openGL = std::move(openGL);
+    return taken && _openGL->context().makeCurrent(this);
+}
+
 void QtWindowHost::paintOpenGL() {
-    QOpenGLContext& context = _openGL->context();
-    if (!context.makeCurrent(this))
+    if (!_openGL->context().makeCurrent(this) && !renewOpenGL())
         return;
+    QOpenGLContext& context = _openGL->context();
     const QSize pixels = pixelSize();
     QOpenGLFunctions* gl = context.functions();
     const QColor color = _composer.background();

@@ -25,6 +25,7 @@ namespace platform {
 
 class Menu;
 class MenuTarget;
+class OpenGLContext;
 class QtMenus;
 class View;
 class Window;
@@ -58,8 +59,6 @@ public:
     double pixelRatio() const override { return devicePixelRatio(); }
 
 private:
-    class OpenGL;
-
     bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -83,6 +82,8 @@ private:
     void paint();
     void paintSoftware(const QRegion& dirty);
     void paintOpenGL();
+    /// Puts another context in place of the one that is lost, as when a graphics device is reset.
+    bool renewOpenGL();
     QRegion toPoints(const QRegion& pixels) const;
     void skipFrames();
     void releaseKeys();
@@ -96,7 +97,7 @@ private:
     SceneComposer _composer;
     std::unique_ptr<QBackingStore> _backingStore;
     QImage _canvas; // where the window's own pixels cannot be drawn into
-    std::unique_ptr<OpenGL> _openGL;
+    std::unique_ptr<OpenGLContext> _openGL;
     std::unique_ptr<QtMenus> _menus;
     QRegion _dirty;                  // pixels
     QPointer<QScreen> _filledScreen; // null while the window fills none
