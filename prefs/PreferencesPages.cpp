@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
@@ -121,6 +122,19 @@ void orderTabs(const QTabWidget& pages) {
     for (QWidget* widget : chain)
         if (!pages.isAncestorOf(widget) && takesKeys(widget))
             follow(widget);
+}
+
+void switchByKeys(QTabWidget& pages) {
+    const auto leads = [&pages](const QList<QKeySequence>& keys, int by) {
+        auto* shortcut = new QShortcut(pages.window());
+        shortcut->setKeys(keys);
+        QObject::connect(shortcut, &QShortcut::activated, &pages, [&pages, by] {
+            pages.setCurrentIndex((pages.currentIndex() + by + pages.count()) % pages.count());
+            pages.tabBar()->setFocus(Qt::TabFocusReason);
+        });
+    };
+    leads({Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, 1);
+    leads({Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageUp}, -1);
 }
 
 void stopAtChecked(const QButtonGroup& group) {

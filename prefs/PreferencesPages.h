@@ -30,6 +30,10 @@ void yieldMnemonics(const QWidget& section, const QTabWidget& pages);
 /// controls were put into a page later than others.
 void orderTabs(const QTabWidget& pages);
 
+/// Ctrl+Tab goes to the next page and Ctrl+Shift+Tab to the one before, and so do Ctrl+Page Down and Up, whatever has
+/// the keyboard: a pop-up menu keeps Ctrl+Tab to itself, and pages within a page would take it.
+void switchByKeys(QTabWidget& pages);
+
 /// Has Tab stop once in a group of radio buttons, at the one that is checked. By itself the group learns of that when
 /// one of its buttons has had the keyboard.
 void stopAtChecked(const QButtonGroup& group);

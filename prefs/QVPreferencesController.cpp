@@ -205,6 +205,7 @@ void QVPreferencesController::connectControls() {
     window->installEventFilter(this);
     PreferencesPages::prepare(*window);
     PreferencesPages::orderTabs(*c._pages);
+    PreferencesPages::switchByKeys(*c._pages);
 }
 
 bool QVPreferencesController::eventFilter(QObject* watched, QEvent* event) {

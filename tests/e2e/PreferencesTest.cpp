@@ -3,6 +3,7 @@
 #include "tests/support/FakePortal.h"
 #include "tests/support/PrivateBus.h"
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -154,6 +155,41 @@ TEST_F(Preferences, are_entered_by_tab_from_the_names_of_the_pages) {
     probe.tap(XK_Tab); // the radio button that is on
     probe.tap(XK_Down);
     EXPECT_TRUE(stores("QVOnLaunchDefaultAction", "<integer>")) << "another one";
+    probe.tap(XK_Escape);
+    EXPECT_TRUE(closes());
+    ASSERT_TRUE(quitsCleanly());
+}
+
+TEST_F(Preferences, are_walked_by_tab_through_every_page_and_back_without_changing_anything) {
+    start({"--set", "QVPlaylistAutoPlay=0", numbered("red.mp4", red, 900)});
+    ASSERT_TRUE(frameBecomes(0));
+    ASSERT_TRUE(opens());
+    // What the screen shows once a key has acted on it; the cursor of a text blinks more slowly.
+    const auto shownAfter = [this](KeySym key, const std::vector<KeySym>& modifiers = {}) {
+        Picture last = probe.screen();
+        probe.tap(key, modifiers);
+        EXPECT_TRUE(waitUntil([&] { return probe.screen().pixels != last.pixels; })) << "it holds the keyboard";
+        waitUntil([&] {
+            last = probe.screen();
+            return staysTrue([&] { return probe.screen().pixels == last.pixels; }, Seconds(0.1));
+        });
+        return last;
+    };
+    shownAfter(XK_Tab);
+    constexpr std::size_t pages = 6, enough = 80;
+    for (std::size_t page = 0; page < pages && !HasFailure(); ++page) {
+        SCOPED_TRACE(page);
+        if (page > 0)
+            shownAfter(XK_Tab, {XK_Control_L});
+        // A round is made when the keyboard is where it was before. Overlays that come with a page may come later.
+        std::vector<std::vector<std::uint32_t>> stops;
+        const auto isRound = [&](const Picture& now) { return std::ranges::count(stops, now.pixels) > 0; };
+        for (Picture now = shownAfter(XK_Tab); !isRound(now) && stops.size() < enough; now = shownAfter(XK_Tab))
+            stops.push_back(now.pixels);
+        EXPECT_GT(stops.size(), 4) << "page " << page;
+        EXPECT_LT(stops.size(), enough) << "page " << page;
+    }
+    EXPECT_FALSE(isLogged(" changed to: "));
     probe.tap(XK_Escape);
     EXPECT_TRUE(closes());
     ASSERT_TRUE(quitsCleanly());

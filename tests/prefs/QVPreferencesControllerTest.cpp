@@ -346,8 +346,8 @@ TEST_F(Preferences, controls_that_need_another_one_are_enabled_with_it) {
 
 TEST_F(Preferences, the_styles_of_what_is_not_shown_can_not_be_changed) {
     const auto enabled = [this] {
-        const auto opacities = controller->window().findChildren<FloatSlider*>("maxAlpha");
-        return std::ranges::count_if(opacities, [](const FloatSlider* opacity) { return opacity->isEnabled(); });
+        const auto opacities = controller->window().findChildren<QSlider*>("maxAlpha");
+        return std::ranges::count_if(opacities, [](const QSlider* opacity) { return opacity->isEnabled(); });
     };
     show();
     EXPECT_EQ(enabled(), 5);

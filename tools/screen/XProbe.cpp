@@ -244,6 +244,19 @@ WindowId XProbe::focusedWindow() {
     return focused == PointerRoot ? 0 : focused;
 }
 
+void XProbe::resizeWindow(WindowId window, int width, int height) {
+    XResizeWindow(_display, window, unsigned(width), unsigned(height));
+    XSync(_display, False);
+}
+
+void XProbe::setWindowShown(WindowId window, bool shown) {
+    if (shown)
+        XMapWindow(_display, window);
+    else
+        XUnmapWindow(_display, window);
+    XSync(_display, False);
+}
+
 bool XProbe::hasVisibleWindow() {
     ::Window root, parent, *children = nullptr;
     unsigned count = 0;

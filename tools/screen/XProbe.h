@@ -87,6 +87,9 @@ public:
     // The window that has the keyboard, or 0.
     WindowId focusedWindow();
     bool hasVisibleWindow();
+    // What a window manager may do to it.
+    void resizeWindow(WindowId window, int width, int height);
+    void setWindowShown(WindowId window, bool shown);
 
 private:
     struct Shared;
