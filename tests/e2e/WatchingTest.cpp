@@ -90,15 +90,18 @@ TEST_F(Watching, a_section_is_repeated_to_the_frame) {
     start({"--set", "QVPlaylistAutoPlay=0", "--set", "QVJumpInterval=1", numbered("red.mp4", red, 300)});
     ASSERT_TRUE(frameBecomes(0));
     probe.tap(XK_Right, {XK_Control_L});
-    probe.tap(XK_Right);
-    ASSERT_TRUE(frameBecomes(31));
+    for (const int stepped : {31, 32}) {
+        probe.tap(XK_Right);
+        ASSERT_TRUE(frameBecomes(stepped));
+    }
     probe.tap(XK_l, {XK_Control_L});
     ASSERT_TRUE(logs("Set Text: Repeat from 0:00:01.0"));
     probe.tap(XK_Right, {XK_Control_L});
-    ASSERT_TRUE(frameBecomes(61));
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen == 61 || seen == 62; }, "one second on"));
     probe.tap(XK_l, {XK_Control_L});
     ASSERT_TRUE(logs("Set Text: Repeat: 0:00:01.0 – 0:00:02.0"));
-    ASSERT_TRUE(frameBecomes(31)) << "it goes there at once";
+    // A stepped frame is on the screen a moment before its time is known; the keyframe before both is no answer.
+    ASSERT_TRUE(frameBecomes([](int seen) { return seen == 31 || seen == 32; }, "it goes there at once"));
     probe.tap(XK_space);
     int least = 1000, most = 0, turns = 0, last = 0;
     waitUntil([&] {
@@ -110,7 +113,7 @@ TEST_F(Watching, a_section_is_repeated_to_the_frame) {
         return turns == 3;
     });
     EXPECT_EQ(turns, 3);
-    EXPECT_NEAR(least, 31, 1);
+    EXPECT_NEAR(least, 32, 1);
     EXPECT_LE(most, 62);
     probe.tap(XK_l, {XK_Control_L});
     EXPECT_TRUE(frameBecomes([](int seen) { return seen > 70; }, "beyond the section"));
