@@ -20,6 +20,15 @@ QStringList supportedFileTypes(const platform::Bundle& bundle) {
     return types;
 }
 
+QStringList supportedMimeTypes(const platform::Bundle& bundle) {
+    QStringList types;
+    const QVariant documents = bundle.objectForInfoDictionaryKey(QStringLiteral("CFBundleDocumentTypes"));
+    for (const QVariant& document : documents.toList())
+        types += document.toMap().value(QStringLiteral("CFBundleTypeMIMETypes")).toStringList();
+    types.removeDuplicates();
+    return types;
+}
+
 bool isFileOfType(const QString& path, const QStringList& types) {
     return types.isEmpty() || types.contains(platform::pathExtension(path).toLower());
 }

@@ -15,6 +15,9 @@ class Bundle;
 /// The file types of the information dictionary's document types: extensions, and type codes between single quotes.
 QStringList supportedFileTypes(const platform::Bundle& bundle);
 
+/// The MIME types of the same document types, each once.
+QStringList supportedMimeTypes(const platform::Bundle& bundle);
+
 /// True with no types at all; else when the lowercased extension of the path is among them.
 bool isFileOfType(const QString& path, const QStringList& types);
 

@@ -40,6 +40,11 @@ struct QVMovieVolumeChangedNotification {
     QVMovieView* view;
 };
 
+/// The player's time, playing or volume changed as a controller bar shows them.
+struct QVPlayerStateChangedNotification {
+    QVMovieView* view;
+};
+
 /// An add kept at least one movie, or entries were moved or removed by hand.
 struct QVPlaylistChangedNotification {
     std::vector<std::shared_ptr<QVMovie>> movies;

@@ -268,6 +268,7 @@ void QVMovieView::barButtonPressed(platform::ControllerBar::Control button) {
 void QVMovieView::controllerStateChanged() {
     if (_controllerObserver)
         _controllerObserver();
+    _environment.notifications.post(QVPlayerStateChangedNotification{this});
 }
 
 void QVMovieView::showControllerBySetting() {

@@ -4,6 +4,7 @@
 #include "app/LaunchQuestions.h"
 #include "app/LaunchSteps.h"
 #include "app/MainObjects.h"
+#include "app/MediaSession.h"
 #include "app/OpeningFiles.h"
 #include "app/VersionCheck.h"
 #include "app/main/InputDevicesOfRun.h"
@@ -25,6 +26,7 @@
 #include "platform/desktop/linux/ColorSchemePortal.h"
 #include "platform/desktop/linux/DisplayServer.h"
 #include "platform/desktop/linux/FileChooserPortal.h"
+#include "platform/desktop/linux/MprisService.h"
 #include "platform/desktop/linux/RecentlyUsedFile.h"
 #include "platform/desktop/linux/RemoteReceivers.h"
 #include "platform/desktop/linux/SessionBus.h"
@@ -38,6 +40,8 @@
 #include "prefs/QVPreferencesController.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
+
+#include <QGuiApplication>
 
 #include <memory>
 #include <optional>
@@ -200,6 +204,15 @@ platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const p
             &remotes};
 }
 
+/// What programs on the bus are told of this one.
+platform::mpris::Identity mediaIdentity() {
+    return {QCoreApplication::applicationName(),
+            QGuiApplication::desktopFileName(),
+            {QStringLiteral("file"), QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("rtsp"),
+             QStringLiteral("rtmp"), QStringLiteral("ftp")},
+            supportedMimeTypes(platform::Bundle::main())};
+}
+
 } // namespace
 
 int play(int& count, char** arguments, const CommandLine& line) {
@@ -256,6 +269,12 @@ int play(int& count, char** arguments, const CommandLine& line) {
         steps.commands = &player.commands();
         steps.information = &player.information();
         steps.join(run.environment(), player.application(), player.controller());
+
+        platform::MprisService mediaControls(mediaIdentity());
+        const MediaSession mediaSession(
+            run.environment(), {mediaControls, player.view(), player.playlist(), player.controller(), desktop, toolkit,
+                                [&player](const QString& address) { player.application().openFile(address); },
+                                [&host] { host.makeKeyAndOrderFront(); }});
 
         const auto take = [&](const platform::HandOver& message) {
             desktop.setAssumedModifiers(message.append ? platform::modifier::option : 0);
