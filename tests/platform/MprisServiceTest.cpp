@@ -115,8 +115,14 @@ protected:
     }
     /// The signals that come after this, as texts: that of the property changes with the names of what changed.
     QStringList heard() {
-        // Messages of one sender stay in order.
-        call("org.freedesktop.DBus.Peer", "Ping", {});
+        // Signals of one sender stay in order: one more, of a place that no other has, ends them.
+        const std::int64_t place = std::exchange(player.place, --_fence);
+        service->positionJumped();
+        player.place = place;
+        EXPECT_TRUE(waitFor([this] {
+            return !listener.messages.isEmpty() && listener.messages.last().arguments().value(0) == qlonglong{_fence};
+        }));
+        listener.messages.removeLast();
         QStringList texts;
         for (const QDBusMessage& message : std::exchange(listener.messages, {}))
             texts << textOf(message);
@@ -140,6 +146,7 @@ protected:
     }
 
     SignalListener listener;
+    std::int64_t _fence = 0;
     FakePlayer player;
     std::unique_ptr<MprisService> service = std::make_unique<MprisService>(
         mpris::Identity{"Lumaro", "org.lumaro.Lumaro", {"file", "https"}, {"video/mp4"}});
