@@ -7,6 +7,7 @@
 #include "app/MediaSession.h"
 #include "app/OpeningFiles.h"
 #include "app/VersionCheck.h"
+#include "app/WindowTitle.h"
 #include "app/main/InputDevicesOfRun.h"
 #include "app/main/Modes.h"
 #include "app/main/RunEnvironment.h"
@@ -29,6 +30,7 @@
 #include "platform/desktop/linux/MprisService.h"
 #include "platform/desktop/linux/RecentlyUsedFile.h"
 #include "platform/desktop/linux/RemoteReceivers.h"
+#include "platform/desktop/linux/ScreenSaverExtension.h"
 #include "platform/desktop/linux/SessionBus.h"
 #include "platform/desktop/linux/SingleInstance.h"
 #include "platform/desktop/linux/SystemPower.h"
@@ -185,8 +187,9 @@ private:
 };
 
 /// All outlive the services.
-platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const platform::Backlight& backlight,
-                                              platform::Power& power, platform::RemoteSource& remotes) {
+platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, platform::ScreenSaverExtension& saver,
+                                              const platform::Backlight& backlight, platform::Power& power,
+                                              platform::RemoteSource& remotes) {
     const auto brightness = [&backlight](const QString& screen) {
         int error = 0;
         const float value = backlight.brightness(screen, error);
@@ -194,7 +197,10 @@ platform::QtDesktop::Services desktopServices(platform::SessionBus& bus, const p
             logAlways("%@: ERROR: Retrieving brightness for current screen: %d", "Screen", error);
         return value;
     };
-    return {[&bus](bool active) { bus.setInhibited(active); },
+    return {[&bus, &saver](bool active) {
+                bus.setInhibited(active);
+                saver.setInhibited(active);
+            },
             brightness,
             [&backlight](const QString& screen, float value) { backlight.setBrightness(screen, value); },
             [](const platform::FileQuestion& question, const QString& parent, auto answered) {
@@ -245,6 +251,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
     movies.readAhead();
     platform::RecentlyUsedFile recentlyUsed(platform::RecentlyUsedFile::defaultPath());
     platform::SessionBus bus;
+    platform::ScreenSaverExtension screenSaver;
     const platform::Backlight backlight(platform::Backlight::systemFolder(),
                                         [&bus](const QString& light, unsigned level) {
                                             bus.setBacklight(light, level);
@@ -253,7 +260,7 @@ int play(int& count, char** arguments, const CommandLine& line) {
     platform::SystemPower power;
     const std::unique_ptr<platform::InputDevices> inputDevices = makeInputDevices();
     platform::RemoteReceivers remotes(*inputDevices);
-    desktop.setServices(desktopServices(bus, backlight, power, remotes));
+    desktop.setServices(desktopServices(bus, screenSaver, backlight, power, remotes));
 
     int status = exitSuccess;
     {
@@ -270,6 +277,8 @@ int play(int& count, char** arguments, const CommandLine& line) {
         steps.information = &player.information();
         steps.join(run.environment(), player.application(), player.controller());
 
+        const WindowTitle title(run.environment(), QCoreApplication::applicationName(),
+                                [&host](const QString& text) { host.setTitle(text); });
         platform::MprisService mediaControls(mediaIdentity());
         const MediaSession mediaSession(
             run.environment(), {mediaControls, player.view(), player.playlist(), player.controller(), desktop, toolkit,

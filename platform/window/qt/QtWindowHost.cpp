@@ -24,11 +24,13 @@
 #include <QOpenGLFunctions>
 #include <QOpenGLPaintDevice>
 #include <QPainter>
+#include <QPlatformSurfaceEvent>
 #include <QScreen>
 #include <QTimerEvent>
 
 #include <xcb/xcb.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <utility>
 
@@ -58,6 +60,18 @@ bool windowSystemFades() {
     const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(freed)> owner(
         xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr), freed);
     return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+/// Tells X11 the desktop entry that the window belongs to. Wayland hears it from Qt.
+void nameWindowClass(const QWindow& window) {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    if (!connection)
+        return;
+    QByteArray names = QByteArrayLiteral("lumaro");
+    names.append('\0').append(QGuiApplication::desktopFileName().toUtf8()).append('\0');
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()), XCB_ATOM_WM_CLASS,
+                        XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(names.size()), names.constData());
 }
 
 } // namespace
@@ -374,6 +388,10 @@ bool QtWindowHost::event(QEvent* event) {
     case QEvent::DragLeave:
         dragLeft();
         return true;
+    case QEvent::PlatformSurface:
+        if (static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated)
+            nameWindowClass(*this);
+        break;
     case QEvent::WindowBlocked:
         // The panel that stands is told of their releases, one without a window of ours, too.
         releaseKeys();
