@@ -7,6 +7,7 @@
 #include "platform/base/Localization.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/movie/MovieToolkit.h"
+#include "playback/PictureColors.h"
 #include "playback/QVMovie.h"
 #include "playback/QVMovieView.h"
 
@@ -39,7 +40,6 @@ constexpr std::array<Adjusted, 5> adjusted{{{&PictureAdjustment::contrast, "Cont
                                             {&PictureAdjustment::saturation, "Saturation: %@"},
                                             {&PictureAdjustment::hue, "Hue: %@"}}};
 constexpr int adjustmentStep = 2;
-constexpr int largestAdjustment = 100;
 
 std::size_t positionOf(const PictureShape& shape) {
     const auto found = std::ranges::find(aspects, shape.aspect, &Aspect::value);
@@ -158,13 +158,13 @@ void QVMovieController::adjustPicture(std::int32_t argument, Feedback) {
     PictureAdjustment adjustment = _with.view.adjustment();
     const auto index = static_cast<std::size_t>(std::abs(argument)) - 1;
     if (argument == 0) {
-        _with.view.setAdjustment({});
+        PictureColors::store(_environment, {});
         post("Original Colors");
     } else if (index < adjusted.size()) {
         int& value = adjustment.*adjusted[index].value;
-        value = std::clamp(value + (argument > 0 ? adjustmentStep : -adjustmentStep), -largestAdjustment,
-                           largestAdjustment);
-        _with.view.setAdjustment(adjustment);
+        value = std::clamp(value + (argument > 0 ? adjustmentStep : -adjustmentStep), -PictureColors::greatest,
+                           PictureColors::greatest);
+        PictureColors::store(_environment, adjustment);
         post(adjusted[index].confirmation, value > 0 ? u'+' + QString::number(value) : QString::number(value));
     }
 }

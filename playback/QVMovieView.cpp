@@ -14,6 +14,7 @@
 #include "platform/window/Window.h"
 #include "playback/DropTarget.h"
 #include "playback/MovieOrdering.h"
+#include "playback/PictureColors.h"
 #include "playback/QVMovie.h"
 #include "settings/SettingsKeys.h"
 #include "settings/Tracing.h"
@@ -45,6 +46,7 @@ QVMovieView::QVMovieView(const Environment& environment, const Collaborators& co
         [this](const auto& notification) { currentMovieChanged(notification); });
     _preferencesChanged = center.observe<QVPreferencesChangedNotification>(
         [this](const auto& notification) { preferencesChanged(notification); });
+    setAdjustment(PictureColors::stored(environment.settings));
 }
 
 QVMovieView::~QVMovieView() = default;
@@ -392,5 +394,7 @@ void QVMovieView::preferencesChanged(const QVPreferencesChangedNotification& not
         setMovieSize(_size, Recalculation::forced);
     } else if (notification.key == kQVDefaultMovieSize) {
         setMovieSize(_environment.settings.integerForKey(kQVDefaultMovieSize), Recalculation::ifChanged);
+    } else if (PictureColors::isKey(notification.key)) {
+        setAdjustment(PictureColors::stored(_environment.settings));
     }
 }

@@ -7,6 +7,7 @@
 #include "platform/base/UserDefaults.h"
 #include "platform/desktop/Desktop.h"
 #include "platform/window/qt/KeysAhead.h"
+#include "prefs/ColorsGroup.h"
 #include "prefs/EncodingMenu.h"
 #include "prefs/KeysPage.h"
 #include "prefs/LanguageList.h"
@@ -70,6 +71,13 @@ QVPreferencesController::QVPreferencesController(const Environment& environment,
     _preferencesChanged = environment.notifications.observe<QVPreferencesChangedNotification>(
         [this](const auto& notification) { preferencesChanged(notification); });
     awakeFromNib();
+    _colors = std::make_unique<ColorsGroup>(environment, *_controls, pictures,
+                                            [this](const QVariant& value, const QString& key) {
+                                                trace("%@: %@ changed to: %d", className, key, value.toInt());
+                                                choose(value, key);
+                                            });
+    setupWholeWindow();
+    connectControls();
 }
 
 QVPreferencesController::~QVPreferencesController() {
@@ -125,8 +133,6 @@ void QVPreferencesController::awakeFromNib() {
     _keys = std::make_unique<KeysPage>(_environment,
                                        [this](const QVariant& value, const QString& key) { choose(value, key); });
     c._keysPageLayout->addWidget(_keys->widget());
-    setupWholeWindow();
-    connectControls();
     _environment.settings.setWriteFailureHandler([this] { settingsNotSaved(); });
 }
 
@@ -176,6 +182,8 @@ void QVPreferencesController::setupWholeWindow() {
     _reset->add(*c._overlayPadding, kQVOverlayDefaultPadding);
     _reset->add(*c._advancedCursorHideDelay, kQVCursorAutohideDelay);
     _reset->add(*c._keysPageContents, kQVCommandKeys);
+    for (const QString& key : _colors->keys())
+        _reset->add(*c._colorsGroup, key);
     _filter = std::make_unique<PreferencesFilter>(*c._pages);
 }
 
@@ -261,6 +269,7 @@ void QVPreferencesController::syncWithDefaults() {
     for (const PlainRow& row : _plain)
         row.plain.show(settings);
     _padding->show(settings);
+    _colors->show(settings);
     _brightness->show(settings);
     _brightnessGroupSetEnabled(settings.boolForKey(kQVForceScreenBrightness));
     _languages->show(settings);

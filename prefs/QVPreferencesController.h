@@ -14,6 +14,7 @@
 #include <memory>
 #include <vector>
 
+class ColorsGroup;
 class EncodingMenu;
 class KeysPage;
 class LanguageList;
@@ -139,6 +140,7 @@ private:
     std::unique_ptr<KeysPage> _keys;
     std::unique_ptr<SettingSlider> _brightness;
     std::unique_ptr<SettingSlider> _padding;
+    std::unique_ptr<ColorsGroup> _colors;
     std::unique_ptr<LanguageList> _languages;
     std::unique_ptr<PageReset> _reset;
     std::unique_ptr<PreferencesFilter> _filter;

@@ -17,6 +17,12 @@ inline const QString kQVVolumeSave = QStringLiteral("QVVolumeSave");
 inline const QString kQVVolumeSavedLevel = QStringLiteral("QVVolumeSavedLevel");
 inline const QString kQVForceScreenBrightness = QStringLiteral("QVForceScreenBrightness");
 inline const QString kQVScreenBrightness = QStringLiteral("QVScreenBrightness");
+/// The colors of every movie, -100 to 100; 0 leaves them as they are in it.
+inline const QString kQVPictureContrast = QStringLiteral("QVPictureContrast");
+inline const QString kQVPictureBrightness = QStringLiteral("QVPictureBrightness");
+inline const QString kQVPictureGamma = QStringLiteral("QVPictureGamma");
+inline const QString kQVPictureSaturation = QStringLiteral("QVPictureSaturation");
+inline const QString kQVPictureHue = QStringLiteral("QVPictureHue");
 inline const QString kQVMainWindowScreen = QStringLiteral("QVMainWindowScreen");
 inline const QString kQVMainWindowLayer = QStringLiteral("QVMainWindowLayer");
 inline const QString kQVDefaultMovieSize = QStringLiteral("QVDefaultMovieSize");

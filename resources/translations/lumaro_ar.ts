@@ -1878,6 +1878,34 @@
         <source>Brightness of the screen</source>
         <translation>سطوع الشاشة</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>الص&amp;ورة</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>الت&amp;باين:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>ال&amp;سطوع:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;غاما:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>الت&amp;شبّع:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>ال&amp;صبغة:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>تُعرض به كل الأفلام، والفيلم المعروض على الشاشة فورًا</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>لا يمكن ضبط سطوع هذه الشاشة</translation>
@@ -2058,8 +2086,8 @@
         <source>Files</source>
         <translation>الملفات</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>الت&amp;رميز:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2220,7 +2248,7 @@
     </message>
     <message id="Also for &amp;beta versions">
         <source>Also for &amp;beta versions</source>
-        <translation>&amp;والإصدارات التجريبية أيضًا</translation>
+        <translation>والإصدارات التجريبية &amp;أيضًا</translation>
     </message>
     <message id="Versions that are still being tried">
         <source>Versions that are still being tried</source>
@@ -2410,8 +2438,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;الاختصارات</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>&amp;بحث:</translation>
     </message>
     <message id="Words of a command, or its key">

@@ -1823,7 +1823,7 @@
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
-        <translation>Lišta přes o&amp;braz:</translation>
+        <translation>Li&amp;šta přes obraz:</translation>
     </message>
     <message id="Where none stands below it: a larger bar that comes with the pointer, or stays">
         <source>Where none stands below it: a larger bar that comes with the pointer, or stays</source>
@@ -1868,6 +1868,34 @@
     <message id="Brightness of the screen">
         <source>Brightness of the screen</source>
         <translation>Jas obrazovky</translation>
+    </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>O&amp;braz</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Kontrast:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Jas:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gama:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>&amp;Sytost:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>O&amp;dstín:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Takto se zobrazuje každý film, ten na obrazovce ihned</translation>
     </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
@@ -2023,7 +2051,7 @@
     </message>
     <message id="S&amp;how subtitles">
         <source>S&amp;how subtitles</source>
-        <translation>Zo&amp;brazovat titulky</translation>
+        <translation>Zobrazovat t&amp;itulky</translation>
     </message>
     <message id="Also for movies opened later">
         <source>Also for movies opened later</source>
@@ -2049,8 +2077,8 @@
         <source>Files</source>
         <translation>Soubory</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>&amp;Kódování:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2211,7 +2239,7 @@
     </message>
     <message id="Also for &amp;beta versions">
         <source>Also for &amp;beta versions</source>
-        <translation>Také &amp;betaverze</translation>
+        <translation>Ta&amp;ké betaverze</translation>
     </message>
     <message id="Versions that are still being tried">
         <source>Versions that are still being tried</source>
@@ -2401,8 +2429,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;Zkratky</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>&amp;Hledat:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2459,7 +2487,7 @@
     </message>
     <message id="Reset A&amp;ll Keys">
         <source>Reset A&amp;ll</source>
-        <translation>O&amp;bnovit vše</translation>
+        <translation>Obnovit v&amp;še</translation>
     </message>
     <message id="Every command gets back the keys that Lumaro came with">
         <source>Every command gets back the keys that Lumaro came with</source>

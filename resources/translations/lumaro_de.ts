@@ -1780,7 +1780,7 @@
     </message>
     <message id="Open the &amp;last playlist">
         <source>Open the &amp;last playlist</source>
-        <translation>Letzte P&amp;laylist öffnen</translation>
+        <translation>Letzte Playlist &amp;öffnen</translation>
     </message>
     <message id="The movies of the last time come back, at the place where they were left">
         <source>The movies of the last time come back, at the place where they were left</source>
@@ -1865,6 +1865,34 @@
     <message id="Brightness of the screen">
         <source>Brightness of the screen</source>
         <translation>Helligkeit des Bildschirms</translation>
+    </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>Bi&amp;ld</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Kontrast:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Helligkeit:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>S&amp;ättigung:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>F&amp;arbton:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Jeder Film wird damit gezeigt, der auf dem Bildschirm sofort</translation>
     </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
@@ -1956,7 +1984,7 @@
     </message>
     <message id="Compare &amp;numbers by value">
         <source>Compare &amp;numbers by value</source>
-        <translation>Zah&amp;len nach ihrem Wert vergleichen</translation>
+        <translation>&amp;Zahlen nach ihrem Wert vergleichen</translation>
     </message>
     <message id="Part 2 comes before part 10">
         <source>Part 2 comes before part 10</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>Dateien</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>&amp;Kodierung:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>Tastenk&amp;ürzel</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>Su&amp;chen:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2456,7 +2484,7 @@
     </message>
     <message id="Reset A&amp;ll Keys">
         <source>Reset A&amp;ll</source>
-        <translation>A&amp;lle zurücksetzen</translation>
+        <translation>Alle &amp;zurücksetzen</translation>
     </message>
     <message id="Every command gets back the keys that Lumaro came with">
         <source>Every command gets back the keys that Lumaro came with</source>

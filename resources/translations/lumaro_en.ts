@@ -1866,6 +1866,34 @@
         <source>Brightness of the screen</source>
         <translation>Brightness of the screen</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>Pictur&amp;e</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>Co&amp;ntrast:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Brightness:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>Sa&amp;turation:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>&amp;Hue:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Every movie is shown with it, the one on the screen at once</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>The brightness of this screen can’t be set</translation>
@@ -2046,9 +2074,9 @@
         <source>Files</source>
         <translation>Files</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
-        <translation>&amp;Encoding:</translation>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
+        <translation>E&amp;ncoding:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
         <source>How the letters of subtitle files are stored; Automatic tells it by the file</source>
@@ -2398,9 +2426,9 @@
         <source>Short&amp;cuts</source>
         <translation>Short&amp;cuts</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
-        <translation>S&amp;earch:</translation>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
+        <translation>Searc&amp;h:</translation>
     </message>
     <message id="Words of a command, or its key">
         <source>Words of a command, or its key</source>

@@ -1866,6 +1866,34 @@
         <source>Brightness of the screen</source>
         <translation>Brillo de la pantalla</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>Ima&amp;gen</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Contraste:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Brillo:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>Ga&amp;mma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>Saturac&amp;ión:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>T&amp;ono:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Todas las películas se muestran así; la que está en pantalla, al instante</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>El brillo de esta pantalla no se puede ajustar</translation>
@@ -1876,7 +1904,7 @@
     </message>
     <message id="&amp;Jump by:">
         <source>&amp;Jump by:</source>
-        <translation>Lon&amp;gitud del salto:</translation>
+        <translation>Longitud &amp;del salto:</translation>
     </message>
     <message id="How many seconds a jump goes forward or back">
         <source>How many seconds a jump goes forward or back</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>Archivos</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>&amp;Codificación:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>A&amp;tajos</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>&amp;Buscar:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2472,7 +2500,7 @@
     </message>
     <message id="Take &amp;It Over">
         <source>Take &amp;It Over</source>
-        <translation>Reasi&amp;gnar</translation>
+        <translation>Reas&amp;ignar</translation>
     </message>
     <message id="The key means the marked command from now on">
         <source>The key means the marked command from now on</source>
@@ -2559,7 +2587,7 @@
     <name>Opening</name>
     <message id="Open pages of video sites with &amp;yt-dlp">
         <source>Open pages of video sites with &amp;yt-dlp</source>
-        <translation>Abrir páginas &amp;de sitios de vídeo con yt-dlp</translation>
+        <translation>Abrir páginas de sitios de vídeo con &amp;yt-dlp</translation>
     </message>
     <message id="An address that is no movie is asked of the program yt-dlp, where it is installed">
         <source>An address that is no movie is asked of the program yt-dlp, where it is installed</source>

@@ -1852,7 +1852,7 @@
     </message>
     <message id="Set the screen’s bri&amp;ghtness:">
         <source>Set the screen’s bri&amp;ghtness:</source>
-        <translation>Ré&amp;gler la luminosité de l’écran :</translation>
+        <translation>R&amp;égler la luminosité de l’écran :</translation>
     </message>
     <message id="As long as Lumaro runs; then the screen is as bright as before">
         <source>As long as Lumaro runs; then the screen is as bright as before</source>
@@ -1865,6 +1865,34 @@
     <message id="Brightness of the screen">
         <source>Brightness of the screen</source>
         <translation>Luminosité de l’écran</translation>
+    </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>Ima&amp;ge</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Contraste :</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>L&amp;uminosité :</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>Ga&amp;mma :</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>Sa&amp;turation :</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>T&amp;einte :</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Tous les films sont affichés ainsi, celui à l’écran tout de suite</translation>
     </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>Fichiers</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>E&amp;ncodage :</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2152,7 +2180,7 @@
     </message>
     <message id="&amp;Keep the display for the next start">
         <source>&amp;Keep the display for the next start</source>
-        <translation>&amp;Garder l’affichage à l’écran au prochain démarrage</translation>
+        <translation>Garder l’affichage &amp;à l’écran au prochain démarrage</translation>
     </message>
     <message id="The on-screen display chosen last is shown again">
         <source>The on-screen display chosen last is shown again</source>
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>R&amp;accourcis</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>Re&amp;chercher :</translation>
     </message>
     <message id="Words of a command, or its key">

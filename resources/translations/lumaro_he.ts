@@ -1866,6 +1866,34 @@
         <source>Brightness of the screen</source>
         <translation>בהירות המסך</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>&amp;תמונה</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;ניגודיות:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;בהירות:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;גמא:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>ר&amp;וויה:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>גוו&amp;ן:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>כל הסרטים מוצגים כך, והסרט שעל המסך מיד</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>לא ניתן לקבוע את הבהירות של המסך הזה</translation>
@@ -1908,7 +1936,7 @@
     </message>
     <message id="&amp;Hide the window">
         <source>&amp;Hide the window</source>
-        <translation>הס&amp;תרת החלון</translation>
+        <translation>הסתרת החלו&amp;ן</translation>
     </message>
     <message id="The window is minimized, and comes back with Lumaro">
         <source>The window is minimized, and comes back with Lumaro</source>
@@ -1988,7 +2016,7 @@
     </message>
     <message id="&amp;Begin to play what is opened">
         <source>&amp;Begin to play what is opened</source>
-        <translation>לה&amp;תחיל לנגן את מה שנפתח</translation>
+        <translation>להתחיל לנ&amp;גן את מה שנפתח</translation>
     </message>
     <message id="Else movies are shown and wait">
         <source>Else movies are shown and wait</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>קבצים</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>קי&amp;דוד:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2060,7 +2088,7 @@
     </message>
     <message id="Frame ra&amp;te:">
         <source>Frame ra&amp;te:</source>
-        <translation>קצב &amp;תמונות:</translation>
+        <translation>קצ&amp;ב תמונות:</translation>
     </message>
     <message id="For subtitle files that count pictures instead of seconds">
         <source>For subtitle files that count pictures instead of seconds</source>
@@ -2264,7 +2292,7 @@
     </message>
     <message id="Act on in&amp;frared remotes">
         <source>Act on in&amp;frared remotes</source>
-        <translation>&amp;תגובה לשלטי אינפרא־אדום</translation>
+        <translation>תגובה &amp;לשלטי אינפרא־אדום</translation>
     </message>
     <message id="Their buttons are the player's alone while it runs">
         <source>Their buttons are the player's alone while it runs</source>
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>מקשי &amp;קיצור</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>&amp;חיפוש:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2440,7 +2468,7 @@
     </message>
     <message id="Remo&amp;ve Key">
         <source>Remo&amp;ve Key</source>
-        <translation>הסר&amp;ת מקש</translation>
+        <translation>&amp;הסרת מקש</translation>
     </message>
     <message id="The marked key means nothing any more">
         <source>The marked key means nothing any more</source>
@@ -2456,7 +2484,7 @@
     </message>
     <message id="Reset A&amp;ll Keys">
         <source>Reset A&amp;ll</source>
-        <translation>איפוס &amp;הכול</translation>
+        <translation>א&amp;יפוס הכול</translation>
     </message>
     <message id="Every command gets back the keys that Lumaro came with">
         <source>Every command gets back the keys that Lumaro came with</source>
@@ -2464,7 +2492,7 @@
     </message>
     <message id="&amp;Undo Key Change">
         <source>&amp;Undo</source>
-        <translation>ב&amp;יטול שינוי</translation>
+        <translation>בי&amp;טול שינוי</translation>
     </message>
     <message id="Takes back the last change of a key">
         <source>Takes back the last change of a key</source>

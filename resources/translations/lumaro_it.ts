@@ -1800,7 +1800,7 @@
     </message>
     <message id="Si&amp;ze:">
         <source>Si&amp;ze:</source>
-        <translation>Di&amp;mensione:</translation>
+        <translation>&amp;Dimensione:</translation>
     </message>
     <message id="How large movies are shown, from now on and at the next start">
         <source>How large movies are shown, from now on and at the next start</source>
@@ -1866,6 +1866,34 @@
         <source>Brightness of the screen</source>
         <translation>Luminosità dello schermo</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>I&amp;mmagine</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>Co&amp;ntrasto:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Luminosità:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>S&amp;aturazione:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>T&amp;inta:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Tutti i film vengono mostrati così, quello sullo schermo da subito</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>La luminosità di questo schermo non può essere impostata</translation>
@@ -1876,7 +1904,7 @@
     </message>
     <message id="&amp;Jump by:">
         <source>&amp;Jump by:</source>
-        <translation>Salto &amp;di:</translation>
+        <translation>S&amp;alto di:</translation>
     </message>
     <message id="How many seconds a jump goes forward or back">
         <source>How many seconds a jump goes forward or back</source>
@@ -1972,7 +2000,7 @@
     </message>
     <message id="By the f&amp;ile name only">
         <source>By the f&amp;ile name only</source>
-        <translation>Solo secondo il no&amp;me del file</translation>
+        <translation>So&amp;lo secondo il nome del file</translation>
     </message>
     <message id="Whatever folders the movies lie in">
         <source>Whatever folders the movies lie in</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>File</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>Codific&amp;a:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2116,7 +2144,7 @@
     </message>
     <message id="Remo&amp;ve">
         <source>Remo&amp;ve</source>
-        <translation>Ri&amp;muovi</translation>
+        <translation>Rimuo&amp;vi</translation>
     </message>
     <message id="Takes the language off the list">
         <source>Takes the language off the list</source>
@@ -2152,7 +2180,7 @@
     </message>
     <message id="&amp;Keep the display for the next start">
         <source>&amp;Keep the display for the next start</source>
-        <translation>&amp;Mantieni l’indicazione per il prossimo avvio</translation>
+        <translation>Mantieni &amp;l’indicazione per il prossimo avvio</translation>
     </message>
     <message id="The on-screen display chosen last is shown again">
         <source>The on-screen display chosen last is shown again</source>
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;Scorciatoie</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>C&amp;erca:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2440,7 +2468,7 @@
     </message>
     <message id="Remo&amp;ve Key">
         <source>Remo&amp;ve Key</source>
-        <translation>Ri&amp;muovi tasto</translation>
+        <translation>Rimuo&amp;vi tasto</translation>
     </message>
     <message id="The marked key means nothing any more">
         <source>The marked key means nothing any more</source>
@@ -2559,7 +2587,7 @@
     <name>Opening</name>
     <message id="Open pages of video sites with &amp;yt-dlp">
         <source>Open pages of video sites with &amp;yt-dlp</source>
-        <translation>&amp;Apri le pagine dei siti video con yt-dlp</translation>
+        <translation>Apri le pagine dei siti video con &amp;yt-dlp</translation>
     </message>
     <message id="An address that is no movie is asked of the program yt-dlp, where it is installed">
         <source>An address that is no movie is asked of the program yt-dlp, where it is installed</source>

@@ -1863,6 +1863,34 @@
         <source>Brightness of the screen</source>
         <translation>画面の明るさ</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>映像(&amp;X)</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>コントラスト(&amp;N):</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>明るさ(&amp;B):</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>ガンマ(&amp;G):</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>彩度(&amp;T):</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>色相(&amp;H):</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>すべてのムービーに使われ、表示中のムービーにはすぐに反映されます</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>この画面の明るさは設定できません</translation>
@@ -2043,8 +2071,8 @@
         <source>Files</source>
         <translation>ファイル</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>エンコーディング(&amp;E):</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2395,8 +2423,8 @@
         <source>Short&amp;cuts</source>
         <translation>ショートカット(&amp;C)</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>検索(&amp;E):</translation>
     </message>
     <message id="Words of a command, or its key">

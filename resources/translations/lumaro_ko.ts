@@ -1863,6 +1863,34 @@
         <source>Brightness of the screen</source>
         <translation>화면 밝기</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>화면(&amp;X)</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>대비(&amp;N):</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>밝기(&amp;B):</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>감마(&amp;G):</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>채도(&amp;T):</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>색조(&amp;H):</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>모든 동영상에 적용되며, 화면에 있는 동영상에는 바로 적용됩니다</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>이 화면의 밝기는 설정할 수 없습니다</translation>
@@ -2043,8 +2071,8 @@
         <source>Files</source>
         <translation>파일</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>인코딩(&amp;E):</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2395,8 +2423,8 @@
         <source>Short&amp;cuts</source>
         <translation>단축키(&amp;C)</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>검색(&amp;E):</translation>
     </message>
     <message id="Words of a command, or its key">

@@ -1780,7 +1780,7 @@
     </message>
     <message id="Open the &amp;last playlist">
         <source>Open the &amp;last playlist</source>
-        <translation>De &amp;laatste afspeellijst openen</translation>
+        <translation>De laatste afspeelli&amp;jst openen</translation>
     </message>
     <message id="The movies of the last time come back, at the place where they were left">
         <source>The movies of the last time come back, at the place where they were left</source>
@@ -1865,6 +1865,34 @@
     <message id="Brightness of the screen">
         <source>Brightness of the screen</source>
         <translation>Helderheid van het scherm</translation>
+    </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>Bee&amp;ld</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Contrast:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Helderheid:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>Ga&amp;mma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>&amp;Verzadiging:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>&amp;Tint:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Elke film wordt zo getoond, die op het scherm meteen</translation>
     </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>Bestanden</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>&amp;Codering:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2108,7 +2136,7 @@
     </message>
     <message id="Lo&amp;wer">
         <source>Lo&amp;wer</source>
-        <translation>&amp;Lager</translation>
+        <translation>Lage&amp;r</translation>
     </message>
     <message id="Moves the language down the list">
         <source>Moves the language down the list</source>
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;Sneltoetsen</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>&amp;Zoeken:</translation>
     </message>
     <message id="Words of a command, or its key">

@@ -1823,7 +1823,7 @@
     </message>
     <message id="Bar over the p&amp;icture:">
         <source>Bar over the p&amp;icture:</source>
-        <translation>Pasek na o&amp;brazie:</translation>
+        <translation>Pasek na &amp;obrazie:</translation>
     </message>
     <message id="Where none stands below it: a larger bar that comes with the pointer, or stays">
         <source>Where none stands below it: a larger bar that comes with the pointer, or stays</source>
@@ -1868,6 +1868,34 @@
     <message id="Brightness of the screen">
         <source>Brightness of the screen</source>
         <translation>Jasność ekranu</translation>
+    </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>O&amp;braz</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Kontrast:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Jasność:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>Nas&amp;ycenie:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>&amp;Odcień:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Tak jest pokazywany każdy film, a ten na ekranie od razu</translation>
     </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
@@ -2049,8 +2077,8 @@
         <source>Files</source>
         <translation>Pliki</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>Ko&amp;dowanie:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2401,8 +2429,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;Skróty</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>Szu&amp;kaj:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2562,7 +2590,7 @@
     <name>Opening</name>
     <message id="Open pages of video sites with &amp;yt-dlp">
         <source>Open pages of video sites with &amp;yt-dlp</source>
-        <translation>&amp;Otwieraj strony serwisów wideo przez yt-dlp</translation>
+        <translation>Otwieraj strony serwis&amp;ów wideo przez yt-dlp</translation>
     </message>
     <message id="An address that is no movie is asked of the program yt-dlp, where it is installed">
         <source>An address that is no movie is asked of the program yt-dlp, where it is installed</source>

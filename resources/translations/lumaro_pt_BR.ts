@@ -1772,7 +1772,7 @@
     </message>
     <message id="Open &amp;nothing">
         <source>Open &amp;nothing</source>
-        <translation>Não abr&amp;ir nada</translation>
+        <translation>N&amp;ão abrir nada</translation>
     </message>
     <message id="Lumaro starts with an empty screen">
         <source>Lumaro starts with an empty screen</source>
@@ -1866,6 +1866,34 @@
         <source>Brightness of the screen</source>
         <translation>Brilho da tela</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>&amp;Imagem</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>&amp;Contraste:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Brilho:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gama:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>Sat&amp;uração:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>&amp;Matiz:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Todos os filmes são exibidos assim; o que está na tela, na hora</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>O brilho desta tela não pode ser ajustado</translation>
@@ -1940,7 +1968,7 @@
     </message>
     <message id="Shu&amp;ffled">
         <source>Shu&amp;ffled</source>
-        <translation>Aleatór&amp;ia</translation>
+        <translation>Aleat&amp;ória</translation>
     </message>
     <message id="Movies play in an order left to chance">
         <source>Movies play in an order left to chance</source>
@@ -2046,9 +2074,9 @@
         <source>Files</source>
         <translation>Arquivos</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
-        <translation>Cod&amp;ificação:</translation>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
+        <translation>Codifica&amp;ção:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
         <source>How the letters of subtitle files are stored; Automatic tells it by the file</source>
@@ -2264,7 +2292,7 @@
     </message>
     <message id="Act on in&amp;frared remotes">
         <source>Act on in&amp;frared remotes</source>
-        <translation>Responder a controles &amp;infravermelhos</translation>
+        <translation>Respo&amp;nder a controles infravermelhos</translation>
     </message>
     <message id="Their buttons are the player's alone while it runs">
         <source>Their buttons are the player's alone while it runs</source>
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>A&amp;talhos</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>&amp;Pesquisar:</translation>
     </message>
     <message id="Words of a command, or its key">

@@ -1869,6 +1869,34 @@
         <source>Brightness of the screen</source>
         <translation>Яркость экрана</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>Изо&amp;бражение</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>К&amp;онтраст:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Яркость:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Гамма:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>Н&amp;асыщенность:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>О&amp;ттенок:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Так показывается каждый фильм, а тот, что на экране, — сразу</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>Яркость этого экрана изменить нельзя</translation>
@@ -2049,8 +2077,8 @@
         <source>Files</source>
         <translation>Файлы</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>Кодиро&amp;вка:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2401,8 +2429,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;Клавиши</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>По&amp;иск:</translation>
     </message>
     <message id="Words of a command, or its key">
@@ -2435,7 +2463,7 @@
     </message>
     <message id="A&amp;dd Key...">
         <source>A&amp;dd Key...</source>
-        <translation>До&amp;бавить клавишу…</translation>
+        <translation>Добавит&amp;ь клавишу…</translation>
     </message>
     <message id="Then press the key, with Ctrl, Alt, Shift or Super if you like">
         <source>Then press the key, with Ctrl, Alt, Shift or Super if you like</source>

@@ -1772,7 +1772,7 @@
     </message>
     <message id="Open &amp;nothing">
         <source>Open &amp;nothing</source>
-        <translation>Öppna &amp;inget</translation>
+        <translation>&amp;Öppna inget</translation>
     </message>
     <message id="Lumaro starts with an empty screen">
         <source>Lumaro starts with an empty screen</source>
@@ -1865,6 +1865,34 @@
     <message id="Brightness of the screen">
         <source>Brightness of the screen</source>
         <translation>Skärmens ljusstyrka</translation>
+    </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>B&amp;ild</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>K&amp;ontrast:</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Ljusstyrka:</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>&amp;Mättnad:</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>&amp;Nyans:</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>Alla filmer visas så, den på skärmen genast</translation>
     </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
@@ -2046,8 +2074,8 @@
         <source>Files</source>
         <translation>Filer</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>Kodnin&amp;g:</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2264,7 +2292,7 @@
     </message>
     <message id="Act on in&amp;frared remotes">
         <source>Act on in&amp;frared remotes</source>
-        <translation>Lyssna på &amp;infraröda fjärrkontroller</translation>
+        <translation>L&amp;yssna på infraröda fjärrkontroller</translation>
     </message>
     <message id="Their buttons are the player's alone while it runs">
         <source>Their buttons are the player's alone while it runs</source>
@@ -2398,8 +2426,8 @@
         <source>Short&amp;cuts</source>
         <translation>&amp;Kortkommandon</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>Sök efte&amp;r:</translation>
     </message>
     <message id="Words of a command, or its key">

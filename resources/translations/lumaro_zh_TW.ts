@@ -1863,6 +1863,34 @@
         <source>Brightness of the screen</source>
         <translation>螢幕亮度</translation>
     </message>
+    <message id="Pictur&amp;e">
+        <source>Pictur&amp;e</source>
+        <translation>畫面(&amp;X)</translation>
+    </message>
+    <message id="Co&amp;ntrast:">
+        <source>Co&amp;ntrast:</source>
+        <translation>對比(&amp;N)：</translation>
+    </message>
+    <message id="&amp;Brightness:">
+        <source>&amp;Brightness:</source>
+        <translation>亮度(&amp;B)：</translation>
+    </message>
+    <message id="&amp;Gamma:">
+        <source>&amp;Gamma:</source>
+        <translation>Gamma(&amp;G)：</translation>
+    </message>
+    <message id="Sa&amp;turation:">
+        <source>Sa&amp;turation:</source>
+        <translation>飽和度(&amp;T)：</translation>
+    </message>
+    <message id="&amp;Hue:">
+        <source>&amp;Hue:</source>
+        <translation>色相(&amp;H)：</translation>
+    </message>
+    <message id="Every movie is shown with it, the one on the screen at once">
+        <source>Every movie is shown with it, the one on the screen at once</source>
+        <translation>所有影片都依此顯示，螢幕上的影片立即生效</translation>
+    </message>
     <message id="The brightness of this screen can’t be set">
         <source>The brightness of this screen can’t be set</source>
         <translation>無法設定這個螢幕的亮度</translation>
@@ -2043,8 +2071,8 @@
         <source>Files</source>
         <translation>檔案</translation>
     </message>
-    <message id="&amp;Encoding:">
-        <source>&amp;Encoding:</source>
+    <message id="E&amp;ncoding:">
+        <source>E&amp;ncoding:</source>
         <translation>編碼(&amp;E)：</translation>
     </message>
     <message id="How the letters of subtitle files are stored; Automatic tells it by the file">
@@ -2395,8 +2423,8 @@
         <source>Short&amp;cuts</source>
         <translation>快速鍵(&amp;C)</translation>
     </message>
-    <message id="S&amp;earch:">
-        <source>S&amp;earch:</source>
+    <message id="Searc&amp;h:">
+        <source>Searc&amp;h:</source>
         <translation>搜尋(&amp;E)：</translation>
     </message>
     <message id="Words of a command, or its key">

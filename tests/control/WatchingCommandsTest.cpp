@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Speed, and places in the movie.
 #include "platform/base/Background.h"
+#include "settings/SettingsKeys.h"
 #include "tests/control/MovieControllerRig.h"
 
 #include <QDir>
@@ -230,6 +231,7 @@ TEST_F(WatchingCommands, Colors_and_fields_are_changed_by_keys_and_menus) {
     for (int i = 0; i < 60; ++i)
         perform(adjustPictureOperation, -2);
     EXPECT_EQ(view.adjustment().brightness, -100);
+    EXPECT_EQ(settings.defaults().integerForKey(kQVPictureBrightness), -100) << "for every movie";
     press(key::backspace, held::control);
     EXPECT_EQ(view.adjustment(), platform::PictureAdjustment());
     platform::Menu menu;

@@ -176,7 +176,7 @@ TEST_F(Preferences, are_walked_by_tab_through_every_page_and_back_without_changi
         return last;
     };
     shownAfter(XK_Tab);
-    constexpr std::size_t pages = 6, enough = 80;
+    constexpr std::size_t pages = 7, enough = 80;
     for (std::size_t page = 0; page < pages && !HasFailure(); ++page) {
         SCOPED_TRACE(page);
         if (page > 0)

@@ -6,14 +6,17 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPixmap>
 #include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
 
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -51,6 +54,8 @@ TEST_F(PreferencesWindow, sliders_store_each_step_and_leave_alone_what_they_only
         {"_overlayPadding", kQVOverlayDefaultPadding, -3, 0, "0 pt", 1, 1, "1 pt"},
         {"_overlayPadding", kQVOverlayDefaultPadding, std::numeric_limits<double>::quiet_NaN(), 0, "0 pt", 8, 8,
          "8 pt"},
+        {"_pictureHue", kQVPictureHue, -7, -7, "-7", 12, 12, "12"},
+        {"_pictureGamma", kQVPictureGamma, 500, 100, "100", -100, -100, "-100"},
         {"_screenBrightness", kQVScreenBrightness, 0.754, 75, "75 %", 80, 0.8, "80 %"},
         {"_screenBrightness", kQVScreenBrightness, 0, 5, "5 %", 6, 0.06, "6 %"},
     };
@@ -73,6 +78,24 @@ TEST_F(PreferencesWindow, sliders_store_each_step_and_leave_alone_what_they_only
     show({{kQVForceScreenBrightness, true}});
     EXPECT_FALSE(control<QCheckBox>("_screenForceBrightness").isEnabled());
     EXPECT_FALSE(control<QSlider>("_screenBrightness").isEnabled());
+}
+
+TEST_F(PreferencesWindow, without_a_movie_the_sample_is_shown_in_the_colors) {
+    show();
+    control<QTabWidget>("_pages").setCurrentWidget(&control<QWidget>("_picturePage"));
+    const auto sampled = [&](const char* slider, int value) {
+        control<QSlider>(slider).setValue(value);
+        const QImage picture = control<QWidget>("pictureSample").grab().toImage();
+        control<QSlider>(slider).setValue(0);
+        return picture.pixelColor(picture.width() / 4, picture.height() / 2); // the sky by day
+    };
+    const QColor original = sampled("_pictureHue", 0);
+    EXPECT_GT(original.hsvSaturation(), 12);
+    EXPECT_NEAR(sampled("_pictureSaturation", -100).hsvSaturation(), 0, 2);
+    EXPECT_NEAR(std::abs(sampled("_pictureHue", 100).hsvHue() - original.hsvHue()), 180, 20);
+    EXPECT_LT(sampled("_pictureBrightness", -20).value(), original.value() - 30);
+    EXPECT_LT(sampled("_pictureGamma", -50).value(), original.value() - 15);
+    EXPECT_NEAR(sampled("_pictureContrast", -100).lightness(), 128, 12);
 }
 
 TEST_F(PreferencesWindow, languages_are_added_moved_and_removed) {

@@ -103,7 +103,7 @@ void MpvPlayer::setAdjustment(const PictureAdjustment& adjustment) {
 }
 
 void MpvPlayer::sendAdjustment() {
-    if (!_video.usesOpenGL())
+    if (!_core || !_video.usesOpenGL())
         return;
     const std::pair<const char*, int> values[] = {{"contrast", _adjustment.contrast},
                                                   {"brightness", _adjustment.brightness},
