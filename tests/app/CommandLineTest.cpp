@@ -76,7 +76,7 @@ TEST(CommandLine, wrong_usage_names_what_is_wrong) {
     EXPECT_FALSE(CommandLine::parse({QString()}, "/").error.isEmpty()) << "an empty name";
 }
 
-TEST(CommandLine, shells_complete_every_option) {
+TEST(CommandLine, shells_complete_every_option_and_no_other) {
     struct Shell {
         const char* file;
         const char* spelled;
@@ -93,6 +93,13 @@ TEST(CommandLine, shells_complete_every_option) {
             const QString name = options.next().captured(1);
             EXPECT_TRUE(text.contains(QRegularExpression(QString::fromLatin1(shell.spelled).arg(name))))
                 << shell.file << " lacks " << name.toStdString();
+        }
+        const QString anyOption = QString::fromLatin1(shell.spelled).arg("([a-z][a-z-]*)").remove("\\b");
+        auto completed = QRegularExpression(anyOption).globalMatch(text);
+        while (completed.hasNext()) {
+            const QString name = completed.next().captured(1);
+            EXPECT_TRUE(CommandLine::helpText().contains(QRegularExpression("--" + name + "\\b")))
+                << shell.file << " has " << name.toStdString();
         }
     }
 }
