@@ -20,7 +20,7 @@ std::string with(const char* word, auto number) {
 }
 
 std::string nameOf(PlayerTimer timer) {
-    const char* const names[playerTimerCount] = {"keyframe", "failure", "growth", "scrub", "text"};
+    const char* const names[playerTimerCount] = {"keyframe", "failure", "growth", "scrub", "text", "step"};
     return names[static_cast<std::size_t>(timer)];
 }
 
@@ -34,7 +34,7 @@ std::string textOf(const PlayerEffect& effect, const PlayerState& state) {
                                      (e.seek.kind == SeekPlanner::Kind::keyframe ? " keyframe" : " exact");
                           },
                           [](const UseMoreThreads&) { return std::string("more threads"); },
-                          [](const SendSteps& e) { return with("steps", e.count); },
+                          [](const SendStep& e) { return with("step", e.direction); },
                           [](const SetPaused& e) { return std::string(e.paused ? "pause" : "go"); },
                           [](const SetSpeed& e) { return with("speed", e.speed); },
                           [](const SetRepeated& e) {

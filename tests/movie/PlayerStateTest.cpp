@@ -294,49 +294,6 @@ TEST(PlayerState, a_movie_of_sound_waits_for_no_frame) {
     EXPECT_EQ(player.rate(), 1);
 }
 
-// Steps
-
-TEST(PlayerState, a_step_pauses_and_its_frame_is_a_jump) {
-    PlayerScript player = PlayerScript::showing();
-    player(Play{});
-    EXPECT_EQ(player(Step{1}), "pause, steps 1 | state");
-    EXPECT_EQ(player(TimeChanged{0.04}), "| state, jump");
-    EXPECT_EQ(player.time(), 4);
-    EXPECT_EQ(player(TimeChanged{0.08}), "| state, frame 8");
-    EXPECT_EQ(player(Step{-1}), "steps -1");
-    // Playing on before the frame came is no jump.
-    EXPECT_EQ(player(Play{}), "go | state");
-    EXPECT_EQ(player(TimeChanged{0.12}), "| state, frame 12");
-    EXPECT_EQ(player.time(), 12);
-}
-
-TEST(PlayerState, steps_during_a_seek_are_sent_together_after_it) {
-    PlayerScript player = PlayerScript::showing();
-    player(Seek{250, silent});
-    for (const int direction : {1, 1, -1, 1})
-        EXPECT_EQ(player(Step{direction}), "");
-    player(FrameDue{});
-    EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, seek 2.5 exact");
-    player(FrameDue{});
-    EXPECT_EQ(player(PlaybackRestarted{}), "cancel keyframe, steps 2");
-    EXPECT_EQ(player(PlaybackRestarted{}), "") << "once";
-    EXPECT_EQ(player(TimeChanged{2.58}), "| state, jump");
-
-    const struct {
-        platform::PlayerEvent forgets;
-        const char* after;
-    } cases[] = {{Seek{0, silent}, "cancel keyframe, seek 0 exact"}, {SetRate{1, 0}, "cancel keyframe, seek 3 exact"}};
-    for (const auto& c : cases) {
-        PlayerScript stepped = PlayerScript::showing();
-        stepped(Seek{300, silent});
-        stepped(Step{1});
-        stepped(c.forgets);
-        stepped(FrameDue{});
-        EXPECT_EQ(stepped(PlaybackRestarted{}), c.after);
-        EXPECT_EQ(stepped.state().stepsWaiting, 0);
-    }
-}
-
 // Scrubbing
 
 TEST(PlayerState, scrubbing_shows_a_keyframe_every_twelfth_of_a_second) {

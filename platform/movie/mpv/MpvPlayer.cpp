@@ -423,9 +423,8 @@ void MpvPlayer::facts(std::function<void(const PlaybackFacts&)> completion) {
     });
 }
 
-void MpvPlayer::carryOut(const playerEffect::SendSteps& effect) {
-    for (int i = std::abs(effect.count); i > 0; --i)
-        command({effect.count > 0 ? "frame-step" : "frame-back-step"});
+void MpvPlayer::carryOut(const playerEffect::SendStep& effect) {
+    command({effect.direction > 0 ? "frame-step" : "frame-back-step"});
 }
 
 void MpvPlayer::prepareSubtitles() {

@@ -126,7 +126,7 @@ private:
     void carryOut(const playerEffect::StopFile&) { command({"stop"}); }
     void carryOut(const playerEffect::SendSeek& effect);
     void carryOut(const playerEffect::UseMoreThreads&);
-    void carryOut(const playerEffect::SendSteps& effect);
+    void carryOut(const playerEffect::SendStep& effect);
     void carryOut(const playerEffect::SetPaused& effect) { setFlag("pause", effect.paused); }
     void carryOut(const playerEffect::SetSpeed& effect) { setNumber("speed", effect.speed); }
     void carryOut(const playerEffect::SetRepeated& effect);

@@ -26,8 +26,8 @@ struct LoadedMovie {
 };
 
 /// The timers that the player asks for. The scrubbing one repeats.
-enum class PlayerTimer { keyframe, failure, growth, scrub, text };
-inline constexpr std::size_t playerTimerCount = 5;
+enum class PlayerTimer { keyframe, failure, growth, scrub, text, step };
+inline constexpr std::size_t playerTimerCount = 6;
 
 /// Whether the core has nothing more to play: for now, or for good.
 enum class CoreEnd { no, ofArrived, ofMovie };
@@ -132,9 +132,9 @@ struct SendSeek {
 };
 /// Has the movie decoded by several threads; a seek follows at once.
 struct UseMoreThreads {};
-/// That many frames forward, or back where it is negative.
-struct SendSteps {
-    int count;
+/// One frame forward (+1) or back (-1).
+struct SendStep {
+    int direction;
 };
 struct SetPaused {
     bool paused;
@@ -183,7 +183,7 @@ struct DropHeldFrame {};
 
 using PlayerEffect =
     std::variant<playerEffect::LoadFile, playerEffect::StopFile, playerEffect::UseMoreThreads, playerEffect::SendSeek,
-                 playerEffect::SendSteps, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetRepeated,
+                 playerEffect::SendStep, playerEffect::SetPaused, playerEffect::SetSpeed, playerEffect::SetRepeated,
                  playerEffect::SetVolume, playerEffect::SetMuted, playerEffect::SelectVideo, playerEffect::SelectAudio,
                  playerEffect::SelectSubtitles, playerEffect::SelectSecondSubtitles, playerEffect::SetDelays,
                  playerEffect::ArmTimer, playerEffect::CancelTimer, playerEffect::CancelTimers,

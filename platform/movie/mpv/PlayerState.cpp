@@ -28,6 +28,10 @@ constexpr double failureDelay = 0.25;
 // How often it is tried whether more of a growing file has arrived.
 constexpr double growthInterval = 0.5;
 constexpr float maximumVolume = 3.0F;
+// A step that shows nothing, as one before the first frame might, does not hold up the next ones for longer.
+constexpr double stepTimeout = 2.0;
+// A key held down asks for more steps than a large film can take: it stops soon after the key is let go.
+constexpr int maximumStepsWaiting = 8;
 // A resting core reads nothing of a track that was just selected before it is sent to where it stands; and it forgets
 // that track's part of the file where it is sent there at once.
 constexpr double textDelay = 0.2;
@@ -58,6 +62,7 @@ public:
 
     void operator()(const playerEvent::Load& load) {
         const bool hadRepeated = _s.repeated.has_value();
+        endStep();
         PlayerState fresh;
         fresh.movie = load.movie;
         fresh.time = load.time;
@@ -133,10 +138,9 @@ public:
         if (!hasFrames())
             return;
         setRate(0, 0);
-        // Sent while the core seeks, a step would play on to the end.
         _s.stepsWaiting += asked.direction > 0 ? 1 : -1;
-        if (!_s.seeks.isBusy())
-            sendSteps();
+        _s.stepsWaiting = std::clamp(_s.stepsWaiting, -maximumStepsWaiting, maximumStepsWaiting);
+        sendStep();
     }
 
     void operator()(const playerEvent::TimerFired& fired) {
@@ -158,6 +162,10 @@ public:
             break;
         case PlayerTimer::scrub:
             scrub(fired.now);
+            break;
+        case PlayerTimer::step:
+            endStep();
+            sendStep();
             break;
         }
     }
@@ -181,6 +189,8 @@ public:
         }
         if (_s.seekStage == SeekStage::shown)
             effect(CancelTimer{PlayerTimer::keyframe});
+        if (_s.stepUnderWay < 0)
+            endStep();
         seekDone();
     }
 
@@ -216,6 +226,10 @@ public:
         } else {
             showTime(time);
         }
+        if (_s.stepUnderWay > 0) {
+            stepDone();
+            sendStep();
+        }
     }
 
     void operator()(const playerEvent::DurationGrew& grew) {
@@ -237,6 +251,8 @@ public:
         if (_s.end == CoreEnd::no)
             return;
         _s.core->paused = true; // the core pauses itself there
+        if (_s.stepUnderWay > 0)
+            stepDone();
         if (_s.rate > 0 && !_s.seeks.isBusy() && !_s.scrub)
             reachCoreEnd();
     }
@@ -258,6 +274,7 @@ public:
         if (!_s.core || !_s.movie)
             return;
         effect(CancelTimers{});
+        endStep();
         endScrubbing();
         _s.file = File::loading;
         _s.end = CoreEnd::no;
@@ -402,8 +419,10 @@ private:
         const bool isThere = (rate < 0 && _s.time <= 0) || (rate > 0 && _s.end != CoreEnd::no && !_s.seeks.isBusy());
         _s.rate = isThere ? 0 : rate;
         updateScrubbing(now);
-        if (_s.rate != 0)
+        if (_s.rate != 0) {
+            endStep();
             _s.stepsWaiting = 0;
+        }
         applyMotion();
         endIfFailed();
         report(StateChanged{});
@@ -472,6 +491,7 @@ private:
     void send(const SeekPlanner::Seek& seek) {
         _s.end = CoreEnd::no;
         _s.seekStage = SeekStage::sent;
+        endStep();
         applyMotion();
         // The picture of a keyframe needs no others; before an exact one many may have to be decoded.
         if (seek.kind == SeekPlanner::Kind::exact && seek.seconds > 0 &&
@@ -494,14 +514,37 @@ private:
         }
         applyMotion();
         if (_s.rate == 0)
-            sendSteps();
+            sendStep();
     }
 
-    void sendSteps() {
-        if (_s.stepsWaiting == 0)
+    /// The next one, once the core is done with what it does. A step back is a seek to the core: it forgets a step
+    /// forward that it is told of meanwhile, and plays on to the end.
+    void sendStep() {
+        if (_s.stepsWaiting == 0 || _s.stepUnderWay != 0 || _s.seeks.isBusy() || !_s.core)
             return;
+        if (_s.stepsWaiting > 0 && _s.end != CoreEnd::no) { // there is no frame after the last
+            _s.stepsWaiting = 0;
+            return;
+        }
+        _s.stepUnderWay = _s.stepsWaiting > 0 ? 1 : -1;
+        _s.stepsWaiting -= _s.stepUnderWay;
         _s.timeSource = TimeSource::step;
-        effect(SendSteps{std::exchange(_s.stepsWaiting, 0)});
+        effect(SendStep{_s.stepUnderWay});
+        effect(ArmTimer{PlayerTimer::step, stepTimeout});
+    }
+
+    void stepDone() {
+        _s.stepUnderWay = 0;
+        effect(CancelTimer{PlayerTimer::step});
+    }
+
+    /// Whether it is done or not: a core that steps forward plays until its frame is there.
+    void endStep() {
+        if (_s.stepUnderWay == 0)
+            return;
+        if (_s.stepUnderWay > 0 && _s.core)
+            effect(SetPaused{true});
+        stepDone();
     }
 
     void showTime(std::int32_t time) {

@@ -40,7 +40,8 @@ struct PlayerState {
     /// How far the seek under way is: sent, sent and a frame was due since, or done but for the frame.
     enum class SeekStage { none, sent, shown, restarted };
     SeekStage seekStage = SeekStage::none;
-    int stepsWaiting = 0;   // for the seek under way
+    int stepUnderWay = 0;   // +1 forward, -1 back
+    int stepsWaiting = 0;   // for the seek or the step under way
     double coreSeconds = 0; // where the core was last before a seek
 
     /// What `time` is: what was asked for, until frames move on from there; about to be that of the frame stepped
